@@ -1,0 +1,73 @@
+#pragma once
+
+#include "propdb/property_value.h"
+#include "propdb/result.h"
+#include "propdb/volume.h"
+
+#include <functional>
+#include <memory>
+
+namespace Quillory {
+
+struct DatabaseState;
+
+/// In which order a scan visits the records.
+enum class ScanOrder
+{
+    /// The order of the handle; reads each record through the index.
+    Sorted,
+    /// The order in which the records were added; the quickest.
+    Stored,
+};
+
+/// An open database: a position among its records, and reads and writes of them.
+///
+/// The position stays on its record whatever is written. A record deleted from under it leaves it
+/// where the record was: reads fail, and a seek goes on from there.
+class Database
+{
+public:
+    explicit Database(std::unique_ptr<DatabaseState> state);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    [[nodiscard]] ObjectId Oid() const;
+    [[nodiscard]] const SortOrder& Order() const;
+    [[nodiscard]] Result<qint64> RecordCount();
+    /// The declared properties in the order of their declaration.
+    [[nodiscard]] std::vector<PropertySpec> Properties() const;
+
+    /// kNoObject, as a value, where there is no record at that place; a seek that finds none leaves
+    /// the position at the end.
+    [[nodiscard]] Result<ObjectId> SeekFirst();
+    [[nodiscard]] Result<ObjectId> SeekNext(int n);
+    [[nodiscard]] Result<ObjectId> SeekTo(ObjectId oid);
+
+    /// The current record; NotFound where there is none. Properties come in the order of the list,
+    /// those that are missing flagged; without a list, all that the record has.
+    [[nodiscard]] Result<Record> ReadAll();
+    [[nodiscard]] Result<Record> Read(std::span<const PropertyId> ids);
+
+    /// Adds a record (kNoObject) or changes the listed properties of one, and gives its identifier.
+    /// A property new to the database is taken in with it. NotFound if there is no such record,
+    /// InvalidParameter for no values, AlreadyExists for a property listed twice. Strings are kept
+    /// up to their first NUL.
+    [[nodiscard]] Result<ObjectId> Write(ObjectId oid, std::span<const PropertyValue> values);
+    [[nodiscard]] Result<void> DeleteRecord(ObjectId oid);
+
+    /// Every record in the order of the handle, by one scan of its index.
+    [[nodiscard]] Result<std::vector<ObjectId>> ListRecords();
+
+    /// Called with each record; the values are in the order asked for and valid during the call.
+    /// False ends the scan early. The visitor must not write to the volume.
+    using Visitor = std::function<bool(ObjectId oid, std::span<const PropertyValue> values)>;
+    /// Reads the listed properties of all records without touching the position.
+    [[nodiscard]] Result<void> Scan(
+        std::span<const PropertyId> ids, ScanOrder order, const Visitor& visitor);
+
+private:
+    std::unique_ptr<DatabaseState> m_state;
+};
+
+} // namespace Quillory

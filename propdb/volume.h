@@ -1,0 +1,84 @@
+#pragma once
+
+#include "propdb/property_value.h"
+#include "propdb/result.h"
+
+#include <memory>
+#include <optional>
+
+namespace Quillory {
+
+class Database;
+struct VolumeState;
+
+/// What to do about a missing file.
+enum class Disposition
+{
+    OpenExisting = 3,
+    OpenAlways = 4,
+};
+
+enum class VolumeAccess
+{
+    /// Reads and writes; refused while another process has the volume for itself.
+    Exclusive,
+    /// Reads beside another process. Every write fails.
+    ReadOnly,
+};
+
+/// One file of named, typed databases of property records.
+///
+/// Opening trusts nothing in the file: what is foreign, newer or damaged is refused with its reason
+/// and left byte for byte as it was. At rest a volume is one file; while it is written there is a
+/// journal beside it, which must never be moved or deleted.
+class Volume
+{
+public:
+    /// Opens the file at `path`. Failures: FileNotFound, PathNotFound, AccessDenied,
+    /// WriteProtected, SharingViolation (another process has it), BadFormat (not a volume),
+    /// NotSupported (made by a newer program), FileCorrupt, and those of the operating system.
+    [[nodiscard]] static Result<std::unique_ptr<Volume>> Mount(
+        const QString& path, Disposition disposition, VolumeAccess access);
+
+    ~Volume();
+    Volume(const Volume&) = delete;
+    Volume& operator=(const Volume&) = delete;
+
+    struct DatabaseInfo
+    {
+        ObjectId oid = kNoObject;
+        QString name;
+        DatabaseType type {};
+    };
+    /// Every database, oldest first.
+    [[nodiscard]] Result<std::vector<DatabaseInfo>> Databases();
+
+    /// Makes a database. DuplicateName if one is so named, AlreadyExists if two properties have one
+    /// identifier, InvalidParameter for no or unknown properties or more than one sort order.
+    [[nodiscard]] Result<ObjectId> CreateDatabase(const QString& name, DatabaseType type,
+        std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders);
+    /// Deletes a database and all its records. One that is open is refused with SharingViolation.
+    [[nodiscard]] Result<void> DeleteDatabase(ObjectId oid);
+    /// Opens a database by its name and one of its sort orders. It must be closed (destroyed)
+    /// before the volume is.
+    [[nodiscard]] Result<std::unique_ptr<Database>> OpenDatabase(
+        const QString& name, const SortOrder& sortOrder);
+
+    /// Until the end of a transaction nothing of what is written is durable, and all of it is
+    /// undone if the transaction ends without a commit. AlreadyExists if one is running.
+    [[nodiscard]] Result<void> BeginTransaction();
+    [[nodiscard]] Result<void> EndTransaction(bool commit);
+    [[nodiscard]] bool IsInTransaction() const;
+
+    /// Reads the whole file and tells what is wrong with it, a line each; empty if nothing is.
+    [[nodiscard]] Result<std::vector<QString>> Check();
+    /// Writes a consistent copy to a new file; FileExists if there is one of that name already.
+    [[nodiscard]] Result<void> Backup(const QString& path);
+
+private:
+    explicit Volume(std::unique_ptr<VolumeState> state);
+
+    std::unique_ptr<VolumeState> m_state;
+};
+
+} // namespace Quillory

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "store/data_volume.h"
+#include "store/inventory_list.h"
+
+#include <functional>
+
+namespace Quillory {
+
+/// The database "InvLists" of a data file: one record per list, kept in the order of their names.
+class ListCatalogue
+{
+public:
+    static constexpr DatabaseType kCatalogueType { 71990001 };
+    static constexpr DatabaseType kRowsType { 71990002 };
+
+    /// `volume` outlives the catalogue.
+    explicit ListCatalogue(DataVolume& volume);
+
+    enum class OpenOutcome
+    {
+        Opened,
+        CannotCreateTable,
+        CannotOpen,
+    };
+    /// Opens the catalogue, making it in a fresh volume (not in one mounted for reading).
+    [[nodiscard]] OpenOutcome OpenCatalogue();
+
+    struct HomeListEntry
+    {
+        ObjectId oid = kNoObject;
+        QString name;
+        qint16 icon = 0;
+    };
+    /// Every list, in the order of their names by 16-bit unit.
+    [[nodiscard]] std::vector<HomeListEntry> FillHomeList();
+    /// The record of the first list so named; kNoObject if there is none.
+    [[nodiscard]] ObjectId FindList(const QString& name);
+
+    [[nodiscard]] std::optional<QString> ReadListName(ObjectId oid);
+    /// Reads name, map name, icon and settings of a record into `definition`; false if the record
+    /// cannot be read. Columns are not touched.
+    [[nodiscard]] bool ReadListHeader(ObjectId oid, InventoryList& definition);
+    /// The map name of a record; its settings go to `definition` unless that is null.
+    [[nodiscard]] std::optional<QString> ReadListDefinition(
+        ObjectId oid, InventoryList* definition);
+
+    /// Adds a record; its identifier, kNoObject on failure.
+    ObjectId AddList(const InventoryList& definition);
+    bool RenameList(ObjectId oid, const QString& name);
+    /// Writes warnings, widths and column order.
+    bool UpdateListOptions(ObjectId oid, const InventoryList& definition);
+    /// Writes everything but the map name.
+    bool UpdateList(ObjectId oid, const InventoryList& definition);
+
+    struct CreateOutcome
+    {
+        /// The new record; kNoObject when it could not be added. A record whose row database could
+        /// not be made is rolled back, but its identifier is told all the same.
+        ObjectId oid = kNoObject;
+        bool isCommitted = false;
+    };
+    /// Makes a list and its row database in one transaction. `definition` gets its map name, the
+    /// identifiers of its columns and, if it has none, its column order.
+    CreateOutcome CreateList(InventoryList& definition);
+
+    /// Reads a list and opens its row database, columns included. False, and nothing open, if any
+    /// of it fails. A row database that was open is closed first.
+    [[nodiscard]] bool OpenList(ObjectId oid, InventoryList& definition);
+    void CloseRows();
+
+    /// Deletes a list with all its rows in one transaction; durable when it returns true.
+    bool DeleteList(ObjectId oid);
+
+    enum class EmptyOutcome
+    {
+        Done,
+        CannotOpen,
+        /// The row database could not be made anew; everything was rolled back.
+        CannotCreateRows,
+    };
+    /// Deletes every row of a list; its columns and its record stay. Durable when it returns Done.
+    [[nodiscard]] EmptyOutcome DeleteAllRows(ObjectId oid);
+
+    [[nodiscard]] DataVolume& Volume() { return m_volume; }
+
+private:
+    DataVolume& m_volume;
+
+    bool CreateCatalogue();
+    bool CreateRowDatabase(InventoryList& definition);
+};
+
+} // namespace Quillory

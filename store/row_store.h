@@ -1,0 +1,56 @@
+#pragma once
+
+#include "store/data_volume.h"
+#include "store/inventory_list.h"
+#include "values/filters.h"
+#include "values/value_text.h"
+
+#include <optional>
+
+namespace Quillory {
+
+/// The rows of the list whose row database is open (ListCatalogue::OpenList).
+///
+/// Rows are known by the identifiers of their records. A listing is a sequence of identifiers; the
+/// texts are asked for one by one when they are shown.
+class RowStore
+{
+public:
+    /// All three outlive the store; `list` is the definition that OpenList filled.
+    RowStore(DataVolume& volume, const InventoryList& list, const ValueContext& context);
+
+    /// Every row in the order of names.
+    [[nodiscard]] std::vector<ObjectId> FillRows();
+    /// The rows that pass, in the order of names. A row that cannot be read ends the listing.
+    [[nodiscard]] std::vector<ObjectId> FillFilteredRows(const FilterSet& filters);
+    /// `rows` ordered by a column, ascending; rows equal in it keep their order. A missing value
+    /// counts as 0, unchecked or the empty text. Reads the column once, not row by row.
+    [[nodiscard]] std::vector<ObjectId> SortRows(std::vector<ObjectId> rows, PropertyId column);
+
+    /// One text per column, in column order. A date that cannot be read gets no value. The new
+    /// row, or kNoObject.
+    ObjectId WriteNewRow(std::span<const QString> texts);
+    /// As above onto an existing row; a date that cannot be read keeps its stored value.
+    bool ModifyRow(ObjectId row, std::span<const QString> texts);
+    /// A new row with the same values; kNoObject on failure.
+    ObjectId CopyRow(ObjectId row);
+    bool DeleteRow(ObjectId row);
+    /// Adds `step` to the row's Count by 32-bit two's complement, all or nothing. The new count;
+    /// nothing on failure, also where the list or the row has no count.
+    std::optional<qint32> AdjustCount(ObjectId row, qint32 step);
+    bool SetCheckboxValue(ObjectId row, PropertyId column, bool isChecked);
+
+    /// Every property of a row; false in a condition if it cannot be found.
+    [[nodiscard]] Record ReadRow(ObjectId row);
+    /// The text of one cell as the rows view shows it; "<Err>" if the row cannot be found.
+    [[nodiscard]] QString FormatCellText(PropertyId column, ObjectId row);
+
+private:
+    DataVolume& m_volume;
+    const InventoryList& m_list;
+    const ValueContext& m_context;
+
+    [[nodiscard]] std::vector<PropertyValue> ParseTexts(std::span<const QString> texts) const;
+};
+
+} // namespace Quillory

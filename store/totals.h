@@ -1,0 +1,23 @@
+#pragma once
+
+#include "store/data_volume.h"
+#include "store/inventory_list.h"
+#include "values/filters.h"
+#include "values/value_text.h"
+
+namespace Quillory {
+
+/// One line of a summary: a column's name and the text of its total.
+struct ColumnTotal
+{
+    QString name;
+    QString text;
+};
+
+/// The totals of the Integer and Price columns of the open list, in column order, over all rows or,
+/// unless `filters` is null, over those that pass. Reads the columns, not the records. Where a row
+/// cannot be read every total stays "0".
+[[nodiscard]] std::vector<ColumnTotal> ComputeTotals(DataVolume& volume, const InventoryList& list,
+    const FilterSet* filters, const ValueContext& context);
+
+} // namespace Quillory

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "propdb/property_value.h"
+
+#include <optional>
+
+namespace Quillory {
+
+/// What a column holds. The numbers are the order in which the types are offered.
+enum class ColumnType
+{
+    String,
+    Checkbox,
+    Price,
+    Integer,
+    Date,
+};
+constexpr int kColumnTypeCount = 5;
+
+/// The columns every list may have, under identifiers that are the same in all lists.
+constexpr PropertyId PropName = MakePropertyId(10001, CEVT_LPWSTR);
+constexpr PropertyId PropCount = MakePropertyId(10002, CEVT_I4);
+constexpr PropertyId PropExpiryDate = MakePropertyId(10008, CEVT_FILETIME);
+
+/// The type of a column, read from the low half of its identifier; String for an unknown one.
+[[nodiscard]] ColumnType ColumnTypeOf(PropertyId column);
+/// The property type that stores a column type.
+[[nodiscard]] ValueType StorageType(ColumnType type);
+/// Whether the identifier is one of the three built-in ones.
+[[nodiscard]] bool IsBuiltInColumn(PropertyId column);
+
+} // namespace Quillory
