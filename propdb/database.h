@@ -16,8 +16,8 @@ enum class ScanOrder
 {
     /// The order of the handle; reads each record through the index.
     Sorted,
-    /// The order in which the records were added; the quickest.
-    Stored,
+    /// Whichever order reads them quickest.
+    Any,
 };
 
 /// An open database: a position among its records, and reads and writes of them.

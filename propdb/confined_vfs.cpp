@@ -1,0 +1,273 @@
+#include "propdb/confined_vfs.h"
+
+#include <QList>
+#include <QMutex>
+
+#include <sqlite3.h>
+#include <xxhash.h>
+
+#include <cstring>
+
+namespace Quillory {
+
+namespace {
+
+/// An open file: what SQLite sees, and behind it in memory the file of the system's own VFS.
+struct ConfinedFile
+{
+    sqlite3_file base;
+    bool hasChecksums;
+};
+
+sqlite3_file* RealFile(sqlite3_file* file)
+{
+    return reinterpret_cast<sqlite3_file*>(reinterpret_cast<ConfinedFile*>(file) + 1);
+}
+
+sqlite3_vfs* RealVfs(sqlite3_vfs* vfs)
+{
+    return static_cast<sqlite3_vfs*>(vfs->pAppData);
+}
+
+struct PermittedPaths
+{
+    QMutex mutex;
+    QList<QByteArray> paths;
+};
+
+PermittedPaths& Permitted()
+{
+    static PermittedPaths permitted;
+    return permitted;
+}
+
+bool IsPermittedVolume(const char* path)
+{
+    const QMutexLocker lock(&Permitted().mutex);
+    return Permitted().paths.contains(QByteArray(path));
+}
+
+bool IsPermittedJournal(const char* path)
+{
+    constexpr QByteArrayView kSuffix("-journal");
+    const QByteArray name(path);
+    return name.endsWith(kSuffix) && IsPermittedVolume(name.chopped(kSuffix.size()).constData());
+}
+
+bool MayOpen(const char* path, int flags)
+{
+    if (path == nullptr)
+        return (flags & SQLITE_OPEN_DELETEONCLOSE) != 0;
+    if ((flags & SQLITE_OPEN_MAIN_DB) != 0)
+        return IsPermittedVolume(path);
+    return (flags & SQLITE_OPEN_MAIN_JOURNAL) != 0 && IsPermittedJournal(path);
+}
+
+bool IsWholePage(int amount, sqlite3_int64 offset)
+{
+    return amount == kPageSize && offset % kPageSize == 0;
+}
+
+/// The checksum covers the page's number too, so that a page at another's place is found.
+XXH64_hash_t PageChecksum(const void* page, sqlite3_int64 offset)
+{
+    const auto number = static_cast<XXH64_hash_t>(offset / kPageSize + 1);
+    return XXH3_64bits_withSeed(page, kPageSize - kPageReserve, number);
+}
+
+int FileClose(sqlite3_file* file)
+{
+    return RealFile(file)->pMethods->xClose(RealFile(file));
+}
+
+int FileRead(sqlite3_file* file, void* buffer, int amount, sqlite3_int64 offset)
+{
+    const int code = RealFile(file)->pMethods->xRead(RealFile(file), buffer, amount, offset);
+    if (code != SQLITE_OK || !reinterpret_cast<ConfinedFile*>(file)->hasChecksums
+        || !IsWholePage(amount, offset))
+        return code;
+    XXH64_canonical_t stored;
+    static_assert(sizeof(stored) == kPageReserve);
+    std::memcpy(
+        &stored, static_cast<const char*>(buffer) + kPageSize - kPageReserve, sizeof(stored));
+    const bool isIntact = XXH64_hashFromCanonical(&stored) == PageChecksum(buffer, offset);
+    return isIntact ? SQLITE_OK : SQLITE_IOERR_DATA;
+}
+
+int FileWrite(sqlite3_file* file, const void* buffer, int amount, sqlite3_int64 offset)
+{
+    if (reinterpret_cast<ConfinedFile*>(file)->hasChecksums && IsWholePage(amount, offset)) {
+        // The page cache owns the buffer and leaves the reserved bytes to the VFS. Writing them in
+        // place keeps the cached page, and so the journal made from it, equal to the file.
+        XXH64_canonical_t checksum;
+        XXH64_canonicalFromHash(&checksum, PageChecksum(buffer, offset));
+        std::memcpy(static_cast<char*>(const_cast<void*>(buffer)) + kPageSize - kPageReserve,
+            &checksum, sizeof(checksum));
+    }
+    return RealFile(file)->pMethods->xWrite(RealFile(file), buffer, amount, offset);
+}
+
+int FileTruncate(sqlite3_file* file, sqlite3_int64 size)
+{
+    return RealFile(file)->pMethods->xTruncate(RealFile(file), size);
+}
+
+int FileSync(sqlite3_file* file, int flags)
+{
+    return RealFile(file)->pMethods->xSync(RealFile(file), flags);
+}
+
+int FileSize(sqlite3_file* file, sqlite3_int64* size)
+{
+    return RealFile(file)->pMethods->xFileSize(RealFile(file), size);
+}
+
+int FileLock(sqlite3_file* file, int level)
+{
+    return RealFile(file)->pMethods->xLock(RealFile(file), level);
+}
+
+int FileUnlock(sqlite3_file* file, int level)
+{
+    return RealFile(file)->pMethods->xUnlock(RealFile(file), level);
+}
+
+int FileCheckReservedLock(sqlite3_file* file, int* result)
+{
+    return RealFile(file)->pMethods->xCheckReservedLock(RealFile(file), result);
+}
+
+int FileControl(sqlite3_file* file, int operation, void* argument)
+{
+    return RealFile(file)->pMethods->xFileControl(RealFile(file), operation, argument);
+}
+
+int FileSectorSize(sqlite3_file* file)
+{
+    return RealFile(file)->pMethods->xSectorSize(RealFile(file));
+}
+
+int FileDeviceCharacteristics(sqlite3_file* file)
+{
+    return RealFile(file)->pMethods->xDeviceCharacteristics(RealFile(file));
+}
+
+// Version 1 has neither shared memory nor memory mapping: no write-ahead log, no unverified page.
+constexpr sqlite3_io_methods kFileMethods {
+    .iVersion = 1,
+    .xClose = FileClose,
+    .xRead = FileRead,
+    .xWrite = FileWrite,
+    .xTruncate = FileTruncate,
+    .xSync = FileSync,
+    .xFileSize = FileSize,
+    .xLock = FileLock,
+    .xUnlock = FileUnlock,
+    .xCheckReservedLock = FileCheckReservedLock,
+    .xFileControl = FileControl,
+    .xSectorSize = FileSectorSize,
+    .xDeviceCharacteristics = FileDeviceCharacteristics,
+    .xShmMap = nullptr,
+    .xShmLock = nullptr,
+    .xShmBarrier = nullptr,
+    .xShmUnmap = nullptr,
+    .xFetch = nullptr,
+    .xUnfetch = nullptr,
+};
+
+int VfsOpen(sqlite3_vfs* vfs, const char* path, sqlite3_file* file, int flags, int* outFlags)
+{
+    file->pMethods = nullptr;
+    if (!MayOpen(path, flags))
+        return SQLITE_CANTOPEN;
+    const int code = RealVfs(vfs)->xOpen(RealVfs(vfs), path, RealFile(file), flags, outFlags);
+    if (RealFile(file)->pMethods != nullptr) {
+        reinterpret_cast<ConfinedFile*>(file)->hasChecksums = (flags & SQLITE_OPEN_MAIN_DB) != 0;
+        file->pMethods = &kFileMethods;
+    }
+    return code;
+}
+
+int VfsDelete(sqlite3_vfs* vfs, const char* path, int syncFolder)
+{
+    if (!IsPermittedJournal(path))
+        return SQLITE_IOERR_DELETE;
+    return RealVfs(vfs)->xDelete(RealVfs(vfs), path, syncFolder);
+}
+
+int VfsAccess(sqlite3_vfs* vfs, const char* path, int flags, int* result)
+{
+    *result = 0;
+    if (!IsPermittedVolume(path) && !IsPermittedJournal(path))
+        return SQLITE_OK;
+    return RealVfs(vfs)->xAccess(RealVfs(vfs), path, flags, result);
+}
+
+int VfsFullPathname(sqlite3_vfs* vfs, const char* path, int size, char* fullPath)
+{
+    return RealVfs(vfs)->xFullPathname(RealVfs(vfs), path, size, fullPath);
+}
+
+int VfsRandomness(sqlite3_vfs* vfs, int size, char* bytes)
+{
+    return RealVfs(vfs)->xRandomness(RealVfs(vfs), size, bytes);
+}
+
+int VfsSleep(sqlite3_vfs* vfs, int microseconds)
+{
+    return RealVfs(vfs)->xSleep(RealVfs(vfs), microseconds);
+}
+
+int VfsCurrentTime(sqlite3_vfs* vfs, double* julianDay)
+{
+    return RealVfs(vfs)->xCurrentTime(RealVfs(vfs), julianDay);
+}
+
+int VfsGetLastError(sqlite3_vfs* vfs, int size, char* text)
+{
+    return RealVfs(vfs)->xGetLastError(RealVfs(vfs), size, text);
+}
+
+sqlite3_vfs* RegisterVfs()
+{
+    sqlite3_vfs* real = sqlite3_vfs_find(nullptr);
+    static sqlite3_vfs vfs {};
+    vfs.iVersion = 1;
+    vfs.szOsFile = static_cast<int>(sizeof(ConfinedFile)) + real->szOsFile;
+    vfs.mxPathname = real->mxPathname;
+    vfs.zName = "quillory";
+    vfs.pAppData = real;
+    vfs.xOpen = VfsOpen;
+    vfs.xDelete = VfsDelete;
+    vfs.xAccess = VfsAccess;
+    vfs.xFullPathname = VfsFullPathname;
+    vfs.xRandomness = VfsRandomness;
+    vfs.xSleep = VfsSleep;
+    vfs.xCurrentTime = VfsCurrentTime;
+    vfs.xGetLastError = VfsGetLastError;
+    sqlite3_vfs_register(&vfs, 0);
+    return &vfs;
+}
+
+} // namespace
+
+const char* ConfinedVfs::Name()
+{
+    static const sqlite3_vfs* vfs = RegisterVfs();
+    return vfs->zName;
+}
+
+ConfinedVfs::Permit::Permit(QByteArray path)
+    : m_path(std::move(path))
+{
+    const QMutexLocker lock(&Permitted().mutex);
+    Permitted().paths.append(m_path);
+}
+
+ConfinedVfs::Permit::~Permit()
+{
+    const QMutexLocker lock(&Permitted().mutex);
+    Permitted().paths.removeOne(m_path);
+}
+
+} // namespace Quillory

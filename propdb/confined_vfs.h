@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace Quillory {
+
+/// Bytes of a page of a volume, the last kPageReserve of which hold its checksum.
+constexpr int kPageSize = 4096;
+constexpr int kPageReserve = 8;
+
+/// SQLite's view of the file system while it works on a volume.
+///
+/// It reaches the permitted volumes, their journals and nameless temporary files, and nothing else,
+/// whatever a file's content asks for. Every page of a volume is written with a checksum of its
+/// content and its number, and verified when it is read: altered content fails the read with
+/// SQLITE_IOERR_DATA.
+class ConfinedVfs
+{
+public:
+    /// The name to open connections with; registers the VFS at the first call.
+    [[nodiscard]] static const char* Name();
+
+    /// While it lives, connections may open the volume at an absolute path.
+    class Permit
+    {
+    public:
+        explicit Permit(QByteArray path);
+        ~Permit();
+        Permit(const Permit&) = delete;
+        Permit& operator=(const Permit&) = delete;
+
+    private:
+        QByteArray m_path;
+    };
+};
+
+} // namespace Quillory

@@ -1,0 +1,183 @@
+#include "propdb/database.h"
+
+#include "propdb/database_state.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+ErrorNumber CheckValues(std::span<const PropertyValue> values)
+{
+    if (values.empty())
+        return ErrorNumber::InvalidParameter;
+    for (size_t i = 0; i < values.size(); ++i) {
+        for (size_t k = 0; k < i; ++k) {
+            if (values[k].id == values[i].id)
+                return ErrorNumber::AlreadyExists;
+        }
+    }
+    return ErrorNumber::None;
+}
+
+} // namespace
+
+Database::Database(std::unique_ptr<DatabaseState> state)
+    : m_state(std::move(state))
+{ }
+
+Database::~Database() = default;
+
+ObjectId Database::Oid() const
+{
+    return m_state->schema->oid;
+}
+
+const SortOrder& Database::Order() const
+{
+    return m_state->order;
+}
+
+Result<qint64> Database::RecordCount()
+{
+    auto count = Statement::Prepare(m_state->volume.connection.get(),
+        u"SELECT count(*) FROM "_s + QuotedName(m_state->schema->tableName));
+    if (!count)
+        return count.Error();
+    const auto step = count->Step();
+    if (!step)
+        return step.Error();
+    return count->Int64(0);
+}
+
+std::vector<PropertySpec> Database::Properties() const
+{
+    std::vector<PropertySpec> specs;
+    for (const PropertyColumn& column : m_state->schema->properties) {
+        if (column.isDeclared)
+            specs.push_back({ column.id, column.name });
+    }
+    return specs;
+}
+
+Result<ObjectId> Database::SeekFirst()
+{
+    return m_state->cursor.First();
+}
+
+Result<ObjectId> Database::SeekNext(int n)
+{
+    const auto direction = n < 0 ? WalkDirection::Backward : WalkDirection::Forward;
+    Result<ObjectId> place = m_state->cursor.Current();
+    for (int i = 0; i != n; i += n < 0 ? -1 : 1) {
+        place = m_state->cursor.Step(direction);
+        if (!place || *place == kNoObject)
+            break;
+    }
+    return place;
+}
+
+Result<ObjectId> Database::SeekTo(ObjectId oid)
+{
+    return m_state->cursor.SeekTo(oid);
+}
+
+Result<Record> Database::ReadAll()
+{
+    std::vector<PropertyId> ids;
+    for (const PropertyColumn& column : m_state->schema->properties)
+        ids.push_back(column.id);
+    auto record = Read(ids);
+    if (record)
+        std::erase_if(record->values, [](const PropertyValue& value) { return value.IsMissing(); });
+    return record;
+}
+
+Result<Record> Database::Read(std::span<const PropertyId> ids)
+{
+    const ObjectId current = m_state->cursor.Current();
+    if (current == kNoObject)
+        return ErrorNumber::NotFound;
+    return m_state->ReadRecord(current, ids);
+}
+
+Result<ObjectId> Database::Write(ObjectId oid, std::span<const PropertyValue> values)
+{
+    if (const ErrorNumber error = CheckValues(values); error != ErrorNumber::None)
+        return error;
+    VolumeState& volume = m_state->volume;
+    if (const auto begun = volume.BeginWrite(); !begun)
+        return begun.Error();
+    Result<ObjectId> written = oid;
+    const auto added = m_state->AddMissingColumns(values);
+    if (!added)
+        written = added.Error();
+    else
+        written = oid == kNoObject ? m_state->Insert(values) : m_state->Update(oid, values);
+    const auto ended = volume.EndWrite(written.Error());
+    return ended ? written : ended.Error();
+}
+
+Result<void> Database::DeleteRecord(ObjectId oid)
+{
+    VolumeState& volume = m_state->volume;
+    if (const auto begun = volume.BeginWrite(); !begun)
+        return begun;
+    Result<void> done = m_state->cursor.LeaveRecord(oid);
+    if (done) {
+        auto remove = Statement::Prepare(volume.connection.get(),
+            u"DELETE FROM %1 WHERE oid = ?1 RETURNING oid"_s.arg(
+                QuotedName(m_state->schema->tableName)));
+        if (!remove) {
+            done = remove.Error();
+        } else {
+            remove->Bind(1, oid);
+            const auto step = remove->Step();
+            const bool isGone = step && *step;
+            done = isGone || !step ? step.Error() : ErrorNumber::NotFound;
+        }
+    }
+    return volume.EndWrite(done);
+}
+
+Result<std::vector<ObjectId>> Database::ListRecords()
+{
+    return m_state->cursor.List();
+}
+
+Result<void> Database::Scan(
+    std::span<const PropertyId> ids, ScanOrder order, const Visitor& visitor)
+{
+    const QString key = QuotedName(m_state->schema->Find(m_state->order.key)->columnName);
+    const QString select = u"SELECT oid%1 FROM %2"_s.arg(
+        m_state->ColumnList(ids), QuotedName(m_state->schema->tableName));
+    QStringList parts { select };
+    if (order == ScanOrder::Sorted)
+        parts = { select + u" WHERE %1 IS NOT NULL ORDER BY %1, oid"_s.arg(key),
+            select + u" WHERE %1 IS NULL ORDER BY oid"_s.arg(key) };
+    std::vector<PropertyValue> values(ids.size());
+    for (size_t i = 0; i < ids.size(); ++i)
+        values[i].id = ids[i];
+    for (const QString& sql : parts) {
+        auto statement = Statement::Prepare(m_state->volume.connection.get(), sql);
+        if (!statement)
+            return statement.Error();
+        auto step = statement->Step();
+        for (; step && *step; step = statement->Step()) {
+            for (size_t i = 0; i < values.size(); ++i)
+                statement->ReadProperty(static_cast<int>(i) + 1, values[i]);
+            if (!visitor(statement->Oid(0), values))
+                return {};
+        }
+        if (!step)
+            return step.Error();
+    }
+    return {};
+}
+
+} // namespace Quillory

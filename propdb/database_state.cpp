@@ -1,0 +1,186 @@
+#include "propdb/database_state.h"
+
+#include <algorithm>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Rows that lack values in every combination must not fill the memory with statements.
+constexpr size_t kMaxCachedStatements = 64;
+
+std::vector<PropertyId> IdsOf(std::span<const PropertyValue> values)
+{
+    std::vector<PropertyId> ids;
+    ids.reserve(values.size());
+    for (const PropertyValue& value : values)
+        ids.push_back(value.id);
+    return ids;
+}
+
+/// Binds the values to the parameters from `parameter` on.
+Result<void> BindAll(Statement& statement, int parameter, std::span<const PropertyValue> values)
+{
+    for (const PropertyValue& value : values) {
+        if ((value.flags & CEDB_PROPDELETE) != 0)
+            statement.BindNull(parameter);
+        else if (!statement.Bind(parameter, value))
+            return ErrorNumber::InvalidParameter;
+        ++parameter;
+    }
+    return {};
+}
+
+} // namespace
+
+Result<Statement*> StatementCache::Find(std::span<const PropertyId> ids, const Maker& make)
+{
+    if (m_last != nullptr && std::ranges::equal(ids, m_lastIds))
+        return m_last;
+    std::vector<PropertyId> key(ids.begin(), ids.end());
+    auto found = m_statements.find(key);
+    if (found == m_statements.end()) {
+        auto made = make();
+        if (!made)
+            return made.Error();
+        if (m_statements.size() >= kMaxCachedStatements)
+            Clear();
+        found = m_statements.emplace(key, std::move(*made)).first;
+    }
+    m_lastIds = std::move(key);
+    m_last = &found->second;
+    return m_last;
+}
+
+void StatementCache::Clear()
+{
+    m_statements.clear();
+    m_last = nullptr;
+}
+
+DatabaseState::DatabaseState(VolumeState& volumeState,
+    std::shared_ptr<DatabaseSchema> databaseSchema, const SortOrder& sortOrder)
+    : volume(volumeState)
+    , schema(std::move(databaseSchema))
+    , order(sortOrder)
+    , cursor(volume.connection.get(), schema, order)
+{
+    volume.openDatabases.push_back(this);
+}
+
+DatabaseState::~DatabaseState()
+{
+    std::erase(volume.openDatabases, this);
+}
+
+QString DatabaseState::ColumnList(std::span<const PropertyId> ids) const
+{
+    QString list;
+    for (const PropertyId id : ids) {
+        const PropertyColumn* column = schema->Find(id);
+        list += u", "_s + (column == nullptr ? u"NULL"_s : QuotedName(column->columnName));
+    }
+    return list;
+}
+
+Result<void> DatabaseState::AddMissingColumns(std::span<const PropertyValue> values)
+{
+    for (const PropertyValue& value : values) {
+        if (schema->Find(value.id) != nullptr)
+            continue;
+        if (!IsStorableType(PropertyType(value.id)))
+            return ErrorNumber::InvalidParameter;
+        const QString name = u"property %1"_s.arg(PropertyNumber(value.id));
+        PropertyColumn column = MakeColumn(*schema, { value.id, name }, false);
+        volume.isSchemaChanged = true;
+        const auto added = AddPropertyColumn(volume.connection.get(), *schema, column);
+        if (!added)
+            return added;
+        schema->properties.push_back(std::move(column));
+        selects.Clear();
+    }
+    return {};
+}
+
+Result<ObjectId> DatabaseState::Insert(std::span<const PropertyValue> values)
+{
+    const auto ids = IdsOf(values);
+    const auto statement = inserts.Find(ids, [&] {
+        QString parameters;
+        for (size_t i = 0; i < ids.size(); ++i)
+            parameters += u", ?%1"_s.arg(i + 2);
+        return Statement::Prepare(volume.connection.get(),
+            u"INSERT INTO %1(oid%2) VALUES(?1%3)"_s.arg(
+                QuotedName(schema->tableName), ColumnList(ids), parameters),
+            true);
+    });
+    if (!statement)
+        return statement.Error();
+    const auto oid = volume.AllocateOid();
+    if (!oid)
+        return oid;
+    (*statement)->Bind(1, *oid);
+    if (const auto bound = BindAll(**statement, 2, values); !bound)
+        return bound.Error();
+    const auto done = (*statement)->Run();
+    if (!done)
+        return done.Error();
+    return *oid;
+}
+
+Result<ObjectId> DatabaseState::Update(ObjectId oid, std::span<const PropertyValue> values)
+{
+    const auto ids = IdsOf(values);
+    const auto statement = updates.Find(ids, [&] {
+        QString assignments;
+        for (size_t i = 0; i < ids.size(); ++i) {
+            assignments += i == 0 ? QString() : u", "_s;
+            assignments += QuotedName(schema->Find(ids[i])->columnName) + u" = ?%1"_s.arg(i + 2);
+        }
+        return Statement::Prepare(volume.connection.get(),
+            u"UPDATE %1 SET %2 WHERE oid = ?1 RETURNING oid"_s.arg(
+                QuotedName(schema->tableName), assignments),
+            true);
+    });
+    if (!statement)
+        return statement.Error();
+    (*statement)->Bind(1, oid);
+    if (const auto bound = BindAll(**statement, 2, values); !bound)
+        return bound.Error();
+    const auto isThere = (*statement)->Step();
+    (*statement)->Reset();
+    if (!isThere)
+        return isThere.Error();
+    if (!*isThere)
+        return ErrorNumber::NotFound;
+    return oid;
+}
+
+Result<Record> DatabaseState::ReadRecord(ObjectId oid, std::span<const PropertyId> ids)
+{
+    const auto statement = selects.Find(ids, [&] {
+        return Statement::Prepare(volume.connection.get(),
+            u"SELECT oid%1 FROM %2 WHERE oid = ?1"_s.arg(
+                ColumnList(ids), QuotedName(schema->tableName)),
+            true);
+    });
+    if (!statement)
+        return statement.Error();
+    (*statement)->Bind(1, oid);
+    const auto step = (*statement)->Step();
+    if (!step)
+        return step.Error();
+    if (!*step)
+        return ErrorNumber::NotFound;
+    Record record { oid, std::vector<PropertyValue>(ids.size()) };
+    for (size_t i = 0; i < ids.size(); ++i) {
+        record.values[i].id = ids[i];
+        (*statement)->ReadProperty(static_cast<int>(i) + 1, record.values[i]);
+    }
+    (*statement)->Reset();
+    return record;
+}
+
+} // namespace Quillory

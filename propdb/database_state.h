@@ -1,0 +1,57 @@
+#pragma once
+
+#include "propdb/cursor.h"
+#include "propdb/schema.h"
+#include "propdb/statement.h"
+#include "propdb/volume_state.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace Quillory {
+
+/// Prepared statements by the properties they are about, since most calls repeat the last one's.
+class StatementCache
+{
+public:
+    using Maker = std::function<Result<Statement>()>;
+    /// The statement for `ids`, made if there is none; valid until the next call.
+    [[nodiscard]] Result<Statement*> Find(std::span<const PropertyId> ids, const Maker& make);
+    void Clear();
+
+private:
+    std::map<std::vector<PropertyId>, Statement> m_statements;
+    std::vector<PropertyId> m_lastIds;
+    Statement* m_last = nullptr;
+};
+
+/// An open database within its volume.
+struct DatabaseState
+{
+    DatabaseState(VolumeState& volumeState, std::shared_ptr<DatabaseSchema> databaseSchema,
+        const SortOrder& sortOrder);
+    ~DatabaseState();
+    DatabaseState(const DatabaseState&) = delete;
+    DatabaseState& operator=(const DatabaseState&) = delete;
+
+    VolumeState& volume;
+    std::shared_ptr<DatabaseSchema> schema;
+    SortOrder order;
+    Cursor cursor;
+    StatementCache inserts;
+    StatementCache updates;
+    StatementCache selects;
+
+    /// The columns so listed, as SQL; NULL for one that the database has no column for.
+    [[nodiscard]] QString ColumnList(std::span<const PropertyId> ids) const;
+    /// Gives every property among `values` a column.
+    [[nodiscard]] Result<void> AddMissingColumns(std::span<const PropertyValue> values);
+    [[nodiscard]] Result<ObjectId> Insert(std::span<const PropertyValue> values);
+    [[nodiscard]] Result<ObjectId> Update(ObjectId oid, std::span<const PropertyValue> values);
+    [[nodiscard]] Result<Record> ReadRecord(ObjectId oid, std::span<const PropertyId> ids);
+};
+
+} // namespace Quillory

@@ -1,0 +1,361 @@
+#include "propdb/schema.h"
+
+#include "propdb/statement.h"
+
+#include <QMap>
+
+#include <algorithm>
+#include <array>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct SystemTable
+{
+    const char* name;
+    const char* sql;
+};
+
+/// The tables that describe a volume. Their words are compared when a file is opened.
+constexpr std::array kSystemTables {
+    SystemTable {
+        "object_counter", "CREATE TABLE object_counter(next_oid INTEGER NOT NULL) STRICT" },
+    SystemTable { "property_database",
+        "CREATE TABLE property_database(oid INTEGER PRIMARY KEY, name TEXT NOT NULL, "
+        "type INTEGER NOT NULL, table_name TEXT NOT NULL) STRICT" },
+    SystemTable { "property",
+        "CREATE TABLE property(database INTEGER NOT NULL, position INTEGER NOT NULL, "
+        "id INTEGER NOT NULL, name TEXT NOT NULL, column_name TEXT NOT NULL, "
+        "is_declared INTEGER NOT NULL, PRIMARY KEY(database, position)) STRICT, WITHOUT ROWID" },
+    SystemTable { "sort_order",
+        "CREATE TABLE sort_order(database INTEGER NOT NULL, position INTEGER NOT NULL, "
+        "id INTEGER NOT NULL, PRIMARY KEY(database, position)) STRICT, WITHOUT ROWID" },
+};
+
+constexpr qsizetype kMaxNameLength = 64;
+
+QString SqlType(PropertyId id)
+{
+    switch (PropertyType(id)) {
+    case CEVT_R8:
+        // A column of type REAL would store -0.0 as 0.
+        return u"ANY"_s;
+    case CEVT_LPWSTR:
+        return u"TEXT"_s;
+    case CEVT_BLOB:
+        return u"BLOB"_s;
+    default:
+        return u"INTEGER"_s;
+    }
+}
+
+QString ColumnSql(const PropertyColumn& column)
+{
+    return QuotedName(column.columnName) + u' ' + SqlType(column.id);
+}
+
+QString TableSql(const DatabaseSchema& schema)
+{
+    QString sql = u"CREATE TABLE "_s + QuotedName(schema.tableName) + u"(oid INTEGER PRIMARY KEY"_s;
+    for (const PropertyColumn& column : schema.properties)
+        sql += u", "_s + ColumnSql(column);
+    return sql + u") STRICT"_s;
+}
+
+QString IndexName(const DatabaseSchema& schema, const PropertyColumn& key)
+{
+    return schema.tableName + u" by "_s + key.columnName;
+}
+
+QString IndexSql(const DatabaseSchema& schema, const PropertyColumn& key)
+{
+    return u"CREATE INDEX "_s + QuotedName(IndexName(schema, key)) + u" ON "_s
+        + QuotedName(schema.tableName) + u'(' + QuotedName(key.columnName) + u')';
+}
+
+/// What is left of a name when it has to serve as one in SQL: plain letters, digits and spaces.
+QString PlainName(const QString& name)
+{
+    QString plain = name.left(kMaxNameLength);
+    for (QChar& unit : plain) {
+        const bool isPlain = unit.isLetterOrNumber() || unit == u' ' || unit == u'-';
+        if (!isPlain || unit.isSurrogate())
+            unit = u'_';
+    }
+    return plain.trimmed();
+}
+
+Result<void> RunSql(sqlite3* connection, const QString& sql)
+{
+    auto statement = Statement::Prepare(connection, sql);
+    return statement ? statement->Run() : statement.Error();
+}
+
+Result<void> InsertProperty(sqlite3* connection, const DatabaseSchema& schema,
+    const PropertyColumn& column, qint64 position)
+{
+    auto insert
+        = Statement::Prepare(connection, u"INSERT INTO property VALUES(?1, ?2, ?3, ?4, ?5, ?6)"_s);
+    if (!insert)
+        return insert.Error();
+    insert->Bind(1, schema.oid);
+    insert->Bind(2, position);
+    insert->Bind(3, static_cast<qint64>(column.id));
+    insert->Bind(4, QStringView(column.name));
+    insert->Bind(5, QStringView(column.columnName));
+    insert->Bind(6, qint64 { column.isDeclared });
+    return insert->Run();
+}
+
+Result<void> InsertSortOrder(
+    sqlite3* connection, const DatabaseSchema& schema, const SortOrder& order, qint64 position)
+{
+    auto insert = Statement::Prepare(connection, u"INSERT INTO sort_order VALUES(?1, ?2, ?3)"_s);
+    if (!insert)
+        return insert.Error();
+    insert->Bind(1, schema.oid);
+    insert->Bind(2, position);
+    insert->Bind(3, static_cast<qint64>(order.key));
+    return insert->Run();
+}
+
+Result<void> LoadDatabases(sqlite3* connection, VolumeSchema& volume)
+{
+    auto select = Statement::Prepare(
+        connection, u"SELECT oid, name, type, table_name FROM property_database ORDER BY oid"_s);
+    if (!select)
+        return select.Error();
+    auto step = select->Step();
+    for (; step && *step; step = select->Step()) {
+        auto schema = std::make_shared<DatabaseSchema>();
+        schema->oid = select->Oid(0);
+        schema->name = select->Text(1);
+        schema->type = static_cast<DatabaseType>(select->Int64(2));
+        schema->tableName = select->Text(3);
+        volume.databases.push_back(std::move(schema));
+    }
+    return step.Error();
+}
+
+Result<void> LoadProperties(sqlite3* connection, const VolumeSchema& volume)
+{
+    auto select = Statement::Prepare(connection,
+        u"SELECT database, id, name, column_name, is_declared FROM property "_s
+        u"ORDER BY database, position"_s);
+    if (!select)
+        return select.Error();
+    auto step = select->Step();
+    for (; step && *step; step = select->Step()) {
+        const auto schema = volume.Find(select->Oid(0));
+        const auto id = static_cast<PropertyId>(select->Int64(1));
+        if (schema == nullptr || schema->Find(id) != nullptr || !IsStorableType(PropertyType(id)))
+            return ErrorNumber::FileCorrupt;
+        schema->properties.push_back(
+            { id, select->Text(2), select->Text(3), select->Int64(4) != 0 });
+    }
+    return step.Error();
+}
+
+Result<void> LoadSortOrders(sqlite3* connection, const VolumeSchema& volume)
+{
+    auto select = Statement::Prepare(
+        connection, u"SELECT database, id FROM sort_order ORDER BY database, position"_s);
+    if (!select)
+        return select.Error();
+    auto step = select->Step();
+    for (; step && *step; step = select->Step()) {
+        const auto schema = volume.Find(select->Oid(0));
+        const auto id = static_cast<PropertyId>(select->Int64(1));
+        if (schema == nullptr || schema->Find(id) == nullptr)
+            return ErrorNumber::FileCorrupt;
+        schema->sortOrders.push_back({ id });
+    }
+    return step.Error();
+}
+
+/// Name and words of everything the file should hold.
+QMap<QString, QString> ExpectedObjects(const VolumeSchema& volume)
+{
+    QMap<QString, QString> expected;
+    for (const SystemTable& table : kSystemTables)
+        expected.insert(QString::fromLatin1(table.name), QString::fromLatin1(table.sql));
+    for (const auto& schema : volume.databases) {
+        expected.insert(schema->tableName, TableSql(*schema));
+        for (const SortOrder& order : schema->sortOrders) {
+            const PropertyColumn& key = *schema->Find(order.key);
+            expected.insert(IndexName(*schema, key), IndexSql(*schema, key));
+        }
+    }
+    return expected;
+}
+
+Result<QMap<QString, QString>> ActualObjects(sqlite3* connection)
+{
+    QMap<QString, QString> actual;
+    auto select = Statement::Prepare(connection, u"SELECT name, sql FROM sqlite_schema"_s);
+    if (!select)
+        return select.Error();
+    auto step = select->Step();
+    for (; step && *step; step = select->Step())
+        actual.insert(select->Text(0), select->Text(1));
+    if (!step)
+        return step.Error();
+    return actual;
+}
+
+} // namespace
+
+const PropertyColumn* DatabaseSchema::Find(PropertyId id) const
+{
+    const auto found = std::find_if(properties.begin(), properties.end(),
+        [id](const PropertyColumn& column) { return column.id == id; });
+    return found == properties.end() ? nullptr : &*found;
+}
+
+std::shared_ptr<DatabaseSchema> VolumeSchema::Find(ObjectId oid) const
+{
+    const auto found = std::find_if(databases.begin(), databases.end(),
+        [oid](const auto& schema) { return schema->oid == oid; });
+    return found == databases.end() ? nullptr : *found;
+}
+
+std::shared_ptr<DatabaseSchema> VolumeSchema::Find(const QString& name) const
+{
+    const auto found = std::find_if(databases.begin(), databases.end(),
+        [&name](const auto& schema) { return schema->name == name; });
+    return found == databases.end() ? nullptr : *found;
+}
+
+QString QuotedName(const QString& name)
+{
+    QString quoted = name;
+    return u'"' + quoted.replace(u'"', u"\"\""_s) + u'"';
+}
+
+bool IsStorableType(quint16 type)
+{
+    switch (type) {
+    case CEVT_I2:
+    case CEVT_I4:
+    case CEVT_R8:
+    case CEVT_BOOL:
+    case CEVT_UI4:
+    case CEVT_LPWSTR:
+    case CEVT_FILETIME:
+    case CEVT_BLOB:
+        return true;
+    default:
+        return false;
+    }
+}
+
+PropertyColumn MakeColumn(const DatabaseSchema& schema, const PropertySpec& spec, bool isDeclared)
+{
+    const auto isTaken = [&schema](const QString& name) {
+        const auto isSame = [&name](const QString& other) {
+            return other.compare(name, Qt::CaseInsensitive) == 0;
+        };
+        return name.isEmpty() || isSame(u"oid"_s) || isSame(u"rowid"_s) || isSame(u"_rowid_"_s)
+            || std::any_of(schema.properties.begin(), schema.properties.end(),
+                [&](const PropertyColumn& column) { return isSame(column.columnName); });
+    };
+    QString columnName = PlainName(spec.name);
+    if (isTaken(columnName))
+        columnName += u"_%1"_s.arg(PropertyNumber(spec.id));
+    while (isTaken(columnName))
+        columnName += u'_';
+    return { spec.id, spec.name, columnName, isDeclared };
+}
+
+QString MakeTableName(const QString& databaseName, ObjectId oid)
+{
+    return u"%1 (%2)"_s.arg(PlainName(databaseName)).arg(static_cast<quint32>(oid));
+}
+
+Result<void> CreateVolumeSchema(sqlite3* connection)
+{
+    for (const SystemTable& table : kSystemTables) {
+        if (const auto created = Execute(connection, table.sql); !created)
+            return created;
+    }
+    return Execute(connection, "INSERT INTO object_counter VALUES(1)");
+}
+
+Result<void> CreateDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema)
+{
+    auto insert
+        = Statement::Prepare(connection, u"INSERT INTO property_database VALUES(?1, ?2, ?3, ?4)"_s);
+    if (!insert)
+        return insert.Error();
+    insert->Bind(1, schema.oid);
+    insert->Bind(2, QStringView(schema.name));
+    insert->Bind(3, static_cast<qint64>(schema.type));
+    insert->Bind(4, QStringView(schema.tableName));
+    Result<void> done = insert->Run();
+    for (size_t i = 0; done && i < schema.properties.size(); ++i)
+        done = InsertProperty(connection, schema, schema.properties[i], static_cast<qint64>(i));
+    if (done)
+        done = RunSql(connection, TableSql(schema));
+    for (size_t i = 0; done && i < schema.sortOrders.size(); ++i) {
+        const SortOrder& order = schema.sortOrders[i];
+        done = InsertSortOrder(connection, schema, order, static_cast<qint64>(i));
+        if (done)
+            done = RunSql(connection, IndexSql(schema, *schema.Find(order.key)));
+    }
+    return done;
+}
+
+Result<void> AddPropertyColumn(
+    sqlite3* connection, const DatabaseSchema& schema, const PropertyColumn& column)
+{
+    const auto inserted
+        = InsertProperty(connection, schema, column, static_cast<qint64>(schema.properties.size()));
+    if (!inserted)
+        return inserted;
+    return RunSql(connection,
+        u"ALTER TABLE "_s + QuotedName(schema.tableName) + u" ADD COLUMN "_s + ColumnSql(column));
+}
+
+Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema)
+{
+    Result<void> done = RunSql(connection, u"DROP TABLE "_s + QuotedName(schema.tableName));
+    for (const QString& sql : { u"DELETE FROM sort_order WHERE database = ?1"_s,
+             u"DELETE FROM property WHERE database = ?1"_s,
+             u"DELETE FROM property_database WHERE oid = ?1"_s }) {
+        if (!done)
+            return done;
+        auto statement = Statement::Prepare(connection, sql);
+        if (!statement)
+            return statement.Error();
+        statement->Bind(1, schema.oid);
+        done = statement->Run();
+    }
+    return done;
+}
+
+Result<VolumeSchema> LoadVolumeSchema(sqlite3* connection)
+{
+    const auto actual = ActualObjects(connection);
+    if (!actual)
+        return actual.Error();
+    for (const SystemTable& table : kSystemTables) {
+        if (actual->value(QString::fromLatin1(table.name)) != QString::fromLatin1(table.sql))
+            return ErrorNumber::FileCorrupt;
+    }
+    VolumeSchema volume;
+    Result<void> loaded = LoadDatabases(connection, volume);
+    if (loaded)
+        loaded = LoadProperties(connection, volume);
+    if (loaded)
+        loaded = LoadSortOrders(connection, volume);
+    if (!loaded)
+        return loaded.Error();
+    if (ExpectedObjects(volume) != *actual)
+        return ErrorNumber::FileCorrupt;
+    return volume;
+}
+
+} // namespace Quillory

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "propdb/property_value.h"
+#include "propdb/result.h"
+#include "propdb/volume.h"
+
+#include <memory>
+#include <vector>
+
+struct sqlite3;
+
+namespace Quillory {
+
+/// A property of a database and the table column that holds it.
+struct PropertyColumn
+{
+    PropertyId id {};
+    QString name;
+    QString columnName;
+    /// False for a property that was written without having been declared.
+    bool isDeclared = true;
+};
+
+/// How a database is laid out: one table, a column per property, an index per sort order.
+struct DatabaseSchema
+{
+    ObjectId oid = kNoObject;
+    QString name;
+    DatabaseType type {};
+    QString tableName;
+    std::vector<PropertyColumn> properties;
+    std::vector<SortOrder> sortOrders;
+
+    /// Null if the database has no such property.
+    [[nodiscard]] const PropertyColumn* Find(PropertyId id) const;
+};
+
+/// The layout of a whole volume as its own tables describe it.
+struct VolumeSchema
+{
+    std::vector<std::shared_ptr<DatabaseSchema>> databases;
+
+    [[nodiscard]] std::shared_ptr<DatabaseSchema> Find(ObjectId oid) const;
+    [[nodiscard]] std::shared_ptr<DatabaseSchema> Find(const QString& name) const;
+};
+
+/// The identifier in double quotes, as SQL wants it.
+[[nodiscard]] QString QuotedName(const QString& name);
+
+/// Whether a property of this type can be stored.
+[[nodiscard]] bool IsStorableType(quint16 type);
+
+/// A column for a property of `schema`, under a name that no other column of the table has.
+[[nodiscard]] PropertyColumn MakeColumn(
+    const DatabaseSchema& schema, const PropertySpec& spec, bool isDeclared);
+/// The name of the table of a database.
+[[nodiscard]] QString MakeTableName(const QString& databaseName, ObjectId oid);
+
+/// Makes the tables of an empty volume. The caller holds the transaction of this and of the three
+/// operations that follow.
+[[nodiscard]] Result<void> CreateVolumeSchema(sqlite3* connection);
+[[nodiscard]] Result<void> CreateDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);
+[[nodiscard]] Result<void> AddPropertyColumn(
+    sqlite3* connection, const DatabaseSchema& schema, const PropertyColumn& column);
+[[nodiscard]] Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);
+
+/// Reads the layout and proves that the file holds these tables and indexes, in exactly the words
+/// in which this program makes them, and nothing else. FileCorrupt if not.
+[[nodiscard]] Result<VolumeSchema> LoadVolumeSchema(sqlite3* connection);
+
+} // namespace Quillory

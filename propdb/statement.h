@@ -1,0 +1,69 @@
+#pragma once
+
+#include "propdb/property_value.h"
+#include "propdb/result.h"
+
+#include <QStringView>
+
+#include <string_view>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace Quillory {
+
+/// A prepared statement: prepared by Prepare, finalised by the destructor. Parameters count from 1,
+/// columns from 0. Text goes in and out as 16-bit units, lone surrogates included.
+class Statement
+{
+public:
+    Statement() = default;
+    ~Statement();
+    Statement(Statement&& other) noexcept;
+    Statement& operator=(Statement&& other) noexcept;
+    Statement(const Statement&) = delete;
+    Statement& operator=(const Statement&) = delete;
+
+    /// Statements that live long are told so by `isKept`.
+    [[nodiscard]] static Result<Statement> Prepare(
+        sqlite3* connection, const QString& sql, bool isKept = false);
+
+    void Bind(int parameter, qint64 value);
+    void Bind(int parameter, ObjectId oid) { Bind(parameter, static_cast<qint64>(oid)); }
+    /// Up to the first NUL.
+    void Bind(int parameter, QStringView text);
+    void BindNull(int parameter);
+    /// False if the value is not of the type that its identifier names.
+    [[nodiscard]] bool Bind(int parameter, const PropertyValue& value);
+    /// What column `column` of the current row of `source` holds, as it is.
+    void BindColumnOf(int parameter, const Statement& source, int column);
+
+    /// True while there is a row. Resets itself at the end and on failure.
+    [[nodiscard]] Result<bool> Step();
+    /// Runs a statement that gives no rows.
+    [[nodiscard]] Result<void> Run();
+    void Reset();
+
+    [[nodiscard]] bool IsNull(int column) const;
+    [[nodiscard]] qint64 Int64(int column) const;
+    [[nodiscard]] ObjectId Oid(int column) const { return static_cast<ObjectId>(Int64(column)); }
+    [[nodiscard]] QString Text(int column) const;
+    /// The text of a column whatever its encoding: settings answer before the file's is known.
+    [[nodiscard]] QByteArray Utf8(int column) const;
+    /// Reads a column into `value` by the type of `value.id`, flagging it where it is NULL. Text
+    /// reuses the memory of the string that is there.
+    void ReadProperty(int column, PropertyValue& value) const;
+
+    explicit operator bool() const { return m_statement != nullptr; }
+
+private:
+    sqlite3_stmt* m_statement = nullptr;
+
+    void ReadText(int column, QString& text) const;
+    [[nodiscard]] Result<bool> Fail(int code);
+};
+
+/// Runs SQL without parameters and without rows, one statement or several.
+[[nodiscard]] Result<void> Execute(sqlite3* connection, const char* sql);
+
+} // namespace Quillory

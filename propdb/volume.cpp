@@ -1,0 +1,243 @@
+#include "propdb/volume.h"
+
+#include "propdb/database.h"
+#include "propdb/database_state.h"
+#include "propdb/sqlite_error.h"
+#include "propdb/volume_state.h"
+
+#include <QScopeGuard>
+
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <limits>
+#include <set>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Builds an empty volume under a name of its own and gives it its name when it is whole.
+Result<void> CreateVolume(const QByteArray& path)
+{
+    const QByteArray unfinished = UnfinishedName(path);
+    const auto removeUnfinished = qScopeGuard([&] { unlink(unfinished.constData()); });
+    {
+        const ConfinedVfs::Permit permit(unfinished);
+        auto connection = OpenConnection(unfinished, VolumeAccess::Exclusive, true, true);
+        if (!connection)
+            return connection.Error();
+        Result<void> done = Execute(connection->get(), "BEGIN IMMEDIATE");
+        if (done)
+            done = CreateVolumeSchema(connection->get());
+        if (done)
+            done = Execute(connection->get(), "COMMIT");
+        if (!done)
+            return done;
+    }
+    return PublishFile(unfinished, path);
+}
+
+Result<VolumeFile> OpenOrCreate(
+    const QByteArray& path, Disposition disposition, VolumeAccess access)
+{
+    auto file = VolumeFile::Open(path, access);
+    if (file.Error() != ErrorNumber::FileNotFound || disposition == Disposition::OpenExisting)
+        return file;
+    const auto created = CreateVolume(path);
+    // Somebody else may have made one in the meantime.
+    if (!created && created.Error() != ErrorNumber::FileExists)
+        return created.Error();
+    return VolumeFile::Open(path, access);
+}
+
+/// What a database must be like to be made.
+ErrorNumber CheckSpecs(std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
+{
+    std::set<PropertyId> ids;
+    for (const PropertySpec& spec : specs) {
+        if (!IsStorableType(PropertyType(spec.id)))
+            return ErrorNumber::InvalidParameter;
+        if (!ids.insert(spec.id).second)
+            return ErrorNumber::AlreadyExists;
+    }
+    const bool haveKeys = std::all_of(sortOrders.begin(), sortOrders.end(),
+        [&ids](const SortOrder& order) { return ids.contains(order.key); });
+    const bool isSound = !specs.empty() && sortOrders.size() <= 1 && haveKeys;
+    return isSound ? ErrorNumber::None : ErrorNumber::InvalidParameter;
+}
+
+} // namespace
+
+Volume::Volume(std::unique_ptr<VolumeState> state)
+    : m_state(std::move(state))
+{ }
+
+Volume::~Volume()
+{
+    if (m_state->isInTransaction)
+        m_state->Rollback();
+}
+
+Result<std::unique_ptr<Volume>> Volume::Mount(
+    const QString& path, Disposition disposition, VolumeAccess access)
+{
+    const auto realPath = ResolveVolumePath(path);
+    if (!realPath)
+        return realPath.Error();
+    auto file = OpenOrCreate(*realPath, disposition, access);
+    if (!file)
+        return file.Error();
+    auto state = std::make_unique<VolumeState>(std::move(*file), *realPath, access);
+    if (const auto connected = state->Connect(); !connected)
+        return connected.Error();
+    std::unique_ptr<Volume> volume(new Volume(std::move(state)));
+    if (volume->m_state->file.HasJournal()) {
+        const auto faults = volume->Check();
+        if (!faults)
+            return faults.Error();
+        if (!faults->empty())
+            return ErrorNumber::FileCorrupt;
+    }
+    return volume;
+}
+
+Result<std::vector<Volume::DatabaseInfo>> Volume::Databases()
+{
+    std::vector<DatabaseInfo> infos;
+    for (const auto& schema : m_state->schema.databases)
+        infos.push_back({ schema->oid, schema->name, schema->type });
+    return infos;
+}
+
+Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
+    std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
+{
+    if (const ErrorNumber error = CheckSpecs(specs, sortOrders); error != ErrorNumber::None)
+        return error;
+    if (m_state->schema.Find(name) != nullptr)
+        return ErrorNumber::DuplicateName;
+    if (const auto begun = m_state->BeginWrite(); !begun)
+        return begun.Error();
+    const auto oid = m_state->AllocateOid();
+    auto schema = std::make_shared<DatabaseSchema>();
+    Result<void> done = oid.Error();
+    if (done) {
+        schema->oid = *oid;
+        schema->name = name;
+        schema->type = type;
+        schema->tableName = MakeTableName(name, *oid);
+        schema->sortOrders.assign(sortOrders.begin(), sortOrders.end());
+        for (const PropertySpec& spec : specs)
+            schema->properties.push_back(MakeColumn(*schema, spec, true));
+        m_state->schema.databases.push_back(schema);
+        m_state->isSchemaChanged = true;
+        done = CreateDatabaseSchema(m_state->connection.get(), *schema);
+    }
+    if (const auto ended = m_state->EndWrite(done); !ended)
+        return ended.Error();
+    return schema->oid;
+}
+
+Result<void> Volume::DeleteDatabase(ObjectId oid)
+{
+    const auto schema = m_state->schema.Find(oid);
+    if (schema == nullptr)
+        return ErrorNumber::NotFound;
+    const auto& open = m_state->openDatabases;
+    if (std::any_of(open.begin(), open.end(),
+            [&](const DatabaseState* database) { return database->schema->oid == oid; }))
+        return ErrorNumber::SharingViolation;
+    if (const auto begun = m_state->BeginWrite(); !begun)
+        return begun;
+    m_state->isSchemaChanged = true;
+    std::erase(m_state->schema.databases, schema);
+    return m_state->EndWrite(DropDatabaseSchema(m_state->connection.get(), *schema));
+}
+
+Result<std::unique_ptr<Database>> Volume::OpenDatabase(
+    const QString& name, const SortOrder& sortOrder)
+{
+    const auto schema = m_state->schema.Find(name);
+    if (schema == nullptr)
+        return ErrorNumber::FileNotFound;
+    const auto& orders = schema->sortOrders;
+    if (std::find(orders.begin(), orders.end(), sortOrder) == orders.end())
+        return ErrorNumber::InvalidParameter;
+    return std::make_unique<Database>(std::make_unique<DatabaseState>(*m_state, schema, sortOrder));
+}
+
+Result<void> Volume::BeginTransaction()
+{
+    if (m_state->isInTransaction)
+        return ErrorNumber::AlreadyExists;
+    const auto begun = m_state->Begin();
+    m_state->isInTransaction = begun.IsOk();
+    return begun;
+}
+
+Result<void> Volume::EndTransaction(bool commit)
+{
+    if (!m_state->isInTransaction)
+        return ErrorNumber::InvalidHandle;
+    m_state->isInTransaction = false;
+    if (commit)
+        return m_state->Commit();
+    m_state->Rollback();
+    return {};
+}
+
+bool Volume::IsInTransaction() const
+{
+    return m_state->isInTransaction;
+}
+
+Result<std::vector<QString>> Volume::Check()
+{
+    std::vector<QString> faults;
+    auto check = Statement::Prepare(m_state->connection.get(), u"PRAGMA integrity_check"_s);
+    if (!check)
+        return check.Error();
+    auto step = check->Step();
+    for (; step && *step; step = check->Step()) {
+        const QString line = check->Text(0);
+        if (line != "ok"_L1)
+            faults.push_back(line);
+    }
+    if (step.Error() == ErrorNumber::FileCorrupt)
+        faults.push_back(u"a page of the file is not as it was written"_s);
+    else if (!step)
+        return step.Error();
+    return faults;
+}
+
+Result<void> Volume::Backup(const QString& path)
+{
+    const auto target = ResolveVolumePath(path);
+    if (!target)
+        return target.Error();
+    if (access(target->constData(), F_OK) == 0)
+        return ErrorNumber::FileExists;
+    const QByteArray unfinished = UnfinishedName(*target);
+    const auto removeUnfinished = qScopeGuard([&] { unlink(unfinished.constData()); });
+    {
+        const ConfinedVfs::Permit permit(unfinished);
+        auto copy = OpenConnection(unfinished, VolumeAccess::Exclusive, true, true);
+        if (!copy)
+            return copy.Error();
+        sqlite3_backup* backup
+            = sqlite3_backup_init(copy->get(), "main", m_state->connection.get(), "main");
+        if (backup == nullptr)
+            return ErrorFromSqlite(sqlite3_extended_errcode(copy->get()), copy->get());
+        const int stepCode = sqlite3_backup_step(backup, -1);
+        const int code = sqlite3_backup_finish(backup);
+        if (stepCode != SQLITE_DONE)
+            return ErrorFromSqlite(code == SQLITE_OK ? stepCode : code, copy->get());
+    }
+    return PublishFile(unfinished, *target);
+}
+
+} // namespace Quillory

@@ -1,0 +1,242 @@
+#include "propdb/volume_file.h"
+
+#include "propdb/confined_vfs.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QtEndian>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <set>
+#include <utility>
+
+namespace Quillory {
+
+namespace {
+
+/// Far beyond any byte that SQLite locks or a file holds.
+constexpr off_t kLockOffset = off_t { 1 } << 62;
+/// Larger files are not of this program's making.
+constexpr off_t kMaxFileSize = off_t { 1 } << 40;
+
+using FileIdentity = std::pair<dev_t, ino_t>;
+
+/// The files this process has open. Opening and closing one of them a second time would drop
+/// SQLite's locks on it.
+std::set<FileIdentity>& OpenFiles()
+{
+    static std::set<FileIdentity> files;
+    return files;
+}
+
+QByteArray FolderOf(const QByteArray& path)
+{
+    return path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
+}
+
+/// Where the fields of SQLite's file header lie.
+struct HeaderLayout
+{
+    static constexpr int kSize = 100;
+    static constexpr int kPageSize = 16;
+    static constexpr int kWriteVersion = 18;
+    static constexpr int kReadVersion = 19;
+    static constexpr int kReserve = 20;
+    static constexpr int kTextEncoding = 56;
+    static constexpr int kUserVersion = 60;
+    static constexpr int kApplicationId = 68;
+};
+constexpr std::array<char, 16> kMagic { 'S', 'Q', 'L', 'i', 't', 'e', ' ', 'f', 'o', 'r', 'm', 'a',
+    't', ' ', '3', '\0' };
+constexpr quint32 kUtf16BigEndian = 3;
+constexpr char kRollbackJournal = 1;
+
+} // namespace
+
+Result<QByteArray> ResolveVolumePath(const QString& path)
+{
+    if (path.isEmpty() || path.contains(QChar(u'\0')))
+        return ErrorNumber::InvalidName;
+    const QFileInfo info(path);
+    const QByteArray folder = QFile::encodeName(info.absolutePath());
+    const QByteArray name = QFile::encodeName(info.fileName());
+    if (name.isEmpty())
+        return ErrorNumber::InvalidName;
+    const auto resolve = [](const QByteArray& from) {
+        const std::unique_ptr<char, decltype(&std::free)> real(
+            realpath(from.constData(), nullptr), &std::free);
+        return QByteArray(real.get());
+    };
+    const QByteArray realFolder = resolve(folder);
+    if (realFolder.isEmpty())
+        return ErrorFromErrno(errno, true);
+    const QByteArray joined
+        = realFolder.endsWith('/') ? realFolder + name : realFolder + '/' + name;
+    struct stat status
+    { };
+    if (lstat(joined.constData(), &status) != 0 || !S_ISLNK(status.st_mode))
+        return joined;
+    const QByteArray target = resolve(joined);
+    if (target.isEmpty())
+        return ErrorFromErrno(errno, true);
+    return target;
+}
+
+VolumeFile::~VolumeFile()
+{
+    if (m_descriptor < 0)
+        return;
+    OpenFiles().erase({ m_device, m_inode });
+    close(m_descriptor);
+}
+
+VolumeFile::VolumeFile(VolumeFile&& other) noexcept
+    : m_path(std::move(other.m_path))
+    , m_descriptor(std::exchange(other.m_descriptor, -1))
+    , m_device(other.m_device)
+    , m_inode(other.m_inode)
+    , m_isWritable(other.m_isWritable)
+    , m_hasJournal(other.m_hasJournal)
+{ }
+
+Result<VolumeFile> VolumeFile::Open(const QByteArray& path, VolumeAccess access)
+{
+    VolumeFile file;
+    file.m_path = path;
+    if (const auto opened = file.OpenDescriptor(access); !opened)
+        return opened.Error();
+    if (access == VolumeAccess::Exclusive) {
+        if (const auto locked = file.LockOut(); !locked)
+            return locked.Error();
+    }
+    struct stat journal
+    { };
+    file.m_hasJournal = stat((path + "-journal").constData(), &journal) == 0 && journal.st_size > 0;
+    if (const auto verified = file.VerifyHeader(); !verified)
+        return verified.Error();
+    return file;
+}
+
+Result<void> VolumeFile::OpenDescriptor(VolumeAccess access)
+{
+    struct stat status
+    { };
+    if (stat(m_path.constData(), &status) != 0)
+        return ErrorFromErrno(errno);
+    if (OpenFiles().contains({ status.st_dev, status.st_ino }))
+        return ErrorNumber::SharingViolation;
+    if (!S_ISREG(status.st_mode))
+        return S_ISDIR(status.st_mode) ? ErrorNumber::AccessDenied : ErrorNumber::BadFormat;
+
+    constexpr int kFlags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+    m_descriptor = open(m_path.constData(), O_RDWR | kFlags);
+    m_isWritable = m_descriptor >= 0;
+    const bool maySettle
+        = access == VolumeAccess::ReadOnly && (errno == EACCES || errno == EROFS || errno == EPERM);
+    if (m_descriptor < 0 && maySettle)
+        m_descriptor = open(m_path.constData(), O_RDONLY | kFlags);
+    if (m_descriptor < 0)
+        return ErrorFromErrno(errno);
+
+    if (fstat(m_descriptor, &status) != 0)
+        return ErrorFromErrno(errno);
+    m_device = status.st_dev;
+    m_inode = status.st_ino;
+    OpenFiles().insert({ m_device, m_inode });
+    if (!S_ISREG(status.st_mode))
+        return ErrorNumber::BadFormat;
+    if (status.st_nlink != 1)
+        return ErrorNumber::AccessDenied;
+    return status.st_size > kMaxFileSize ? ErrorNumber::FileTooLarge : ErrorNumber::None;
+}
+
+Result<void> VolumeFile::LockOut() const
+{
+    // Owned by the open file, not by the process: another descriptor's close cannot drop it.
+    struct flock lock
+    { };
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = kLockOffset;
+    lock.l_len = 1;
+    if (fcntl(m_descriptor, F_OFD_SETLK, &lock) == 0)
+        return {};
+    if (errno == EAGAIN || errno == EACCES)
+        return ErrorNumber::SharingViolation;
+    return ErrorFromErrno(errno);
+}
+
+Result<void> VolumeFile::VerifyHeader() const
+{
+    std::array<char, HeaderLayout::kSize> header {};
+    const ssize_t size = pread(m_descriptor, header.data(), header.size(), 0);
+    if (size < 0)
+        return ErrorFromErrno(errno);
+    if (size < static_cast<ssize_t>(header.size())
+        || std::memcmp(header.data(), kMagic.data(), kMagic.size()) != 0)
+        return ErrorNumber::BadFormat;
+    const auto field = [&](int offset) { return qFromBigEndian<quint32>(header.data() + offset); };
+    if (field(HeaderLayout::kApplicationId) != kApplicationId)
+        return ErrorNumber::BadFormat;
+    if (field(HeaderLayout::kUserVersion) > kFormatVersion)
+        return ErrorNumber::NotSupported;
+    if (field(HeaderLayout::kUserVersion) == 0
+        || qFromBigEndian<quint16>(header.data() + HeaderLayout::kPageSize) != kPageSize
+        || header[HeaderLayout::kWriteVersion] != kRollbackJournal
+        || header[HeaderLayout::kReadVersion] != kRollbackJournal
+        || header[HeaderLayout::kReserve] != kPageReserve
+        || field(HeaderLayout::kTextEncoding) != kUtf16BigEndian)
+        return ErrorNumber::FileCorrupt;
+    // A file whose journal is still there may be cut short; the journal makes it whole.
+    struct stat status
+    { };
+    if (!m_hasJournal && fstat(m_descriptor, &status) == 0 && status.st_size % kPageSize != 0)
+        return ErrorNumber::FileCorrupt;
+    return {};
+}
+
+Result<void> VolumeFile::VerifyInPlace() const
+{
+    struct stat status
+    { };
+    if (stat(m_path.constData(), &status) != 0)
+        return ErrorFromErrno(errno, access(FolderOf(m_path).constData(), F_OK) != 0);
+    if (status.st_dev != m_device || status.st_ino != m_inode)
+        return ErrorNumber::SharingViolation;
+    return {};
+}
+
+Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
+{
+    bool isRenamed
+        = renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0;
+    // File systems of memory cards know neither this kind of rename nor links.
+    if (!isRenamed && (errno == EINVAL || errno == ENOSYS) && access(to.constData(), F_OK) != 0)
+        isRenamed = rename(from.constData(), to.constData()) == 0;
+    if (!isRenamed)
+        return ErrorFromErrno(errno);
+    const int folder = open(FolderOf(to).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return ErrorFromErrno(errno);
+    const int code = fsync(folder) == 0 || errno == EINVAL ? 0 : errno;
+    close(folder);
+    return code == 0 ? ErrorNumber::None : ErrorFromErrno(code);
+}
+
+QByteArray UnfinishedName(const QByteArray& path)
+{
+    const QByteArray number = QByteArray::number(QRandomGenerator::system()->generate(), 16);
+    return path + ".new-" + number;
+}
+
+} // namespace Quillory

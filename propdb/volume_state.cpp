@@ -1,0 +1,152 @@
+#include "propdb/volume_state.h"
+
+#include "propdb/database_state.h"
+
+#include <QString>
+
+#include <sqlite3.h>
+
+#include <array>
+#include <limits>
+#include <utility>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+VolumeState::VolumeState(VolumeFile volumeFile, QByteArray volumePath, VolumeAccess volumeAccess)
+    : file(std::move(volumeFile))
+    , path(std::move(volumePath))
+    , access(volumeAccess)
+    , permit(path)
+{ }
+
+Result<void> VolumeState::Connect()
+{
+    auto opened = OpenConnection(path, access, file.IsWritable(), false);
+    if (!opened)
+        return opened.Error();
+    connection = std::move(*opened);
+    // The file that was looked at and locked must be the one that SQLite has opened.
+    if (const auto inPlace = file.VerifyInPlace(); !inPlace)
+        return inPlace;
+    auto loaded = LoadVolumeSchema(connection.get());
+    if (!loaded)
+        return loaded.Error();
+    schema = std::move(*loaded);
+
+    auto counter = Statement::Prepare(connection.get(), u"SELECT next_oid FROM object_counter"_s);
+    if (!counter)
+        return counter.Error();
+    const auto step = counter->Step();
+    if (!step)
+        return step.Error();
+    if (!*step || counter->Int64(0) < 1)
+        return ErrorNumber::FileCorrupt;
+    nextOid = static_cast<quint64>(counter->Int64(0));
+
+    const std::array<std::pair<Statement*, QString>, 4> kept { {
+        { &begin, u"BEGIN IMMEDIATE"_s },
+        { &commit, u"COMMIT"_s },
+        { &rollback, u"ROLLBACK"_s },
+        { &storeNextOid, u"UPDATE object_counter SET next_oid = ?1"_s },
+    } };
+    for (const auto& [statement, sql] : kept) {
+        auto prepared = Statement::Prepare(connection.get(), sql, true);
+        if (!prepared)
+            return prepared.Error();
+        *statement = std::move(*prepared);
+    }
+    return {};
+}
+
+Result<ObjectId> VolumeState::AllocateOid()
+{
+    if (nextOid > std::numeric_limits<quint32>::max())
+        return ErrorNumber::DiskFull;
+    isNextOidStored = false;
+    return static_cast<ObjectId>(nextOid++);
+}
+
+Result<void> VolumeState::BeginWrite()
+{
+    if (!isInTransaction)
+        return Begin();
+    // A failure can have ended the transaction underneath; what follows must not stand alone.
+    if (sqlite3_get_autocommit(connection.get()) != 0)
+        return ErrorNumber::InvalidHandle;
+    for (DatabaseState* database : openDatabases)
+        database->cursor.Suspend();
+    return {};
+}
+
+Result<void> VolumeState::EndWrite(const Result<void>& outcome)
+{
+    if (isInTransaction)
+        return outcome;
+    if (outcome)
+        return Commit();
+    Rollback();
+    return outcome;
+}
+
+Result<void> VolumeState::Begin()
+{
+    if (access == VolumeAccess::ReadOnly)
+        return ErrorNumber::AccessDenied;
+    for (DatabaseState* database : openDatabases)
+        database->cursor.Suspend();
+    if (const auto inPlace = file.VerifyInPlace(); !inPlace)
+        return inPlace;
+    return begin.Run();
+}
+
+Result<void> VolumeState::Commit()
+{
+    for (DatabaseState* database : openDatabases)
+        database->cursor.Suspend();
+    Result<void> done;
+    if (sqlite3_get_autocommit(connection.get()) != 0)
+        done = ErrorNumber::InvalidHandle;
+    if (done && !isNextOidStored) {
+        storeNextOid.Bind(1, static_cast<qint64>(nextOid));
+        done = storeNextOid.Run();
+    }
+    if (done)
+        done = commit.Run();
+    if (!done) {
+        Rollback();
+        return done;
+    }
+    isNextOidStored = true;
+    isSchemaChanged = false;
+    return {};
+}
+
+void VolumeState::Rollback()
+{
+    for (DatabaseState* database : openDatabases)
+        database->cursor.Suspend();
+    // Some failures have rolled back already.
+    if (sqlite3_get_autocommit(connection.get()) == 0)
+        static_cast<void>(rollback.Run().IsOk());
+    if (!isSchemaChanged)
+        return;
+    isSchemaChanged = false;
+    auto loaded = LoadVolumeSchema(connection.get());
+    if (!loaded)
+        return;
+    schema = std::move(*loaded);
+    for (DatabaseState* database : openDatabases) {
+        // Open databases go on sharing their layout with the volume.
+        for (auto& current : schema.databases) {
+            if (current->oid != database->schema->oid)
+                continue;
+            *database->schema = *current;
+            current = database->schema;
+        }
+        database->selects.Clear();
+    }
+}
+
+} // namespace Quillory

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "propdb/confined_vfs.h"
+#include "propdb/schema.h"
+#include "propdb/statement.h"
+#include "propdb/volume_file.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+struct sqlite3;
+
+namespace Quillory {
+
+struct DatabaseState;
+
+struct ConnectionCloser
+{
+    void operator()(sqlite3* connection) const;
+};
+using ConnectionHandle = std::unique_ptr<sqlite3, ConnectionCloser>;
+
+/// What a volume and its open databases share. Members end in the reverse of their order:
+/// statements, connection, permit, and last the file with its lock.
+struct VolumeState
+{
+    VolumeState(VolumeFile volumeFile, QByteArray volumePath, VolumeAccess volumeAccess);
+
+    VolumeFile file;
+    QByteArray path;
+    VolumeAccess access;
+    ConfinedVfs::Permit permit;
+    ConnectionHandle connection;
+    VolumeSchema schema;
+    std::vector<DatabaseState*> openDatabases;
+
+    Statement begin;
+    Statement commit;
+    Statement rollback;
+    Statement storeNextOid;
+
+    quint64 nextOid = 1;
+    bool isNextOidStored = true;
+    bool isInTransaction = false;
+    bool isSchemaChanged = false;
+
+    /// Opens the connection the hardened way, prepares its statements and reads the schema.
+    [[nodiscard]] Result<void> Connect();
+    /// A fresh identifier; the counter is stored with the transaction.
+    [[nodiscard]] Result<ObjectId> AllocateOid();
+
+    /// Starts a write of its own, or joins the transaction that runs. Refused on a file that is
+    /// not the one that was opened.
+    [[nodiscard]] Result<void> BeginWrite();
+    /// Makes a write of its own durable, or undoes it when `outcome` is a failure; within a
+    /// transaction only passes `outcome` on.
+    [[nodiscard]] Result<void> EndWrite(const Result<void>& outcome);
+
+    [[nodiscard]] Result<void> Begin();
+    [[nodiscard]] Result<void> Commit();
+    /// Undoes everything since Begin and reads the schema anew if it had changed.
+    void Rollback();
+};
+
+/// Opens a connection to the volume at `path` under the confined VFS, everything dangerous off.
+/// An absent file is made when `isNew`.
+[[nodiscard]] Result<ConnectionHandle> OpenConnection(
+    const QByteArray& path, VolumeAccess access, bool isWritable, bool isNew);
+
+} // namespace Quillory

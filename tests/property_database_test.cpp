@@ -1,0 +1,342 @@
+#include "tests/volume_fixture.h"
+
+#include <QTest>
+
+#include <cmath>
+#include <set>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr PropertyId kName = MakePropertyId(10001, CEVT_LPWSTR);
+constexpr PropertyId kCount = MakePropertyId(10002, CEVT_I4);
+constexpr PropertyId kPrice = MakePropertyId(77, CEVT_R8);
+constexpr PropertyId kUndeclared = MakePropertyId(11008, CEVT_BLOB);
+constexpr DatabaseType kType { 71990002 };
+const std::vector<SortOrder> kByName { { kName } };
+const std::vector<PropertySpec> kSpecs {
+    { kName, u"Name"_s },
+    { kCount, u"Quantity"_s },
+    { kPrice, u"name"_s },
+};
+
+PropertyValue Text(const QString& text)
+{
+    return { kName, 0, text };
+}
+PropertyValue Count(qint32 count)
+{
+    return { kCount, 0, count };
+}
+
+/// A volume with one database of rows, and verbs on it.
+class Rows : public VolumeFixture
+{
+public:
+    Rows()
+    {
+        Mount();
+        oid = Take(volume->CreateDatabase(u"rows"_s, kType, kSpecs, kByName));
+        Open();
+    }
+    void Open() { rows = Take(volume->OpenDatabase(u"rows"_s, kByName.front())); }
+    void Reopen()
+    {
+        rows.reset();
+        Remount();
+        Open();
+    }
+    ObjectId Add(const std::vector<PropertyValue>& values)
+    {
+        return Take(rows->Write(kNoObject, values));
+    }
+    /// The names in sort order, "-" for a record without one.
+    QString Names()
+    {
+        QStringList names;
+        for (ObjectId at = Take(rows->SeekFirst()); at != kNoObject; at = Take(rows->SeekNext(1))) {
+            const Record record = Take(rows->ReadAll());
+            const PropertyValue* name = FindProperty(record.values, kName);
+            names << (name == nullptr ? u"-"_s : std::get<QString>(name->value));
+        }
+        return names.join(u' ');
+    }
+    PropertyVariant Value(ObjectId record, PropertyId id)
+    {
+        Take(rows->SeekTo(record));
+        const std::vector ids { id };
+        return Take(rows->Read(ids)).values.front().value;
+    }
+
+    ObjectId oid = kNoObject;
+    std::unique_ptr<Database> rows;
+};
+
+} // namespace
+
+class PropertyDatabaseTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void valuesComeBackAsTheyWereWritten_data();
+    void valuesComeBackAsTheyWereWritten();
+    void recordsAreSortedByUnitWithMissingKeysLast();
+    void equalKeysKeepTheOrderOfTheirIdentifiers();
+    void aWalkSurvivesWritesUnderIt();
+    void aWalkGoesBothWays();
+    void aDeletedRecordCannotBeReadButIsSteppedFrom();
+    void writingSomePropertiesLeavesTheOthers();
+    void readFlagsWhatIsMissing();
+    void undeclaredPropertiesAreKeptButNotDeclared();
+    void identifiersAreNeverUsedAgain();
+    void aRolledBackTransactionLeavesNothing();
+    void aCommittedTransactionIsDurable();
+    void refusals();
+    void scansGiveEveryRecordOnce();
+};
+
+void PropertyDatabaseTest::valuesComeBackAsTheyWereWritten_data()
+{
+    QTest::addColumn<quint32>("type");
+    QTest::addColumn<int>("which");
+    for (const int which : { 0, 1, 2 }) {
+        for (const ValueType type : { CEVT_I2, CEVT_I4, CEVT_UI4, CEVT_R8, CEVT_BOOL, CEVT_LPWSTR,
+                 CEVT_FILETIME, CEVT_BLOB })
+            QTest::addRow("type %d, value %d", type, which) << quint32 { type } << which;
+    }
+}
+
+void PropertyDatabaseTest::valuesComeBackAsTheyWereWritten()
+{
+    QFETCH(quint32, type);
+    QFETCH(int, which);
+    const QString loneSurrogates = QString(QChar(0xDC00)) + u'x' + QChar(0xD800);
+    const std::map<quint32, std::array<PropertyVariant, 3>> values {
+        { CEVT_I2, { qint16 { 0 }, qint16 { -32768 }, qint16 { 32767 } } },
+        { CEVT_I4, { 0, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max() } },
+        { CEVT_UI4, { 0U, 1U, 0xFFFFFFFFU } },
+        { CEVT_R8, { 0.1, -0.0, std::numeric_limits<double>::infinity() } },
+        { CEVT_BOOL, { false, true, true } },
+        { CEVT_LPWSTR, { QString(), loneSurrogates, u"\u00e4\U0001F9C2 \t\r\n"_s } },
+        { CEVT_FILETIME, { FileTime { 0 }, FileTime { 1 }, FileTime { 0xFFFFFFFFFFFFFFFF } } },
+        { CEVT_BLOB, { QByteArray(), QByteArray("\0\1\377", 3), QByteArray(9000, 'b') } },
+    };
+    const PropertyVariant expected = values.at(type).at(static_cast<size_t>(which));
+    Rows rows;
+    const auto id = MakePropertyId(5, static_cast<quint16>(type));
+    const ObjectId oid = rows.Add({ { id, 0, expected } });
+    rows.Reopen();
+    const PropertyVariant actual = rows.Value(oid, id);
+    QVERIFY(actual == expected);
+    if (const auto* number = std::get_if<double>(&actual))
+        QCOMPARE(std::signbit(*number), std::signbit(std::get<double>(expected)));
+}
+
+void PropertyDatabaseTest::recordsAreSortedByUnitWithMissingKeysLast()
+{
+    Rows rows;
+    // By unit a private-use character stands behind one beyond the first plane.
+    const QString beyond = u"\U00010000"_s;
+    rows.Add({ Count(1) });
+    for (const QString& name : { u"pear"_s, u"\uFFFD"_s, beyond, u"Pear"_s, u""_s, u"pea"_s })
+        rows.Add({ Text(name) });
+    rows.Reopen();
+    QCOMPARE(rows.Names(), u" Pear pea pear "_s + beyond + u" \uFFFD -"_s);
+}
+
+void PropertyDatabaseTest::equalKeysKeepTheOrderOfTheirIdentifiers()
+{
+    Rows rows;
+    std::vector<ObjectId> added;
+    for (int i = 0; i < 5; ++i)
+        added.push_back(rows.Add({ Text(u"same"_s), Count(i) }));
+    QVERIFY(Take(rows.rows->ListRecords()) == added);
+}
+
+void PropertyDatabaseTest::aWalkSurvivesWritesUnderIt()
+{
+    Rows rows;
+    for (const QString& name : { u"a"_s, u"b"_s, u"d"_s })
+        rows.Add({ Text(name) });
+    const ObjectId keyless = rows.Add({ Count(0) });
+    QStringList seen;
+    for (ObjectId at = Take(rows.rows->SeekFirst()); at != kNoObject;
+         at = Take(rows.rows->SeekNext(1))) {
+        const Record record = Take(rows.rows->ReadAll());
+        const PropertyValue* name = FindProperty(record.values, kName);
+        seen << (name == nullptr ? u"-"_s : std::get<QString>(name->value));
+        if (seen.last() == u"b"_s)
+            rows.Add({ Text(u"c"_s) });
+        if (seen.last() == u"d"_s)
+            Take(rows.rows->Write(keyless, std::vector { Count(1) }));
+    }
+    QCOMPARE(seen.join(u' '), u"a b c d -"_s);
+}
+
+void PropertyDatabaseTest::aWalkGoesBothWays()
+{
+    Rows rows;
+    std::vector<ObjectId> in;
+    for (const QString& name : { u"a"_s, u"b"_s, u"c"_s })
+        in.push_back(rows.Add({ Text(name) }));
+    in.push_back(rows.Add({ Count(1) }));
+    Database& database = *rows.rows;
+    QCOMPARE(Take(database.SeekFirst()), in[0]);
+    QCOMPARE(Take(database.SeekNext(3)), in[3]);
+    QCOMPARE(Take(database.SeekNext(-1)), in[2]);
+    QCOMPARE(Take(database.SeekNext(-2)), in[0]);
+    QCOMPARE(Take(database.SeekNext(9)), kNoObject);
+    QCOMPARE(Take(database.SeekNext(1)), kNoObject);
+    QCOMPARE(Take(database.SeekNext(-1)), in[3]);
+    QCOMPARE(Take(database.SeekTo(in[1])), in[1]);
+    QCOMPARE(Take(database.SeekNext(1)), in[2]);
+    QCOMPARE(Take(database.SeekTo(static_cast<ObjectId>(9999))), kNoObject);
+}
+
+void PropertyDatabaseTest::aDeletedRecordCannotBeReadButIsSteppedFrom()
+{
+    Rows rows;
+    rows.Add({ Text(u"a"_s) });
+    const ObjectId middle = rows.Add({ Text(u"b"_s) });
+    const ObjectId last = rows.Add({ Text(u"c"_s) });
+    Take(rows.rows->SeekTo(middle));
+    QVERIFY(rows.rows->DeleteRecord(middle).IsOk());
+    QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+    QCOMPARE(Take(rows.rows->SeekNext(1)), last);
+    QCOMPARE(rows.rows->DeleteRecord(middle).Error(), ErrorNumber::NotFound);
+}
+
+void PropertyDatabaseTest::writingSomePropertiesLeavesTheOthers()
+{
+    Rows rows;
+    const ObjectId oid = rows.Add({ Text(u"nails"_s), Count(7), { kPrice, 0, 2.5 } });
+    QCOMPARE(Take(rows.rows->Write(oid, std::vector { Count(8) })), oid);
+    Take(rows.rows->Write(oid, std::vector { PropertyValue { kPrice, CEDB_PROPDELETE, {} } }));
+    rows.Reopen();
+    QCOMPARE(std::get<QString>(rows.Value(oid, kName)), u"nails"_s);
+    QCOMPARE(std::get<qint32>(rows.Value(oid, kCount)), 8);
+    QVERIFY(std::holds_alternative<std::monostate>(rows.Value(oid, kPrice)));
+}
+
+void PropertyDatabaseTest::readFlagsWhatIsMissing()
+{
+    Rows rows;
+    rows.Add({ Text(u"x"_s) });
+    Take(rows.rows->SeekFirst());
+    const std::vector ids { kCount, kName, kUndeclared };
+    const Record record = Take(rows.rows->Read(ids));
+    QCOMPARE(record.values.size(), size_t { 3 });
+    QVERIFY(record.values[0].IsMissing() && record.values[2].IsMissing());
+    QVERIFY(!record.values[1].IsMissing());
+    QCOMPARE(Take(rows.rows->ReadAll()).values.size(), size_t { 1 });
+}
+
+void PropertyDatabaseTest::undeclaredPropertiesAreKeptButNotDeclared()
+{
+    Rows rows;
+    const ObjectId oid = rows.Add({ Text(u"x"_s), { kUndeclared, 0, QByteArray("\1\2", 2) } });
+    rows.Reopen();
+    QCOMPARE(std::get<QByteArray>(rows.Value(oid, kUndeclared)), QByteArray("\1\2", 2));
+    QCOMPARE(rows.rows->Properties().size(), kSpecs.size());
+    QCOMPARE(rows.rows->Properties()[2].name, u"name"_s);
+}
+
+void PropertyDatabaseTest::identifiersAreNeverUsedAgain()
+{
+    Rows rows;
+    std::set<ObjectId> seen { rows.oid };
+    for (int i = 0; i < 3; ++i) {
+        const ObjectId oid = rows.Add({ Text(u"x"_s) });
+        QVERIFY(seen.insert(oid).second);
+        QVERIFY(rows.rows->DeleteRecord(oid).IsOk());
+        rows.Reopen();
+    }
+}
+
+void PropertyDatabaseTest::aRolledBackTransactionLeavesNothing()
+{
+    Rows rows;
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    QCOMPARE(rows.volume->BeginTransaction().Error(), ErrorNumber::AlreadyExists);
+    rows.Add({ Text(u"x"_s), { kUndeclared, 0, QByteArray("b") } });
+    Take(rows.volume->CreateDatabase(u"other"_s, kType, kSpecs, kByName));
+    QVERIFY(rows.volume->EndTransaction(false).IsOk());
+    QCOMPARE(Take(rows.rows->RecordCount()), 0);
+    QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
+    // The column that went with the transaction comes back with the next write.
+    const ObjectId oid = rows.Add({ { kUndeclared, 0, QByteArray("c") } });
+    rows.Reopen();
+    QCOMPARE(std::get<QByteArray>(rows.Value(oid, kUndeclared)), QByteArray("c"));
+    QVERIFY(Take(rows.volume->Check()).empty());
+}
+
+void PropertyDatabaseTest::aCommittedTransactionIsDurable()
+{
+    Rows rows;
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    rows.Add({ Text(u"b"_s) });
+    rows.Add({ Text(u"a"_s) });
+    QVERIFY(rows.volume->EndTransaction(true).IsOk());
+    rows.Reopen();
+    QCOMPARE(rows.Names(), u"a b"_s);
+    // One left open ends with the program, and nothing of it stays.
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    rows.Add({ Text(u"c"_s) });
+    rows.Reopen();
+    QCOMPARE(rows.Names(), u"a b"_s);
+}
+
+void PropertyDatabaseTest::refusals()
+{
+    Rows rows;
+    const auto create = [&](const QString& name, const std::vector<PropertySpec>& specs,
+                            const std::vector<SortOrder>& orders) {
+        return rows.volume->CreateDatabase(name, kType, specs, orders).Error();
+    };
+    QCOMPARE(create(u"rows"_s, kSpecs, kByName), ErrorNumber::DuplicateName);
+    QCOMPARE(
+        create(u"x"_s, { { kName, u"a"_s }, { kName, u"b"_s } }, {}), ErrorNumber::AlreadyExists);
+    QCOMPARE(create(u"x"_s, {}, {}), ErrorNumber::InvalidParameter);
+    QCOMPARE(create(u"x"_s, { { kCount, u"a"_s } }, kByName), ErrorNumber::InvalidParameter);
+    const auto write = [&](ObjectId oid, const std::vector<PropertyValue>& values) {
+        return rows.rows->Write(oid, values).Error();
+    };
+    QCOMPARE(write(kNoObject, {}), ErrorNumber::InvalidParameter);
+    QCOMPARE(write(kNoObject, { Count(1), Count(2) }), ErrorNumber::AlreadyExists);
+    QCOMPARE(write(kNoObject, { { kCount, 0, u"text"_s } }), ErrorNumber::InvalidParameter);
+    QCOMPARE(write(static_cast<ObjectId>(9999), { Count(1) }), ErrorNumber::NotFound);
+    QCOMPARE(rows.volume->DeleteDatabase(rows.oid).Error(), ErrorNumber::SharingViolation);
+    QCOMPARE(
+        rows.volume->DeleteDatabase(static_cast<ObjectId>(9999)).Error(), ErrorNumber::NotFound);
+    QCOMPARE(Take(rows.rows->RecordCount()), 0);
+    rows.rows.reset();
+    QVERIFY(rows.volume->DeleteDatabase(rows.oid).IsOk());
+    QCOMPARE(
+        rows.volume->OpenDatabase(u"rows"_s, kByName.front()).Error(), ErrorNumber::FileNotFound);
+}
+
+void PropertyDatabaseTest::scansGiveEveryRecordOnce()
+{
+    Rows rows;
+    rows.Add({ Text(u"b"_s), Count(2) });
+    rows.Add({ Count(3) });
+    rows.Add({ Text(u"a"_s) });
+    const std::vector ids { kCount, kUndeclared };
+    const auto counts = [&](ScanOrder order) {
+        QStringList texts;
+        const auto done = rows.rows->Scan(ids, order, [&](ObjectId, auto values) {
+            texts << (values[0].IsMissing() ? u"-"_s
+                                            : QString::number(std::get<qint32>(values[0].value)));
+            return values[1].IsMissing();
+        });
+        return done.IsOk() ? texts : QStringList();
+    };
+    QCOMPARE(counts(ScanOrder::Sorted), QStringList({ u"-"_s, u"2"_s, u"3"_s }));
+    QCOMPARE(counts(ScanOrder::Any), QStringList({ u"2"_s, u"3"_s, u"-"_s }));
+}
+
+QTEST_GUILESS_MAIN(PropertyDatabaseTest)
+#include "property_database_test.moc"
