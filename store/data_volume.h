@@ -107,8 +107,7 @@ private:
     Database* Find(DatabaseType type);
 };
 
-/// Rolls back when left without a commit, unless the caller's transaction was already running, in
-/// which case it takes no part.
+/// A transaction that rolls back when it is left without a commit.
 class Transaction
 {
 public:
@@ -117,7 +116,7 @@ public:
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
-    /// Whether the transaction could be begun.
+    /// Whether it could be begun; not while another is running.
     explicit operator bool() const { return m_isOpen; }
     /// True once the changes are durable.
     bool Commit();

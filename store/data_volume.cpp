@@ -1,0 +1,241 @@
+#include "store/data_volume.h"
+
+#include "store/list_catalogue.h"
+
+#include <algorithm>
+
+namespace Quillory {
+
+DataVolume::DataVolume() = default;
+
+DataVolume::~DataVolume()
+{
+    Unmount();
+}
+
+template <typename T> bool DataVolume::Note(const Result<T>& result)
+{
+    if (!result)
+        m_lastError = result.Error();
+    return result.IsOk();
+}
+
+Database* DataVolume::Find(DatabaseType type)
+{
+    const auto found = m_open.find(type);
+    if (found != m_open.end())
+        return found->second.database.get();
+    m_lastError = ErrorNumber::InvalidHandle;
+    return nullptr;
+}
+
+ErrorNumber DataVolume::Mount(const QString& path, Disposition disposition, VolumeAccess access)
+{
+    if (m_volume != nullptr)
+        return m_lastError = ErrorNumber::AlreadyExists;
+    auto mounted = Volume::Mount(path, disposition, access);
+    if (Note(mounted))
+        m_volume = std::move(*mounted);
+    return mounted.Error();
+}
+
+bool DataVolume::Unmount()
+{
+    Close(ListCatalogue::kCatalogueType);
+    m_open.clear();
+    m_hasSession = false;
+    m_volume.reset();
+    return true;
+}
+
+bool DataVolume::Flush()
+{
+    return m_volume != nullptr;
+}
+
+bool DataVolume::OpenSession()
+{
+    m_hasSession = m_volume != nullptr;
+    return m_hasSession;
+}
+
+bool DataVolume::Exists(DatabaseType type)
+{
+    if (m_volume == nullptr)
+        return false;
+    const auto databases = m_volume->Databases();
+    return Note(databases)
+        && std::any_of(databases->begin(), databases->end(),
+            [type](const Volume::DatabaseInfo& info) { return info.type == type; });
+}
+
+ObjectId DataVolume::Create(const QString& name, DatabaseType type,
+    std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
+{
+    if (specs.empty())
+        return static_cast<ObjectId>(ErrorNumber::InvalidParameter);
+    if (m_volume == nullptr)
+        return kNoObject;
+    const auto created = m_volume->CreateDatabase(name, type, specs, sortOrders);
+    return Note(created) ? *created : kNoObject;
+}
+
+bool DataVolume::Open(const QString& name, DatabaseType type, const SortOrder& sortOrder,
+    quint32 /*flags*/, const NotifyRequest* notifyRequest)
+{
+    if (m_open.contains(type))
+        return true;
+    if (!m_hasSession) {
+        m_lastError = ErrorNumber::InvalidHandle;
+        return false;
+    }
+    auto opened = m_volume->OpenDatabase(name, sortOrder);
+    if (!Note(opened))
+        return false;
+    OpenEntry entry { std::move(*opened), std::nullopt };
+    if (notifyRequest != nullptr)
+        entry.request = *notifyRequest;
+    m_open.emplace(type, std::move(entry));
+    return true;
+}
+
+void DataVolume::Close(DatabaseType type)
+{
+    m_open.erase(type);
+}
+
+ObjectId DataVolume::DatabaseOid(DatabaseType type) const
+{
+    const auto found = m_open.find(type);
+    return found == m_open.end() ? kNoObject : found->second.database->Oid();
+}
+
+qint64 DataVolume::RecordCount(DatabaseType type)
+{
+    Database* database = Find(type);
+    if (database == nullptr)
+        return -1;
+    const auto count = database->RecordCount();
+    return Note(count) ? *count : -1;
+}
+
+int DataVolume::PropertyCount(DatabaseType type)
+{
+    const Database* database = Find(type);
+    return database == nullptr ? -1 : static_cast<int>(database->Properties().size());
+}
+
+std::vector<PropertySpec> DataVolume::PropertySpecs(DatabaseType type, int count)
+{
+    const Database* database = Find(type);
+    if (database == nullptr || count <= 0)
+        return {};
+    auto specs = database->Properties();
+    specs.resize(std::min(specs.size(), static_cast<size_t>(count)));
+    return specs;
+}
+
+ObjectId DataVolume::SeekFirst(DatabaseType type)
+{
+    Database* database = Find(type);
+    if (database == nullptr)
+        return kNoObject;
+    const auto oid = database->SeekFirst();
+    return Note(oid) ? *oid : kNoObject;
+}
+
+ObjectId DataVolume::SeekNext(DatabaseType type, int n)
+{
+    Database* database = Find(type);
+    if (database == nullptr)
+        return kNoObject;
+    const auto oid = database->SeekNext(n);
+    return Note(oid) ? *oid : kNoObject;
+}
+
+ObjectId DataVolume::SeekTo(DatabaseType type, ObjectId oid)
+{
+    Database* database = Find(type);
+    if (database == nullptr)
+        return kNoObject;
+    const auto found = database->SeekTo(oid);
+    return Note(found) ? *found : kNoObject;
+}
+
+Record DataVolume::ReadAll(DatabaseType type)
+{
+    Database* database = Find(type);
+    if (database == nullptr)
+        return {};
+    auto record = database->ReadAll();
+    return Note(record) ? std::move(*record) : Record {};
+}
+
+Record DataVolume::Read(DatabaseType type, std::span<const PropertyId> ids)
+{
+    Database* database = Find(type);
+    if (database == nullptr)
+        return {};
+    auto record = database->Read(ids);
+    return Note(record) ? std::move(*record) : Record {};
+}
+
+ObjectId DataVolume::Write(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values)
+{
+    Database* database = Find(type);
+    if (database == nullptr)
+        return kNoObject;
+    const auto written = database->Write(oid, values);
+    return Note(written) ? *written : kNoObject;
+}
+
+bool DataVolume::DeleteRecord(DatabaseType type, ObjectId oid)
+{
+    Database* database = Find(type);
+    return database != nullptr && Note(database->DeleteRecord(oid));
+}
+
+bool DataVolume::DeleteDatabase(ObjectId oid)
+{
+    return m_volume != nullptr && Note(m_volume->DeleteDatabase(oid));
+}
+
+bool DataVolume::BeginTransaction()
+{
+    if (!m_hasSession) {
+        m_lastError = ErrorNumber::InvalidHandle;
+        return false;
+    }
+    return Note(m_volume->BeginTransaction());
+}
+
+bool DataVolume::EndTransaction(bool commit)
+{
+    return m_volume != nullptr && Note(m_volume->EndTransaction(commit));
+}
+
+Database* DataVolume::OpenDatabase(DatabaseType type)
+{
+    return Find(type);
+}
+
+Transaction::Transaction(DataVolume& volume)
+    : m_volume(volume)
+    , m_isOpen(volume.BeginTransaction())
+{ }
+
+Transaction::~Transaction()
+{
+    if (m_isOpen)
+        m_volume.EndTransaction(false);
+}
+
+bool Transaction::Commit()
+{
+    if (!m_isOpen)
+        return false;
+    m_isOpen = false;
+    return m_volume.EndTransaction(true);
+}
+
+} // namespace Quillory

@@ -1,0 +1,29 @@
+#include "store/inventory_list.h"
+
+#include "res/string_table.h"
+#include "values/column_type.h"
+
+#include <numeric>
+
+namespace Quillory {
+
+InventoryList NewInventoryList()
+{
+    constexpr int kNameText = 103;
+    constexpr int kQuantityText = 106;
+    InventoryList list;
+    list.columns = {
+        { LoadString(kNameText), kKindName, PropName },
+        { LoadString(kQuantityText), kKindCount, PropCount },
+    };
+    return list;
+}
+
+std::vector<quint32> NaturalColumnOrder(const InventoryList& list)
+{
+    std::vector<quint32> order(list.columns.size());
+    std::iota(order.begin(), order.end(), 0U);
+    return order;
+}
+
+} // namespace Quillory

@@ -1,0 +1,338 @@
+#include "store/list_catalogue.h"
+
+#include "values/column_type.h"
+
+#include <QRandomGenerator>
+#include <QtEndian>
+
+#include <algorithm>
+#include <array>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr PropertyId kName = MakePropertyId(11001, CEVT_LPWSTR);
+constexpr PropertyId kMapName = MakePropertyId(11002, CEVT_LPWSTR);
+constexpr PropertyId kTableIcon = MakePropertyId(11003, CEVT_I2);
+constexpr PropertyId kTableOption = MakePropertyId(11004, CEVT_UI4);
+constexpr PropertyId kTableWarnColour = MakePropertyId(11005, CEVT_UI4);
+constexpr PropertyId kTableWarnStart = MakePropertyId(11006, CEVT_I4);
+constexpr PropertyId kTableColSizes = MakePropertyId(11007, CEVT_LPWSTR);
+constexpr PropertyId kColumnOrder = MakePropertyId(11008, CEVT_BLOB);
+constexpr PropertyId kTableFilters = MakePropertyId(11009, CEVT_BLOB);
+constexpr PropertyId kTableExpiryColour = MakePropertyId(11010, CEVT_UI4);
+
+constexpr SortOrder kByListName { kName };
+constexpr SortOrder kByRowName { PropName };
+
+const QString& CatalogueName()
+{
+    static const QString name = u"InvLists"_s;
+    return name;
+}
+
+/// The random numbers of map names and columns reach from 0 to here.
+constexpr int kMaxRandom = 32767;
+/// So much of a list's name begins its map name.
+constexpr qsizetype kMapNameStem = 16;
+
+quint16 RandomNumber()
+{
+    return static_cast<quint16>(QRandomGenerator::global()->bounded(kMaxRandom + 1));
+}
+
+QByteArray PackColumnOrder(const std::vector<quint32>& order)
+{
+    QByteArray bytes(static_cast<qsizetype>(order.size() * sizeof(quint32)), Qt::Uninitialized);
+    qToLittleEndian<quint32>(order.data(), static_cast<qsizetype>(order.size()), bytes.data());
+    return bytes;
+}
+
+std::vector<quint32> UnpackColumnOrder(const QByteArray& bytes)
+{
+    std::vector<quint32> order(static_cast<size_t>(bytes.size()) / sizeof(quint32));
+    qFromLittleEndian<quint32>(bytes.data(), static_cast<qsizetype>(order.size()), order.data());
+    return order;
+}
+
+void ApplyProperty(InventoryList& definition, const PropertyValue& value)
+{
+    switch (value.id) {
+    case kTableOption:
+        definition.TableOption = std::get<quint32>(value.value);
+        break;
+    case kTableWarnColour:
+        definition.TableWarnColour = std::get<quint32>(value.value);
+        break;
+    case kTableWarnStart:
+        definition.TableWarnStart = std::get<qint32>(value.value);
+        break;
+    case kTableColSizes:
+        definition.TableColSizes = std::get<QString>(value.value);
+        break;
+    case kColumnOrder:
+        definition.columnOrder = UnpackColumnOrder(std::get<QByteArray>(value.value));
+        break;
+    case kTableExpiryColour:
+        definition.TableExpiryColour = std::get<quint32>(value.value);
+        break;
+    default:
+        break;
+    }
+}
+
+/// Settings present in `values` go to the definition; a column order that is not there leaves none.
+void ApplyProperties(InventoryList& definition, std::span<const PropertyValue> values)
+{
+    definition.columnOrder.clear();
+    for (const PropertyValue& value : values) {
+        if (!value.IsMissing())
+            ApplyProperty(definition, value);
+    }
+}
+
+std::vector<PropertyValue> OptionValues(const InventoryList& definition)
+{
+    return {
+        { kTableOption, 0, definition.TableOption },
+        { kTableWarnColour, 0, definition.TableWarnColour },
+        { kTableWarnStart, 0, definition.TableWarnStart },
+        { kTableColSizes, 0, definition.TableColSizes },
+        { kColumnOrder, 0, PackColumnOrder(definition.columnOrder) },
+        { kTableExpiryColour, 0, definition.TableExpiryColour },
+    };
+}
+
+int KindOf(PropertyId column)
+{
+    if (column == PropName)
+        return kKindName;
+    if (column == PropCount)
+        return kKindCount;
+    return static_cast<int>(ColumnTypeOf(column));
+}
+
+std::vector<PropertySpec> SpecsOf(const InventoryList& definition)
+{
+    std::vector<PropertySpec> specs;
+    for (const ColumnDefinition& column : definition.columns)
+        specs.push_back({ column.id, column.name });
+    return specs;
+}
+
+} // namespace
+
+ListCatalogue::ListCatalogue(DataVolume& volume)
+    : m_volume(volume)
+{ }
+
+ListCatalogue::OpenOutcome ListCatalogue::OpenCatalogue()
+{
+    if (!m_volume.Exists(kCatalogueType) && !CreateCatalogue())
+        return OpenOutcome::CannotCreateTable;
+    const bool isOpen
+        = m_volume.OpenSession() && m_volume.Open(CatalogueName(), kCatalogueType, kByListName);
+    return isOpen ? OpenOutcome::Opened : OpenOutcome::CannotOpen;
+}
+
+bool ListCatalogue::CreateCatalogue()
+{
+    const std::array<PropertySpec, 9> specs { {
+        { kName, u"Name"_s },
+        { kMapName, u"MapName"_s },
+        { kTableIcon, u"TableIcon"_s },
+        { kTableOption, u"TableOption"_s },
+        { kTableWarnColour, u"TableWarnColour"_s },
+        { kTableWarnStart, u"TableWarnStart"_s },
+        { kTableColSizes, u"TableColSizes"_s },
+        { kTableFilters, u"TableFilters"_s },
+        { kTableExpiryColour, u"TableExpiryColour"_s },
+    } };
+    return m_volume.Create(CatalogueName(), kCatalogueType, specs, std::span(&kByListName, 1))
+        != kNoObject;
+}
+
+std::vector<ListCatalogue::HomeListEntry> ListCatalogue::FillHomeList()
+{
+    std::vector<HomeListEntry> entries;
+    Database* catalogue = m_volume.OpenDatabase(kCatalogueType);
+    if (catalogue == nullptr)
+        return entries;
+    constexpr std::array kIds { kName, kTableIcon };
+    // A record that cannot be read ends the list; those before it are shown.
+    static_cast<void>(catalogue
+                          ->Scan(kIds, ScanOrder::Sorted,
+                              [&entries](ObjectId oid, std::span<const PropertyValue> values) {
+                                  HomeListEntry entry { oid, {}, 0 };
+                                  if (const auto* name = std::get_if<QString>(&values[0].value))
+                                      entry.name = *name;
+                                  if (const auto* icon = std::get_if<qint16>(&values[1].value))
+                                      entry.icon = *icon;
+                                  entries.push_back(std::move(entry));
+                                  return true;
+                              })
+                          .IsOk());
+    return entries;
+}
+
+ObjectId ListCatalogue::FindList(const QString& name)
+{
+    const auto entries = FillHomeList();
+    const auto found = std::find_if(entries.begin(), entries.end(),
+        [&name](const HomeListEntry& entry) { return entry.name == name; });
+    return found == entries.end() ? kNoObject : found->oid;
+}
+
+std::optional<QString> ListCatalogue::ReadListName(ObjectId oid)
+{
+    constexpr std::array kIds { kName };
+    if (m_volume.SeekTo(kCatalogueType, oid) == kNoObject)
+        return std::nullopt;
+    const Record record = m_volume.Read(kCatalogueType, kIds);
+    if (!record || record.values.front().IsMissing())
+        return std::nullopt;
+    return std::get<QString>(record.values.front().value);
+}
+
+bool ListCatalogue::ReadListHeader(ObjectId oid, InventoryList& definition)
+{
+    if (m_volume.SeekTo(kCatalogueType, oid) == kNoObject)
+        return false;
+    const Record record = m_volume.ReadAll(kCatalogueType);
+    if (!record)
+        return false;
+    if (const auto* name = FindProperty(record.values, kName))
+        definition.Name = std::get<QString>(name->value);
+    if (const auto* mapName = FindProperty(record.values, kMapName))
+        definition.MapName = std::get<QString>(mapName->value);
+    if (const auto* icon = FindProperty(record.values, kTableIcon))
+        definition.TableIcon = std::get<qint16>(icon->value);
+    ApplyProperties(definition, record.values);
+    return true;
+}
+
+std::optional<QString> ListCatalogue::ReadListDefinition(ObjectId oid, InventoryList* definition)
+{
+    constexpr std::array kIds { kMapName, kTableOption, kTableWarnColour, kTableWarnStart,
+        kTableColSizes, kColumnOrder, kTableExpiryColour };
+    if (m_volume.SeekTo(kCatalogueType, oid) == kNoObject)
+        return std::nullopt;
+    const Record record = m_volume.Read(kCatalogueType, kIds);
+    if (!record || record.values.front().IsMissing())
+        return std::nullopt;
+    if (definition != nullptr)
+        ApplyProperties(*definition, record.values);
+    return std::get<QString>(record.values.front().value);
+}
+
+ObjectId ListCatalogue::AddList(const InventoryList& definition)
+{
+    std::vector<PropertyValue> values {
+        { kName, 0, definition.Name },
+        { kMapName, 0, definition.MapName },
+        { kTableIcon, 0, definition.TableIcon },
+    };
+    for (PropertyValue& value : OptionValues(definition)) {
+        if (value.id != kColumnOrder || !definition.columnOrder.empty())
+            values.push_back(std::move(value));
+    }
+    return m_volume.Write(kCatalogueType, kNoObject, values);
+}
+
+bool ListCatalogue::RenameList(ObjectId oid, const QString& name)
+{
+    const std::array<PropertyValue, 1> values { { { kName, 0, name } } };
+    return m_volume.Write(kCatalogueType, oid, values) == oid;
+}
+
+bool ListCatalogue::UpdateListOptions(ObjectId oid, const InventoryList& definition)
+{
+    return m_volume.Write(kCatalogueType, oid, OptionValues(definition)) == oid;
+}
+
+bool ListCatalogue::UpdateList(ObjectId oid, const InventoryList& definition)
+{
+    std::vector<PropertyValue> values = OptionValues(definition);
+    values.push_back({ kName, 0, definition.Name });
+    values.push_back({ kTableIcon, 0, definition.TableIcon });
+    return m_volume.Write(kCatalogueType, oid, values) == oid;
+}
+
+ListCatalogue::CreateOutcome ListCatalogue::CreateList(InventoryList& definition)
+{
+    definition.MapName = definition.Name.left(kMapNameStem) + QString::number(RandomNumber());
+    if (definition.columnOrder.empty())
+        definition.columnOrder = NaturalColumnOrder(definition);
+    CreateOutcome outcome;
+    Transaction transaction(m_volume);
+    if (!transaction)
+        return outcome;
+    outcome.oid = AddList(definition);
+    if (outcome.oid == kNoObject)
+        return outcome;
+    outcome.isCommitted = CreateRowDatabase(definition) && transaction.Commit();
+    return outcome;
+}
+
+bool ListCatalogue::CreateRowDatabase(InventoryList& definition)
+{
+    // Two columns that draw one number make the creation fail, and with it the whole list.
+    for (ColumnDefinition& column : definition.columns) {
+        if (!IsBuiltInColumn(column.id))
+            column.id = MakePropertyId(RandomNumber(), PropertyType(column.id));
+    }
+    return m_volume.Create(
+               definition.MapName, kRowsType, SpecsOf(definition), std::span(&kByRowName, 1))
+        != kNoObject;
+}
+
+bool ListCatalogue::OpenList(ObjectId oid, InventoryList& definition)
+{
+    CloseRows();
+    definition = InventoryList {};
+    if (!ReadListHeader(oid, definition)
+        || !m_volume.Open(definition.MapName, kRowsType, kByRowName))
+        return false;
+    const auto specs = m_volume.PropertySpecs(kRowsType, m_volume.PropertyCount(kRowsType));
+    for (const PropertySpec& spec : specs)
+        definition.columns.push_back({ spec.name, KindOf(spec.id), spec.id });
+    return true;
+}
+
+void ListCatalogue::CloseRows()
+{
+    m_volume.Close(kRowsType);
+}
+
+bool ListCatalogue::DeleteList(ObjectId oid)
+{
+    InventoryList definition;
+    if (!OpenList(oid, definition))
+        return false;
+    const ObjectId rows = m_volume.DatabaseOid(kRowsType);
+    CloseRows();
+    Transaction transaction(m_volume);
+    return transaction && m_volume.DeleteDatabase(rows)
+        && m_volume.DeleteRecord(kCatalogueType, oid) && transaction.Commit() && m_volume.Flush();
+}
+
+ListCatalogue::EmptyOutcome ListCatalogue::DeleteAllRows(ObjectId oid)
+{
+    InventoryList definition;
+    if (!OpenList(oid, definition))
+        return EmptyOutcome::CannotOpen;
+    const ObjectId rows = m_volume.DatabaseOid(kRowsType);
+    CloseRows();
+    Transaction transaction(m_volume);
+    if (!transaction || !m_volume.DeleteDatabase(rows))
+        return EmptyOutcome::CannotOpen;
+    const ObjectId created = m_volume.Create(
+        definition.MapName, kRowsType, SpecsOf(definition), std::span(&kByRowName, 1));
+    const bool isDone = created != kNoObject && transaction.Commit() && m_volume.Flush();
+    return isDone ? EmptyOutcome::Done : EmptyOutcome::CannotCreateRows;
+}
+
+} // namespace Quillory

@@ -1,0 +1,197 @@
+#include "store/row_store.h"
+
+#include "store/column_scan.h"
+#include "store/list_catalogue.h"
+#include "values/column_type.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr DatabaseType kRows = ListCatalogue::kRowsType;
+
+/// The order of `keys`, equal ones in the order in which they stand.
+template <typename Key>
+std::vector<ObjectId> Reorder(const std::vector<ObjectId>& rows, const std::vector<Key>& keys)
+{
+    std::vector<quint32> order(rows.size());
+    for (size_t i = 0; i < order.size(); ++i)
+        order[i] = static_cast<quint32>(i);
+    std::sort(order.begin(), order.end(), [&keys](quint32 a, quint32 b) {
+        if (keys[a] < keys[b])
+            return true;
+        return !(keys[b] < keys[a]) && a < b;
+    });
+    std::vector<ObjectId> sorted;
+    sorted.reserve(rows.size());
+    for (const quint32 position : order)
+        sorted.push_back(rows[position]);
+    return sorted;
+}
+
+/// Reads `column` once into a key per row; a row without a value keeps the key's default.
+template <typename Key, typename Value>
+std::vector<ObjectId> SortBy(Database& database, const std::vector<ObjectId>& rows,
+    PropertyId column, Key (*makeKey)(const Value&))
+{
+    std::vector<Key> keys(rows.size());
+    const RowPositions positions(rows);
+    const auto read = database.Scan(std::span(&column, 1), ScanOrder::Any,
+        [&](ObjectId oid, std::span<const PropertyValue> values) {
+            const quint32 position = positions.Find(oid);
+            const auto* value = std::get_if<Value>(&values.front().value);
+            if (position != RowPositions::kNowhere && value != nullptr)
+                keys[position] = makeKey(*value);
+            return true;
+        });
+    return read ? Reorder(rows, keys) : rows;
+}
+
+} // namespace
+
+RowStore::RowStore(DataVolume& volume, const InventoryList& list, const ValueContext& context)
+    : m_volume(volume)
+    , m_list(list)
+    , m_context(context)
+{ }
+
+std::vector<ObjectId> RowStore::FillRows()
+{
+    Database* database = m_volume.OpenDatabase(kRows);
+    if (database == nullptr)
+        return {};
+    auto rows = database->ListRecords();
+    return rows ? std::move(*rows) : std::vector<ObjectId>();
+}
+
+std::vector<ObjectId> RowStore::FillFilteredRows(const FilterSet& filters)
+{
+    Database* database = m_volume.OpenDatabase(kRows);
+    if (database == nullptr || filters.entries.empty())
+        return FillRows();
+    std::vector<ObjectId> passing;
+    const auto collect = [&passing](ObjectId oid, std::span<const PropertyValue>) {
+        passing.push_back(oid);
+        return true;
+    };
+    const auto scanned = ScanFiltered(*database, {}, &filters, m_context, ScanOrder::Any, collect);
+    if (!scanned) {
+        // In sorted order the rows before the one that cannot be read are known.
+        passing.clear();
+        static_cast<void>(
+            ScanFiltered(*database, {}, &filters, m_context, ScanOrder::Sorted, collect).IsOk());
+        return passing;
+    }
+    if (passing.empty())
+        return passing;
+    const RowPositions isPassing(passing);
+    std::vector<ObjectId> rows = FillRows();
+    std::erase_if(
+        rows, [&](ObjectId oid) { return isPassing.Find(oid) == RowPositions::kNowhere; });
+    return rows;
+}
+
+std::vector<ObjectId> RowStore::SortRows(std::vector<ObjectId> rows, PropertyId column)
+{
+    Database* database = m_volume.OpenDatabase(kRows);
+    if (database == nullptr)
+        return rows;
+    switch (ColumnTypeOf(column)) {
+    case ColumnType::Integer:
+        return SortBy<qint32, qint32>(
+            *database, rows, column, [](const qint32& value) { return value; });
+    case ColumnType::Price:
+        return SortBy<double, double>(
+            *database, rows, column, [](const double& value) { return value; });
+    case ColumnType::Checkbox:
+        return SortBy<quint8, bool>(
+            *database, rows, column, [](const bool& value) { return quint8 { value }; });
+    case ColumnType::Date:
+        return SortBy<quint64, FileTime>(
+            *database, rows, column, [](const FileTime& value) { return value.ticks; });
+    case ColumnType::String:
+        return SortBy<QString, QString>(
+            *database, rows, column, [](const QString& value) { return value; });
+    }
+    return rows;
+}
+
+std::vector<PropertyValue> RowStore::ParseTexts(std::span<const QString> texts) const
+{
+    std::vector<PropertyValue> values;
+    values.reserve(texts.size());
+    const size_t count = std::min(texts.size(), m_list.columns.size());
+    for (size_t i = 0; i < count; ++i) {
+        if (auto value = ParseValueText(m_list.columns[i].id, texts[i], m_context))
+            values.push_back(std::move(*value));
+    }
+    return values;
+}
+
+ObjectId RowStore::WriteNewRow(std::span<const QString> texts)
+{
+    return m_volume.Write(kRows, kNoObject, ParseTexts(texts));
+}
+
+bool RowStore::ModifyRow(ObjectId row, std::span<const QString> texts)
+{
+    return row != kNoObject && m_volume.Write(kRows, row, ParseTexts(texts)) == row;
+}
+
+ObjectId RowStore::CopyRow(ObjectId row)
+{
+    const Record record = ReadRow(row);
+    return record ? m_volume.Write(kRows, kNoObject, record.values) : kNoObject;
+}
+
+bool RowStore::DeleteRow(ObjectId row)
+{
+    return m_volume.DeleteRecord(kRows, row);
+}
+
+std::optional<qint32> RowStore::AdjustCount(ObjectId row, qint32 step)
+{
+    constexpr std::array kIds { PropCount };
+    if (m_volume.SeekTo(kRows, row) == kNoObject)
+        return std::nullopt;
+    Transaction transaction(m_volume);
+    if (!transaction)
+        return std::nullopt;
+    Record record = m_volume.Read(kRows, kIds);
+    if (!record || record.values.front().IsMissing())
+        return std::nullopt;
+    auto& count = std::get<qint32>(record.values.front().value);
+    count = static_cast<qint32>(static_cast<quint32>(count) + static_cast<quint32>(step));
+    if (m_volume.Write(kRows, row, record.values) != row || !transaction.Commit())
+        return std::nullopt;
+    return count;
+}
+
+bool RowStore::SetCheckboxValue(ObjectId row, PropertyId column, bool isChecked)
+{
+    const std::array<PropertyValue, 1> values { { { column, 0, isChecked } } };
+    return row != kNoObject && m_volume.Write(kRows, row, values) == row;
+}
+
+Record RowStore::ReadRow(ObjectId row)
+{
+    return m_volume.SeekTo(kRows, row) == kNoObject ? Record {} : m_volume.ReadAll(kRows);
+}
+
+QString RowStore::FormatCellText(PropertyId column, ObjectId row)
+{
+    if (m_volume.SeekTo(kRows, row) == kNoObject)
+        return u"<Err>"_s;
+    const Record record = m_volume.Read(kRows, std::span(&column, 1));
+    if (!record)
+        return u"<Err>"_s;
+    const PropertyValue& value = record.values.front();
+    return Quillory::FormatCellText(value.IsMissing() ? nullptr : &value, column, m_context);
+}
+
+} // namespace Quillory
