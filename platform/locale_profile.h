@@ -22,11 +22,15 @@ struct LocaleProfile
 {
     QString name;
 
-    /// The short date: d dd ddd dddd M MM MMM MMMM y yy yyyy gg, literals, text in single quotes.
+    /// The short date: d dd M MM MMM MMMM y yy yyyy, literals, text in single quotes.
     QString shortDatePicture;
+    /// A second form in which whole dates are read, never written; empty in most locales.
+    QString longDatePicture;
     DateOrder dateOrder = DateOrder::MonthDayYear;
-    /// The first literal of the picture; a date separator beside '/' and '-'.
+    /// The first mark of the picture; a date separator beside '/' and '-'.
     QChar dateSeparator = u'/';
+    /// The names that dates are read by, without regard to case. Months standing alone are meant:
+    /// "styczeń", not "stycznia".
     std::array<QString, 12> monthNames;
     std::array<QString, 12> shortMonthNames;
     QString amText;

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace Quillory {
+
+/// An 8-bit code page: turns bytes into text as the platform that wrote them did. Bytes without a
+/// character become the control or private-use character of the platform's tables, broken pairs of
+/// bytes the page's default character; nothing fails.
+///
+/// Making one takes some microseconds, for a page of pairs (932, 936, 949, 950) some milliseconds;
+/// keep it for a whole file.
+class CodePage
+{
+public:
+    /// Nothing if the number is none of 874, 932, 936, 949, 950 and 1250 to 1258, or if this
+    /// computer's Qt cannot decode it.
+    [[nodiscard]] static std::optional<CodePage> For(int number);
+
+    /// Writes the text of `bytes` to `target`, which has room for as many units as there are bytes,
+    /// and returns how many units it is. A pair cut at the end gives the default character.
+    qsizetype Decode(QByteArrayView bytes, char16_t* target) const;
+    void AppendDecoded(QString& text, QByteArrayView bytes) const;
+
+private:
+    CodePage() = default;
+
+    /// By byte; a lead byte of a pair has kLeadByte.
+    std::array<char16_t, 256> m_units {};
+    /// By pair, lead byte first, from kFirstLeadByte; 0 for a broken one. Empty if there are none.
+    std::vector<char16_t> m_pairs;
+    char16_t m_defaultUnit = u'?';
+};
+
+/// The ASCII character that a code page puts in the place of a wide digit, full stop, hyphen or of
+/// a minus sign (U+2212); 0 for any other character, and where the page knows no such likeness.
+[[nodiscard]] char16_t AsciiLookAlike(char16_t unit, int codePage);
+
+} // namespace Quillory

@@ -1,0 +1,261 @@
+#include "platform/date_picture.h"
+
+#include <array>
+
+namespace Quillory {
+
+namespace {
+
+constexpr int kFirstYear = 1601;
+constexpr int kLastReadYear = 9999;
+
+/// A run of one letter of a picture, or one literal unit.
+struct PictureToken
+{
+    enum class Kind
+    {
+        Day,
+        Month,
+        Year,
+        Literal,
+    };
+    Kind kind = Kind::Literal;
+    int count = 1;
+    QChar literal;
+};
+
+/// Takes a picture apart from left to right.
+class PictureTokens
+{
+public:
+    explicit PictureTokens(QStringView picture)
+        : m_picture(picture)
+    { }
+
+    std::optional<PictureToken> Next()
+    {
+        while (m_at < m_picture.size() && m_picture[m_at] == u'\'' && !IsDoubledQuote()) {
+            m_quoted = !m_quoted;
+            ++m_at;
+        }
+        if (m_at >= m_picture.size()) {
+            return std::nullopt;
+        }
+        const QChar unit = m_picture[m_at];
+        if (m_quoted || (unit != u'd' && unit != u'M' && unit != u'y')) {
+            m_at += unit == u'\'' ? 2 : 1;
+            return PictureToken { PictureToken::Kind::Literal, 1, unit };
+        }
+        int count = 0;
+        while (m_at < m_picture.size() && m_picture[m_at] == unit) {
+            ++m_at;
+            ++count;
+        }
+        return PictureToken { KindOf(unit), count, {} };
+    }
+
+private:
+    static PictureToken::Kind KindOf(QChar letter)
+    {
+        if (letter == u'd') {
+            return PictureToken::Kind::Day;
+        }
+        return letter == u'M' ? PictureToken::Kind::Month : PictureToken::Kind::Year;
+    }
+    bool IsDoubledQuote() const
+    {
+        return m_at + 1 < m_picture.size() && m_picture[m_at + 1] == u'\'';
+    }
+
+    QStringView m_picture;
+    qsizetype m_at = 0;
+    bool m_quoted = false;
+};
+
+void AppendNumber(QString& line, int number, int minDigits)
+{
+    std::array<QChar, 10> digits;
+    auto first = digits.end();
+    int left = number;
+    do {
+        *--first = QChar(static_cast<char16_t>(u'0' + left % 10));
+        left /= 10;
+    } while (left > 0);
+    while (digits.end() - first < minDigits) {
+        *--first = u'0';
+    }
+    line.append(first, digits.end() - first);
+}
+
+void AppendMonth(QString& line, int month, int count, const LocaleProfile& locale)
+{
+    const auto index = static_cast<std::size_t>(month - 1);
+    if (count <= 2) {
+        AppendNumber(line, month, count);
+    } else {
+        line.append(count == 3 ? locale.shortMonthNames.at(index) : locale.monthNames.at(index));
+    }
+}
+
+void AppendYear(QString& line, int year, int count)
+{
+    if (count <= 2) {
+        AppendNumber(line, year % 100, count);
+    } else {
+        AppendNumber(line, year, 4);
+    }
+}
+
+/// Reads one text against one picture.
+class PictureMatch
+{
+public:
+    PictureMatch(QStringView text, DigitCount digits, const LocaleProfile& locale)
+        : m_text(text)
+        , m_digits(digits)
+        , m_locale(locale)
+    { }
+
+    bool Take(const PictureToken& token)
+    {
+        switch (token.kind) {
+        case PictureToken::Kind::Literal:
+            return TakeLiteral(token.literal);
+        case PictureToken::Kind::Day:
+            return token.count <= 2 && TakeDayOrMonth(m_day, token.count);
+        case PictureToken::Kind::Month:
+            return token.count <= 2 ? TakeDayOrMonth(m_month, token.count)
+                                    : TakeMonthName(token.count);
+        case PictureToken::Kind::Year:
+            return token.count > 2 && TakeYear();
+        }
+        return false;
+    }
+
+    std::optional<QDate> Result() const
+    {
+        const int year = m_year - m_locale.yearOffset;
+        const bool isWhole = m_text.isEmpty() && year >= kFirstYear && year <= kLastReadYear
+            && QDate::isValid(year, m_month, m_day);
+        return isWhole ? std::optional(QDate(year, m_month, m_day)) : std::nullopt;
+    }
+
+private:
+    bool TakeLiteral(QChar literal)
+    {
+        if (!m_text.startsWith(literal)) {
+            return false;
+        }
+        m_text = m_text.mid(1);
+        return true;
+    }
+
+    struct Digits
+    {
+        int number = 0;
+        int count = 0;
+    };
+
+    Digits TakeDigits(int maxCount)
+    {
+        Digits digits;
+        while (digits.count < maxCount && digits.count < m_text.size()
+            && m_text[digits.count] >= u'0' && m_text[digits.count] <= u'9') {
+            digits.number = digits.number * 10 + (m_text[digits.count].unicode() - u'0');
+            ++digits.count;
+        }
+        m_text = m_text.mid(digits.count);
+        return digits;
+    }
+
+    bool TakeDayOrMonth(int& target, int count)
+    {
+        const Digits digits = TakeDigits(2);
+        const int written = count == 2 || digits.number >= 10 ? 2 : 1;
+        target = digits.number;
+        return digits.count > 0 && (m_digits == DigitCount::Free || digits.count == written);
+    }
+
+    bool TakeYear()
+    {
+        const Digits digits = TakeDigits(5);
+        m_year = digits.number;
+        return digits.count == 4 || (digits.count == 5 && m_year >= 10'000);
+    }
+
+    bool TakeMonthName(int count)
+    {
+        const auto& names = count == 3 ? m_locale.shortMonthNames : m_locale.monthNames;
+        // Backwards, so that an eleventh month is not taken for a first where both begin alike.
+        for (std::size_t i = names.size(); i-- > 0;) {
+            if (!names.at(i).isEmpty() && m_text.startsWith(names.at(i))) {
+                m_month = static_cast<int>(i) + 1;
+                m_text = m_text.mid(names.at(i).size());
+                return true;
+            }
+        }
+        return false;
+    }
+
+    QStringView m_text;
+    DigitCount m_digits;
+    const LocaleProfile& m_locale;
+    int m_day = 1;
+    int m_month = 0;
+    int m_year = 0;
+};
+
+} // namespace
+
+void AppendDateText(QString& line, QDate date, const LocaleProfile& locale)
+{
+    const auto [year, month, day] = [date] {
+        int y = 0;
+        int m = 0;
+        int d = 0;
+        date.getDate(&y, &m, &d);
+        return std::array { y, m, d };
+    }();
+    if (year < kFirstYear) {
+        return;
+    }
+    PictureTokens tokens(locale.shortDatePicture);
+    while (const auto token = tokens.Next()) {
+        switch (token->kind) {
+        case PictureToken::Kind::Literal:
+            line.append(token->literal);
+            break;
+        case PictureToken::Kind::Day:
+            AppendNumber(line, day, token->count);
+            break;
+        case PictureToken::Kind::Month:
+            AppendMonth(line, month, token->count, locale);
+            break;
+        case PictureToken::Kind::Year:
+            AppendYear(line, year + locale.yearOffset, token->count);
+            break;
+        }
+    }
+}
+
+QString DateText(QDate date, const LocaleProfile& locale)
+{
+    QString text;
+    AppendDateText(text, date, locale);
+    return text;
+}
+
+std::optional<QDate> ReadDateByPicture(
+    QStringView text, QStringView picture, DigitCount digits, const LocaleProfile& locale)
+{
+    PictureTokens tokens(picture);
+    PictureMatch match(text, digits, locale);
+    while (const auto token = tokens.Next()) {
+        if (!match.Take(*token)) {
+            return std::nullopt;
+        }
+    }
+    return match.Result();
+}
+
+} // namespace Quillory

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/locale_profile.h"
+
+#include <QDate>
+#include <QStringView>
+
+#include <optional>
+
+namespace Quillory {
+
+/// Which dates a text of a picture may name.
+enum class DigitCount
+{
+    /// Only the very text that AppendDateText writes.
+    AsWritten,
+    /// Days and months with or without a leading zero.
+    Free,
+};
+
+/// Appends the short form of a date. Only years from 1601 on have one; for others, and for an
+/// invalid date, nothing is appended. Needs no memory of its own, so that it can be called for
+/// every row of a long list.
+void AppendDateText(QString& line, QDate date, const LocaleProfile& locale);
+[[nodiscard]] QString DateText(QDate date, const LocaleProfile& locale);
+
+/// The date from 1601 to 9999 that `text`, from its first to its last character, writes in the
+/// picture. Nothing if it is no such text, or if the picture's year has not all its digits.
+[[nodiscard]] std::optional<QDate> ReadDateByPicture(
+    QStringView text, QStringView picture, DigitCount digits, const LocaleProfile& locale);
+
+} // namespace Quillory

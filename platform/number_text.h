@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/locale_profile.h"
+
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+namespace Quillory {
+
+/// Units that a number's form may have where nothing narrower is asked for.
+constexpr qsizetype kMaxNumberTextLength = 259;
+
+/// Appends a number with a point and two decimals. The exact value is rounded, halves away from
+/// zero; after 17 significant digits zeros follow. A negative number that rounds to zero keeps its
+/// sign. Infinity is 1.#J or -1.#J, and what is no number 1.#R.
+void AppendTwoDecimals(QString& line, double value);
+[[nodiscard]] QString TwoDecimals(double value);
+
+/// Writes a plain number (a minus first, digits, one point) in the locale's form: two decimals,
+/// digits in groups. Nothing if `plain` is no such number or its form is longer than `maxLength`.
+[[nodiscard]] std::optional<QString> FormatNumber(
+    QStringView plain, const LocaleProfile& locale, qsizetype maxLength = kMaxNumberTextLength);
+
+} // namespace Quillory
