@@ -59,7 +59,8 @@ bool IsCertain(PropertyId column, const OrderlessSum& sum)
     if (ColumnTypeOf(column) == ColumnType::Integer)
         return sum.IsExactForIntegers();
     const double reach = sum.Uncertainty();
-    return TwoDecimals(sum.Value() - reach) == TwoDecimals(sum.Value() + reach);
+    return std::isfinite(sum.Value())
+        && TwoDecimals(sum.Value() - reach) == TwoDecimals(sum.Value() + reach);
 }
 
 std::optional<double> NumberOf(const PropertyValue& value)

@@ -1,0 +1,184 @@
+#include "tests/list_fixture.h"
+#include "values/column_type.h"
+
+#include <QTest>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString HomeList(ListCatalogue& catalogue)
+{
+    QStringList names;
+    for (const auto& entry : catalogue.FillHomeList())
+        names << entry.name;
+    return names.join(u' ');
+}
+
+InventoryList Named(const QString& name)
+{
+    InventoryList list = NewInventoryList();
+    list.Name = name;
+    return list;
+}
+
+} // namespace
+
+class ListCatalogueTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFreshFileHasAnEmptyCatalogue();
+    void listsStandInTheOrderOfTheirUnits();
+    void aListComesBackAsItWasMade();
+    void aColumnOrderThatWasNeverWrittenReadsEmpty();
+    void optionsAndNameAreWrittenApart();
+    void twoColumnsUnderOneNumberLeaveNothingBehind();
+    void deletingAListRemovesItsRows();
+    void aListWithoutItsRowsCannotBeDeletedOrOpened();
+    void emptyingAListKeepsItsColumns();
+};
+
+void ListCatalogueTest::aFreshFileHasAnEmptyCatalogue()
+{
+    ListFixture file;
+    QVERIFY(file.catalogue->FillHomeList().empty());
+    QVERIFY(file.data->Exists(ListCatalogue::kCatalogueType));
+    QVERIFY(!file.data->Exists(ListCatalogue::kRowsType));
+}
+
+void ListCatalogueTest::listsStandInTheOrderOfTheirUnits()
+{
+    ListFixture file;
+    for (const QString& name : { u"cherry"_s, u"apple"_s, u"Banana"_s, u"\u00c4pfel"_s }) {
+        InventoryList list = Named(name);
+        QVERIFY(file.catalogue->CreateList(list).isCommitted);
+    }
+    file.Restart();
+    QCOMPARE(HomeList(*file.catalogue), u"Banana apple cherry \u00c4pfel"_s);
+}
+
+void ListCatalogueTest::aListComesBackAsItWasMade()
+{
+    ListFixture file;
+    InventoryList made = Named(u"A list of some length"_s);
+    made.TableIcon = 42;
+    made.TableOption = kWarnOnCount | kWarnOnExpiry;
+    made.TableWarnStart = -3;
+    made.columns.push_back({ u"Expiry Date"_s, 0, PropExpiryDate });
+    made.columns.push_back({ QString(32, u'w'), 4, MakePropertyId(10007, CEVT_FILETIME) });
+    const auto created = file.catalogue->CreateList(made);
+    file.Restart();
+    InventoryList read;
+    QVERIFY(file.catalogue->OpenList(created.oid, read));
+    QCOMPARE(read.Name, made.Name);
+    QVERIFY(read.MapName.startsWith(u"A list of some l"_s) && read.MapName == made.MapName);
+    QCOMPARE(read.TableIcon, qint16 { 42 });
+    QCOMPARE(read.TableOption, made.TableOption);
+    QCOMPARE(read.TableWarnStart, -3);
+    QCOMPARE(read.TableWarnColour, 31U);
+    QCOMPARE(read.TableExpiryColour, 5U);
+    QCOMPARE(read.columnOrder, (std::vector<quint32> { 0, 1, 2, 3 }));
+    QCOMPARE(read.columns.size(), size_t { 4 });
+    QCOMPARE(read.columns[0].kind, kKindName);
+    QCOMPARE(read.columns[1].name, u"Quantity"_s);
+    QCOMPARE(read.columns[2].id, PropExpiryDate);
+    QCOMPARE(read.columns[3].name, QString(32, u'w'));
+    QCOMPARE(read.columns[3].id, made.columns[3].id);
+    QCOMPARE(PropertyType(read.columns[3].id), quint16 { CEVT_FILETIME });
+}
+
+void ListCatalogueTest::aColumnOrderThatWasNeverWrittenReadsEmpty()
+{
+    ListFixture file;
+    const ObjectId oid = file.catalogue->AddList(Named(u"bare"_s));
+    InventoryList read;
+    read.columnOrder = { 7 };
+    QVERIFY(file.catalogue->ReadListHeader(oid, read));
+    QVERIFY(read.columnOrder.empty());
+    QVERIFY(file.catalogue->UpdateListOptions(oid, read));
+    QVERIFY(file.catalogue->ReadListDefinition(oid, &read).has_value());
+    QVERIFY(read.columnOrder.empty());
+}
+
+void ListCatalogueTest::optionsAndNameAreWrittenApart()
+{
+    ListFixture file;
+    InventoryList list = Named(u"old"_s);
+    const ObjectId oid = file.catalogue->CreateList(list).oid;
+    QVERIFY(file.catalogue->RenameList(oid, u"new"_s));
+    list.TableColSizes = u"80,45,"_s;
+    list.columnOrder = { 1, 0 };
+    list.TableIcon = 9;
+    QVERIFY(file.catalogue->UpdateListOptions(oid, list));
+    InventoryList read;
+    file.Restart();
+    QVERIFY(file.catalogue->OpenList(oid, read));
+    QCOMPARE(read.Name, u"new"_s);
+    QCOMPARE(read.TableColSizes, u"80,45,"_s);
+    QCOMPARE(read.columnOrder, (std::vector<quint32> { 1, 0 }));
+    QCOMPARE(read.TableIcon, qint16 { 0 });
+    QVERIFY(file.catalogue->UpdateList(oid, list));
+    QVERIFY(file.catalogue->ReadListHeader(oid, read));
+    QCOMPARE(read.Name + QString::number(read.TableIcon), u"old9"_s);
+    QVERIFY(!file.catalogue->UpdateList(static_cast<ObjectId>(9999), list));
+}
+
+void ListCatalogueTest::twoColumnsUnderOneNumberLeaveNothingBehind()
+{
+    ListFixture file;
+    InventoryList list = Named(u"twice"_s);
+    list.columns.push_back({ u"Expiry Date"_s, 0, PropExpiryDate });
+    list.columns.push_back({ u"Expiry Date"_s, 0, PropExpiryDate });
+    const auto outcome = file.catalogue->CreateList(list);
+    QVERIFY(outcome.oid != kNoObject && !outcome.isCommitted);
+    QCOMPARE(file.data->LastError(), ErrorNumber::AlreadyExists);
+    file.Restart();
+    QCOMPARE(HomeList(*file.catalogue), QString());
+    QVERIFY(!file.data->Exists(ListCatalogue::kRowsType));
+}
+
+void ListCatalogueTest::deletingAListRemovesItsRows()
+{
+    ListFixture file;
+    const ObjectId oid = file.MakeFullList(u"gone"_s);
+    file.Add({ u"row"_s });
+    file.MakeFullList(u"kept"_s);
+    QVERIFY(file.catalogue->DeleteList(oid));
+    file.Restart();
+    QCOMPARE(HomeList(*file.catalogue), u"kept"_s);
+    QCOMPARE(file.data->MountedVolume()->Databases()->size(), size_t { 2 });
+    QVERIFY(!file.catalogue->DeleteList(oid));
+}
+
+void ListCatalogueTest::aListWithoutItsRowsCannotBeDeletedOrOpened()
+{
+    ListFixture file;
+    const ObjectId oid = file.catalogue->AddList(Named(u"hollow"_s));
+    InventoryList read;
+    QVERIFY(!file.catalogue->OpenList(oid, read));
+    QVERIFY(!file.catalogue->DeleteList(oid));
+    QCOMPARE(file.catalogue->DeleteAllRows(oid), ListCatalogue::EmptyOutcome::CannotOpen);
+    QCOMPARE(HomeList(*file.catalogue), u"hollow"_s);
+}
+
+void ListCatalogueTest::emptyingAListKeepsItsColumns()
+{
+    ListFixture file;
+    const ObjectId oid = file.MakeFullList(u"list"_s);
+    const auto columns = file.list.columns;
+    file.Add({ u"row"_s, u"1"_s });
+    QCOMPARE(file.catalogue->DeleteAllRows(oid), ListCatalogue::EmptyOutcome::Done);
+    file.Restart();
+    file.OpenList(oid);
+    QVERIFY(file.rows->FillRows().empty());
+    QCOMPARE(file.list.columns.size(), columns.size());
+    for (size_t i = 0; i < columns.size(); ++i)
+        QVERIFY(file.list.columns[i].id == columns[i].id
+            && file.list.columns[i].name == columns[i].name);
+}
+
+QTEST_GUILESS_MAIN(ListCatalogueTest)
+#include "list_catalogue_test.moc"

@@ -1,0 +1,236 @@
+#include "store/totals.h"
+#include "tests/list_fixture.h"
+#include "values/column_type.h"
+
+#include <QTest>
+
+#include <limits>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Columns of the fixture's list.
+enum Column
+{
+    Name,
+    Count,
+    Shelf,
+    Bio,
+    Price,
+    Size,
+    Bought,
+    Expiry,
+};
+
+FilterSet Where(PropertyId column, FilterCondition condition, const QString& value)
+{
+    FilterSet filters;
+    AddFilter(filters, column, condition, value);
+    return filters;
+}
+
+QString Totals(ListFixture& file, const FilterSet* filters = nullptr)
+{
+    QStringList texts;
+    for (const ColumnTotal& total : ComputeTotals(*file.data, file.list, filters, file.context))
+        texts << total.name + u'=' + total.text;
+    return texts.join(u' ');
+}
+
+} // namespace
+
+class RowStoreTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rowsStandInTheOrderOfTheirNames();
+    void aRowComesBackInItsTexts();
+    void aDateThatCannotBeReadKeepsTheStoredOne();
+    void aCopyIsARowOfItsOwn();
+    void deletedRowsShowErr();
+    void countsGoBelowZeroAndWrapAround();
+    void aRowWithoutACountCannotBeCounted();
+    void ticksAreKept();
+    void filtersKeepTheOrderOfNames();
+    void sortingIsStableInEveryType_data();
+    void sortingIsStableInEveryType();
+    void totalsCoverWhatIsListed();
+    void totalsAreAddedInTheOrderOfNamesWhereItShows();
+};
+
+void RowStoreTest::rowsStandInTheOrderOfTheirNames()
+{
+    ListFixture file;
+    const ObjectId list = file.MakeFullList(u"l"_s);
+    for (const QString& name : { u"salt"_s, u"Oats"_s, u""_s, u"rice"_s })
+        QVERIFY(file.Add({ name }) != kNoObject);
+    file.Restart();
+    file.OpenList(list);
+    QCOMPARE(file.Cells(file.rows->FillRows()), u" Oats rice salt"_s);
+}
+
+void RowStoreTest::aRowComesBackInItsTexts()
+{
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    const std::vector<ObjectId> row { file.Add({ u"Rice"_s, u"12abc"_s, u"left"_s, u"Unchecked"_s,
+        u"1234,5"_s, u"-7"_s, u"2/29/2024"_s, u"1/5/2027"_s }) };
+    const QStringList expected { u"Rice"_s, u"12"_s, u"left"_s, QString(), u"1,234.50"_s, u"-7"_s,
+        u"2/29/2024"_s, u"1/5/2027"_s };
+    for (int column = Name; column <= Expiry; ++column)
+        QCOMPARE(file.Cells(row, column), expected[column]);
+}
+
+void RowStoreTest::aDateThatCannotBeReadKeepsTheStoredOne()
+{
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    const ObjectId row = file.Add({ u"a"_s, u"1"_s, QString(), QString(), QString(), QString(),
+        u"3/4/2026"_s, u"2/30/2026"_s });
+    QCOMPARE(file.Cells({ row }, Bought), u"3/4/2026"_s);
+    QCOMPARE(file.Cells({ row }, Expiry), QString());
+    const std::vector<QString> texts { u"b"_s, u"2"_s, QString(), QString(), QString(), QString(),
+        u"soon"_s };
+    QVERIFY(file.rows->ModifyRow(row, texts));
+    QCOMPARE(file.Cells({ row }, Name), u"b"_s);
+    QCOMPARE(file.Cells({ row }, Bought), u"3/4/2026"_s);
+    QVERIFY(!file.rows->ModifyRow(static_cast<ObjectId>(9999), texts));
+}
+
+void RowStoreTest::aCopyIsARowOfItsOwn()
+{
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    const ObjectId row = file.Add({ u"a"_s, u"1"_s, u"shelf"_s });
+    const ObjectId copy = file.rows->CopyRow(row);
+    QVERIFY(copy != kNoObject && copy != row);
+    QCOMPARE(file.rows->AdjustCount(copy, 1), 2);
+    QCOMPARE(file.Cells({ row, copy }, Count), u"1 2"_s);
+    QCOMPARE(file.Cells({ row, copy }, Shelf), u"shelf shelf"_s);
+    QCOMPARE(file.rows->CopyRow(static_cast<ObjectId>(9999)), kNoObject);
+}
+
+void RowStoreTest::deletedRowsShowErr()
+{
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    const ObjectId row = file.Add({ u"a"_s });
+    QVERIFY(file.rows->DeleteRow(row));
+    QVERIFY(!file.rows->DeleteRow(row));
+    QCOMPARE(file.Cells({ row }), u"<Err>"_s);
+    QVERIFY(!file.rows->AdjustCount(row, 1).has_value());
+    QVERIFY(!file.rows->SetCheckboxValue(row, file.Column(Bio), true));
+}
+
+void RowStoreTest::countsGoBelowZeroAndWrapAround()
+{
+    ListFixture file;
+    const ObjectId list = file.MakeFullList(u"l"_s);
+    const ObjectId row = file.Add({ u"a"_s, u"0"_s });
+    QCOMPARE(file.rows->AdjustCount(row, -1), -1);
+    QCOMPARE(file.rows->AdjustCount(row, 1), 0);
+    QCOMPARE(file.rows->AdjustCount(row, std::numeric_limits<qint32>::max()), 2147483647);
+    QCOMPARE(file.rows->AdjustCount(row, 1), std::numeric_limits<qint32>::min());
+    file.Restart();
+    file.OpenList(list);
+    QCOMPARE(file.Cells({ row }, Count), u"-2147483648"_s);
+}
+
+void RowStoreTest::aRowWithoutACountCannotBeCounted()
+{
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    const ObjectId row = file.Add({ u"only a name"_s });
+    QVERIFY(!file.rows->AdjustCount(row, 1).has_value());
+    // The failure left no transaction behind.
+    QVERIFY(file.data->BeginTransaction() && file.data->EndTransaction(true));
+}
+
+void RowStoreTest::ticksAreKept()
+{
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    const ObjectId row = file.Add({ u"a"_s, u"0"_s, QString(), u"Unchecked"_s });
+    const auto isTicked = [&] {
+        const Record record = file.rows->ReadRow(row);
+        return std::get<bool>(FindProperty(record.values, file.Column(Bio))->value);
+    };
+    QVERIFY(!isTicked());
+    QVERIFY(file.rows->SetCheckboxValue(row, file.Column(Bio), true));
+    QVERIFY(isTicked());
+}
+
+void RowStoreTest::filtersKeepTheOrderOfNames()
+{
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    for (int i = 9; i >= 0; --i)
+        file.Add({ u"r%1"_s.arg(i), QString::number(i), i % 2 == 0 ? u"even"_s : u"odd"_s });
+    FilterSet filters = Where(file.Column(Count), FilterCondition::Greater, u"2"_s);
+    AddFilter(filters, file.Column(Count), FilterCondition::Less, u"7"_s);
+    QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters)), u"r3 r4 r5 r6"_s);
+    AddFilter(filters, file.Column(Shelf), FilterCondition::Contains, u"ve"_s);
+    QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters)), u"r4 r6"_s);
+    QCOMPARE(Totals(file, &filters), u"Quantity=10 Price=0.00 Size=0"_s);
+    AddFilter(filters, PropertyId {}, FilterCondition::Contains, QString());
+    QVERIFY(file.rows->FillFilteredRows(filters).empty());
+    QCOMPARE(file.rows->FillFilteredRows({}).size(), size_t { 10 });
+}
+
+void RowStoreTest::sortingIsStableInEveryType_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("names");
+    QTest::newRow("text") << int { Shelf } << u"b e a d c"_s;
+    QTest::newRow("checkbox, unchecked first") << int { Bio } << u"a c e b d"_s;
+    QTest::newRow("price, missing as 0") << int { Price } << u"c e a d b"_s;
+    QTest::newRow("integer") << int { Size } << u"d b e a c"_s;
+    QTest::newRow("date, missing first") << int { Bought } << u"e c a b d"_s;
+}
+
+void RowStoreTest::sortingIsStableInEveryType()
+{
+    QFETCH(int, column);
+    QFETCH(QString, names);
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    file.Add({ u"a"_s, {}, u"b"_s, u"Unchecked"_s, u"2.5"_s, u"3"_s, u"1/2/2026"_s });
+    file.Add({ u"b"_s, {}, u"A"_s, u"Checked"_s, u"10"_s, u"-1"_s, u"1/2/2026"_s });
+    file.Add({ u"c"_s, {}, u"ba"_s, u"Unchecked"_s, u"-1"_s, u"20"_s, u"12/31/2025"_s });
+    file.Add({ u"d"_s, {}, u"b"_s, u"Checked"_s, u"2.5"_s, u"-2"_s, u"1/3/2026"_s });
+    file.Add({ u"e"_s, {}, u"a"_s, u"Unchecked"_s });
+    QCOMPARE(file.Cells(file.rows->SortRows(file.rows->FillRows(), file.Column(column))), names);
+}
+
+void RowStoreTest::totalsCoverWhatIsListed()
+{
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    QCOMPARE(Totals(file), u"Quantity=0 Price=0.00 Size=0"_s);
+    file.Add({ u"a"_s, u"2147483647"_s, {}, {}, u"0.1"_s, u"-3"_s });
+    file.Add({ u"b"_s, u"2147483647"_s, {}, {}, u"0.2"_s });
+    file.Add({ u"c"_s, u"-1"_s, {}, {}, u"0.3"_s, u"1"_s });
+    QCOMPARE(Totals(file), u"Quantity=4294967293 Price=0.60 Size=-2"_s);
+    const FilterSet filters = Where(file.Column(Count), FilterCondition::Less, u"0"_s);
+    QCOMPARE(Totals(file, &filters), u"Quantity=-1 Price=0.30 Size=1"_s);
+}
+
+void RowStoreTest::totalsAreAddedInTheOrderOfNamesWhereItShows()
+{
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    // By name 1e17 swallows the small ones; in any other order they would add up first.
+    file.Add({ u"b"_s, {}, {}, {}, u"1"_s });
+    file.Add({ u"c"_s, {}, {}, {}, u"1"_s });
+    file.Add({ u"d"_s, {}, {}, {}, u"-1e17"_s });
+    file.Add({ u"a"_s, {}, {}, {}, u"1e17"_s });
+    QCOMPARE(Totals(file), u"Quantity=0 Price=0.00 Size=0"_s);
+    file.Add({ u"e"_s, {}, {}, {}, u"1e999"_s });
+    QVERIFY(Totals(file).contains(u"1.#"_s));
+}
+
+QTEST_GUILESS_MAIN(RowStoreTest)
+#include "row_store_test.moc"
