@@ -40,7 +40,7 @@ void AppendDate(QString& line, FileTime time, const ValueContext& context)
 QString PriceText(double value, const ValueContext& context, qsizetype maxLength)
 {
     const QString plain = TwoDecimals(value);
-    return FormatNumber(plain, context.userLocale, maxLength).value_or(plain.left(maxLength));
+    return FormatNumber(plain, context.userLocale, maxLength).value_or(plain);
 }
 
 /// What the rows view and the row editor have in common; empty for a checkbox.
@@ -95,7 +95,8 @@ QString FormatEditText(const PropertyValue* value, PropertyId column, const Valu
         const auto* const isChecked = Held<bool>(value);
         return isChecked != nullptr && *isChecked ? context.checkedText : context.uncheckedText;
     }
-    return FormatText(value, column, context, kMaxEditTextLength);
+    const QString text = FormatText(value, column, context, kMaxEditTextLength);
+    return ColumnTypeOf(column) == ColumnType::Price ? text.left(kMaxEditTextLength) : text;
 }
 
 QString FormatExportText(const PropertyValue& value, const ValueContext& context)

@@ -1,0 +1,172 @@
+#include "platform/code_page.h"
+#include "platform/locale_profile.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace Quillory {
+
+class CodePageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void bytesDecodeAsThePlatformDecodesThem_data();
+    void bytesDecodeAsThePlatformDecodesThem();
+    void everyPageKeepsAsciiAndAppends_data();
+    void everyPageKeepsAsciiAndAppends();
+    void otherNumbersAreNoPages();
+    void theLocaleChoosesThePage_data();
+    void theLocaleChoosesThePage();
+    void theEnvironmentChoosesByCategory();
+};
+
+void CodePageTest::bytesDecodeAsThePlatformDecodesThem_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    const auto add = [](const char* name, int page, const char* hex, QStringView text) {
+        QTest::newRow(name) << page << QByteArray::fromHex(hex) << text.toString();
+    };
+    add("1252 undefined", 1252, "818D8F909D", u"\x81\x8D\x8F\x90\x9D");
+    add("1252 euro and quote", 1252, "8092", u"\u20AC\u2019");
+    add("1250 undefined", 1250, "8183889098", u"\x81\x83\x88\x90\x98");
+    add("1250 letters", 1250, "B3F1", u"łń");
+    add("1251 undefined", 1251, "98", u"\x98");
+    add("1251 letters", 1251, "CFF0", u"Пр");
+    add("1253 undefined", 1253, "AAD2FF", u"\uF8F9\uF8FA\uF8FB");
+    add("1254 letters", 1254, "DDFD", u"İı");
+    add("1255 undefined", 1255, "CAD9DADBDCDDDEDF",
+        u"\u05BA\uF88D\uF88E\uF88F\uF890\uF891\uF892\uF893");
+    add("1255 end", 1255, "FBFCFF", u"\uF894\uF895\uF896");
+    add("1257 undefined", 1257, "A1A5", u"\uF8FC\uF8FD");
+    add("874 undefined", 874, "DBDCDDDEFCFDFEFF",
+        u"\uF8C1\uF8C2\uF8C3\uF8C4\uF8C5\uF8C6\uF8C7\uF8C8");
+    add("932 single bytes", 932, "80A0FDFEFF5C7EB1", u"\x80\uF8F0\uF8F1\uF8F2\uF8F3\\~\uFF71");
+    add("932 pairs", 932, "816087408140", u"\uFF5E\u2460\u3000");
+    add("932 a broken pair is one dot", 932, "61812062", u"a\u30FBb");
+    add("932 a cut pair", 932, "6181", u"a\u30FB");
+    add("936 single bytes", 936, "80FF", u"\u20AC\uF8F5");
+    add("936 pairs", 936, "D6D0B9FA", u"中国");
+    add("936 a broken pair is one mark", 936, "61812062", u"a?b");
+    add("936 a cut pair", 936, "61D6", u"a?");
+    add("936 a pair cut by a NUL", 936, "D60061", QStringView(u"?\0a", 3));
+    add("949 single bytes", 949, "80FF", u"\x80\uF8F7");
+    add("949 pairs", 949, "8141B0A1", u"\uAC02\uAC00");
+    add("949 a cut pair", 949, "B0", u"?");
+    add("950 single bytes", 950, "80FF", u"\x80\uF8F8");
+    add("950 pairs", 950, "A145A4A4", u"\u2027中");
+    add("950 a broken pair is one mark", 950, "A12061", u"?a");
+}
+
+void CodePageTest::bytesDecodeAsThePlatformDecodesThem()
+{
+    QFETCH(const int, page);
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, text);
+    const auto codePage = CodePage::For(page);
+    QVERIFY(codePage);
+    QString decoded;
+    codePage->AppendDecoded(decoded, bytes);
+    QCOMPARE(decoded, text);
+}
+
+void CodePageTest::everyPageKeepsAsciiAndAppends_data()
+{
+    QTest::addColumn<int>("page");
+    for (const int page :
+        { 874, 932, 936, 949, 950, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258 }) {
+        QTest::newRow(qPrintable(QString::number(page))) << page;
+    }
+}
+
+void CodePageTest::everyPageKeepsAsciiAndAppends()
+{
+    QFETCH(const int, page);
+    QByteArray ascii;
+    for (int byte = 0; byte < 0x80; ++byte) {
+        ascii.append(static_cast<char>(byte));
+    }
+    const auto codePage = CodePage::For(page);
+    QVERIFY(codePage);
+    QString text = u"before"_s;
+    codePage->AppendDecoded(text, ascii);
+    QCOMPARE(text, u"before"_s + QString::fromLatin1(ascii));
+}
+
+void CodePageTest::otherNumbersAreNoPages()
+{
+    QVERIFY(!CodePage::For(0));
+    QVERIFY(!CodePage::For(65001));
+}
+
+void CodePageTest::theLocaleChoosesThePage_data()
+{
+    QTest::addColumn<int>("page");
+    const auto add = [](const char* locale, int page) { QTest::newRow(locale) << page; };
+    add("", 1252);
+    add("C", 1252);
+    add("C.UTF-8", 1252);
+    add("POSIX", 1252);
+    add("en_US.UTF-8", 1252);
+    add("de_CH", 1252);
+    add("pt_BR", 1252);
+    add("hi_IN", 1252);
+    add("xx_YY", 1252);
+    add("pl_PL.UTF-8", 1250);
+    add("hu_HU", 1250);
+    add("sr_RS@latin", 1250);
+    add("sr-Latn-RS", 1250);
+    add("ru_RU.KOI8-R", 1251);
+    add("uk_UA", 1251);
+    add("sr_RS", 1251);
+    add("az_Cyrl_AZ", 1251);
+    add("el_GR", 1253);
+    add("tr_TR", 1254);
+    add("az_AZ", 1254);
+    add("he_IL", 1255);
+    add("ar_EG", 1256);
+    add("fa_IR", 1256);
+    add("lt_LT", 1257);
+    add("vi_VN", 1258);
+    add("th_TH", 874);
+    add("ja_JP.UTF-8", 932);
+    add("zh_CN", 936);
+    add("zh_SG", 936);
+    add("ko_KR", 949);
+    add("zh_TW", 950);
+    add("zh_HK", 950);
+    add("zh-Hant", 950);
+}
+
+void CodePageTest::theLocaleChoosesThePage()
+{
+    QFETCH(const int, page);
+    QCOMPARE(LocaleProfile::For(QString::fromLatin1(QTest::currentDataTag())).codePage, page);
+}
+
+void CodePageTest::theEnvironmentChoosesByCategory()
+{
+    qputenv("LC_ALL", "");
+    qputenv("LC_TIME", "sv_SE.UTF-8");
+    qputenv("LC_NUMERIC", "de_CH.UTF-8");
+    qunsetenv("LC_CTYPE");
+    qputenv("LANG", "pl_PL.UTF-8");
+    const LocaleProfile mixed = EnvironmentLocaleProfile();
+    QCOMPARE(mixed.shortDatePicture, u"yyyy-MM-dd"_s);
+    QCOMPARE(mixed.groupSeparator, QChar(u'\''));
+    QCOMPARE(mixed.codePage, 1250);
+
+    qputenv("LC_ALL", "de");
+    const LocaleProfile german = EnvironmentLocaleProfile();
+    QCOMPARE(german.shortDatePicture, u"dd.MM.yyyy"_s);
+    QCOMPARE(german.decimalSeparator, QChar(u','));
+    QCOMPARE(german.codePage, 1252);
+}
+
+} // namespace Quillory
+
+QTEST_APPLESS_MAIN(Quillory::CodePageTest)
+#include "code_page_test.moc"

@@ -1,0 +1,270 @@
+#include "platform/date_picture.h"
+#include "platform/date_reader.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace Quillory {
+
+namespace {
+
+Clock ClockOfYear(int year)
+{
+    return [year] { return LocalTime { QDate(year, 6, 15), QTime(12, 0) }; };
+}
+
+/// A text and the day it is read as in 2026; no day where it is refused.
+struct DateCase
+{
+    const char* locale;
+    QStringView text;
+    const char* day;
+};
+
+constexpr DateCase kDateCases[] = {
+    { "en_US", u"1/2/1970", "1970-01-02" },
+    { "en_US", u"1-2-1970", "1970-01-02" },
+    { "en_US", u"1 2 1970", "1970-01-02" },
+    { "en_US", u"13-1-1970", "1970-01-13" },
+    { "en_US", u"1970-1-13", "1970-01-13" },
+    { "en_US", u"2 January, 1970", "1970-01-02" },
+    { "en_US", u"2 Jan 1970", "1970-01-02" },
+    { "en_US", u"2/Jan/1970", "1970-01-02" },
+    { "en_US", u"2-Jan-1970", "1970-01-02" },
+    { "en_US", u"6/30/2011 01:20:34", "2011-06-30" },
+    { "en_US", u"6/30/2011 01:20:34 PM", "2011-06-30" },
+    { "en_US", u"6/30/2011\u30001:20:34", "2011-06-30" },
+    { "en_US", u"2013-05-14 02:04:12", "2013-05-14" },
+    { "en_US", u"2013-05-14 02:04:12.017000000", "" },
+    { "en_US", u"02.01.1970", "" },
+    { "en_US", u"1 2", "2026-01-02" },
+    { "en_US", u"14 1", "2026-01-14" },
+    { "en_US", u"1 14", "2026-01-14" },
+    { "en_US", u"30 2", "1930-02-01" },
+    { "en_US", u"2 30", "1930-02-01" },
+    { "en_US", u"32 49", "" },
+    { "en_US", u"0 49", "" },
+    { "en_US", u"Jan 2", "2026-01-02" },
+    { "en_US", u"2 Jan", "2026-01-02" },
+    { "en_US", u"Jan 35", "1935-01-01" },
+    { "en_US", u"35/Jan", "1935-01-01" },
+    { "en_US", u"1 2 3", "2003-01-02" },
+    { "en_US", u"14 2 3", "2014-02-03" },
+    { "en_US", u"2 14 3", "2003-02-14" },
+    { "en_US", u"2 3 14", "2014-02-03" },
+    { "en_US", u"32 2 3", "1932-02-03" },
+    { "en_US", u"1 1 0", "2000-01-01" },
+    { "en_US", u"12 31 29", "2029-12-31" },
+    { "en_US", u"1 1 30", "1930-01-01" },
+    { "en_US", u"1 1 50", "1950-01-01" },
+    { "en_US", u"12 31 99", "1999-12-31" },
+    { "en_US", u"1 1 100", "0100-01-01" },
+    { "en_US", u"1 2 3 4", "" },
+    { "en_US", u"1;2;3", "" },
+    { "en_US", u"True", "" },
+    { "en_US", u"0", "" },
+    { "en_US", u"0/5/14", "2000-05-14" },
+    { "en_US", u"29 Feb 01", "2029-02-01" },
+    { "en_US", u"29Feb01", "2029-02-01" },
+    { "en_US", u"2024-01-31", "2024-01-31" },
+    { "en_US", u" 1 / 2 / 2024 ", "2024-01-02" },
+    { "en_US", u"1,2,2024", "2024-01-02" },
+    { "en_US", u"2024-31-01", "2024-01-31" },
+    { "en_US", u"2/29/2024", "2024-02-29" },
+    { "en_US", u"2/29/2023", "" },
+    { "en_US", u"2/30/2024", "" },
+    { "en_US", u"2/30/24", "" },
+    { "en_US", u"13/13/2024", "" },
+    { "en_US", u"1/2024", "2024-01-01" },
+    { "en_US", u"13/2024", "" },
+    { "en_US", u"January 2, 2024", "2024-01-02" },
+    { "en_US", u"JAN 2 2024", "2024-01-02" },
+    { "en_US", u"Jan 2024", "2024-01-01" },
+    { "en_US", u"5 Jan 24", "2005-01-24" },
+    { "en_US", u"2 Jan 70", "1970-01-02" },
+    { "en_US", u"Sept 5 2024", "" },
+    { "en_US", u"1/2/2024 10:30", "2024-01-02" },
+    { "en_US", u"10:30 1/2/2024", "2024-01-02" },
+    { "en_US", u"1/2/2024 25:30", "" },
+    { "en_US", u"1/2/2024 10", "" },
+    { "en_US", u"10:30", "1899-12-30" },
+    { "en_US", u"1.2.24", "1899-12-30" },
+    { "en_US", u"31.01.2024", "" },
+    { "en_US", u"1 am", "1899-12-30" },
+    { "en_US", u"12a", "1899-12-30" },
+    { "en_US", u"12abc", "" },
+    { "en_US", u"a", "" },
+    { "en_US", u"20240131", "" },
+    { "en_US", u"1/2/3/4", "" },
+    { "en_US", u"1//2", "2026-01-02" },
+    { "en_US", u"1/2/", "" },
+    { "en_US", u"-1/2/2024", "" },
+    { "en_US", u"12/31/9999", "9999-12-31" },
+    { "en_US", u"1/2/10000", "" },
+    { "en_US", u"2024-01-31T10:30:00", "" },
+    { "en_US", u"Monday, January 1, 2024", "" },
+    { "en_US", u"", "" },
+    { "en_US", u"  ", "" },
+    { "en_US", u"\u0661/\u0662/2024", "" },
+    { "en_GB", u"1/2/2024", "2024-02-01" },
+    { "en_GB", u"1/13/2024", "2024-01-13" },
+    { "en_GB", u"31/12/30", "1930-12-31" },
+    { "en_GB", u"30/2/24", "1930-02-24" },
+    { "en_GB", u"31/4/2024", "" },
+    { "en_GB", u"5 Jan 24", "2024-01-05" },
+    { "en_GB", u"29 Feb 01", "2029-02-01" },
+    { "en_GB", u"12/2024", "2024-12-01" },
+    { "en_GB", u"24 12 3", "2003-12-24" },
+    { "en_GB", u"1.2.2024", "" },
+    { "en_GB", u"2024-01-31", "2024-01-31" },
+    { "de_DE", u"02.01.1970", "1970-01-02" },
+    { "de_DE", u"02.13.1970", "1970-02-13" },
+    { "de_DE", u"02-13-1970", "1970-02-13" },
+    { "de_DE", u"2020-01-11", "2020-01-11" },
+    { "de_DE", u"2173-10-14", "2173-10-14" },
+    { "de_DE", u"02.01.1970 00:00:00", "1970-01-02" },
+    { "de_DE", u"27.8", "2026-08-27" },
+    { "de_DE", u"27/8", "2026-08-27" },
+    { "de_DE", u"27-08", "2026-08-27" },
+    { "de_DE", u"27.8.", "" },
+    { "de_DE", u"1. Januar 2024", "2024-01-01" },
+    { "de_DE", u"2. März 2024", "2024-03-02" },
+    { "de_DE", u"2. Mrz 2024", "2024-03-02" },
+    { "de_DE", u"1. Mai 24", "2024-05-01" },
+    { "de_DE", u"January 2 2024", "" },
+    { "de_DE", u"10.30", "2026-10-30" },
+    { "de_DE", u"1.2.2024 10.30", "" },
+    { "de_DE", u"30.2.2024", "" },
+    { "es_ES", u"02.01.1970", "" },
+    { "fr_FR", u"31/01/2024", "2024-01-31" },
+    { "fr_FR", u"02.01.1970", "" },
+    { "fr_FR", u"2 janvier 2024", "2024-01-02" },
+    { "fr_FR", u"2 févr. 2024", "2024-02-02" },
+    { "fr_FR", u"2 fevrier 2024", "" },
+    { "fr_FR", u"2 fév 2024", "" },
+    { "fr_FR", u"1er mai 2024", "" },
+    { "fr_FR", u"14/7/89", "1989-07-14" },
+    { "sv_SE", u"2024-01-31", "2024-01-31" },
+    { "sv_SE", u"24-01-31", "2024-01-31" },
+    { "sv_SE", u"1/2/2024", "2024-01-02" },
+    { "sv_SE", u"31/1/2024", "2024-01-31" },
+    { "sv_SE", u"1-2", "2026-01-02" },
+    { "sv_SE", u"2024-13-01", "2024-01-13" },
+    { "sv_SE", u"den 2 januari 2024", "" },
+    { "sv_SE", u"2023-02-29", "" },
+    { "ja_JP", u"2024/01/31", "2024-01-31" },
+    { "ja_JP", u"10/11/12", "2010-11-12" },
+    { "ja_JP", u"31/1/2024", "2024-01-31" },
+    { "ja_JP", u"2024.1.31", "" },
+    { "ja_JP", u"2024年1月31日", "2024-01-31" },
+    { "ja_JP", u"H16/1/2", "" },
+};
+
+} // namespace
+
+class DateReaderTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textsAreReadInTheOrderOfTheLocale_data();
+    void textsAreReadInTheOrderOfTheLocale();
+    void aMissingYearIsTheClocks();
+    void theClockIsNotAskedWhereTheYearIsThere();
+    void everyLocaleReadsItsOwnShortForm_data();
+    void everyLocaleReadsItsOwnShortForm();
+    void datesBefore1601HaveNoShortForm();
+};
+
+void DateReaderTest::textsAreReadInTheOrderOfTheLocale_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QDate>("day");
+    for (const DateCase& row : kDateCases) {
+        const QString name = QLatin1StringView(row.locale) + u": "_s + row.text.toString()
+            + (*row.day == '\0' ? u" is refused"_s : u" is read"_s);
+        QTest::newRow(qUtf8Printable(name))
+            << QString::fromLatin1(row.locale) << row.text.toString()
+            << QDate::fromString(QString::fromLatin1(row.day), Qt::ISODate);
+    }
+}
+
+void DateReaderTest::textsAreReadInTheOrderOfTheLocale()
+{
+    QFETCH(const QString, locale);
+    QFETCH(const QString, text);
+    QFETCH(const QDate, day);
+    const auto read = ReadDate(text, LocaleProfile::For(locale), ClockOfYear(2026));
+    QCOMPARE(read.value_or(QDate()), day);
+}
+
+void DateReaderTest::aMissingYearIsTheClocks()
+{
+    const LocaleProfile locale = LocaleProfile::For(u"en_US"_s);
+    QCOMPARE(ReadDate(u"2/29", locale, ClockOfYear(2028)), QDate(2028, 2, 29));
+    QCOMPARE(ReadDate(u"2/29", locale, ClockOfYear(2026)), QDate(2029, 2, 1));
+}
+
+void DateReaderTest::theClockIsNotAskedWhereTheYearIsThere()
+{
+    const LocaleProfile locale = LocaleProfile::For(u"en_US"_s);
+    int asked = 0;
+    const Clock clock = [&asked] {
+        ++asked;
+        return LocalTime { QDate(2026, 1, 1), QTime(0, 0) };
+    };
+    for (const QStringView text : { u"3/14/2027", u"2027-03-14", u"14 Mar 2027", u"13/13/2027" }) {
+        (void)ReadDate(text, locale, clock);
+    }
+    QCOMPARE(asked, 0);
+}
+
+void DateReaderTest::everyLocaleReadsItsOwnShortForm_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("en_US") << u"1/5/2024"_s;
+    QTest::newRow("en_AU") << u"5/01/2024"_s;
+    QTest::newRow("en_IN") << u"05-01-2024"_s;
+    QTest::newRow("de_CH") << u"05.01.2024"_s;
+    QTest::newRow("pt_BR") << u"5/1/2024"_s;
+    QTest::newRow("nl_NL") << u"5-1-2024"_s;
+    QTest::newRow("sv_SE") << u"2024-01-05"_s;
+    QTest::newRow("sk_SK") << u"5. 1. 2024"_s;
+    QTest::newRow("hu_HU") << u"2024. 01. 05."_s;
+    QTest::newRow("hr_HR") << u"5.1.2024"_s;
+    QTest::newRow("bg_BG") << u"05.1.2024 г."_s;
+    QTest::newRow("lv_LV") << u"2024.01.05."_s;
+    QTest::newRow("th_TH") << u"5/1/2567"_s;
+    QTest::newRow("ja_JP") << u"2024/01/05"_s;
+    QTest::newRow("zh_CN") << u"2024-1-5"_s;
+    QTest::newRow("zh_HK") << u"5/1/2024"_s;
+    QTest::newRow("ar_EG") << u"05/01/2024"_s;
+    // In no table: today's picture with a whole year.
+    QTest::newRow("es_AR") << u"5/1/2024"_s;
+}
+
+void DateReaderTest::everyLocaleReadsItsOwnShortForm()
+{
+    QFETCH(const QString, text);
+    const LocaleProfile locale = LocaleProfile::For(QString::fromLatin1(QTest::currentDataTag()));
+    const QDate day(2024, 1, 5);
+    QCOMPARE(DateText(day, locale), text);
+    for (QDate each(1601, 1, 1); each.year() < 9000; each = each.addDays(1009)) {
+        QCOMPARE(ReadDate(DateText(each, locale), locale, ClockOfYear(2026)), each);
+    }
+}
+
+void DateReaderTest::datesBefore1601HaveNoShortForm()
+{
+    const LocaleProfile locale = LocaleProfile::For(u"en_US"_s);
+    QCOMPARE(DateText(QDate(1601, 1, 1), locale), u"1/1/1601"_s);
+    QCOMPARE(DateText(QDate(1600, 12, 31), locale), QString());
+    QCOMPARE(DateText(QDate(), locale), QString());
+}
+
+} // namespace Quillory
+
+QTEST_APPLESS_MAIN(Quillory::DateReaderTest)
+#include "date_reader_test.moc"

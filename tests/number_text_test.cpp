@@ -1,0 +1,264 @@
+#include "platform/leading_number.h"
+#include "platform/number_text.h"
+
+#include <QTest>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace Quillory {
+
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+} // namespace
+
+class NumberTextTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void twoDecimalsAreRoundedExactly_data();
+    void twoDecimalsAreRoundedExactly();
+    void twoDecimalsAgreeWithExactArithmetic();
+    void numbersTakeTheFormOfTheLocale_data();
+    void numbersTakeTheFormOfTheLocale();
+    void aFormLongerThanItsRoomIsRefused_data();
+    void aFormLongerThanItsRoomIsRefused();
+    void wholeNumbersAreReadFromTheStart_data();
+    void wholeNumbersAreReadFromTheStart();
+    void numbersAreReadFromTheStart_data();
+    void numbersAreReadFromTheStart();
+    void numbersGoThroughTheCodePage_data();
+    void numbersGoThroughTheCodePage();
+};
+
+void NumberTextTest::twoDecimalsAreRoundedExactly_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("an even half goes up") << 0.125 << u"0.13"_s;
+    QTest::newRow("an odd half goes up") << 0.625 << u"0.63"_s;
+    QTest::newRow("a negative half goes down") << -0.125 << u"-0.13"_s;
+    QTest::newRow("1.005 is below the half") << 1.005 << u"1.00"_s;
+    QTest::newRow("2.675 is below the half") << 2.675 << u"2.67"_s;
+    QTest::newRow("a carry") << 999.995 << u"1000.00"_s;
+    QTest::newRow("a whole number") << 3.0 << u"3.00"_s;
+    QTest::newRow("a negative fraction") << -0.5 << u"-0.50"_s;
+    QTest::newRow("a sign without digits") << -0.001 << u"-0.00"_s;
+    QTest::newRow("minus zero") << -0.0 << u"-0.00"_s;
+    QTest::newRow("the smallest") << std::numeric_limits<double>::denorm_min() << u"0.00"_s;
+    QTest::newRow("16 digits") << 999999999999999.875 << u"999999999999999.88"_s;
+    QTest::newRow("17 digits") << 1125899906842624.25 << u"1125899906842624.30"_s;
+    QTest::newRow("a half beyond 2^51") << 2251799813685248.5 << u"2251799813685248.50"_s;
+    QTest::newRow("2^53") << 9007199254740992.0 << u"9007199254740992.00"_s;
+    QTest::newRow("17 whole digits") << 12345678901234568.0 << u"12345678901234568.00"_s;
+    QTest::newRow("zeros after 17 digits") << 1e23 << u"99999999999999992000000.00"_s;
+    QTest::newRow("infinity") << kInfinity << u"1.#J"_s;
+    QTest::newRow("minus infinity") << -kInfinity << u"-1.#J"_s;
+    QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN() << u"1.#R"_s;
+}
+
+void NumberTextTest::twoDecimalsAreRoundedExactly()
+{
+    QFETCH(const double, value);
+    QFETCH(const QString, text);
+    QCOMPARE(TwoDecimals(value), text);
+}
+
+void NumberTextTest::twoDecimalsAgreeWithExactArithmetic()
+{
+    // All eighths are exact, and so are their hundredths in whole numbers: n/8 = 12.5 n / 100.
+    for (qint64 n = 0; n < 40'000; ++n) {
+        const qint64 eighths = n * n * n;
+        const qint64 hundredths = (eighths * 25 + 1) / 2;
+        const QString expected = QString::number(hundredths / 100) + u'.'
+            + QString::number(hundredths % 100).rightJustified(2, u'0');
+        QCOMPARE(TwoDecimals(static_cast<double>(eighths) / 8), expected);
+    }
+}
+
+void NumberTextTest::numbersTakeTheFormOfTheLocale_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("plain");
+    QTest::addColumn<QString>("text");
+    const auto add = [](const char* name, QStringView locale, QStringView plain, QStringView text) {
+        QTest::newRow(name) << locale.toString() << plain.toString() << text.toString();
+    };
+    add("four digits are grouped", u"en_US", u"2353", u"2,353.00");
+    add("a negative one", u"en_US", u"-2353", u"-2,353.00");
+    add("three digits are not grouped", u"en_US", u"-353", u"-353.00");
+    add("one decimal is filled up", u"en_US", u"2353.1", u"2,353.10");
+    add("a third decimal below 5", u"en_US", u"2353.111", u"2,353.11");
+    add("a third decimal above 5", u"en_US", u"2353.119", u"2,353.12");
+    add("a comma is refused", u"en_US", u"23,53", u"");
+    add("a blank is refused", u"en_US", u" 0.1", u"");
+    add("a late sign is refused", u"en_US", u"0-", u"");
+    add("two signs are refused", u"en_US", u"--", u"");
+    add("two points are refused", u"en_US", u"0..", u"");
+    add("a carry into the whole part", u"en_US", u"0.995", u"1.00");
+    add("a carry makes a group", u"en_US", u"999999.995", u"1,000,000.00");
+    add("leading zeros go", u"en_US", u"000235", u"235.00");
+    add("one zero comes", u"en_US", u".5", u"0.50");
+    add("minus zero stays", u"en_US", u"-0.00", u"-0.00");
+    add("infinity is refused", u"en_US", u"1.#J", u"");
+    add("words are refused", u"en_US", u"nan", u"");
+    add("French blanks", u"fr_FR", u"-12345", u"-12\u00A0345,00");
+    add("German points", u"de_DE", u"1234567.89", u"1.234.567,89");
+    add("Swiss apostrophes", u"de_CH", u"1234567.89", u"1'234'567.89");
+    add("Polish blanks", u"pl_PL", u"1234.50", u"1\u00A0234,50");
+    add("Spanish groups of four digits", u"es_ES", u"1234.50", u"1.234,50");
+    add("a plain Swedish minus", u"sv_SE", u"-0.50", u"-0,50");
+    add("Indian groups", u"hi_IN", u"123456789.00", u"12,34,56,789.00");
+    add("a small Indian number", u"hi_IN", u"999.00", u"999.00");
+    add("Indian English", u"en_IN", u"-1234567.891", u"-12,34,567.89");
+    add("Dutch", u"nl_NL", u"100.00", u"100,00");
+    add("a Croatian minus", u"hr_HR", u"-1234567.891", u"- 1.234.567,89");
+    add("an Arabic minus", u"ar_EG", u"-1234567.891", u"1,234,567.89-");
+    add("Swiss French", u"fr_CH", u"-1234567.891", u"-1'234'567.89");
+    add("Belgian French", u"fr_BE", u"-1234567.891", u"-1.234.567,89");
+}
+
+void NumberTextTest::numbersTakeTheFormOfTheLocale()
+{
+    QFETCH(const QString, locale);
+    QFETCH(const QString, plain);
+    QFETCH(const QString, text);
+    QCOMPARE(FormatNumber(plain, LocaleProfile::For(locale)).value_or(QString()), text);
+}
+
+void NumberTextTest::aFormLongerThanItsRoomIsRefused_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<int>("digits");
+    QTest::addColumn<int>("length");
+    QTest::newRow("192 digits in threes fit") << u"en_US"_s << 192 << 258;
+    QTest::newRow("193 digits in threes do not") << u"en_US"_s << 193 << 0;
+    QTest::newRow("171 digits in twos fit") << u"hi_IN"_s << 171 << 258;
+    QTest::newRow("172 digits in twos do not") << u"hi_IN"_s << 172 << 0;
+}
+
+void NumberTextTest::aFormLongerThanItsRoomIsRefused()
+{
+    QFETCH(const QString, locale);
+    QFETCH(const int, digits);
+    QFETCH(const int, length);
+    const QString plain = QString(digits, u'7') + u".00"_s;
+    const LocaleProfile profile = LocaleProfile::For(locale);
+    QCOMPARE(FormatNumber(plain, profile).value_or(QString()).size(), length);
+    QCOMPARE(FormatNumber(u'-' + plain, profile).has_value(), length > 0);
+    QVERIFY(!FormatNumber(u"1234", profile, 2));
+}
+
+void NumberTextTest::wholeNumbersAreReadFromTheStart_data()
+{
+    QTest::addColumn<qint32>("number");
+    const auto add = [](const char* text, qint32 number) { QTest::newRow(text) << number; };
+    add("12", 12);
+    add(" \t\n\v\f\r 12", 12);
+    add("+5", 5);
+    add("-5", -5);
+    add("12abc", 12);
+    add("abc", 0);
+    add("", 0);
+    add("2147483647", 2147483647);
+    add("-2147483648", std::numeric_limits<qint32>::min());
+    add("4294967295", -1);
+    add("-2147483649", 2147483647);
+    add("--5", 0);
+    add("+-5", 0);
+    add("- 5", 0);
+    add("0x10", 0);
+    add("1e3", 1);
+    add("1,234", 1);
+    add("1.9", 1);
+    add("007", 7);
+    add("4294967296", 0);
+    add("9999999999", 1410065407);
+    add("\u00A0"
+        "12",
+        0);
+    add("\uFF11\uFF12", 0);
+}
+
+void NumberTextTest::wholeNumbersAreReadFromTheStart()
+{
+    QFETCH(const qint32, number);
+    QCOMPARE(LeadingInteger(QString::fromUtf8(QTest::currentDataTag())), number);
+}
+
+void NumberTextTest::numbersAreReadFromTheStart_data()
+{
+    QTest::addColumn<double>("number");
+    const auto add = [](const char* text, double number) { QTest::newRow(text) << number; };
+    add("12.1", 12.1);
+    add("-13.721", -13.721);
+    add(".21e12", 2.1e11);
+    add("214353e-3", 214.353);
+    add("12.1d2", 1210);
+    add("12.1D+2", 1210);
+    add("00.", 0);
+    add(".00", 0);
+    add("0e13", 0);
+    add("0e99999999999999999999", 0);
+    add("1e", 1);
+    add("1e+", 1);
+    add("1.5.2", 1.5);
+    add(" +1.5 ", 1.5);
+    add("INF", 0);
+    add("NAN", 0);
+    add("  d10", 0);
+    add("0.1D-4736", 0);
+    add("1.7976931348623157e+308", std::numeric_limits<double>::max());
+    add("1.7976931348623159e+308", kInfinity);
+    add("-1d9999999999999999999", -kInfinity);
+    add("1d-9999999999999999999", 0);
+    add("0.00000000000000000001e320", 1e300);
+    add("1,5", 1);
+    add("0x10", 0);
+    add("- 1", 0);
+    add(".", 0);
+    add("-", 0);
+    add("", 0);
+    add("5.", 5);
+    add("--1", 0);
+}
+
+void NumberTextTest::numbersAreReadFromTheStart()
+{
+    QFETCH(const double, number);
+    QCOMPARE(LeadingNumber(QTest::currentDataTag()), number);
+}
+
+void NumberTextTest::numbersGoThroughTheCodePage_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("codePage");
+    QTest::addColumn<double>("number");
+    const QString wide = u"\uFF0D\uFF11\uFF0E\uFF15"_s;
+    QTest::newRow("wide digits in a page of single bytes") << wide << 1252 << -1.5;
+    QTest::newRow("wide digits in Thai") << wide << 874 << -1.5;
+    QTest::newRow("wide digits in Japanese") << wide << 932 << 0.0;
+    QTest::newRow("wide digits end a Korean number") << u"1\uFF12"_s << 949 << 1.0;
+    QTest::newRow("a minus sign in 1250") << u"\u22125"_s << 1250 << -5.0;
+    QTest::newRow("a minus sign in 1251") << u"\u22125"_s << 1251 << 0.0;
+    QTest::newRow("a no-break space is no blank") << u"\u00A05"_s << 1252 << 0.0;
+    QTest::newRow("a strange character ends it") << u"1\u4E002"_s << 1252 << 1.0;
+    QTest::newRow("63 units are read") << QString(62, u' ') + u"12"_s << 1252 << 1.0;
+}
+
+void NumberTextTest::numbersGoThroughTheCodePage()
+{
+    QFETCH(const QString, text);
+    QFETCH(const int, codePage);
+    QFETCH(const double, number);
+    QCOMPARE(LeadingNumberInCodePage(text, codePage), number);
+}
+
+} // namespace Quillory
+
+QTEST_APPLESS_MAIN(Quillory::NumberTextTest)
+#include "number_text_test.moc"

@@ -1,0 +1,305 @@
+#include "values/column_type.h"
+#include "values/file_date.h"
+#include "values/value_compare.h"
+#include "values/value_text.h"
+
+#include <QTest>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace Quillory {
+
+namespace {
+
+constexpr PropertyId kText = MakePropertyId(1, CEVT_LPWSTR);
+constexpr PropertyId kCheckbox = MakePropertyId(2, CEVT_BOOL);
+constexpr PropertyId kPrice = MakePropertyId(3, CEVT_R8);
+constexpr PropertyId kInteger = MakePropertyId(4, CEVT_I4);
+constexpr PropertyId kDate = MakePropertyId(5, CEVT_FILETIME);
+
+/// Prices as in the United States, dates written as in Germany and read as in Sweden.
+ValueContext Context()
+{
+    ValueContext context { LocaleProfile::For(u"en_US"_s), LocaleProfile::For(u"de_DE"_s),
+        [] {
+            return LocalTime { QDate(2026, 6, 15), QTime(12, 30, 15, 250) };
+        },
+        u"Checked"_s, u"Unchecked"_s };
+    return context;
+}
+
+PropertyValue Value(PropertyId id, PropertyVariant value)
+{
+    return { id, 0, std::move(value) };
+}
+
+FileTime Day(int year, int month, int day)
+{
+    return DateToFileTime(QDate(year, month, day)).value();
+}
+
+constexpr FileTime kEndOfFileTimes { quint64(1) << 63 };
+
+} // namespace
+
+class ValueTextTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fileTimesCountFrom1601_data();
+    void fileTimesCountFrom1601();
+    void daysOutsideTheFileTimesHaveNone();
+    void dateNumbersCarryTheTimeOfDay_data();
+    void dateNumbersCarryTheTimeOfDay();
+    void everyDestinationHasItsText_data();
+    void everyDestinationHasItsText();
+    void aMissingValueIsEmptyOrUnchecked();
+    void pricesThatFitNoFormArePlain();
+    void typedTextsAndImportedFieldsBecomeValues_data();
+    void typedTextsAndImportedFieldsBecomeValues();
+    void textsEndAtTheFirstNul();
+    void valuesSortByType_data();
+    void valuesSortByType();
+    void columnTypesAreStoredAsPropertyTypes();
+};
+
+void ValueTextTest::fileTimesCountFrom1601_data()
+{
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<quint64>("ticks");
+    QTest::newRow("day zero") << QDate(1899, 12, 30) << quint64(94353120000000000);
+    QTest::newRow("1900") << QDate(1900, 1, 1) << quint64(94354848000000000);
+    QTest::newRow("the first") << QDate(1601, 1, 1) << quint64(0);
+    QTest::newRow("1970") << QDate(1970, 1, 1) << quint64(116444736000000000);
+    QTest::newRow("1980") << QDate(1980, 1, 1) << quint64(119600064000000000);
+    QTest::newRow("2000") << QDate(2000, 1, 1) << quint64(125911584000000000);
+    QTest::newRow("a leap day") << QDate(2024, 2, 29) << quint64(133536384000000000);
+    QTest::newRow("the last written") << QDate(9999, 12, 31) << quint64(2650466880000000000);
+}
+
+void ValueTextTest::fileTimesCountFrom1601()
+{
+    QFETCH(const QDate, date);
+    QFETCH(const quint64, ticks);
+    QCOMPARE(DateToFileTime(date).value().ticks, ticks);
+    QCOMPARE(FileTimeToDate({ ticks }), date);
+    QCOMPARE(FileTimeToDate({ ticks + 863'999'999'999 }), date);
+}
+
+void ValueTextTest::daysOutsideTheFileTimesHaveNone()
+{
+    QVERIFY(!DateToFileTime(QDate(1600, 12, 31)));
+    QVERIFY(!DateToFileTime(QDate(100, 1, 1)));
+    QVERIFY(!DateToFileTime(QDate()));
+    QVERIFY(!FileTimeToDate(kEndOfFileTimes));
+    QVERIFY(FileTimeToDate({ kEndOfFileTimes.ticks - 1 }));
+    QVERIFY(!FileTimeToDate({ std::numeric_limits<quint64>::max() }));
+}
+
+void ValueTextTest::dateNumbersCarryTheTimeOfDay_data()
+{
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<QTime>("time");
+    QTest::addColumn<quint64>("ticks");
+    QTest::addColumn<double>("number");
+    QTest::newRow("noon") << QDate(2002, 5, 1) << QTime(12, 0) << quint64(0x01C1F107B82B6000)
+                          << 37377.5;
+    QTest::newRow("milliseconds do not count")
+        << QDate(2002, 7, 26) << QTime(11, 55, 32, 123) << quint64(0x01C2349B580716B0)
+        << 37463 + (11 * 3600 + 55 * 60 + 32) / 86400.0;
+    QTest::newRow("before day zero hours count down")
+        << QDate(1899, 12, 25) << QTime(6, 0) << quint64(94349016000000000) << -5.25;
+    QTest::newRow("the first file time")
+        << QDate(1601, 1, 1) << QTime(0, 0) << quint64(0) << -109205.0;
+}
+
+void ValueTextTest::dateNumbersCarryTheTimeOfDay()
+{
+    QFETCH(const QDate, date);
+    QFETCH(const QTime, time);
+    QFETCH(const quint64, ticks);
+    QFETCH(const double, number);
+    QCOMPARE(LocalTimeToFileTime({ date, time }).value().ticks, ticks);
+    QCOMPARE(FileTimeToDateNumber({ ticks }), number);
+}
+
+void ValueTextTest::everyDestinationHasItsText_data()
+{
+    QTest::addColumn<PropertyValue>("value");
+    QTest::addColumn<QString>("cell");
+    QTest::addColumn<QString>("edit");
+    QTest::addColumn<QString>("exported");
+    const auto add = [](const char* name, const PropertyValue& value, const QString& cell,
+                         const QString& edit, const QString& exported) {
+        QTest::newRow(name) << value << cell << edit << exported;
+    };
+    add("a text", Value(kText, u"Tea\tgreen"_s), u"Tea\tgreen"_s, u"Tea\tgreen"_s, u"Tea\tgreen"_s);
+    add("a number", Value(kInteger, qint32(-12345)), u"-12345"_s, u"-12345"_s, u"-12345"_s);
+    add("the smallest number", Value(kInteger, std::numeric_limits<qint32>::min()),
+        u"-2147483648"_s, u"-2147483648"_s, u"-2147483648"_s);
+    add("a price", Value(kPrice, 1234.5), u"1,234.50"_s, u"1,234.50"_s, u"1234.50"_s);
+    add("a negative price", Value(kPrice, -0.5), u"-0.50"_s, u"-0.50"_s, u"-0.50"_s);
+    add("an endless price", Value(kPrice, std::numeric_limits<double>::infinity()), u"1.#J"_s,
+        u"1.#J"_s, u"1.#J"_s);
+    add("a checked box", Value(kCheckbox, true), QString(), u"Checked"_s, u"Y"_s);
+    add("an unchecked box", Value(kCheckbox, false), QString(), u"Unchecked"_s, u"N"_s);
+    add("a date", Value(kDate, Day(2024, 1, 5)), u"05.01.2024"_s, u"05.01.2024"_s, u"05.01.2024"_s);
+    add("a file time without a day", Value(kDate, kEndOfFileTimes), QString(), QString(),
+        QString());
+}
+
+void ValueTextTest::everyDestinationHasItsText()
+{
+    QFETCH(const PropertyValue, value);
+    QFETCH(const QString, cell);
+    QFETCH(const QString, edit);
+    QFETCH(const QString, exported);
+    const ValueContext context = Context();
+    QCOMPARE(FormatCellText(&value, value.id, context), cell);
+    QCOMPARE(FormatEditText(&value, value.id, context), edit);
+    QCOMPARE(FormatExportText(value, context), exported);
+    QString line = u"before"_s;
+    AppendExportText(line, value, context);
+    QCOMPARE(line, u"before"_s + exported);
+}
+
+void ValueTextTest::aMissingValueIsEmptyOrUnchecked()
+{
+    const ValueContext context = Context();
+    for (const PropertyId column : { kText, kInteger, kPrice, kDate, kCheckbox }) {
+        QCOMPARE(FormatCellText(nullptr, column, context), QString());
+        QCOMPARE(FormatEditText(nullptr, column, context),
+            column == kCheckbox ? u"Unchecked"_s : QString());
+    }
+}
+
+void ValueTextTest::pricesThatFitNoFormArePlain()
+{
+    const ValueContext context = Context();
+    const PropertyValue price = Value(kPrice, 1e50);
+    QCOMPARE(FormatCellText(&price, kPrice, context).count(u','), 16);
+    QCOMPARE(FormatEditText(&price, kPrice, context), FormatExportText(price, context));
+    const PropertyValue huge = Value(kPrice, 1e300);
+    QCOMPARE(FormatCellText(&huge, kPrice, context), FormatExportText(huge, context));
+    QCOMPARE(FormatEditText(&huge, kPrice, context).size(), 63);
+    QCOMPARE(FormatExportText(huge, context).size(), 304);
+}
+
+void ValueTextTest::typedTextsAndImportedFieldsBecomeValues_data()
+{
+    QTest::addColumn<PropertyId>("column");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<PropertyVariant>("typed");
+    QTest::addColumn<PropertyVariant>("imported");
+    const auto add = [](const char* name, PropertyId column, const QString& text,
+                         const PropertyVariant& typed, const PropertyVariant& imported) {
+        QTest::newRow(name) << column << text << typed << imported;
+    };
+    const auto addBoth
+        = [&](const char* name, PropertyId column, const QString& text,
+              const PropertyVariant& value) { add(name, column, text, value, value); };
+    addBoth("letters end a number", kInteger, u"12abc"_s, qint32(12));
+    addBoth("no digits are 0", kInteger, QString(), qint32(0));
+    add("a comma is a point where typed", kPrice, u"12,5"_s, 12.5, 12.0);
+    add("every comma is a point", kPrice, u"1,234.50"_s, 1.234, 1.0);
+    addBoth("a price without digits is 0", kPrice, u"free"_s, 0.0);
+    addBoth("Checked", kCheckbox, u"Checked"_s, true);
+    add("Unchecked counts where typed", kCheckbox, u"Unchecked"_s, false, true);
+    add("N counts where imported", kCheckbox, u"N"_s, true, false);
+    addBoth("n is checked", kCheckbox, u"n"_s, true);
+    addBoth("no text is checked", kCheckbox, QString(), true);
+    addBoth("a date in the user's locale", kDate, u"2/1/2024"_s, Day(2024, 2, 1));
+    addBoth("a time alone is day zero", kDate, u"10:30"_s, Day(1899, 12, 30));
+    addBoth("30 February is nothing", kDate, u"2/30/2024"_s, {});
+    addBoth("a day before 1601 is nothing", kDate, u"12/31/1600"_s, {});
+    addBoth("no date is nothing", kDate, QString(), {});
+    addBoth("a text is kept", kText, u" Tea "_s, u" Tea "_s);
+}
+
+void ValueTextTest::typedTextsAndImportedFieldsBecomeValues()
+{
+    QFETCH(const PropertyId, column);
+    QFETCH(const QString, text);
+    QFETCH(const PropertyVariant, typed);
+    QFETCH(const PropertyVariant, imported);
+    const auto check
+        = [&](const std::optional<PropertyValue>& value, const PropertyVariant& expected) {
+              return value ? value->id == column && value->value == expected
+                           : std::holds_alternative<std::monostate>(expected);
+          };
+    QVERIFY(check(ParseValueText(column, text, Context()), typed));
+    QVERIFY(check(ParseImportText(column, text, Context()), imported));
+}
+
+void ValueTextTest::textsEndAtTheFirstNul()
+{
+    const QString text = u"N"_s + QChar(u'\0') + u"o"_s;
+    const auto stored = ParseValueText(kText, text, Context());
+    QVERIFY(stored && stored->value == PropertyVariant(u"N"_s));
+    const auto box = ParseImportText(kCheckbox, text, Context());
+    QVERIFY(box && box->value == PropertyVariant(false));
+}
+
+void ValueTextTest::valuesSortByType_data()
+{
+    QTest::addColumn<PropertyId>("column");
+    QTest::addColumn<PropertyVariant>("a");
+    QTest::addColumn<PropertyVariant>("b");
+    QTest::addColumn<int>("order");
+    const auto add = [](const char* name, PropertyId column, const PropertyVariant& a,
+                         const PropertyVariant& b,
+                         int order) { QTest::newRow(name) << column << a << b << order; };
+    const PropertyVariant missing;
+    const FileTime dayZero = Day(1899, 12, 30);
+    add("capitals come first", kText, u"Zebra"_s, u"apple"_s, -1);
+    add("units count, not characters", kText, u"\uFFFD"_s, u"\U00010000"_s, 1);
+    add("a missing text is empty", kText, missing, QString(), 0);
+    add("numbers", kInteger, std::numeric_limits<qint32>::min(), qint32(1), -1);
+    add("a missing number is 0", kInteger, missing, qint32(-1), 1);
+    add("prices", kPrice, 0.1, 0.2, -1);
+    add("no number is equal to all", kPrice, std::numeric_limits<double>::quiet_NaN(), 1.0, 0);
+    add("unchecked comes first", kCheckbox, false, true, -1);
+    add("missing is unchecked", kCheckbox, missing, false, 0);
+    add("dates", kDate, Day(2024, 1, 5), Day(2023, 12, 31), 1);
+    add("a second counts", kDate, dayZero, FileTime { dayZero.ticks + 10'000'000 }, -1);
+    add("a millisecond does not", kDate, dayZero, FileTime { dayZero.ticks + 10'000 }, 0);
+    add("a missing date is day zero", kDate, missing, dayZero, 0);
+}
+
+void ValueTextTest::valuesSortByType()
+{
+    QFETCH(const PropertyId, column);
+    QFETCH(const PropertyVariant, a);
+    QFETCH(const PropertyVariant, b);
+    QFETCH(const int, order);
+    const auto property = [&](const PropertyVariant& value) -> std::optional<PropertyValue> {
+        const bool isMissing = std::holds_alternative<std::monostate>(value);
+        return isMissing ? std::nullopt : std::optional(Value(column, value));
+    };
+    const auto first = property(a);
+    const auto second = property(b);
+    const auto* const left = first ? &*first : nullptr;
+    const auto* const right = second ? &*second : nullptr;
+    QCOMPARE(CompareColumnValues(left, right, column), order);
+    QCOMPARE(CompareColumnValues(right, left, column), -order);
+}
+
+void ValueTextTest::columnTypesAreStoredAsPropertyTypes()
+{
+    for (int type = 0; type < kColumnTypeCount; ++type) {
+        const auto columnType = static_cast<ColumnType>(type);
+        QCOMPARE(ColumnTypeOf(MakePropertyId(10123, StorageType(columnType))), columnType);
+    }
+    QCOMPARE(ColumnTypeOf(PropertyId {}), ColumnType::String);
+    QCOMPARE(static_cast<quint32>(PropName), 0x2711001FU);
+    QCOMPARE(static_cast<quint32>(PropCount), 0x27120003U);
+    QCOMPARE(static_cast<quint32>(PropExpiryDate), 0x27180040U);
+}
+
+} // namespace Quillory
+
+QTEST_APPLESS_MAIN(Quillory::ValueTextTest)
+#include "value_text_test.moc"
