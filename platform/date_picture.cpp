@@ -1,5 +1,6 @@
 #include "platform/date_picture.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Quillory {
@@ -72,37 +73,66 @@ private:
     bool m_quoted = false;
 };
 
-void AppendNumber(QString& line, int number, int minDigits)
+/// Gathers a short text, so that the line it goes to grows once.
+class TextBuffer
 {
-    std::array<QChar, 10> digits;
-    auto first = digits.end();
-    int left = number;
-    do {
-        *--first = QChar(static_cast<char16_t>(u'0' + left % 10));
-        left /= 10;
-    } while (left > 0);
-    while (digits.end() - first < minDigits) {
-        *--first = u'0';
-    }
-    line.append(first, digits.end() - first);
-}
+public:
+    explicit TextBuffer(QString& line)
+        : m_line(line)
+    { }
 
-void AppendMonth(QString& line, int month, int count, const LocaleProfile& locale)
+    void Add(QChar unit)
+    {
+        if (m_count == m_units.size()) {
+            Flush();
+        }
+        m_units.at(m_count++) = unit;
+    }
+    void Add(QStringView text)
+    {
+        for (const QChar unit : text) {
+            Add(unit);
+        }
+    }
+    void AddNumber(int number, int minDigits)
+    {
+        std::array<QChar, 10> digits;
+        auto first = digits.end();
+        int left = number;
+        do {
+            *--first = QChar(static_cast<char16_t>(u'0' + left % 10));
+            left /= 10;
+        } while (left > 0 || digits.end() - first < minDigits);
+        Add(QStringView(first, digits.end()));
+    }
+    void Flush()
+    {
+        m_line.append(m_units.data(), static_cast<qsizetype>(m_count));
+        m_count = 0;
+    }
+
+private:
+    QString& m_line;
+    std::array<QChar, 24> m_units;
+    std::size_t m_count = 0;
+};
+
+void AddMonth(TextBuffer& text, int month, int count, const LocaleProfile& locale)
 {
     const auto index = static_cast<std::size_t>(month - 1);
     if (count <= 2) {
-        AppendNumber(line, month, count);
+        text.AddNumber(month, count);
     } else {
-        line.append(count == 3 ? locale.shortMonthNames.at(index) : locale.monthNames.at(index));
+        text.Add(count == 3 ? locale.shortMonthNames.at(index) : locale.monthNames.at(index));
     }
 }
 
-void AppendYear(QString& line, int year, int count)
+void AddYear(TextBuffer& text, int year, int count)
 {
     if (count <= 2) {
-        AppendNumber(line, year % 100, count);
+        text.AddNumber(year % 100, count);
     } else {
-        AppendNumber(line, year, 4);
+        text.AddNumber(year, 4);
     }
 }
 
@@ -209,33 +239,32 @@ private:
 
 void AppendDateText(QString& line, QDate date, const LocaleProfile& locale)
 {
-    const auto [year, month, day] = [date] {
-        int y = 0;
-        int m = 0;
-        int d = 0;
-        date.getDate(&y, &m, &d);
-        return std::array { y, m, d };
-    }();
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    date.getDate(&year, &month, &day);
     if (year < kFirstYear) {
         return;
     }
+    TextBuffer text(line);
     PictureTokens tokens(locale.shortDatePicture);
     while (const auto token = tokens.Next()) {
         switch (token->kind) {
         case PictureToken::Kind::Literal:
-            line.append(token->literal);
+            text.Add(token->literal);
             break;
         case PictureToken::Kind::Day:
-            AppendNumber(line, day, token->count);
+            text.AddNumber(day, std::min(token->count, 2));
             break;
         case PictureToken::Kind::Month:
-            AppendMonth(line, month, token->count, locale);
+            AddMonth(text, month, token->count, locale);
             break;
         case PictureToken::Kind::Year:
-            AppendYear(line, year + locale.yearOffset, token->count);
+            AddYear(text, year + locale.yearOffset, token->count);
             break;
         }
     }
+    text.Flush();
 }
 
 QString DateText(QDate date, const LocaleProfile& locale)
