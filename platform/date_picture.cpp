@@ -25,53 +25,48 @@ struct PictureToken
     QChar literal;
 };
 
-/// Takes a picture apart from left to right.
-class PictureTokens
+PictureToken::Kind KindOf(QChar unit)
 {
-public:
-    explicit PictureTokens(QStringView picture)
-        : m_picture(picture)
-    { }
+    switch (unit.unicode()) {
+    case u'd':
+        return PictureToken::Kind::Day;
+    case u'M':
+        return PictureToken::Kind::Month;
+    case u'y':
+        return PictureToken::Kind::Year;
+    default:
+        return PictureToken::Kind::Literal;
+    }
+}
 
-    std::optional<PictureToken> Next()
-    {
-        while (m_at < m_picture.size() && m_picture[m_at] == u'\'' && !IsDoubledQuote()) {
-            m_quoted = !m_quoted;
-            ++m_at;
-        }
-        if (m_at >= m_picture.size()) {
-            return std::nullopt;
-        }
-        const QChar unit = m_picture[m_at];
-        if (m_quoted || (unit != u'd' && unit != u'M' && unit != u'y')) {
-            m_at += unit == u'\'' ? 2 : 1;
-            return PictureToken { PictureToken::Kind::Literal, 1, unit };
-        }
-        int count = 0;
-        while (m_at < m_picture.size() && m_picture[m_at] == unit) {
-            ++m_at;
+/// Hands the tokens of a picture to `visit` from left to right, until it answers false. Returns
+/// whether it saw them all. A template, as a call per token would cost more than the token's work.
+template <typename Visit> bool VisitPicture(QStringView picture, Visit visit)
+{
+    bool isQuoted = false;
+    for (qsizetype at = 0; at < picture.size();) {
+        const QChar unit = picture[at];
+        const auto kind = isQuoted ? PictureToken::Kind::Literal : KindOf(unit);
+        qsizetype count = 1;
+        while (at + count < picture.size() && picture[at + count] == unit) {
             ++count;
         }
-        return PictureToken { KindOf(unit), count, {} };
-    }
-
-private:
-    static PictureToken::Kind KindOf(QChar letter)
-    {
-        if (letter == u'd') {
-            return PictureToken::Kind::Day;
+        if (unit == u'\'' && count == 1) {
+            isQuoted = !isQuoted;
+            ++at;
+            continue;
         }
-        return letter == u'M' ? PictureToken::Kind::Month : PictureToken::Kind::Year;
+        if (kind == PictureToken::Kind::Literal) {
+            // A doubled quote stands for one.
+            count = unit == u'\'' ? 2 : 1;
+        }
+        at += count;
+        if (!visit(PictureToken { kind, static_cast<int>(count), unit })) {
+            return false;
+        }
     }
-    bool IsDoubledQuote() const
-    {
-        return m_at + 1 < m_picture.size() && m_picture[m_at + 1] == u'\'';
-    }
-
-    QStringView m_picture;
-    qsizetype m_at = 0;
-    bool m_quoted = false;
-};
+    return true;
+}
 
 /// Gathers a short text, so that the line it goes to grows once.
 class TextBuffer
@@ -247,23 +242,23 @@ void AppendDateText(QString& line, QDate date, const LocaleProfile& locale)
         return;
     }
     TextBuffer text(line);
-    PictureTokens tokens(locale.shortDatePicture);
-    while (const auto token = tokens.Next()) {
-        switch (token->kind) {
+    VisitPicture(locale.shortDatePicture, [&](const PictureToken& token) {
+        switch (token.kind) {
         case PictureToken::Kind::Literal:
-            text.Add(token->literal);
+            text.Add(token.literal);
             break;
         case PictureToken::Kind::Day:
-            text.AddNumber(day, std::min(token->count, 2));
+            text.AddNumber(day, std::min(token.count, 2));
             break;
         case PictureToken::Kind::Month:
-            AddMonth(text, month, token->count, locale);
+            AddMonth(text, month, token.count, locale);
             break;
         case PictureToken::Kind::Year:
-            AddYear(text, year + locale.yearOffset, token->count);
+            AddYear(text, year + locale.yearOffset, token.count);
             break;
         }
-    }
+        return true;
+    });
     text.Flush();
 }
 
@@ -277,14 +272,10 @@ QString DateText(QDate date, const LocaleProfile& locale)
 std::optional<QDate> ReadDateByPicture(
     QStringView text, QStringView picture, DigitCount digits, const LocaleProfile& locale)
 {
-    PictureTokens tokens(picture);
     PictureMatch match(text, digits, locale);
-    while (const auto token = tokens.Next()) {
-        if (!match.Take(*token)) {
-            return std::nullopt;
-        }
-    }
-    return match.Result();
+    const bool isMatch
+        = VisitPicture(picture, [&match](const PictureToken& token) { return match.Take(token); });
+    return isMatch ? match.Result() : std::nullopt;
 }
 
 } // namespace Quillory
