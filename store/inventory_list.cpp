@@ -9,12 +9,10 @@ namespace Quillory {
 
 InventoryList NewInventoryList()
 {
-    constexpr int kNameText = 103;
-    constexpr int kQuantityText = 106;
     InventoryList list;
     list.columns = {
-        { LoadString(kNameText), kKindName, PropName },
-        { LoadString(kQuantityText), kKindCount, PropCount },
+        { LoadString(StringId::Name), kKindName, PropName },
+        { LoadString(StringId::Quantity), kKindCount, PropCount },
     };
     return list;
 }

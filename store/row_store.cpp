@@ -3,6 +3,7 @@
 #include "store/column_scan.h"
 #include "store/list_catalogue.h"
 #include "values/column_type.h"
+#include "values/file_date.h"
 
 #include <algorithm>
 #include <array>
@@ -117,8 +118,8 @@ std::vector<ObjectId> RowStore::SortRows(std::vector<ObjectId> rows, PropertyId 
         return SortBy<quint8, bool>(
             *database, rows, column, [](const bool& value) { return quint8 { value }; });
     case ColumnType::Date:
-        return SortBy<quint64, FileTime>(
-            *database, rows, column, [](const FileTime& value) { return value.ticks; });
+        return SortBy<double, FileTime>(*database, rows, column,
+            [](const FileTime& value) { return FileTimeToDateNumber(value).value_or(0.0); });
     case ColumnType::String:
         return SortBy<QString, QString>(
             *database, rows, column, [](const QString& value) { return value; });

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QString>
+
+namespace Quillory {
+
+/// The pages, by the numbers of their dialogs.
+enum class Dialog
+{
+    About = 100,
+    IconGrid = 202,
+    Welcome = 203,
+    General = 204,
+    Columns = 205,
+    ColumnDefinition = 206,
+    RowEditor = 207,
+    ListOptions = 208,
+    Summary = 209,
+    DisplayOptions = 210,
+    Filters = 211,
+    Filter = 212,
+    ImportColumnOrder = 214,
+};
+
+/// The controls that have a text or a number of their own.
+enum class Control
+{
+    VersionText = 1000,
+    NameEdit = 1001,
+    IconPicker = 1002,
+    ListView = 1003,
+    TypeBox = 1005,
+    RowsList = 1007,
+    ValueEdit = 1008,
+    ValueBox = 1009,
+    WarnOnCount = 1010,
+    ThresholdSpin = 1011,
+    CountColour = 1012,
+    WarnOnExpiry = 1013,
+    ExpiryColour = 1014,
+    Landscape = 1015,
+    LandscapeRight = 1016,
+    LandscapeLeft = 1017,
+    AlternateColour = 1018,
+    FilterList = 1019,
+    FieldBox = 1020,
+    ConditionBox = 1021,
+    CheckboxValueBox = 1022,
+    DatePicker = 1023,
+    MoveUp = 1025,
+    MoveDown = 1026,
+};
+
+/// The title of a page; empty for those that have none.
+[[nodiscard]] QString DialogTitle(Dialog dialog);
+/// The text of a control; empty for those that have none.
+[[nodiscard]] QString ControlText(Control control);
+
+/// The anchors of the help page.
+inline constexpr char kHelpMain[] = "Main_Contents";
+inline constexpr char kHelpNewList[] = "newlist";
+inline constexpr char kHelpEditList[] = "editlist";
+inline constexpr char kHelpOptions[] = "options";
+inline constexpr char kHelpImport[] = "importlist";
+
+} // namespace Quillory

@@ -1,0 +1,29 @@
+#pragma once
+
+namespace Quillory {
+
+/// Sizes in logical pixels. Those that fingers meet come in two: for touch and for a mouse.
+struct Measures
+{
+    int headerHeight;
+    int softKeyHeight;
+    int lineHeight;
+    int iconSize;
+};
+
+constexpr Measures kTouchMeasures { 48, 56, 48, 24 };
+constexpr Measures kMouseMeasures { 40, 44, 28, 16 };
+
+constexpr int kGrid = 8;
+constexpr int kPageMargin = 16;
+/// The margin of pages narrower than kNarrowPage.
+constexpr int kNarrowMargin = 8;
+constexpr int kNarrowPage = 300;
+/// The least height of what a finger is to hit.
+constexpr int kMinTouchTarget = 44;
+constexpr int kMinTextPixels = 13;
+
+/// The measures for the devices at hand: touch where there is a touch screen.
+[[nodiscard]] const Measures& CurrentMeasures();
+
+} // namespace Quillory

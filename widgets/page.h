@@ -1,0 +1,89 @@
+#pragma once
+
+#include "res/command_table.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class QLabel;
+class QToolButton;
+class QVBoxLayout;
+
+namespace Quillory {
+
+class PageStack;
+
+/// How a page ended.
+enum class PageResult
+{
+    Ok = 1,
+    Cancel = 2,
+    /// The Cancel soft key of pages that tell it from other ends.
+    CancelKey = 59281,
+};
+
+/// A full-screen page: a header with the title, OK and help, the page's own body, and the soft-key
+/// bar. It writes nothing to the store; its opener does, in the continuation on its result.
+class Page : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// A page without a title has no header.
+    explicit Page(const QString& title, QWidget* parent = nullptr);
+
+    [[nodiscard]] QString Title() const;
+    void SetTitle(const QString& title);
+    /// Whether the header has an OK button; it does unless told otherwise.
+    void ShowOkButton(bool isShown);
+    /// Gives the header a "?" that opens help at this anchor (and F1).
+    void SetHelpAnchor(const QString& anchor);
+
+    /// Fills the bar at the bottom; a right key of Command::Menu opens `menu`. Without soft keys
+    /// there is no bar.
+    void SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu = {});
+    void SetCommandEnabled(Command command, bool isEnabled);
+    void SetCommandChecked(Command command, bool isChecked);
+    void SetShortcut(Command command, const QKeySequence& shortcut);
+    /// Runs a command as its soft key or menu entry would; nothing if it is disabled.
+    void Trigger(Command command);
+    /// The action behind a command; made at the first call. Context menus and soft keys share it.
+    [[nodiscard]] QAction* ActionOf(Command command);
+    /// Opens a menu of these entries at a place on the screen; the actions are those of the page.
+    void OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& globalPosition);
+
+    /// Ends the page with a result: the stack takes it away and calls the opener back.
+    void End(PageResult result);
+
+    /// What a result asked for from outside does: closing the window and Escape come as Cancel. The
+    /// page may end, ask first, or commit what is being edited.
+    virtual void RequestEnd(PageResult result);
+
+Q_SIGNALS:
+    void Ended(Quillory::PageResult result);
+    /// A command was chosen that the page must carry out.
+    void CommandChosen(Quillory::Command command);
+    /// A menu is about to open: the last chance to set what is enabled.
+    void MenuAboutToOpen();
+    void HelpRequested(const QString& anchor);
+
+protected:
+    /// The page's own content goes here, between header and soft keys.
+    [[nodiscard]] QVBoxLayout* Body() const { return m_body; }
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QVBoxLayout* m_body = nullptr;
+    QWidget* m_header = nullptr;
+    QLabel* m_title = nullptr;
+    QToolButton* m_ok = nullptr;
+    QToolButton* m_help = nullptr;
+    QWidget* m_softKeys = nullptr;
+    QString m_helpAnchor;
+
+    void BuildHeader(const QString& title);
+};
+
+} // namespace Quillory

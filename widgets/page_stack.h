@@ -1,0 +1,29 @@
+#pragma once
+
+#include "widgets/page.h"
+
+#include <QStackedWidget>
+
+namespace Quillory {
+
+/// The pages of the one window, the topmost shown. There are no nested event loops: whoever opens a
+/// page is called back when it ends.
+class PageStack : public QStackedWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PageStack(QWidget* parent = nullptr);
+
+    /// Shows `page` on top and takes it over. `then` is called with its result once it is gone
+    /// from the screen, before it is deleted; it may read from the page.
+    void Push(Page* page, std::function<void(PageResult)> then = {});
+    [[nodiscard]] Page* Top() const;
+    [[nodiscard]] int Depth() const { return count(); }
+
+    /// Asks the topmost page but the first to end as if cancelled. True when only the first is
+    /// left, so that the window may close.
+    [[nodiscard]] bool CloseTopmost();
+};
+
+} // namespace Quillory

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+
+class QAbstractItemView;
+class QPoint;
+
+namespace Quillory {
+
+/// Gives an item view the behaviour of a finger: a tap is one click, a hold opens the context menu
+/// and is followed by no click, a flick scrolls by pixels, and a tap that stops a moving list opens
+/// nothing. A mouse's right button does what a hold does.
+class TouchBehaviour : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Owned by the view.
+    explicit TouchBehaviour(QAbstractItemView* view);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// A finger held or the right button pressed; in the coordinates of the view's viewport.
+    void Held(const QPoint& position);
+
+private:
+    QAbstractItemView* m_view;
+};
+
+} // namespace Quillory
