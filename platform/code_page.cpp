@@ -14,6 +14,7 @@ namespace {
 constexpr char16_t kLeadByte = 0xFFFF;
 constexpr int kFirstLeadByte = 0x81;
 constexpr int kTrailCount = 256;
+constexpr int kPairCount = (256 - kFirstLeadByte) * kTrailCount;
 
 /// Bytes that stand for other characters than the decoder of this computer says.
 struct BytePatch
@@ -115,7 +116,7 @@ std::array<char16_t, 256> UnitsOf(const PageRow& page)
 std::vector<char16_t> PairsOf(const PageRow& page)
 {
     QByteArray bytes;
-    bytes.reserve(3 * kTrailCount * (256 - kFirstLeadByte));
+    bytes.reserve(qsizetype(3) * kPairCount);
     for (int lead = kFirstLeadByte; lead < 256; ++lead) {
         for (int trail = 0; trail < kTrailCount; ++trail) {
             const bool isPair = IsLeadByte(page, lead) && trail >= 0x30;
@@ -127,7 +128,7 @@ std::vector<char16_t> PairsOf(const PageRow& page)
     }
     const QString text = QStringDecoder(page.name).decode(bytes);
     std::vector<char16_t> pairs;
-    pairs.reserve(kTrailCount * (256 - kFirstLeadByte));
+    pairs.reserve(kPairCount);
     for (const QStringView pair : QStringView(text).chopped(1).split(u'\n')) {
         pairs.push_back(IsDecoded(pair) ? pair[0].unicode() : u'\0');
     }

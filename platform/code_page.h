@@ -13,7 +13,7 @@ namespace Quillory {
 /// character become the control or private-use character of the platform's tables, broken pairs of
 /// bytes the page's default character; nothing fails.
 ///
-/// Making one takes some microseconds, for a page of pairs (932, 936, 949, 950) some milliseconds;
+/// Making one takes a tenth of a millisecond, for a page of pairs (932, 936, 949, 950) one or two:
 /// keep it for a whole file.
 class CodePage
 {
@@ -30,9 +30,9 @@ public:
 private:
     CodePage() = default;
 
-    /// By byte; a lead byte of a pair has kLeadByte.
+    /// By byte; the first of a pair has a mark of its own.
     std::array<char16_t, 256> m_units {};
-    /// By pair, lead byte first, from kFirstLeadByte; 0 for a broken one. Empty if there are none.
+    /// By pair, from lead byte 0x81 on; 0 for a broken pair. Empty if the page has no pairs.
     std::vector<char16_t> m_pairs;
     char16_t m_defaultUnit = u'?';
 };

@@ -1,5 +1,6 @@
 #include "platform/date_picture.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Quillory {
@@ -24,85 +25,109 @@ struct PictureToken
     QChar literal;
 };
 
-/// Takes a picture apart from left to right.
-class PictureTokens
+PictureToken::Kind KindOf(QChar unit)
 {
-public:
-    explicit PictureTokens(QStringView picture)
-        : m_picture(picture)
-    { }
+    switch (unit.unicode()) {
+    case u'd':
+        return PictureToken::Kind::Day;
+    case u'M':
+        return PictureToken::Kind::Month;
+    case u'y':
+        return PictureToken::Kind::Year;
+    default:
+        return PictureToken::Kind::Literal;
+    }
+}
 
-    std::optional<PictureToken> Next()
-    {
-        while (m_at < m_picture.size() && m_picture[m_at] == u'\'' && !IsDoubledQuote()) {
-            m_quoted = !m_quoted;
-            ++m_at;
-        }
-        if (m_at >= m_picture.size()) {
-            return std::nullopt;
-        }
-        const QChar unit = m_picture[m_at];
-        if (m_quoted || (unit != u'd' && unit != u'M' && unit != u'y')) {
-            m_at += unit == u'\'' ? 2 : 1;
-            return PictureToken { PictureToken::Kind::Literal, 1, unit };
-        }
-        int count = 0;
-        while (m_at < m_picture.size() && m_picture[m_at] == unit) {
-            ++m_at;
+/// Hands the tokens of a picture to `visit` from left to right, until it answers false. Returns
+/// whether it saw them all. A template, as a call per token would cost more than the token's work.
+template <typename Visit> bool VisitPicture(QStringView picture, Visit visit)
+{
+    bool isQuoted = false;
+    for (qsizetype at = 0; at < picture.size();) {
+        const QChar unit = picture[at];
+        const auto kind = isQuoted ? PictureToken::Kind::Literal : KindOf(unit);
+        qsizetype count = 1;
+        while (at + count < picture.size() && picture[at + count] == unit) {
             ++count;
         }
-        return PictureToken { KindOf(unit), count, {} };
+        if (unit == u'\'' && count == 1) {
+            isQuoted = !isQuoted;
+            ++at;
+            continue;
+        }
+        if (kind == PictureToken::Kind::Literal) {
+            // A doubled quote stands for one.
+            count = unit == u'\'' ? 2 : 1;
+        }
+        at += count;
+        if (!visit(PictureToken { kind, static_cast<int>(count), unit })) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Gathers a short text, so that the line it goes to grows once.
+class TextBuffer
+{
+public:
+    explicit TextBuffer(QString& line)
+        : m_line(line)
+    { }
+
+    void Add(QChar unit)
+    {
+        if (m_count == m_units.size()) {
+            Flush();
+        }
+        m_units.at(m_count++) = unit;
+    }
+    void Add(QStringView text)
+    {
+        for (const QChar unit : text) {
+            Add(unit);
+        }
+    }
+    void AddNumber(int number, int minDigits)
+    {
+        std::array<QChar, 10> digits;
+        auto first = digits.end();
+        int left = number;
+        do {
+            *--first = QChar(static_cast<char16_t>(u'0' + left % 10));
+            left /= 10;
+        } while (left > 0 || digits.end() - first < minDigits);
+        Add(QStringView(first, digits.end()));
+    }
+    void Flush()
+    {
+        m_line.append(m_units.data(), static_cast<qsizetype>(m_count));
+        m_count = 0;
     }
 
 private:
-    static PictureToken::Kind KindOf(QChar letter)
-    {
-        if (letter == u'd') {
-            return PictureToken::Kind::Day;
-        }
-        return letter == u'M' ? PictureToken::Kind::Month : PictureToken::Kind::Year;
-    }
-    bool IsDoubledQuote() const
-    {
-        return m_at + 1 < m_picture.size() && m_picture[m_at + 1] == u'\'';
-    }
-
-    QStringView m_picture;
-    qsizetype m_at = 0;
-    bool m_quoted = false;
+    QString& m_line;
+    std::array<QChar, 24> m_units;
+    std::size_t m_count = 0;
 };
 
-void AppendNumber(QString& line, int number, int minDigits)
-{
-    std::array<QChar, 10> digits;
-    auto first = digits.end();
-    int left = number;
-    do {
-        *--first = QChar(static_cast<char16_t>(u'0' + left % 10));
-        left /= 10;
-    } while (left > 0);
-    while (digits.end() - first < minDigits) {
-        *--first = u'0';
-    }
-    line.append(first, digits.end() - first);
-}
-
-void AppendMonth(QString& line, int month, int count, const LocaleProfile& locale)
+void AddMonth(TextBuffer& text, int month, int count, const LocaleProfile& locale)
 {
     const auto index = static_cast<std::size_t>(month - 1);
     if (count <= 2) {
-        AppendNumber(line, month, count);
+        text.AddNumber(month, count);
     } else {
-        line.append(count == 3 ? locale.shortMonthNames.at(index) : locale.monthNames.at(index));
+        text.Add(count == 3 ? locale.shortMonthNames.at(index) : locale.monthNames.at(index));
     }
 }
 
-void AppendYear(QString& line, int year, int count)
+void AddYear(TextBuffer& text, int year, int count)
 {
     if (count <= 2) {
-        AppendNumber(line, year % 100, count);
+        text.AddNumber(year % 100, count);
     } else {
-        AppendNumber(line, year, 4);
+        text.AddNumber(year, 4);
     }
 }
 
@@ -209,33 +234,32 @@ private:
 
 void AppendDateText(QString& line, QDate date, const LocaleProfile& locale)
 {
-    const auto [year, month, day] = [date] {
-        int y = 0;
-        int m = 0;
-        int d = 0;
-        date.getDate(&y, &m, &d);
-        return std::array { y, m, d };
-    }();
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    date.getDate(&year, &month, &day);
     if (year < kFirstYear) {
         return;
     }
-    PictureTokens tokens(locale.shortDatePicture);
-    while (const auto token = tokens.Next()) {
-        switch (token->kind) {
+    TextBuffer text(line);
+    VisitPicture(locale.shortDatePicture, [&](const PictureToken& token) {
+        switch (token.kind) {
         case PictureToken::Kind::Literal:
-            line.append(token->literal);
+            text.Add(token.literal);
             break;
         case PictureToken::Kind::Day:
-            AppendNumber(line, day, token->count);
+            text.AddNumber(day, std::min(token.count, 2));
             break;
         case PictureToken::Kind::Month:
-            AppendMonth(line, month, token->count, locale);
+            AddMonth(text, month, token.count, locale);
             break;
         case PictureToken::Kind::Year:
-            AppendYear(line, year + locale.yearOffset, token->count);
+            AddYear(text, year + locale.yearOffset, token.count);
             break;
         }
-    }
+        return true;
+    });
+    text.Flush();
 }
 
 QString DateText(QDate date, const LocaleProfile& locale)
@@ -248,14 +272,10 @@ QString DateText(QDate date, const LocaleProfile& locale)
 std::optional<QDate> ReadDateByPicture(
     QStringView text, QStringView picture, DigitCount digits, const LocaleProfile& locale)
 {
-    PictureTokens tokens(picture);
     PictureMatch match(text, digits, locale);
-    while (const auto token = tokens.Next()) {
-        if (!match.Take(*token)) {
-            return std::nullopt;
-        }
-    }
-    return match.Result();
+    const bool isMatch
+        = VisitPicture(picture, [&match](const PictureToken& token) { return match.Take(token); });
+    return isMatch ? match.Result() : std::nullopt;
 }
 
 } // namespace Quillory

@@ -9,10 +9,10 @@
 
 namespace Quillory {
 
-/// Which dates a text of a picture may name.
+/// How exactly a text must follow a picture.
 enum class DigitCount
 {
-    /// Only the very text that AppendDateText writes.
+    /// Digit by digit as AppendDateText writes it.
     AsWritten,
     /// Days and months with or without a leading zero.
     Free,

@@ -199,7 +199,7 @@ int FullYear(int year)
     return year < 30 ? 2000 + year : 1900 + year;
 }
 
-/// The one to three fields of a date.
+/// The fields of a date: none, two or three.
 class DateFields
 {
 public:
@@ -218,25 +218,16 @@ public:
 
     [[nodiscard]] std::optional<QDate> Read() const
     {
-        const auto name = std::find_if(m_fields.begin(), m_fields.begin() + m_count,
-            [](const DateField& field) { return field.isMonthName; });
-        const auto namePlace = name - m_fields.begin();
-        if (namePlace == m_count) {
+        const std::span fields = std::span(m_fields).first(m_count);
+        const auto isName = [](const DateField& field) { return field.isMonthName; };
+        const auto name = std::find_if(fields.begin(), fields.end(), isName);
+        if (name == fields.end()) {
             return m_count == 3 ? ReadThreeNumbers() : ReadTwoNumbers();
         }
-        if (std::count_if(m_fields.begin(), m_fields.begin() + m_count,
-                [](const DateField& field) { return field.isMonthName; })
-            > 1) {
+        if (std::any_of(name + 1, fields.end(), isName)) {
             return std::nullopt;
         }
-        if (m_count == 2) {
-            return namePlace == 0 ? TryAll({ "Md", "My" }) : TryAll({ "dM", "yM" });
-        }
-        if (namePlace == 1) {
-            return m_order == DateOrder::DayMonthYear ? TryAll({ "dMy", "yMd" })
-                                                      : TryAll({ "yMd", "dMy" });
-        }
-        return namePlace == 0 ? TryAll({ "Mdy" }) : TryAll({ "ydM" });
+        return ReadWithName(name - fields.begin());
     }
 
 private:
@@ -258,6 +249,18 @@ private:
     {
         return m_order == DateOrder::DayMonthYear ? TryAll({ "dM", "Md", "yM", "My" })
                                                   : TryAll({ "Md", "dM", "yM", "My" });
+    }
+
+    [[nodiscard]] std::optional<QDate> ReadWithName(std::ptrdiff_t namePlace) const
+    {
+        if (m_count == 2) {
+            return namePlace == 0 ? TryAll({ "Md", "My" }) : TryAll({ "dM", "yM" });
+        }
+        if (namePlace == 1) {
+            return m_order == DateOrder::DayMonthYear ? TryAll({ "dMy", "yMd" })
+                                                      : TryAll({ "yMd", "dMy" });
+        }
+        return namePlace == 0 ? TryAll({ "Mdy" }) : TryAll({ "ydM" });
     }
 
     [[nodiscard]] std::optional<QDate> TryAll(
@@ -300,7 +303,7 @@ private:
     }
 
     std::array<DateField, 3> m_fields {};
-    std::ptrdiff_t m_count = 0;
+    std::size_t m_count = 0;
     DateOrder m_order;
     const Clock& m_clock;
 };

@@ -115,7 +115,7 @@ void SetForms(LocaleProfile& profile, const QLocale& locale, const LocaleRow* ro
 QString CategoryLocale(const char* category)
 {
     for (const char* const variable : { "LC_ALL", category, "LANG" }) {
-        const QString value = qEnvironmentVariable(variable);
+        QString value = qEnvironmentVariable(variable);
         if (!value.isEmpty()) {
             return value;
         }

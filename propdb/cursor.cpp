@@ -93,15 +93,14 @@ Result<void> Cursor::WalkFromPlace()
 Result<ObjectId> Cursor::Advance()
 {
     while (m_isWalking) {
-        const auto step = m_walk.Step();
-        if (!step) {
-            m_isWalking = false;
-            return step.Error();
-        }
-        if (*step) {
+        if (m_walk.Next()) {
             m_oid = m_walk.Oid(0);
             m_isGone = false;
             return m_oid;
+        }
+        if (m_walk.Error() != ErrorNumber::None) {
+            m_isWalking = false;
+            return m_walk.Error();
         }
         const Part next = NextPart();
         if (next == Part::Over)
@@ -175,11 +174,10 @@ Result<std::vector<ObjectId>> Cursor::List()
             = Statement::Prepare(m_connection, PartSql(part, WalkDirection::Forward, false));
         if (!statement)
             return statement.Error();
-        auto step = statement->Step();
-        for (; step && *step; step = statement->Step())
+        while (statement->Next())
             oids.push_back(statement->Oid(0));
-        if (!step)
-            return step.Error();
+        if (statement->Error() != ErrorNumber::None)
+            return statement->Error();
     }
     return oids;
 }

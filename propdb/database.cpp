@@ -167,15 +167,14 @@ Result<void> Database::Scan(
         auto statement = Statement::Prepare(m_state->volume.connection.get(), sql);
         if (!statement)
             return statement.Error();
-        auto step = statement->Step();
-        for (; step && *step; step = statement->Step()) {
+        while (statement->Next()) {
             for (size_t i = 0; i < values.size(); ++i)
                 statement->ReadProperty(static_cast<int>(i) + 1, values[i]);
             if (!visitor(statement->Oid(0), values))
                 return {};
         }
-        if (!step)
-            return step.Error();
+        if (statement->Error() != ErrorNumber::None)
+            return statement->Error();
     }
     return {};
 }

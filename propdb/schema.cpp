@@ -128,8 +128,7 @@ Result<void> LoadDatabases(sqlite3* connection, VolumeSchema& volume)
         connection, u"SELECT oid, name, type, table_name FROM property_database ORDER BY oid"_s);
     if (!select)
         return select.Error();
-    auto step = select->Step();
-    for (; step && *step; step = select->Step()) {
+    while (select->Next()) {
         auto schema = std::make_shared<DatabaseSchema>();
         schema->oid = select->Oid(0);
         schema->name = select->Text(1);
@@ -137,7 +136,7 @@ Result<void> LoadDatabases(sqlite3* connection, VolumeSchema& volume)
         schema->tableName = select->Text(3);
         volume.databases.push_back(std::move(schema));
     }
-    return step.Error();
+    return select->Error();
 }
 
 Result<void> LoadProperties(sqlite3* connection, const VolumeSchema& volume)
@@ -147,8 +146,7 @@ Result<void> LoadProperties(sqlite3* connection, const VolumeSchema& volume)
         u"ORDER BY database, position"_s);
     if (!select)
         return select.Error();
-    auto step = select->Step();
-    for (; step && *step; step = select->Step()) {
+    while (select->Next()) {
         const auto schema = volume.Find(select->Oid(0));
         const auto id = static_cast<PropertyId>(select->Int64(1));
         if (schema == nullptr || schema->Find(id) != nullptr || !IsStorableType(PropertyType(id)))
@@ -156,7 +154,7 @@ Result<void> LoadProperties(sqlite3* connection, const VolumeSchema& volume)
         schema->properties.push_back(
             { id, select->Text(2), select->Text(3), select->Int64(4) != 0 });
     }
-    return step.Error();
+    return select->Error();
 }
 
 Result<void> LoadSortOrders(sqlite3* connection, const VolumeSchema& volume)
@@ -165,15 +163,14 @@ Result<void> LoadSortOrders(sqlite3* connection, const VolumeSchema& volume)
         connection, u"SELECT database, id FROM sort_order ORDER BY database, position"_s);
     if (!select)
         return select.Error();
-    auto step = select->Step();
-    for (; step && *step; step = select->Step()) {
+    while (select->Next()) {
         const auto schema = volume.Find(select->Oid(0));
         const auto id = static_cast<PropertyId>(select->Int64(1));
         if (schema == nullptr || schema->Find(id) == nullptr)
             return ErrorNumber::FileCorrupt;
         schema->sortOrders.push_back({ id });
     }
-    return step.Error();
+    return select->Error();
 }
 
 /// Name and words of everything the file should hold.
@@ -198,11 +195,10 @@ Result<QMap<QString, QString>> ActualObjects(sqlite3* connection)
     auto select = Statement::Prepare(connection, u"SELECT name, sql FROM sqlite_schema"_s);
     if (!select)
         return select.Error();
-    auto step = select->Step();
-    for (; step && *step; step = select->Step())
+    while (select->Next())
         actual.insert(select->Text(0), select->Text(1));
-    if (!step)
-        return step.Error();
+    if (select->Error() != ErrorNumber::None)
+        return select->Error();
     return actual;
 }
 

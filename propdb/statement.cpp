@@ -11,6 +11,16 @@
 
 namespace Quillory {
 
+namespace {
+
+void MarkMissing(PropertyValue& value)
+{
+    value.flags = CEDB_PROPNOTFOUND;
+    value.value = std::monostate();
+}
+
+} // namespace
+
 Statement::~Statement()
 {
     sqlite3_finalize(m_statement);
@@ -18,11 +28,13 @@ Statement::~Statement()
 
 Statement::Statement(Statement&& other) noexcept
     : m_statement(std::exchange(other.m_statement, nullptr))
+    , m_error(other.m_error)
 { }
 
 Statement& Statement::operator=(Statement&& other) noexcept
 {
     std::swap(m_statement, other.m_statement);
+    m_error = other.m_error;
     return *this;
 }
 
@@ -114,24 +126,31 @@ void Statement::BindColumnOf(int parameter, const Statement& source, int column)
     sqlite3_bind_value(m_statement, parameter, sqlite3_column_value(source.m_statement, column));
 }
 
-Result<bool> Statement::Step()
+bool Statement::Next()
 {
     const int code = sqlite3_step(m_statement);
     if (code == SQLITE_ROW)
         return true;
-    return Fail(code);
+    Finish(code);
+    return false;
 }
 
-Result<bool> Statement::Fail(int code)
+void Statement::Finish(int code)
 {
     sqlite3* connection = sqlite3_db_handle(m_statement);
-    const ErrorNumber error = code == SQLITE_DONE
+    m_error = code == SQLITE_DONE
         ? ErrorNumber::None
         : ErrorFromSqlite(sqlite3_extended_errcode(connection), connection);
     sqlite3_reset(m_statement);
-    if (error == ErrorNumber::None)
-        return false;
-    return error;
+}
+
+Result<bool> Statement::Step()
+{
+    if (Next())
+        return true;
+    if (m_error != ErrorNumber::None)
+        return m_error;
+    return false;
 }
 
 Result<void> Statement::Run()
@@ -180,40 +199,45 @@ void Statement::ReadText(int column, QString& text) const
 
 void Statement::ReadProperty(int column, PropertyValue& value) const
 {
-    if (IsNull(column)) {
-        value.flags = CEDB_PROPNOTFOUND;
-        value.value = std::monostate();
-        return;
-    }
     value.flags = 0;
     switch (PropertyType(value.id)) {
     case CEVT_I2:
-        value.value = static_cast<qint16>(Int64(column));
-        break;
+        return ReadNumber(column, value, static_cast<qint16>(Int64(column)));
     case CEVT_I4:
-        value.value = static_cast<qint32>(Int64(column));
-        break;
+        return ReadNumber(column, value, static_cast<qint32>(Int64(column)));
     case CEVT_UI4:
-        value.value = static_cast<quint32>(Int64(column));
-        break;
+        return ReadNumber(column, value, static_cast<quint32>(Int64(column)));
     case CEVT_BOOL:
-        value.value = Int64(column) != 0;
-        break;
+        return ReadNumber(column, value, Int64(column) != 0);
     case CEVT_FILETIME:
-        value.value = FileTime { static_cast<quint64>(Int64(column)) };
-        break;
+        return ReadNumber(column, value, FileTime { static_cast<quint64>(Int64(column)) });
     case CEVT_R8:
-        value.value = sqlite3_column_double(m_statement, column);
+        return ReadNumber(column, value, sqlite3_column_double(m_statement, column));
+    default:
         break;
-    case CEVT_BLOB:
+    }
+    if (IsNull(column))
+        return MarkMissing(value);
+    if (PropertyType(value.id) == CEVT_BLOB) {
         value.value = QByteArray(static_cast<const char*>(sqlite3_column_blob(m_statement, column)),
             sqlite3_column_bytes(m_statement, column));
-        break;
-    default:
-        if (!std::holds_alternative<QString>(value.value))
-            value.value = QString();
-        ReadText(column, std::get<QString>(value.value));
+        return;
     }
+    if (!std::holds_alternative<QString>(value.value))
+        value.value = QString();
+    ReadText(column, std::get<QString>(value.value));
+}
+
+template <typename Number>
+void Statement::ReadNumber(int column, PropertyValue& value, Number number) const
+{
+    // NULL reads as zero, so that only a zero needs a second look.
+    if (number == Number {} && IsNull(column))
+        return MarkMissing(value);
+    if (auto* current = std::get_if<Number>(&value.value))
+        *current = number;
+    else
+        value.value = number;
 }
 
 Result<void> Execute(sqlite3* connection, const char* sql)

@@ -38,7 +38,12 @@ public:
     /// What column `column` of the current row of `source` holds, as it is.
     void BindColumnOf(int parameter, const Statement& source, int column);
 
-    /// True while there is a row. Resets itself at the end and on failure.
+    /// True while there is a row. At the end and on failure it resets itself and gives false;
+    /// Error() tells the two apart.
+    [[nodiscard]] bool Next();
+    /// Why Next() found no row; ErrorNumber::None at the end of the rows.
+    [[nodiscard]] ErrorNumber Error() const { return m_error; }
+    /// Next() and Error() in one, for a statement of at most one row.
     [[nodiscard]] Result<bool> Step();
     /// Runs a statement that gives no rows.
     [[nodiscard]] Result<void> Run();
@@ -58,9 +63,12 @@ public:
 
 private:
     sqlite3_stmt* m_statement = nullptr;
+    ErrorNumber m_error = ErrorNumber::None;
 
     void ReadText(int column, QString& text) const;
-    [[nodiscard]] Result<bool> Fail(int code);
+    template <typename Number>
+    void ReadNumber(int column, PropertyValue& value, Number number) const;
+    void Finish(int code);
 };
 
 /// Runs SQL without parameters and without rows, one statement or several.

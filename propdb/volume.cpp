@@ -201,16 +201,15 @@ Result<std::vector<QString>> Volume::Check()
     auto check = Statement::Prepare(m_state->connection.get(), u"PRAGMA integrity_check"_s);
     if (!check)
         return check.Error();
-    auto step = check->Step();
-    for (; step && *step; step = check->Step()) {
+    while (check->Next()) {
         const QString line = check->Text(0);
         if (line != "ok"_L1)
             faults.push_back(line);
     }
-    if (step.Error() == ErrorNumber::FileCorrupt)
+    if (check->Error() == ErrorNumber::FileCorrupt)
         faults.push_back(u"a page of the file is not as it was written"_s);
-    else if (!step)
-        return step.Error();
+    else if (check->Error() != ErrorNumber::None)
+        return check->Error();
     return faults;
 }
 

@@ -15,41 +15,46 @@ namespace {
 
 constexpr DatabaseType kRows = ListCatalogue::kRowsType;
 
-/// The order of `keys`, equal ones in the order in which they stand.
-template <typename Key>
-std::vector<ObjectId> Reorder(const std::vector<ObjectId>& rows, const std::vector<Key>& keys)
+/// A row's key beside its place, so that a sort touches nothing else.
+template <typename Key> struct SortEntry
 {
-    std::vector<quint32> order(rows.size());
-    for (size_t i = 0; i < order.size(); ++i)
-        order[i] = static_cast<quint32>(i);
-    std::sort(order.begin(), order.end(), [&keys](quint32 a, quint32 b) {
-        if (keys[a] < keys[b])
-            return true;
-        return !(keys[b] < keys[a]) && a < b;
-    });
-    std::vector<ObjectId> sorted;
-    sorted.reserve(rows.size());
-    for (const quint32 position : order)
-        sorted.push_back(rows[position]);
-    return sorted;
-}
+    Key key {};
+    quint32 position = 0;
 
-/// Reads `column` once into a key per row; a row without a value keeps the key's default.
+    friend bool operator<(const SortEntry& a, const SortEntry& b)
+    {
+        if (a.key < b.key)
+            return true;
+        return !(b.key < a.key) && a.position < b.position;
+    }
+};
+
+/// Reads `column` once into a key per row; a row without a value keeps the key's default. Equal
+/// rows keep their order.
 template <typename Key, typename Value>
 std::vector<ObjectId> SortBy(Database& database, const std::vector<ObjectId>& rows,
     PropertyId column, Key (*makeKey)(const Value&))
 {
-    std::vector<Key> keys(rows.size());
+    std::vector<SortEntry<Key>> entries(rows.size());
+    for (size_t i = 0; i < entries.size(); ++i)
+        entries[i].position = static_cast<quint32>(i);
     const RowPositions positions(rows);
     const auto read = database.Scan(std::span(&column, 1), ScanOrder::Any,
         [&](ObjectId oid, std::span<const PropertyValue> values) {
             const quint32 position = positions.Find(oid);
             const auto* value = std::get_if<Value>(&values.front().value);
             if (position != RowPositions::kNowhere && value != nullptr)
-                keys[position] = makeKey(*value);
+                entries[position].key = makeKey(*value);
             return true;
         });
-    return read ? Reorder(rows, keys) : rows;
+    if (!read)
+        return rows;
+    std::sort(entries.begin(), entries.end());
+    std::vector<ObjectId> sorted;
+    sorted.reserve(rows.size());
+    for (const SortEntry<Key>& entry : entries)
+        sorted.push_back(rows[entry.position]);
+    return sorted;
 }
 
 } // namespace

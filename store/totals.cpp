@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace Quillory {
 
@@ -63,50 +64,71 @@ bool IsCertain(PropertyId column, const OrderlessSum& sum)
         && TwoDecimals(sum.Value() - reach) == TwoDecimals(sum.Value() + reach);
 }
 
-std::optional<double> NumberOf(const PropertyValue& value)
+double NumberOf(const PropertyValue& value)
 {
     if (const auto* integer = std::get_if<qint32>(&value.value))
         return *integer;
     if (const auto* price = std::get_if<double>(&value.value))
         return *price;
-    return std::nullopt;
+    return 0.0;
 }
 
-/// Totals by the quickest scan; false if a row cannot be read or the order of adding could show.
-bool SumQuickly(Database& rows, std::span<const PropertyId> columns, const FilterSet* filters,
-    const ValueContext& context, std::vector<double>& totals)
+/// The numbers of the counted rows, a sequence a column; a missing value is a zero, which adds
+/// nothing.
+struct Numbers
 {
-    std::vector<OrderlessSum> sums(columns.size());
+    std::vector<ObjectId> rows;
+    std::vector<std::vector<double>> columns;
+};
+
+Result<Numbers> ReadNumbers(Database& rows, std::span<const PropertyId> columns,
+    const FilterSet* filters, const ValueContext& context)
+{
+    Numbers numbers { {}, std::vector<std::vector<double>>(columns.size()) };
     const auto scanned = ScanFiltered(rows, columns, filters, context, ScanOrder::Any,
-        [&sums](ObjectId, std::span<const PropertyValue> values) {
-            for (size_t i = 0; i < values.size(); ++i) {
-                if (const auto number = NumberOf(values[i]))
-                    sums[i].Add(*number);
-            }
+        [&numbers](ObjectId oid, std::span<const PropertyValue> values) {
+            numbers.rows.push_back(oid);
+            for (size_t i = 0; i < values.size(); ++i)
+                numbers.columns[i].push_back(NumberOf(values[i]));
             return true;
         });
     if (!scanned)
-        return false;
-    for (size_t i = 0; i < columns.size(); ++i) {
-        if (!IsCertain(columns[i], sums[i]))
-            return false;
-        totals[i] = sums[i].Value();
-    }
-    return true;
+        return scanned.Error();
+    return numbers;
 }
 
-/// Totals by plain addition in the order of names, which defines them.
-bool SumInOrder(Database& rows, std::span<const PropertyId> columns, const FilterSet* filters,
-    const ValueContext& context, std::vector<double>& totals)
+/// The total by plain addition in the order of names, which defines it.
+Result<std::vector<double>> SumInOrder(Database& rows, const Numbers& numbers)
 {
-    totals.assign(columns.size(), 0.0);
-    return ScanFiltered(rows, columns, filters, context, ScanOrder::Sorted,
-        [&totals](ObjectId, std::span<const PropertyValue> values) {
-            for (size_t i = 0; i < values.size(); ++i)
-                totals[i] += NumberOf(values[i]).value_or(0.0);
-            return true;
-        })
-        .IsOk();
+    std::vector<double> totals(numbers.columns.size(), 0.0);
+    const auto listed = rows.ListRecords();
+    if (!listed)
+        return listed.Error();
+    const RowPositions positions(numbers.rows);
+    for (const ObjectId oid : *listed) {
+        const quint32 position = positions.Find(oid);
+        if (position == RowPositions::kNowhere)
+            continue;
+        for (size_t i = 0; i < totals.size(); ++i)
+            totals[i] += numbers.columns[i][position];
+    }
+    return totals;
+}
+
+/// The totals; by the order of names only where another order could show.
+Result<std::vector<double>> Sum(
+    Database& rows, std::span<const PropertyId> columns, const Numbers& numbers)
+{
+    std::vector<double> totals;
+    for (size_t i = 0; i < columns.size(); ++i) {
+        OrderlessSum sum;
+        for (const double number : numbers.columns[i])
+            sum.Add(number);
+        if (!IsCertain(columns[i], sum))
+            return SumInOrder(rows, numbers);
+        totals.push_back(sum.Value());
+    }
+    return totals;
 }
 
 } // namespace
@@ -126,12 +148,14 @@ std::vector<ColumnTotal> ComputeTotals(DataVolume& volume, const InventoryList& 
     Database* rows = volume.OpenDatabase(ListCatalogue::kRowsType);
     if (rows == nullptr || columns.empty())
         return lines;
-    std::vector<double> totals(columns.size(), 0.0);
-    if (!SumQuickly(*rows, columns, filters, context, totals)
-        && !SumInOrder(*rows, columns, filters, context, totals))
+    const auto numbers = ReadNumbers(*rows, columns, filters, context);
+    if (!numbers)
+        return lines;
+    const auto totals = Sum(*rows, columns, *numbers);
+    if (!totals)
         return lines;
     for (size_t i = 0; i < columns.size(); ++i)
-        lines[i].text = TotalText(columns[i], totals[i]);
+        lines[i].text = TotalText(columns[i], (*totals)[i]);
     return lines;
 }
 

@@ -18,9 +18,11 @@ enum class ColumnType
 constexpr int kColumnTypeCount = 5;
 
 /// The columns every list may have, under identifiers that are the same in all lists.
+// NOLINTBEGIN(readability-identifier-naming): the names that the columns have in the data
 constexpr PropertyId PropName = MakePropertyId(10001, CEVT_LPWSTR);
 constexpr PropertyId PropCount = MakePropertyId(10002, CEVT_I4);
 constexpr PropertyId PropExpiryDate = MakePropertyId(10008, CEVT_FILETIME);
+// NOLINTEND(readability-identifier-naming)
 
 /// The type of a column, read from the low half of its identifier; String for an unknown one.
 [[nodiscard]] ColumnType ColumnTypeOf(PropertyId column);

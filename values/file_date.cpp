@@ -52,8 +52,8 @@ std::optional<double> FileTimeToDateNumber(FileTime time)
         return std::nullopt;
     }
     const auto number = static_cast<double>(julianDay - kDayZeroJulian);
-    const double fraction
-        = static_cast<double>(ticks / kTicksPerSecond) / static_cast<double>(kSecondsPerDay);
+    const qint64 seconds = ticks / kTicksPerSecond;
+    const double fraction = static_cast<double>(seconds) / static_cast<double>(kSecondsPerDay);
     return number < 0 ? number - fraction : number + fraction;
 }
 

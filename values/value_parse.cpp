@@ -22,26 +22,38 @@ QStringView UpToNul(QStringView text)
     return end < 0 ? text : text.left(end);
 }
 
-std::optional<PropertyValue> ParseText(
-    PropertyId column, QStringView wholeText, const ValueContext& context, const ParseRules& rules)
+/// Nothing for a date that cannot be read.
+PropertyVariant ParseVariant(
+    ColumnType type, QStringView text, const ValueContext& context, const ParseRules& rules)
 {
-    const QStringView text = UpToNul(wholeText);
-    switch (ColumnTypeOf(column)) {
+    switch (type) {
     case ColumnType::Integer:
-        return PropertyValue { column, 0, LeadingInteger(text) };
+        return LeadingInteger(text);
     case ColumnType::Price:
-        return PropertyValue { column, 0, rules.readPrice(text, context) };
+        return rules.readPrice(text, context);
     case ColumnType::Checkbox:
-        return PropertyValue { column, 0, text != rules.uncheckedText };
+        return text != rules.uncheckedText;
     case ColumnType::Date:
         if (const auto time = ParseDateText(text, context)) {
-            return PropertyValue { column, 0, *time };
+            return *time;
         }
-        return std::nullopt;
+        return {};
     case ColumnType::String:
-        return PropertyValue { column, 0, text.toString() };
+        return text.toString();
     }
-    return std::nullopt;
+    return {};
+}
+
+std::optional<PropertyValue> ParseText(
+    PropertyId column, QStringView text, const ValueContext& context, const ParseRules& rules)
+{
+    std::optional<PropertyValue> property(std::in_place);
+    property->id = column;
+    property->value = ParseVariant(ColumnTypeOf(column), UpToNul(text), context, rules);
+    if (std::holds_alternative<std::monostate>(property->value)) {
+        property.reset();
+    }
+    return property;
 }
 
 } // namespace

@@ -31,7 +31,8 @@ struct ValueContext
 /// Checkboxes have no text: the view draws their box.
 [[nodiscard]] QString FormatCellText(
     const PropertyValue* value, PropertyId column, const ValueContext& context);
-/// The text of a value in the row editor: as in a cell, but "Checked" or "Unchecked".
+/// The text of a value in the row editor: as in a cell, but "Checked" or "Unchecked", the latter
+/// also for a missing value. A price has at most 63 units: as many as are read back.
 [[nodiscard]] QString FormatEditText(
     const PropertyValue* value, PropertyId column, const ValueContext& context);
 /// The text of a value in an export file: prices with a point and two decimals, "Y" or "N".

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace Quillory {
+
+/// What one run of a case took. Only the operation is timed, not its preparation.
+struct Timing
+{
+    double oursMs = 0;
+    double floorMs = 0;
+};
+
+/// A benchmark: what this program does against the least that anyone could do, in one run.
+struct BenchCase
+{
+    QString name;
+    /// The ratio that must not be exceeded.
+    double limit = 0;
+    /// How much longer ten times the rows may take.
+    double growthLimit = 11;
+    std::function<Timing(int rows)> run;
+};
+
+struct BenchOptions
+{
+    std::vector<int> sizes;
+    int repeat = 5;
+    QString nameFilter;
+};
+
+/// Milliseconds that `work` takes.
+[[nodiscard]] double MeasureMs(const std::function<void()>& work);
+
+/// Ends the program with a message: a benchmark that did not do its work has no figure.
+[[noreturn]] void Abandon(const QString& reason);
+inline void Require(bool isTrue, const char* what)
+{
+    if (!isTrue)
+        Abandon(QString::fromLatin1(what));
+}
+
+/// Runs the cases whose names hold the filter and prints a line per case and size: the medians of
+/// both sides, their ratio and its limit, and the growth between sizes ten times apart.
+void RunCases(const std::vector<BenchCase>& cases, const BenchOptions& options);
+
+} // namespace Quillory

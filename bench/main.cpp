@@ -1,0 +1,32 @@
+#include "bench/harness.h"
+#include "bench/store_cases.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Times Quillory against bare SQLite, in one run."_s);
+    parser.addHelpOption();
+    parser.addPositionalArgument(u"name"_s, u"Only the cases whose names hold this."_s);
+    const QCommandLineOption rows(u"rows"_s, u"Number of rows; can be given again."_s, u"number"_s);
+    const QCommandLineOption repeat(
+        u"repeat"_s, u"Runs of each case, of which the median counts."_s, u"number"_s, u"5"_s);
+    parser.addOptions({ rows, repeat });
+    parser.process(application);
+
+    BenchOptions options;
+    for (const QString& size : parser.values(rows))
+        options.sizes.push_back(size.toInt());
+    if (options.sizes.empty())
+        options.sizes = { 100000, 1000000 };
+    options.repeat = std::max(1, parser.value(repeat).toInt());
+    options.nameFilter = parser.positionalArguments().value(0);
+    RunCases(StoreCases(), options);
+    return 0;
+}

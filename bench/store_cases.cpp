@@ -1,0 +1,225 @@
+#include "bench/store_cases.h"
+
+#include "bench/bench_data.h"
+#include "store/row_store.h"
+#include "store/totals.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr DatabaseType kRows = ListCatalogue::kRowsType;
+enum Column
+{
+    Name,
+    Count,
+    Text,
+    Price = 4,
+};
+/// Changes made one after the other in the durable case.
+constexpr int kChanges = 100;
+
+const ValueContext& Context()
+{
+    static const ValueContext context = ValueContext::FromEnvironment();
+    return context;
+}
+
+double IndexScanMs(const BenchList& list)
+{
+    double elapsed = 0;
+    list.WithSqlite([&](sqlite3* connection) {
+        std::vector<qint64> oids;
+        elapsed = MeasureMs([&] {
+            ForEachRow(connection,
+                u"SELECT oid FROM %1 ORDER BY %2"_s.arg(list.Table(), list.Column(Name)),
+                [&](sqlite3_stmt* row) { oids.push_back(sqlite3_column_int64(row, 0)); });
+        });
+        Require(std::cmp_equal(oids.size(), list.Rows()), "the floor missed rows");
+    });
+    return elapsed;
+}
+
+Timing ListInOrder(int rows)
+{
+    BenchList& list = BenchList::OfSize(rows);
+    Timing timing;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        RowStore store(data, definition, Context());
+        size_t found = 0;
+        timing.oursMs = MeasureMs([&] { found = store.FillRows().size(); });
+        Require(std::cmp_equal(found, rows), "rows are missing");
+    });
+    timing.floorMs = IndexScanMs(list);
+    return timing;
+}
+
+Timing WalkInOrder(int rows)
+{
+    BenchList& list = BenchList::OfSize(rows);
+    Timing timing;
+    list.WithList([&](DataVolume& data, const InventoryList&) {
+        std::vector<ObjectId> found;
+        timing.oursMs = MeasureMs([&] {
+            for (ObjectId oid = data.SeekFirst(kRows); oid != kNoObject; oid = data.SeekNext(kRows))
+                found.push_back(oid);
+        });
+        Require(std::cmp_equal(found.size(), rows), "rows are missing");
+    });
+    timing.floorMs = IndexScanMs(list);
+    return timing;
+}
+
+double ColumnScanMs(const BenchList& list, Column column)
+{
+    double elapsed = 0;
+    list.WithSqlite([&](sqlite3* connection) {
+        double sum = 0;
+        qint64 bytes = 0;
+        const QString sql = u"SELECT %1 FROM %2"_s.arg(list.Column(column), list.Table());
+        elapsed = MeasureMs([&] {
+            ForEachRow(connection, sql, [&](sqlite3_stmt* row) {
+                if (column == Text) {
+                    const void* text = sqlite3_column_text16(row, 0);
+                    bytes += text == nullptr ? 0 : sqlite3_column_bytes16(row, 0);
+                } else {
+                    sum += sqlite3_column_double(row, 0);
+                }
+            });
+        });
+        Require(sum > 0 || bytes > 0, "the floor read nothing");
+    });
+    return elapsed;
+}
+
+Timing ReadColumn(int rows, Column column)
+{
+    BenchList& list = BenchList::OfSize(rows);
+    Timing timing;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        const std::vector ids { definition.columns[column].id };
+        int found = 0;
+        timing.oursMs = MeasureMs([&] {
+            const auto done = data.OpenDatabase(kRows)->Scan(
+                ids, ScanOrder::Any, [&](ObjectId, std::span<const PropertyValue> values) {
+                    found += values.front().IsMissing() ? 0 : 1;
+                    return true;
+                });
+            Require(done.IsOk(), "the scan failed");
+        });
+        Require(found == rows, "values are missing");
+    });
+    timing.floorMs = ColumnScanMs(list, column);
+    return timing;
+}
+
+Timing FilterColumn(int rows)
+{
+    BenchList& list = BenchList::OfSize(rows);
+    Timing timing;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        RowStore store(data, definition, Context());
+        FilterSet filters;
+        AddFilter(filters, definition.columns[Price].id, FilterCondition::Less, u"10"_s);
+        timing.oursMs = MeasureMs(
+            [&] { Require(!store.FillFilteredRows(filters).empty(), "nothing passed"); });
+    });
+    timing.floorMs = ColumnScanMs(list, Price);
+    return timing;
+}
+
+Timing SortByPrice(int rows)
+{
+    BenchList& list = BenchList::OfSize(rows);
+    Timing timing;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        RowStore store(data, definition, Context());
+        auto listed = store.FillRows();
+        timing.oursMs = MeasureMs(
+            [&] { listed = store.SortRows(std::move(listed), definition.columns[Price].id); });
+        Require(std::cmp_equal(listed.size(), rows), "rows are missing");
+    });
+    list.WithSqlite([&](sqlite3* connection) {
+        std::vector<double> prices;
+        timing.floorMs = MeasureMs([&] {
+            ForEachRow(connection, u"SELECT %1 FROM %2"_s.arg(list.Column(Price), list.Table()),
+                [&](sqlite3_stmt* row) { prices.push_back(sqlite3_column_double(row, 0)); });
+            std::sort(prices.begin(), prices.end());
+        });
+    });
+    return timing;
+}
+
+Timing Summarise(int rows)
+{
+    BenchList& list = BenchList::OfSize(rows);
+    Timing timing;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        timing.oursMs = MeasureMs([&] {
+            Require(ComputeTotals(data, definition, nullptr, Context()).size() == 2, "no totals");
+        });
+    });
+    list.WithSqlite([&](sqlite3* connection) {
+        timing.floorMs = MeasureMs([&] {
+            ForEachRow(connection,
+                u"SELECT sum(%1), sum(%2) FROM %3"_s.arg(
+                    list.Column(Count), list.Column(Price), list.Table()),
+                [](sqlite3_stmt*) {});
+        });
+    });
+    return timing;
+}
+
+Timing AddOne(int rows)
+{
+    BenchList& list = BenchList::OfSize(rows);
+    Timing timing;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        RowStore store(data, definition, Context());
+        const ObjectId row = store.FillRows().front();
+        timing.oursMs = MeasureMs([&] {
+            for (int i = 0; i < kChanges; ++i)
+                Require(store.AdjustCount(row, 1).has_value(), "the count did not change");
+        });
+    });
+    list.WithSqlite([&](sqlite3* connection) {
+        const QString sql = u"UPDATE %1 SET %2 = %2 + 1 WHERE oid = "
+                            "(SELECT min(oid) FROM %1)"_s.arg(list.Table(), list.Column(Count));
+        sqlite3_stmt* update = nullptr;
+        sqlite3_prepare_v2(connection, sql.toUtf8().constData(), -1, &update, nullptr);
+        timing.floorMs = MeasureMs([&] {
+            for (int i = 0; i < kChanges; ++i) {
+                Require(sqlite3_step(update) == SQLITE_DONE, "the floor did not change");
+                sqlite3_reset(update);
+            }
+        });
+        sqlite3_finalize(update);
+    });
+    return timing;
+}
+
+} // namespace
+
+std::vector<BenchCase> StoreCases()
+{
+    constexpr double kSortGrowth = 13;
+    return {
+        { u"list in sort order"_s, 1.3, 11, ListInOrder },
+        { u"walk position by position"_s, 1.3, 11, WalkInOrder },
+        { u"read a column of prices"_s, 1.5, 11, [](int rows) { return ReadColumn(rows, Price); } },
+        { u"read a column of texts"_s, 1.5, 11, [](int rows) { return ReadColumn(rows, Text); } },
+        { u"filter by price"_s, 1.5, 11, FilterColumn },
+        { u"sort by price"_s, 1.5, kSortGrowth, SortByPrice },
+        { u"summary"_s, 2.0, 11, Summarise },
+        { u"add 1, one hundred times"_s, 1.3, 11, AddOne },
+    };
+}
+
+} // namespace Quillory
