@@ -6,7 +6,7 @@
 
 namespace Quillory {
 
-/// Buffered UTF-8 text on a stream. A lone surrogate becomes the replacement character. After a
+/// Buffered UTF-8 text on a stream. A lone surrogate becomes a question mark. After a
 /// failed write everything is dropped, and Flush() tells.
 class TextOutput
 {
