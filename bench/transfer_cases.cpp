@@ -25,7 +25,7 @@ namespace {
 
 constexpr DatabaseType kRows = ListCatalogue::kRowsType;
 /// As many rows as the import puts into one transaction.
-constexpr int kFloorBatch = 32768;
+constexpr int kFloorBatch = 262144;
 constexpr double kMaxMegabytes = 64;
 
 const ValueContext& Context()

@@ -2,6 +2,8 @@
 
 #include "transfer/list_file.h"
 
+#include <algorithm>
+
 namespace Quillory {
 
 namespace {
@@ -37,34 +39,35 @@ private:
 
 } // namespace
 
-ImportRowReader::ImportRowReader(
-    QIODevice& source, std::span<const PropertyId> columns, const ValueContext& context)
-    : m_lines(source, context.userLocale.codePage)
-    , m_columns(columns.begin(), columns.end())
-    , m_context(context)
+ImportFieldReader::ImportFieldReader(QIODevice& source, size_t maxFields, int codePage)
+    : m_lines(source, codePage)
+    , m_maxFields(maxFields)
 {
-    m_values.reserve(columns.size());
+    m_fields.reserve(maxFields);
 }
 
-bool ImportRowReader::Next()
+bool ImportFieldReader::Next()
 {
     while (m_lines.Next()) {
-        ReadFields(m_lines.Line());
-        if (!m_values.empty())
+        m_fields.clear();
+        FieldTaker fields(m_lines.Line());
+        QStringView field = fields.Take();
+        for (; !field.isNull() && m_fields.size() < m_maxFields; field = fields.Take())
+            m_fields.push_back(field);
+        if (!m_fields.empty())
             return true;
     }
     return false;
 }
 
-void ImportRowReader::ReadFields(char16_t* line)
+void ReadFields(std::span<const QStringView> fields, std::span<const PropertyId> columns,
+    const ValueContext& context, std::vector<PropertyValue>& values)
 {
-    m_values.clear();
-    FieldTaker fields(line);
-    QStringView field = fields.Take();
-    for (size_t i = 0; i < m_columns.size() && !field.isNull(); ++i) {
-        if (auto value = ParseImportText(m_columns[i], field, m_context))
-            m_values.push_back(std::move(*value));
-        field = fields.Take();
+    values.clear();
+    const size_t count = std::min(fields.size(), columns.size());
+    for (size_t i = 0; i < count; ++i) {
+        if (auto value = ParseImportText(columns[i], fields[i], context))
+            values.push_back(std::move(*value));
     }
 }
 

@@ -3,36 +3,40 @@
 #include "transfer/text_lines.h"
 #include "values/value_text.h"
 
+#include <QStringView>
+
 #include <span>
 #include <vector>
 
 namespace Quillory {
 
-/// The rows of a text file: a line's fields, as values of the columns that they fill.
+/// The lines of a text file, cut into fields.
 ///
 /// Fields stand between TABs. There are no empty ones: TABs side by side count as one, those at
-/// either end of a line as none. Field i fills column i of `columns`; further fields are dropped.
-class ImportRowReader
+/// either end of a line as none.
+class ImportFieldReader
 {
 public:
-    ImportRowReader(
-        QIODevice& source, std::span<const PropertyId> columns, const ValueContext& context);
+    /// Fields beyond `maxFields` are dropped.
+    ImportFieldReader(QIODevice& source, size_t maxFields, int codePage);
 
-    /// Goes to the next line that gives a value at all. False at the end and on failure.
+    /// Goes to the next line that has a field. False at the end and on failure.
     bool Next();
-    /// The current row; a date that cannot be read is not among them. Valid until the next call.
-    [[nodiscard]] std::span<const PropertyValue> Values() const { return m_values; }
+    /// The fields of the current line. Valid until the next call.
+    [[nodiscard]] std::span<const QStringView> Fields() const { return m_fields; }
 
     [[nodiscard]] bool HasFailed() const { return m_lines.HasFailed(); }
     [[nodiscard]] qint64 BytesRead() const { return m_lines.BytesRead(); }
 
 private:
     TextLineReader m_lines;
-    std::vector<PropertyId> m_columns;
-    const ValueContext& m_context;
-    std::vector<PropertyValue> m_values;
-
-    void ReadFields(char16_t* line);
+    size_t m_maxFields;
+    std::vector<QStringView> m_fields;
 };
+
+/// Puts the values that the fields give into `values`, field i for column i. A date that cannot be
+/// read gives none.
+void ReadFields(std::span<const QStringView> fields, std::span<const PropertyId> columns,
+    const ValueContext& context, std::vector<PropertyValue>& values);
 
 } // namespace Quillory

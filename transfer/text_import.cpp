@@ -1,18 +1,16 @@
 #include "transfer/text_import.h"
 
 #include "store/list_catalogue.h"
+#include "transfer/import_batch.h"
 #include "transfer/import_rows.h"
 
-#include <optional>
+#include <vector>
 
 namespace Quillory {
 
 namespace {
 
-/// A batch ends at so many rows or so many bytes of the file, whichever comes first.
-constexpr qint64 kBatchRows = 32'768;
-constexpr qint64 kBatchBytes = 8 * 1024 * 1024;
-constexpr qint64 kRowsPerCall = 1024;
+constexpr qint64 kLinesPerCall = 1000;
 
 /// Whether a failed write says something about the row alone, not about the data file.
 bool IsRowsOwnFault(ErrorNumber error)
@@ -21,71 +19,60 @@ bool IsRowsOwnFault(ErrorNumber error)
         || error == ErrorNumber::AlreadyExists || error == ErrorNumber::BadLength;
 }
 
-/// Stores rows in transactions of limited size.
-class BatchWriter
+/// Stores batches of lines as rows, one transaction each.
+class RowWriter
 {
 public:
-    explicit BatchWriter(DataVolume& volume)
+    RowWriter(DataVolume& volume, std::span<const PropertyId> columns, const ValueContext& context)
         : m_volume(volume)
         , m_database(volume.OpenDatabase(ListCatalogue::kRowsType))
+        , m_columns(columns)
+        , m_context(context)
     {
         if (m_database == nullptr)
             m_error = volume.LastError();
     }
 
-    /// False once storing has failed for good. `bytesRead` is how far the file has been read.
-    bool Add(std::span<const PropertyValue> values, qint64 bytesRead)
+    /// Empties the batch. False once storing has failed for good: then its rows are not stored.
+    bool Store(ImportBatch& batch)
     {
-        if (m_error != ErrorNumber::None || !Begin(bytesRead))
-            return false;
-        const auto written = m_database->Write(kNoObject, values);
-        if (written)
-            ++m_batchRows;
-        else if (!IsRowsOwnFault(written.Error()))
-            return Fail(written.Error());
-        const bool isFull = m_batchRows >= kBatchRows || bytesRead - m_batchStart >= kBatchBytes;
-        return !isFull || End();
-    }
-    /// Makes the rows so far durable.
-    bool End()
-    {
-        if (!m_transaction)
+        if (m_error != ErrorNumber::None || batch.IsEmpty())
             return m_error == ErrorNumber::None;
-        const bool isCommitted = m_transaction->Commit();
-        m_transaction.reset();
-        if (!isCommitted)
+        Transaction transaction(m_volume);
+        if (!transaction)
             return Fail(m_volume.LastError());
-        m_rows += m_batchRows;
-        m_batchRows = 0;
+        qint64 stored = 0;
+        batch.Drain([&](std::span<const QStringView> fields) {
+            ReadFields(fields, m_columns, m_context, m_values);
+            if (m_values.empty())
+                return true;
+            const auto written = m_database->Write(kNoObject, m_values);
+            stored += written ? 1 : 0;
+            return written || IsRowsOwnFault(written.Error()) || Fail(written.Error());
+        });
+        if (m_error != ErrorNumber::None)
+            return false;
+        if (!transaction.Commit())
+            return Fail(m_volume.LastError());
+        m_rows += stored;
         return true;
     }
 
-    /// Durable rows and those of the batch under way.
-    [[nodiscard]] qint64 Rows() const { return m_rows + m_batchRows; }
+    /// Rows that are durable.
+    [[nodiscard]] qint64 Rows() const { return m_rows; }
     [[nodiscard]] ErrorNumber Error() const { return m_error; }
 
 private:
     DataVolume& m_volume;
     Database* m_database;
-    std::optional<Transaction> m_transaction;
+    std::span<const PropertyId> m_columns;
+    const ValueContext& m_context;
+    std::vector<PropertyValue> m_values;
     qint64 m_rows = 0;
-    qint64 m_batchRows = 0;
-    qint64 m_batchStart = 0;
     ErrorNumber m_error = ErrorNumber::None;
 
-    bool Begin(qint64 bytesRead)
-    {
-        if (m_transaction)
-            return true;
-        m_transaction.emplace(m_volume);
-        m_batchStart = bytesRead;
-        return *m_transaction ? true : Fail(m_volume.LastError());
-    }
-    /// The rows of the batch are gone with its transaction.
     bool Fail(ErrorNumber error)
     {
-        m_transaction.reset();
-        m_batchRows = 0;
         m_error = error;
         return false;
     }
@@ -94,35 +81,43 @@ private:
 } // namespace
 
 ImportOutcome ImportRows(DataVolume& volume, std::span<const PropertyId> columns,
-    const ValueContext& context, QIODevice& source, const ImportMonitor& monitor)
+    const ValueContext& context, QIODevice& source, const ImportMonitor& monitor,
+    const ImportBatchLimits& limits)
 {
     const qint64 total = source.isSequential() ? 0 : source.size();
-    ImportRowReader reader(source, columns, context);
-    BatchWriter batches(volume);
+    ImportFieldReader reader(source, columns.size(), context.userLocale.codePage);
+    ImportBatch batch(columns, limits);
+    RowWriter writer(volume, columns, context);
     ImportOutcome outcome;
-    qint64 count = 0;
-    while (outcome.result == ImportResult::Done && reader.Next()
-        && batches.Add(reader.Values(), reader.BytesRead())) {
-        ++count;
-        if (count % kRowsPerCall == 0 && monitor
-            && !monitor({ reader.BytesRead(), total, batches.Rows() }))
+    qint64 lines = 0;
+    while (outcome.result == ImportResult::Done && writer.Error() == ErrorNumber::None
+        && reader.Next()) {
+        batch.Add(reader.Fields());
+        if (batch.IsFull())
+            writer.Store(batch);
+        if (++lines % kLinesPerCall == 0 && monitor
+            && !monitor({ reader.BytesRead(), total, writer.Rows() }))
             outcome.result = ImportResult::Cancelled;
     }
-    batches.End();
+    if (outcome.result != ImportResult::Cancelled)
+        writer.Store(batch);
     if (reader.HasFailed())
         outcome.result = ImportResult::Failed;
-    outcome.rows = batches.Rows();
-    outcome.writeError = batches.Error();
+    outcome.rows = writer.Rows();
+    outcome.writeError = writer.Error();
     return outcome;
 }
 
 ImportOutcome CountImportRows(
     std::span<const PropertyId> columns, const ValueContext& context, QIODevice& source)
 {
-    ImportRowReader reader(source, columns, context);
+    ImportFieldReader reader(source, columns.size(), context.userLocale.codePage);
+    std::vector<PropertyValue> values;
     ImportOutcome outcome;
-    while (reader.Next())
-        ++outcome.rows;
+    while (reader.Next()) {
+        ReadFields(reader.Fields(), columns, context, values);
+        outcome.rows += values.empty() ? 0 : 1;
+    }
     if (reader.HasFailed())
         outcome.result = ImportResult::Failed;
     return outcome;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/data_volume.h"
+#include "transfer/import_batch.h"
 #include "values/value_text.h"
 
 #include <QIODevice>
@@ -34,18 +35,21 @@ struct ImportProgress
     qint64 bytesRead = 0;
     /// 0 where it is not known, as of a pipe.
     qint64 bytesTotal = 0;
+    /// Rows that are stored.
     qint64 rows = 0;
 };
-/// Called now and then; false ends the import, and the rows so far stay.
+/// Called now and then; false ends the import, and the rows of the batches that were stored stay.
 using ImportMonitor = std::function<bool(const ImportProgress& progress)>;
 
-/// Adds a row to the open row database for each line of `source`, as ImportRowReader reads them:
-/// `columns` says which column each field fills.
+/// Adds a row to the open row database for each line of `source`, as ImportFieldReader cuts it:
+/// `columns` says which column each field fills. A line that gives no value at all gives no row.
 ///
-/// Rows are stored in batches of one transaction each, durable when a batch ends. No transaction
-/// may be open. Memory use does not grow with the file.
+/// Rows are stored in batches of one transaction each, durable when a batch ends; what was read
+/// before a failed read is stored. No transaction may be open. Memory use does not grow with the
+/// file.
 [[nodiscard]] ImportOutcome ImportRows(DataVolume& volume, std::span<const PropertyId> columns,
-    const ValueContext& context, QIODevice& source, const ImportMonitor& monitor = {});
+    const ValueContext& context, QIODevice& source, const ImportMonitor& monitor = {},
+    const ImportBatchLimits& limits = {});
 
 /// Counts the rows that ImportRows would add and stores nothing.
 [[nodiscard]] ImportOutcome CountImportRows(

@@ -1,0 +1,75 @@
+#include "transfer/import_batch.h"
+
+#include "transfer/list_file.h"
+#include "values/column_type.h"
+
+#include <algorithm>
+
+namespace Quillory {
+
+ImportBatch::ImportBatch(std::span<const PropertyId> columns, const ImportBatchLimits& limits)
+    : m_limits(limits)
+    , m_nameField(static_cast<size_t>(
+          std::find(columns.begin(), columns.end(), PropName) - columns.begin()))
+{ }
+
+void ImportBatch::Add(std::span<const QStringView> fields)
+{
+    // Memory that is reserved and not used costs nothing; memory that moves costs twice.
+    m_text.reserve(m_limits.text);
+    Line line { m_text.size(), m_text.size(), 0 };
+    for (size_t i = 0; i < fields.size(); ++i) {
+        if (i == m_nameField) {
+            line.nameBegin = m_text.size();
+            line.nameLength = static_cast<size_t>(fields[i].size());
+        }
+        m_text.insert(m_text.end(), fields[i].utf16(), fields[i].utf16() + fields[i].size());
+        m_text.push_back(i + 1 < fields.size() ? kFieldSeparator : u'\0');
+    }
+    m_lines.push_back(line);
+}
+
+bool ImportBatch::IsFull() const
+{
+    return m_lines.size() >= m_limits.lines || m_text.size() >= m_limits.text;
+}
+
+QStringView ImportBatch::NameOf(const Line& line) const
+{
+    return { m_text.data() + line.nameBegin, static_cast<qsizetype>(line.nameLength) };
+}
+
+void ImportBatch::CutLine(const Line& line, std::vector<QStringView>& fields) const
+{
+    fields.clear();
+    const char16_t* begin = m_text.data() + line.begin;
+    for (const char16_t* end = begin;; ++end) {
+        if (*end != kFieldSeparator && *end != u'\0')
+            continue;
+        fields.emplace_back(begin, end);
+        if (*end == u'\0')
+            return;
+        begin = end + 1;
+    }
+}
+
+void ImportBatch::Drain(const std::function<bool(std::span<const QStringView> fields)>& visit)
+{
+    std::sort(m_lines.begin(), m_lines.end(), [this](const Line& a, const Line& b) {
+        // A field is never empty: a line without a name comes last, as its row does.
+        if ((a.nameLength == 0) != (b.nameLength == 0))
+            return b.nameLength == 0;
+        const int order = NameOf(a).compare(NameOf(b));
+        return order != 0 ? order < 0 : a.begin < b.begin;
+    });
+    std::vector<QStringView> fields;
+    for (const Line& line : m_lines) {
+        CutLine(line, fields);
+        if (!visit(fields))
+            break;
+    }
+    m_lines.clear();
+    m_text.clear();
+}
+
+} // namespace Quillory
