@@ -46,6 +46,8 @@ quint16 RandomNumber()
 
 QByteArray PackColumnOrder(const std::vector<quint32>& order)
 {
+    if (order.empty())
+        return {};
     QByteArray bytes(static_cast<qsizetype>(order.size() * sizeof(quint32)), Qt::Uninitialized);
     qToLittleEndian<quint32>(order.data(), static_cast<qsizetype>(order.size()), bytes.data());
     return bytes;
@@ -54,7 +56,9 @@ QByteArray PackColumnOrder(const std::vector<quint32>& order)
 std::vector<quint32> UnpackColumnOrder(const QByteArray& bytes)
 {
     std::vector<quint32> order(static_cast<size_t>(bytes.size()) / sizeof(quint32));
-    qFromLittleEndian<quint32>(bytes.data(), static_cast<qsizetype>(order.size()), order.data());
+    if (!order.empty())
+        qFromLittleEndian<quint32>(
+            bytes.data(), static_cast<qsizetype>(order.size()), order.data());
     return order;
 }
 
