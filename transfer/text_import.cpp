@@ -11,7 +11,7 @@ namespace {
 
 /// A batch ends at so many rows or so many bytes of the file, whichever comes first.
 constexpr qint64 kBatchRows = 32'768;
-constexpr qint64 kBatchBytes = 8 * 1024 * 1024;
+constexpr qint64 kBatchBytes = 8'388'608;
 constexpr qint64 kRowsPerCall = 1024;
 
 /// Whether a failed write says something about the row alone, not about the data file.
