@@ -7,6 +7,8 @@
 #include <functional>
 
 class QLabel;
+class QMenu;
+class QPushButton;
 class QToolButton;
 class QVBoxLayout;
 
@@ -78,12 +80,15 @@ private:
     QVBoxLayout* m_body = nullptr;
     QWidget* m_header = nullptr;
     QLabel* m_title = nullptr;
-    QToolButton* m_ok = nullptr;
+    QPushButton* m_ok = nullptr;
     QToolButton* m_help = nullptr;
     QWidget* m_softKeys = nullptr;
     QString m_helpAnchor;
 
     void BuildHeader(const QString& title);
+    [[nodiscard]] QWidget* MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu);
+    void FillMenu(QMenu* menu, std::span<const MenuEntry> entries);
+    void FollowPalette();
 };
 
 } // namespace Quillory

@@ -1,0 +1,19 @@
+#include "widgets/measures.h"
+
+#include <QInputDevice>
+
+#include <algorithm>
+
+namespace Quillory {
+
+const Measures& CurrentMeasures()
+{
+    const auto devices = QInputDevice::devices();
+    const bool hasTouch
+        = std::any_of(devices.begin(), devices.end(), [](const QInputDevice* device) {
+              return device->type() == QInputDevice::DeviceType::TouchScreen;
+          });
+    return hasTouch ? kTouchMeasures : kMouseMeasures;
+}
+
+} // namespace Quillory

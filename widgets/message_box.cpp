@@ -1,0 +1,87 @@
+#include "widgets/message_box.h"
+
+#include "res/string_table.h"
+
+#include <QMessageBox>
+
+#include <utility>
+
+namespace Quillory {
+
+namespace {
+
+QMessageBox::Icon BoxIcon(MessageIcon icon)
+{
+    switch (icon) {
+    case MessageIcon::Stop:
+        return QMessageBox::Critical;
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::Information:
+        return QMessageBox::Information;
+    }
+    return QMessageBox::NoIcon;
+}
+
+struct BoxButtons
+{
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::StandardButton standard;
+    QMessageBox::StandardButton escape;
+};
+
+BoxButtons ButtonsOf(MessageButtons buttons)
+{
+    switch (buttons) {
+    case MessageButtons::Ok:
+        return { QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok };
+    case MessageButtons::YesNo:
+        return { QMessageBox::Yes | QMessageBox::No, QMessageBox::No, QMessageBox::No };
+    case MessageButtons::YesNoCancel:
+        return { QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
+            QMessageBox::Cancel };
+    case MessageButtons::RetryCancel:
+        return { QMessageBox::Retry | QMessageBox::Cancel, QMessageBox::Retry,
+            QMessageBox::Cancel };
+    }
+    return { QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok };
+}
+
+MessageAnswer AnswerOf(int button)
+{
+    switch (button) {
+    case QMessageBox::Ok:
+        return MessageAnswer::Ok;
+    case QMessageBox::Yes:
+        return MessageAnswer::Yes;
+    case QMessageBox::No:
+        return MessageAnswer::No;
+    case QMessageBox::Retry:
+        return MessageAnswer::Retry;
+    default:
+        return MessageAnswer::Cancel;
+    }
+}
+
+} // namespace
+
+void ShowMessage(QWidget* parent, const QString& text, MessageIcon icon, MessageButtons buttons,
+    std::function<void(MessageAnswer)> then)
+{
+    const BoxButtons boxButtons = ButtonsOf(buttons);
+    auto* box = new QMessageBox(BoxIcon(icon), LoadText(Text::Caption), text, boxButtons.buttons,
+        parent == nullptr ? nullptr : parent->window());
+    box->setObjectName(QStringLiteral("messageBox"));
+    box->setTextFormat(Qt::PlainText);
+    box->setDefaultButton(boxButtons.standard);
+    box->setEscapeButton(boxButtons.escape);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::WindowModal);
+    QObject::connect(box, &QMessageBox::finished, box, [then = std::move(then)](int button) {
+        if (then)
+            then(AnswerOf(button));
+    });
+    box->open();
+}
+
+} // namespace Quillory

@@ -1,0 +1,254 @@
+#include "widgets/page.h"
+
+#include "widgets/measures.h"
+
+#include <QAction>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QFrame* MakeRule(QWidget* parent)
+{
+    auto* rule = new QFrame(parent);
+    rule->setFrameShape(QFrame::HLine);
+    rule->setFrameShadow(QFrame::Plain);
+    rule->setForegroundRole(QPalette::Mid);
+    rule->setFixedHeight(1);
+    return rule;
+}
+
+QFont Bold(QFont font)
+{
+    font.setBold(true);
+    return font;
+}
+
+} // namespace
+
+Page::Page(const QString& title, QWidget* parent)
+    : QWidget(parent)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    BuildHeader(title);
+    m_body = new QVBoxLayout;
+    m_body->setContentsMargins(0, 0, 0, 0);
+    m_body->setSpacing(0);
+    layout->addLayout(m_body, 1);
+    m_softKeys = new QWidget(this);
+    m_softKeys->setObjectName(u"softKeys"_s);
+    m_softKeys->hide();
+    layout->addWidget(m_softKeys);
+    FollowPalette();
+}
+
+void Page::BuildHeader(const QString& title)
+{
+    m_header = new QWidget(this);
+    m_header->setObjectName(u"header"_s);
+    auto* layout = new QVBoxLayout(m_header);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(kPageMargin, 0, kGrid, 0);
+    line->setSpacing(kGrid);
+    m_title = new QLabel(title, m_header);
+    m_title->setObjectName(u"title"_s);
+    m_title->setFont(Bold(m_title->font()));
+    m_title->setMinimumWidth(0);
+    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    line->addWidget(m_title, 1);
+    m_help = new QToolButton(m_header);
+    m_help->setObjectName(u"help"_s);
+    m_help->setText(u"?"_s);
+    m_help->setAccessibleName(tr("Help"));
+    m_help->setAutoRaise(true);
+    m_help->hide();
+    connect(m_help, &QToolButton::clicked, this, [this] { Q_EMIT HelpRequested(m_helpAnchor); });
+    line->addWidget(m_help);
+    m_ok = new QPushButton(tr("OK"), m_header);
+    m_ok->setObjectName(u"ok"_s);
+    m_ok->setFont(Bold(m_ok->font()));
+    m_ok->setAutoDefault(false);
+    connect(m_ok, &QPushButton::clicked, this, [this] { RequestEnd(PageResult::Ok); });
+    line->addWidget(m_ok);
+    layout->addLayout(line);
+    layout->addWidget(MakeRule(m_header));
+    m_header->setFixedHeight(CurrentMeasures().headerHeight + 1);
+    m_header->setVisible(!title.isEmpty());
+    static_cast<QVBoxLayout*>(this->layout())->addWidget(m_header);
+}
+
+void Page::FollowPalette()
+{
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, palette().color(QPalette::Highlight));
+    m_title->setPalette(colours);
+    QPalette filled = palette();
+    filled.setColor(QPalette::Button, palette().color(QPalette::Highlight));
+    filled.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
+    m_ok->setPalette(filled);
+}
+
+QString Page::Title() const
+{
+    return m_title->text();
+}
+
+void Page::SetTitle(const QString& title)
+{
+    m_title->setText(title);
+    m_header->setVisible(!title.isEmpty());
+}
+
+void Page::ShowOkButton(bool isShown)
+{
+    m_ok->setVisible(isShown);
+}
+
+void Page::SetHelpAnchor(const QString& anchor)
+{
+    m_helpAnchor = anchor;
+    m_help->setVisible(!anchor.isEmpty());
+}
+
+QAction* Page::ActionOf(Command command)
+{
+    const QString name = u"command%1"_s.arg(static_cast<int>(command));
+    if (auto* action = findChild<QAction*>(name, Qt::FindDirectChildrenOnly))
+        return action;
+    auto* action = new QAction(this);
+    action->setObjectName(name);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(action, &QAction::triggered, this, [this, command] { Q_EMIT CommandChosen(command); });
+    addAction(action);
+    return action;
+}
+
+void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
+{
+    auto* bar = new QVBoxLayout(m_softKeys);
+    bar->setContentsMargins(0, 0, 0, 0);
+    bar->setSpacing(0);
+    bar->addWidget(MakeRule(m_softKeys));
+    auto* halves = new QHBoxLayout;
+    halves->setSpacing(0);
+    halves->addWidget(MakeSoftKey(keys.left, {}), 1);
+    halves->addWidget(MakeSoftKey(keys.right, menu), 1);
+    bar->addLayout(halves, 1);
+    m_softKeys->setFixedHeight(CurrentMeasures().softKeyHeight);
+    m_softKeys->show();
+}
+
+QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu)
+{
+    auto* button = new QToolButton(m_softKeys);
+    button->setObjectName(u"softKey%1"_s.arg(static_cast<int>(entry.command)));
+    button->setText(entry.Text());
+    button->setFont(Bold(button->font()));
+    button->setAutoRaise(true);
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    button->setEnabled(entry.command != Command::Separator);
+    if (entry.command == Command::Separator)
+        return button;
+    if (entry.command == Command::Menu) {
+        auto* popup = new QMenu(button);
+        FillMenu(popup, menu);
+        connect(popup, &QMenu::aboutToShow, this, &Page::MenuAboutToOpen);
+        button->setMenu(popup);
+        button->setPopupMode(QToolButton::InstantPopup);
+        return button;
+    }
+    QAction* action = ActionOf(entry.command);
+    action->setText(entry.Text());
+    const auto follow = [button, action] { button->setEnabled(action->isEnabled()); };
+    connect(action, &QAction::changed, button, follow);
+    connect(button, &QToolButton::clicked, action, &QAction::trigger);
+    return button;
+}
+
+void Page::FillMenu(QMenu* menu, std::span<const MenuEntry> entries)
+{
+    for (const MenuEntry& entry : entries) {
+        if (entry.command == Command::Separator) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* action = ActionOf(entry.command);
+        action->setText(entry.Text());
+        menu->addAction(action);
+    }
+}
+
+void Page::SetCommandEnabled(Command command, bool isEnabled)
+{
+    ActionOf(command)->setEnabled(isEnabled);
+}
+
+void Page::SetCommandChecked(Command command, bool isChecked)
+{
+    QAction* action = ActionOf(command);
+    action->setCheckable(true);
+    action->setChecked(isChecked);
+}
+
+void Page::SetShortcut(Command command, const QKeySequence& shortcut)
+{
+    ActionOf(command)->setShortcut(shortcut);
+}
+
+void Page::Trigger(Command command)
+{
+    ActionOf(command)->trigger();
+}
+
+void Page::OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& globalPosition)
+{
+    Q_EMIT MenuAboutToOpen();
+    auto* menu = new QMenu(this);
+    menu->setObjectName(u"contextMenu"_s);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    FillMenu(menu, entries);
+    menu->popup(globalPosition);
+}
+
+void Page::End(PageResult result)
+{
+    Q_EMIT Ended(result);
+}
+
+void Page::RequestEnd(PageResult result)
+{
+    End(result);
+}
+
+void Page::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        FollowPalette();
+}
+
+void Page::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        RequestEnd(PageResult::Cancel);
+    else if (event->key() == Qt::Key_F1 && !m_helpAnchor.isEmpty())
+        Q_EMIT HelpRequested(m_helpAnchor);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace Quillory

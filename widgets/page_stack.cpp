@@ -1,0 +1,45 @@
+#include "widgets/page_stack.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace Quillory {
+
+PageStack::PageStack(QWidget* parent)
+    : QStackedWidget(parent)
+{
+    setObjectName(QStringLiteral("pageStack"));
+}
+
+void PageStack::Push(Page* page, std::function<void(PageResult)> then)
+{
+    QWidget* const below = Top() == nullptr ? nullptr : Top()->focusWidget();
+    addWidget(page);
+    setCurrentWidget(page);
+    page->setFocus();
+    connect(page, &Page::Ended, this,
+        [this, page, below = QPointer<QWidget>(below), then = std::move(then)](PageResult result) {
+            removeWidget(page);
+            if (below != nullptr)
+                below->setFocus();
+            if (then)
+                then(result);
+            page->deleteLater();
+        });
+}
+
+Page* PageStack::Top() const
+{
+    return qobject_cast<Page*>(currentWidget());
+}
+
+bool PageStack::CloseTopmost()
+{
+    if (Depth() <= 1)
+        return true;
+    Top()->RequestEnd(PageResult::Cancel);
+    return Depth() <= 1;
+}
+
+} // namespace Quillory
