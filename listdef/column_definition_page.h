@@ -1,0 +1,27 @@
+#pragma once
+
+#include "widgets/page.h"
+
+class QComboBox;
+class QLineEdit;
+
+namespace Quillory {
+
+/// Name and type of a new column.
+class ColumnDefinitionPage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit ColumnDefinitionPage(QWidget* parent = nullptr);
+
+    [[nodiscard]] QString Name() const;
+    /// The index of the type, 0 to 4.
+    [[nodiscard]] int TypeIndex() const;
+
+private:
+    QLineEdit* m_name;
+    QComboBox* m_type;
+};
+
+} // namespace Quillory
