@@ -189,6 +189,11 @@ Record RowStore::ReadRow(ObjectId row)
     return m_volume.SeekTo(kRows, row) == kNoObject ? Record {} : m_volume.ReadAll(kRows);
 }
 
+std::vector<ColumnTotal> RowStore::Totals(const FilterSet* filters)
+{
+    return ComputeTotals(m_volume, m_list, filters, m_context);
+}
+
 QString RowStore::FormatCellText(PropertyId column, ObjectId row)
 {
     if (m_volume.SeekTo(kRows, row) == kNoObject)

@@ -2,6 +2,7 @@
 
 #include "store/data_volume.h"
 #include "store/inventory_list.h"
+#include "store/totals.h"
 #include "values/filters.h"
 #include "values/value_text.h"
 
@@ -42,6 +43,8 @@ public:
 
     /// Every property of a row; false in a condition if it cannot be found.
     [[nodiscard]] Record ReadRow(ObjectId row);
+    /// The totals of the list over all rows or, unless `filters` is null, those that pass.
+    [[nodiscard]] std::vector<ColumnTotal> Totals(const FilterSet* filters);
     /// The text of one cell as the rows view shows it; "<Err>" if the row cannot be found.
     [[nodiscard]] QString FormatCellText(PropertyId column, ObjectId row);
 

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "propdb/property_value.h"
+#include "store/inventory_list.h"
+
+#include <QColor>
+#include <QPalette>
+
+#include <optional>
+
+namespace Quillory {
+
+/// What of a row decides how it looks.
+struct RowFacts
+{
+    /// The place of its line, from 0.
+    int line = 0;
+    bool isSelected = false;
+    /// A row without a count counts as 0.
+    qint32 count = 0;
+    std::optional<FileTime> expiry;
+};
+
+struct RowWarnings
+{
+    bool isLow = false;
+    bool isExpired = false;
+
+    friend bool operator==(const RowWarnings&, const RowWarnings&) = default;
+};
+
+struct RowLook
+{
+    QColor text;
+    QColor ground;
+    bool isItalic = false;
+};
+
+/// Which warnings of the list hold for a row. `today` is midnight of the day.
+[[nodiscard]] RowWarnings WarningsFor(
+    const RowFacts& row, const InventoryList& list, FileTime today);
+
+/// How a row is drawn: selection goes before the expiry colour, that before the count colour, that
+/// before the colour of text; both warnings together are in italics. With `hasAlternateLines` the
+/// first line and every second from there has a ground of its own.
+[[nodiscard]] RowLook DecideRowLook(const RowFacts& row, const InventoryList& list, FileTime today,
+    bool hasAlternateLines, const QPalette& palette);
+
+} // namespace Quillory

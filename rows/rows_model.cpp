@@ -1,0 +1,178 @@
+#include "rows/rows_model.h"
+
+#include "values/column_type.h"
+#include "values/file_date.h"
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Several screens full.
+constexpr int kShownRows = 512;
+
+} // namespace
+
+RowsModel::RowsModel(
+    RowStore& rows, const InventoryList& list, const ValueContext& context, QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_store(rows)
+    , m_list(list)
+    , m_context(context)
+    , m_shown(kShownRows)
+{ }
+
+void RowsModel::SetRows(std::vector<ObjectId> rows)
+{
+    beginResetModel();
+    m_rows = std::move(rows);
+    m_shown.clear();
+    endResetModel();
+}
+
+ObjectId RowsModel::RowAt(int line) const
+{
+    return m_rows[static_cast<size_t>(line)];
+}
+
+int RowsModel::Append(ObjectId row)
+{
+    const int line = rowCount();
+    beginInsertRows({}, line, line);
+    m_rows.push_back(row);
+    endInsertRows();
+    return line;
+}
+
+void RowsModel::Remove(int line)
+{
+    beginRemoveRows({}, line, line);
+    m_shown.remove(static_cast<quint32>(RowAt(line)));
+    m_rows.erase(m_rows.begin() + line);
+    endRemoveRows();
+}
+
+void RowsModel::Refresh(int line)
+{
+    m_shown.remove(static_cast<quint32>(RowAt(line)));
+    Q_EMIT dataChanged(index(line, 0), index(line, columnCount() - 1));
+}
+
+PropertyId RowsModel::ColumnId(int column) const
+{
+    return m_list.columns[static_cast<size_t>(column)].id;
+}
+
+const RowsModel::ShownRow& RowsModel::Shown(int line) const
+{
+    const auto key = static_cast<quint32>(RowAt(line));
+    if (const ShownRow* shown = m_shown.object(key))
+        return *shown;
+    auto* shown = new ShownRow { m_store.ReadRow(RowAt(line)), {} };
+    for (const ColumnDefinition& column : m_list.columns) {
+        const PropertyValue* value = FindProperty(shown->record.values, column.id);
+        shown->texts.push_back(
+            shown->record ? FormatCellText(value, column.id, m_context) : u"<Err>"_s);
+    }
+    m_shown.insert(key, shown);
+    return *shown;
+}
+
+RowFacts RowsModel::FactsOf(int line) const
+{
+    RowFacts facts;
+    facts.line = line;
+    const auto& values = Shown(line).record.values;
+    if (const PropertyValue* count = FindProperty(values, PropCount))
+        facts.count = std::get<qint32>(count->value);
+    if (const PropertyValue* expiry = FindProperty(values, PropExpiryDate))
+        facts.expiry = std::get<FileTime>(expiry->value);
+    return facts;
+}
+
+bool RowsModel::IsCheckbox(int column) const
+{
+    return ColumnTypeOf(ColumnId(column)) == ColumnType::Checkbox;
+}
+
+bool RowsModel::IsChecked(int line, int column) const
+{
+    const PropertyValue* value = FindProperty(Shown(line).record.values, ColumnId(column));
+    return value != nullptr && std::get<bool>(value->value);
+}
+
+int RowsModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int RowsModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_list.columns.size());
+}
+
+Qt::Alignment RowsModel::AlignmentOf(int column) const
+{
+    switch (ColumnTypeOf(ColumnId(column))) {
+    case ColumnType::Integer:
+    case ColumnType::Price:
+        return Qt::AlignRight | Qt::AlignVCenter;
+    case ColumnType::Checkbox:
+        return Qt::AlignCenter;
+    case ColumnType::String:
+    case ColumnType::Date:
+        break;
+    }
+    return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+QString RowsModel::AccessibleText(int line, int column) const
+{
+    const QString text = Shown(line).texts[static_cast<size_t>(column)];
+    if (IsCheckbox(column))
+        return IsChecked(line, column) ? m_context.checkedText : m_context.uncheckedText;
+    if (ColumnId(column) != PropName)
+        return text;
+    const auto today = DateToFileTime(m_context.clock().date).value_or(FileTime {});
+    const RowWarnings warnings = WarningsFor(FactsOf(line), m_list, today);
+    QStringList parts { text };
+    if (warnings.isLow)
+        parts << tr("low");
+    if (warnings.isExpired)
+        parts << tr("expired");
+    return parts.join(u", "_s);
+}
+
+QVariant RowsModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return Shown(index.row()).texts[static_cast<size_t>(index.column())];
+    case Qt::TextAlignmentRole:
+        return QVariant(AlignmentOf(index.column()));
+    case Qt::AccessibleTextRole:
+        return AccessibleText(index.row(), index.column());
+    case Qt::CheckStateRole:
+        if (IsCheckbox(index.column()))
+            return IsChecked(index.row(), index.column()) ? Qt::Checked : Qt::Unchecked;
+        return {};
+    default:
+        return {};
+    }
+}
+
+QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::DisplayRole)
+        return m_list.columns[static_cast<size_t>(section)].name;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(AlignmentOf(section));
+    return {};
+}
+
+} // namespace Quillory

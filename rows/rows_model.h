@@ -1,0 +1,64 @@
+#pragma once
+
+#include "rows/row_look.h"
+#include "store/row_store.h"
+
+#include <QAbstractTableModel>
+#include <QCache>
+
+#include <vector>
+
+namespace Quillory {
+
+/// The lines of a rows view: identifiers only. What is shown is read from the store when it is
+/// asked for, and kept for the few rows that were asked for last.
+class RowsModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    /// All three outlive the model.
+    RowsModel(RowStore& rows, const InventoryList& list, const ValueContext& context,
+        QObject* parent = nullptr);
+
+    /// Shows these rows in this order.
+    void SetRows(std::vector<ObjectId> rows);
+    [[nodiscard]] const std::vector<ObjectId>& Rows() const { return m_rows; }
+    [[nodiscard]] ObjectId RowAt(int line) const;
+    /// Adds a line at the end; its place.
+    int Append(ObjectId row);
+    void Remove(int line);
+    /// The row was changed in the store.
+    void Refresh(int line);
+
+    [[nodiscard]] RowFacts FactsOf(int line) const;
+    [[nodiscard]] bool IsCheckbox(int column) const;
+    [[nodiscard]] bool IsChecked(int line, int column) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(
+        int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    /// A row as read; without values if it could not be.
+    struct ShownRow
+    {
+        Record record;
+        std::vector<QString> texts;
+    };
+
+    RowStore& m_store;
+    const InventoryList& m_list;
+    const ValueContext& m_context;
+    std::vector<ObjectId> m_rows;
+    mutable QCache<quint32, ShownRow> m_shown;
+
+    [[nodiscard]] const ShownRow& Shown(int line) const;
+    [[nodiscard]] PropertyId ColumnId(int column) const;
+    [[nodiscard]] Qt::Alignment AlignmentOf(int column) const;
+    [[nodiscard]] QString AccessibleText(int line, int column) const;
+};
+
+} // namespace Quillory

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "rows/rows_model.h"
+#include "store/row_store.h"
+#include "widgets/page.h"
+
+class QTableView;
+
+namespace Quillory {
+
+struct RowsViewOptions
+{
+    /// Shows rows and lets none be made, changed or deleted.
+    bool isReadOnly = false;
+    bool hasAlternateLines = false;
+};
+
+/// The rows of the open list, and every command on them. However it is left, it has put the widths
+/// and the order of its columns into the list's definition before it ends.
+class RowsView : public Page
+{
+    Q_OBJECT
+
+public:
+    /// `rows`, `list` and `context` outlive the page.
+    RowsView(RowStore& rows, InventoryList& list, const ValueContext& context,
+        const RowsViewOptions& options, QWidget* parent = nullptr);
+
+    void RequestEnd(PageResult result) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    RowStore& m_store;
+    InventoryList& m_list;
+    const ValueContext& m_context;
+    RowsViewOptions m_options;
+    RowsModel* m_model;
+    QTableView* m_view;
+    /// Where the latest tap went down, in the view's coordinates.
+    QPoint m_tapPosition;
+
+    void BuildTable();
+    void BuildCommands();
+    void ApplyLayout();
+    void StoreLayout();
+    void Fill();
+
+    void Run(Command command);
+    void UpdateCommands();
+    void OpenRowMenu(const QPoint& position);
+    /// -1 if none is selected.
+    [[nodiscard]] int SelectedLine() const;
+    void Select(int line);
+
+    void NewRow();
+    void ModifyRow();
+    void CopyRow();
+    void DeleteRow();
+    void AdjustCount(qint32 step);
+    void SortByColumn(int column);
+    void TapCell(const QModelIndex& index);
+    void DoubleTapCell(const QModelIndex& index);
+    void ToggleCheckbox(int line, int column);
+    void ShowSummary();
+    void OpenEditor(const Record* row, std::function<void(const std::vector<QString>&)> store);
+};
+
+} // namespace Quillory

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+namespace Quillory {
+
+constexpr quint32 kColourCount = 36;
+/// The index of the automatic colour: black, or the colour of text on a dark ground.
+constexpr quint32 kAutomaticColour = 0;
+/// The ground of every other row, where that is asked for.
+constexpr QRgb kAlternateRowColour = qRgb(207, 217, 246);
+
+/// The colour that a list stores as an index; the automatic one for an index outside the palette.
+/// On a dark ground it is made as much lighter as it takes to be read.
+[[nodiscard]] QColor TextColour(quint32 index, const QPalette& palette);
+/// kAlternateRowColour, or on a dark ground its like.
+[[nodiscard]] QColor AlternateRowColour(const QPalette& palette);
+
+} // namespace Quillory
