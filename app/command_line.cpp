@@ -1,0 +1,294 @@
+#include "app/command_line.h"
+
+#include "app/command_line_run.h"
+
+#include <QFile>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array kJsonFlag { "json" };
+constexpr std::array kNewFlags { "create", "warn-expiry" };
+constexpr std::array kNewOptions { "column", "icon", "warn-count" };
+constexpr std::array kShowOptions { "sort", "where" };
+constexpr std::array kImportFlags { "dry-run" };
+constexpr std::array kImportOptions { "columns" };
+constexpr std::array kSummaryOptions { "where" };
+constexpr std::array kDueOptions { "within" };
+
+constexpr const char* kListsHelp
+    = "Prints a line per list, in the order of their names: name TAB number of rows.\n"
+      "\n"
+      "  --json               name, rows, icon and columns of each list\n";
+
+constexpr const char* kNewHelp
+    = "Makes a list and prints nothing. Its first columns are Name and Quantity.\n"
+      "\n"
+      "  --column NAME:TYPE   adds a column; TYPE is string, checkbox, price, integer, date or\n"
+      "                       expiry (which needs no NAME). May be given several times.\n"
+      "  --warn-count N       warns of rows whose quantity is N or less\n"
+      "  --warn-expiry        warns of rows whose expiry date is reached\n"
+      "  --icon N             icon 0 to 42\n"
+      "  --create             makes the data file if there is none\n";
+
+constexpr const char* kWhereHelp
+    = "  --where CONDITION    only rows that meet it: \"COLUMN CONDITION VALUE\", as in\n"
+      "                       \"Name contains tea\", \"Quantity < 3\", \"Opened = Checked\".\n"
+      "                       Conditions are those of the program's filters, by their words or\n"
+      "                       as = != > >= < <=. As there, != on text, numbers and prices finds\n"
+      "                       what = finds. May be given several times: all must hold.\n";
+
+constexpr const char* kShowHelp
+    = "Prints a line of column names, then the rows in the order of names, with TAB between\n"
+      "fields. Control characters in texts are shown as blanks.\n"
+      "\n"
+      "  --sort COLUMN        in ascending order of a column\n"
+      "  --json               an object per row; dates as YYYY-MM-DD, missing values as null\n";
+
+constexpr const char* kExportHelp
+    = "Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each\n"
+      "row. Without FILE, or with -, to standard output. An existing FILE is replaced.\n";
+
+constexpr const char* kImportHelp
+    = "Adds a row for each line of a text file, as Import List does, and prints how many came in.\n"
+      "FILE - is standard input. Each line must end in CR LF.\n"
+      "\n"
+      "  --columns \"A,B\"      the columns that the fields of a line fill; those not named "
+      "follow\n"
+      "                       in the list's order, which is also what holds without this option\n"
+      "  --dry-run            stores nothing, prints how many rows would come in\n";
+
+constexpr const char* kSummaryHelp
+    = "Prints a line per total of a number or price column: name TAB total.\n"
+      "\n"
+      "  --json               name and total of each\n";
+
+constexpr const char* kDueHelp
+    = "Prints rows of lists whose warnings are on: list TAB row TAB \"low\", \"expired\" or the "
+      "date\n"
+      "on which the row expires.\n"
+      "\n"
+      "  --within DAYS        also rows that expire in so many days\n"
+      "  --json               list, row, state and count or date of each\n";
+
+constexpr const char* kCheckHelp
+    = "Reads the whole data file. Prints \"ok\", or what is wrong and exits with 1.\n";
+
+constexpr const char* kBackupHelp
+    = "Writes a consistent copy of the data file, also while it is in use. FILE must not exist.\n";
+
+constexpr std::array kSubCommands {
+    SubCommand { "lists", "", kListsHelp, 0, 0, kJsonFlag, {}, &RunLists },
+    SubCommand { "new", "LIST [--column NAME:TYPE]... [--create]", kNewHelp, 1, 1, kNewFlags,
+        kNewOptions, &RunNew },
+    SubCommand { "show", "LIST [--where CONDITION]... [--sort COLUMN]", kShowHelp, 1, 1, kJsonFlag,
+        kShowOptions, &RunShow },
+    SubCommand { "export", "LIST [FILE]", kExportHelp, 1, 2, {}, {}, &RunExport },
+    SubCommand { "import", "LIST FILE [--columns \"A,B\"] [--dry-run]", kImportHelp, 2, 2,
+        kImportFlags, kImportOptions, &RunImport },
+    SubCommand { "summary", "LIST [--where CONDITION]...", kSummaryHelp, 1, 1, kJsonFlag,
+        kSummaryOptions, &RunSummary },
+    SubCommand { "due", "[--within DAYS]", kDueHelp, 0, 0, kJsonFlag, kDueOptions, &RunDue },
+    SubCommand { "check", "", kCheckHelp, 0, 0, {}, {}, &RunCheck },
+    SubCommand { "backup", "FILE", kBackupHelp, 1, 1, {}, {}, &RunBackup },
+};
+
+constexpr const char* kUsageHead = "usage: quillory [LIST]\n"
+                                   "       quillory COMMAND [--data FILE] [ARGUMENTS]\n";
+
+const SubCommand* FindSubCommand(const QString& name)
+{
+    const auto found = std::find_if(kSubCommands.begin(), kSubCommands.end(),
+        [&name](const SubCommand& command) { return name == QLatin1StringView(command.name); });
+    return found == kSubCommands.end() ? nullptr : &*found;
+}
+
+/// The place of the first argument that is neither an option nor the value of one; -1 if there is
+/// none, or only behind "--".
+qsizetype SubCommandPlace(const QStringList& arguments)
+{
+    for (qsizetype i = 0; i < arguments.size() && arguments[i] != u"--"; ++i) {
+        if (arguments[i] == u"--data")
+            ++i;
+        else if (!arguments[i].startsWith(u'-'))
+            return i;
+    }
+    return -1;
+}
+
+QByteArray UsageLine(const SubCommand& command)
+{
+    return QByteArray("quillory ") + command.name + (*command.usage == '\0' ? "" : " ")
+        + command.usage + '\n';
+}
+
+QByteArray HelpText()
+{
+    QByteArray text = kUsageHead;
+    text += "\nOpens the window, showing LIST if it is named. The commands work without it:\n\n";
+    for (const SubCommand& command : kSubCommands)
+        text += "  " + UsageLine(command);
+    text += "\n  --data FILE          works on another data file than the configured one\n"
+            "  --help               help, on a command if one is named\n"
+            "  --version            the version\n"
+            "\nExit status: 0 done, 1 failed, 2 wrong usage.\n";
+    return text;
+}
+
+QByteArray HelpText(const SubCommand& command)
+{
+    QByteArray text = "usage: " + UsageLine(command) + '\n' + command.help;
+    if (std::find(
+            command.valueOptions.begin(), command.valueOptions.end(), std::string_view("where"))
+        != command.valueOptions.end())
+        text += kWhereHelp;
+    return text + "  --data FILE          works on another data file than the configured one\n";
+}
+
+void AddOptions(QCommandLineParser& parser, const SubCommand* command)
+{
+    parser.addOption({ u"data"_s, {}, u"FILE"_s });
+    parser.addOption(QCommandLineOption(QStringList { u"h"_s, u"help"_s }));
+    parser.addOption(QCommandLineOption(QStringList { u"v"_s, u"version"_s }));
+    if (command == nullptr)
+        return;
+    for (const char* flag : command->flags)
+        parser.addOption(QCommandLineOption(QString::fromLatin1(flag)));
+    for (const char* option : command->valueOptions)
+        parser.addOption({ QString::fromLatin1(option), {}, u"VALUE"_s });
+}
+
+void Parse(QCommandLineParser& parser, const QStringList& arguments)
+{
+    if (!parser.parse(QStringList { u"quillory"_s } + arguments))
+        FailUsage(parser.errorText());
+}
+
+void CheckOperands(const SubCommand& command, const QStringList& operands)
+{
+    if (operands.size() < command.minOperands)
+        FailUsage(u"an argument is missing"_s);
+    if (operands.size() > command.maxOperands)
+        FailUsage(u"“%1” is one argument too many"_s.arg(operands[command.maxOperands]));
+}
+
+/// Runs a call that names no sub-command, which can only ask for help or the version.
+void RunBare(const QStringList& arguments, TextOutput& output)
+{
+    QCommandLineParser parser;
+    AddOptions(parser, nullptr);
+    Parse(parser, arguments);
+    if (parser.isSet(u"help"_s))
+        output.WriteRaw(HelpText());
+    else if (parser.isSet(u"version"_s))
+        output.WriteRaw("quillory " QUILLORY_VERSION "\n");
+    else
+        FailUsage(u"no command is named"_s);
+}
+
+void Dispatch(const QStringList& arguments, const SubCommand* command,
+    const CommandEnvironment& environment, TextOutput& output)
+{
+    const qsizetype place = SubCommandPlace(arguments);
+    if (place < 0)
+        return RunBare(arguments, output);
+    if (command == nullptr)
+        FailUsage(u"there is no command “%1”"_s.arg(arguments[place]));
+    QStringList rest = arguments;
+    rest.removeAt(place);
+    QCommandLineParser parser;
+    AddOptions(parser, command);
+    Parse(parser, rest);
+    if (parser.isSet(u"help"_s))
+        return output.WriteRaw(HelpText(*command));
+    if (parser.isSet(u"version"_s))
+        return RunBare({ u"--version"_s }, output);
+    const QStringList operands = parser.positionalArguments();
+    CheckOperands(*command, operands);
+    command->run({ environment, parser, operands, output });
+}
+
+void Complain(QIODevice& errors, const QString& message)
+{
+    errors.write("quillory: " + message.toUtf8() + '\n');
+}
+
+ExitCode Finish(TextOutput& output, const CommandEnvironment& environment)
+{
+    if (output.Flush())
+        return ExitCode::Done;
+    // Whoever closed the other end of a pipe knows.
+    if (environment.output.errorString() != qt_error_string(EPIPE))
+        Complain(environment.errors,
+            u"cannot write to standard output: %1"_s.arg(environment.output.errorString()));
+    return ExitCode::Failed;
+}
+
+} // namespace
+
+bool IsCommandLine(const QStringList& arguments)
+{
+    if (arguments.isEmpty() || arguments.front() == u"--")
+        return false;
+    const qsizetype place = SubCommandPlace(arguments);
+    const QString& first = arguments.front();
+    if (place < 0)
+        return first.startsWith(u"--") || first == u"-h" || first == u"-v";
+    return FindSubCommand(arguments[place]) != nullptr;
+}
+
+ExitCode RunCommandLine(const QStringList& arguments, const CommandEnvironment& environment)
+{
+    const qsizetype place = SubCommandPlace(arguments);
+    const SubCommand* command = place < 0 ? nullptr : FindSubCommand(arguments[place]);
+    TextOutput output(environment.output);
+    try {
+        Dispatch(arguments, command, environment, output);
+        return Finish(output, environment);
+    } catch (const CommandFailure& failure) {
+        const ExitCode finished = Finish(output, environment);
+        Complain(environment.errors, failure.Message());
+        if (failure.Code() == ExitCode::WrongUsage)
+            environment.errors.write(
+                command == nullptr ? QByteArray(kUsageHead) : "usage: " + UsageLine(*command));
+        return failure.Code() == ExitCode::Done ? finished : failure.Code();
+    } catch (const std::bad_alloc&) {
+        Complain(environment.errors, u"out of memory"_s);
+        return ExitCode::Failed;
+    }
+}
+
+int RunCommandLine(const QStringList& arguments)
+{
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    QFile input;
+    QFile output;
+    QFile errors;
+    constexpr auto kMode = QIODevice::Unbuffered;
+    // A stream that is closed fails when it is used.
+    static_cast<void>(input.open(STDIN_FILENO, QIODevice::ReadOnly | kMode));
+    static_cast<void>(output.open(STDOUT_FILENO, QIODevice::WriteOnly | kMode));
+    static_cast<void>(errors.open(STDERR_FILENO, QIODevice::WriteOnly | kMode));
+    return static_cast<int>(RunCommandLine(arguments,
+        { input, output, errors, ValueContext::FromEnvironment(), ConfiguredDataFile() }));
+}
+
+QString ConfiguredDataFile()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    const QSettings settings(folder + u"/quillory/quillory.conf"_s, QSettings::IniFormat);
+    return settings.value(u"DbPath"_s).toString();
+}
+
+} // namespace Quillory

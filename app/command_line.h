@@ -1,0 +1,41 @@
+#pragma once
+
+#include "values/value_text.h"
+
+#include <QIODevice>
+#include <QStringList>
+
+namespace Quillory {
+
+/// Exit codes of the command line; scripts rely on them.
+enum class ExitCode
+{
+    Done = 0,
+    Failed = 1,
+    WrongUsage = 2,
+};
+
+/// What a command reads, writes and depends on; replaced in tests.
+struct CommandEnvironment
+{
+    QIODevice& input;
+    QIODevice& output;
+    QIODevice& errors;
+    ValueContext context;
+    /// The data file where none is named; empty if none is set.
+    QString dataFile;
+};
+
+/// Whether the program's arguments (without its own name) are a command, not a call of the window.
+[[nodiscard]] bool IsCommandLine(const QStringList& arguments);
+
+/// Runs a command with the process's own streams, locale and settings; the process's exit code.
+/// Ignores SIGPIPE from here on. Needs no display and no application object.
+[[nodiscard]] int RunCommandLine(const QStringList& arguments);
+[[nodiscard]] ExitCode RunCommandLine(
+    const QStringList& arguments, const CommandEnvironment& environment);
+
+/// The data file that the settings name; empty if they name none.
+[[nodiscard]] QString ConfiguredDataFile();
+
+} // namespace Quillory

@@ -1,0 +1,118 @@
+#include "app/command_line_conditions.h"
+#include "app/command_line_run.h"
+#include "res/string_table.h"
+#include "transfer/list_file.h"
+#include "transfer/text_export.h"
+#include "transfer/text_import.h"
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An operand or option value that stands for a standard stream.
+bool IsStream(const QString& path)
+{
+    return path == u"-";
+}
+
+void CheckExport(const ExportOutcome& outcome, const QString& target)
+{
+    if (!outcome.writeFailure.isEmpty())
+        Fail(u"cannot write to %1: %2; %3 rows were written"_s.arg(
+            target, outcome.writeFailure, QString::number(outcome.rows)));
+    if (outcome.readError != ErrorNumber::None)
+        Fail(u"cannot read the rows: %1; %2 rows were written"_s.arg(
+            ErrorText(outcome.readError), QString::number(outcome.rows)));
+}
+
+/// Runs an import from a file or the standard input.
+template <typename Import>
+ImportOutcome ImportFrom(const CommandRun& run, const QString& path, const Import& import)
+{
+    if (IsStream(path))
+        return import(run.environment.input);
+    const ListFile source = OpenListFile(path, run.DataFile());
+    if (source.file == nullptr)
+        Fail(u"cannot open %1: %2"_s.arg(path, source.failure));
+    return import(*source.file);
+}
+
+void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
+{
+    constexpr int kErrorsText = 115;
+    run.output.WriteLine(QString::number(outcome.rows));
+    if (outcome.writeError != ErrorNumber::None)
+        Fail(u"the rows cannot be stored: %1"_s.arg(ErrorText(outcome.writeError)));
+    if (outcome.result == ImportResult::Failed)
+        Fail(LoadString(kErrorsText));
+}
+
+std::vector<PropertyId> ColumnOrder(const CommandRun& run, const InventoryList& list)
+{
+    return ReadColumnOrder(run.parser.value(u"columns"_s), list);
+}
+
+} // namespace
+
+void RunExport(const CommandRun& run)
+{
+    const auto data = run.OpenForReading();
+    data->OpenList(run.operands.front());
+    const ValueContext& context = run.environment.context;
+    const QString path = run.operands.value(1, u"-"_s);
+    if (IsStream(path)) {
+        CheckExport(ExportRows(data->Rows(), data->list, context, run.environment.output),
+            u"standard output"_s);
+        return;
+    }
+    const ListFile target = CreateListFile(path, data->Path());
+    if (target.file == nullptr)
+        Fail(u"cannot make %1: %2"_s.arg(path, target.failure));
+    CheckExport(ExportRows(data->Rows(), data->list, context, *target.file), path);
+}
+
+void RunImport(const CommandRun& run)
+{
+    const ValueContext& context = run.environment.context;
+    const bool isDryRun = run.parser.isSet(u"dry-run"_s);
+    const auto data = isDryRun ? run.OpenForReading() : run.OpenForWriting();
+    const ObjectId oid = data->OpenList(run.operands[0]);
+    const auto columns = ColumnOrder(run, data->list);
+    const ImportOutcome outcome
+        = ImportFrom(run, run.operands[1], [&](QIODevice& source) -> ImportOutcome {
+              if (isDryRun)
+                  return CountImportRows(columns, context, source);
+              return ImportRows(data->volume, columns, context, source);
+          });
+    if (!isDryRun && outcome.writeError == ErrorNumber::None)
+        data->StoreColumnOrder(oid);
+    ReportImport(run, outcome);
+}
+
+void RunCheck(const CommandRun& run)
+{
+    const auto data = run.OpenForReading();
+    const auto faults = data->volume.MountedVolume()->Check();
+    if (!faults)
+        Fail(u"cannot check %1: %2"_s.arg(data->Path(), ErrorText(faults.Error())));
+    for (const QString& fault : *faults)
+        run.output.WriteLine(fault);
+    if (!faults->empty())
+        Fail(u"%1 is damaged"_s.arg(data->Path()));
+    run.output.WriteLine(u"ok");
+}
+
+void RunBackup(const CommandRun& run)
+{
+    const QString path = run.operands.front();
+    if (IsStream(path))
+        FailUsage(u"a backup is a file, not a stream"_s);
+    const auto data = run.OpenForReading();
+    const auto done = data->volume.MountedVolume()->Backup(path);
+    if (!done)
+        Fail(u"cannot make %1: %2"_s.arg(path, ErrorText(done.Error())));
+}
+
+} // namespace Quillory

@@ -1,0 +1,162 @@
+#include "app/command_line_run.h"
+#include "res/string_table.h"
+#include "values/column_type.h"
+
+#include <QJsonArray>
+
+#include <array>
+#include <limits>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct TypeWord
+{
+    ColumnType type;
+    QLatin1StringView word;
+};
+constexpr std::array kTypeWords {
+    TypeWord { ColumnType::String, QLatin1StringView("string") },
+    TypeWord { ColumnType::Checkbox, QLatin1StringView("checkbox") },
+    TypeWord { ColumnType::Price, QLatin1StringView("price") },
+    TypeWord { ColumnType::Integer, QLatin1StringView("integer") },
+    TypeWord { ColumnType::Date, QLatin1StringView("date") },
+};
+constexpr QLatin1StringView kExpiryWord("expiry");
+
+QString WordFor(PropertyId column)
+{
+    if (column == PropExpiryDate)
+        return kExpiryWord;
+    for (const TypeWord& entry : kTypeWords) {
+        if (entry.type == ColumnTypeOf(column))
+            return entry.word;
+    }
+    return {};
+}
+
+QJsonArray JsonColumns(const InventoryList& list)
+{
+    QJsonArray columns;
+    for (const ColumnDefinition& column : list.columns)
+        columns.append(
+            QJsonObject { { u"name"_s, column.name }, { u"type"_s, WordFor(column.id) } });
+    return columns;
+}
+
+/// The identifier's number is drawn when the list is made.
+ColumnDefinition ReadColumnDefinition(const QString& text)
+{
+    const qsizetype colon = text.lastIndexOf(u':');
+    const QString word = text.mid(colon + 1);
+    ColumnDefinition column;
+    column.name = colon < 0 ? QString() : text.left(colon);
+    if (word == kExpiryWord) {
+        constexpr int kExpiryText = 222;
+        if (column.name.isEmpty())
+            column.name = LoadString(kExpiryText);
+        column.id = PropExpiryDate;
+    } else {
+        const auto known = std::find_if(kTypeWords.begin(), kTypeWords.end(),
+            [&word](const TypeWord& entry) { return entry.word == word; });
+        if (known == kTypeWords.end())
+            FailUsage(u"“%1” ends in no column type"_s.arg(text));
+        column.id = MakePropertyId(0, StorageType(known->type));
+    }
+    if (column.name.isEmpty())
+        FailUsage(u"“%1” names no column"_s.arg(text));
+    if (column.name.size() > kMaxColumnNameLength)
+        FailUsage(u"the name “%1” is longer than %2 characters"_s.arg(column.name)
+                      .arg(kMaxColumnNameLength));
+    return column;
+}
+
+void AddColumns(InventoryList& list, const QStringList& texts)
+{
+    for (const QString& text : texts) {
+        const ColumnDefinition column = ReadColumnDefinition(text);
+        const bool isSecondExpiry = column.id == PropExpiryDate
+            && std::any_of(list.columns.begin(), list.columns.end(),
+                [](const ColumnDefinition& other) { return other.id == PropExpiryDate; });
+        if (isSecondExpiry)
+            FailUsage(u"a list has one column of type expiry"_s);
+        list.columns.push_back(column);
+    }
+    if (list.columns.size() > kMaxColumns)
+        FailUsage(u"a list has at most %1 columns, the first two included"_s.arg(kMaxColumns));
+}
+
+void SetWarnings(InventoryList& list, const QCommandLineParser& parser)
+{
+    if (parser.isSet(u"warn-count"_s)) {
+        list.TableOption |= kWarnOnCount;
+        list.TableWarnStart = ReadInteger(parser, u"warn-count"_s,
+            std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max());
+    }
+    if (parser.isSet(u"warn-expiry"_s))
+        list.TableOption |= kWarnOnExpiry;
+}
+
+/// Column numbers are drawn at random; the rare draw of one number twice is made good by another.
+bool CreateList(ListCatalogue& catalogue, InventoryList& list)
+{
+    constexpr int kDraws = 3;
+    for (int draw = 0; draw < kDraws; ++draw) {
+        if (catalogue.CreateList(list).isCommitted)
+            return true;
+        const ErrorNumber error = catalogue.Volume().LastError();
+        if (error != ErrorNumber::AlreadyExists && error != ErrorNumber::DuplicateName)
+            return false;
+    }
+    return false;
+}
+
+} // namespace
+
+void RunLists(const CommandRun& run)
+{
+    const auto data = run.OpenForReading();
+    std::optional<JsonArrayWriter> json;
+    if (run.IsJson())
+        json.emplace(run.output);
+    for (const ListCatalogue::HomeListEntry& entry : data->catalogue.FillHomeList()) {
+        data->OpenList(entry.oid);
+        const auto count = data->Rows().RecordCount();
+        if (!count)
+            Fail(u"cannot count the rows of “%1”: %2"_s.arg(entry.name, ErrorText(count.Error())));
+        if (!json) {
+            run.output.WriteFields({ entry.name, QString::number(*count) });
+            continue;
+        }
+        json->Add({ { u"name"_s, entry.name }, { u"rows"_s, *count }, { u"icon"_s, entry.icon },
+            { u"columns"_s, JsonColumns(data->list) } });
+    }
+    if (json)
+        json->End();
+}
+
+void RunNew(const CommandRun& run)
+{
+    constexpr qint32 kLastIcon = 42;
+    InventoryList list = NewInventoryList();
+    list.Name = run.operands.front();
+    if (list.Name.isEmpty() || list.Name.size() > kMaxListNameLength)
+        FailUsage(u"a list's name has 1 to %1 characters"_s.arg(kMaxListNameLength));
+    AddColumns(list, run.parser.values(u"column"_s));
+    SetWarnings(list, run.parser);
+    if (run.parser.isSet(u"icon"_s))
+        list.TableIcon = static_cast<qint16>(ReadInteger(run.parser, u"icon"_s, 0, kLastIcon));
+
+    const bool isCreating = run.parser.isSet(u"create"_s);
+    const auto data
+        = run.OpenForWriting(isCreating ? Disposition::OpenAlways : Disposition::OpenExisting);
+    if (data->catalogue.FindList(list.Name) != kNoObject)
+        Fail(u"there is a list named “%1” already"_s.arg(list.Name));
+    if (!CreateList(data->catalogue, list))
+        Fail(u"cannot make the list: %1"_s.arg(ErrorText(data->volume.LastError())));
+}
+
+} // namespace Quillory

@@ -1,0 +1,285 @@
+#include "app/command_line_conditions.h"
+#include "app/command_line_run.h"
+#include "store/column_scan.h"
+#include "store/row_store.h"
+#include "store/totals.h"
+#include "values/column_type.h"
+#include "values/file_date.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The columns as the rows view shows them: in the stored order, those it leaves out at the end.
+std::vector<ColumnDefinition> ShownColumns(const InventoryList& list)
+{
+    std::vector<quint32> order = list.columnOrder;
+    const auto natural = NaturalColumnOrder(list);
+    order.insert(order.end(), natural.begin(), natural.end());
+    std::vector<ColumnDefinition> columns;
+    std::vector<bool> isShown(list.columns.size());
+    for (const quint32 index : order) {
+        if (index >= isShown.size() || isShown[index])
+            continue;
+        isShown[index] = true;
+        columns.push_back(list.columns[index]);
+    }
+    return columns;
+}
+
+QString CellText(const PropertyValue& value, const ValueContext& context)
+{
+    if (ColumnTypeOf(value.id) == ColumnType::Checkbox)
+        return FormatExportText(value, context);
+    return FormatCellText(value.IsMissing() ? nullptr : &value, value.id, context);
+}
+
+QString IsoDate(FileTime time)
+{
+    const auto date = FileTimeToDate(time);
+    return date ? date->toString(Qt::ISODate) : QString();
+}
+
+/// Null for a missing value and for a price that is no finite number.
+QJsonValue JsonOf(const PropertyValue& value)
+{
+    if (const auto* text = std::get_if<QString>(&value.value))
+        return *text;
+    if (const auto* number = std::get_if<qint32>(&value.value))
+        return *number;
+    if (const auto* price = std::get_if<double>(&value.value))
+        return std::isfinite(*price) ? QJsonValue(*price) : QJsonValue();
+    if (const auto* isChecked = std::get_if<bool>(&value.value))
+        return *isChecked;
+    if (const auto* time = std::get_if<FileTime>(&value.value))
+        return IsoDate(*time);
+    return {};
+}
+
+/// Writes rows as they come, as lines or as JSON.
+class RowPrinter
+{
+public:
+    RowPrinter(const CommandRun& run, const std::vector<ColumnDefinition>& columns)
+        : m_run(run)
+    {
+        QStringList names;
+        for (const ColumnDefinition& column : columns) {
+            m_ids.push_back(column.id);
+            names << column.name;
+        }
+        if (run.IsJson()) {
+            m_keys = UniqueKeys(names);
+            m_json.emplace(run.output);
+        } else {
+            run.output.WriteFields(names);
+        }
+    }
+
+    [[nodiscard]] const std::vector<PropertyId>& Ids() const { return m_ids; }
+
+    /// False when nobody reads any more.
+    bool Print(std::span<const PropertyValue> values)
+    {
+        if (m_json) {
+            QJsonObject object;
+            for (qsizetype i = 0; i < m_keys.size(); ++i)
+                object.insert(m_keys[i], JsonOf(values[static_cast<size_t>(i)]));
+            m_json->Add(object);
+        } else {
+            QStringList fields;
+            for (const PropertyValue& value : values)
+                fields << CellText(value, m_run.environment.context);
+            m_run.output.WriteFields(fields);
+        }
+        return !m_run.output.HasFailed();
+    }
+    void End()
+    {
+        if (m_json)
+            m_json->End();
+    }
+
+private:
+    const CommandRun& m_run;
+    std::vector<PropertyId> m_ids;
+    QStringList m_keys;
+    std::optional<JsonArrayWriter> m_json;
+
+    /// Columns may share a name, keys may not: the second "Size" becomes "Size (2)".
+    static QStringList UniqueKeys(const QStringList& names)
+    {
+        QStringList keys;
+        for (const QString& name : names) {
+            QString key = name;
+            for (int number = 2; keys.contains(key); ++number)
+                key = u"%1 (%2)"_s.arg(name).arg(number);
+            keys << key;
+        }
+        return keys;
+    }
+};
+
+void CheckRead(ErrorNumber error)
+{
+    if (error != ErrorNumber::None)
+        Fail(u"cannot read the rows: %1"_s.arg(ErrorText(error)));
+}
+
+void PrintByName(
+    CommandData& data, const FilterSet& filters, const ValueContext& context, RowPrinter& printer)
+{
+    CheckRead(ScanFiltered(data.Rows(), printer.Ids(), &filters, context, ScanOrder::Sorted,
+        [&printer](ObjectId, std::span<const PropertyValue> values) {
+            return printer.Print(values);
+        }).Error());
+}
+
+/// Holds the identifiers of the rows, not the rows.
+void PrintSorted(CommandData& data, const FilterSet& filters, PropertyId column,
+    const ValueContext& context, RowPrinter& printer)
+{
+    Database& database = data.Rows();
+    std::vector<ObjectId> rows;
+    CheckRead(ScanFiltered(database, {}, &filters, context, ScanOrder::Sorted,
+        [&rows](ObjectId oid, std::span<const PropertyValue>) {
+            rows.push_back(oid);
+            return true;
+        }).Error());
+    rows = RowStore(data.volume, data.list, context).SortRows(std::move(rows), column);
+    for (const ObjectId row : rows) {
+        CheckRead(database.SeekTo(row).Error());
+        const auto record = database.Read(printer.Ids());
+        CheckRead(record.Error());
+        if (!printer.Print(record->values))
+            return;
+    }
+}
+
+/// Prints what is due in one list after another.
+class DuePrinter
+{
+public:
+    DuePrinter(const CommandRun& run, qint32 days)
+        : m_run(run)
+    {
+        const QDate today = run.environment.context.clock().date;
+        m_today = DateToFileTime(today).value_or(FileTime {});
+        m_limit = DateToFileTime(today.addDays(days)).value_or(FileTime {});
+        if (run.IsJson())
+            m_json.emplace(run.output);
+    }
+
+    void PrintList(CommandData& data)
+    {
+        constexpr std::array kIds { PropName, PropCount, PropExpiryDate };
+        const InventoryList& list = data.list;
+        if ((list.TableOption & (kWarnOnCount | kWarnOnExpiry)) == 0)
+            return;
+        CheckRead(data.Rows()
+                      .Scan(kIds, ScanOrder::Sorted,
+                          [&](ObjectId, std::span<const PropertyValue> values) {
+                              PrintRow(list, values);
+                              return !m_run.output.HasFailed();
+                          })
+                      .Error());
+    }
+    void End()
+    {
+        if (m_json)
+            m_json->End();
+    }
+
+private:
+    const CommandRun& m_run;
+    FileTime m_today;
+    FileTime m_limit;
+    std::optional<JsonArrayWriter> m_json;
+
+    void PrintRow(const InventoryList& list, std::span<const PropertyValue> values)
+    {
+        const auto* name = std::get_if<QString>(&values[0].value);
+        const auto* count = std::get_if<qint32>(&values[1].value);
+        const auto* expiry = std::get_if<FileTime>(&values[2].value);
+        const QString row = name == nullptr ? QString() : *name;
+        // A row without a count counts as 0, as its colour in the rows view says.
+        const qint32 number = count == nullptr ? 0 : *count;
+        if ((list.TableOption & kWarnOnCount) != 0 && number <= list.TableWarnStart)
+            Print(list, row, u"low"_s, u"low"_s, { u"count"_s, number });
+        if ((list.TableOption & kWarnOnExpiry) == 0 || expiry == nullptr || *expiry > m_limit)
+            return;
+        const bool isExpired = *expiry <= m_today;
+        const QString state = isExpired ? u"expired"_s : u"expiring"_s;
+        const QString text = isExpired ? state : CellText(values[2], m_run.environment.context);
+        Print(list, row, state, text, { u"date"_s, IsoDate(*expiry) });
+    }
+    void Print(const InventoryList& list, const QString& row, const QString& state,
+        const QString& text, const std::pair<QString, QJsonValue>& detail)
+    {
+        if (m_json)
+            m_json->Add({ { u"list"_s, list.Name }, { u"row"_s, row }, { u"state"_s, state },
+                { detail.first, detail.second } });
+        else
+            m_run.output.WriteFields({ list.Name, row, text });
+    }
+};
+
+} // namespace
+
+void RunShow(const CommandRun& run)
+{
+    const ValueContext& context = run.environment.context;
+    const auto data = run.OpenForReading();
+    data->OpenList(run.operands.front());
+    const FilterSet filters = ReadConditions(run.parser.values(u"where"_s), data->list, context);
+    std::optional<PropertyId> sortColumn;
+    if (run.parser.isSet(u"sort"_s))
+        sortColumn = FindColumn(run.parser.value(u"sort"_s), data->list).id;
+    RowPrinter printer(run, ShownColumns(data->list));
+    if (sortColumn)
+        PrintSorted(*data, filters, *sortColumn, context, printer);
+    else
+        PrintByName(*data, filters, context, printer);
+    printer.End();
+}
+
+void RunSummary(const CommandRun& run)
+{
+    const ValueContext& context = run.environment.context;
+    const auto data = run.OpenForReading();
+    data->OpenList(run.operands.front());
+    const FilterSet filters = ReadConditions(run.parser.values(u"where"_s), data->list, context);
+    std::optional<JsonArrayWriter> json;
+    if (run.IsJson())
+        json.emplace(run.output);
+    for (const ColumnTotal& total : ComputeTotals(data->volume, data->list, &filters, context)) {
+        if (json)
+            json->Add({ { u"name"_s, total.name }, { u"total"_s, total.text } });
+        else
+            run.output.WriteFields({ total.name, total.text });
+    }
+    if (json)
+        json->End();
+}
+
+void RunDue(const CommandRun& run)
+{
+    constexpr qint32 kMostDays = 36'525;
+    const bool isWithin = run.parser.isSet(u"within"_s);
+    const qint32 days = isWithin ? ReadInteger(run.parser, u"within"_s, 0, kMostDays) : 0;
+    const auto data = run.OpenForReading();
+    DuePrinter printer(run, days);
+    for (const ListCatalogue::HomeListEntry& entry : data->catalogue.FillHomeList()) {
+        data->OpenList(entry.oid);
+        printer.PrintList(*data);
+    }
+    printer.End();
+}
+
+} // namespace Quillory

@@ -1,0 +1,109 @@
+#include "app/command_line_run.h"
+
+#include <utility>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+CommandFailure::CommandFailure(ExitCode code, QString message)
+    : m_code(code)
+    , m_message(std::move(message))
+{ }
+
+void Fail(const QString& message)
+{
+    throw CommandFailure(ExitCode::Failed, message);
+}
+
+void FailUsage(const QString& message)
+{
+    throw CommandFailure(ExitCode::WrongUsage, message);
+}
+
+qint32 ReadInteger(
+    const QCommandLineParser& parser, const QString& option, qint32 least, qint32 most)
+{
+    bool isNumber = false;
+    const qint32 number = parser.value(option).toInt(&isNumber);
+    if (!isNumber || number < least || number > most)
+        FailUsage(u"--%1 takes a whole number from %2 to %3"_s.arg(option).arg(least).arg(most));
+    return number;
+}
+
+QString ErrorText(ErrorNumber error)
+{
+    return u"%1 (error %2)"_s.arg(
+        QLatin1StringView(ErrorPhrase(error)), QString::number(static_cast<quint32>(error)));
+}
+
+CommandData::CommandData(const QString& path, VolumeAccess access, Disposition disposition)
+    : catalogue(volume)
+    , m_path(path)
+{
+    const ErrorNumber error = volume.Mount(path, disposition, access);
+    if (error == ErrorNumber::SharingViolation)
+        Fail(u"%1 is open in Quillory; close it first"_s.arg(path));
+    if (error != ErrorNumber::None)
+        Fail(u"cannot open %1: %2"_s.arg(path, ErrorText(error)));
+    if (catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
+        Fail(u"cannot open the lists of %1: %2"_s.arg(path, ErrorText(volume.LastError())));
+}
+
+ObjectId CommandData::OpenList(const QString& name)
+{
+    const ObjectId oid = catalogue.FindList(name);
+    if (oid == kNoObject)
+        Fail(u"there is no list named “%1”"_s.arg(name));
+    OpenList(oid);
+    return oid;
+}
+
+void CommandData::OpenList(ObjectId oid)
+{
+    if (!catalogue.OpenList(oid, list))
+        Fail(u"cannot open the list: %1"_s.arg(ErrorText(volume.LastError())));
+}
+
+Database& CommandData::Rows()
+{
+    Database* rows = volume.OpenDatabase(ListCatalogue::kRowsType);
+    if (rows == nullptr)
+        Fail(u"no list is open"_s);
+    return *rows;
+}
+
+void CommandData::StoreColumnOrder(ObjectId oid)
+{
+    if (!list.columnOrder.empty())
+        return;
+    list.columnOrder = NaturalColumnOrder(list);
+    if (!catalogue.UpdateListOptions(oid, list))
+        Fail(u"cannot store the order of the columns: %1"_s.arg(ErrorText(volume.LastError())));
+}
+
+QString CommandRun::DataFile() const
+{
+    const QString path = parser.isSet(u"data"_s) ? parser.value(u"data"_s) : environment.dataFile;
+    if (path.isEmpty())
+        FailUsage(u"no data file is set; name one with --data FILE"_s);
+    return path;
+}
+
+std::unique_ptr<CommandData> CommandRun::OpenForReading() const
+{
+    return std::make_unique<CommandData>(
+        DataFile(), VolumeAccess::ReadOnly, Disposition::OpenExisting);
+}
+
+std::unique_ptr<CommandData> CommandRun::OpenForWriting(Disposition disposition) const
+{
+    return std::make_unique<CommandData>(DataFile(), VolumeAccess::Exclusive, disposition);
+}
+
+bool CommandRun::IsJson() const
+{
+    return parser.isSet(u"json"_s);
+}
+
+} // namespace Quillory

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "app/command_line.h"
+#include "app/command_line_output.h"
+#include "store/list_catalogue.h"
+
+#include <QCommandLineParser>
+
+#include <exception>
+#include <memory>
+#include <span>
+
+namespace Quillory {
+
+/// Ends a command with a message on standard error.
+class CommandFailure : public std::exception
+{
+public:
+    CommandFailure(ExitCode code, QString message);
+
+    [[nodiscard]] ExitCode Code() const { return m_code; }
+    [[nodiscard]] const QString& Message() const { return m_message; }
+
+private:
+    ExitCode m_code;
+    QString m_message;
+};
+
+[[noreturn]] void Fail(const QString& message);
+[[noreturn]] void FailUsage(const QString& message);
+/// The value of an option as a whole number; one outside the limits ends the command.
+[[nodiscard]] qint32 ReadInteger(
+    const QCommandLineParser& parser, const QString& option, qint32 least, qint32 most);
+/// A phrase and the number of an error, such as "no space left (error 112)".
+[[nodiscard]] QString ErrorText(ErrorNumber error);
+
+/// A data file with its catalogue open. Every way not to get there ends the command.
+class CommandData
+{
+public:
+    CommandData(const QString& path, VolumeAccess access, Disposition disposition);
+
+    /// Finds a list by its name and opens it.
+    ObjectId OpenList(const QString& name);
+    void OpenList(ObjectId oid);
+    /// The rows of the list that is open.
+    [[nodiscard]] Database& Rows();
+    /// Gives the open list the order of its columns as its column order if none was ever stored.
+    void StoreColumnOrder(ObjectId oid);
+
+    [[nodiscard]] const QString& Path() const { return m_path; }
+
+    DataVolume volume;
+    ListCatalogue catalogue;
+    InventoryList list;
+
+private:
+    QString m_path;
+};
+
+/// One call of a sub-command: its options and operands, and where it reads and writes.
+struct CommandRun
+{
+    const CommandEnvironment& environment;
+    const QCommandLineParser& parser;
+    /// After the sub-command's name.
+    QStringList operands;
+    TextOutput& output;
+
+    [[nodiscard]] QString DataFile() const;
+    /// The data file opened for reading, also beside another process that has it.
+    [[nodiscard]] std::unique_ptr<CommandData> OpenForReading() const;
+    [[nodiscard]] std::unique_ptr<CommandData> OpenForWriting(
+        Disposition disposition = Disposition::OpenExisting) const;
+    [[nodiscard]] bool IsJson() const;
+};
+
+/// A sub-command as the table of them holds it.
+struct SubCommand
+{
+    const char* name;
+    /// Operands and options, as in a line of usage.
+    const char* usage;
+    /// What it does, for its help; lines end in a line feed.
+    const char* help;
+    qsizetype minOperands;
+    qsizetype maxOperands;
+    std::span<const char* const> flags;
+    std::span<const char* const> valueOptions;
+    void (*run)(const CommandRun&);
+};
+
+void RunLists(const CommandRun& run);
+void RunNew(const CommandRun& run);
+void RunShow(const CommandRun& run);
+void RunExport(const CommandRun& run);
+void RunImport(const CommandRun& run);
+void RunSummary(const CommandRun& run);
+void RunDue(const CommandRun& run);
+void RunCheck(const CommandRun& run);
+void RunBackup(const CommandRun& run);
+
+} // namespace Quillory

@@ -1,0 +1,378 @@
+#include "app/command_line.h"
+#include "tests/list_fixture.h"
+
+#include <QBuffer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a command left behind.
+struct Call
+{
+    ExitCode code;
+    QByteArray output;
+    QByteArray errors;
+};
+
+/// A folder for data files, and commands that run on the one named "data.idb" in it.
+class Shell
+{
+public:
+    Shell() { context.userLocale.codePage = 1252; }
+
+    QString Path(const QString& name = u"data.idb"_s) const
+    {
+        return QDir(m_folder.path()).filePath(name);
+    }
+    Call Run(const QStringList& arguments, const QByteArray& input = {})
+    {
+        QBuffer in;
+        QBuffer out;
+        QBuffer err;
+        in.setData(input);
+        in.open(QIODevice::ReadOnly);
+        out.open(QIODevice::WriteOnly);
+        err.open(QIODevice::WriteOnly);
+        const ExitCode code = RunCommandLine(arguments, { in, out, err, context, Path() });
+        return { code, out.data(), err.data() };
+    }
+    /// The output of a command that must succeed silently.
+    QByteArray Output(const QStringList& arguments, const QByteArray& input = {})
+    {
+        const Call call = Run(arguments, input);
+        if (call.code != ExitCode::Done || !call.errors.isEmpty())
+            return "failed: " + call.errors;
+        return call.output;
+    }
+    /// The pantry: Tea is low and expired, Oil is low, Rice expires in ten days.
+    void MakePantry()
+    {
+        QCOMPARE(Output({ u"new"_s, u"Pantry"_s, u"--create"_s, u"--column=Price:price"_s,
+                     u"--column"_s, u"Opened:checkbox"_s, u"--column"_s, u"Bought on:date"_s,
+                     u"--column"_s, u"expiry"_s, u"--warn-count"_s, u"2"_s, u"--warn-expiry"_s }),
+            ""_ba);
+        QCOMPARE(Output({ u"import"_s, u"Pantry"_s, u"-"_s },
+                     "Tea\t2\t3.5\tN\t1/5/2026\t6/15/2026\r\n"
+                     "Rice\t9\t1.25\tY\t1/6/2026\t6/25/2026\r\n"
+                     "Oil\t-1\r\n"),
+            "3\n"_ba);
+    }
+
+    ValueContext context = TestContext();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+class CommandLineTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatItPrints_data();
+    void whatItPrints();
+    void wrongUsageExitsWithTwoAndUsage_data();
+    void wrongUsageExitsWithTwoAndUsage();
+    void failuresExitWithOneAndOneLine_data();
+    void failuresExitWithOneAndOneLine();
+    void everyCommandHasHelp();
+    void listsNamedLikeOptionsAreReached();
+    void noDataFileIsMadeUnlessTold();
+    void jsonHoldsTypedValues();
+    void columnsGiveTheImportItsOrder();
+    void aDryRunStoresNothing();
+    void writersAreRefusedWhileTheWindowHasTheFile();
+    void loneSurrogatesAndControlsComeOutAsText();
+    void aFailedImportTellsHowFarItCame();
+    void aBackupIsTheSameData();
+    void theWindowKeepsItsArguments();
+};
+
+void CommandLineTest::whatItPrints_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("output");
+    const auto add = [](const char* name, const QStringList& arguments, const QByteArray& output) {
+        QTest::newRow(name) << arguments << output;
+    };
+    const QByteArray head = "Name\tQuantity\tPrice\tOpened\tBought on\tExpiry Date\n";
+    const QByteArray oil = "Oil\t-1\t\t\t\t\n";
+    const QByteArray rice = "Rice\t9\t1.25\tY\t1/6/2026\t6/25/2026\n";
+    const QByteArray tea = "Tea\t2\t3.50\tN\t1/5/2026\t6/15/2026\n";
+    const QStringList show { u"show"_s, u"Pantry"_s };
+    const auto where = [&show](const QString& text) {
+        return show + QStringList { u"--where"_s, text };
+    };
+    add("lists", { u"lists"_s }, "Pantry\t3\n");
+    add("show", show, head + oil + rice + tea);
+    add("show sorted", show + QStringList { u"--sort"_s, u"Quantity"_s }, head + oil + tea + rice);
+    add("a condition in words", where(u"Quantity less than or equals to 2"_s), head + oil + tea);
+    add("a condition as a sign", where(u"Quantity<=2"_s), head + oil + tea);
+    add("text contains", where(u"Name contains e"_s), head + rice + tea);
+    add("not equals to is what it is", where(u"Quantity != 9"_s), head + rice);
+    add("a checkbox by word", where(u"Opened equals to Checked"_s), head + rice);
+    add("a checkbox by letter", where(u"Opened != Y"_s), head + tea);
+    add("a date, its column with a blank", where(u"Bought on on or after 1/6/2026"_s), head + rice);
+    add("two conditions",
+        where(u"Quantity > 1"_s) + QStringList { u"--where=Opened = Unchecked"_s }, head + tea);
+    add("nothing passes", where(u"Name = x"_s), head);
+    add("summary", { u"summary"_s, u"Pantry"_s }, "Quantity\t10\nPrice\t4.75\n");
+    add("summary of some", { u"summary"_s, u"Pantry"_s, u"--where"_s, u"Opened = N"_s },
+        "Quantity\t2\nPrice\t3.50\n");
+    add("due", { u"due"_s }, "Pantry\tOil\tlow\nPantry\tTea\tlow\nPantry\tTea\texpired\n");
+    add("due within days", { u"due"_s, u"--within"_s, u"10"_s },
+        "Pantry\tOil\tlow\nPantry\tRice\t6/25/2026\nPantry\tTea\tlow\nPantry\tTea\texpired\n");
+    add("check", { u"check"_s }, "ok\n");
+    add("the version", { u"--version"_s }, "quillory " QUILLORY_VERSION "\n");
+}
+
+void CommandLineTest::whatItPrints()
+{
+    QFETCH(QStringList, arguments);
+    Shell shell;
+    shell.MakePantry();
+    QTEST(shell.Output(arguments), "output");
+}
+
+void CommandLineTest::wrongUsageExitsWithTwoAndUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    const auto add
+        = [](const char* name, const QStringList& arguments) { QTest::newRow(name) << arguments; };
+    add("nothing", {});
+    add("an empty command", { u""_s });
+    add("an unknown command", { u"frobnicate"_s });
+    add("an unknown option", { u"lists"_s, u"--frob"_s });
+    add("another command's option", { u"lists"_s, u"--where"_s, u"x"_s });
+    add("an option without its value", { u"show"_s, u"Pantry"_s, u"--where"_s });
+    add("a value for a flag", { u"lists"_s, u"--json=yes"_s });
+    add("no data file behind the option", { u"lists"_s, u"--data"_s });
+    add("an empty data file name", { u"lists"_s, u"--data="_s });
+    add("a missing operand", { u"import"_s, u"Pantry"_s });
+    add("an operand too many", { u"show"_s, u"Pantry"_s, u"Tools"_s });
+    add("a condition on no column", { u"show"_s, u"Pantry"_s, u"--where"_s, u"Nam = x"_s });
+    add("an empty condition", { u"show"_s, u"Pantry"_s, u"--where"_s, u""_s });
+    add("a column alone", { u"show"_s, u"Pantry"_s, u"--where"_s, u"Name"_s });
+    add("a condition not offered", { u"show"_s, u"Pantry"_s, u"--where"_s, u"Name > a"_s });
+    add("no date", { u"show"_s, u"Pantry"_s, u"--where"_s, u"Bought on = soon"_s });
+    add("no state of a box", { u"show"_s, u"Pantry"_s, u"--where"_s, u"Opened = maybe"_s });
+    add("sorting by no column", { u"show"_s, u"Pantry"_s, u"--sort"_s, u"name"_s });
+    add("a column type unknown", { u"new"_s, u"L"_s, u"--column"_s, u"A:float"_s });
+    add("a column without a name", { u"new"_s, u"L"_s, u"--column"_s, u":string"_s });
+    add("a column name too long",
+        { u"new"_s, u"L"_s, u"--column"_s, QString(33, u'x') + u":string"_s });
+    add("two expiry columns", { u"new"_s, u"L"_s, u"--column=expiry"_s, u"--column=expiry"_s });
+    add("seventeen columns",
+        QStringList { u"new"_s, u"L"_s } + QStringList(15, u"--column=A:string"_s));
+    add("a list without a name", { u"new"_s, u""_s });
+    add("a list name too long", { u"new"_s, QString(129, u'x') });
+    add("an icon there is not", { u"new"_s, u"L"_s, u"--icon"_s, u"43"_s });
+    add("a threshold out of range", { u"new"_s, u"L"_s, u"--warn-count"_s, u"2147483648"_s });
+    add("days that are no number", { u"due"_s, u"--within"_s, u"-1"_s });
+    add("an import column twice",
+        { u"import"_s, u"Pantry"_s, u"-"_s, u"--columns"_s, u"Name,Name"_s });
+    add("a backup to a stream", { u"backup"_s, u"-"_s });
+}
+
+void CommandLineTest::wrongUsageExitsWithTwoAndUsage()
+{
+    QFETCH(QStringList, arguments);
+    Shell shell;
+    shell.MakePantry();
+    const Call call = shell.Run(arguments);
+    QVERIFY(call.code == ExitCode::WrongUsage);
+    QVERIFY(call.output.isEmpty());
+    QVERIFY(call.errors.startsWith("quillory: ") && call.errors.contains("\nusage: "));
+}
+
+void CommandLineTest::failuresExitWithOneAndOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("no such list") << QStringList { u"show"_s, u"pantry"_s };
+    QTest::newRow("a list there is already") << QStringList { u"new"_s, u"Pantry"_s };
+    QTest::newRow("no such data file") << QStringList { u"lists"_s, u"--data"_s, u"/no/x"_s };
+    QTest::newRow("a folder for a data file") << QStringList { u"lists"_s, u"--data=/"_s };
+    QTest::newRow("a device for a data file") << QStringList { u"lists"_s, u"--data=/dev/null"_s };
+    QTest::newRow("no such file") << QStringList { u"import"_s, u"Pantry"_s, u"/no/x"_s };
+    QTest::newRow("a folder to import") << QStringList { u"import"_s, u"Pantry"_s, u"/"_s };
+    QTest::newRow("no such folder") << QStringList { u"export"_s, u"Pantry"_s, u"/no/x"_s };
+    QTest::newRow("a full device") << QStringList { u"export"_s, u"Pantry"_s, u"/dev/full"_s };
+    QTest::newRow("a backup over a file") << QStringList { u"backup"_s, u"/dev/null"_s };
+}
+
+void CommandLineTest::failuresExitWithOneAndOneLine()
+{
+    QFETCH(QStringList, arguments);
+    Shell shell;
+    shell.MakePantry();
+    const Call call = shell.Run(arguments);
+    QVERIFY(call.code == ExitCode::Failed);
+    QVERIFY(call.output.isEmpty());
+    QVERIFY(call.errors.startsWith("quillory: "));
+    QCOMPARE(call.errors.count('\n'), 1);
+}
+
+void CommandLineTest::everyCommandHasHelp()
+{
+    Shell shell;
+    const QByteArray help = shell.Output({ u"--help"_s });
+    for (const char* name :
+        { "lists", "new", "show", "export", "import", "summary", "due", "check", "backup" }) {
+        QVERIFY(help.contains(QByteArray("  quillory ") + name));
+        const QByteArray own = shell.Output({ QString::fromLatin1(name), u"--help"_s });
+        QVERIFY(own.startsWith(QByteArray("usage: quillory ") + name));
+    }
+}
+
+void CommandLineTest::listsNamedLikeOptionsAreReached()
+{
+    Shell shell;
+    QCOMPARE(shell.Output({ u"new"_s, u"--create"_s, u"--"_s, u"--json"_s }), ""_ba);
+    QCOMPARE(shell.Output({ u"lists"_s }), "--json\t0\n"_ba);
+    QCOMPARE(shell.Output({ u"summary"_s, u"--"_s, u"--json"_s }), "Quantity\t0\n"_ba);
+}
+
+void CommandLineTest::noDataFileIsMadeUnlessTold()
+{
+    Shell shell;
+    const QString other = shell.Path(u"other.idb"_s);
+    for (const QStringList& arguments : { QStringList { u"lists"_s }, { u"new"_s, u"L"_s },
+             { u"show"_s, u"L"_s }, { u"import"_s, u"L"_s, u"-"_s }, { u"check"_s } }) {
+        QVERIFY(shell.Run(QStringList { u"--data"_s, other } + arguments).code == ExitCode::Failed);
+        QVERIFY(!QFile::exists(other));
+    }
+    QVERIFY(
+        shell.Run({ u"--data"_s, other, u"new"_s, u"L"_s, u"--create"_s }).code == ExitCode::Done);
+    QVERIFY(QFile::exists(other) && !QFile::exists(shell.Path()));
+}
+
+void CommandLineTest::jsonHoldsTypedValues()
+{
+    Shell shell;
+    shell.MakePantry();
+    const auto rows = QJsonDocument::fromJson(
+        shell.Output({ u"show"_s, u"Pantry"_s, u"--json"_s, u"--sort"_s, u"Price"_s }))
+                          .array();
+    QCOMPARE(rows.size(), 3);
+    QCOMPARE(rows[0].toObject(),
+        (QJsonObject { { u"Name"_s, u"Oil"_s }, { u"Quantity"_s, -1 }, { u"Price"_s, {} },
+            { u"Opened"_s, {} }, { u"Bought on"_s, {} }, { u"Expiry Date"_s, {} } }));
+    QCOMPARE(rows[2].toObject(),
+        (QJsonObject { { u"Name"_s, u"Tea"_s }, { u"Quantity"_s, 2 }, { u"Price"_s, 3.5 },
+            { u"Opened"_s, false }, { u"Bought on"_s, u"2026-01-05"_s },
+            { u"Expiry Date"_s, u"2026-06-15"_s } }));
+    QCOMPARE(
+        shell.Output({ u"show"_s, u"Pantry"_s, u"--json"_s, u"--where=Name = x"_s }), "[]\n"_ba);
+
+    const auto list = QJsonDocument::fromJson(shell.Output({ u"lists"_s, u"--json"_s }))[0];
+    QCOMPARE(list[u"rows"], 3);
+    QCOMPARE(list[u"columns"][5],
+        (QJsonObject { { u"name"_s, u"Expiry Date"_s }, { u"type"_s, u"expiry"_s } }));
+    const auto due = QJsonDocument::fromJson(shell.Output({ u"due"_s, u"--json"_s })).array();
+    QCOMPARE(due.size(), 3);
+    QCOMPARE(due[2][u"date"], u"2026-06-15"_s);
+}
+
+void CommandLineTest::columnsGiveTheImportItsOrder()
+{
+    Shell shell;
+    QCOMPARE(shell.Output({ u"new"_s, u"L"_s, u"--create"_s, u"--column=A, B:string"_s,
+                 u"--column=A:string"_s }),
+        ""_ba);
+    QCOMPARE(shell.Output({ u"import"_s, u"L"_s, u"-"_s, u"--columns"_s, u"A, B,A,Name"_s },
+                 "ab\ta\tname\t7\r\n"),
+        "1\n"_ba);
+    QCOMPARE(shell.Output({ u"import"_s, u"L"_s, u"-"_s, u"--columns"_s, u"A"_s }, "x\ty\r\n"),
+        "1\n"_ba);
+    QCOMPARE(shell.Output({ u"show"_s, u"L"_s }),
+        "Name\tQuantity\tA, B\tA\nname\t7\tab\ta\ny\t\t\tx\n"_ba);
+}
+
+void CommandLineTest::aDryRunStoresNothing()
+{
+    Shell shell;
+    shell.MakePantry();
+    QFile file(shell.Path());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray before = file.readAll();
+    QCOMPARE(shell.Output({ u"import"_s, u"Pantry"_s, u"-"_s, u"--dry-run"_s }, "a\r\n\t\r\nb\r\n"),
+        "2\n"_ba);
+    QVERIFY(file.seek(0));
+    QCOMPARE(file.readAll(), before);
+}
+
+void CommandLineTest::writersAreRefusedWhileTheWindowHasTheFile()
+{
+    Shell shell;
+    shell.MakePantry();
+    DataVolume window;
+    QCOMPARE(window.Mount(shell.Path(), Disposition::OpenExisting), ErrorNumber::None);
+    for (const QStringList& arguments :
+        { QStringList { u"new"_s, u"L"_s }, { u"import"_s, u"Pantry"_s, u"-"_s } }) {
+        const Call call = shell.Run(arguments, "a\r\n");
+        QVERIFY(call.code == ExitCode::Failed);
+        QVERIFY(call.errors.contains("is open in Quillory; close it first"));
+    }
+}
+
+void CommandLineTest::loneSurrogatesAndControlsComeOutAsText()
+{
+    Shell shell;
+    shell.MakePantry();
+    const QString line = u"a\nb\x1B"_s + QChar(0xD800) + u"ü\r\n"_s;
+    QByteArray wide("\xFF\xFE");
+    wide.append(reinterpret_cast<const char*>(line.utf16()), line.size() * 2);
+    QCOMPARE(shell.Output({ u"import"_s, u"Pantry"_s, u"-"_s }, wide), "1\n"_ba);
+    const QByteArray shown = shell.Output({ u"show"_s, u"Pantry"_s });
+    QCOMPARE(shown.count('\n'), 5);
+    QVERIFY(shown.endsWith("\na b ?\xC3\xBC\t\t\t\t\t\n"));
+    QVERIFY(
+        !QJsonDocument::fromJson(shell.Output({ u"show"_s, u"Pantry"_s, u"--json"_s })).isNull());
+}
+
+void CommandLineTest::aFailedImportTellsHowFarItCame()
+{
+    Shell shell;
+    shell.MakePantry();
+    const Call call = shell.Run({ u"import"_s, u"Pantry"_s, u"-"_s }, "\xFF\xFE");
+    QVERIFY(call.code == ExitCode::Failed);
+    QCOMPARE(call.output, "0\n"_ba);
+    QVERIFY(call.errors.contains("Import is completed with errors"));
+}
+
+void CommandLineTest::aBackupIsTheSameData()
+{
+    Shell shell;
+    shell.MakePantry();
+    const QString copy = shell.Path(u"copy.idb"_s);
+    QCOMPARE(shell.Output({ u"backup"_s, copy }), ""_ba);
+    const QStringList show { u"show"_s, u"Pantry"_s };
+    QCOMPARE(shell.Output(show + QStringList { u"--data"_s, copy }), shell.Output(show));
+    const QString text = shell.Path(u"out.txt"_s);
+    QCOMPARE(shell.Output({ u"export"_s, u"Pantry"_s, text }), ""_ba);
+    QFile file(text);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), shell.Output({ u"export"_s, u"Pantry"_s, u"-"_s }));
+}
+
+void CommandLineTest::theWindowKeepsItsArguments()
+{
+    QVERIFY(!IsCommandLine({}));
+    QVERIFY(!IsCommandLine({ u"Pantry"_s }));
+    QVERIFY(!IsCommandLine({ u"--"_s, u"show"_s }));
+    QVERIFY(!IsCommandLine({ u"-platform"_s, u"offscreen"_s }));
+    QVERIFY(IsCommandLine({ u"--data"_s, u"x"_s, u"lists"_s }));
+    QVERIFY(IsCommandLine({ u"--help"_s }));
+    QVERIFY(IsCommandLine({ u"--frob"_s }));
+}
+
+QTEST_GUILESS_MAIN(CommandLineTest)
+#include "command_line_test.moc"

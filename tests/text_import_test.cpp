@@ -1,0 +1,315 @@
+#include "tests/list_fixture.h"
+#include "transfer/import_rows.h"
+#include "transfer/text_export.h"
+#include "transfer/text_import.h"
+
+#include <QBuffer>
+#include <QTest>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr PropertyId kText = PropName;
+constexpr PropertyId kCount = PropCount;
+constexpr PropertyId kTick = MakePropertyId(1, CEVT_BOOL);
+constexpr PropertyId kPrice = MakePropertyId(2, CEVT_R8);
+constexpr PropertyId kDate = PropExpiryDate;
+
+QByteArray Wide(QStringView text)
+{
+    QByteArray bytes("\xFF\xFE");
+    return bytes.append(reinterpret_cast<const char*>(text.utf16()), text.size() * qsizetype { 2 });
+}
+
+/// Gives out its bytes a few at a time and knows no size, as a slow pipe does.
+class Trickle : public QIODevice
+{
+public:
+    Trickle(QByteArray bytes, qint64 step)
+        : m_bytes(std::move(bytes))
+        , m_step(step)
+    {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    [[nodiscard]] bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char* target, qint64 size) override
+    {
+        const qint64 count = std::min({ size, m_step, m_bytes.size() });
+        std::copy_n(m_bytes.constData(), count, target);
+        m_bytes.remove(0, count);
+        return count;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    QByteArray m_bytes;
+    qint64 m_step;
+};
+
+/// Rows by line feeds, values by blanks, as "column=text"; "failed" at the end of a failed file.
+QString RowsOf(QIODevice& source, const std::vector<PropertyId>& columns,
+    const ValueContext& context = TestContext())
+{
+    ImportRowReader reader(source, columns, context);
+    QStringList rows;
+    while (reader.Next()) {
+        QStringList values;
+        for (const PropertyValue& value : reader.Values()) {
+            const auto place = std::find(columns.begin(), columns.end(), value.id);
+            values << QString::number(place - columns.begin()) + u'='
+                    + FormatExportText(value, context);
+        }
+        rows << values.join(u' ');
+    }
+    if (reader.HasFailed())
+        rows << u"failed"_s;
+    return rows.join(u'\n');
+}
+
+QString RowsOf(QByteArray bytes, const std::vector<PropertyId>& columns = { kText, kCount })
+{
+    Trickle source(std::move(bytes), 1'000'000);
+    return RowsOf(source, columns);
+}
+
+ImportOutcome Import(ListFixture& file, const QByteArray& bytes, const ImportMonitor& monitor = {})
+{
+    QBuffer source;
+    source.setData(bytes);
+    source.open(QIODevice::ReadOnly);
+    std::vector<PropertyId> columns;
+    for (const ColumnDefinition& column : file.list.columns)
+        columns.push_back(column.id);
+    return ImportRows(*file.data, columns, file.context, source, monitor);
+}
+
+} // namespace
+
+class TextImportTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textBecomesRows_data();
+    void textBecomesRows();
+    void fieldsAreReadByTheirColumn();
+    void aLongNarrowLineIsFollowedByWhatAnEarlierOneLeft();
+    void piecesOfAnySizeGiveTheSameRows_data();
+    void piecesOfAnySizeGiveTheSameRows();
+    void exportedRowsComeBack();
+    void rowsAreAddedInBatches();
+    void cancellingKeepsTheRowsSoFar();
+    void anUnreadableFileKeepsTheRowsBefore();
+    void aRowTheStoreRefusesIsPassedOver();
+    void readOnlyDataEndsTheImport();
+};
+
+void TextImportTest::textBecomesRows_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("rows");
+    const auto narrow = [](const char* name, const QByteArray& bytes, const QString& rows) {
+        QTest::newRow(name) << bytes << rows;
+    };
+    narrow("an empty file is no failure", "", u""_s);
+    narrow("the mark alone fails", "\xFF\xFE", u"failed"_s);
+    narrow("half a character behind the mark fails", "\xFF\xFE\0"_ba, u"failed"_s);
+    narrow("a zero behind the mark fails", "\xFF\xFE\0\0a\0\r\0"_ba, u"failed"_s);
+    narrow("half a mark is text", "\xFF\r\n", u"0=ÿ"_s);
+    narrow("the other byte order is narrow text", "\xFE\xFF\r\n", u"0=þÿ"_s);
+    narrow("text after the last CR is dropped", "a\r\nb", u"0=a"_s);
+    narrow("a CR at the very end ends a line", "a\r", u"0=a"_s);
+    narrow("LF alone ends no line", "a\nb\n", u""_s);
+    narrow("the character after CR goes, whatever it is", "a\rXb\r\rc\r\n", u"0=a\n0=b\n0=c"_s);
+    narrow("a NUL after CR is such a character", "a\r\0b\r\n"_ba, u"0=a\n0=b"_s);
+    narrow("a NUL elsewhere ends the text", "a\r\nb\0c\r\nd\r\n"_ba, u"0=a"_s);
+    narrow("empty lines are skipped", "\r\n\r\na\r\n", u"0=a"_s);
+    narrow("TABs run together and vanish at the ends", "\t\ta\t\t5\t\r\n", u"0=a 1=5"_s);
+    narrow("a line of TABs is no row", "\t\t\r\na\r\n", u"0=a"_s);
+    narrow("fields beyond the columns are dropped", "a\t1\tb\tc\r\n", u"0=a 1=1"_s);
+    narrow("bytes go through the code page", "\x80\xE4\r\n", u"0=€ä"_s);
+    QTest::newRow("wide text") << Wide(u"ä\t1\r\n\r\n\tb\r\nlost") << u"0=ä 1=1\n0=b"_s;
+    QTest::newRow("a wide NUL ends the text") << Wide(u"a\r\nb\0\r\n"_s) << u"0=a"_s;
+    QTest::newRow("a lone surrogate is a character")
+        << Wide(u"x\xD800\r\n") << u"0=x"_s + QChar(0xD800);
+    QTest::newRow("half a CR at the end counts") << Wide(u"ab") + '\r' << u"0=ab"_s;
+    QTest::newRow("any other half character does not") << Wide(u"ab") + 'x' << u""_s;
+    QTest::newRow("a CR in the high byte is none") << Wide(u"a\x0D41\r\n") << u"0=a\x0D41"_s;
+}
+
+void TextImportTest::textBecomesRows()
+{
+    QFETCH(QByteArray, bytes);
+    QTEST(RowsOf(bytes), "rows");
+}
+
+void TextImportTest::fieldsAreReadByTheirColumn()
+{
+    const std::vector<PropertyId> columns { kDate, kPrice, kTick, kCount, kText };
+    QCOMPARE(RowsOf("2/30/2026\t1,50\tn\t12abc\tx y\r\n"
+                    "1/2/2026\tx\tN\t-7\tN\r\n"
+                    "no date\r\n",
+                 columns),
+        u"1=1.00 2=Y 3=12 4=x y\n0=1/2/2026 1=0.00 2=N 3=-7 4=N"_s);
+}
+
+void TextImportTest::aLongNarrowLineIsFollowedByWhatAnEarlierOneLeft()
+{
+    // 1024 characters hold a line; 512 of them are cleared between two.
+    const QByteArray longest = QByteArray(700, 'a') + "\tkept\t" + QByteArray(200, 'b');
+    const QByteArray half(512, 'c');
+    const QByteArray less(511, 'd');
+    QCOMPARE(RowsOf(longest + "\r\n" + half + "\r\n" + less + "\r\n", { kText }),
+        u"0=%1\n0=%2\n0=%3"_s.arg(
+            QString(700, u'a'), QString(512, u'c') + QString(188, u'a'), QString(511, u'd')));
+    // A longer line takes a new buffer, clean again.
+    QCOMPARE(
+        RowsOf(longest + "\r\n" + QByteArray(1024, 'e') + "\r\n" + QByteArray(600, 'f') + "\r\n",
+            { kText }),
+        u"0=%1\n0=%2\n0=%3"_s.arg(
+            QString(700, u'a'), QString(1024, u'e'), QString(600, u'f') + QString(424, u'e')));
+    // Wide text is always clean.
+    QCOMPARE(RowsOf(Wide(QString(900, u'a') + u"\r\n"_s + QString(600, u'b') + u"\r\n"_s)),
+        u"0=%1\n0=%2"_s.arg(QString(900, u'a'), QString(600, u'b')));
+}
+
+void TextImportTest::piecesOfAnySizeGiveTheSameRows_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("step");
+    const QString text = u"one\t1\r\n\r\ntwo\t2\r\n"_s + QString(3000, u'x') + u"\t3\r\nend"_s;
+    for (const int step : { 1, 2, 3, 7, 4096 }) {
+        QTest::addRow("narrow by %d", step) << text.toLatin1() << step;
+        QTest::addRow("wide by %d", step) << Wide(text) << step;
+    }
+}
+
+void TextImportTest::piecesOfAnySizeGiveTheSameRows()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, step);
+    Trickle source(bytes, step);
+    QCOMPARE(RowsOf(source, { kText, kCount }),
+        u"0=one 1=1\n0=two 1=2\n0=%1 1=3"_s.arg(QString(3000, u'x')));
+}
+
+void TextImportTest::exportedRowsComeBack()
+{
+    ListFixture file;
+    file.MakeFullList(u"From"_s);
+    for (int i = 0; i < 50; ++i)
+        file.Add({ u"Name %1"_s.arg(i * 37 % 50), QString::number(i - 25), u"shelf ü"_s,
+            i % 2 == 0 ? u"Checked"_s : u"Unchecked"_s, u"%1.25"_s.arg(i), u"7"_s, u"6/1/2026"_s,
+            u"12/%1/1999"_s.arg(i % 31 + 1) });
+    QBuffer first;
+    first.open(QIODevice::WriteOnly);
+    QCOMPARE(ExportRows(
+                 *file.data->OpenDatabase(ListCatalogue::kRowsType), file.list, file.context, first)
+                 .rows,
+        50);
+    file.MakeFullList(u"To"_s);
+    QCOMPARE(Import(file, first.data()).rows, 50);
+    QBuffer second;
+    second.open(QIODevice::WriteOnly);
+    QCOMPARE(ExportRows(*file.data->OpenDatabase(ListCatalogue::kRowsType), file.list, file.context,
+                 second)
+                 .rows,
+        50);
+    QCOMPARE(second.data(), first.data());
+}
+
+void TextImportTest::rowsAreAddedInBatches()
+{
+    ListFixture file;
+    const ObjectId oid = file.MakeFullList(u"L"_s);
+    file.Add({ u"there before"_s });
+    QByteArray bytes;
+    for (int i = 0; i < 70'000; ++i)
+        bytes += QByteArray::number(i) + "\t1\r\n";
+    const ImportOutcome outcome = Import(file, bytes);
+    QVERIFY(outcome.result == ImportResult::Done);
+    QCOMPARE(outcome.rows, 70'000);
+    file.Restart();
+    file.OpenList(oid);
+    QCOMPARE(file.rows->FillRows().size(), size_t { 70'001 });
+}
+
+void TextImportTest::cancellingKeepsTheRowsSoFar()
+{
+    ListFixture file;
+    file.MakeFullList(u"L"_s);
+    const QByteArray bytes = QByteArray("a\t1\r\n").repeated(5000);
+    ImportProgress last;
+    const ImportOutcome outcome = Import(file, bytes, [&last](const ImportProgress& progress) {
+        last = progress;
+        return progress.rows < 2000;
+    });
+    QVERIFY(outcome.result == ImportResult::Cancelled);
+    QCOMPARE(last.bytesTotal, bytes.size());
+    QCOMPARE(outcome.rows, last.rows);
+    QCOMPARE(file.data->RecordCount(ListCatalogue::kRowsType), outcome.rows);
+    QVERIFY(outcome.rows < 5000);
+}
+
+void TextImportTest::anUnreadableFileKeepsTheRowsBefore()
+{
+    class BrokenDevice : public Trickle
+    {
+    public:
+        using Trickle::Trickle;
+
+    protected:
+        qint64 readData(char* target, qint64 size) override
+        {
+            const qint64 count = Trickle::readData(target, size);
+            return count == 0 ? -1 : count;
+        }
+    };
+    ListFixture file;
+    file.MakeFullList(u"L"_s);
+    BrokenDevice source("a\r\nb\r\n", 4);
+    const ImportOutcome outcome
+        = ImportRows(*file.data, std::vector { PropName }, file.context, source);
+    QVERIFY(outcome.result == ImportResult::Failed);
+    QCOMPARE(outcome.rows, 2);
+    QCOMPARE(file.Cells(file.rows->FillRows()), u"a b"_s);
+}
+
+void TextImportTest::aRowTheStoreRefusesIsPassedOver()
+{
+    ListFixture file;
+    file.MakeFullList(u"L"_s);
+    Trickle source("a\tx\r\nb\r\n", 100);
+    const ImportOutcome outcome
+        = ImportRows(*file.data, std::vector { PropName, PropName }, file.context, source);
+    QVERIFY(outcome.result == ImportResult::Done);
+    QCOMPARE(outcome.rows, 1);
+    QCOMPARE(file.Cells(file.rows->FillRows()), u"b"_s);
+}
+
+void TextImportTest::readOnlyDataEndsTheImport()
+{
+    ListFixture file;
+    const ObjectId oid = file.MakeFullList(u"L"_s);
+    file.rows.reset();
+    file.data->Unmount();
+    DataVolume volume;
+    QCOMPARE(volume.Mount(file.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly),
+        ErrorNumber::None);
+    ListCatalogue catalogue(volume);
+    InventoryList list;
+    QVERIFY(catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened);
+    QVERIFY(catalogue.OpenList(oid, list));
+    Trickle source("a\r\n", 100);
+    const ImportOutcome outcome
+        = ImportRows(volume, std::vector { PropName }, file.context, source);
+    QCOMPARE(outcome.writeError, ErrorNumber::AccessDenied);
+    QCOMPARE(outcome.rows, 0);
+}
+
+QTEST_GUILESS_MAIN(TextImportTest)
+#include "text_import_test.moc"

@@ -1,0 +1,156 @@
+#include "transfer/text_export.h"
+
+#include "transfer/list_file.h"
+
+#include <QtEndian>
+
+#include <vector>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Units of text that are gathered before they are written.
+constexpr qsizetype kChunkUnits = 32 * 1024;
+
+/// Gathers text and writes it in chunks. After a failed write it goes on with the next chunk.
+class ChunkWriter
+{
+public:
+    explicit ChunkWriter(QIODevice& target)
+        : m_target(target)
+    {
+        m_text.reserve(2 * kChunkUnits);
+        m_text.append(QChar::ByteOrderMark);
+    }
+
+    /// What was not written yet; lines are appended to it.
+    [[nodiscard]] QString& Text() { return m_text; }
+    void EndRow()
+    {
+        ++m_rows;
+        if (m_text.size() >= kChunkUnits)
+            Flush();
+    }
+    void Flush()
+    {
+        qToLittleEndian<quint16>(m_text.utf16(), m_text.size(), m_text.data());
+        if (Write(reinterpret_cast<const char*>(m_text.constData()),
+                m_text.size() * qsizetype { sizeof(char16_t) }))
+            m_writtenRows += m_rows;
+        m_rows = 0;
+        m_text.resize(0);
+    }
+
+    [[nodiscard]] qint64 WrittenRows() const { return m_writtenRows; }
+    [[nodiscard]] const QString& Failure() const { return m_failure; }
+
+private:
+    QIODevice& m_target;
+    QString m_text;
+    qint64 m_rows = 0;
+    qint64 m_writtenRows = 0;
+    QString m_failure;
+
+    bool Write(const char* bytes, qint64 size)
+    {
+        while (size > 0) {
+            const qint64 written = m_target.write(bytes, size);
+            if (written <= 0) {
+                if (m_failure.isEmpty())
+                    m_failure = m_target.errorString();
+                return false;
+            }
+            bytes += written;
+            size -= written;
+        }
+        return true;
+    }
+};
+
+/// Appends the lines of one list's rows.
+class LineBuilder
+{
+public:
+    LineBuilder(const InventoryList& list, const ValueContext& context)
+        : m_context(context)
+        , m_valueLimit(list.columnOrder.size())
+        , m_isThere(list.columns.size())
+    {
+        for (const quint32 index : list.columnOrder) {
+            if (index < list.columns.size())
+                m_fields.push_back(index);
+        }
+    }
+
+    /// `values` has one entry per column of the list, in their order.
+    void AppendLine(QString& text, std::span<const PropertyValue> values)
+    {
+        FindValues(values);
+        qsizetype start = text.size();
+        qsizetype length = 0;
+        for (size_t i = 0; i < m_fields.size(); ++i) {
+            if (i > 0)
+                text.append(QChar(kFieldSeparator));
+            const size_t column = m_fields[i];
+            const qsizetype next = text.size();
+            if (m_isThere[column] != 0)
+                AppendExportText(text, values[column], m_context);
+            else
+                text.append(text.mid(start, length));
+            start = next;
+            length = text.size() - next;
+        }
+        text.append(u"\r\n"_s);
+    }
+
+private:
+    const ValueContext& m_context;
+    std::vector<size_t> m_fields;
+    size_t m_valueLimit;
+    std::vector<quint8> m_isThere;
+
+    /// A row's record holds what the row has and nothing else; what stands in it beyond the limit
+    /// counts as missing.
+    void FindValues(std::span<const PropertyValue> values)
+    {
+        size_t present = 0;
+        for (size_t i = 0; i < values.size(); ++i) {
+            m_isThere[i] = !values[i].IsMissing() && present < m_valueLimit ? 1 : 0;
+            present += values[i].IsMissing() ? 0 : 1;
+        }
+    }
+};
+
+} // namespace
+
+ExportOutcome ExportRows(Database& rows, const InventoryList& list, const ValueContext& context,
+    QIODevice& target, const ExportMonitor& monitor)
+{
+    constexpr qint64 kRowsPerCall = 1024;
+    std::vector<PropertyId> ids;
+    for (const ColumnDefinition& column : list.columns)
+        ids.push_back(column.id);
+    ExportOutcome outcome;
+    ChunkWriter writer(target);
+    LineBuilder builder(list, context);
+    qint64 count = 0;
+    const auto scanned
+        = rows.Scan(ids, ScanOrder::Sorted, [&](ObjectId, std::span<const PropertyValue> values) {
+              builder.AppendLine(writer.Text(), values);
+              writer.EndRow();
+              ++count;
+              if (count % kRowsPerCall == 0 && monitor)
+                  outcome.isCancelled = !monitor(count);
+              return !outcome.isCancelled;
+          });
+    writer.Flush();
+    outcome.rows = writer.WrittenRows();
+    outcome.readError = scanned.Error();
+    outcome.writeFailure = writer.Failure();
+    return outcome;
+}
+
+} // namespace Quillory

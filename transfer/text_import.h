@@ -1,0 +1,54 @@
+#pragma once
+
+#include "store/data_volume.h"
+#include "values/value_text.h"
+
+#include <QIODevice>
+
+#include <functional>
+#include <span>
+
+namespace Quillory {
+
+enum class ImportResult
+{
+    Done,
+    /// The file could not be read to its end, or has nothing behind its byte-order mark.
+    Failed,
+    Cancelled,
+};
+
+struct ImportOutcome
+{
+    ImportResult result = ImportResult::Done;
+    /// Rows that are in the list now, or that would be; those of a batch that could not be stored
+    /// are not among them.
+    qint64 rows = 0;
+    /// Why storing ended early, such as DiskFull; None if it did not. A single row that the store
+    /// does not take is passed over and is no such failure.
+    ErrorNumber writeError = ErrorNumber::None;
+};
+
+struct ImportProgress
+{
+    qint64 bytesRead = 0;
+    /// 0 where it is not known, as of a pipe.
+    qint64 bytesTotal = 0;
+    qint64 rows = 0;
+};
+/// Called now and then; false ends the import, and the rows so far stay.
+using ImportMonitor = std::function<bool(const ImportProgress& progress)>;
+
+/// Adds a row to the open row database for each line of `source`, as ImportRowReader reads them:
+/// `columns` says which column each field fills.
+///
+/// Rows are stored in batches of one transaction each, durable when a batch ends. No transaction
+/// may be open. Memory use does not grow with the file.
+[[nodiscard]] ImportOutcome ImportRows(DataVolume& volume, std::span<const PropertyId> columns,
+    const ValueContext& context, QIODevice& source, const ImportMonitor& monitor = {});
+
+/// Counts the rows that ImportRows would add and stores nothing.
+[[nodiscard]] ImportOutcome CountImportRows(
+    std::span<const PropertyId> columns, const ValueContext& context, QIODevice& source);
+
+} // namespace Quillory

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/code_page.h"
+
+#include <QByteArray>
+#include <QIODevice>
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace Quillory {
+
+/// The bytes of a device, read as they are needed.
+class ByteWindow
+{
+public:
+    explicit ByteWindow(QIODevice& source);
+
+    /// What is at hand.
+    [[nodiscard]] std::span<char> Bytes();
+    /// Puts more behind what is at hand; false at the end and on failure. Moves the bytes.
+    bool Fill();
+    /// Lets go of bytes from the front.
+    void Drop(qsizetype count) { m_begin += count; }
+    /// Lets the text end on a whole unit of `size` bytes: zeros fill it up. Only at the end.
+    void PadTo(qsizetype size);
+
+    [[nodiscard]] bool HasFailed() const { return m_hasFailed; }
+    /// How many bytes were read in all.
+    [[nodiscard]] qint64 BytesRead() const { return m_bytesRead; }
+
+private:
+    QIODevice& m_source;
+    QByteArray m_bytes;
+    qsizetype m_begin = 0;
+    qsizetype m_end = 0;
+    qint64 m_bytesRead = 0;
+    bool m_hasFailed = false;
+};
+
+/// The lines of a text file, one after another. Memory use depends on the longest line alone.
+///
+/// A line ends at a CR; the character after it is dropped, whatever it is. Text after the last CR
+/// is no line, and a NUL ends the text. Text is UTF-16 behind a byte-order mark and otherwise in
+/// the given code page.
+class TextLineReader
+{
+public:
+    TextLineReader(QIODevice& source, int codePage);
+
+    /// Goes to the next line that is not empty. False at the end of the text and on failure.
+    bool Next();
+    /// The current line up to a NUL, for its reader to write to; valid until the next call.
+    ///
+    /// In 8-bit text the line's buffer is cleared only in its first half between lines, so that a
+    /// line of more than half its size is followed by what an earlier, longer one left there.
+    [[nodiscard]] char16_t* Line() { return m_line; }
+
+    /// True if there was nothing behind the byte-order mark or the file could not be read.
+    [[nodiscard]] bool HasFailed() const { return m_isBlank || m_window.HasFailed(); }
+    [[nodiscard]] qint64 BytesRead() const { return m_window.BytesRead(); }
+
+private:
+    ByteWindow m_window;
+    CodePage m_codePage;
+    std::vector<char16_t> m_buffer;
+    char16_t* m_line = nullptr;
+    bool m_isWide = false;
+    bool m_isBlank = false;
+    /// The character after a CR is still to be dropped.
+    bool m_isSkipping = false;
+
+    void ReadMark();
+    template <typename Unit> std::optional<std::span<Unit>> NextUnits();
+    template <typename Unit> std::span<Unit> UnitsAtHand();
+    bool NextWide();
+    bool NextNarrow();
+};
+
+} // namespace Quillory
