@@ -13,6 +13,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdio>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
@@ -82,6 +84,11 @@ bool IsPrivateFolder(const QString& path)
 }
 
 } // namespace
+
+void NoteUnknownList(const QString& name)
+{
+    std::fprintf(stderr, "quillory: there is no list “%s”\n", qUtf8Printable(name));
+}
 
 SingleInstance::SingleInstance(const QString& folder, QObject* parent)
     : QObject(parent)

@@ -27,6 +27,9 @@ enum class StartAnswer
     UnknownList,
 };
 
+/// Says on standard error that there is no list so named.
+void NoteUnknownList(const QString& name);
+
 /// Keeps the program to one process per user: a lock file tells who is first, and a local socket
 /// beside it brings the requests of later starts to the first one.
 class SingleInstance : public QObject
