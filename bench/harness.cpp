@@ -43,6 +43,12 @@ void PrintLine(const BenchCase& bench, int rows, const Timing& timing, double gr
 
 } // namespace
 
+void PrintHeading()
+{
+    std::printf("%-34s %9s %11s %11s %7s %6s %8s %6s\n", "case", "rows", "ours ms", "floor ms",
+        "ratio", "limit", "growth", "limit");
+}
+
 double MeasureMs(const std::function<void()>& work)
 {
     QElapsedTimer timer;
@@ -59,8 +65,6 @@ void Abandon(const QString& reason)
 
 void RunCases(const std::vector<BenchCase>& cases, const BenchOptions& options)
 {
-    std::printf("%-34s %9s %11s %11s %7s %6s %8s %6s\n", "case", "rows", "ours ms", "floor ms",
-        "ratio", "limit", "growth", "limit");
     for (const BenchCase& bench : cases) {
         if (!bench.name.contains(options.nameFilter))
             continue;

@@ -1,5 +1,6 @@
 #include "bench/harness.h"
 #include "bench/store_cases.h"
+#include "bench/transfer_cases.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -27,6 +28,10 @@ int main(int argc, char** argv)
         options.sizes = { 100000, 1000000 };
     options.repeat = std::max(1, parser.value(repeat).toInt());
     options.nameFilter = parser.positionalArguments().value(0);
+    PrintHeading();
     RunCases(StoreCases(), options);
+    RunCases(TransferCases(), options);
+    if (options.nameFilter.isEmpty())
+        PrintImportMemory(options.sizes);
     return 0;
 }

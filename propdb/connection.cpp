@@ -70,7 +70,6 @@ constexpr std::array kPragmas {
     Pragma { "locking_mode", "NORMAL", "normal" },
     Pragma { "journal_mode", "DELETE", "delete" },
     Pragma { "synchronous", "EXTRA", "3" },
-    Pragma { "cache_size", "-16384", "-16384" },
 };
 
 /// Lets through what this program's own statements do and nothing else.
@@ -177,6 +176,8 @@ Result<ConnectionHandle> OpenConnection(
             return done.Error();
     }
     if (const auto done = Harden(raw); !done)
+        return done.Error();
+    if (const auto done = Execute(raw, kUsualCache); !done)
         return done.Error();
     if (access == VolumeAccess::ReadOnly) {
         if (const auto done = SetPragma(raw, { "query_only", "ON", "1" }); !done)

@@ -4,13 +4,38 @@
 
 #include <QStringList>
 
+#include <sqlite3.h>
+
 #include <algorithm>
+#include <memory>
 
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Lets the page cache hold a whole table while its records are read through the index, which
+/// would otherwise read each page as many times as it has records. The memory is given back.
+class RoomyCache
+{
+public:
+    explicit RoomyCache(sqlite3* connection)
+        : m_connection(connection)
+    {
+        static_cast<void>(Execute(m_connection, "PRAGMA cache_size = -98304").IsOk());
+    }
+    ~RoomyCache()
+    {
+        static_cast<void>(Execute(m_connection, kUsualCache).IsOk());
+        sqlite3_db_release_memory(m_connection);
+    }
+    RoomyCache(const RoomyCache&) = delete;
+    RoomyCache& operator=(const RoomyCache&) = delete;
+
+private:
+    sqlite3* m_connection;
+};
 
 ErrorNumber CheckValues(std::span<const PropertyValue> values)
 {
@@ -163,8 +188,11 @@ Result<void> Database::Scan(
     std::vector<PropertyValue> values(ids.size());
     for (size_t i = 0; i < ids.size(); ++i)
         values[i].id = ids[i];
+    sqlite3* connection = m_state->volume.connection.get();
+    const auto roomyCache
+        = order == ScanOrder::Sorted ? std::make_unique<RoomyCache>(connection) : nullptr;
     for (const QString& sql : parts) {
-        auto statement = Statement::Prepare(m_state->volume.connection.get(), sql);
+        auto statement = Statement::Prepare(connection, sql);
         if (!statement)
             return statement.Error();
         while (statement->Next()) {
