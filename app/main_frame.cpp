@@ -4,6 +4,8 @@
 #include "app/plain_pages.h"
 #include "res/string_table.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QStandardPaths>
@@ -31,6 +33,7 @@ struct MainFrame::CommandEntry
 const MainFrame::CommandEntry MainFrame::kCommands[] {
     { Command::New, Qt::CTRL | Qt::Key_N, false, &MainFrame::NewList },
     { Command::Rename, Qt::Key_F2, true, &MainFrame::RenameList },
+    { Command::Export, {}, true, &MainFrame::ExportList },
     { Command::Delete, Qt::Key_Delete, true, &MainFrame::DeleteList },
     { Command::DeleteAllRecords, {}, true, &MainFrame::DeleteAllRecords },
     { Command::OpenReadOnly, {}, false, &MainFrame::ToggleReadOnly },
@@ -203,6 +206,9 @@ bool MainFrame::CloseAllPages()
 
 void MainFrame::closeEvent(QCloseEvent* event)
 {
+    // Work that shows its progress, and questions, are not to be left behind.
+    if (QApplication::activeModalWidget() != nullptr)
+        return event->ignore();
     // Before the data file is open there is nothing that a page could lose.
     if (m_isDataFileOpen && !CloseAllPages())
         return event->ignore();

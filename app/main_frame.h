@@ -87,6 +87,8 @@ private:
     void RenameList();
     void DeleteList();
     void DeleteAllRecords();
+    void ExportList();
+    void ExportTo(const QString& path);
     void TellStop(const QString& text, std::function<void()> then = {});
     void ToggleReadOnly();
     void ShowAbout();

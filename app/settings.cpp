@@ -16,7 +16,7 @@ namespace {
 constexpr quint32 kVersion = 100;
 constexpr qsizetype kMaxPathLength = 260;
 /// A file larger than this was not written here and is not read.
-constexpr qint64 kMaxFileSize = 256 * 1024;
+constexpr qint64 kMaxFileSize = 256LL * 1024;
 
 constexpr auto kVersionKey = "Version"_L1;
 constexpr auto kPathKey = "DbPath"_L1;

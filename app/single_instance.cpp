@@ -27,7 +27,7 @@ constexpr int kConnectLimitMs = 100;
 constexpr int kAnswerLimitMs = 2500;
 /// A connection that has not sent its request by then is dropped.
 constexpr int kRequestLimitMs = 1000;
-constexpr qsizetype kMaxMessage = 64 * 1024;
+constexpr qsizetype kMaxMessage = 64LL * 1024;
 constexpr qsizetype kMaxConnections = 16;
 
 constexpr QByteArrayView kGreeting = "quillory";
