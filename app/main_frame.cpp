@@ -19,26 +19,34 @@ namespace {
 
 constexpr QSize kFirstSize { 360, 640 };
 
+/// What must be there before a command can be chosen.
+enum class Needs
+{
+    Nothing,
+    DataFile,
+    /// A selected line of the home list.
+    List,
+};
+
 } // namespace
 
 struct MainFrame::CommandEntry
 {
     Command command;
     QKeyCombination shortcut;
-    /// Only while a line of the home list is selected.
-    bool needsList;
+    Needs needs;
     void (MainFrame::*run)();
 };
 
 const MainFrame::CommandEntry MainFrame::kCommands[] {
-    { Command::New, Qt::CTRL | Qt::Key_N, false, &MainFrame::NewList },
-    { Command::Rename, Qt::Key_F2, true, &MainFrame::RenameList },
-    { Command::Export, {}, true, &MainFrame::ExportList },
-    { Command::Delete, Qt::Key_Delete, true, &MainFrame::DeleteList },
-    { Command::DeleteAllRecords, {}, true, &MainFrame::DeleteAllRecords },
-    { Command::OpenReadOnly, {}, false, &MainFrame::ToggleReadOnly },
-    { Command::About, {}, false, &MainFrame::ShowAbout },
-    { Command::Exit, Qt::CTRL | Qt::Key_Q, false, &MainFrame::Exit },
+    { Command::New, Qt::CTRL | Qt::Key_N, Needs::DataFile, &MainFrame::NewList },
+    { Command::Rename, Qt::Key_F2, Needs::List, &MainFrame::RenameList },
+    { Command::Export, {}, Needs::List, &MainFrame::ExportList },
+    { Command::Delete, Qt::Key_Delete, Needs::List, &MainFrame::DeleteList },
+    { Command::DeleteAllRecords, {}, Needs::List, &MainFrame::DeleteAllRecords },
+    { Command::OpenReadOnly, {}, Needs::DataFile, &MainFrame::ToggleReadOnly },
+    { Command::About, {}, Needs::DataFile, &MainFrame::ShowAbout },
+    { Command::Exit, Qt::CTRL | Qt::Key_Q, Needs::Nothing, &MainFrame::Exit },
 };
 
 MainFrame::MainFrame(const QString& settingsPath, QWidget* parent)
@@ -76,6 +84,10 @@ void MainFrame::BuildHome()
     connect(m_home, &HomeList::CommandChosen, this, &MainFrame::RunCommand);
     m_home->SetRenamer(
         [this](ObjectId oid, const QString& name) { return m_catalogue.RenameList(oid, name); });
+    for (const MenuEntry& entry : MenuEntries(MenuId::Main)) {
+        if (entry.command != Command::Separator)
+            m_home->SetCommandEnabled(entry.command, false);
+    }
     for (const CommandEntry& entry : kCommands) {
         if (entry.shortcut != QKeyCombination())
             m_home->SetShortcut(entry.command, entry.shortcut);
@@ -104,8 +116,11 @@ void MainFrame::RunCommand(Command command)
 void MainFrame::UpdateCommands()
 {
     const bool hasList = m_home->SelectedList() != kNoObject;
-    for (const CommandEntry& entry : kCommands)
-        m_home->SetCommandEnabled(entry.command, m_isDataFileOpen && (hasList || !entry.needsList));
+    for (const CommandEntry& entry : kCommands) {
+        const bool isReady = entry.needs == Needs::Nothing
+            || (m_isDataFileOpen && (entry.needs == Needs::DataFile || hasList));
+        m_home->SetCommandEnabled(entry.command, isReady);
+    }
     m_home->SetCommandChecked(Command::OpenReadOnly, m_settings.Options.test(kReadOnlyOption));
 }
 

@@ -2,6 +2,7 @@
 #include "app/main_frame.h"
 #include "tests/list_fixture.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QHeaderView>
