@@ -1,0 +1,207 @@
+#include "app/home_list.h"
+
+#include "res/string_table.h"
+#include "widgets/measures.h"
+#include "widgets/touch.h"
+
+#include <QEvent>
+#include <QFontDatabase>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QStyledItemDelegate>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Lines high enough for a finger, names no longer than the catalogue takes.
+class LineDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return { size.width(), std::max(size.height(), CurrentMeasures().lineHeight) };
+    }
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const override
+    {
+        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        editor->setObjectName(u"NameEditor"_s);
+        editor->setAccessibleName(LoadString(StringId::Name));
+        if (auto* line = qobject_cast<QLineEdit*>(editor))
+            line->setMaxLength(kMaxListNameLength);
+        return editor;
+    }
+};
+
+} // namespace
+
+HomeList::HomeList(QWidget* parent)
+    : Page(QString(), parent)
+    , m_model(new HomeListModel(this))
+    , m_view(new QTreeView(this))
+{
+    BuildView();
+    ConnectView();
+    UpdateFont();
+    SetSoftKeys(SoftKeysOf(MenuBar::Main), MenuEntries(MenuId::Main));
+}
+
+void HomeList::BuildView()
+{
+    m_view->setObjectName(u"HomeList"_s);
+    m_view->setAccessibleName(LoadString(StringId::InventoryList));
+    m_view->setModel(m_model);
+    m_view->setItemDelegate(new LineDelegate(m_view));
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true);
+    m_view->setAllColumnsShowFocus(true);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_view->setTextElideMode(Qt::ElideRight);
+    const int icon = CurrentMeasures().iconSize;
+    m_view->setIconSize({ icon, icon });
+
+    QHeaderView* header = m_view->header();
+    header->setStretchLastSection(true);
+    header->setSectionsClickable(true);
+    header->setSortIndicatorShown(true);
+    header->setSortIndicator(0, Qt::AscendingOrder);
+    header->setMinimumHeight(CurrentMeasures().headerHeight);
+    Body()->addWidget(m_view);
+    setFocusProxy(m_view);
+}
+
+void HomeList::ConnectView()
+{
+    connect(m_view, &QTreeView::clicked, this, [this] { Q_EMIT ListChosen(); });
+    for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
+        auto* shortcut = new QShortcut(key, m_view);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, &HomeList::ListChosen);
+    }
+    connect(m_view->header(), &QHeaderView::sectionClicked, this, &HomeList::FlipDirection);
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &HomeList::SelectionChanged);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &HomeList::SelectionChanged);
+    connect(m_model, &HomeListModel::Renamed, this, &HomeList::Sort, Qt::QueuedConnection);
+    auto* touch = new TouchBehaviour(m_view);
+    connect(touch, &TouchBehaviour::Held, this, &HomeList::OpenListMenu);
+}
+
+void HomeList::Fill(std::vector<ListCatalogue::HomeListEntry> lists)
+{
+    m_model->SetLists(std::move(lists));
+    m_model->Sort(m_direction);
+    m_view->setCurrentIndex(m_model->index(0));
+}
+
+void HomeList::AddLine(const ListCatalogue::HomeListEntry& list)
+{
+    m_model->Add(list);
+    Select(list.oid);
+    Sort();
+}
+
+void HomeList::UpdateLine(const ListCatalogue::HomeListEntry& list)
+{
+    m_model->Update(list);
+    Sort();
+}
+
+void HomeList::RemoveLine(ObjectId oid)
+{
+    m_model->Remove(oid);
+}
+
+void HomeList::Select(ObjectId oid)
+{
+    const QModelIndex index = m_model->Find(oid);
+    if (!index.isValid())
+        return;
+    m_view->setCurrentIndex(index);
+    m_view->scrollTo(index);
+}
+
+void HomeList::SetRenamer(HomeListModel::Renamer renamer)
+{
+    m_model->SetRenamer(std::move(renamer));
+}
+
+ObjectId HomeList::SelectedList() const
+{
+    return m_model->OidAt(m_view->selectionModel()->selectedRows().value(0));
+}
+
+QString HomeList::SelectedName() const
+{
+    return m_model->NameAt(m_view->selectionModel()->selectedRows().value(0));
+}
+
+void HomeList::BeginRename()
+{
+    const QModelIndex index = m_view->selectionModel()->selectedRows().value(0);
+    if (!index.isValid())
+        return;
+    FocusLines();
+    m_view->scrollTo(index);
+    m_view->edit(index);
+}
+
+void HomeList::FocusLines()
+{
+    m_view->setFocus();
+}
+
+void HomeList::Sort()
+{
+    m_model->Sort(m_direction);
+    m_view->scrollTo(m_view->currentIndex());
+}
+
+void HomeList::FlipDirection()
+{
+    m_direction = m_direction == SortDirection::Ascending ? SortDirection::Descending
+                                                          : SortDirection::Ascending;
+    m_view->header()->setSortIndicator(
+        0, m_direction == SortDirection::Ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+    Sort();
+}
+
+void HomeList::OpenListMenu(const QPoint& position)
+{
+    const QModelIndex index = m_view->indexAt(position);
+    if (index.isValid())
+        m_view->setCurrentIndex(index);
+    if (SelectedList() != kNoObject)
+        OpenContextMenu(
+            MenuEntries(MenuId::ListContext), m_view->viewport()->mapToGlobal(position));
+}
+
+void HomeList::changeEvent(QEvent* event)
+{
+    Page::changeEvent(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        UpdateFont();
+}
+
+void HomeList::UpdateFont()
+{
+    QFont font;
+    if (QFontDatabase::hasFamily(u"Tahoma"_s))
+        font.setFamily(u"Tahoma"_s);
+    m_view->setFont(font);
+}
+
+} // namespace Quillory

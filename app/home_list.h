@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/home_list_model.h"
+#include "widgets/page.h"
+
+class QTreeView;
+
+namespace Quillory {
+
+/// The first page: every list by its icon and name, one line each.
+class HomeList : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit HomeList(QWidget* parent = nullptr);
+
+    /// Shows these lists in the current direction, the first one selected.
+    void Fill(std::vector<ListCatalogue::HomeListEntry> lists);
+    /// Adds a line, selected and visible, in its place.
+    void AddLine(const ListCatalogue::HomeListEntry& list);
+    void UpdateLine(const ListCatalogue::HomeListEntry& list);
+    void RemoveLine(ObjectId oid);
+    void Select(ObjectId oid);
+    void SetRenamer(HomeListModel::Renamer renamer);
+
+    /// kNoObject and an empty name if no line is selected.
+    [[nodiscard]] ObjectId SelectedList() const;
+    [[nodiscard]] QString SelectedName() const;
+
+    /// Starts to edit the selected line's name in place.
+    void BeginRename();
+    /// Gives the lines the keyboard.
+    void FocusLines();
+
+Q_SIGNALS:
+    /// The selected list is to be opened.
+    void ListChosen();
+    void SelectionChanged();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    HomeListModel* m_model;
+    QTreeView* m_view;
+    SortDirection m_direction = SortDirection::Ascending;
+
+    void BuildView();
+    void ConnectView();
+    void Sort();
+    void FlipDirection();
+    void OpenListMenu(const QPoint& position);
+    void UpdateFont();
+};
+
+} // namespace Quillory

@@ -1,0 +1,253 @@
+#include "app/main_frame.h"
+
+#include "app/home_list.h"
+#include "app/plain_pages.h"
+#include "res/string_table.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize kFirstSize { 360, 640 };
+
+/// What must be there before a command can be chosen.
+enum class Needs
+{
+    Nothing,
+    DataFile,
+    /// A selected line of the home list.
+    List,
+};
+
+} // namespace
+
+struct MainFrame::CommandEntry
+{
+    Command command;
+    QKeyCombination shortcut;
+    Needs needs;
+    void (MainFrame::*run)();
+};
+
+const MainFrame::CommandEntry MainFrame::kCommands[] {
+    { Command::New, Qt::CTRL | Qt::Key_N, Needs::DataFile, &MainFrame::NewList },
+    { Command::Rename, Qt::Key_F2, Needs::List, &MainFrame::RenameList },
+    { Command::Export, {}, Needs::List, &MainFrame::ExportList },
+    { Command::Delete, Qt::Key_Delete, Needs::List, &MainFrame::DeleteList },
+    { Command::DeleteAllRecords, {}, Needs::List, &MainFrame::DeleteAllRecords },
+    { Command::OpenReadOnly, {}, Needs::DataFile, &MainFrame::ToggleReadOnly },
+    { Command::About, {}, Needs::DataFile, &MainFrame::ShowAbout },
+    { Command::Exit, Qt::CTRL | Qt::Key_Q, Needs::Nothing, &MainFrame::Exit },
+};
+
+MainFrame::MainFrame(const QString& settingsPath, QWidget* parent)
+    : QWidget(parent)
+    , m_settingsPath(settingsPath)
+    , m_context(ValueContext::FromEnvironment())
+    , m_pages(new PageStack(this))
+    , m_home(new HomeList)
+{
+    ReadSettings(m_settingsPath, m_settings);
+    if (m_settings.codePage) {
+        m_context.userLocale.codePage = *m_settings.codePage;
+        m_context.systemLocale.codePage = *m_settings.codePage;
+    }
+    m_chooser = [this](const auto& then) { ChooseDataFile(then); };
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_pages);
+    BuildHome();
+    RestoreWindow();
+}
+
+MainFrame::~MainFrame()
+{
+    // The pages read from the members that go before the child widgets do.
+    delete m_pages;
+}
+
+void MainFrame::BuildHome()
+{
+    connect(m_home, &HomeList::ListChosen, this, &MainFrame::OpenSelectedList);
+    connect(m_home, &HomeList::SelectionChanged, this, &MainFrame::UpdateCommands);
+    connect(m_home, &HomeList::MenuAboutToOpen, this, &MainFrame::UpdateCommands);
+    connect(m_home, &HomeList::CommandChosen, this, &MainFrame::RunCommand);
+    m_home->SetRenamer(
+        [this](ObjectId oid, const QString& name) { return m_catalogue.RenameList(oid, name); });
+    for (const MenuEntry& entry : MenuEntries(MenuId::Main)) {
+        if (entry.command != Command::Separator)
+            m_home->SetCommandEnabled(entry.command, false);
+    }
+    for (const CommandEntry& entry : kCommands) {
+        if (entry.shortcut != QKeyCombination())
+            m_home->SetShortcut(entry.command, entry.shortcut);
+    }
+    m_home->ActionOf(Command::OpenReadOnly)->setCheckable(true);
+    m_pages->Push(m_home);
+    UpdateCommands();
+}
+
+void MainFrame::RestoreWindow()
+{
+    setWindowTitle(LoadText(Text::Caption));
+    resize(kFirstSize);
+    if (!m_settings.windowGeometry.isEmpty())
+        restoreGeometry(m_settings.windowGeometry);
+}
+
+void MainFrame::RunCommand(Command command)
+{
+    for (const CommandEntry& entry : kCommands) {
+        if (entry.command == command)
+            return (this->*entry.run)();
+    }
+}
+
+void MainFrame::UpdateCommands()
+{
+    const bool hasList = m_home->SelectedList() != kNoObject;
+    for (const CommandEntry& entry : kCommands) {
+        const bool isReady = entry.needs == Needs::Nothing
+            || (m_isDataFileOpen && (entry.needs == Needs::DataFile || hasList));
+        m_home->SetCommandEnabled(entry.command, isReady);
+    }
+    m_home->SetCommandChecked(Command::OpenReadOnly, m_settings.Options.test(kReadOnlyOption));
+}
+
+void MainFrame::SetFileChooser(FileChooser chooser)
+{
+    m_chooser = std::move(chooser);
+}
+
+void MainFrame::OpenDataFile(const QString& listName)
+{
+    m_wantedList = listName;
+    m_opener = std::make_unique<DataFileOpener>(m_catalogue, m_settings, OpenerPrompts(),
+        [this](DataFileOpener::Outcome outcome) { EndOpening(outcome); });
+    m_opener->Start();
+}
+
+DataFileOpener::Prompts MainFrame::OpenerPrompts()
+{
+    return {
+        [this](
+            const auto& then) { m_pages->Push(new WelcomePage, [then](PageResult) { then(); }); },
+        [this](const auto& then) { m_chooser(then); },
+        [this](const QString& text, MessageIcon icon, MessageButtons buttons, const auto& then) {
+            ShowMessage(this, text, icon, buttons, then);
+        },
+    };
+}
+
+void MainFrame::ChooseDataFile(const std::function<void(const QString&)>& then)
+{
+    auto* dialog = new QFileDialog(
+        this, QString(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setObjectName(u"DataFileDialog"_s);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setNameFilter(LoadText(Text::InventoryDatabase) + u" (*.idb)"_s);
+    dialog->setDefaultSuffix(u"idb"_s);
+    dialog->selectFile(u"Quillory.idb"_s);
+    // A data file that is there already is opened, so there is nothing to warn of.
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    connect(dialog, &QDialog::finished, this, [dialog, then](int result) {
+        then(result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString());
+    });
+    dialog->open();
+}
+
+void MainFrame::EndOpening(DataFileOpener::Outcome outcome)
+{
+    m_savesSettings = outcome != DataFileOpener::Outcome::NothingChosen;
+    m_isDataFileOpen = outcome == DataFileOpener::Outcome::Opened;
+    if (!m_isDataFileOpen) {
+        // Not from inside the question whose answer this is.
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+        return;
+    }
+    m_home->Fill(m_catalogue.FillHomeList());
+    m_home->FocusLines();
+    UpdateCommands();
+    if (!m_wantedList.isEmpty() && OpenNamedList(m_wantedList) == StartAnswer::UnknownList)
+        NoteUnknownList(m_wantedList);
+}
+
+StartAnswer MainFrame::TakeStartRequest(const StartRequest& request)
+{
+    BringToFront(request.activationToken);
+    if (request.listName.isEmpty())
+        return StartAnswer::Done;
+    if (!m_isDataFileOpen) {
+        m_wantedList = request.listName;
+        return StartAnswer::Done;
+    }
+    return OpenNamedList(request.listName);
+}
+
+void MainFrame::BringToFront(const QString& activationToken)
+{
+    // Where the toolkit looks for it when a window asks to be activated.
+    if (!activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+    if (isMinimized())
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+bool MainFrame::CloseAllPages()
+{
+    int depth = 0;
+    do {
+        depth = m_pages->Depth();
+        if (m_pages->CloseTopmost())
+            return true;
+    } while (m_pages->Depth() < depth);
+    return false;
+}
+
+void MainFrame::closeEvent(QCloseEvent* event)
+{
+    // Work that shows its progress, and questions, are not to be left behind.
+    if (QApplication::activeModalWidget() != nullptr)
+        return event->ignore();
+    // Before the data file is open there is nothing that a page could lose.
+    if (m_isDataFileOpen && !CloseAllPages())
+        return event->ignore();
+    if (m_savesSettings) {
+        m_settings.windowGeometry = saveGeometry();
+        WriteSettings(m_settingsPath, m_settings);
+    }
+    event->accept();
+}
+
+void MainFrame::ToggleReadOnly()
+{
+    m_settings.Options.flip(kReadOnlyOption);
+    UpdateCommands();
+}
+
+void MainFrame::ShowAbout()
+{
+    m_pages->Push(new AboutPage);
+}
+
+void MainFrame::Exit()
+{
+    close();
+}
+
+} // namespace Quillory

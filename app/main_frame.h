@@ -1,0 +1,98 @@
+#pragma once
+
+#include "app/data_file_opener.h"
+#include "app/settings.h"
+#include "app/single_instance.h"
+#include "store/list_catalogue.h"
+#include "store/row_store.h"
+#include "values/value_text.h"
+#include "widgets/page_stack.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Quillory {
+
+class HomeList;
+
+/// The program's one window: the home list, and above it the pages that its commands open.
+class MainFrame : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Reads the settings; the data file is opened by OpenDataFile() alone.
+    explicit MainFrame(const QString& settingsPath, QWidget* parent = nullptr);
+    ~MainFrame() override;
+
+    /// Asks for a place for the data file; calls `then` with an empty path if none was chosen.
+    using FileChooser = std::function<void(std::function<void(const QString&)> then)>;
+    /// Replaces the file dialog of the first start.
+    void SetFileChooser(FileChooser chooser);
+
+    /// Opens the data file, asking where need be, and then the list so named unless it is empty.
+    /// A failure closes the window.
+    void OpenDataFile(const QString& listName);
+
+    /// Comes to the front and opens the list that a later start names.
+    StartAnswer TakeStartRequest(const StartRequest& request);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    /// One line of the table of commands.
+    struct CommandEntry;
+    static const CommandEntry kCommands[];
+
+    QString m_settingsPath;
+    Settings m_settings;
+    ValueContext m_context;
+    DataVolume m_volume;
+    ListCatalogue m_catalogue { m_volume };
+    FileChooser m_chooser;
+    std::unique_ptr<DataFileOpener> m_opener;
+    /// The list to open once the data file is.
+    QString m_wantedList;
+    bool m_isDataFileOpen = false;
+    bool m_savesSettings = false;
+
+    /// The list that is open, and its rows.
+    ObjectId m_openList = kNoObject;
+    InventoryList m_list;
+    std::unique_ptr<RowStore> m_rows;
+
+    PageStack* m_pages;
+    HomeList* m_home;
+
+    void BuildHome();
+    void RestoreWindow();
+    void RunCommand(Command command);
+    void UpdateCommands();
+
+    [[nodiscard]] DataFileOpener::Prompts OpenerPrompts();
+    void ChooseDataFile(const std::function<void(const QString&)>& then);
+    void EndOpening(DataFileOpener::Outcome outcome);
+    void BringToFront(const QString& activationToken);
+    [[nodiscard]] bool CloseAllPages();
+
+    [[nodiscard]] StartAnswer OpenNamedList(const QString& name);
+    void OpenSelectedList();
+    void OpenList(ObjectId oid);
+    void CloseList();
+
+    void NewList();
+    void StoreNewList(InventoryList list);
+    void RenameList();
+    void DeleteList();
+    void DeleteAllRecords();
+    void ExportList();
+    void ExportTo(const QString& path);
+    void TellStop(const QString& text, std::function<void()> then = {});
+    void ToggleReadOnly();
+    void ShowAbout();
+    void Exit();
+};
+
+} // namespace Quillory

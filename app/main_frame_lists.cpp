@@ -1,0 +1,111 @@
+#include "app/home_list.h"
+#include "app/main_frame.h"
+#include "listdef/new_list_page.h"
+#include "res/string_table.h"
+#include "rows/rows_view.h"
+
+#include <QApplication>
+#include <QScopeGuard>
+
+namespace Quillory {
+
+StartAnswer MainFrame::OpenNamedList(const QString& name)
+{
+    const ObjectId oid = m_catalogue.FindList(name);
+    if (oid == kNoObject)
+        return StartAnswer::UnknownList;
+    // A page that asks before it ends, or a question, keeps its place.
+    const bool isFree = QApplication::activeModalWidget() == nullptr;
+    if (oid != m_openList && isFree && CloseAllPages()) {
+        m_home->Select(oid);
+        OpenList(oid);
+    }
+    return StartAnswer::Done;
+}
+
+void MainFrame::OpenSelectedList()
+{
+    const ObjectId oid = m_home->SelectedList();
+    if (oid != kNoObject)
+        OpenList(oid);
+}
+
+void MainFrame::OpenList(ObjectId oid)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
+    m_list = {};
+    if (!m_catalogue.OpenList(oid, m_list))
+        return;
+    m_openList = oid;
+    m_rows = std::make_unique<RowStore>(m_volume, m_list, m_context);
+    auto* view = new RowsView(*m_rows, m_list, m_context);
+    m_pages->Push(view, [this](PageResult) { CloseList(); });
+}
+
+void MainFrame::CloseList()
+{
+    m_catalogue.UpdateListOptions(m_openList, m_list);
+    m_rows.reset();
+    m_catalogue.CloseRows();
+    m_volume.Flush();
+    m_openList = kNoObject;
+    m_home->FocusLines();
+}
+
+void MainFrame::NewList()
+{
+    auto* page = new NewListPage;
+    m_pages->Push(page, [this, page](PageResult result) {
+        if (result == PageResult::Ok && !page->Result().Name.isEmpty())
+            StoreNewList(page->Result());
+    });
+}
+
+void MainFrame::StoreNewList(InventoryList list)
+{
+    const ListCatalogue::CreateOutcome outcome = m_catalogue.CreateList(list);
+    if (outcome.oid == kNoObject)
+        return;
+    m_home->AddLine({ outcome.oid, list.Name, list.TableIcon });
+    if (outcome.isCommitted)
+        return;
+    TellStop(LoadText(Text::CannotCreateUserDatabase),
+        [this] { TellStop(LoadText(Text::CannotCreateInventoryTable)); });
+}
+
+void MainFrame::RenameList()
+{
+    m_home->BeginRename();
+}
+
+void MainFrame::DeleteList()
+{
+    const ObjectId oid = m_home->SelectedList();
+    ShowMessage(this, FillIn(LoadString(StringId::DeleteListQuestion), m_home->SelectedName()),
+        MessageIcon::Exclamation, MessageButtons::YesNo, [this, oid](MessageAnswer answer) {
+            if (answer == MessageAnswer::Yes && m_catalogue.DeleteList(oid))
+                m_home->RemoveLine(oid);
+        });
+}
+
+void MainFrame::DeleteAllRecords()
+{
+    const ObjectId oid = m_home->SelectedList();
+    ShowMessage(this, FillIn(LoadString(StringId::DeleteAllRowsQuestion), m_home->SelectedName()),
+        MessageIcon::Exclamation, MessageButtons::YesNo, [this, oid](MessageAnswer answer) {
+            if (answer == MessageAnswer::Yes
+                && m_catalogue.DeleteAllRows(oid) == ListCatalogue::EmptyOutcome::CannotCreateRows)
+                TellStop(LoadText(Text::CannotCreateUserDatabase));
+        });
+}
+
+void MainFrame::TellStop(const QString& text, std::function<void()> then)
+{
+    ShowMessage(this, text, MessageIcon::Stop, MessageButtons::Ok, [then](MessageAnswer) {
+        if (then)
+            then();
+    });
+}
+
+} // namespace Quillory

@@ -1,0 +1,78 @@
+#include "app/plain_pages.h"
+
+#include "res/dialog_table.h"
+#include "res/string_table.h"
+#include "widgets/icon_set.h"
+#include "widgets/measures.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kLargeIcon = 64;
+constexpr int kMaxTextWidth = 480;
+
+QLabel* NewIconLabel(const QWidget* page)
+{
+    auto* label = new QLabel;
+    label->setPixmap(
+        ApplicationIcon().pixmap(QSize(kLargeIcon, kLargeIcon), page->devicePixelRatioF()));
+    label->setAlignment(Qt::AlignCenter);
+    return label;
+}
+
+QLabel* NewTextLabel(const QString& text)
+{
+    auto* label = new QLabel(text);
+    label->setAlignment(Qt::AlignCenter);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setMaximumWidth(kMaxTextWidth);
+    label->setMargin(kPageMargin);
+    return label;
+}
+
+/// One below the other, a little above the middle of the page.
+void AddCentred(QVBoxLayout& body, std::initializer_list<QWidget*> widgets)
+{
+    body.addStretch(2);
+    for (QWidget* widget : widgets) {
+        auto* line = new QHBoxLayout;
+        line->addStretch();
+        line->addWidget(widget, 1);
+        line->addStretch();
+        body.addLayout(line);
+    }
+    body.addStretch(3);
+}
+
+} // namespace
+
+WelcomePage::WelcomePage(QWidget* parent)
+    : Page(DialogTitle(Dialog::Welcome), parent)
+{
+    setObjectName(u"WelcomePage"_s);
+    AddCentred(*Body(), { NewIconLabel(this), NewTextLabel(LoadText(Text::Welcome)) });
+}
+
+AboutPage::AboutPage(QWidget* parent)
+    : Page(LoadText(Text::Caption), parent)
+{
+    setObjectName(u"AboutPage"_s);
+    QLabel* name = NewTextLabel(LoadText(Text::Caption));
+    QFont font = name->font();
+    font.setPointSizeF(font.pointSizeF() * 1.6);
+    font.setBold(true);
+    name->setFont(font);
+    QLabel* version
+        = NewTextLabel(LoadText(Text::Version) + u' ' + ControlText(Control::VersionText));
+    version->setObjectName(u"VersionText"_s);
+    AddCentred(*Body(), { NewIconLabel(this), name, version });
+}
+
+} // namespace Quillory

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "widgets/page.h"
+
+namespace Quillory {
+
+/// Asks for a place for the data file; ends with a tap on OK.
+class WelcomePage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit WelcomePage(QWidget* parent = nullptr);
+};
+
+/// The name of the program and its version.
+class AboutPage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit AboutPage(QWidget* parent = nullptr);
+};
+
+} // namespace Quillory

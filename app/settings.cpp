@@ -1,0 +1,91 @@
+#include "app/settings.h"
+
+#include "platform/code_page.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint32 kVersion = 100;
+constexpr qsizetype kMaxPathLength = 260;
+/// A file larger than this was not written here and is not read.
+constexpr qint64 kMaxFileSize = 256LL * 1024;
+
+constexpr auto kVersionKey = "Version"_L1;
+constexpr auto kPathKey = "DbPath"_L1;
+constexpr auto kOptionsKey = "Options"_L1;
+constexpr auto kOrientationKey = "ListOrientation"_L1;
+constexpr auto kGeometryKey = "WindowGeometry"_L1;
+constexpr auto kCodePageKey = "CodePage"_L1;
+
+quint32 ReadNumber(const QSettings& file, QLatin1StringView key, quint32 fallback)
+{
+    bool isNumber = false;
+    const quint32 number = file.value(key).toString().toUInt(&isNumber);
+    return isNumber ? number : fallback;
+}
+
+QString ReadPath(const QSettings& file)
+{
+    const QString path = file.value(kPathKey).toString();
+    return path.size() > kMaxPathLength || path.contains(QChar(u'\0')) ? QString() : path;
+}
+
+std::optional<int> ReadCodePage(const QSettings& file)
+{
+    bool isNumber = false;
+    const int number = file.value(kCodePageKey).toString().toInt(&isNumber);
+    return isNumber && CodePage::For(number) ? std::optional(number) : std::nullopt;
+}
+
+} // namespace
+
+QString SettingsPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+        + u"/quillory/quillory.conf"_s;
+}
+
+void ReadSettings(const QString& path, Settings& settings)
+{
+    const QFileInfo info(path);
+    const AppOptions inMemory = settings.Options;
+    settings = {};
+    if (!info.exists()) {
+        settings.Options = inMemory;
+        return;
+    }
+    // A pipe in the file's place would hold the start up for ever.
+    if (!info.isFile() || info.size() > kMaxFileSize)
+        return;
+    const QSettings file(path, QSettings::IniFormat);
+    settings.DbPath = ReadPath(file);
+    settings.Options = AppOptions(ReadNumber(file, kOptionsKey, 0));
+    settings.ListOrientation = ReadNumber(file, kOrientationKey, kLandscapeRightHanded);
+    settings.windowGeometry = file.value(kGeometryKey).toByteArray();
+    settings.codePage = ReadCodePage(file);
+}
+
+void WriteSettings(const QString& path, const Settings& settings)
+{
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        return;
+    QDir().mkpath(info.absolutePath());
+    QSettings file(path, QSettings::IniFormat);
+    file.setValue(kVersionKey, kVersion);
+    file.setValue(kPathKey, settings.DbPath);
+    file.setValue(kOptionsKey, static_cast<quint32>(settings.Options.to_ulong()));
+    file.setValue(kOrientationKey, settings.ListOrientation);
+    file.setValue(kGeometryKey, settings.windowGeometry);
+    file.sync();
+}
+
+} // namespace Quillory

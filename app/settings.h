@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <bitset>
+#include <optional>
+
+namespace Quillory {
+
+/// The option bits of the settings, by their index. An index of 32 or more throws
+/// std::out_of_range.
+using AppOptions = std::bitset<32>;
+
+constexpr size_t kLandscapeOption = 0;
+constexpr size_t kReadOnlyOption = 1;
+constexpr size_t kAlternateColourOption = 2;
+
+/// The rotation of the screen that landscape display asks for.
+constexpr quint32 kLandscapeRightHanded = 1;
+constexpr quint32 kLandscapeLeftHanded = 4;
+
+/// What the program remembers from one start to the next.
+struct Settings
+{
+    /// The full path of the data file; empty until one was chosen.
+    QString DbPath;
+    AppOptions Options;
+    quint32 ListOrientation = kLandscapeRightHanded;
+    /// As the window toolkit wrote it; empty before the first end of the program.
+    QByteArray windowGeometry;
+    /// Overrides the code page of the locale for reading text files; set by hand in the file.
+    std::optional<int> codePage;
+};
+
+/// quillory/quillory.conf in the user's folder of settings.
+[[nodiscard]] QString SettingsPath();
+
+/// Takes the settings of a file over. What is missing, damaged or foreign in it becomes the
+/// default; where there is no file at all, `settings.Options` stays as it is.
+void ReadSettings(const QString& path, Settings& settings);
+
+/// Writes everything but the code page, which is the user's own line. A file that cannot be written
+/// stays as it is.
+void WriteSettings(const QString& path, const Settings& settings);
+
+} // namespace Quillory

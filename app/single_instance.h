@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QLocalServer>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+class QLocalSocket;
+
+namespace Quillory {
+
+/// What a second start asks of the running program.
+struct StartRequest
+{
+    /// The list to open; empty to come to the front only.
+    QString listName;
+    /// The desktop's permission to come to the front; empty if there is none.
+    QString activationToken;
+};
+
+/// How the running program answered.
+enum class StartAnswer
+{
+    Done,
+    UnknownList,
+};
+
+/// Says on standard error that there is no list so named.
+void NoteUnknownList(const QString& name);
+
+/// Keeps the program to one process per user: a lock file tells who is first, and a local socket
+/// beside it brings the requests of later starts to the first one.
+class SingleInstance : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `folder` belongs to this user alone; empty if there is none, and every start is the only
+    /// one.
+    explicit SingleInstance(const QString& folder, QObject* parent = nullptr);
+    ~SingleInstance() override;
+
+    /// The folder for lock and socket in the runtime folder, or else in the temporary one; made if
+    /// missing. Empty if neither can be had or another user could reach into it.
+    [[nodiscard]] static QString Folder();
+
+    enum class Outcome
+    {
+        /// This process is the only one, or no other could be reached.
+        Alone,
+        HandedOver,
+        HandedOverUnknownList,
+        /// The running program took the request and has not answered yet.
+        HandedOverUnanswered,
+    };
+    /// Becomes the first process, or hands `request` to the one that is. Takes 2.5 seconds where
+    /// there is another that cannot be reached.
+    [[nodiscard]] Outcome Start(const StartRequest& request);
+
+    /// Who carries requests out.
+    using Handler = std::function<StartAnswer(const StartRequest&)>;
+    void SetHandler(Handler handler);
+
+private:
+    QString m_folder;
+    int m_lock = -1;
+    QLocalServer m_server;
+    Handler m_handler;
+
+    [[nodiscard]] bool TakeLock();
+    void Listen();
+    [[nodiscard]] std::optional<Outcome> HandOver(const StartRequest& request) const;
+    void AcceptConnections();
+    void ReadRequest(QLocalSocket* socket);
+};
+
+} // namespace Quillory

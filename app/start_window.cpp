@@ -1,0 +1,99 @@
+#include "app/start_window.h"
+
+#include "app/main_frame.h"
+#include "app/settings.h"
+#include "app/single_instance.h"
+#include "widgets/icon_set.h"
+
+#include <QApplication>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <string_view>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
+
+/// Whether there is a place for a window; the toolkit would end the process with a core dump.
+bool HasDisplay(int argumentCount, char** argumentValues)
+{
+    for (const char* name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" }) {
+        if (!qEnvironmentVariableIsEmpty(name))
+            return true;
+    }
+    return std::any_of(argumentValues, argumentValues + argumentCount,
+        [](std::string_view argument) { return argument.ends_with("-platform"); });
+}
+
+/// The permission to come to the front that the desktop gave this start. An application object
+/// takes it out of the environment.
+QString ActivationToken()
+{
+    QString token;
+    for (const char* name : { "DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN" }) {
+        if (qEnvironmentVariableIsSet(name))
+            token = qEnvironmentVariable(name);
+    }
+    return token;
+}
+
+int ExitCodeOf(SingleInstance::Outcome outcome, const QString& listName)
+{
+    if (outcome == SingleInstance::Outcome::HandedOverUnknownList)
+        NoteUnknownList(listName);
+    if (outcome == SingleInstance::Outcome::HandedOverUnanswered)
+        std::fputs("quillory: the open window is busy and will answer later\n", stderr);
+    return kDone;
+}
+
+} // namespace
+
+int RunWindow(int argumentCount, char** argumentValues)
+{
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+    if (!HasDisplay(argumentCount, argumentValues)) {
+        std::fputs("quillory: there is no display to open a window on; \"quillory --help\" lists "
+                   "the commands that need none\n",
+            stderr);
+        return kFailed;
+    }
+    const QString token = ActivationToken();
+    const QApplication app(argumentCount, argumentValues);
+    QApplication::setApplicationName(u"quillory"_s);
+    QApplication::setApplicationDisplayName(u"Quillory"_s);
+    QApplication::setApplicationVersion(QStringLiteral(QUILLORY_VERSION));
+    QApplication::setDesktopFileName(u"quillory"_s);
+    QApplication::setWindowIcon(ApplicationIcon());
+
+    QStringList operands = QApplication::arguments().mid(1);
+    operands.removeOne(u"--"_s);
+    if (operands.size() > 1) {
+        std::fputs("quillory: one list can be named at most\n", stderr);
+        return kWrongUsage;
+    }
+    const StartRequest request { operands.value(0), token };
+    SingleInstance instance(SingleInstance::Folder());
+    const SingleInstance::Outcome outcome = instance.Start(request);
+    if (outcome != SingleInstance::Outcome::Alone)
+        return ExitCodeOf(outcome, request.listName);
+
+    MainFrame frame(SettingsPath());
+    instance.SetHandler(
+        [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
+    frame.show();
+    // After the window is on the screen.
+    QMetaObject::invokeMethod(
+        &frame, [&frame, &request] { frame.OpenDataFile(request.listName); }, Qt::QueuedConnection);
+    return QApplication::exec();
+}
+
+} // namespace Quillory

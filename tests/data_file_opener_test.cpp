@@ -1,0 +1,216 @@
+#include "app/data_file_opener.h"
+#include "tests/volume_fixture.h"
+
+#include <QQueue>
+#include <QTest>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Outcome = DataFileOpener::Outcome;
+
+/// A start whose questions are answered from a list, and what came of it.
+class Start
+{
+public:
+    QString Path(const QString& name = u"data.idb"_s) const { return m_folder.filePath(name); }
+    void WriteFile(const QString& name, const QByteArray& content)
+    {
+        QFile file(Path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    void Run()
+    {
+        DataFileOpener opener(m_catalogue, settings, Answering(), [this](Outcome end) {
+            outcome = end;
+            ++ends;
+        });
+        opener.Start();
+    }
+    /// Ends the program as far as the data file goes.
+    void End() { static_cast<void>(m_volume.Unmount()); }
+    bool IsOpen() const { return m_volume.IsMounted(); }
+
+    Settings settings;
+    QQueue<MessageAnswer> answers;
+    QString chosen;
+    std::function<void()> beforeAnswer;
+
+    QStringList shown;
+    std::optional<Outcome> outcome;
+    int ends = 0;
+
+private:
+    QTemporaryDir m_folder;
+    DataVolume m_volume;
+    ListCatalogue m_catalogue { m_volume };
+
+    DataFileOpener::Prompts Answering()
+    {
+        return {
+            [this](const auto& then) {
+                shown << u"welcome"_s;
+                then();
+            },
+            [this](const auto& then) {
+                shown << u"chooser"_s;
+                then(chosen);
+            },
+            [this](const QString& text, MessageIcon, MessageButtons buttons, const auto& then) {
+                shown << text.section(u' ', 0, 4);
+                if (beforeAnswer)
+                    beforeAnswer();
+                then(buttons == MessageButtons::Ok ? MessageAnswer::Ok : answers.dequeue());
+            },
+        };
+    }
+};
+
+const QString kNoFile = u"The data file cannot be"_s;
+const QString kNoFolder = u"Quillory is unable to open"_s;
+const QString kFailure = u"Unable to open data file."_s;
+
+class DataFileOpenerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFirstStartMakesTheChosenFile();
+    void anExistingFileChosenAtTheFirstStartIsOpenedAsItIs();
+    void choosingNothingEndsTheProgram();
+    void aFileThatIsNoDataFileIsRefusedAndForgotten();
+    void aMissingFileIsAskedAbout_data();
+    void aMissingFileIsAskedAbout();
+    void aMissingFolderIsLookedForAgain();
+};
+
+void DataFileOpenerTest::theFirstStartMakesTheChosenFile()
+{
+    Start start;
+    start.chosen = start.Path();
+    start.Run();
+    QCOMPARE(start.shown, QStringList({ u"welcome"_s, u"chooser"_s }));
+    QCOMPARE(start.outcome, Outcome::Opened);
+    QCOMPARE(start.settings.DbPath, start.Path());
+    QVERIFY(QFile::exists(start.Path()));
+
+    start.End();
+    start.shown.clear();
+    start.Run();
+    QCOMPARE(start.shown, QStringList());
+    QVERIFY(start.IsOpen());
+    QCOMPARE(start.ends, 2);
+}
+
+void DataFileOpenerTest::anExistingFileChosenAtTheFirstStartIsOpenedAsItIs()
+{
+    Start start;
+    start.chosen = start.Path();
+    {
+        DataVolume volume;
+        QCOMPARE(volume.Mount(start.Path(), Disposition::OpenAlways), ErrorNumber::None);
+        ListCatalogue catalogue(volume);
+        QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
+        InventoryList list = NewInventoryList();
+        list.Name = u"Pantry"_s;
+        QVERIFY(catalogue.CreateList(list).isCommitted);
+    }
+    start.Run();
+    QCOMPARE(start.outcome, Outcome::Opened);
+    start.End();
+    DataVolume volume;
+    QCOMPARE(volume.Mount(start.Path(), Disposition::OpenExisting), ErrorNumber::None);
+    ListCatalogue catalogue(volume);
+    QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
+    QVERIFY(catalogue.FindList(u"Pantry"_s) != kNoObject);
+}
+
+void DataFileOpenerTest::choosingNothingEndsTheProgram()
+{
+    Start start;
+    start.Run();
+    QCOMPARE(start.outcome, Outcome::NothingChosen);
+    QCOMPARE(start.settings.DbPath, QString());
+}
+
+void DataFileOpenerTest::aFileThatIsNoDataFileIsRefusedAndForgotten()
+{
+    Start start;
+    const QByteArray content(5000, 'x');
+    start.WriteFile(u"letter.txt"_s, content);
+    start.chosen = start.Path(u"letter.txt"_s);
+    start.Run();
+    QCOMPARE(start.shown.last(), kFailure);
+    QCOMPARE(start.outcome, Outcome::Failed);
+    QCOMPARE(start.settings.DbPath, QString());
+
+    // As the data file of earlier starts it stays named: it may be mended.
+    start.settings.DbPath = start.chosen;
+    start.Run();
+    QCOMPARE(start.settings.DbPath, start.chosen);
+    QFile file(start.chosen);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), content);
+}
+
+void DataFileOpenerTest::aMissingFileIsAskedAbout_data()
+{
+    using Answers = QQueue<MessageAnswer>;
+    const auto queue = [](std::initializer_list<MessageAnswer> answers) {
+        Answers result;
+        result.append(QList<MessageAnswer>(answers));
+        return result;
+    };
+    QTest::addColumn<Answers>("answers");
+    QTest::addColumn<Outcome>("outcome");
+    QTest::addColumn<bool>("isMade");
+    QTest::newRow("Yes") << queue({ MessageAnswer::Yes }) << Outcome::Opened << true;
+    QTest::newRow("No, then Yes") << queue({ MessageAnswer::No, MessageAnswer::Yes })
+                                  << Outcome::Opened << true;
+    QTest::newRow("No, then Cancel")
+        << queue({ MessageAnswer::No, MessageAnswer::Cancel }) << Outcome::Failed << false;
+}
+
+void DataFileOpenerTest::aMissingFileIsAskedAbout()
+{
+    QFETCH(QQueue<MessageAnswer>, answers);
+    QFETCH(bool, isMade);
+    Start start;
+    start.settings.DbPath = start.Path();
+    start.answers = answers;
+    start.Run();
+    QCOMPARE(start.shown, QStringList(answers.size(), kNoFile));
+    QTEST(*start.outcome, "outcome");
+    QCOMPARE(QFile::exists(start.Path()), isMade);
+    QCOMPARE(start.settings.DbPath, start.Path());
+}
+
+void DataFileOpenerTest::aMissingFolderIsLookedForAgain()
+{
+    Start start;
+    start.settings.DbPath = start.Path(u"card/data.idb"_s);
+    start.answers.append({ MessageAnswer::Retry, MessageAnswer::Retry, MessageAnswer::Yes });
+    start.beforeAnswer = [&start] {
+        if (start.shown.size() == 2)
+            QVERIFY(QDir().mkpath(start.Path(u"card"_s)));
+    };
+    start.Run();
+    QCOMPARE(start.shown, QStringList({ kNoFolder, kNoFolder, kNoFile }));
+    QCOMPARE(start.outcome, Outcome::Opened);
+
+    Start cancelled;
+    cancelled.settings.DbPath = cancelled.Path(u"card/data.idb"_s);
+    cancelled.answers.append(MessageAnswer::Cancel);
+    cancelled.Run();
+    QCOMPARE(cancelled.outcome, Outcome::Failed);
+    QVERIFY(!QFile::exists(cancelled.settings.DbPath));
+}
+
+} // namespace
+
+QTEST_GUILESS_MAIN(DataFileOpenerTest)
+
+#include "data_file_opener_test.moc"
