@@ -3,9 +3,9 @@
 #include "listdef/new_list_page.h"
 #include "res/string_table.h"
 #include "rows/rows_view.h"
+#include "widgets/wait_cursor.h"
 
 #include <QApplication>
-#include <QScopeGuard>
 
 namespace Quillory {
 
@@ -32,21 +32,22 @@ void MainFrame::OpenSelectedList()
 
 void MainFrame::OpenList(ObjectId oid)
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto restoreCursor = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
+    const WaitCursor wait;
     m_list = {};
     if (!m_catalogue.OpenList(oid, m_list))
         return;
     m_openList = oid;
     m_rows = std::make_unique<RowStore>(m_volume, m_list, m_context);
-    auto* view = new RowsView(*m_rows, m_list, m_context);
+    const RowsViewOptions options { m_settings.Options.test(kReadOnlyOption),
+        m_settings.Options.test(kAlternateColourOption) };
+    auto* view = new RowsView(*m_rows, m_list, m_context, options);
     m_pages->Push(view, [this](PageResult) { CloseList(); });
 }
 
 void MainFrame::CloseList()
 {
+    // The rows stay behind: the page that is leaving still refers to them.
     m_catalogue.UpdateListOptions(m_openList, m_list);
-    m_rows.reset();
     m_catalogue.CloseRows();
     m_volume.Flush();
     m_openList = kNoObject;
