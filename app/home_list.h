@@ -33,6 +33,9 @@ public:
     /// Gives the lines the keyboard.
     void FocusLines();
 
+    /// The first page is never left.
+    void RequestEnd(PageResult /*result*/) override { }
+
 Q_SIGNALS:
     /// The selected list is to be opened.
     void ListChosen();

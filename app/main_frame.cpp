@@ -3,13 +3,13 @@
 #include "app/home_list.h"
 #include "app/plain_pages.h"
 #include "res/string_table.h"
+#include "widgets/window_style.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QStandardPaths>
-#include <QVBoxLayout>
 
 namespace Quillory {
 
@@ -50,7 +50,7 @@ const MainFrame::CommandEntry MainFrame::kCommands[] {
 };
 
 MainFrame::MainFrame(const QString& settingsPath, QWidget* parent)
-    : QWidget(parent)
+    : QMainWindow(parent)
     , m_settingsPath(settingsPath)
     , m_context(ValueContext::FromEnvironment())
     , m_pages(new PageStack(this))
@@ -63,9 +63,8 @@ MainFrame::MainFrame(const QString& settingsPath, QWidget* parent)
     }
     m_chooser = [this](const auto& then) { ChooseDataFile(then); };
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(m_pages);
+    setCentralWidget(m_pages);
+    ApplyWindowStyle(this);
     BuildHome();
     RestoreWindow();
 }

@@ -8,7 +8,7 @@
 #include "values/value_text.h"
 #include "widgets/page_stack.h"
 
-#include <QWidget>
+#include <QMainWindow>
 
 #include <memory>
 
@@ -17,7 +17,7 @@ namespace Quillory {
 class HomeList;
 
 /// The program's one window: the home list, and above it the pages that its commands open.
-class MainFrame : public QWidget
+class MainFrame : public QMainWindow
 {
     Q_OBJECT
 

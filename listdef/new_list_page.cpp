@@ -67,6 +67,7 @@ void NewListPage::BuildCommands()
     connect(this, &Page::MenuAboutToOpen, this, &NewListPage::UpdateCommands);
     connect(m_columns, &QAbstractItemModel::rowsInserted, this, &NewListPage::UpdateCommands);
     connect(m_columns, &QAbstractItemModel::rowsRemoved, this, &NewListPage::UpdateCommands);
+    connect(m_columns, &QAbstractItemModel::rowsMoved, this, &NewListPage::UpdateCommands);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
         &NewListPage::UpdateCommands);
     UpdateCommands();

@@ -3,7 +3,6 @@
 #include "widgets/measures.h"
 
 #include <QAction>
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -16,29 +15,10 @@ namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QFrame* MakeRule(QWidget* parent)
-{
-    auto* rule = new QFrame(parent);
-    rule->setFrameShape(QFrame::HLine);
-    rule->setFrameShadow(QFrame::Plain);
-    rule->setForegroundRole(QPalette::Mid);
-    rule->setFixedHeight(1);
-    return rule;
-}
-
-QFont Bold(QFont font)
-{
-    font.setBold(true);
-    return font;
-}
-
-} // namespace
-
 Page::Page(const QString& title, QWidget* parent)
     : QWidget(parent)
 {
+    setAttribute(Qt::WA_StyledBackground);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -48,25 +28,25 @@ Page::Page(const QString& title, QWidget* parent)
     m_body->setSpacing(0);
     layout->addLayout(m_body, 1);
     m_softKeys = new QWidget(this);
+    m_softKeys->setAttribute(Qt::WA_StyledBackground);
     m_softKeys->setObjectName(u"softKeys"_s);
     m_softKeys->hide();
     layout->addWidget(m_softKeys);
-    FollowPalette();
 }
 
 void Page::BuildHeader(const QString& title)
 {
     m_header = new QWidget(this);
+    m_header->setAttribute(Qt::WA_StyledBackground);
     m_header->setObjectName(u"header"_s);
-    auto* layout = new QVBoxLayout(m_header);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    auto* line = new QHBoxLayout;
+    auto* line = new QHBoxLayout(m_header);
     line->setContentsMargins(kPageMargin, 0, kGrid, 0);
     line->setSpacing(kGrid);
     m_title = new QLabel(title, m_header);
     m_title->setObjectName(u"title"_s);
-    m_title->setFont(Bold(m_title->font()));
+    QFont bold = m_title->font();
+    bold.setBold(true);
+    m_title->setFont(bold);
     m_title->setMinimumWidth(0);
     m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     line->addWidget(m_title, 1);
@@ -80,26 +60,13 @@ void Page::BuildHeader(const QString& title)
     line->addWidget(m_help);
     m_ok = new QPushButton(tr("OK"), m_header);
     m_ok->setObjectName(u"ok"_s);
-    m_ok->setFont(Bold(m_ok->font()));
+    m_ok->setFont(bold);
     m_ok->setAutoDefault(false);
     connect(m_ok, &QPushButton::clicked, this, [this] { RequestEnd(PageResult::Ok); });
     line->addWidget(m_ok);
-    layout->addLayout(line);
-    layout->addWidget(MakeRule(m_header));
     m_header->setFixedHeight(CurrentMeasures().headerHeight + 1);
     m_header->setVisible(!title.isEmpty());
-    static_cast<QVBoxLayout*>(this->layout())->addWidget(m_header);
-}
-
-void Page::FollowPalette()
-{
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, palette().color(QPalette::Highlight));
-    m_title->setPalette(colours);
-    QPalette filled = palette();
-    filled.setColor(QPalette::Button, palette().color(QPalette::Highlight));
-    filled.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
-    m_ok->setPalette(filled);
+    layout()->addWidget(m_header);
 }
 
 QString Page::Title() const
@@ -139,15 +106,16 @@ QAction* Page::ActionOf(Command command)
 
 void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
 {
-    auto* bar = new QVBoxLayout(m_softKeys);
-    bar->setContentsMargins(0, 0, 0, 0);
-    bar->setSpacing(0);
-    bar->addWidget(MakeRule(m_softKeys));
-    auto* halves = new QHBoxLayout;
+    auto* halves = new QHBoxLayout(m_softKeys);
+    halves->setContentsMargins(0, 1, 0, 0);
     halves->setSpacing(0);
-    halves->addWidget(MakeSoftKey(keys.left, {}), 1);
-    halves->addWidget(MakeSoftKey(keys.right, menu), 1);
-    bar->addLayout(halves, 1);
+    QWidget* left = MakeSoftKey(keys.left, {});
+    left->setObjectName(u"leftKey"_s);
+    QWidget* right = MakeSoftKey(keys.right, menu);
+    right->setObjectName(u"rightKey"_s);
+    // Equal halves, whatever their texts.
+    halves->addWidget(left, 1);
+    halves->addWidget(right, 1);
     m_softKeys->setFixedHeight(CurrentMeasures().softKeyHeight);
     m_softKeys->show();
 }
@@ -155,11 +123,10 @@ void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
 QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu)
 {
     auto* button = new QToolButton(m_softKeys);
-    button->setObjectName(u"softKey%1"_s.arg(static_cast<int>(entry.command)));
     button->setText(entry.Text());
-    button->setFont(Bold(button->font()));
+    button->setFocusPolicy(Qt::TabFocus);
     button->setAutoRaise(true);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     button->setEnabled(entry.command != Command::Separator);
     if (entry.command == Command::Separator)
         return button;
@@ -232,13 +199,6 @@ void Page::End(PageResult result)
 void Page::RequestEnd(PageResult result)
 {
     End(result);
-}
-
-void Page::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        FollowPalette();
 }
 
 void Page::keyPressEvent(QKeyEvent* event)

@@ -73,7 +73,6 @@ Q_SIGNALS:
 protected:
     /// The page's own content goes here, between header and soft keys.
     [[nodiscard]] QVBoxLayout* Body() const { return m_body; }
-    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -88,7 +87,6 @@ private:
     void BuildHeader(const QString& title);
     [[nodiscard]] QWidget* MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu);
     void FillMenu(QMenu* menu, std::span<const MenuEntry> entries);
-    void FollowPalette();
 };
 
 } // namespace Quillory

@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace Quillory {
+
+/// Gives a window and everything in it the program's look: flat, hairlines, one accent. All colours
+/// are roles of the palette, so that they follow the desktop.
+void ApplyWindowStyle(QWidget* window);
+
+} // namespace Quillory
