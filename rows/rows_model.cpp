@@ -129,19 +129,21 @@ Qt::Alignment RowsModel::AlignmentOf(int column) const
 
 QString RowsModel::AccessibleText(int line, int column) const
 {
-    const QString text = Shown(line).texts[static_cast<size_t>(column)];
     if (IsCheckbox(column))
         return IsChecked(line, column) ? m_context.checkedText : m_context.uncheckedText;
-    if (ColumnId(column) != PropName)
-        return text;
+    return Shown(line).texts[static_cast<size_t>(column)];
+}
+
+QString RowsModel::WarningText(int line) const
+{
     const auto today = DateToFileTime(m_context.clock().date).value_or(FileTime {});
     const RowWarnings warnings = WarningsFor(FactsOf(line), m_list, today);
-    QStringList parts { text };
+    QStringList words;
     if (warnings.isLow)
-        parts << tr("low");
+        words << tr("low");
     if (warnings.isExpired)
-        parts << tr("expired");
-    return parts.join(u", "_s);
+        words << tr("expired");
+    return words.join(u", "_s);
 }
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const
@@ -155,6 +157,8 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const
         return QVariant(AlignmentOf(index.column()));
     case Qt::AccessibleTextRole:
         return AccessibleText(index.row(), index.column());
+    case Qt::AccessibleDescriptionRole:
+        return WarningText(index.row());
     case Qt::CheckStateRole:
         if (IsCheckbox(index.column()))
             return IsChecked(index.row(), index.column()) ? Qt::Checked : Qt::Unchecked;

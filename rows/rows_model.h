@@ -59,6 +59,8 @@ private:
     [[nodiscard]] PropertyId ColumnId(int column) const;
     [[nodiscard]] Qt::Alignment AlignmentOf(int column) const;
     [[nodiscard]] QString AccessibleText(int line, int column) const;
+    /// The warnings that colours show, in words.
+    [[nodiscard]] QString WarningText(int line) const;
 };
 
 } // namespace Quillory

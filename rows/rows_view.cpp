@@ -5,7 +5,9 @@
 #include "rows/row_delegate.h"
 #include "rows/row_editor_page.h"
 #include "rows/summary_page.h"
+#include "values/column_type.h"
 #include "widgets/line_view.h"
+#include "widgets/measures.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 #include "widgets/touch.h"
@@ -24,8 +26,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kNameWidth = 136;
-constexpr int kColumnWidth = 80;
+/// What a column of a type has room for until somebody sets its width.
+QString SampleText(ColumnType type)
+{
+    switch (type) {
+    case ColumnType::String:
+        return u"an ordinary name"_s;
+    case ColumnType::Checkbox:
+        return u"xxxx"_s;
+    case ColumnType::Price:
+        return u"1,000.00"_s;
+    case ColumnType::Integer:
+        return u"10000"_s;
+    case ColumnType::Date:
+        return u"00/00/0000"_s;
+    }
+    return {};
+}
+
 /// Wider columns are no work of a person's hand.
 constexpr int kMaxWidth = 10000;
 
@@ -99,8 +117,13 @@ void RowsView::BuildCommands()
 void RowsView::ApplyLayout()
 {
     QHeaderView* header = m_view->horizontalHeader();
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        header->resizeSection(column, column == 0 ? kNameWidth : kColumnWidth);
+    const QFontMetrics metrics(m_view->font());
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        const ColumnDefinition& definition = m_list.columns[static_cast<size_t>(column)];
+        const int text = metrics.horizontalAdvance(SampleText(ColumnTypeOf(definition.id)));
+        const int title = metrics.horizontalAdvance(definition.name);
+        header->resizeSection(column, std::max(text, title) + 2 * kGrid + kGrid / 2);
+    }
     const QStringList widths = m_list.TableColSizes.split(u',', Qt::SkipEmptyParts);
     for (int column = 0; column < std::min<int>(static_cast<int>(widths.size()), header->count());
          ++column) {

@@ -2,8 +2,12 @@
 
 #include "res/string_table.h"
 
+#include <QEvent>
+#include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 
+#include <algorithm>
 #include <utility>
 
 namespace Quillory {
@@ -63,13 +67,46 @@ MessageAnswer AnswerOf(int button)
     }
 }
 
+/// A message box that is never wider than the window it stands over.
+class FittingBox : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void showEvent(QShowEvent* event) override
+    {
+        QMessageBox::showEvent(event);
+        auto* label = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        if (parentWidget() == nullptr || label == nullptr || width() <= parentWidget()->width())
+            return;
+        const int room = label->width() - (width() - parentWidget()->width());
+        m_isFitted = true;
+        label->setWordWrap(true);
+        label->setFixedWidth(std::max(room, kLeastText));
+        layout()->activate();
+        setFixedSize(layout()->sizeHint().width(), layout()->totalHeightForWidth(width()));
+    }
+    bool event(QEvent* event) override
+    {
+        // The box would lay its text out in one line again.
+        if (m_isFitted && event->type() == QEvent::LayoutRequest)
+            return QDialog::event(event);
+        return QMessageBox::event(event);
+    }
+
+private:
+    static constexpr int kLeastText = 120;
+    bool m_isFitted = false;
+};
+
 } // namespace
 
 void ShowMessage(QWidget* parent, const QString& text, MessageIcon icon, MessageButtons buttons,
     std::function<void(MessageAnswer)> then)
 {
     const BoxButtons boxButtons = ButtonsOf(buttons);
-    auto* box = new QMessageBox(BoxIcon(icon), LoadText(Text::Caption), text, boxButtons.buttons,
+    auto* box = new FittingBox(BoxIcon(icon), LoadText(Text::Caption), text, boxButtons.buttons,
         parent == nullptr ? nullptr : parent->window());
     box->setObjectName(QStringLiteral("messageBox"));
     box->setTextFormat(Qt::PlainText);

@@ -134,8 +134,12 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
         auto* popup = new QMenu(button);
         FillMenu(popup, menu);
         connect(popup, &QMenu::aboutToShow, this, &Page::MenuAboutToOpen);
-        button->setMenu(popup);
-        button->setPopupMode(QToolButton::InstantPopup);
+        connect(button, &QToolButton::clicked, popup, [button, popup] {
+            // Upward from the key, within the window, wherever that stands.
+            const QSize size = popup->sizeHint();
+            popup->popup(
+                button->mapToGlobal(QPoint(button->width() - size.width(), -size.height())));
+        });
         return button;
     }
     QAction* action = ActionOf(entry.command);

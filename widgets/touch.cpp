@@ -1,6 +1,7 @@
 #include "widgets/touch.h"
 
 #include <QAbstractItemView>
+#include <QContextMenuEvent>
 #include <QGestureEvent>
 #include <QMouseEvent>
 #include <QScroller>
@@ -21,7 +22,10 @@ TouchBehaviour::TouchBehaviour(QAbstractItemView* view)
 
 bool TouchBehaviour::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Gesture) {
+    // The right button opens its menu at once; that it is held must not open a second one.
+    if (event->type() == QEvent::MouseButtonPress)
+        m_isHoldMeant = static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (event->type() == QEvent::Gesture && m_isHoldMeant) {
         auto* gestures = static_cast<QGestureEvent*>(event);
         auto* hold = static_cast<QTapAndHoldGesture*>(gestures->gesture(Qt::TapAndHoldGesture));
         if (hold != nullptr && hold->state() == Qt::GestureFinished) {
@@ -31,21 +35,12 @@ bool TouchBehaviour::eventFilter(QObject* watched, QEvent* event)
         }
     }
     if (event->type() == QEvent::ContextMenu) {
-        // The menu key; a mouse's button and a finger come as Held from elsewhere.
         const auto* menu = static_cast<QContextMenuEvent*>(event);
         if (menu->reason() == QContextMenuEvent::Keyboard)
             Q_EMIT Held(m_view->visualRect(m_view->currentIndex()).center());
+        else if (menu->reason() == QContextMenuEvent::Mouse)
+            Q_EMIT Held(menu->pos());
         return true;
-    }
-    if (event->type() == QEvent::MouseButtonPress) {
-        const auto* press = static_cast<QMouseEvent*>(event);
-        if (press->button() == Qt::RightButton) {
-            const QModelIndex index = m_view->indexAt(press->position().toPoint());
-            if (index.isValid())
-                m_view->setCurrentIndex(index);
-            Q_EMIT Held(press->position().toPoint());
-            return true;
-        }
     }
     return QObject::eventFilter(watched, event);
 }

@@ -26,6 +26,7 @@ Q_SIGNALS:
 
 private:
     QAbstractItemView* m_view;
+    bool m_isHoldMeant = true;
 };
 
 } // namespace Quillory
