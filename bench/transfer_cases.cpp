@@ -25,7 +25,7 @@ namespace {
 
 constexpr DatabaseType kRows = ListCatalogue::kRowsType;
 /// As many rows as the import puts into one transaction.
-constexpr int kFloorBatch = 262144;
+constexpr int kFloorBatch = 200000;
 constexpr double kMaxMegabytes = 64;
 
 const ValueContext& Context()
@@ -197,6 +197,7 @@ double PeakMegabytes(const QStringList& command)
     for (QByteArray& word : words)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
+    std::fflush(nullptr);
     const pid_t process = fork();
     if (process == 0) {
         freopen("/dev/null", "w", stdout);

@@ -57,15 +57,19 @@ Result<void> Cursor::EnterPart(Part part)
 
 Result<bool> Cursor::ReadKey(ObjectId oid)
 {
-    const QString sql = u"SELECT %1 FROM %2 WHERE oid = ?1"_s.arg(
-        QuotedName(m_schema->Find(m_order.key)->columnName), QuotedName(m_schema->tableName));
-    auto select = Statement::Prepare(m_connection, sql);
-    if (!select)
-        return select.Error();
-    select->Bind(1, oid);
-    auto step = select->Step();
+    if (!m_readKey) {
+        const QString sql = u"SELECT %1 FROM %2 WHERE oid = ?1"_s.arg(
+            QuotedName(m_schema->Find(m_order.key)->columnName), QuotedName(m_schema->tableName));
+        auto select = Statement::Prepare(m_connection, sql, true);
+        if (!select)
+            return select.Error();
+        m_readKey = std::move(*select);
+    }
+    m_readKey.Bind(1, oid);
+    const auto step = m_readKey.Step();
     if (step && *step)
-        select->ReadProperty(0, m_key);
+        m_readKey.ReadProperty(0, m_key);
+    m_readKey.Reset();
     return step;
 }
 

@@ -55,6 +55,7 @@ private:
     bool m_isGone = false;
     PropertyValue m_key;
 
+    Statement m_readKey;
     Statement m_walk;
     Part m_part = Part::Over;
     WalkDirection m_direction = WalkDirection::Forward;

@@ -36,20 +36,26 @@ template <typename Key, typename Value>
 std::vector<ObjectId> SortBy(Database& database, const std::vector<ObjectId>& rows,
     PropertyId column, Key (*makeKey)(const Value&))
 {
-    std::vector<SortEntry<Key>> entries(rows.size());
-    for (size_t i = 0; i < entries.size(); ++i)
-        entries[i].position = static_cast<quint32>(i);
+    std::vector<SortEntry<Key>> entries;
+    entries.reserve(rows.size());
+    std::vector<bool> isRead(rows.size());
     const RowPositions positions(rows);
     const auto read = database.Scan(std::span(&column, 1), ScanOrder::Any,
         [&](ObjectId oid, std::span<const PropertyValue> values) {
             const quint32 position = positions.Find(oid);
+            if (position == RowPositions::kNowhere)
+                return true;
             const auto* value = std::get_if<Value>(&values.front().value);
-            if (position != RowPositions::kNowhere && value != nullptr)
-                entries[position].key = makeKey(*value);
+            entries.push_back({ value == nullptr ? Key {} : makeKey(*value), position });
+            isRead[position] = true;
             return true;
         });
     if (!read)
         return rows;
+    for (size_t i = 0; entries.size() < rows.size() && i < rows.size(); ++i) {
+        if (!isRead[i])
+            entries.push_back({ Key {}, static_cast<quint32>(i) });
+    }
     std::sort(entries.begin(), entries.end());
     std::vector<ObjectId> sorted;
     sorted.reserve(rows.size());

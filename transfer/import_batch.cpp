@@ -17,16 +17,27 @@ void ImportBatch::Add(std::span<const QStringView> fields)
 {
     // Memory that is reserved and not used costs nothing; memory that moves costs twice.
     m_text.reserve(m_limits.text);
-    Line line { m_text.size(), m_text.size(), 0 };
+    Line line;
+    line.begin = static_cast<quint32>(m_text.size());
     for (size_t i = 0; i < fields.size(); ++i) {
-        if (i == m_nameField) {
-            line.nameBegin = m_text.size();
-            line.nameLength = static_cast<size_t>(fields[i].size());
-        }
+        if (i == m_nameField)
+            NoteName(line, fields[i]);
         m_text.insert(m_text.end(), fields[i].utf16(), fields[i].utf16() + fields[i].size());
         m_text.push_back(i + 1 < fields.size() ? kFieldSeparator : u'\0');
     }
     m_lines.push_back(line);
+}
+
+void ImportBatch::NoteName(Line& line, QStringView name) const
+{
+    constexpr int kPrefixUnits = 4;
+    constexpr int kUnitBits = 16;
+    line.nameBegin = static_cast<quint32>(m_text.size());
+    line.nameLength = static_cast<quint32>(name.size());
+    for (int i = 0; i < kPrefixUnits; ++i) {
+        const quint64 unit = i < name.size() ? name[i].unicode() : 0;
+        line.prefix = line.prefix << kUnitBits | unit;
+    }
 }
 
 bool ImportBatch::IsFull() const
@@ -53,15 +64,21 @@ void ImportBatch::CutLine(const Line& line, std::vector<QStringView>& fields) co
     }
 }
 
+bool ImportBatch::StandsBefore(const Line& a, const Line& b) const
+{
+    // A field is never empty: a line without a name comes last, as its row does.
+    if ((a.nameLength == 0) != (b.nameLength == 0))
+        return b.nameLength == 0;
+    if (a.prefix != b.prefix)
+        return a.prefix < b.prefix;
+    const int order = NameOf(a).compare(NameOf(b));
+    return order != 0 ? order < 0 : a.begin < b.begin;
+}
+
 void ImportBatch::Drain(const std::function<bool(std::span<const QStringView> fields)>& visit)
 {
-    std::sort(m_lines.begin(), m_lines.end(), [this](const Line& a, const Line& b) {
-        // A field is never empty: a line without a name comes last, as its row does.
-        if ((a.nameLength == 0) != (b.nameLength == 0))
-            return b.nameLength == 0;
-        const int order = NameOf(a).compare(NameOf(b));
-        return order != 0 ? order < 0 : a.begin < b.begin;
-    });
+    std::sort(m_lines.begin(), m_lines.end(),
+        [this](const Line& a, const Line& b) { return StandsBefore(a, b); });
     std::vector<QStringView> fields;
     for (const Line& line : m_lines) {
         CutLine(line, fields);

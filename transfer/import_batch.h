@@ -13,9 +13,9 @@ namespace Quillory {
 /// How much of a file is stored in one go; reached or passed by the last line of a batch.
 struct ImportBatchLimits
 {
-    size_t lines = 262'144;
+    size_t lines = 200'000;
     /// Characters; two bytes of memory each.
-    size_t text = 10'000'000;
+    size_t text = 7'000'000;
 };
 
 /// Lines of an import that are stored together, sorted by the row name that they give.
@@ -36,11 +36,14 @@ public:
     void Drain(const std::function<bool(std::span<const QStringView> fields)>& visit);
 
 private:
+    /// Places and lengths in m_text. The first units of the name stand in `prefix`, the first one
+    /// highest, so that most comparisons look no further.
     struct Line
     {
-        size_t begin;
-        size_t nameBegin;
-        size_t nameLength;
+        quint64 prefix = 0;
+        quint32 begin = 0;
+        quint32 nameBegin = 0;
+        quint32 nameLength = 0;
     };
 
     ImportBatchLimits m_limits;
@@ -49,7 +52,9 @@ private:
     std::vector<char16_t> m_text;
     std::vector<Line> m_lines;
 
+    void NoteName(Line& line, QStringView name) const;
     [[nodiscard]] QStringView NameOf(const Line& line) const;
+    [[nodiscard]] bool StandsBefore(const Line& a, const Line& b) const;
     void CutLine(const Line& line, std::vector<QStringView>& fields) const;
 };
 
