@@ -7,6 +7,8 @@
 
 #include <QApplication>
 
+#include <utility>
+
 namespace Quillory {
 
 StartAnswer MainFrame::OpenNamedList(const QString& name)
@@ -103,10 +105,11 @@ void MainFrame::DeleteAllRecords()
 
 void MainFrame::TellStop(const QString& text, std::function<void()> then)
 {
-    ShowMessage(this, text, MessageIcon::Stop, MessageButtons::Ok, [then](MessageAnswer) {
-        if (then)
-            then();
-    });
+    ShowMessage(
+        this, text, MessageIcon::Stop, MessageButtons::Ok, [then = std::move(then)](MessageAnswer) {
+            if (then)
+                then();
+        });
 }
 
 } // namespace Quillory

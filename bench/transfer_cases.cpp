@@ -38,7 +38,7 @@ const ValueContext& Context()
 QString TextFile(int rows)
 {
     const BenchList& list = BenchList::OfSize(rows);
-    const QString path = list.Path() + u".txt"_s;
+    QString path = list.Path() + u".txt"_s;
     if (QFile::exists(path))
         return path;
     QFile file(path);
@@ -194,6 +194,7 @@ double PeakMegabytes(const QStringList& command)
     for (const QString& word : command)
         words.push_back(word.toLocal8Bit());
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (QByteArray& word : words)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);

@@ -60,6 +60,8 @@ struct FileTime
 {
     quint64 ticks = 0;
 
+    // The linter takes the zero that comparisons end in for a pointer.
+    // NOLINTNEXTLINE(modernize-use-nullptr)
     friend auto operator<=>(const FileTime&, const FileTime&) = default;
 };
 
