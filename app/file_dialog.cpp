@@ -29,7 +29,7 @@ void FitToScreen(QFileDialog& dialog)
 } // namespace
 
 void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
-    std::function<void(const QString& path)> then)
+    const std::function<void(const QString& path)>& then)
 {
     auto* dialog = new QFileDialog(
         parent, QString(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));

@@ -29,6 +29,6 @@ struct FileKind
 /// Opens the desktop's file dialog over the window of `parent` and returns at once; `then` is
 /// called with the path, or with an empty one if none was chosen.
 void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
-    std::function<void(const QString& path)> then);
+    const std::function<void(const QString& path)>& then);
 
 } // namespace Quillory

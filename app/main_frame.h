@@ -88,7 +88,7 @@ private:
     void DeleteAllRecords();
     void ExportList();
     void ExportTo(const QString& path);
-    void TellStop(const QString& text, std::function<void()> then = {});
+    void TellStop(const QString& text, const std::function<void()>& then = {});
     void ToggleReadOnly();
     void ShowAbout();
 };
