@@ -15,10 +15,9 @@ namespace {
 
 QString ConditionText(PropertyId column, FilterCondition condition)
 {
-    constexpr int kFirstText = 3000;
-    constexpr int kFirstDateText = 3099;
     const bool isDate = ColumnTypeOf(column) == ColumnType::Date;
-    return LoadString((isDate ? kFirstDateText : kFirstText) + static_cast<int>(condition));
+    const StringId first = isDate ? StringId::DateCondition : StringId::Contains;
+    return LoadString(static_cast<int>(first) + static_cast<int>(condition));
 }
 
 /// Empty where a condition has no sign.

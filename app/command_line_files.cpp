@@ -41,12 +41,11 @@ ImportOutcome ImportFrom(const CommandRun& run, const QString& path, const Impor
 
 void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
 {
-    constexpr int kErrorsText = 115;
     run.output.WriteLine(QString::number(outcome.rows));
     if (outcome.writeError != ErrorNumber::None)
         Fail(u"the rows cannot be stored: %1"_s.arg(ErrorText(outcome.writeError)));
     if (outcome.result == ImportResult::Failed)
-        Fail(LoadString(kErrorsText));
+        Fail(LoadString(StringId::ImportErrors));
 }
 
 std::vector<PropertyId> ColumnOrder(const CommandRun& run, const InventoryList& list)

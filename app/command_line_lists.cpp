@@ -55,9 +55,8 @@ ColumnDefinition ReadColumnDefinition(const QString& text)
     ColumnDefinition column;
     column.name = colon < 0 ? QString() : text.left(colon);
     if (word == kExpiryWord) {
-        constexpr int kExpiryText = 222;
         if (column.name.isEmpty())
-            column.name = LoadString(kExpiryText);
+            column.name = LoadString(StringId::TypeExpiryDate);
         column.id = PropExpiryDate;
     } else {
         const auto known = std::find_if(kTypeWords.begin(), kTypeWords.end(),

@@ -8,7 +8,7 @@ namespace Quillory {
 
 namespace {
 
-constexpr qsizetype kBufferSize = 64 * 1024;
+constexpr qsizetype kBufferSize = 65'536;
 
 } // namespace
 

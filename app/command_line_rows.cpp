@@ -212,9 +212,10 @@ private:
         const qint32 number = count == nullptr ? 0 : *count;
         if ((list.TableOption & kWarnOnCount) != 0 && number <= list.TableWarnStart)
             Print(list, row, u"low"_s, u"low"_s, { u"count"_s, number });
-        if ((list.TableOption & kWarnOnExpiry) == 0 || expiry == nullptr || *expiry > m_limit)
+        if ((list.TableOption & kWarnOnExpiry) == 0 || expiry == nullptr
+            || expiry->ticks > m_limit.ticks)
             return;
-        const bool isExpired = *expiry <= m_today;
+        const bool isExpired = expiry->ticks <= m_today.ticks;
         const QString state = isExpired ? u"expired"_s : u"expiring"_s;
         const QString text = isExpired ? state : CellText(values[2], m_run.environment.context);
         Print(list, row, state, text, { u"date"_s, IsoDate(*expiry) });

@@ -84,7 +84,7 @@ void CommandData::StoreColumnOrder(ObjectId oid)
 
 QString CommandRun::DataFile() const
 {
-    const QString path = parser.isSet(u"data"_s) ? parser.value(u"data"_s) : environment.dataFile;
+    QString path = parser.isSet(u"data"_s) ? parser.value(u"data"_s) : environment.dataFile;
     if (path.isEmpty())
         FailUsage(u"no data file is set; name one with --data FILE"_s);
     return path;

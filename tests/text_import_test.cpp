@@ -102,6 +102,7 @@ private Q_SLOTS:
     void piecesOfAnySizeGiveTheSameRows();
     void exportedRowsComeBack();
     void rowsAreAddedInBatches();
+    void rowsOfOneNameKeepTheOrderOfTheFile();
     void cancellingKeepsTheRowsSoFar();
     void anUnreadableFileKeepsTheRowsBefore();
     void aRowTheStoreRefusesIsPassedOver();
@@ -236,6 +237,14 @@ void TextImportTest::rowsAreAddedInBatches()
     file.Restart();
     file.OpenList(oid);
     QCOMPARE(file.rows->FillRows().size(), size_t { 70'001 });
+}
+
+void TextImportTest::rowsOfOneNameKeepTheOrderOfTheFile()
+{
+    ListFixture file;
+    file.MakeFullList(u"L"_s);
+    QCOMPARE(Import(file, "b\t1\r\na\t2\r\nb\t3\r\na\t4\r\nb\t5\r\n").rows, 5);
+    QCOMPARE(file.Cells(file.rows->FillRows(), 1), u"2 4 1 3 5"_s);
 }
 
 void TextImportTest::cancellingKeepsTheRowsSoFar()

@@ -20,8 +20,9 @@ public:
 
     /// Goes to the next line that gives a value at all. False at the end and on failure.
     bool Next();
-    /// The current row; a date that cannot be read is not among them. Valid until the next call.
-    [[nodiscard]] std::span<const PropertyValue> Values() const { return m_values; }
+    /// The current row, for its reader to move from; a date that cannot be read is not among them.
+    /// Valid until the next call.
+    [[nodiscard]] std::span<PropertyValue> Values() { return m_values; }
 
     [[nodiscard]] bool HasFailed() const { return m_lines.HasFailed(); }
     [[nodiscard]] qint64 BytesRead() const { return m_lines.BytesRead(); }

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Units of text that are gathered before they are written.
-constexpr qsizetype kChunkUnits = 32 * 1024;
+constexpr qsizetype kChunkUnits = 32'768;
 
 /// Gathers text and writes it in chunks. After a failed write it goes on with the next chunk.
 class ChunkWriter

@@ -11,7 +11,7 @@ namespace Quillory {
 
 namespace {
 
-constexpr qsizetype kReadSize = 128 * 1024;
+constexpr qsizetype kReadSize = 131'072;
 /// Characters of the buffer for 8-bit lines; it grows with the longest line.
 constexpr size_t kLineCapacity = 1024;
 
@@ -109,7 +109,7 @@ template <typename Unit> std::optional<std::span<Unit>> TextLineReader::NextUnit
             return std::nullopt;
         if (end >= 0) {
             const size_t length = searched + part.size();
-            m_window.Drop(static_cast<qsizetype>((length + 1) * sizeof(Unit)));
+            m_window.Drop(std::ssize(std::as_bytes(units.first(length + 1))));
             m_isSkipping = true;
             return units.first(length);
         }
