@@ -205,11 +205,9 @@ bool MainFrame::CloseAllPages()
 
 void MainFrame::closeEvent(QCloseEvent* event)
 {
-    // Work that shows its progress, and questions, are not to be left behind.
-    if (QApplication::activeModalWidget() != nullptr)
-        return event->ignore();
-    // Before the data file is open there is nothing that a page could lose.
-    if (m_isDataFileOpen && !CloseAllPages())
+    // Before the data file is open there is nothing to lose. Later, work that shows its progress,
+    // questions, and pages that ask first are not left behind.
+    if (m_isDataFileOpen && (QApplication::activeModalWidget() != nullptr || !CloseAllPages()))
         return event->ignore();
     if (m_savesSettings) {
         m_settings.windowGeometry = saveGeometry();

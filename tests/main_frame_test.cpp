@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void readOnlySurvivesARestart();
     void aTapOpensAListAndComingBackKeepsItSelected();
     void aLaterStartOpensTheListItNames();
+    void theSelectedListIsExported();
 };
 
 void MainFrameTest::theFirstStartMakesTheDataFile()
@@ -286,6 +288,28 @@ void MainFrameTest::aLaterStartOpensTheListItNames()
     QCOMPARE(errand.pages->Top()->Title(), u"Pantry"_s);
     QCOMPARE(errand.pages->Depth(), 2);
     QCOMPARE(errand.home->SelectedName(), u"Pantry"_s);
+}
+
+void MainFrameTest::theSelectedListIsExported()
+{
+    Errand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    errand.Start();
+    errand.Choose(Command::Export);
+    auto* dialog = errand.frame->findChild<QFileDialog*>();
+    QVERIFY(dialog != nullptr);
+    dialog->setDirectory(QFileInfo(errand.DataPath()).path());
+    auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
+    QVERIFY(name != nullptr);
+    name->setText(u"pantry"_s);
+    QTest::keyClick(name, Qt::Key_Return);
+    QFile file(QFileInfo(errand.DataPath()).dir().filePath(u"pantry.txt"_s));
+    QTRY_VERIFY(file.exists());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), "\xff\xfe"_ba);
+    // The list is free for other commands again.
+    errand.Tap(0);
+    QTRY_COMPARE(errand.pages->Depth(), 2);
 }
 
 } // namespace
