@@ -5,10 +5,12 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTreeView>
 
@@ -53,7 +55,7 @@ public:
         Start();
     }
     /// What a soft key, a menu entry or a shortcut does; fails where a person could not.
-    void Choose(Command command)
+    void Choose(Command command) const
     {
         QVERIFY(home->ActionOf(command)->isEnabled());
         home->Trigger(command);
@@ -67,7 +69,7 @@ public:
         QTest::mouseClick(box->button(button), Qt::LeftButton);
         QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     }
-    void Tap(int line)
+    void Tap(int line) const
     {
         const QRect place = view->visualRect(view->model()->index(line, 0));
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place.center());
@@ -299,10 +301,8 @@ void MainFrameTest::theSelectedListIsExported()
     auto* dialog = errand.frame->findChild<QFileDialog*>();
     QVERIFY(dialog != nullptr);
     dialog->setDirectory(QFileInfo(errand.DataPath()).path());
-    auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
-    QVERIFY(name != nullptr);
-    name->setText(u"pantry"_s);
-    QTest::keyClick(name, Qt::Key_Return);
+    dialog->selectFile(u"pantry"_s);
+    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
     QFile file(QFileInfo(errand.DataPath()).dir().filePath(u"pantry.txt"_s));
     QTRY_VERIFY(file.exists());
     QVERIFY(file.open(QIODevice::ReadOnly));
