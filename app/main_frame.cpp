@@ -1,5 +1,6 @@
 #include "app/main_frame.h"
 
+#include "app/file_dialog.h"
 #include "app/home_list.h"
 #include "app/plain_pages.h"
 #include "res/string_table.h"
@@ -8,8 +9,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
-#include <QStandardPaths>
+#include <QShortcut>
 
 namespace Quillory {
 
@@ -22,7 +22,6 @@ constexpr QSize kFirstSize { 360, 640 };
 /// What must be there before a command can be chosen.
 enum class Needs
 {
-    Nothing,
     DataFile,
     /// A selected line of the home list.
     List,
@@ -46,7 +45,6 @@ const MainFrame::CommandEntry MainFrame::kCommands[] {
     { Command::DeleteAllRecords, {}, Needs::List, &MainFrame::DeleteAllRecords },
     { Command::OpenReadOnly, {}, Needs::DataFile, &MainFrame::ToggleReadOnly },
     { Command::About, {}, Needs::DataFile, &MainFrame::ShowAbout },
-    { Command::Exit, Qt::CTRL | Qt::Key_Q, Needs::Nothing, &MainFrame::Exit },
 };
 
 MainFrame::MainFrame(const QString& settingsPath, QWidget* parent)
@@ -61,12 +59,18 @@ MainFrame::MainFrame(const QString& settingsPath, QWidget* parent)
         m_context.userLocale.codePage = *m_settings.codePage;
         m_context.systemLocale.codePage = *m_settings.codePage;
     }
-    m_chooser = [this](const auto& then) { ChooseDataFile(then); };
+    // A data file that is there already is opened, so there is nothing to warn of.
+    m_chooser = [this](const auto& then) {
+        ChooseFile(this, FileUse::MakeOrOpen,
+            { LoadText(Text::InventoryDatabase), u"idb"_s, u"Quillory.idb"_s }, then);
+    };
 
     setCentralWidget(m_pages);
     ApplyWindowStyle(this);
     BuildHome();
     RestoreWindow();
+    // On every page, not on the home list alone.
+    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 MainFrame::~MainFrame()
@@ -116,8 +120,7 @@ void MainFrame::UpdateCommands()
 {
     const bool hasList = m_home->SelectedList() != kNoObject;
     for (const CommandEntry& entry : kCommands) {
-        const bool isReady = entry.needs == Needs::Nothing
-            || (m_isDataFileOpen && (entry.needs == Needs::DataFile || hasList));
+        const bool isReady = m_isDataFileOpen && (entry.needs == Needs::DataFile || hasList);
         m_home->SetCommandEnabled(entry.command, isReady);
     }
     m_home->SetCommandChecked(Command::OpenReadOnly, m_settings.Options.test(kReadOnlyOption));
@@ -146,25 +149,6 @@ DataFileOpener::Prompts MainFrame::OpenerPrompts()
             ShowMessage(this, text, icon, buttons, then);
         },
     };
-}
-
-void MainFrame::ChooseDataFile(const std::function<void(const QString&)>& then)
-{
-    auto* dialog = new QFileDialog(
-        this, QString(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setObjectName(u"DataFileDialog"_s);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->setNameFilter(LoadText(Text::InventoryDatabase) + u" (*.idb)"_s);
-    dialog->setDefaultSuffix(u"idb"_s);
-    dialog->selectFile(u"Quillory.idb"_s);
-    // A data file that is there already is opened, so there is nothing to warn of.
-    dialog->setOption(QFileDialog::DontConfirmOverwrite);
-    connect(dialog, &QDialog::finished, this, [dialog, then](int result) {
-        then(result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString());
-    });
-    dialog->open();
 }
 
 void MainFrame::EndOpening(DataFileOpener::Outcome outcome)
@@ -220,11 +204,9 @@ bool MainFrame::CloseAllPages()
 
 void MainFrame::closeEvent(QCloseEvent* event)
 {
-    // Work that shows its progress, and questions, are not to be left behind.
-    if (QApplication::activeModalWidget() != nullptr)
-        return event->ignore();
-    // Before the data file is open there is nothing that a page could lose.
-    if (m_isDataFileOpen && !CloseAllPages())
+    // Before the data file is open there is nothing to lose. Later, work that shows its progress,
+    // questions, and pages that ask first are not left behind.
+    if (m_isDataFileOpen && (QApplication::activeModalWidget() != nullptr || !CloseAllPages()))
         return event->ignore();
     if (m_savesSettings) {
         m_settings.windowGeometry = saveGeometry();
@@ -242,11 +224,6 @@ void MainFrame::ToggleReadOnly()
 void MainFrame::ShowAbout()
 {
     m_pages->Push(new AboutPage);
-}
-
-void MainFrame::Exit()
-{
-    close();
 }
 
 } // namespace Quillory

@@ -72,7 +72,6 @@ private:
     void UpdateCommands();
 
     [[nodiscard]] DataFileOpener::Prompts OpenerPrompts();
-    void ChooseDataFile(const std::function<void(const QString&)>& then);
     void EndOpening(DataFileOpener::Outcome outcome);
     void BringToFront(const QString& activationToken);
     [[nodiscard]] bool CloseAllPages();
@@ -89,10 +88,9 @@ private:
     void DeleteAllRecords();
     void ExportList();
     void ExportTo(const QString& path);
-    void TellStop(const QString& text, std::function<void()> then = {});
+    void TellStop(const QString& text, const std::function<void()>& then = {});
     void ToggleReadOnly();
     void ShowAbout();
-    void Exit();
 };
 
 } // namespace Quillory

@@ -103,7 +103,7 @@ void MainFrame::DeleteAllRecords()
         });
 }
 
-void MainFrame::TellStop(const QString& text, std::function<void()> then)
+void MainFrame::TellStop(const QString& text, const std::function<void()>& then)
 {
     ShowMessage(
         this, text, MessageIcon::Stop, MessageButtons::Ok, [then = std::move(then)](MessageAnswer) {

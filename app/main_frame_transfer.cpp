@@ -1,3 +1,4 @@
+#include "app/file_dialog.h"
 #include "app/home_list.h"
 #include "app/main_frame.h"
 #include "app/transfer_progress.h"
@@ -5,24 +6,17 @@
 #include "transfer/list_file.h"
 #include "transfer/text_export.h"
 
-#include <QFileDialog>
-#include <QStandardPaths>
-
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
 void MainFrame::ExportList()
 {
-    auto* dialog = new QFileDialog(
-        this, QString(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setObjectName(u"ExportDialog"_s);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilter(LoadText(Text::TextFiles) + u" (*.txt)"_s);
-    dialog->setDefaultSuffix(u"txt"_s);
-    connect(dialog, &QFileDialog::fileSelected, this, &MainFrame::ExportTo);
-    dialog->open();
+    ChooseFile(this, FileUse::Write, { LoadText(Text::TextFiles), u"txt"_s, {} },
+        [this](const QString& path) {
+            if (!path.isEmpty())
+                ExportTo(path);
+        });
 }
 
 void MainFrame::ExportTo(const QString& path)

@@ -6,6 +6,10 @@
 #include "widgets/icon_set.h"
 
 #include <QApplication>
+#include <QSocketNotifier>
+
+#include <sys/signalfd.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <csignal>
@@ -45,6 +49,18 @@ QString ActivationToken()
     return token;
 }
 
+/// A descriptor that tells of requests to end from outside, which from now on do not end the
+/// process. Called before there are threads.
+int CatchEndRequests()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    for (const int signal : { SIGTERM, SIGINT, SIGHUP })
+        sigaddset(&signals, signal);
+    sigprocmask(SIG_BLOCK, &signals, nullptr);
+    return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
+}
+
 int ExitCodeOf(SingleInstance::Outcome outcome, const QString& listName)
 {
     if (outcome == SingleInstance::Outcome::HandedOverUnknownList)
@@ -54,10 +70,30 @@ int ExitCodeOf(SingleInstance::Outcome outcome, const QString& listName)
     return kDone;
 }
 
+int RunFrame(SingleInstance& instance, const QString& listName, int endRequests)
+{
+    MainFrame frame(SettingsPath());
+    instance.SetHandler(
+        [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
+    // The window closes as its user would close it: pages end, settings are saved.
+    const QSocketNotifier notifier(endRequests, QSocketNotifier::Read);
+    QObject::connect(&notifier, &QSocketNotifier::activated, &frame, [&frame, endRequests] {
+        signalfd_siginfo endRequest;
+        while (read(endRequests, &endRequest, sizeof(endRequest)) > 0)
+            frame.close();
+    });
+    frame.show();
+    // After the window is on the screen.
+    QMetaObject::invokeMethod(
+        &frame, [&frame, &listName] { frame.OpenDataFile(listName); }, Qt::QueuedConnection);
+    return QApplication::exec();
+}
+
 } // namespace
 
 int RunWindow(int argumentCount, char** argumentValues)
 {
+    const int endRequests = CatchEndRequests();
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     if (!HasDisplay(argumentCount, argumentValues)) {
@@ -86,14 +122,7 @@ int RunWindow(int argumentCount, char** argumentValues)
     if (outcome != SingleInstance::Outcome::Alone)
         return ExitCodeOf(outcome, request.listName);
 
-    MainFrame frame(SettingsPath());
-    instance.SetHandler(
-        [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
-    frame.show();
-    // After the window is on the screen.
-    QMetaObject::invokeMethod(
-        &frame, [&frame, &request] { frame.OpenDataFile(request.listName); }, Qt::QueuedConnection);
-    return QApplication::exec();
+    return RunFrame(instance, request.listName, endRequests);
 }
 
 } // namespace Quillory

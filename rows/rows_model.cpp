@@ -76,7 +76,7 @@ const RowsModel::ShownRow& RowsModel::Shown(int line) const
             shown->record ? FormatCellText(value, column.id, m_context) : u"<Err>"_s);
     }
     m_shown.insert(key, shown);
-    return *shown;
+    return *m_shown.object(key);
 }
 
 RowFacts RowsModel::FactsOf(int line) const

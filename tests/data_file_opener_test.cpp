@@ -16,7 +16,7 @@ class Start
 {
 public:
     QString Path(const QString& name = u"data.idb"_s) const { return m_folder.filePath(name); }
-    void WriteFile(const QString& name, const QByteArray& content)
+    void WriteFile(const QString& name, const QByteArray& content) const
     {
         QFile file(Path(name));
         QVERIFY(file.open(QIODevice::WriteOnly));

@@ -59,13 +59,13 @@ public:
             qFatal("the list cannot be opened");
         rows = std::make_unique<RowStore>(*data, list, context);
     }
-    ObjectId Add(const QStringList& texts)
+    ObjectId Add(const QStringList& texts) const
     {
         return rows->WriteNewRow(std::vector<QString>(texts.begin(), texts.end()));
     }
     PropertyId Column(int index) const { return list.columns[static_cast<size_t>(index)].id; }
     /// The cell texts of the given rows, a column of them joined by spaces.
-    QString Cells(const std::vector<ObjectId>& oids, int column = 0)
+    QString Cells(const std::vector<ObjectId>& oids, int column = 0) const
     {
         QStringList texts;
         for (const ObjectId oid : oids)

@@ -5,9 +5,12 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTreeView>
 
@@ -52,7 +55,7 @@ public:
         Start();
     }
     /// What a soft key, a menu entry or a shortcut does; fails where a person could not.
-    void Choose(Command command)
+    void Choose(Command command) const
     {
         QVERIFY(home->ActionOf(command)->isEnabled());
         home->Trigger(command);
@@ -66,7 +69,7 @@ public:
         QTest::mouseClick(box->button(button), Qt::LeftButton);
         QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     }
-    void Tap(int line)
+    void Tap(int line) const
     {
         const QRect place = view->visualRect(view->model()->index(line, 0));
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place.center());
@@ -106,6 +109,7 @@ private Q_SLOTS:
     void readOnlySurvivesARestart();
     void aTapOpensAListAndComingBackKeepsItSelected();
     void aLaterStartOpensTheListItNames();
+    void theSelectedListIsExported();
 };
 
 void MainFrameTest::theFirstStartMakesTheDataFile()
@@ -286,6 +290,26 @@ void MainFrameTest::aLaterStartOpensTheListItNames()
     QCOMPARE(errand.pages->Top()->Title(), u"Pantry"_s);
     QCOMPARE(errand.pages->Depth(), 2);
     QCOMPARE(errand.home->SelectedName(), u"Pantry"_s);
+}
+
+void MainFrameTest::theSelectedListIsExported()
+{
+    Errand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    errand.Start();
+    errand.Choose(Command::Export);
+    auto* dialog = errand.frame->findChild<QFileDialog*>();
+    QVERIFY(dialog != nullptr);
+    dialog->setDirectory(QFileInfo(errand.DataPath()).path());
+    dialog->selectFile(u"pantry"_s);
+    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    QFile file(QFileInfo(errand.DataPath()).dir().filePath(u"pantry.txt"_s));
+    QTRY_VERIFY(file.exists());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), "\xff\xfe"_ba);
+    // The list is free for other commands again.
+    errand.Tap(0);
+    QTRY_COMPARE(errand.pages->Depth(), 2);
 }
 
 } // namespace
