@@ -7,8 +7,6 @@
 
 #include <QApplication>
 
-#include <utility>
-
 namespace Quillory {
 
 StartAnswer MainFrame::OpenNamedList(const QString& name)
@@ -105,11 +103,10 @@ void MainFrame::DeleteAllRecords()
 
 void MainFrame::TellStop(const QString& text, const std::function<void()>& then)
 {
-    ShowMessage(
-        this, text, MessageIcon::Stop, MessageButtons::Ok, [then = std::move(then)](MessageAnswer) {
-            if (then)
-                then();
-        });
+    ShowMessage(this, text, MessageIcon::Stop, MessageButtons::Ok, [then](MessageAnswer) {
+        if (then)
+            then();
+    });
 }
 
 } // namespace Quillory
