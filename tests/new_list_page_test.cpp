@@ -106,14 +106,9 @@ void NewListPageTest::sixteenColumnsAreTheLimit()
     m_page->Trigger(Command::AddExpiryDateColumn);
     QCOMPARE(m_page->Result().columns.size(), size_t { 16 });
     QVERIFY(!IsEnabled(Command::Insert));
-    Select(0);
+    // It was inserted before the selected column, and is selected now.
     m_page->Trigger(Command::Delete);
-    for (int row = 0; row < 16; ++row) {
-        Select(row);
-        if (m_page->Result().columns[static_cast<size_t>(row)].id == PropExpiryDate)
-            break;
-    }
-    m_page->Trigger(Command::Delete);
+    QCOMPARE(m_page->Result().columns.size(), size_t { 15 });
     QVERIFY(IsEnabled(Command::Insert) && IsEnabled(Command::AddExpiryDateColumn));
     Define(u"again"_s, 0);
     QVERIFY(!IsEnabled(Command::Insert) && !IsEnabled(Command::AddExpiryDateColumn));
