@@ -48,12 +48,12 @@ public:
         Remount();
         Open();
     }
-    ObjectId Add(const std::vector<PropertyValue>& values)
+    ObjectId Add(const std::vector<PropertyValue>& values) const
     {
         return Take(rows->Write(kNoObject, values));
     }
     /// The names in sort order, "-" for a record without one.
-    QString Names()
+    QString Names() const
     {
         QStringList names;
         for (ObjectId at = Take(rows->SeekFirst()); at != kNoObject; at = Take(rows->SeekNext(1))) {
@@ -63,7 +63,7 @@ public:
         }
         return names.join(u' ');
     }
-    PropertyVariant Value(ObjectId record, PropertyId id)
+    PropertyVariant Value(ObjectId record, PropertyId id) const
     {
         Take(rows->SeekTo(record));
         const std::vector ids { id };
@@ -151,6 +151,7 @@ void PropertyDatabaseTest::equalKeysKeepTheOrderOfTheirIdentifiers()
 {
     Rows rows;
     std::vector<ObjectId> added;
+    added.reserve(5);
     for (int i = 0; i < 5; ++i)
         added.push_back(rows.Add({ Text(u"same"_s), Count(i) }));
     QVERIFY(Take(rows.rows->ListRecords()) == added);

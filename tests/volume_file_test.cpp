@@ -316,6 +316,7 @@ void VolumeFileTest::aBackupIsAWholeVolumeAndReplacesNothing()
 }
 
 /// Started with --mount it is the second program of a test.
+// A test program may end by an exception. NOLINTNEXTLINE(bugprone-exception-escape)
 int main(int argc, char** argv)
 {
     if (argc == 4 && QByteArrayView(argv[1]) == "--mount") {

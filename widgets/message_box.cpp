@@ -89,9 +89,9 @@ protected:
     }
     bool event(QEvent* event) override
     {
-        // The box would lay its text out in one line again.
+        // The box itself would lay its text out in one line again.
         if (m_isFitted && event->type() == QEvent::LayoutRequest)
-            return QDialog::event(event);
+            return QDialog::event(event); // NOLINT(bugprone-parent-virtual-call)
         return QMessageBox::event(event);
     }
 

@@ -34,6 +34,8 @@ Page* PageStack::Top() const
     return qobject_cast<Page*>(currentWidget());
 }
 
+// It ends pages, if not by a member of its own.
+// NOLINTNEXTLINE(readability-make-member-function-const)
 bool PageStack::CloseTopmost()
 {
     if (Depth() <= 1)
