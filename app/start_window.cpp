@@ -3,6 +3,7 @@
 #include "app/main_frame.h"
 #include "app/settings.h"
 #include "app/single_instance.h"
+#include "widgets/app_style.h"
 #include "widgets/desktop_look.h"
 #include "widgets/icon_set.h"
 
@@ -116,9 +117,8 @@ int RunWindow(int argumentCount, char** argumentValues)
         return kFailed;
     }
     const QString token = ActivationToken();
-    // The window's style sheet builds on this one.
-    QApplication::setStyle(u"fusion"_s);
     const QApplication app(argumentCount, argumentValues);
+    QApplication::setStyle(new AppStyle);
     QApplication::setApplicationName(u"quillory"_s);
     QApplication::setApplicationDisplayName(u"Quillory"_s);
     QApplication::setApplicationVersion(QStringLiteral(QUILLORY_VERSION));

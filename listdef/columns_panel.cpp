@@ -15,6 +15,12 @@ namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int kTypeWidth = 112;
+
+} // namespace
+
 ColumnsPanel::ColumnsPanel(const std::vector<ColumnDefinition>& columns, Page& page)
     : QWidget(&page)
     , m_page(page)
@@ -41,7 +47,8 @@ void ColumnsPanel::BuildView()
     m_view->setModel(m_columns);
     DressLineView(m_view);
     m_view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_view->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    m_view->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Fixed);
+    m_view->horizontalHeader()->resizeSection(1, kTypeWidth);
     m_view->setEditTriggers(QAbstractItemView::EditKeyPressed);
     auto* touch = new TouchBehaviour(m_view);
     connect(touch, &TouchBehaviour::Held, this, [this](const QPoint& position) {

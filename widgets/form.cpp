@@ -56,7 +56,10 @@ void Form::AddLine(const QString& label, QWidget* control)
     control->setAccessibleName(label);
     control->setMinimumHeight(CurrentMeasures().lineHeight);
     control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    m_lines->addRow(label, control);
+    auto* text = new QLabel(label, control->parentWidget());
+    text->setMinimumHeight(CurrentMeasures().lineHeight);
+    text->setBuddy(control);
+    m_lines->addRow(text, control);
 }
 
 void AddCheckLine(QVBoxLayout& body, QCheckBox& box, const QString& text)

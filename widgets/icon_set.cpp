@@ -9,7 +9,7 @@
 #include <QSvgRenderer>
 
 #include <array>
-#include <optional>
+#include <functional>
 
 // Resources of a static library are not found unless somebody asks for them by name.
 static void LoadIconResources()
@@ -86,14 +86,16 @@ bool IsDarkGround(const QPalette& palette)
     return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
 }
 
-/// A drawing of one colour, which follows the palette, selection and disabling at every scale: its
-/// own on a light ground if it has one, and otherwise that of the text around it.
+/// A drawing of one colour, which follows the palette, selection and disabling at every scale.
 class DrawnIcon : public QIconEngine
 {
 public:
-    explicit DrawnIcon(QString path, std::optional<quint32> colour = {})
+    /// The colour of the drawing where it is neither selected nor disabled.
+    using Ink = std::function<QColor(const QPalette&)>;
+
+    DrawnIcon(QString path, Ink ink)
         : m_path(std::move(path))
-        , m_colour(colour)
+        , m_ink(std::move(ink))
     { }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
@@ -107,11 +109,11 @@ public:
     {
         return Draw(size, mode);
     }
-    [[nodiscard]] QIconEngine* clone() const override { return new DrawnIcon(m_path, m_colour); }
+    [[nodiscard]] QIconEngine* clone() const override { return new DrawnIcon(m_path, m_ink); }
 
 private:
     QString m_path;
-    std::optional<quint32> m_colour;
+    Ink m_ink;
 
     [[nodiscard]] QColor Colour(QIcon::Mode mode) const
     {
@@ -125,8 +127,7 @@ private:
         case QIcon::Active:
             break;
         }
-        const bool hasOwn = m_colour.has_value() && !IsDarkGround(palette);
-        return hasOwn ? TextColour(*m_colour, palette) : palette.color(QPalette::Text);
+        return m_ink(palette);
     }
 
     [[nodiscard]] QPixmap Draw(const QSize& size, QIcon::Mode mode) const
@@ -155,8 +156,12 @@ QIcon ListIcon(int index)
 {
     LoadIconResources();
     const int known = KnownIcon(index);
-    const QString path = u":/icons/list_%1.svg"_s.arg(known, 2, 10, QLatin1Char('0'));
-    return QIcon(new DrawnIcon(path, kListIcons.at(static_cast<size_t>(known)).colour));
+    const quint32 colour = kListIcons.at(static_cast<size_t>(known)).colour;
+    return QIcon(new DrawnIcon(u":/icons/list_%1.svg"_s.arg(known, 2, 10, QLatin1Char('0')),
+        [colour](const QPalette& palette) {
+            return IsDarkGround(palette) ? palette.color(QPalette::Text)
+                                         : TextColour(colour, palette);
+        }));
 }
 
 QString ListIconName(int index)
@@ -168,8 +173,10 @@ QString ListIconName(int index)
 QIcon CheckboxIcon(bool isChecked)
 {
     LoadIconResources();
+    const QPalette::ColorRole role = isChecked ? QPalette::Highlight : QPalette::Dark;
     return QIcon(
-        new DrawnIcon(isChecked ? u":/icons/box_checked.svg"_s : u":/icons/box_empty.svg"_s));
+        new DrawnIcon(isChecked ? u":/icons/box_checked.svg"_s : u":/icons/box_empty.svg"_s,
+            [role](const QPalette& palette) { return palette.color(role); }));
 }
 
 QIcon ApplicationIcon()

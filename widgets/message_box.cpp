@@ -1,6 +1,7 @@
 #include "widgets/message_box.h"
 
 #include "res/string_table.h"
+#include "widgets/measures.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -78,12 +79,15 @@ protected:
     {
         QMessageBox::showEvent(event);
         auto* label = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-        if (parentWidget() == nullptr || label == nullptr || width() <= parentWidget()->width())
+        if (parentWidget() == nullptr || label == nullptr)
             return;
-        const int room = label->width() - (width() - parentWidget()->width());
+        // As wide as is good to read, within the window; the text takes the lines that it needs.
+        const int beside = width() - label->width();
+        const int text = label->fontMetrics().horizontalAdvance(label->text()) + kGrid;
+        const int room = parentWidget()->width() - beside - 2 * kGrid;
         m_isFitted = true;
         label->setWordWrap(true);
-        label->setFixedWidth(std::max(room, kLeastText));
+        label->setFixedWidth(std::max(kLeastText, std::min({ text, room, kMostText })));
         layout()->activate();
         setFixedSize(layout()->sizeHint().width(), layout()->totalHeightForWidth(width()));
     }
@@ -97,6 +101,7 @@ protected:
 
 private:
     static constexpr int kLeastText = 120;
+    static constexpr int kMostText = 360;
     bool m_isFitted = false;
 };
 

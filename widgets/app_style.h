@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace Quillory {
+
+/// The toolkit's plain style with boxes and radio buttons as the lists draw them, legible on a dark
+/// ground too. The window's style sheet builds on it.
+class AppStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    AppStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+        const QWidget* widget) const override;
+};
+
+} // namespace Quillory
