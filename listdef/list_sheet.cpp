@@ -82,6 +82,12 @@ void ListSheet::ShowPanel(int index)
     m_panels->currentWidget()->setFocus();
 }
 
+void ListSheet::resizeEvent(QResizeEvent* event)
+{
+    m_options->FitTo(width());
+    Page::resizeEvent(event);
+}
+
 InventoryList ListSheet::Result() const
 {
     InventoryList list = m_list;

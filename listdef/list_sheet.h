@@ -33,6 +33,9 @@ public:
 
     [[nodiscard]] bool HasUnsavedInput() const override;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     InventoryList m_list;
     QTabBar* m_tabs;

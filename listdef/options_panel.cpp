@@ -22,6 +22,7 @@ OptionsPanel::OptionsPanel(const InventoryList& list, QWidget* parent)
     , m_warnOnCount(new QCheckBox(this))
     , m_threshold(new ThresholdEdit(list.TableWarnStart, this))
     , m_countColour(new ColourButton(this))
+    , m_countLine(MakeCountLine())
     , m_warnOnExpiry(new QCheckBox(this))
     , m_expiryColour(new ColourButton(this))
 {
@@ -46,18 +47,9 @@ void OptionsPanel::Build()
     m_expiryColour->setAccessibleDescription(ControlText(Control::WarnOnExpiry));
 
     auto* body = new QVBoxLayout(this);
-    body->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kGrid);
     body->setSpacing(kGrid);
     AddCheckLine(*body, *m_warnOnCount, ControlText(Control::WarnOnCount));
-    auto* count = new QHBoxLayout;
-    count->setContentsMargins(kCheckIndent, 0, 0, 0);
-    count->setSpacing(kGrid);
-    auto* toColour = new QLabel(LoadText(Text::ToColour), this);
-    toColour->setWordWrap(true);
-    count->addWidget(m_threshold, 1);
-    count->addWidget(toColour);
-    count->addWidget(m_countColour);
-    body->addLayout(count);
+    body->addLayout(m_countLine);
     body->addSpacing(kPageMargin);
     AddCheckLine(*body, *m_warnOnExpiry, ControlText(Control::WarnOnExpiry));
     auto* expiry = new QHBoxLayout;
@@ -65,6 +57,30 @@ void OptionsPanel::Build()
     expiry->addWidget(m_expiryColour);
     body->addLayout(expiry);
     body->addStretch(1);
+}
+
+QBoxLayout* OptionsPanel::MakeCountLine()
+{
+    auto* toColour = new QLabel(LoadText(Text::ToColour), this);
+    toColour->setWordWrap(true);
+    auto* colour = new QHBoxLayout;
+    colour->setSpacing(kGrid);
+    colour->addWidget(toColour, 1);
+    colour->addWidget(m_countColour);
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(kCheckIndent, 0, 0, 0);
+    line->setSpacing(kGrid);
+    line->addWidget(m_threshold, 1);
+    line->addLayout(colour);
+    return line;
+}
+
+void OptionsPanel::FitTo(int pageWidth)
+{
+    const bool isNarrow = pageWidth < kNarrowPage;
+    const int margin = isNarrow ? kNarrowMargin : kPageMargin;
+    layout()->setContentsMargins(margin, margin, margin, kGrid);
+    m_countLine->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 void OptionsPanel::SetHasExpiryDate(bool hasExpiryDate)

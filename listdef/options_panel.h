@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QBoxLayout;
 class QCheckBox;
 
 namespace Quillory {
@@ -23,15 +24,21 @@ public:
     /// Puts the warnings into `list`; option bits of others are kept.
     void Apply(InventoryList& list) const;
 
+    /// Lays the panel out for a page of this width, in logical pixels.
+    void FitTo(int pageWidth);
+
 private:
     QCheckBox* m_warnOnCount;
     ThresholdEdit* m_threshold;
     ColourButton* m_countColour;
+    /// The threshold and its colour: side by side where there is room.
+    QBoxLayout* m_countLine;
     QCheckBox* m_warnOnExpiry;
     ColourButton* m_expiryColour;
     bool m_hasExpiryDate = false;
 
     void Build();
+    [[nodiscard]] QBoxLayout* MakeCountLine();
     void UpdateEnabled();
 };
 

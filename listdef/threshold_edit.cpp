@@ -31,7 +31,7 @@ ThresholdEdit::ThresholdEdit(qint32 value, QWidget* parent)
     m_edit->setAccessibleName(ControlText(Control::WarnOnCount));
     m_edit->setMaxLength(kMaxCharacters);
     m_edit->setInputMethodHints(Qt::ImhPreferNumbers);
-    m_edit->setMinimumWidth(m_edit->fontMetrics().horizontalAdvance(u"-00000"_s) + 3 * kGrid);
+    m_edit->setMinimumWidth(m_edit->fontMetrics().horizontalAdvance(u"-000"_s) + 3 * kGrid);
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(kGrid / 2);
@@ -42,8 +42,8 @@ ThresholdEdit::ThresholdEdit(qint32 value, QWidget* parent)
         button->setAccessibleName(name);
         button->setAutoRepeat(true);
         button->setFocusPolicy(Qt::NoFocus);
-        const int side = std::max(CurrentMeasures().lineHeight, 4 * kGrid);
-        button->setFixedSize(side, side);
+        const int height = std::max(CurrentMeasures().lineHeight, 4 * kGrid);
+        button->setFixedSize(std::min(height, kMinTouchTarget), height);
         line->addWidget(button);
         connect(button, &QToolButton::clicked, this, [this, by] { Step(by); });
     };

@@ -46,7 +46,7 @@ void ColourButton::SetColour(quint32 index)
 QSize ColourButton::sizeHint() const
 {
     const int height = std::max(CurrentMeasures().lineHeight, kMinTextPixels + 2 * kGrid);
-    return { height * 3 / 2 + kMarkPlace * kUnit, height };
+    return { height + (kMarkPlace + kMarkGap) * kUnit, height };
 }
 
 void ColourButton::OpenGrid()

@@ -47,7 +47,7 @@ Form::Form(QVBoxLayout* body)
     m_lines->setVerticalSpacing(kGrid);
     m_lines->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     m_lines->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_lines->setRowWrapPolicy(QFormLayout::DontWrapRows);
+    m_lines->setRowWrapPolicy(QFormLayout::WrapLongRows);
     body->addLayout(m_lines);
 }
 

@@ -105,9 +105,15 @@ void IconPicker::SetIcon(int index)
 
 QSize IconPicker::sizeHint() const
 {
+    const QSize least = minimumSizeHint();
+    return { least.width() + least.height(), least.height() };
+}
+
+QSize IconPicker::minimumSizeHint() const
+{
     const int height
         = std::max(CurrentMeasures().lineHeight, CurrentMeasures().iconSize + 2 * kGrid);
-    return { std::max(height * 5, layout()->sizeHint().width()), height };
+    return { layout()->minimumSize().width() + height, height };
 }
 
 void IconPicker::Choose(int index)

@@ -18,6 +18,7 @@ public:
     void SetIcon(int index);
 
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     /// A step was taken, or the grid was closed with this icon, be it the same.

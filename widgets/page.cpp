@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -14,6 +15,37 @@
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The title of a page, cut at its end where the header has no room for all of it.
+class TitleLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+            fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+    }
+};
+
+/// Opens a menu upward from a soft key, within the window, wherever that stands. In a window that
+/// is too low for it the entries lie closer together.
+void OpenFromKey(QMenu& menu, const QWidget& key)
+{
+    menu.setStyleSheet(QString());
+    if (menu.sizeHint().height() > key.window()->height())
+        menu.setStyleSheet(u"QMenu::item { padding: 5px 24px; }"_s);
+    const QSize size = menu.sizeHint();
+    menu.popup(key.mapToGlobal(QPoint(key.width() - size.width(), -size.height())));
+}
+
+} // namespace
 
 Page::Page(const QString& title, QWidget* parent)
     : QWidget(parent)
@@ -42,7 +74,7 @@ void Page::BuildHeader(const QString& title)
     auto* line = new QHBoxLayout(m_header);
     line->setContentsMargins(kPageMargin, 0, kGrid, 0);
     line->setSpacing(kGrid);
-    m_title = new QLabel(title, m_header);
+    m_title = new TitleLabel(title, m_header);
     m_title->setObjectName(u"title"_s);
     QFont bold = m_title->font();
     bold.setBold(true);
@@ -137,12 +169,8 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
         auto* popup = new QMenu(button);
         FillMenu(popup, menu);
         connect(popup, &QMenu::aboutToShow, this, &Page::MenuAboutToOpen);
-        connect(button, &QToolButton::clicked, popup, [button, popup] {
-            // Upward from the key, within the window, wherever that stands.
-            const QSize size = popup->sizeHint();
-            popup->popup(
-                button->mapToGlobal(QPoint(button->width() - size.width(), -size.height())));
-        });
+        connect(button, &QToolButton::clicked, popup,
+            [button, popup] { OpenFromKey(*popup, *button); });
         return button;
     }
     QAction* action = ActionOf(entry.command);
