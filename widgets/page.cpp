@@ -39,8 +39,10 @@ protected:
 void OpenFromKey(QMenu& menu, const QWidget& key)
 {
     menu.setStyleSheet(QString());
-    if (menu.sizeHint().height() > key.window()->height())
-        menu.setStyleSheet(u"QMenu::item { padding: 5px 24px; }"_s);
+    // The menu's own size hint never goes beyond the screen.
+    const auto lines = static_cast<int>(menu.actions().size());
+    if (lines * CurrentMeasures().lineHeight > key.window()->height())
+        menu.setStyleSheet(u"QMenu::item { padding: 7px 24px; }"_s);
     const QSize size = menu.sizeHint();
     menu.popup(key.mapToGlobal(QPoint(key.width() - size.width(), -size.height())));
 }
