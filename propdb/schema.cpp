@@ -315,6 +315,18 @@ Result<void> AddPropertyColumn(
         u"ALTER TABLE "_s + QuotedName(schema.tableName) + u" ADD COLUMN "_s + ColumnSql(column));
 }
 
+Result<void> RenameDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema)
+{
+    auto update = Statement::Prepare(
+        connection, u"UPDATE property_database SET name = ?2, type = ?3 WHERE oid = ?1"_s);
+    if (!update)
+        return update.Error();
+    update->Bind(1, schema.oid);
+    update->Bind(2, QStringView(schema.name));
+    update->Bind(3, static_cast<qint64>(schema.type));
+    return update->Run();
+}
+
 Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema)
 {
     Result<void> done = RunSql(connection, u"DROP TABLE "_s + QuotedName(schema.tableName));

@@ -62,6 +62,8 @@ struct VolumeSchema
 [[nodiscard]] Result<void> CreateDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);
 [[nodiscard]] Result<void> AddPropertyColumn(
     sqlite3* connection, const DatabaseSchema& schema, const PropertyColumn& column);
+/// Stores the name and type that `schema` has now.
+[[nodiscard]] Result<void> RenameDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);
 [[nodiscard]] Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);
 
 /// Reads the layout and proves that the file holds these tables and indexes, in exactly the words

@@ -142,14 +142,37 @@ Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
     return schema->oid;
 }
 
+bool Volume::IsOpen(ObjectId database) const
+{
+    const auto& open = m_state->openDatabases;
+    return std::any_of(open.begin(), open.end(),
+        [database](const DatabaseState* state) { return state->schema->oid == database; });
+}
+
+Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseType type)
+{
+    const auto schema = m_state->schema.Find(oid);
+    if (schema == nullptr)
+        return ErrorNumber::NotFound;
+    const auto namesake = m_state->schema.Find(name);
+    if (namesake != nullptr && namesake != schema)
+        return ErrorNumber::DuplicateName;
+    if (IsOpen(oid))
+        return ErrorNumber::SharingViolation;
+    if (const auto begun = m_state->BeginWrite(); !begun)
+        return begun;
+    m_state->isSchemaChanged = true;
+    schema->name = name;
+    schema->type = type;
+    return m_state->EndWrite(RenameDatabaseSchema(m_state->connection.get(), *schema));
+}
+
 Result<void> Volume::DeleteDatabase(ObjectId oid)
 {
     const auto schema = m_state->schema.Find(oid);
     if (schema == nullptr)
         return ErrorNumber::NotFound;
-    const auto& open = m_state->openDatabases;
-    if (std::any_of(open.begin(), open.end(),
-            [&](const DatabaseState* database) { return database->schema->oid == oid; }))
+    if (IsOpen(oid))
         return ErrorNumber::SharingViolation;
     if (const auto begun = m_state->BeginWrite(); !begun)
         return begun;

@@ -57,6 +57,9 @@ public:
     /// identifier, InvalidParameter for no or unknown properties or more than one sort order.
     [[nodiscard]] Result<ObjectId> CreateDatabase(const QString& name, DatabaseType type,
         std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders);
+    /// Gives a database another name and type; its identifier and records stay. NotFound,
+    /// DuplicateName if another is so named, SharingViolation if it is open.
+    [[nodiscard]] Result<void> RenameDatabase(ObjectId oid, const QString& name, DatabaseType type);
     /// Deletes a database and all its records. One that is open is refused with SharingViolation.
     [[nodiscard]] Result<void> DeleteDatabase(ObjectId oid);
     /// Opens a database by its name and one of its sort orders. It must be closed (destroyed)
@@ -79,6 +82,8 @@ private:
     explicit Volume(std::unique_ptr<VolumeState> state);
 
     std::unique_ptr<VolumeState> m_state;
+
+    [[nodiscard]] bool IsOpen(ObjectId database) const;
 };
 
 } // namespace Quillory

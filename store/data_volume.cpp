@@ -61,12 +61,22 @@ bool DataVolume::OpenSession()
 
 bool DataVolume::Exists(DatabaseType type)
 {
+    return !DatabasesOf(type).empty();
+}
+
+std::vector<ObjectId> DataVolume::DatabasesOf(DatabaseType type)
+{
+    std::vector<ObjectId> oids;
     if (m_volume == nullptr)
-        return false;
+        return oids;
     const auto databases = m_volume->Databases();
-    return Note(databases)
-        && std::any_of(databases->begin(), databases->end(),
-            [type](const Volume::DatabaseInfo& info) { return info.type == type; });
+    if (!Note(databases))
+        return oids;
+    for (const Volume::DatabaseInfo& info : *databases) {
+        if (info.type == type)
+            oids.push_back(info.oid);
+    }
+    return oids;
 }
 
 ObjectId DataVolume::Create(const QString& name, DatabaseType type,
@@ -193,6 +203,23 @@ bool DataVolume::DeleteRecord(DatabaseType type, ObjectId oid)
 {
     Database* database = Find(type);
     return database != nullptr && Note(database->DeleteRecord(oid));
+}
+
+QString DataVolume::DatabaseName(ObjectId oid)
+{
+    if (m_volume == nullptr)
+        return {};
+    const auto databases = m_volume->Databases();
+    if (!Note(databases))
+        return {};
+    const auto found = std::find_if(databases->begin(), databases->end(),
+        [oid](const Volume::DatabaseInfo& info) { return info.oid == oid; });
+    return found == databases->end() ? QString() : found->name;
+}
+
+bool DataVolume::RenameDatabase(ObjectId oid, const QString& name, DatabaseType type)
+{
+    return m_volume != nullptr && Note(m_volume->RenameDatabase(oid, name, type));
 }
 
 bool DataVolume::DeleteDatabase(ObjectId oid)

@@ -43,6 +43,8 @@ public:
 
     /// Whether the volume holds a database of this type, whatever its name.
     [[nodiscard]] bool Exists(DatabaseType type);
+    /// Every database of this type, oldest first.
+    [[nodiscard]] std::vector<ObjectId> DatabasesOf(DatabaseType type);
     /// Makes a database; its identifier, or kNoObject on failure. Without any property nothing is
     /// made and 87 comes back in place of an identifier; callers take it for success.
     ObjectId Create(const QString& name, DatabaseType type, std::span<const PropertySpec> specs,
@@ -76,6 +78,10 @@ public:
     /// kNoObject on failure.
     ObjectId Write(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values);
     bool DeleteRecord(DatabaseType type, ObjectId oid);
+    /// Empty if there is no such database.
+    [[nodiscard]] QString DatabaseName(ObjectId oid);
+    /// Gives a closed database another name and type.
+    bool RenameDatabase(ObjectId oid, const QString& name, DatabaseType type);
     bool DeleteDatabase(ObjectId oid);
 
     bool BeginTransaction();

@@ -127,6 +127,12 @@ std::vector<PropertySpec> SpecsOf(const InventoryList& definition)
     return specs;
 }
 
+/// The name under which the rows of a list are kept aside. Map names end in a digit.
+QString DeletedName(const QString& mapName)
+{
+    return mapName + u'~';
+}
+
 } // namespace
 
 ListCatalogue::ListCatalogue(DataVolume& volume)
@@ -314,29 +320,94 @@ void ListCatalogue::CloseRows()
 bool ListCatalogue::DeleteList(ObjectId oid)
 {
     InventoryList definition;
-    if (!OpenList(oid, definition))
+    if (!PurgeDeleted() || !OpenList(oid, definition))
         return false;
     const ObjectId rows = m_volume.DatabaseOid(kRowsType);
     CloseRows();
     Transaction transaction(m_volume);
-    return transaction && m_volume.DeleteDatabase(rows)
+    return transaction
+        && m_volume.RenameDatabase(rows, DeletedName(definition.MapName), kDeletedRowsType)
         && m_volume.DeleteRecord(kCatalogueType, oid) && transaction.Commit() && m_volume.Flush();
 }
 
 ListCatalogue::EmptyOutcome ListCatalogue::DeleteAllRows(ObjectId oid)
 {
     InventoryList definition;
-    if (!OpenList(oid, definition))
+    if (!PurgeDeleted() || !OpenList(oid, definition))
         return EmptyOutcome::CannotOpen;
     const ObjectId rows = m_volume.DatabaseOid(kRowsType);
     CloseRows();
     Transaction transaction(m_volume);
-    if (!transaction || !m_volume.DeleteDatabase(rows))
+    if (!transaction
+        || !m_volume.RenameDatabase(rows, DeletedName(definition.MapName), kDeletedRowsType))
         return EmptyOutcome::CannotOpen;
     const ObjectId created = m_volume.Create(
         definition.MapName, kRowsType, SpecsOf(definition), std::span(&kByRowName, 1));
     const bool isDone = created != kNoObject && transaction.Commit() && m_volume.Flush();
     return isDone ? EmptyOutcome::Done : EmptyOutcome::CannotCreateRows;
+}
+
+ObjectId ListCatalogue::DeletedRowsOf(const QString& mapName)
+{
+    // One deletion is kept at a time.
+    const std::vector<ObjectId> deleted = m_volume.DatabasesOf(kDeletedRowsType);
+    if (deleted.empty() || m_volume.DatabaseName(deleted.front()) != DeletedName(mapName))
+        return kNoObject;
+    return deleted.front();
+}
+
+ObjectId ListCatalogue::RestoreList(const InventoryList& definition)
+{
+    const ObjectId rows = DeletedRowsOf(definition.MapName);
+    Transaction transaction(m_volume);
+    if (rows == kNoObject || !transaction
+        || !m_volume.RenameDatabase(rows, definition.MapName, kRowsType))
+        return kNoObject;
+    const ObjectId oid = AddList(definition);
+    return oid != kNoObject && transaction.Commit() ? oid : kNoObject;
+}
+
+bool ListCatalogue::RestoreRows(ObjectId oid)
+{
+    InventoryList definition;
+    if (!OpenList(oid, definition))
+        return false;
+    const ObjectId added = m_volume.DatabaseOid(kRowsType);
+    CloseRows();
+    const ObjectId deleted = DeletedRowsOf(definition.MapName);
+    Transaction transaction(m_volume);
+    return deleted != kNoObject && transaction
+        && CopyRows(definition.MapName, DeletedName(definition.MapName))
+        && m_volume.DeleteDatabase(added)
+        && m_volume.RenameDatabase(deleted, definition.MapName, kRowsType) && transaction.Commit();
+}
+
+bool ListCatalogue::CopyRows(const QString& from, const QString& to)
+{
+    bool isDone = m_volume.Open(from, kRowsType, kByRowName)
+        && m_volume.Open(to, kDeletedRowsType, kByRowName);
+    if (isDone) {
+        ObjectId row = m_volume.SeekFirst(kRowsType);
+        while (isDone && row != kNoObject) {
+            const Record record = m_volume.ReadAll(kRowsType);
+            isDone
+                = record && m_volume.Write(kDeletedRowsType, kNoObject, record.values) != kNoObject;
+            row = m_volume.SeekTo(kRowsType, row) == kNoObject ? kNoObject
+                                                               : m_volume.SeekNext(kRowsType);
+        }
+    }
+    m_volume.Close(kRowsType);
+    m_volume.Close(kDeletedRowsType);
+    return isDone;
+}
+
+bool ListCatalogue::PurgeDeleted()
+{
+    for (const ObjectId database : m_volume.DatabasesOf(kDeletedRowsType)) {
+        if (!m_volume.DeleteDatabase(database))
+            return false;
+    }
+    return true;
 }
 
 } // namespace Quillory

@@ -13,6 +13,8 @@ class ListCatalogue
 public:
     static constexpr DatabaseType kCatalogueType { 71990001 };
     static constexpr DatabaseType kRowsType { 71990002 };
+    /// Rows that were deleted and are kept aside until PurgeDeleted().
+    static constexpr DatabaseType kDeletedRowsType { 71990003 };
 
     /// `volume` outlives the catalogue.
     explicit ListCatalogue(DataVolume& volume);
@@ -69,7 +71,8 @@ public:
     [[nodiscard]] bool OpenList(ObjectId oid, InventoryList& definition);
     void CloseRows();
 
-    /// Deletes a list with all its rows in one transaction; durable when it returns true.
+    /// Takes a list away with all its rows in one transaction; durable when it returns true. The
+    /// rows are kept aside: RestoreList() brings them back, PurgeDeleted() ends them.
     bool DeleteList(ObjectId oid);
 
     enum class EmptyOutcome
@@ -80,7 +83,17 @@ public:
         CannotCreateRows,
     };
     /// Deletes every row of a list; its columns and its record stay. Durable when it returns Done.
+    /// The rows are kept aside: RestoreRows() brings them back, PurgeDeleted() ends them.
     [[nodiscard]] EmptyOutcome DeleteAllRows(ObjectId oid);
+
+    /// Brings a deleted list back, as its definition was before; its new record, kNoObject and
+    /// nothing changed on failure. Durable.
+    ObjectId RestoreList(const InventoryList& definition);
+    /// Brings the deleted rows of a list back, beside those that it was given since. All or
+    /// nothing; durable.
+    bool RestoreRows(ObjectId oid);
+    /// Ends what is kept aside: nothing of it stays in the file. True if nothing is left.
+    bool PurgeDeleted();
 
     [[nodiscard]] DataVolume& Volume() { return m_volume; }
 
@@ -89,6 +102,9 @@ private:
 
     bool CreateCatalogue();
     bool CreateRowDatabase(InventoryList& definition);
+    /// The set-aside rows of a list of this map name; kNoObject if there are none.
+    [[nodiscard]] ObjectId DeletedRowsOf(const QString& mapName);
+    bool CopyRows(const QString& from, const QString& to);
 };
 
 } // namespace Quillory
