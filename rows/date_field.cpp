@@ -72,8 +72,14 @@ std::optional<QDate> DateField::Date() const
         return m_date;
     if (text.trimmed().isEmpty())
         return m_mayBeEmptied ? std::nullopt : m_date;
+    const auto date = Read(text);
+    return date ? date : m_date;
+}
+
+std::optional<QDate> DateField::Read(const QString& text) const
+{
     const auto time = ParseDateText(text, m_context);
-    return time ? FileTimeToDate(*time) : m_date;
+    return time ? FileTimeToDate(*time) : std::nullopt;
 }
 
 QString DateField::DateText() const
@@ -103,6 +109,7 @@ void DateField::OpenCalendar()
     };
     connect(calendar, &QCalendarWidget::clicked, popup, pick);
     connect(calendar, &QCalendarWidget::activated, popup, pick);
+    connect(popup, &QObject::destroyed, m_edit, [this] { m_edit->setFocus(Qt::PopupFocusReason); });
 
     const QSize size = popup->sizeHint();
     const QRect room = screen()->availableGeometry();

@@ -31,6 +31,9 @@ public:
     /// Date() as a list shows it; empty without one.
     [[nodiscard]] QString DateText() const;
 
+    /// The day that a text names; nothing if it names none that can be stored.
+    [[nodiscard]] std::optional<QDate> Read(const QString& text) const;
+
     /// Drops down the calendar; Alt+Down and F4 do the same.
     void OpenCalendar();
     /// Where text is typed; it has the keyboard for the field.

@@ -4,7 +4,6 @@
 #include "res/string_table.h"
 #include "rows/date_field.h"
 #include "values/column_type.h"
-#include "values/file_date.h"
 #include "widgets/form.h"
 
 #include <QComboBox>
@@ -132,9 +131,7 @@ void FilterPage::ShowStoredValue()
     const QString& value = m_state.entry.value;
     m_checkbox->setCurrentIndex(value == u"T" ? 1 : 0);
     m_text->setText(value);
-    const auto stored = ParseDateText(value, m_context);
-    const auto date = stored ? FileTimeToDate(*stored) : std::nullopt;
-    m_date->SetDate(date.value_or(m_context.clock().date));
+    m_date->SetDate(m_date->Read(value).value_or(m_context.clock().date));
 }
 
 QString FilterPage::ValueText() const

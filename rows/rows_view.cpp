@@ -3,7 +3,7 @@
 #include "res/dialog_table.h"
 #include "res/string_table.h"
 #include "rows/row_delegate.h"
-#include "rows/row_editor_page.h"
+#include "rows/row_editor.h"
 #include "rows/summary_page.h"
 #include "values/column_type.h"
 #include "widgets/line_view.h"
@@ -220,7 +220,7 @@ void RowsView::OpenRowMenu(const QPoint& position)
 
 void RowsView::OpenEditor(const Record* row, std::function<void(const std::vector<QString>&)> store)
 {
-    auto* page = new RowEditorPage(m_list.Name, m_list, row, m_context);
+    auto* page = new RowEditor(m_list, row, m_context);
     auto* stack = qobject_cast<PageStack*>(parentWidget());
     stack->Push(page, [page, store = std::move(store)](PageResult result) {
         if (result == PageResult::Ok)

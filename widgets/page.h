@@ -61,6 +61,7 @@ public:
     /// What a result asked for from outside does: closing the window and Escape come as Cancel. The
     /// page may end, ask first, or commit what is being edited.
     virtual void RequestEnd(PageResult result);
+    [[nodiscard]] virtual bool HasUnsavedInput() const { return false; }
 
 Q_SIGNALS:
     void Ended(Quillory::PageResult result);
