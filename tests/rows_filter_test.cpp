@@ -96,7 +96,7 @@ void RowsFilterTest::aFilterNarrowsTheRows()
 void RowsFilterTest::filtersAreJoinedAndCleared()
 {
     m_errand->View()->selectRow(1);
-    QCOMPARE(m_errand->Text(1, RowsErrand::Name), u"beans"_s);
+    QCOMPARE(m_errand->Text(1, Name), u"beans"_s);
     Filter(u"Quantity"_s, u"greater than"_s, u"3"_s);
     Filter(u"Bio"_s, u"equals to"_s, u"Unchecked"_s);
     QCOMPARE(m_errand->Lines(), u"beans"_s);
@@ -105,7 +105,7 @@ void RowsFilterTest::filtersAreJoinedAndCleared()
     m_errand->page->Trigger(Command::ClearFilters);
     QCOMPARE(m_errand->Lines(), u"Rice beans rice flour"_s);
     QCOMPARE(m_errand->View()->currentIndex().row(), 1);
-    QCOMPARE(m_errand->Stored(RowsErrand::Count), u"3 6 5"_s);
+    QCOMPARE(m_errand->Stored(Count), u"3 6 5"_s);
 }
 
 void RowsFilterTest::addThenCancelHidesEveryRow()
@@ -159,18 +159,18 @@ void RowsFilterTest::findShowsWhatMatches()
     QVERIFY(!m_errand->Find<QWidget>(QLatin1StringView("softKeys"))->isVisible());
     for (const auto key : { Qt::Key_Delete, Qt::Key_Plus, Qt::Key_Minus })
         QTest::keyClick(m_errand->View(), key);
-    QTest::mouseClick(m_errand->View()->viewport(), Qt::RightButton, {},
-        m_errand->Cell(0, RowsErrand::Name).center());
+    QTest::mouseClick(
+        m_errand->View()->viewport(), Qt::RightButton, {}, m_errand->Cell(0, Name).center());
     QVERIFY(QApplication::activePopupWidget() == nullptr && m_errand->Message() == nullptr);
     QTest::keyClick(m_errand->View(), Qt::Key_Escape);
     QCOMPARE(m_errand->stack->Top(), m_errand->page);
     QCOMPARE(m_errand->Lines(), u"beans"_s);
-    QCOMPARE(m_errand->Stored(RowsErrand::Count), u"3 5 5"_s);
+    QCOMPARE(m_errand->Stored(Count), u"3 5 5"_s);
 }
 
 void RowsFilterTest::whatIsChangedAmongTheResultsIsSeenBelow()
 {
-    QCOMPARE(m_errand->Text(0, RowsErrand::Count), u"3"_s);
+    QCOMPARE(m_errand->Text(0, Count), u"3"_s);
     m_errand->page->Trigger(Command::Find);
     Choose(u"Quantity"_s, u"equals to"_s, u"3"_s);
     QTest::keyClick(m_errand->View(), Qt::Key_Space);
@@ -179,9 +179,9 @@ void RowsFilterTest::whatIsChangedAmongTheResultsIsSeenBelow()
     m_errand->TypeInEditor(u"9"_s, Qt::Key_Down);
     m_errand->PressOk();
     // It stays among the results although it no longer matches.
-    QCOMPARE(m_errand->Lines(RowsErrand::Count), u"9"_s);
+    QCOMPARE(m_errand->Lines(Count), u"9"_s);
     m_errand->PressOk();
-    QCOMPARE(m_errand->Lines(RowsErrand::Count), u"9 5 5"_s);
+    QCOMPARE(m_errand->Lines(Count), u"9 5 5"_s);
     QVERIFY(!m_errand->IsTicked(0));
 }
 

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
@@ -13,23 +14,23 @@
 
 namespace Quillory {
 
+/// The columns of the errands' list.
+enum PantryColumn
+{
+    Name,
+    Count,
+    Shelf,
+    Bio,
+    Price,
+    Size,
+    Bought,
+    Expiry,
+};
+
 /// A rows view over a list of every type, in a window, and what a person does there.
 class RowsErrand
 {
 public:
-    /// Columns of the list.
-    enum Column
-    {
-        Name,
-        Count,
-        Shelf,
-        Bio,
-        Price,
-        Size,
-        Bought,
-        Expiry,
-    };
-
     RowsErrand() { file.MakeFullList(QStringLiteral("Pantry")); }
 
     void Open(const RowsViewOptions& options = {})
