@@ -3,7 +3,11 @@
 #include "app/file_dialog.h"
 #include "app/home_list.h"
 #include "app/plain_pages.h"
+#include "listdef/display_options_page.h"
+#include "res/dialog_table.h"
 #include "res/string_table.h"
+#include "widgets/help_page.h"
+#include "widgets/message_box.h"
 #include "widgets/window_style.h"
 
 #include <QAction>
@@ -39,22 +43,25 @@ struct MainFrame::CommandEntry
 
 const MainFrame::CommandEntry MainFrame::kCommands[] {
     { Command::New, Qt::CTRL | Qt::Key_N, Needs::DataFile, &MainFrame::NewList },
+    { Command::ListProperties, Qt::ALT | Qt::Key_Return, Needs::List, &MainFrame::ShowProperties },
     { Command::Rename, Qt::Key_F2, Needs::List, &MainFrame::RenameList },
+    { Command::Import, {}, Needs::List, &MainFrame::ImportList },
     { Command::Export, {}, Needs::List, &MainFrame::ExportList },
     { Command::Delete, Qt::Key_Delete, Needs::List, &MainFrame::DeleteList },
     { Command::DeleteAllRecords, {}, Needs::List, &MainFrame::DeleteAllRecords },
     { Command::OpenReadOnly, {}, Needs::DataFile, &MainFrame::ToggleReadOnly },
+    { Command::Options, {}, Needs::DataFile, &MainFrame::ShowOptions },
     { Command::About, {}, Needs::DataFile, &MainFrame::ShowAbout },
 };
 
-MainFrame::MainFrame(const QString& settingsPath, QWidget* parent)
+MainFrame::MainFrame(Settings settings, const QString& settingsPath, QWidget* parent)
     : QMainWindow(parent)
     , m_settingsPath(settingsPath)
+    , m_settings(std::move(settings))
     , m_context(ValueContext::FromEnvironment())
     , m_pages(new PageStack(this))
     , m_home(new HomeList)
 {
-    ReadSettings(m_settingsPath, m_settings);
     if (m_settings.codePage) {
         m_context.userLocale.codePage = *m_settings.codePage;
         m_context.systemLocale.codePage = *m_settings.codePage;
@@ -87,15 +94,12 @@ void MainFrame::BuildHome()
     connect(m_home, &HomeList::CommandChosen, this, &MainFrame::RunCommand);
     m_home->SetRenamer(
         [this](ObjectId oid, const QString& name) { return m_catalogue.RenameList(oid, name); });
-    for (const MenuEntry& entry : MenuEntries(MenuId::Main)) {
-        if (entry.command != Command::Separator)
-            m_home->SetCommandEnabled(entry.command, false);
-    }
     for (const CommandEntry& entry : kCommands) {
         if (entry.shortcut != QKeyCombination())
             m_home->SetShortcut(entry.command, entry.shortcut);
     }
     m_home->ActionOf(Command::OpenReadOnly)->setCheckable(true);
+    connect(m_pages, &PageStack::HelpRequested, this, &MainFrame::ShowHelp);
     m_pages->Push(m_home);
     UpdateCommands();
 }
@@ -195,6 +199,8 @@ bool MainFrame::CloseAllPages()
 {
     int depth = 0;
     do {
+        if (m_pages->Top()->HasUnsavedInput())
+            return false;
         depth = m_pages->Depth();
         if (m_pages->CloseTopmost())
             return true;
@@ -202,12 +208,30 @@ bool MainFrame::CloseAllPages()
     return false;
 }
 
+void MainFrame::AskToDiscardInput()
+{
+    ShowMessage(this, tr("Do you want to discard what you have entered?"), MessageIcon::Exclamation,
+        MessageButtons::YesNo, [this](MessageAnswer answer) {
+            if (answer != MessageAnswer::Yes)
+                return;
+            static_cast<void>(m_pages->CloseTopmost());
+            close();
+        });
+}
+
 void MainFrame::closeEvent(QCloseEvent* event)
 {
     // Before the data file is open there is nothing to lose. Later, work that shows its progress,
     // questions, and pages that ask first are not left behind.
-    if (m_isDataFileOpen && (QApplication::activeModalWidget() != nullptr || !CloseAllPages()))
-        return event->ignore();
+    if (m_isDataFileOpen) {
+        if (QApplication::activeModalWidget() != nullptr)
+            return event->ignore();
+        if (!CloseAllPages()) {
+            if (m_pages->Top()->HasUnsavedInput())
+                AskToDiscardInput();
+            return event->ignore();
+        }
+    }
     if (m_savesSettings) {
         m_settings.windowGeometry = saveGeometry();
         WriteSettings(m_settingsPath, m_settings);
@@ -219,6 +243,28 @@ void MainFrame::ToggleReadOnly()
 {
     m_settings.Options.flip(kReadOnlyOption);
     UpdateCommands();
+}
+
+void MainFrame::ShowOptions()
+{
+    const DisplayOptions options { m_settings.Options.test(kLandscapeOption),
+        m_settings.ListOrientation == kLandscapeRightHanded,
+        m_settings.Options.test(kAlternateColourOption) };
+    auto* page = new DisplayOptionsPage(options);
+    m_pages->Push(page, [this, page](PageResult result) {
+        if (result != PageResult::Ok)
+            return;
+        const DisplayOptions chosen = page->Result();
+        m_settings.Options.set(kLandscapeOption, chosen.isLandscape);
+        m_settings.ListOrientation
+            = chosen.isRightHanded ? kLandscapeRightHanded : kLandscapeLeftHanded;
+        m_settings.Options.set(kAlternateColourOption, chosen.hasAlternateLines);
+    });
+}
+
+void MainFrame::ShowHelp(const QString& anchor)
+{
+    m_pages->Push(new HelpPage(anchor.isEmpty() ? QString::fromLatin1(kHelpMain) : anchor));
 }
 
 void MainFrame::ShowAbout()

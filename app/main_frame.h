@@ -1,10 +1,12 @@
 #pragma once
 
 #include "app/data_file_opener.h"
+#include "app/landscape_shape.h"
 #include "app/settings.h"
 #include "app/single_instance.h"
 #include "store/list_catalogue.h"
 #include "store/row_store.h"
+#include "transfer/text_import.h"
 #include "values/value_text.h"
 #include "widgets/page_stack.h"
 
@@ -22,8 +24,9 @@ class MainFrame : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Reads the settings; the data file is opened by OpenDataFile() alone.
-    explicit MainFrame(const QString& settingsPath, QWidget* parent = nullptr);
+    /// Takes the settings over, to be written to `settingsPath` at the end; the data file is opened
+    /// by OpenDataFile() alone.
+    MainFrame(Settings settings, const QString& settingsPath, QWidget* parent = nullptr);
     ~MainFrame() override;
 
     /// Asks for a place for the data file; calls `then` with an empty path if none was chosen.
@@ -65,6 +68,7 @@ private:
 
     PageStack* m_pages;
     HomeList* m_home;
+    LandscapeShape m_landscape { *this };
 
     void BuildHome();
     void RestoreWindow();
@@ -74,7 +78,10 @@ private:
     [[nodiscard]] DataFileOpener::Prompts OpenerPrompts();
     void EndOpening(DataFileOpener::Outcome outcome);
     void BringToFront(const QString& activationToken);
+    /// Ends the pages from the top. False where one has input that would be lost, or stays.
     [[nodiscard]] bool CloseAllPages();
+    void AskToDiscardInput();
+    void ShowHelp(const QString& anchor);
 
     [[nodiscard]] StartAnswer OpenNamedList(const QString& name);
     void OpenSelectedList();
@@ -83,9 +90,16 @@ private:
 
     void NewList();
     void StoreNewList(InventoryList list);
+    void ShowProperties();
+    void StoreProperties(ObjectId oid, const InventoryList& list);
     void RenameList();
     void DeleteList();
     void DeleteAllRecords();
+    void ShowOptions();
+    void ImportList();
+    void ChooseImportOrder(const QString& path);
+    void ImportFrom(const QString& path, const std::vector<PropertyId>& order);
+    void EndImport(const ImportOutcome& outcome);
     void ExportList();
     void ExportTo(const QString& path);
     void TellStop(const QString& text, const std::function<void()>& then = {});

@@ -1,8 +1,9 @@
 #include "app/home_list.h"
 #include "app/main_frame.h"
-#include "listdef/new_list_page.h"
+#include "listdef/list_sheet.h"
 #include "res/string_table.h"
 #include "rows/rows_view.h"
+#include "widgets/message_box.h"
 #include "widgets/wait_cursor.h"
 
 #include <QApplication>
@@ -38,6 +39,8 @@ void MainFrame::OpenList(ObjectId oid)
         return;
     m_openList = oid;
     m_rows = std::make_unique<RowStore>(m_volume, m_list, m_context);
+    if (m_settings.Options.test(kLandscapeOption))
+        m_landscape.Enter();
     const RowsViewOptions options { m_settings.Options.test(kReadOnlyOption),
         m_settings.Options.test(kAlternateColourOption) };
     auto* view = new RowsView(*m_rows, m_list, m_context, options);
@@ -51,15 +54,17 @@ void MainFrame::CloseList()
     m_catalogue.CloseRows();
     m_volume.Flush();
     m_openList = kNoObject;
+    if (m_settings.Options.test(kLandscapeOption))
+        m_landscape.Leave();
     m_home->FocusLines();
 }
 
 void MainFrame::NewList()
 {
-    auto* page = new NewListPage;
-    m_pages->Push(page, [this, page](PageResult result) {
-        if (result == PageResult::Ok && !page->Result().Name.isEmpty())
-            StoreNewList(page->Result());
+    auto* sheet = new ListSheet(SheetMode::NewList, NewInventoryList());
+    m_pages->Push(sheet, [this, sheet](PageResult result) {
+        if (result == PageResult::Ok && !sheet->Result().Name.isEmpty())
+            StoreNewList(sheet->Result());
     });
 }
 
@@ -73,6 +78,27 @@ void MainFrame::StoreNewList(InventoryList list)
         return;
     TellStop(LoadText(Text::CannotCreateUserDatabase),
         [this] { TellStop(LoadText(Text::CannotCreateInventoryTable)); });
+}
+
+void MainFrame::ShowProperties()
+{
+    const ObjectId oid = m_home->SelectedList();
+    InventoryList list;
+    if (!m_catalogue.OpenList(oid, list))
+        return;
+    auto* sheet = new ListSheet(SheetMode::ExistingList, list);
+    m_pages->Push(sheet, [this, sheet, oid](PageResult result) {
+        m_catalogue.CloseRows();
+        m_volume.Flush();
+        if (result == PageResult::Ok)
+            StoreProperties(oid, sheet->Result());
+    });
+}
+
+void MainFrame::StoreProperties(ObjectId oid, const InventoryList& list)
+{
+    if (m_catalogue.UpdateList(oid, list))
+        m_home->UpdateLine({ oid, list.Name, list.TableIcon });
 }
 
 void MainFrame::RenameList()

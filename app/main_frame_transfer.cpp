@@ -2,13 +2,73 @@
 #include "app/home_list.h"
 #include "app/main_frame.h"
 #include "app/transfer_progress.h"
+#include "listdef/import_order_page.h"
 #include "res/string_table.h"
 #include "transfer/list_file.h"
 #include "transfer/text_export.h"
+#include "widgets/message_box.h"
 
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
+
+void MainFrame::ImportList()
+{
+    ChooseFile(this, FileUse::Read, { LoadText(Text::TextFiles), u"txt"_s, {} },
+        [this](const QString& path) {
+            if (!path.isEmpty())
+                ChooseImportOrder(path);
+        });
+}
+
+void MainFrame::ChooseImportOrder(const QString& path)
+{
+    const ObjectId oid = m_home->SelectedList();
+    m_list = {};
+    if (oid == kNoObject || !m_catalogue.OpenList(oid, m_list))
+        return;
+    auto* page = new ImportOrderPage(m_list.columns);
+    m_pages->Push(page, [this, page, path](PageResult result) {
+        if (result == PageResult::Ok)
+            ImportFrom(path, page->Order());
+        else
+            m_catalogue.CloseRows();
+    });
+}
+
+void MainFrame::ImportFrom(const QString& path, const std::vector<PropertyId>& order)
+{
+    ImportOutcome outcome { ImportResult::Failed };
+    const ListFile source = OpenListFile(path, m_settings.DbPath);
+    if (source.file != nullptr) {
+        TransferProgress progress(this, m_list.Name);
+        outcome = ImportRows(
+            m_volume, order, m_context, *source.file, [&progress](const ImportProgress& done) {
+                return progress.Show(done.bytesRead, done.bytesTotal);
+            });
+    }
+    EndImport(outcome);
+}
+
+void MainFrame::EndImport(const ImportOutcome& outcome)
+{
+    const ObjectId oid = m_home->SelectedList();
+    const auto showRows = [this, oid](MessageAnswer = MessageAnswer::Ok) {
+        m_catalogue.CloseRows();
+        OpenList(oid);
+    };
+    // Rows for which there was no room are missing as those are that could not be read.
+    if (outcome.result == ImportResult::Failed || outcome.writeError != ErrorNumber::None)
+        ShowMessage(this, LoadString(StringId::ImportErrors), MessageIcon::Stop, MessageButtons::Ok,
+            showRows);
+    else if (outcome.result == ImportResult::Cancelled)
+        ShowMessage(this,
+            tr("The import was cancelled. %n row(s) are in the list already.", nullptr,
+                static_cast<int>(outcome.rows)),
+            MessageIcon::Information, MessageButtons::Ok, showRows);
+    else
+        showRows();
+}
 
 void MainFrame::ExportList()
 {

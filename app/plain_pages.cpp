@@ -64,6 +64,7 @@ AboutPage::AboutPage(QWidget* parent)
     : Page(LoadText(Text::Caption), parent)
 {
     setObjectName(u"AboutPage"_s);
+    SetHelpAnchor(QString::fromLatin1(kHelpMain));
     QLabel* name = NewTextLabel(LoadText(Text::Caption));
     QFont font = name->font();
     font.setPointSizeF(font.pointSizeF() * 1.6);

@@ -24,6 +24,7 @@ constexpr auto kOptionsKey = "Options"_L1;
 constexpr auto kOrientationKey = "ListOrientation"_L1;
 constexpr auto kGeometryKey = "WindowGeometry"_L1;
 constexpr auto kCodePageKey = "CodePage"_L1;
+constexpr auto kColourSchemeKey = "ColourScheme"_L1;
 
 quint32 ReadNumber(const QSettings& file, QLatin1StringView key, quint32 fallback)
 {
@@ -71,6 +72,7 @@ void ReadSettings(const QString& path, Settings& settings)
     settings.ListOrientation = ReadNumber(file, kOrientationKey, kLandscapeRightHanded);
     settings.windowGeometry = file.value(kGeometryKey).toByteArray();
     settings.codePage = ReadCodePage(file);
+    settings.colourScheme = file.value(kColourSchemeKey).toString().toLower();
 }
 
 void WriteSettings(const QString& path, const Settings& settings)

@@ -31,6 +31,8 @@ struct Settings
     QByteArray windowGeometry;
     /// Overrides the code page of the locale for reading text files; set by hand in the file.
     std::optional<int> codePage;
+    /// "light" or "dark" overrides the desktop's colours; set by hand in the file.
+    QString colourScheme;
 };
 
 /// quillory/quillory.conf in the user's folder of settings.
@@ -40,8 +42,8 @@ struct Settings
 /// default; where there is no file at all, `settings.Options` stays as it is.
 void ReadSettings(const QString& path, Settings& settings);
 
-/// Writes everything but the code page, which is the user's own line. A file that cannot be written
-/// stays as it is.
+/// Writes everything but code page and colour scheme, which are the user's own lines. A file that
+/// cannot be written stays as it is.
 void WriteSettings(const QString& path, const Settings& settings);
 
 } // namespace Quillory

@@ -3,6 +3,7 @@
 #include "app/main_frame.h"
 #include "app/settings.h"
 #include "app/single_instance.h"
+#include "widgets/desktop_look.h"
 #include "widgets/icon_set.h"
 
 #include <QApplication>
@@ -70,9 +71,21 @@ int ExitCodeOf(SingleInstance::Outcome outcome, const QString& listName)
     return kDone;
 }
 
+std::optional<ColourScheme> FixedScheme(const Settings& settings)
+{
+    if (settings.colourScheme == u"dark"_s)
+        return ColourScheme::Dark;
+    if (settings.colourScheme == u"light"_s)
+        return ColourScheme::Light;
+    return std::nullopt;
+}
+
 int RunFrame(SingleInstance& instance, const QString& listName, int endRequests)
 {
-    MainFrame frame(SettingsPath());
+    Settings settings;
+    ReadSettings(SettingsPath(), settings);
+    const DesktopLook look(FixedScheme(settings));
+    MainFrame frame(settings, SettingsPath());
     instance.SetHandler(
         [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
     // The window closes as its user would close it: pages end, settings are saved.
@@ -103,6 +116,8 @@ int RunWindow(int argumentCount, char** argumentValues)
         return kFailed;
     }
     const QString token = ActivationToken();
+    // The window's style sheet builds on this one.
+    QApplication::setStyle(u"fusion"_s);
     const QApplication app(argumentCount, argumentValues);
     QApplication::setApplicationName(u"quillory"_s);
     QApplication::setApplicationDisplayName(u"Quillory"_s);

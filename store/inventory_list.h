@@ -29,6 +29,8 @@ struct ColumnDefinition
     QString name;
     int kind = 0;
     PropertyId id {};
+
+    friend bool operator==(const ColumnDefinition&, const ColumnDefinition&) = default;
 };
 
 /// The definition of one list: what the catalogue keeps of it, and its columns.
@@ -48,6 +50,8 @@ struct InventoryList
     /// The name of the list's row database.
     QString MapName;
     qint16 TableIcon = 0;
+
+    friend bool operator==(const InventoryList&, const InventoryList&) = default;
 };
 
 /// A list as it is before anyone named it: "Name" and "Quantity", icon 0, warnings off.

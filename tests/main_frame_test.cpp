@@ -1,17 +1,24 @@
 #include "app/home_list.h"
 #include "app/main_frame.h"
+#include "listdef/display_options_page.h"
 #include "tests/list_fixture.h"
+#include "widgets/icon_picker.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTableView>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTreeView>
 
 using namespace Quillory;
@@ -35,11 +42,13 @@ public:
             list.Name = name;
             QVERIFY(catalogue.CreateList(list).isCommitted);
         }
-        WriteSettings(Conf(), { DataPath(), {}, kLandscapeRightHanded, {}, {} });
+        WriteSettings(Conf(), { DataPath(), {}, kLandscapeRightHanded, {}, {}, {} });
     }
     void Start(const QString& listName = {})
     {
-        frame = std::make_unique<MainFrame>(Conf());
+        Settings settings;
+        ReadSettings(Conf(), settings);
+        frame = std::make_unique<MainFrame>(settings, Conf());
         frame->SetFileChooser([this](const auto& then) { then(DataPath()); });
         frame->show();
         frame->OpenDataFile(listName);
@@ -73,6 +82,28 @@ public:
     {
         const QRect place = view->visualRect(view->model()->index(line, 0));
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place.center());
+    }
+    ObjectId ListNamed(const QString& name) const
+    {
+        const auto* model = qobject_cast<HomeListModel*>(view->model());
+        for (int i = 0; i < model->rowCount(); ++i) {
+            if (model->NameAt(model->index(i)) == name)
+                return model->OidAt(model->index(i));
+        }
+        return kNoObject;
+    }
+    /// Chooses a file of this content for import, up to the order of its columns.
+    void Import(const QByteArray& content)
+    {
+        QFile file(m_folder.filePath(u"in.txt"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        Choose(Command::Import);
+        auto* dialog = frame->findChild<QFileDialog*>();
+        QVERIFY(dialog != nullptr);
+        dialog->selectFile(file.fileName());
+        static_cast<QDialog*>(dialog)->accept();
     }
     QString Lines() const
     {
@@ -110,6 +141,13 @@ private Q_SLOTS:
     void aTapOpensAListAndComingBackKeepsItSelected();
     void aLaterStartOpensTheListItNames();
     void theSelectedListIsExported();
+    void propertiesChangeNameIconAndPlace();
+    void optionsSurviveARestart();
+    void landscapeLastsAsLongAsTheListIsShown();
+    void anImportAsksForTheOrderAndShowsTheRows();
+    void aFailedImportIsToldAndTheListOpened();
+    void closingAsksBeforeInputIsLost();
+    void helpOpensAtThePageItWasAskedFrom();
 };
 
 void MainFrameTest::theFirstStartMakesTheDataFile()
@@ -131,7 +169,7 @@ void MainFrameTest::aNewListIsThereAfterARestart()
     errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
     errand.Start();
     errand.Choose(Command::New);
-    auto* name = errand.pages->Top()->findChild<QLineEdit*>();
+    auto* name = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
     QVERIFY(name != nullptr);
     QTest::keyClicks(name, u"Pantry"_s);
     errand.pages->Top()->End(PageResult::Ok);
@@ -313,6 +351,130 @@ void MainFrameTest::theSelectedListIsExported()
 }
 
 } // namespace
+
+void MainFrameTest::propertiesChangeNameIconAndPlace()
+{
+    Errand errand;
+    errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
+    errand.Start();
+    for (const PageResult result : { PageResult::Cancel, PageResult::Ok }) {
+        errand.Choose(Command::ListProperties);
+        auto* sheet = errand.pages->Top();
+        QCOMPARE(sheet->Title(), u"Inventory List Options"_s);
+        sheet->findChild<QLineEdit*>(u"listName"_s)->setText(u"Zoo"_s);
+        QTest::mouseClick(sheet->findChild<QWidget*>(u"nextIcon"_s), Qt::LeftButton);
+        sheet->End(result);
+        QCOMPARE(errand.Lines(), result == PageResult::Ok ? u"Pantry, Zoo"_s : u"Attic, Pantry"_s);
+    }
+    QCOMPARE(errand.home->SelectedName(), u"Zoo"_s);
+    errand.Restart();
+    QCOMPARE(errand.Lines(), u"Pantry, Zoo"_s);
+    errand.home->Select(errand.ListNamed(u"Zoo"_s));
+    errand.Choose(Command::ListProperties);
+    QCOMPARE(errand.pages->Top()->findChild<IconPicker*>(u"listIcon"_s)->Icon(), 1);
+}
+
+void MainFrameTest::optionsSurviveARestart()
+{
+    Errand errand;
+    errand.MakeLists({});
+    errand.Start();
+    errand.Choose(Command::Options);
+    errand.pages->Top()->findChild<QCheckBox*>(u"landscape"_s)->click();
+    errand.pages->Top()->findChild<QRadioButton*>(u"landscapeLeft"_s)->click();
+    errand.pages->Top()->End(PageResult::Ok);
+    errand.Choose(Command::Options);
+    errand.pages->Top()->findChild<QCheckBox*>(u"alternateColour"_s)->click();
+    errand.pages->Top()->End(PageResult::Cancel);
+    errand.Restart();
+    errand.Choose(Command::Options);
+    const auto* page = qobject_cast<DisplayOptionsPage*>(errand.pages->Top());
+    QVERIFY(page != nullptr);
+    QCOMPARE(page->Result(), (DisplayOptions { true, false, false }));
+}
+
+void MainFrameTest::landscapeLastsAsLongAsTheListIsShown()
+{
+    Errand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    errand.Start();
+    errand.frame->resize(300, 500);
+    errand.Choose(Command::Options);
+    errand.pages->Top()->findChild<QCheckBox*>(u"landscape"_s)->click();
+    errand.pages->Top()->End(PageResult::Ok);
+    QCOMPARE(errand.frame->size(), QSize(300, 500));
+    errand.Tap(0);
+    QCOMPARE(errand.frame->size(), QSize(500, 300));
+    errand.pages->Top()->RequestEnd(PageResult::Ok);
+    QCOMPARE(errand.frame->size(), QSize(300, 500));
+}
+
+void MainFrameTest::anImportAsksForTheOrderAndShowsTheRows()
+{
+    Errand errand;
+    errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
+    errand.Start();
+    errand.home->Select(errand.ListNamed(u"Pantry"_s));
+    for (const PageResult result : { PageResult::Cancel, PageResult::Ok }) {
+        errand.Import("3\tTea\r\n5\tSalt\r\nno end");
+        auto* order = errand.pages->Top();
+        QCOMPARE(order->Title(), u"Import Column Order"_s);
+        QTest::mouseClick(order->findChild<QWidget*>(u"moveDown"_s), Qt::LeftButton);
+        order->End(result);
+        QCOMPARE(errand.pages->Top() == errand.home, result == PageResult::Cancel);
+    }
+    const auto* model = errand.pages->Top()->findChild<QTableView*>()->model();
+    QCOMPARE(errand.pages->Top()->Title(), u"Pantry"_s);
+    QCOMPARE(model->rowCount(), 2);
+    QCOMPARE(model->index(1, 0).data().toString(), u"Tea"_s);
+    QCOMPARE(model->index(1, 1).data().toString(), u"3"_s);
+}
+
+void MainFrameTest::aFailedImportIsToldAndTheListOpened()
+{
+    Errand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    errand.Start();
+    // Nothing but a byte-order mark.
+    errand.Import(QByteArray::fromHex("fffe0000"));
+    errand.pages->Top()->End(PageResult::Ok);
+    errand.Answer(QMessageBox::Ok);
+    QCOMPARE(
+        errand.question, u"Import is completed with errors. Data may not be imported properly."_s);
+    QCOMPARE(errand.pages->Top()->Title(), u"Pantry"_s);
+}
+
+void MainFrameTest::closingAsksBeforeInputIsLost()
+{
+    Errand errand;
+    errand.MakeLists({});
+    errand.Start();
+    errand.Choose(Command::New);
+    QTest::keyClicks(errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s), u"Pantry"_s);
+    QVERIFY(!errand.frame->close());
+    errand.Answer(QMessageBox::No);
+    QCOMPARE(errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s)->text(), u"Pantry"_s);
+    QVERIFY(!errand.frame->close());
+    errand.Answer(QMessageBox::Yes);
+    QVERIFY(!errand.frame->isVisible());
+}
+
+void MainFrameTest::helpOpensAtThePageItWasAskedFrom()
+{
+    Errand errand;
+    errand.MakeLists({});
+    errand.Start();
+    QTest::keyClick(errand.view, Qt::Key_F1);
+    auto* text = errand.pages->Top()->findChild<QTextBrowser*>();
+    QVERIFY(text != nullptr);
+    QCOMPARE(text->source().fragment(), u"Main_Contents"_s);
+    errand.pages->Top()->End(PageResult::Ok);
+    errand.Choose(Command::New);
+    QTest::mouseClick(errand.pages->Top()->findChild<QWidget*>(u"help"_s), Qt::LeftButton);
+    text = errand.pages->Top()->findChild<QTextBrowser*>();
+    QCOMPARE(text->source().fragment(), u"newlist"_s);
+    QTRY_VERIFY(text->verticalScrollBar()->value() > 0);
+}
 
 QTEST_MAIN(MainFrameTest)
 

@@ -1,50 +1,59 @@
 #include "widgets/colour_palette.h"
 
-#include <array>
+#include <QCoreApplication>
+
+#include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace Quillory {
 
 namespace {
 
-constexpr std::array<QRgb, kColourCount> kColours {
-    qRgb(0, 0, 0),
-    qRgb(0, 0, 255),
-    qRgb(0, 0, 128),
-    qRgb(0, 128, 255),
-    qRgb(0, 0, 64),
-    qRgb(255, 0, 0),
-    qRgb(128, 0, 0),
-    qRgb(255, 0, 255),
-    qRgb(255, 170, 255),
-    qRgb(128, 128, 192),
-    qRgb(64, 0, 64),
-    qRgb(128, 255, 255),
-    qRgb(255, 128, 0),
-    qRgb(128, 64, 0),
-    qRgb(0, 255, 0),
-    qRgb(0, 128, 0),
-    qRgb(64, 128, 128),
-    qRgb(128, 128, 0),
-    qRgb(240, 240, 0),
-    qRgb(185, 198, 240),
-    qRgb(128, 128, 255),
-    qRgb(255, 128, 192),
-    qRgb(255, 204, 102),
-    qRgb(102, 102, 153),
-    qRgb(180, 226, 255),
-    qRgb(102, 204, 51),
-    qRgb(178, 255, 178),
-    qRgb(204, 204, 255),
-    qRgb(142, 51, 180),
-    qRgb(142, 96, 129),
-    qRgb(180, 52, 158),
-    qRgb(212, 130, 0),
-    qRgb(126, 202, 126),
-    qRgb(100, 100, 100),
-    qRgb(250, 70, 118),
-    qRgb(0, 64, 0),
+struct ColourEntry
+{
+    QRgb colour;
+    const char* name;
 };
+
+constexpr std::array<ColourEntry, kColourCount> kColours { {
+    { qRgb(0, 0, 0), QT_TRANSLATE_NOOP("Colours", "Automatic") },
+    { qRgb(0, 0, 255), QT_TRANSLATE_NOOP("Colours", "Blue") },
+    { qRgb(0, 0, 128), QT_TRANSLATE_NOOP("Colours", "Navy") },
+    { qRgb(0, 128, 255), QT_TRANSLATE_NOOP("Colours", "Azure") },
+    { qRgb(0, 0, 64), QT_TRANSLATE_NOOP("Colours", "Midnight blue") },
+    { qRgb(255, 0, 0), QT_TRANSLATE_NOOP("Colours", "Red") },
+    { qRgb(128, 0, 0), QT_TRANSLATE_NOOP("Colours", "Maroon") },
+    { qRgb(255, 0, 255), QT_TRANSLATE_NOOP("Colours", "Magenta") },
+    { qRgb(255, 170, 255), QT_TRANSLATE_NOOP("Colours", "Pale pink") },
+    { qRgb(128, 128, 192), QT_TRANSLATE_NOOP("Colours", "Slate blue") },
+    { qRgb(64, 0, 64), QT_TRANSLATE_NOOP("Colours", "Dark plum") },
+    { qRgb(128, 255, 255), QT_TRANSLATE_NOOP("Colours", "Pale cyan") },
+    { qRgb(255, 128, 0), QT_TRANSLATE_NOOP("Colours", "Orange") },
+    { qRgb(128, 64, 0), QT_TRANSLATE_NOOP("Colours", "Brown") },
+    { qRgb(0, 255, 0), QT_TRANSLATE_NOOP("Colours", "Bright green") },
+    { qRgb(0, 128, 0), QT_TRANSLATE_NOOP("Colours", "Green") },
+    { qRgb(64, 128, 128), QT_TRANSLATE_NOOP("Colours", "Teal") },
+    { qRgb(128, 128, 0), QT_TRANSLATE_NOOP("Colours", "Olive") },
+    { qRgb(240, 240, 0), QT_TRANSLATE_NOOP("Colours", "Yellow") },
+    { qRgb(185, 198, 240), QT_TRANSLATE_NOOP("Colours", "Pale blue") },
+    { qRgb(128, 128, 255), QT_TRANSLATE_NOOP("Colours", "Periwinkle") },
+    { qRgb(255, 128, 192), QT_TRANSLATE_NOOP("Colours", "Pink") },
+    { qRgb(255, 204, 102), QT_TRANSLATE_NOOP("Colours", "Pale orange") },
+    { qRgb(102, 102, 153), QT_TRANSLATE_NOOP("Colours", "Dusky blue") },
+    { qRgb(180, 226, 255), QT_TRANSLATE_NOOP("Colours", "Sky blue") },
+    { qRgb(102, 204, 51), QT_TRANSLATE_NOOP("Colours", "Leaf green") },
+    { qRgb(178, 255, 178), QT_TRANSLATE_NOOP("Colours", "Pale green") },
+    { qRgb(204, 204, 255), QT_TRANSLATE_NOOP("Colours", "Lavender") },
+    { qRgb(142, 51, 180), QT_TRANSLATE_NOOP("Colours", "Violet") },
+    { qRgb(142, 96, 129), QT_TRANSLATE_NOOP("Colours", "Mauve") },
+    { qRgb(180, 52, 158), QT_TRANSLATE_NOOP("Colours", "Purple") },
+    { qRgb(212, 130, 0), QT_TRANSLATE_NOOP("Colours", "Amber") },
+    { qRgb(126, 202, 126), QT_TRANSLATE_NOOP("Colours", "Sage") },
+    { qRgb(100, 100, 100), QT_TRANSLATE_NOOP("Colours", "Grey") },
+    { qRgb(250, 70, 118), QT_TRANSLATE_NOOP("Colours", "Raspberry") },
+    { qRgb(0, 64, 0), QT_TRANSLATE_NOOP("Colours", "Dark green") },
+} };
 
 bool IsDark(const QPalette& palette)
 {
@@ -85,12 +94,35 @@ QColor LightenedFor(QColor colour, const QColor& ground)
 
 } // namespace
 
+QColor PaletteColour(quint32 index)
+{
+    return kColours.at(index < kColourCount ? index : kAutomaticColour).colour;
+}
+
+QString ColourName(quint32 index)
+{
+    return QCoreApplication::translate(
+        "Colours", kColours.at(index < kColourCount ? index : kAutomaticColour).name);
+}
+
+const std::array<quint32, kColourCount>& ColoursByValue()
+{
+    static const auto order = [] {
+        std::array<quint32, kColourCount> indices {};
+        std::iota(indices.begin(), indices.end(), 0U);
+        std::sort(indices.begin(), indices.end(),
+            [](quint32 a, quint32 b) { return kColours.at(a).colour < kColours.at(b).colour; });
+        return indices;
+    }();
+    return order;
+}
+
 QColor TextColour(quint32 index, const QPalette& palette)
 {
     const bool isDark = IsDark(palette);
     if (index == kAutomaticColour || index >= kColourCount)
-        return isDark ? palette.color(QPalette::Text) : QColor(kColours[kAutomaticColour]);
-    const QColor colour(kColours.at(index));
+        return isDark ? palette.color(QPalette::Text) : PaletteColour(kAutomaticColour);
+    const QColor colour = PaletteColour(index);
     return isDark ? LightenedFor(colour, palette.color(QPalette::Base)) : colour;
 }
 

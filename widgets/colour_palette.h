@@ -2,6 +2,9 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QString>
+
+#include <array>
 
 namespace Quillory {
 
@@ -10,6 +13,14 @@ constexpr quint32 kColourCount = 36;
 constexpr quint32 kAutomaticColour = 0;
 /// The ground of every other row, where that is asked for.
 constexpr QRgb kAlternateRowColour = qRgb(207, 217, 246);
+
+/// The colour of an index as it is defined; black for one outside the palette.
+[[nodiscard]] QColor PaletteColour(quint32 index);
+/// What a colour is called, for those who cannot see it.
+[[nodiscard]] QString ColourName(quint32 index);
+/// The indices in ascending order of their colours' values, red before green before blue: the order
+/// in which colours are offered.
+[[nodiscard]] const std::array<quint32, kColourCount>& ColoursByValue();
 
 /// The colour that a list stores as an index; the automatic one for an index outside the palette.
 /// On a dark ground it is made as much lighter as it takes to be read.

@@ -2,11 +2,42 @@
 
 #include "widgets/measures.h"
 
+#include <QCheckBox>
 #include <QFormLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QScrollArea>
+#include <QScroller>
 #include <QVBoxLayout>
-#include <QWidget>
 
 namespace Quillory {
+
+namespace {
+
+/// The text of a checkbox, beside it: the box itself does not wrap its text.
+class CheckLabel : public QLabel
+{
+public:
+    CheckLabel(const QString& text, QCheckBox& box)
+        : QLabel(text, box.parentWidget())
+        , m_box(box)
+    {
+        setWordWrap(true);
+        setTextFormat(Qt::PlainText);
+    }
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (rect().contains(event->position().toPoint()))
+            m_box.click();
+    }
+
+private:
+    QCheckBox& m_box;
+};
+
+} // namespace
 
 Form::Form(QVBoxLayout* body)
     : m_lines(new QFormLayout)
@@ -26,6 +57,30 @@ void Form::AddLine(const QString& label, QWidget* control)
     control->setMinimumHeight(CurrentMeasures().lineHeight);
     control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_lines->addRow(label, control);
+}
+
+void AddCheckLine(QVBoxLayout& body, QCheckBox& box, const QString& text)
+{
+    box.setAccessibleName(text);
+    box.setFixedWidth(kCheckIndent);
+    box.setMinimumHeight(CurrentMeasures().lineHeight);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(0);
+    line->addWidget(&box);
+    line->addWidget(new CheckLabel(text, box), 1);
+    body.addLayout(line);
+}
+
+QWidget* MakeScrollable(QWidget* content)
+{
+    auto* area = new QScrollArea(content->parentWidget());
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(content);
+    area->setFocusProxy(content);
+    QScroller::grabGesture(area->viewport(), QScroller::TouchGesture);
+    return area;
 }
 
 } // namespace Quillory

@@ -2,11 +2,15 @@
 
 #include <QString>
 
+class QCheckBox;
 class QFormLayout;
 class QVBoxLayout;
 class QWidget;
 
 namespace Quillory {
+
+/// Where the text of a checkbox begins, and with it what depends on the box.
+constexpr int kCheckIndent = 32;
 
 /// Lines of a label and a control, as pages with a few fields show them.
 class Form
@@ -21,5 +25,12 @@ public:
 private:
     QFormLayout* m_lines;
 };
+
+/// Adds a checkbox and its text, which wraps where it is longer than the page is wide; a tap on the
+/// text is one on the box.
+void AddCheckLine(QVBoxLayout& body, QCheckBox& box, const QString& text);
+
+/// `content` in an area that scrolls, by a finger too, where the page is not high enough for it.
+[[nodiscard]] QWidget* MakeScrollable(QWidget* content);
 
 } // namespace Quillory

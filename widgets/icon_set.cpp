@@ -1,11 +1,15 @@
 #include "widgets/icon_set.h"
 
-#include <QFile>
+#include "widgets/colour_palette.h"
+
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
-#include <QPalette>
+#include <QPixmapCache>
 #include <QSvgRenderer>
+
+#include <array>
+#include <optional>
 
 // Resources of a static library are not found unless somebody asks for them by name.
 static void LoadIconResources()
@@ -19,19 +23,77 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString ListIconPath(int index)
+struct ListIconEntry
 {
-    const QString path = u":/icons/list_%1.svg"_s.arg(index, 2, 10, QLatin1Char('0'));
-    return QFile::exists(path) ? path : u":/icons/list_00.svg"_s;
+    const char* name;
+    /// Its colour on a light ground, by its index in the palette.
+    quint32 colour;
+};
+
+constexpr std::array<ListIconEntry, kListIconCount> kListIcons { {
+    { QT_TRANSLATE_NOOP("Icons", "List"), 33 },
+    { QT_TRANSLATE_NOOP("Icons", "Box"), 13 },
+    { QT_TRANSLATE_NOOP("Icons", "Jar"), 13 },
+    { QT_TRANSLATE_NOOP("Icons", "Refrigerator"), 16 },
+    { QT_TRANSLATE_NOOP("Icons", "Freezer"), 16 },
+    { QT_TRANSLATE_NOOP("Icons", "Apple"), 6 },
+    { QT_TRANSLATE_NOOP("Icons", "Carrot"), 13 },
+    { QT_TRANSLATE_NOOP("Icons", "Bread"), 13 },
+    { QT_TRANSLATE_NOOP("Icons", "Meat"), 6 },
+    { QT_TRANSLATE_NOOP("Icons", "Fish"), 16 },
+    { QT_TRANSLATE_NOOP("Icons", "Milk"), 23 },
+    { QT_TRANSLATE_NOOP("Icons", "Bottle"), 15 },
+    { QT_TRANSLATE_NOOP("Icons", "Wine"), 30 },
+    { QT_TRANSLATE_NOOP("Icons", "Coffee"), 13 },
+    { QT_TRANSLATE_NOOP("Icons", "Baby bottle"), 23 },
+    { QT_TRANSLATE_NOOP("Icons", "Pills"), 6 },
+    { QT_TRANSLATE_NOOP("Icons", "First aid"), 6 },
+    { QT_TRANSLATE_NOOP("Icons", "Cosmetics"), 30 },
+    { QT_TRANSLATE_NOOP("Icons", "Cleaning spray"), 16 },
+    { QT_TRANSLATE_NOOP("Icons", "Shirt"), 2 },
+    { QT_TRANSLATE_NOOP("Icons", "Shoe"), 13 },
+    { QT_TRANSLATE_NOOP("Icons", "Jewel"), 28 },
+    { QT_TRANSLATE_NOOP("Icons", "Watch"), 33 },
+    { QT_TRANSLATE_NOOP("Icons", "Coins"), 17 },
+    { QT_TRANSLATE_NOOP("Icons", "Stamp"), 6 },
+    { QT_TRANSLATE_NOOP("Icons", "Book"), 2 },
+    { QT_TRANSLATE_NOOP("Icons", "Disc"), 23 },
+    { QT_TRANSLATE_NOOP("Icons", "Film"), 33 },
+    { QT_TRANSLATE_NOOP("Icons", "Game pad"), 28 },
+    { QT_TRANSLATE_NOOP("Icons", "Puzzle"), 15 },
+    { QT_TRANSLATE_NOOP("Icons", "Camera"), 33 },
+    { QT_TRANSLATE_NOOP("Icons", "Computer"), 2 },
+    { QT_TRANSLATE_NOOP("Icons", "Phone"), 2 },
+    { QT_TRANSLATE_NOOP("Icons", "Battery"), 15 },
+    { QT_TRANSLATE_NOOP("Icons", "Plug"), 33 },
+    { QT_TRANSLATE_NOOP("Icons", "Bulb"), 17 },
+    { QT_TRANSLATE_NOOP("Icons", "Hammer"), 13 },
+    { QT_TRANSLATE_NOOP("Icons", "Screw"), 33 },
+    { QT_TRANSLATE_NOOP("Icons", "Paint"), 28 },
+    { QT_TRANSLATE_NOOP("Icons", "Plant"), 15 },
+    { QT_TRANSLATE_NOOP("Icons", "Paw"), 13 },
+    { QT_TRANSLATE_NOOP("Icons", "Car"), 15 },
+    { QT_TRANSLATE_NOOP("Icons", "Key"), 17 },
+} };
+
+int KnownIcon(int index)
+{
+    return index >= 0 && index < kListIconCount ? index : 0;
 }
 
-/// A drawing of one colour, that of the text around it: it follows the palette, selection and
-/// disabling at every scale.
+bool IsDarkGround(const QPalette& palette)
+{
+    return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
+}
+
+/// A drawing of one colour, which follows the palette, selection and disabling at every scale: its
+/// own on a light ground if it has one, and otherwise that of the text around it.
 class DrawnIcon : public QIconEngine
 {
 public:
-    explicit DrawnIcon(QString path)
+    explicit DrawnIcon(QString path, std::optional<quint32> colour = {})
         : m_path(std::move(path))
+        , m_colour(colour)
     { }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
@@ -45,12 +107,13 @@ public:
     {
         return Draw(size, mode);
     }
-    [[nodiscard]] QIconEngine* clone() const override { return new DrawnIcon(m_path); }
+    [[nodiscard]] QIconEngine* clone() const override { return new DrawnIcon(m_path, m_colour); }
 
 private:
     QString m_path;
+    std::optional<quint32> m_colour;
 
-    static QColor Colour(QIcon::Mode mode)
+    [[nodiscard]] QColor Colour(QIcon::Mode mode) const
     {
         const QPalette palette = QGuiApplication::palette();
         switch (mode) {
@@ -62,17 +125,26 @@ private:
         case QIcon::Active:
             break;
         }
-        return palette.color(QPalette::Text);
+        const bool hasOwn = m_colour.has_value() && !IsDarkGround(palette);
+        return hasOwn ? TextColour(*m_colour, palette) : palette.color(QPalette::Text);
     }
 
     [[nodiscard]] QPixmap Draw(const QSize& size, QIcon::Mode mode) const
     {
-        QPixmap picture(size);
+        const QColor colour = Colour(mode);
+        const QString key
+            = u"%1 %2 %3 %4"_s.arg(m_path, colour.name()).arg(size.width()).arg(size.height());
+        QPixmap picture;
+        if (QPixmapCache::find(key, &picture))
+            return picture;
+        picture = QPixmap(size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         QSvgRenderer(m_path).render(&painter);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(picture.rect(), Colour(mode));
+        painter.fillRect(picture.rect(), colour);
+        painter.end();
+        QPixmapCache::insert(key, picture);
         return picture;
     }
 };
@@ -82,8 +154,15 @@ private:
 QIcon ListIcon(int index)
 {
     LoadIconResources();
-    const bool isKnown = index >= 0 && index < kListIconCount;
-    return QIcon(new DrawnIcon(ListIconPath(isKnown ? index : 0)));
+    const int known = KnownIcon(index);
+    const QString path = u":/icons/list_%1.svg"_s.arg(known, 2, 10, QLatin1Char('0'));
+    return QIcon(new DrawnIcon(path, kListIcons.at(static_cast<size_t>(known)).colour));
+}
+
+QString ListIconName(int index)
+{
+    return QCoreApplication::translate(
+        "Icons", kListIcons.at(static_cast<size_t>(KnownIcon(index))).name);
 }
 
 QIcon CheckboxIcon(bool isChecked)

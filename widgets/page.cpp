@@ -106,6 +106,9 @@ QAction* Page::ActionOf(Command command)
 
 void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
 {
+    const auto former = m_softKeys->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    qDeleteAll(former);
+    delete m_softKeys->layout();
     auto* halves = new QHBoxLayout(m_softKeys);
     halves->setContentsMargins(0, 1, 0, 0);
     halves->setSpacing(0);
@@ -209,7 +212,7 @@ void Page::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape)
         RequestEnd(PageResult::Cancel);
-    else if (event->key() == Qt::Key_F1 && !m_helpAnchor.isEmpty())
+    else if (event->key() == Qt::Key_F1)
         Q_EMIT HelpRequested(m_helpAnchor);
     else
         QWidget::keyPressEvent(event);

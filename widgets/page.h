@@ -39,11 +39,11 @@ public:
     void SetTitle(const QString& title);
     /// Whether the header has an OK button; it does unless told otherwise.
     void ShowOkButton(bool isShown);
-    /// Gives the header a "?" that opens help at this anchor (and F1).
+    /// Gives the header a "?" that opens help at this anchor, as F1 does.
     void SetHelpAnchor(const QString& anchor);
 
-    /// Fills the bar at the bottom; a right key of Command::Menu opens `menu`. Without soft keys
-    /// there is no bar.
+    /// Fills the bar at the bottom, in place of what was there; a right key of Command::Menu opens
+    /// `menu`. Without soft keys there is no bar.
     void SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu = {});
     void SetCommandEnabled(Command command, bool isEnabled);
     void SetCommandChecked(Command command, bool isChecked);
@@ -61,6 +61,8 @@ public:
     /// What a result asked for from outside does: closing the window and Escape come as Cancel. The
     /// page may end, ask first, or commit what is being edited.
     virtual void RequestEnd(PageResult result);
+    /// Whether something was typed or chosen that a cancelled end would lose: then closing the
+    /// window asks first.
     [[nodiscard]] virtual bool HasUnsavedInput() const { return false; }
 
 Q_SIGNALS:
@@ -69,6 +71,7 @@ Q_SIGNALS:
     void CommandChosen(Quillory::Command command);
     /// A menu is about to open: the last chance to set what is enabled.
     void MenuAboutToOpen();
+    /// The anchor is empty for a page that has none of its own.
     void HelpRequested(const QString& anchor);
 
 protected:

@@ -1,5 +1,7 @@
 #include "widgets/page_stack.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QPointer>
 
 #include <utility>
@@ -10,6 +12,26 @@ PageStack::PageStack(QWidget* parent)
     : QStackedWidget(parent)
 {
     setObjectName(QStringLiteral("pageStack"));
+    const QInputMethod* keyboard = QGuiApplication::inputMethod();
+    connect(keyboard, &QInputMethod::keyboardRectangleChanged, this, &PageStack::FitAboveKeyboard);
+    connect(keyboard, &QInputMethod::visibleChanged, this, &PageStack::FitAboveKeyboard);
+}
+
+PageStack& PageStack::Of(const QWidget* widget)
+{
+    QWidget* parent = widget->parentWidget();
+    while (qobject_cast<PageStack*>(parent) == nullptr)
+        parent = parent->parentWidget();
+    return *qobject_cast<PageStack*>(parent);
+}
+
+void PageStack::FitAboveKeyboard()
+{
+    const QInputMethod* keyboard = QGuiApplication::inputMethod();
+    const QRectF covered = keyboard->isVisible() ? keyboard->keyboardRectangle() : QRectF();
+    const QRect own(mapTo(window(), QPoint()), size());
+    const QRect overlap = own & covered.toAlignedRect();
+    setContentsMargins(0, 0, 0, overlap.height());
 }
 
 void PageStack::Push(Page* page, std::function<void(PageResult)> then)
@@ -18,6 +40,7 @@ void PageStack::Push(Page* page, std::function<void(PageResult)> then)
     addWidget(page);
     setCurrentWidget(page);
     page->setFocus();
+    connect(page, &Page::HelpRequested, this, &PageStack::HelpRequested);
     connect(page, &Page::Ended, this,
         [this, page, below = QPointer<QWidget>(below), then = std::move(then)](PageResult result) {
             removeWidget(page);

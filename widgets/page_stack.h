@@ -15,6 +15,9 @@ class PageStack : public QStackedWidget
 public:
     explicit PageStack(QWidget* parent = nullptr);
 
+    /// The stack that a widget stands in, however deep; one must be there.
+    [[nodiscard]] static PageStack& Of(const QWidget* widget);
+
     /// Shows `page` on top and takes it over. `then` is called with its result once it is gone
     /// from the screen, before it is deleted; it may read from the page.
     void Push(Page* page, std::function<void(PageResult)> then = {});
@@ -24,6 +27,13 @@ public:
     /// Asks the topmost page but the first to end as if cancelled. True when only the first is
     /// left, so that the window may close.
     [[nodiscard]] bool CloseTopmost();
+
+Q_SIGNALS:
+    /// A page asks for help at this anchor; empty for help on the whole program.
+    void HelpRequested(const QString& anchor);
+
+private:
+    void FitAboveKeyboard();
 };
 
 } // namespace Quillory

@@ -1,0 +1,125 @@
+#include "listdef/columns_panel.h"
+
+#include "listdef/column_definition_page.h"
+#include "listdef/column_table_model.h"
+#include "res/dialog_table.h"
+#include "widgets/line_view.h"
+#include "widgets/page_stack.h"
+#include "widgets/touch.h"
+
+#include <QHeaderView>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+ColumnsPanel::ColumnsPanel(const std::vector<ColumnDefinition>& columns, Page& page)
+    : QWidget(&page)
+    , m_page(page)
+    , m_view(new QTableView(this))
+    , m_columns(new ColumnTableModel(columns, this))
+{
+    BuildView();
+    for (const auto signal :
+        { &QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved })
+        connect(m_columns, signal, this, &ColumnsPanel::UpdateCommands);
+    connect(m_columns, &QAbstractItemModel::rowsMoved, this, &ColumnsPanel::UpdateCommands);
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &ColumnsPanel::UpdateCommands);
+    connect(&m_page, &Page::MenuAboutToOpen, this, &ColumnsPanel::UpdateCommands);
+    connect(&m_page, &Page::CommandChosen, this, &ColumnsPanel::Run);
+    UpdateCommands();
+    setFocusProxy(m_view);
+}
+
+void ColumnsPanel::BuildView()
+{
+    m_view->setObjectName(u"columns"_s);
+    m_view->setAccessibleName(DialogTitle(Dialog::Columns));
+    m_view->setModel(m_columns);
+    DressLineView(m_view);
+    m_view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_view->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed);
+    auto* touch = new TouchBehaviour(m_view);
+    connect(touch, &TouchBehaviour::Held, this, [this](const QPoint& position) {
+        if (m_view->indexAt(position).isValid())
+            m_page.OpenContextMenu(
+                MenuEntries(MenuId::Columns), m_view->viewport()->mapToGlobal(position));
+    });
+    auto* body = new QVBoxLayout(this);
+    body->setContentsMargins(0, 0, 0, 0);
+    body->addWidget(m_view, 1);
+    Select(0);
+}
+
+std::vector<ColumnDefinition> ColumnsPanel::Columns() const
+{
+    return m_columns->Columns();
+}
+
+bool ColumnsPanel::HasExpiryDate() const
+{
+    return m_columns->HasExpiryDate();
+}
+
+int ColumnsPanel::SelectedRow() const
+{
+    const QModelIndexList rows = m_view->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void ColumnsPanel::Select(int row)
+{
+    const QModelIndex index = m_columns->index(row, 0);
+    m_view->setCurrentIndex(index);
+    m_view->scrollTo(index);
+}
+
+void ColumnsPanel::UpdateCommands()
+{
+    const int row = SelectedRow();
+    const bool isSelected = row >= 0;
+    m_page.SetCommandEnabled(Command::Insert, !m_columns->IsFull());
+    m_page.SetCommandEnabled(
+        Command::AddExpiryDateColumn, !m_columns->HasExpiryDate() && !m_columns->IsFull());
+    m_page.SetCommandEnabled(Command::Rename, isSelected);
+    m_page.SetCommandEnabled(Command::Delete, m_columns->IsDeletable(row));
+    m_page.SetCommandEnabled(Command::MoveUp, isSelected && row > 0);
+    m_page.SetCommandEnabled(Command::MoveDown, isSelected && row + 1 < m_columns->rowCount());
+}
+
+void ColumnsPanel::Run(Command command)
+{
+    const int row = SelectedRow();
+    switch (command) {
+    case Command::Insert:
+        return DefineColumn();
+    case Command::AddExpiryDateColumn:
+        return Select(m_columns->InsertExpiryDate(row));
+    case Command::Rename:
+        m_view->setFocus();
+        return m_view->edit(m_columns->index(row, 0));
+    case Command::Delete:
+        return m_columns->DeleteColumn(row);
+    case Command::MoveUp:
+        return Select(m_columns->MoveColumn(row, row - 1));
+    case Command::MoveDown:
+        return Select(m_columns->MoveColumn(row, row + 1));
+    default:
+        return;
+    }
+}
+
+void ColumnsPanel::DefineColumn()
+{
+    auto* page = new ColumnDefinitionPage;
+    PageStack::Of(this).Push(page, [this, page](PageResult result) {
+        if (result == PageResult::Ok && !page->Name().isEmpty())
+            Select(m_columns->InsertColumn(SelectedRow(), page->Name(), page->TypeIndex()));
+    });
+}
+
+} // namespace Quillory

@@ -1,0 +1,85 @@
+#include "listdef/import_order_page.h"
+
+#include "res/dialog_table.h"
+#include "widgets/measures.h"
+#include "widgets/touch.h"
+
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, QWidget* parent)
+    : Page(DialogTitle(Dialog::ImportColumnOrder), parent)
+    , m_columns(columns)
+    , m_list(new QListWidget(this))
+    , m_up(new QPushButton(ControlText(Control::MoveUp), this))
+    , m_down(new QPushButton(ControlText(Control::MoveDown), this))
+{
+    setObjectName(u"importOrder"_s);
+    SetHelpAnchor(QString::fromLatin1(kHelpImport));
+    m_list->setObjectName(u"columnOrder"_s);
+    m_list->setAccessibleName(Title());
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setUniformItemSizes(true);
+    for (const ColumnDefinition& column : columns) {
+        auto* item = new QListWidgetItem(column.name, m_list);
+        item->setSizeHint({ 0, CurrentMeasures().lineHeight });
+    }
+    new TouchBehaviour(m_list);
+    Body()->addWidget(m_list, 1);
+
+    m_up->setObjectName(u"moveUp"_s);
+    m_down->setObjectName(u"moveDown"_s);
+    auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(kPageMargin, kGrid, kPageMargin, kGrid);
+    buttons->setSpacing(kGrid);
+    for (QPushButton* button : { m_up, m_down }) {
+        button->setMinimumHeight(CurrentMeasures().lineHeight);
+        button->setAutoDefault(false);
+        buttons->addWidget(button, 1);
+    }
+    Body()->addLayout(buttons);
+    connect(m_up, &QPushButton::clicked, this, [this] { Move(-1); });
+    connect(m_down, &QPushButton::clicked, this, [this] { Move(1); });
+    connect(m_list, &QListWidget::itemSelectionChanged, this, &ImportOrderPage::UpdateButtons);
+    m_list->setCurrentRow(0);
+    UpdateButtons();
+
+    SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
+    connect(this, &Page::CommandChosen, this, [this] { RequestEnd(PageResult::Cancel); });
+    setFocusProxy(m_list);
+}
+
+void ImportOrderPage::UpdateButtons()
+{
+    const int row = m_list->selectedItems().isEmpty() ? -1 : m_list->currentRow();
+    m_up->setEnabled(row > 0);
+    m_down->setEnabled(row >= 0 && row + 1 < m_list->count());
+}
+
+void ImportOrderPage::Move(int by)
+{
+    const int row = m_list->currentRow();
+    const int to = row + by;
+    std::swap(m_columns.at(static_cast<size_t>(row)), m_columns.at(static_cast<size_t>(to)));
+    m_list->insertItem(to, m_list->takeItem(row));
+    m_list->setCurrentRow(to);
+    m_list->scrollToItem(m_list->currentItem());
+}
+
+std::vector<PropertyId> ImportOrderPage::Order() const
+{
+    std::vector<PropertyId> order;
+    for (const ColumnDefinition& column : m_columns)
+        order.push_back(column.id);
+    return order;
+}
+
+} // namespace Quillory

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "store/inventory_list.h"
+#include "widgets/page.h"
+
+class QListWidget;
+class QPushButton;
+
+namespace Quillory {
+
+/// Which column each field of an import file fills: the columns of the list, to be put in order.
+class ImportOrderPage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit ImportOrderPage(
+        const std::vector<ColumnDefinition>& columns, QWidget* parent = nullptr);
+
+    /// Every column of the list once, in the order in which they stand.
+    [[nodiscard]] std::vector<PropertyId> Order() const;
+
+private:
+    std::vector<ColumnDefinition> m_columns;
+    QListWidget* m_list;
+    QPushButton* m_up;
+    QPushButton* m_down;
+
+    void Move(int by);
+    void UpdateButtons();
+};
+
+} // namespace Quillory

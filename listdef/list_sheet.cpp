@@ -1,0 +1,103 @@
+#include "listdef/list_sheet.h"
+
+#include "listdef/columns_panel.h"
+#include "listdef/general_panel.h"
+#include "listdef/options_panel.h"
+#include "res/dialog_table.h"
+#include "res/string_table.h"
+#include "values/column_type.h"
+#include "widgets/form.h"
+#include "widgets/measures.h"
+
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+ListSheet::ListSheet(SheetMode mode, const InventoryList& list, QWidget* parent)
+    : Page(LoadString(mode == SheetMode::NewList ? StringId::NewInventoryList
+                                                 : StringId::InventoryListOptions),
+        parent)
+    , m_list(list)
+    , m_tabs(new QTabBar(this))
+    , m_panels(new QStackedWidget(this))
+    , m_general(new GeneralPanel(list, this))
+    , m_options(new OptionsPanel(list, this))
+{
+    setObjectName(u"listSheet"_s);
+    SetHelpAnchor(QString::fromLatin1(kHelpNewList));
+    SetShortcut(Command::Rename, Qt::Key_F2);
+    m_tabs->setObjectName(u"tabs"_s);
+    m_tabs->setExpanding(true);
+    m_tabs->setDrawBase(false);
+    m_tabs->setUsesScrollButtons(false);
+    m_tabs->setMinimumHeight(CurrentMeasures().headerHeight);
+    Body()->addWidget(m_tabs);
+    Body()->addWidget(m_panels, 1);
+    AddPanel(DialogTitle(Dialog::General), m_general);
+    if (mode == SheetMode::NewList) {
+        m_columns = new ColumnsPanel(list.columns, *this);
+        AddPanel(DialogTitle(Dialog::Columns), m_columns);
+    }
+    AddPanel(DialogTitle(Dialog::ListOptions), m_options);
+    connect(m_tabs, &QTabBar::currentChanged, this, &ListSheet::ShowPanel);
+    connect(m_general, &GeneralPanel::Entered, this, [this] { RequestEnd(PageResult::Ok); });
+    connect(this, &Page::CommandChosen, this, [this](Command command) {
+        if (command == Command::Cancel)
+            RequestEnd(PageResult::Cancel);
+    });
+    ShowPanel(0);
+    m_before = Result();
+}
+
+void ListSheet::AddPanel(const QString& title, QWidget* panel)
+{
+    m_tabs->addTab(title);
+    m_panels->addWidget(panel == m_columns ? panel : MakeScrollable(panel));
+}
+
+bool ListSheet::HasExpiryDate() const
+{
+    if (m_columns != nullptr)
+        return m_columns->HasExpiryDate();
+    return std::any_of(m_list.columns.begin(), m_list.columns.end(),
+        [](const ColumnDefinition& column) { return column.id == PropExpiryDate; });
+}
+
+void ListSheet::ShowPanel(int index)
+{
+    m_panels->setCurrentIndex(index);
+    m_options->SetHasExpiryDate(HasExpiryDate());
+    const bool isColumns = m_columns != nullptr && m_panels->currentWidget() == m_columns;
+    if (isColumns)
+        SetSoftKeys(SoftKeysOf(MenuBar::Columns), MenuEntries(MenuId::Columns));
+    else
+        SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
+    setFocusProxy(isColumns ? static_cast<QWidget*>(m_columns) : m_panels->currentWidget());
+    m_panels->currentWidget()->setFocus();
+}
+
+InventoryList ListSheet::Result() const
+{
+    InventoryList list = m_list;
+    m_general->Apply(list);
+    if (m_columns != nullptr)
+        list.columns = m_columns->Columns();
+    else if (list.Name.isEmpty())
+        // A list that is there keeps a name.
+        list.Name = m_list.Name;
+    m_options->Apply(list);
+    return list;
+}
+
+bool ListSheet::HasUnsavedInput() const
+{
+    return Result() != m_before;
+}
+
+} // namespace Quillory

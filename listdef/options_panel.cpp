@@ -1,0 +1,97 @@
+#include "listdef/options_panel.h"
+
+#include "listdef/threshold_edit.h"
+#include "res/dialog_table.h"
+#include "res/string_table.h"
+#include "store/inventory_list.h"
+#include "widgets/colour_button.h"
+#include "widgets/form.h"
+#include "widgets/measures.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+OptionsPanel::OptionsPanel(const InventoryList& list, QWidget* parent)
+    : QWidget(parent)
+    , m_warnOnCount(new QCheckBox(this))
+    , m_threshold(new ThresholdEdit(list.TableWarnStart, this))
+    , m_countColour(new ColourButton(this))
+    , m_warnOnExpiry(new QCheckBox(this))
+    , m_expiryColour(new ColourButton(this))
+{
+    Build();
+    m_countColour->SetColour(list.TableWarnColour);
+    m_expiryColour->SetColour(list.TableExpiryColour);
+    m_warnOnCount->setChecked((list.TableOption & kWarnOnCount) != 0);
+    m_warnOnExpiry->setChecked((list.TableOption & kWarnOnExpiry) != 0);
+    for (QCheckBox* box : { m_warnOnCount, m_warnOnExpiry })
+        connect(box, &QCheckBox::toggled, this, &OptionsPanel::UpdateEnabled);
+    UpdateEnabled();
+    setFocusProxy(m_warnOnCount);
+}
+
+void OptionsPanel::Build()
+{
+    m_warnOnCount->setObjectName(u"warnOnCount"_s);
+    m_countColour->setObjectName(u"countColour"_s);
+    m_countColour->setAccessibleDescription(ControlText(Control::WarnOnCount));
+    m_warnOnExpiry->setObjectName(u"warnOnExpiry"_s);
+    m_expiryColour->setObjectName(u"expiryColour"_s);
+    m_expiryColour->setAccessibleDescription(ControlText(Control::WarnOnExpiry));
+
+    auto* body = new QVBoxLayout(this);
+    body->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kGrid);
+    body->setSpacing(kGrid);
+    AddCheckLine(*body, *m_warnOnCount, ControlText(Control::WarnOnCount));
+    auto* count = new QHBoxLayout;
+    count->setContentsMargins(kCheckIndent, 0, 0, 0);
+    count->setSpacing(kGrid);
+    auto* toColour = new QLabel(LoadText(Text::ToColour), this);
+    toColour->setWordWrap(true);
+    count->addWidget(m_threshold, 1);
+    count->addWidget(toColour);
+    count->addWidget(m_countColour);
+    body->addLayout(count);
+    body->addSpacing(kPageMargin);
+    AddCheckLine(*body, *m_warnOnExpiry, ControlText(Control::WarnOnExpiry));
+    auto* expiry = new QHBoxLayout;
+    expiry->addStretch(1);
+    expiry->addWidget(m_expiryColour);
+    body->addLayout(expiry);
+    body->addStretch(1);
+}
+
+void OptionsPanel::SetHasExpiryDate(bool hasExpiryDate)
+{
+    m_hasExpiryDate = hasExpiryDate;
+    UpdateEnabled();
+}
+
+void OptionsPanel::UpdateEnabled()
+{
+    const bool warnsOnCount = m_warnOnCount->isChecked();
+    m_threshold->setEnabled(warnsOnCount);
+    m_countColour->setEnabled(warnsOnCount);
+    m_warnOnExpiry->setEnabled(m_hasExpiryDate);
+    m_expiryColour->setEnabled(m_hasExpiryDate && m_warnOnExpiry->isChecked());
+}
+
+void OptionsPanel::Apply(InventoryList& list) const
+{
+    list.TableWarnStart = m_threshold->Value();
+    list.TableWarnColour = m_countColour->Colour();
+    list.TableExpiryColour = m_expiryColour->Colour();
+    list.TableOption &= ~(kWarnOnCount | kWarnOnExpiry);
+    if (m_warnOnCount->isChecked())
+        list.TableOption |= kWarnOnCount;
+    if (m_warnOnExpiry->isChecked())
+        list.TableOption |= kWarnOnExpiry;
+}
+
+} // namespace Quillory

@@ -1,0 +1,79 @@
+#include "listdef/threshold_edit.h"
+
+#include "res/dialog_table.h"
+#include "widgets/measures.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QToolButton>
+
+#include <algorithm>
+#include <limits>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMaxCharacters = 16;
+constexpr int kMaxStep = 32767;
+
+} // namespace
+
+ThresholdEdit::ThresholdEdit(qint32 value, QWidget* parent)
+    : QWidget(parent)
+    , m_edit(new QLineEdit(QString::number(value), this))
+{
+    m_edit->setObjectName(u"threshold"_s);
+    m_edit->setAccessibleName(ControlText(Control::WarnOnCount));
+    m_edit->setMaxLength(kMaxCharacters);
+    m_edit->setInputMethodHints(Qt::ImhPreferNumbers);
+    m_edit->setMinimumWidth(m_edit->fontMetrics().horizontalAdvance(u"-00000"_s) + 3 * kGrid);
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(kGrid / 2);
+    line->addWidget(m_edit, 1);
+    const auto add = [this, line](const QString& text, const QString& name, int by) {
+        auto* button = new QToolButton(this);
+        button->setText(text);
+        button->setAccessibleName(name);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        const int side = std::max(CurrentMeasures().lineHeight, 4 * kGrid);
+        button->setFixedSize(side, side);
+        line->addWidget(button);
+        connect(button, &QToolButton::clicked, this, [this, by] { Step(by); });
+    };
+    add(u"\u2212"_s, tr("Less"), -1);
+    add(u"+"_s, tr("More"), 1);
+    m_edit->setFixedHeight(line->itemAt(1)->widget()->height());
+    setFocusProxy(m_edit);
+}
+
+qint32 ThresholdEdit::Value() const
+{
+    static const QRegularExpression leadingNumber(u"^\\s*[+-]?[0-9]+"_s);
+    const qint64 wide = leadingNumber.match(m_edit->text()).captured().trimmed().toLongLong();
+    constexpr std::numeric_limits<qint32> kRange;
+    return wide < kRange.min() || wide > kRange.max() ? 0 : static_cast<qint32>(wide);
+}
+
+void ThresholdEdit::Step(int by)
+{
+    m_edit->setText(QString::number(std::clamp(Value() + by, -kMaxStep, kMaxStep)));
+}
+
+void ThresholdEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Up)
+        Step(1);
+    else if (event->key() == Qt::Key_Down)
+        Step(-1);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace Quillory

@@ -1,0 +1,295 @@
+#include "listdef/column_definition_page.h"
+#include "listdef/column_table_model.h"
+#include "listdef/list_sheet.h"
+#include "values/column_type.h"
+#include "widgets/colour_button.h"
+#include "widgets/icon_grid.h"
+#include "widgets/page_stack.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTableView>
+#include <QTest>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+class ListSheetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void aNewListHasNameAndQuantity();
+    void columnsAreDefinedBeforeTheSelectedOne();
+    void anEmptyColumnNameInsertsNothing();
+    void sixteenColumnsAreTheLimit();
+    void menuEntriesFollowTheSelection();
+    void columnsAreRenamedInPlace();
+    void theExpiryDateTakesTheKindOfTheColumnBefore();
+    void theIconIsSteppedOrChosenInTheGrid();
+    void warningsAreEnabledByTheirBoxes();
+    void thresholdsAreReadAsNumbers_data();
+    void thresholdsAreReadAsNumbers();
+    void anExistingListKeepsItsColumnsAndAName();
+
+private:
+    std::unique_ptr<PageStack> m_stack;
+    ListSheet* m_page = nullptr;
+
+    [[nodiscard]] QTableView* View() const { return m_page->findChild<QTableView*>(u"columns"_s); }
+    template <typename T> [[nodiscard]] T* Find(const QString& name) const
+    {
+        return m_page->findChild<T*>(name);
+    }
+    void Open(SheetMode mode, const InventoryList& list)
+    {
+        m_stack = std::make_unique<PageStack>();
+        m_stack->Push(new Page(QString()));
+        m_page = new ListSheet(mode, list);
+        m_stack->Push(m_page);
+        m_stack->resize(360, 640);
+        m_stack->show();
+    }
+    void ShowTab(const QString& title) const
+    {
+        auto* tabs = m_page->findChild<QTabBar*>();
+        for (int i = 0; i < tabs->count(); ++i) {
+            if (tabs->tabText(i) == title)
+                QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(i).center());
+        }
+        QCOMPARE(tabs->tabText(tabs->currentIndex()), title);
+    }
+    void Select(int row) const { View()->setCurrentIndex(View()->model()->index(row, 0)); }
+    [[nodiscard]] bool IsEnabled(Command command) const
+    {
+        return m_page->ActionOf(command)->isEnabled();
+    }
+    void Define(const QString& name, int type)
+    {
+        m_page->Trigger(Command::Insert);
+        auto* page = qobject_cast<ColumnDefinitionPage*>(m_stack->Top());
+        QVERIFY(page != nullptr);
+        QTest::keyClicks(page->findChild<QLineEdit*>(), name);
+        page->findChild<QComboBox*>()->setCurrentIndex(type);
+        QTest::mouseClick(page->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
+    }
+    [[nodiscard]] QString Names() const
+    {
+        QStringList names;
+        for (const ColumnDefinition& column : m_page->Result().columns)
+            names << column.name;
+        return names.join(u'|');
+    }
+};
+
+void ListSheetTest::init()
+{
+    Open(SheetMode::NewList, NewInventoryList());
+    ShowTab(u"Columns"_s);
+}
+
+void ListSheetTest::aNewListHasNameAndQuantity()
+{
+    QVERIFY(!m_page->HasUnsavedInput());
+    ShowTab(u"General"_s);
+    QTest::keyClicks(Find<QLineEdit>(u"listName"_s), QString(200, u'n'));
+    QVERIFY(m_page->HasUnsavedInput());
+    const InventoryList list = m_page->Result();
+    QCOMPARE(list.Name, QString(128, u'n'));
+    QCOMPARE(Names(), u"Name|Quantity"_s);
+    QCOMPARE(list.columns[1].id, PropCount);
+}
+
+void ListSheetTest::columnsAreDefinedBeforeTheSelectedOne()
+{
+    Select(1);
+    Define(u"Price"_s, 2);
+    Define(QString(40, u'x'), 1);
+    View()->clearSelection();
+    Define(u"Last"_s, 4);
+    const auto columns = m_page->Result().columns;
+    QCOMPARE(Names(), u"Name|"_s + QString(32, u'x') + u"|Price|Quantity|Last"_s);
+    QCOMPARE(static_cast<quint32>(columns[1].id), 0x2714000BU);
+    QCOMPARE(static_cast<quint32>(columns[2].id), 0x27150005U);
+    QCOMPARE(static_cast<quint32>(columns[4].id), 0x27170040U);
+}
+
+void ListSheetTest::anEmptyColumnNameInsertsNothing()
+{
+    Define(QString(), 3);
+    m_page->Trigger(Command::Insert);
+    QTest::keyClicks(m_stack->Top()->findChild<QLineEdit*>(), u"left"_s);
+    QTest::keyClick(m_stack->Top(), Qt::Key_Escape);
+    QCOMPARE(m_stack->Top(), m_page);
+    QCOMPARE(Names(), u"Name|Quantity"_s);
+}
+
+void ListSheetTest::sixteenColumnsAreTheLimit()
+{
+    for (int i = 2; i < 15; ++i)
+        Define(u"c"_s, 0);
+    QVERIFY(IsEnabled(Command::Insert));
+    m_page->Trigger(Command::AddExpiryDateColumn);
+    QCOMPARE(m_page->Result().columns.size(), size_t { 16 });
+    QVERIFY(!IsEnabled(Command::Insert));
+    // It was inserted before the selected column, and is selected now.
+    m_page->Trigger(Command::Delete);
+    QCOMPARE(m_page->Result().columns.size(), size_t { 15 });
+    QVERIFY(IsEnabled(Command::Insert) && IsEnabled(Command::AddExpiryDateColumn));
+    Define(u"again"_s, 0);
+    QVERIFY(!IsEnabled(Command::Insert) && !IsEnabled(Command::AddExpiryDateColumn));
+}
+
+void ListSheetTest::menuEntriesFollowTheSelection()
+{
+    m_page->Trigger(Command::AddExpiryDateColumn);
+    QCOMPARE(Names(), u"Expiry Date|Name|Quantity"_s);
+    QVERIFY(!IsEnabled(Command::AddExpiryDateColumn));
+    // First, built-in, last; then none.
+    QVERIFY(IsEnabled(Command::Delete) && !IsEnabled(Command::MoveUp));
+    m_page->Trigger(Command::MoveDown);
+    QCOMPARE(Names(), u"Name|Expiry Date|Quantity"_s);
+    QVERIFY(IsEnabled(Command::MoveUp) && IsEnabled(Command::MoveDown));
+    Select(2);
+    QVERIFY(!IsEnabled(Command::Delete) && !IsEnabled(Command::MoveDown));
+    View()->clearSelection();
+    Q_EMIT m_page->MenuAboutToOpen();
+    for (const Command command :
+        { Command::Rename, Command::Delete, Command::MoveUp, Command::MoveDown })
+        QVERIFY(!IsEnabled(command));
+}
+
+void ListSheetTest::columnsAreRenamedInPlace()
+{
+    Select(1);
+    m_page->Trigger(Command::Rename);
+    auto* editor = View()->viewport()->findChild<QLineEdit*>();
+    QVERIFY(editor != nullptr);
+    editor->setText(u"Stock"_s);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_COMPARE(Names(), u"Name|Stock"_s);
+    QVERIFY(!View()->model()->setData(View()->model()->index(0, 0), QString(), Qt::EditRole));
+    QCOMPARE(Names(), u"Name|Stock"_s);
+}
+
+void ListSheetTest::theExpiryDateTakesTheKindOfTheColumnBefore()
+{
+    m_page->Trigger(Command::AddExpiryDateColumn);
+    QCOMPARE(m_page->Result().columns[0].kind, 0);
+    m_page->Trigger(Command::MoveDown);
+    QCOMPARE(m_page->Result().columns[1].kind, kKindName);
+    View()->clearSelection();
+    Define(u"Price"_s, 2);
+    QCOMPARE(m_page->Result().columns[3].kind, 2);
+    Select(1);
+    m_page->Trigger(Command::MoveDown);
+    m_page->Trigger(Command::MoveDown);
+    QCOMPARE(m_page->Result().columns[3].kind, 2);
+}
+
+void ListSheetTest::theIconIsSteppedOrChosenInTheGrid()
+{
+    ShowTab(u"General"_s);
+    const auto icon = [this] { return static_cast<int>(m_page->Result().TableIcon); };
+    QTest::mouseClick(Find<QWidget>(u"previousIcon"_s), Qt::LeftButton);
+    QCOMPARE(icon(), 42);
+    QTest::mouseClick(Find<QWidget>(u"nextIcon"_s), Qt::LeftButton);
+    QCOMPARE(icon(), 0);
+    // Upward is forward.
+    QTest::keyClick(Find<QWidget>(u"listIcon"_s), Qt::Key_Up);
+    QCOMPARE(icon(), 1);
+    QTest::mouseClick(Find<QWidget>(u"allIcons"_s), Qt::LeftButton);
+    auto* grid = m_stack->Top()->findChild<IconGrid*>();
+    QVERIFY(grid != nullptr);
+    QCOMPARE(grid->SelectedIcon(), 1);
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
+        grid->visualRect(grid->model()->index(7, 0)).center());
+    QCOMPARE(m_stack->Top(), m_page);
+    QCOMPARE(icon(), 7);
+    // Cancelled, and after a tap on nothing, the old one stays.
+    QTest::mouseClick(Find<QWidget>(u"allIcons"_s), Qt::LeftButton);
+    grid = m_stack->Top()->findChild<IconGrid*>();
+    const QRect last = grid->visualRect(grid->model()->index(42, 0));
+    QTest::mouseClick(
+        grid->viewport(), Qt::LeftButton, {}, last.center() + QPoint(last.width(), 0));
+    QVERIFY(m_stack->Top() != m_page);
+    QTest::keyClick(m_stack->Top(), Qt::Key_Escape);
+    QCOMPARE(icon(), 7);
+}
+
+void ListSheetTest::warningsAreEnabledByTheirBoxes()
+{
+    ShowTab(u"Options"_s);
+    auto* onCount = Find<QCheckBox>(u"warnOnCount"_s);
+    auto* onExpiry = Find<QCheckBox>(u"warnOnExpiry"_s);
+    auto* countColour = Find<ColourButton>(u"countColour"_s);
+    QVERIFY(!countColour->isEnabled() && !Find<QWidget>(u"threshold"_s)->isEnabled());
+    QVERIFY(!onExpiry->isEnabled());
+    onCount->click();
+    QVERIFY(countColour->isEnabled() && Find<QWidget>(u"threshold"_s)->isEnabled());
+    ShowTab(u"Columns"_s);
+    m_page->Trigger(Command::AddExpiryDateColumn);
+    ShowTab(u"Options"_s);
+    QVERIFY(onExpiry->isEnabled() && !Find<QWidget>(u"expiryColour"_s)->isEnabled());
+    onExpiry->click();
+    QVERIFY(Find<QWidget>(u"expiryColour"_s)->isEnabled());
+    countColour->SetColour(7);
+    ShowTab(u"Columns"_s);
+    m_page->Trigger(Command::Delete);
+    ShowTab(u"Options"_s);
+    QVERIFY(!onExpiry->isEnabled() && !Find<QWidget>(u"expiryColour"_s)->isEnabled());
+    onCount->click();
+    // What is greyed is kept all the same.
+    const InventoryList list = m_page->Result();
+    QCOMPARE(list.TableOption, kWarnOnExpiry);
+    QCOMPARE(list.TableWarnColour, 7U);
+}
+
+void ListSheetTest::thresholdsAreReadAsNumbers_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("threshold");
+    QTest::newRow("a number") << u"12"_s << 12;
+    QTest::newRow("a negative one") << u"-3"_s << -3;
+    QTest::newRow("nothing") << QString() << 0;
+    QTest::newRow("a word") << u"many"_s << 0;
+    QTest::newRow("a number and a word") << u"4 or so"_s << 4;
+    QTest::newRow("the largest") << u"2147483647"_s << 2147483647;
+    QTest::newRow("one too large") << u"2147483648"_s << 0;
+    QTest::newRow("more than 16 characters") << u"00000000000000123"_s << 12;
+}
+
+void ListSheetTest::thresholdsAreReadAsNumbers()
+{
+    QFETCH(const QString, typed);
+    ShowTab(u"Options"_s);
+    Find<QCheckBox>(u"warnOnCount"_s)->click();
+    auto* edit = Find<QLineEdit>(u"threshold"_s);
+    edit->clear();
+    QTest::keyClicks(edit, typed);
+    QTEST(m_page->Result().TableWarnStart, "threshold");
+}
+
+void ListSheetTest::anExistingListKeepsItsColumnsAndAName()
+{
+    InventoryList list = NewInventoryList();
+    list.Name = u"Pantry"_s;
+    list.TableOption = 0x80;
+    list.columns.push_back({ u"Until"_s, kKindCount, PropExpiryDate });
+    Open(SheetMode::ExistingList, list);
+    QCOMPARE(m_page->Title(), u"Inventory List Options"_s);
+    QVERIFY(View() == nullptr);
+    Find<QLineEdit>(u"listName"_s)->clear();
+    ShowTab(u"Options"_s);
+    QVERIFY(Find<QWidget>(u"warnOnExpiry"_s)->isEnabled());
+    Find<QCheckBox>(u"warnOnExpiry"_s)->click();
+    QCOMPARE(m_page->Result().Name, u"Pantry"_s);
+    QCOMPARE(m_page->Result().TableOption, 0x80U | kWarnOnExpiry);
+    QCOMPARE(m_page->Result().columns, list.columns);
+}
+
+QTEST_MAIN(ListSheetTest)
+#include "list_sheet_test.moc"

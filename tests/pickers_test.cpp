@@ -1,0 +1,202 @@
+#include "listdef/display_options_page.h"
+#include "listdef/import_order_page.h"
+#include "values/column_type.h"
+#include "widgets/colour_button.h"
+#include "widgets/colour_grid.h"
+#include "widgets/colour_palette.h"
+#include "widgets/icon_grid.h"
+#include "widgets/icon_set.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+class PickersTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cellsFillTheGridRowByRow_data();
+    void cellsFillTheGridRowByRow();
+    void aPlaceBelongsToACell_data();
+    void aPlaceBelongsToACell();
+    void arrowKeysWrapAsTheGridDoes_data();
+    void arrowKeysWrapAsTheGridDoes();
+    void everyIconHasADrawingAndANameOfItsOwn();
+    void theGridOfColoursIsInOrderOfTheirValues();
+    void arrowKeysGoThroughTheColoursInOrder();
+    void aColourIsPickedInTheGrid();
+    void landscapeEnablesItsHands();
+    void anOrientationThatIsNotRightHandedIsLeftHanded();
+    void importColumnsAreMovedNotLeftOut();
+};
+
+void PickersTest::cellsFillTheGridRowByRow_data()
+{
+    QTest::addColumn<QSize>("client");
+    QTest::addColumn<int>("cellsPerRow");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<bool>("needsScrollBar");
+    QTest::newRow("ten in a row") << QSize(209, 100) << 10 << 5 << false;
+    QTest::newRow("too low: room for the bar") << QSize(209, 99) << 9 << 5 << true;
+    QTest::newRow("all in one row") << QSize(2000, 20) << 100 << 1 << false;
+    QTest::newRow("narrower than a cell") << QSize(5, 100) << 1 << 43 << true;
+}
+
+void PickersTest::cellsFillTheGridRowByRow()
+{
+    QFETCH(const QSize, client);
+    const IconGridLayout layout = IconGridLayout::For(43, 20, client, 16);
+    QTEST(layout.cellsPerRow, "cellsPerRow");
+    QTEST(layout.rows, "rows");
+    QTEST(layout.needsScrollBar, "needsScrollBar");
+}
+
+void PickersTest::aPlaceBelongsToACell_data()
+{
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<int>("index");
+    QTest::newRow("inside the first") << QPoint(1, 0) << 0;
+    QTest::newRow("on an edge: the left one") << QPoint(20, 5) << 0;
+    QTest::newRow("behind an edge") << QPoint(21, 5) << 1;
+    QTest::newRow("second row") << QPoint(30, 20) << 11;
+    QTest::newRow("left edge of the first row") << QPoint(0, 5) << -1;
+    QTest::newRow("left edge of the second row") << QPoint(0, 25) << 9;
+    QTest::newRow("the last one") << QPoint(50, 85) << 42;
+    QTest::newRow("behind the last one") << QPoint(70, 85) << -1;
+}
+
+void PickersTest::aPlaceBelongsToACell()
+{
+    QFETCH(const QPoint, place);
+    QTEST(IconGridLayout::For(43, 20, { 209, 100 }, 16).IndexAt(place), "index");
+}
+
+void PickersTest::arrowKeysWrapAsTheGridDoes_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("to");
+    QTest::newRow("left") << 5 << int { Qt::Key_Left } << 4;
+    QTest::newRow("left of the first") << 0 << int { Qt::Key_Left } << 42;
+    QTest::newRow("left of none") << -1 << int { Qt::Key_Left } << 42;
+    QTest::newRow("right of the last") << 42 << int { Qt::Key_Right } << 0;
+    QTest::newRow("right of none") << -1 << int { Qt::Key_Right } << 0;
+    QTest::newRow("up") << 14 << int { Qt::Key_Up } << 4;
+    QTest::newRow("up from the first row") << 3 << int { Qt::Key_Up } << 42;
+    QTest::newRow("down") << 14 << int { Qt::Key_Down } << 24;
+    QTest::newRow("down past the last") << 33 << int { Qt::Key_Down } << 0;
+}
+
+void PickersTest::arrowKeysWrapAsTheGridDoes()
+{
+    QFETCH(const int, from);
+    QFETCH(const int, key);
+    const IconGridLayout layout = IconGridLayout::For(43, 20, { 209, 100 }, 16);
+    QTEST(layout.Step(from, static_cast<Qt::Key>(key)), "to");
+}
+
+void PickersTest::everyIconHasADrawingAndANameOfItsOwn()
+{
+    QSet<QByteArray> drawings;
+    QSet<QString> names;
+    for (int index = 0; index < kListIconCount; ++index) {
+        const QImage image = ListIcon(index).pixmap(24, 24).toImage();
+        drawings << QByteArray(
+            reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
+        names << ListIconName(index);
+    }
+    QCOMPARE(drawings.size(), kListIconCount);
+    QCOMPARE(names.size(), kListIconCount);
+    QCOMPARE(ListIconName(99), ListIconName(0));
+}
+
+void PickersTest::theGridOfColoursIsInOrderOfTheirValues()
+{
+    const auto& order = ColoursByValue();
+    QCOMPARE(order.front(), kAutomaticColour);
+    QCOMPARE(order.back(), 22U);
+    for (size_t i = 1; i < order.size(); ++i)
+        QVERIFY(PaletteColour(order.at(i - 1)).rgb() < PaletteColour(order.at(i)).rgb());
+}
+
+void PickersTest::arrowKeysGoThroughTheColoursInOrder()
+{
+    ColourButton button;
+    const QSignalSpy picked(&button, &ColourButton::ColourPicked);
+    button.SetColour(kAutomaticColour);
+    QTest::keyClick(&button, Qt::Key_Up);
+    QCOMPARE(button.Colour(), kAutomaticColour);
+    QTest::keyClick(&button, Qt::Key_Down);
+    QCOMPARE(button.Colour(), 4U);
+    button.SetColour(22);
+    QTest::keyClick(&button, Qt::Key_Down);
+    QCOMPARE(button.Colour(), 22U);
+    QCOMPARE(picked.count(), 0);
+}
+
+void PickersTest::aColourIsPickedInTheGrid()
+{
+    ColourButton button;
+    QSignalSpy picked(&button, &ColourButton::ColourPicked);
+    button.SetColour(5);
+    button.show();
+    for (const auto& [name, index] : { std::pair { u"colour9"_s, 9U }, { u"colour9"_s, 9U } }) {
+        QTest::mouseClick(&button, Qt::LeftButton);
+        auto* grid = button.findChild<ColourGrid*>();
+        QVERIFY(grid != nullptr && grid->isVisible());
+        QTest::mouseClick(grid->findChild<QWidget*>(name), Qt::LeftButton);
+        QCOMPARE(button.Colour(), index);
+        QTRY_VERIFY(button.findChild<ColourGrid*>() == nullptr);
+    }
+    // The one that was shown already is told again.
+    QCOMPARE(picked.count(), 2);
+}
+
+void PickersTest::landscapeEnablesItsHands()
+{
+    DisplayOptionsPage page({ false, true, true });
+    auto* left = page.findChild<QRadioButton*>(u"landscapeLeft"_s);
+    QVERIFY(!left->isEnabled());
+    page.findChild<QCheckBox*>(u"landscape"_s)->click();
+    QVERIFY(left->isEnabled());
+    left->click();
+    page.findChild<QCheckBox*>(u"alternateColour"_s)->click();
+    QCOMPARE(page.Result(), (DisplayOptions { true, false, false }));
+    QVERIFY(page.HasUnsavedInput());
+}
+
+void PickersTest::anOrientationThatIsNotRightHandedIsLeftHanded()
+{
+    const DisplayOptionsPage page({ true, false, false });
+    QVERIFY(page.findChild<QRadioButton*>(u"landscapeLeft"_s)->isChecked());
+    QVERIFY(!page.HasUnsavedInput());
+}
+
+void PickersTest::importColumnsAreMovedNotLeftOut()
+{
+    const PropertyId price = MakePropertyId(77, CEVT_R8);
+    ImportOrderPage page(
+        { { u"Name"_s, 20, PropName }, { u"Count"_s, 21, PropCount }, { u"Price"_s, 2, price } });
+    auto* up = page.findChild<QPushButton*>(u"moveUp"_s);
+    auto* down = page.findChild<QPushButton*>(u"moveDown"_s);
+    QVERIFY(!up->isEnabled() && down->isEnabled());
+    down->click();
+    QVERIFY(up->isEnabled() && down->isEnabled());
+    down->click();
+    QVERIFY(!down->isEnabled());
+    QCOMPARE(page.Order(), (std::vector { PropCount, price, PropName }));
+    up->click();
+    QCOMPARE(page.Order(), (std::vector { PropCount, PropName, price }));
+    QCOMPARE(page.findChild<QListWidget*>()->item(1)->text(), u"Name"_s);
+}
+
+QTEST_MAIN(PickersTest)
+#include "pickers_test.moc"

@@ -1,0 +1,147 @@
+#include "widgets/colour_grid.h"
+
+#include "widgets/colour_palette.h"
+#include "widgets/measures.h"
+
+#include <QAbstractButton>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kColumnLength = 6;
+constexpr QRgb kOutline = qRgb(192, 192, 192);
+constexpr int kInset = 3;
+constexpr qreal kRound = 4;
+
+/// One colour of the grid.
+class Swatch : public QAbstractButton
+{
+public:
+    Swatch(quint32 index, bool isSelected, QWidget* parent)
+        : QAbstractButton(parent)
+        , m_index(index)
+    {
+        setObjectName(u"colour%1"_s.arg(index));
+        setAccessibleName(ColourName(index));
+        setCheckable(true);
+        setChecked(isSelected);
+        setFocusPolicy(Qt::StrongFocus);
+        const int size = std::min(CurrentMeasures().lineHeight + 2 * kInset, kMinTouchTarget);
+        setFixedSize(size, size);
+    }
+    void enterEvent(QEnterEvent* /*event*/) override { setFocus(); }
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        if (hasFocus() || isChecked()) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(palette().color(QPalette::Highlight));
+            painter.drawRoundedRect(rect(), kRound + kInset, kRound + kInset);
+        }
+        if (isChecked() && !hasFocus()) {
+            painter.setBrush(palette().color(QPalette::Base));
+            painter.drawRoundedRect(rect().adjusted(2, 2, -2, -2), kRound + 1, kRound + 1);
+        }
+        const bool isAutomatic = m_index == kAutomaticColour;
+        painter.setPen(QColor(kOutline));
+        painter.setBrush(isAutomatic ? palette().color(QPalette::Text) : PaletteColour(m_index));
+        painter.drawRoundedRect(
+            QRectF(rect()).adjusted(kInset + .5, kInset + .5, -kInset - .5, -kInset - .5), kRound,
+            kRound);
+        if (isAutomatic) {
+            painter.setPen(palette().color(QPalette::Base));
+            painter.drawText(rect(), Qt::AlignCenter, u"A"_s);
+        }
+    }
+
+private:
+    quint32 m_index;
+};
+
+} // namespace
+
+ColourGrid::ColourGrid(quint32 selected, QWidget* parent)
+    : QFrame(parent, Qt::Popup)
+{
+    setObjectName(u"colourGrid"_s);
+    setAccessibleName(tr("Colours"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
+    grid->setSpacing(kGrid / 4);
+    int place = 0;
+    for (const quint32 index : ColoursByValue()) {
+        auto* swatch = new Swatch(index, index == selected, this);
+        connect(swatch, &QAbstractButton::clicked, this, [this, index] { Pick(index); });
+        grid->addWidget(swatch, place % kColumnLength, place / kColumnLength);
+        if (index == selected)
+            swatch->setFocus();
+        ++place;
+    }
+}
+
+void ColourGrid::Open(const QPoint& topLeft, const QRect& window)
+{
+    adjustSize();
+    const int right = std::max(window.left(), window.right() + 1 - width());
+    const int bottom = std::max(window.top(), window.bottom() + 1 - height());
+    move(std::clamp(topLeft.x(), window.left(), right),
+        std::clamp(topLeft.y(), window.top(), bottom));
+    show();
+}
+
+void ColourGrid::Pick(quint32 index)
+{
+    Q_EMIT Picked(index);
+    close();
+}
+
+void ColourGrid::keyPressEvent(QKeyEvent* event)
+{
+    auto* grid = qobject_cast<QGridLayout*>(layout());
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid->getItemPosition(
+        std::max(0, grid->indexOf(focusWidget())), &row, &column, &rows, &columns);
+    switch (event->key()) {
+    case Qt::Key_Up:
+        row = std::max(0, row - 1);
+        break;
+    case Qt::Key_Down:
+        row = std::min(kColumnLength - 1, row + 1);
+        break;
+    case Qt::Key_Left:
+        column = std::max(0, column - 1);
+        break;
+    case Qt::Key_Right:
+        column = std::min(grid->columnCount() - 1, column + 1);
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (auto* swatch = qobject_cast<QAbstractButton*>(focusWidget()))
+            swatch->click();
+        return;
+    default:
+        return QFrame::keyPressEvent(event);
+    }
+    grid->itemAtPosition(row, column)->widget()->setFocus();
+}
+
+void ColourGrid::closeEvent(QCloseEvent* event)
+{
+    Q_EMIT Closed();
+    QFrame::closeEvent(event);
+}
+
+} // namespace Quillory

@@ -1,0 +1,41 @@
+#include "widgets/help_page.h"
+
+#include "widgets/measures.h"
+
+#include <QScroller>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <QTimer>
+#include <QVBoxLayout>
+
+// Resources of a static library are not found unless somebody asks for them by name.
+static void LoadHelpResources()
+{
+    Q_INIT_RESOURCE(help);
+}
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+HelpPage::HelpPage(const QString& anchor, QWidget* parent)
+    : Page(tr("Help"), parent)
+{
+    LoadHelpResources();
+    setObjectName(u"helpPage"_s);
+    auto* text = new QTextBrowser(this);
+    text->setObjectName(u"helpText"_s);
+    text->setAccessibleName(Title());
+    text->setFrameShape(QFrame::NoFrame);
+    text->setOpenExternalLinks(false);
+    text->document()->setDocumentMargin(kPageMargin);
+    QScroller::grabGesture(text->viewport(), QScroller::TouchGesture);
+    Body()->addWidget(text, 1);
+    setFocusProxy(text);
+    const QUrl place(u"qrc:/help/Quillory.htm#"_s + anchor);
+    text->setSource(place);
+    // Where an anchor stands is known once the page has its width.
+    QTimer::singleShot(0, text, [text, place] { text->scrollToAnchor(place.fragment()); });
+}
+
+} // namespace Quillory

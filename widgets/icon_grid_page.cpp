@@ -1,0 +1,31 @@
+#include "widgets/icon_grid_page.h"
+
+#include "widgets/icon_grid.h"
+#include "widgets/measures.h"
+
+#include <QVBoxLayout>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+IconGridPage::IconGridPage(int selected, QWidget* parent)
+    : Page(tr("Icon"), parent)
+    , m_icon(selected)
+{
+    setObjectName(u"iconGridPage"_s);
+    ShowOkButton(false);
+    auto* grid = new IconGrid(this);
+    grid->SelectIcon(selected);
+    Body()->setContentsMargins(kGrid, kGrid, 0, 0);
+    Body()->addWidget(grid, 1);
+    SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
+    connect(this, &Page::CommandChosen, this, [this] { RequestEnd(PageResult::Cancel); });
+    connect(grid, &IconGrid::IconTapped, this, [this](int index) {
+        m_icon = index;
+        End(PageResult::Ok);
+    });
+    setFocusProxy(grid);
+}
+
+} // namespace Quillory

@@ -1,0 +1,179 @@
+#include "widgets/icon_picker.h"
+
+#include "widgets/icon_grid_page.h"
+#include "widgets/icon_set.h"
+#include "widgets/measures.h"
+#include "widgets/page_stack.h"
+
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kTriangleWidth = 12;
+constexpr int kTriangleHeight = 6;
+constexpr qreal kRound = 4;
+
+enum class Face
+{
+    UpTriangle,
+    DownTriangle,
+    Dots,
+};
+
+/// A button at the right end of the picker.
+class PickerButton : public QAbstractButton
+{
+public:
+    PickerButton(Face face, const QString& name, QWidget* parent)
+        : QAbstractButton(parent)
+        , m_face(face)
+    {
+        setAccessibleName(name);
+        setFocusPolicy(Qt::TabFocus);
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    }
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        const int side = std::max(CurrentMeasures().lineHeight - kGrid / 2, 4 * kGrid);
+        return { side, side };
+    }
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QColor ink = palette().color(isDown() ? QPalette::Base : QPalette::Text);
+        painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+        painter.setBrush(palette().color(isDown() ? QPalette::Text : QPalette::Base));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), kRound, kRound);
+        painter.setPen(ink);
+        if (m_face == Face::Dots) {
+            painter.drawText(rect(), Qt::AlignCenter, u"..."_s);
+            return;
+        }
+        const QPointF middle = QRectF(rect()).center();
+        const qreal tip = m_face == Face::UpTriangle ? -kTriangleHeight / 2. : kTriangleHeight / 2.;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ink);
+        painter.drawPolygon(
+            QPolygonF { { middle + QPointF(0, tip), middle + QPointF(-kTriangleWidth / 2., -tip),
+                middle + QPointF(kTriangleWidth / 2., -tip) } });
+    }
+
+private:
+    Face m_face;
+};
+
+} // namespace
+
+IconPicker::IconPicker(QWidget* parent)
+    : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(0, 1, 1, 1);
+    line->setSpacing(2);
+    line->addStretch(1);
+    const auto add = [this, line](Face face, const QString& name, const QString& objectName) {
+        auto* button = new PickerButton(face, name, this);
+        button->setObjectName(objectName);
+        line->addWidget(button);
+        return button;
+    };
+    connect(add(Face::UpTriangle, tr("Next icon"), u"nextIcon"_s), &QAbstractButton::clicked, this,
+        &IconPicker::NextIcon);
+    connect(add(Face::DownTriangle, tr("Previous icon"), u"previousIcon"_s),
+        &QAbstractButton::clicked, this, &IconPicker::PreviousIcon);
+    connect(add(Face::Dots, tr("All icons"), u"allIcons"_s), &QAbstractButton::clicked, this,
+        &IconPicker::OpenGrid);
+}
+
+void IconPicker::SetIcon(int index)
+{
+    m_icon = index;
+    setAccessibleDescription(index >= 0 ? ListIconName(index) : QString());
+    update();
+}
+
+QSize IconPicker::sizeHint() const
+{
+    const int height
+        = std::max(CurrentMeasures().lineHeight, CurrentMeasures().iconSize + 2 * kGrid);
+    return { std::max(height * 5, layout()->sizeHint().width()), height };
+}
+
+void IconPicker::Choose(int index)
+{
+    SetIcon(index);
+    setFocus();
+    Q_EMIT IconChosen(index);
+}
+
+void IconPicker::NextIcon()
+{
+    Choose(m_icon + 1 < kListIconCount ? m_icon + 1 : 0);
+}
+
+void IconPicker::PreviousIcon()
+{
+    Choose(m_icon > 0 ? m_icon - 1 : kListIconCount - 1);
+}
+
+void IconPicker::OpenGrid()
+{
+    auto* page = new IconGridPage(m_icon);
+    PageStack::Of(this).Push(page, [this, page](PageResult) { Choose(page->Icon()); });
+}
+
+void IconPicker::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Up)
+        NextIcon();
+    else if (event->key() == Qt::Key_Down)
+        PreviousIcon();
+    else if (event->key() == Qt::Key_Space)
+        OpenGrid();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void IconPicker::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void IconPicker::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+void IconPicker::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const auto* firstButton = findChild<QWidget*>(u"nextIcon"_s);
+    QRect face = rect();
+    face.setRight(firstButton->x() - 3);
+    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+    painter.setBrush(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Base));
+    painter.drawRoundedRect(QRectF(face).adjusted(.5, .5, -.5, -.5), kRound, kRound);
+    if (m_icon < 0)
+        return;
+    const int size = face.height() - kGrid;
+    QRect picture(0, 0, size, size);
+    picture.moveCenter(face.center());
+    ListIcon(m_icon).paint(
+        &painter, picture, Qt::AlignCenter, hasFocus() ? QIcon::Selected : QIcon::Normal);
+}
+
+} // namespace Quillory

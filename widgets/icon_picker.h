@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QWidget>
+
+namespace Quillory {
+
+/// Shows the icon of a list, with buttons to step through all icons and one that opens the grid of
+/// them. Stands on a page of a page stack.
+class IconPicker : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit IconPicker(QWidget* parent = nullptr);
+
+    /// -1 for none.
+    [[nodiscard]] int Icon() const { return m_icon; }
+    void SetIcon(int index);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// A step was taken, or the grid was closed with this icon, be it the same.
+    void IconChosen(int index);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    int m_icon = -1;
+
+    void Choose(int index);
+    void NextIcon();
+    void PreviousIcon();
+    void OpenGrid();
+};
+
+} // namespace Quillory
