@@ -59,6 +59,13 @@ void RowsModel::Refresh(int line)
     Q_EMIT dataChanged(index(line, 0), index(line, columnCount() - 1));
 }
 
+void RowsModel::RefreshAll()
+{
+    m_shown.clear();
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
 PropertyId RowsModel::ColumnId(int column) const
 {
     return m_list.columns[static_cast<size_t>(column)].id;

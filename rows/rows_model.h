@@ -30,6 +30,8 @@ public:
     void Remove(int line);
     /// The row was changed in the store.
     void Refresh(int line);
+    /// Any row may have been changed in the store.
+    void RefreshAll();
 
     [[nodiscard]] RowFacts FactsOf(int line) const;
     [[nodiscard]] bool IsCheckbox(int column) const;

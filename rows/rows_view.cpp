@@ -2,19 +2,22 @@
 
 #include "res/dialog_table.h"
 #include "res/string_table.h"
+#include "rows/column_layout.h"
+#include "rows/filter_page.h"
+#include "rows/filters_page.h"
 #include "rows/row_delegate.h"
-#include "rows/row_editor_page.h"
+#include "rows/row_editor.h"
 #include "rows/summary_page.h"
-#include "values/column_type.h"
 #include "widgets/line_view.h"
-#include "widgets/measures.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 #include "widgets/touch.h"
 #include "widgets/wait_cursor.h"
 
+#include <QAction>
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -23,42 +26,6 @@
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// What a column of a type has room for until somebody sets its width.
-QString SampleText(ColumnType type)
-{
-    switch (type) {
-    case ColumnType::String:
-        return u"an ordinary name"_s;
-    case ColumnType::Checkbox:
-        return u"xxxx"_s;
-    case ColumnType::Price:
-        return u"1,000.00"_s;
-    case ColumnType::Integer:
-        return u"10000"_s;
-    case ColumnType::Date:
-        return u"00/00/0000"_s;
-    }
-    return {};
-}
-
-/// Wider columns are no work of a person's hand.
-constexpr int kMaxWidth = 10000;
-
-bool IsPermutation(const std::vector<quint32>& order, size_t count)
-{
-    std::vector<quint32> sorted = order;
-    std::sort(sorted.begin(), sorted.end());
-    for (size_t i = 0; i < sorted.size(); ++i) {
-        if (sorted[i] != i)
-            return false;
-    }
-    return sorted.size() == count;
-}
-
-} // namespace
 
 RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& context,
     const RowsViewOptions& options, QWidget* parent)
@@ -71,11 +38,23 @@ RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& cont
     , m_view(new QTableView(this))
 {
     setObjectName(u"rows"_s);
+    if (m_options.foundBy) {
+        m_filters.emplace();
+        AddFilter(*m_filters, m_options.foundBy->column, m_options.foundBy->condition,
+            m_options.foundBy->value);
+    }
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (m_model->IsCheckbox(column))
+            m_checkboxColumns.push_back(column);
+    }
     BuildTable();
     BuildCommands();
-    ApplyLayout();
+    ApplyColumnLayout(*m_view->horizontalHeader(), m_list);
     Fill();
     setFocusProxy(m_view);
+    // Once the page is on the screen.
+    if (m_options.foundBy && m_model->rowCount() == 0)
+        QMetaObject::invokeMethod(this, &RowsView::TellNothingFound, Qt::QueuedConnection);
 }
 
 void RowsView::BuildTable()
@@ -94,19 +73,23 @@ void RowsView::BuildTable()
     connect(m_view, &QTableView::doubleClicked, this, &RowsView::DoubleTapCell);
     auto* touch = new TouchBehaviour(m_view);
     connect(touch, &TouchBehaviour::Held, this, &RowsView::OpenRowMenu);
+    m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
     Body()->addWidget(m_view, 1);
 }
 
 void RowsView::BuildCommands()
 {
-    SetHelpAnchor(QString());
-    SetSoftKeys(SoftKeysOf(MenuBar::Rows), MenuEntries(MenuId::Rows));
-    SetShortcut(Command::New, QKeySequence::New);
-    SetShortcut(Command::Delete, Qt::Key_Delete);
-    SetShortcut(Command::Modify, Qt::Key_Return);
-    SetShortcut(Command::AddOne, Qt::Key_Plus);
-    SetShortcut(Command::SubtractOne, Qt::Key_Minus);
+    SetHelpAnchor(QLatin1StringView(kHelpEditList));
+    ActionOf(Command::Modify)->setShortcuts({ Qt::Key_Return, Qt::Key_Enter });
+    if (!m_options.foundBy) {
+        SetSoftKeys(SoftKeysOf(MenuBar::Rows), MenuEntries(MenuId::Rows));
+        SetShortcut(Command::New, QKeySequence::New);
+        SetShortcut(Command::Delete, Qt::Key_Delete);
+        SetShortcut(Command::AddOne, Qt::Key_Plus);
+        SetShortcut(Command::SubtractOne, Qt::Key_Minus);
+        SetShortcut(Command::Find, QKeySequence::Find);
+    }
     connect(this, &Page::CommandChosen, this, &RowsView::Run);
     connect(this, &Page::MenuAboutToOpen, this, &RowsView::UpdateCommands);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -114,53 +97,27 @@ void RowsView::BuildCommands()
     connect(m_model, &QAbstractItemModel::modelReset, this, &RowsView::UpdateCommands);
 }
 
-void RowsView::ApplyLayout()
-{
-    QHeaderView* header = m_view->horizontalHeader();
-    const QFontMetrics metrics(m_view->font());
-    for (int column = 0; column < m_model->columnCount(); ++column) {
-        const ColumnDefinition& definition = m_list.columns[static_cast<size_t>(column)];
-        const int text = metrics.horizontalAdvance(SampleText(ColumnTypeOf(definition.id)));
-        const int title = metrics.horizontalAdvance(definition.name);
-        header->resizeSection(column, std::max(text, title) + 2 * kGrid + kGrid / 2);
-    }
-    const QStringList widths = m_list.TableColSizes.split(u',', Qt::SkipEmptyParts);
-    for (int column = 0; column < std::min<int>(static_cast<int>(widths.size()), header->count());
-         ++column) {
-        const int width = widths[column].toInt();
-        if (width > 0 && width <= kMaxWidth)
-            header->resizeSection(column, width);
-    }
-    if (!IsPermutation(m_list.columnOrder, m_list.columns.size()))
-        return;
-    for (int place = 0; place < header->count(); ++place) {
-        const auto column = static_cast<int>(m_list.columnOrder[static_cast<size_t>(place)]);
-        header->moveSection(header->visualIndex(column), place);
-    }
-}
-
-void RowsView::StoreLayout()
-{
-    const QHeaderView* header = m_view->horizontalHeader();
-    m_list.TableColSizes.clear();
-    m_list.columnOrder.clear();
-    for (int i = 0; i < header->count(); ++i) {
-        m_list.TableColSizes += QString::number(header->sectionSize(i)) + u',';
-        m_list.columnOrder.push_back(static_cast<quint32>(header->logicalIndex(i)));
-    }
-}
-
 void RowsView::Fill()
 {
     const WaitCursor wait;
-    m_model->SetRows(m_store.FillRows());
-    if (m_model->rowCount() > 0)
+    const ObjectId selected = SelectedRow();
+    m_model->SetRows(m_filters ? m_store.FillFilteredRows(*m_filters) : m_store.FillRows());
+    if (!SelectRow(selected) && m_model->rowCount() > 0)
         Select(0);
+}
+
+void RowsView::TellNothingFound()
+{
+    ShowMessage(this, LoadString(StringId::NoRecordMatched), MessageIcon::Information,
+        MessageButtons::Ok, [page = QPointer(this)](MessageAnswer) {
+            if (page != nullptr)
+                page->RequestEnd(PageResult::Ok);
+        });
 }
 
 void RowsView::RequestEnd(PageResult /*result*/)
 {
-    StoreLayout();
+    StoreColumnLayout(*m_view->horizontalHeader(), m_list);
     End(PageResult::Ok);
 }
 
@@ -168,6 +125,22 @@ int RowsView::SelectedLine() const
 {
     const QModelIndexList lines = m_view->selectionModel()->selectedRows();
     return lines.isEmpty() ? -1 : lines.first().row();
+}
+
+ObjectId RowsView::SelectedRow() const
+{
+    const int line = SelectedLine();
+    return line < 0 ? kNoObject : m_model->RowAt(line);
+}
+
+bool RowsView::SelectRow(ObjectId row)
+{
+    const auto& rows = m_model->Rows();
+    const auto found = std::find(rows.begin(), rows.end(), row);
+    if (found == rows.end())
+        return false;
+    Select(static_cast<int>(found - rows.begin()));
+    return true;
 }
 
 void RowsView::Select(int line)
@@ -185,8 +158,7 @@ void RowsView::UpdateCommands()
     for (const Command command : { Command::Modify, Command::CreateCopy, Command::Delete,
              Command::AddOne, Command::SubtractOne })
         SetCommandEnabled(command, mayChange);
-    for (const Command command : { Command::Find, Command::SetFilters, Command::ClearFilters })
-        SetCommandEnabled(command, false);
+    SetCommandEnabled(Command::ClearFilters, m_filters.has_value());
 }
 
 void RowsView::Run(Command command)
@@ -206,6 +178,12 @@ void RowsView::Run(Command command)
         return AdjustCount(-1);
     case Command::ViewSummary:
         return ShowSummary();
+    case Command::SetFilters:
+        return SetFilters();
+    case Command::ClearFilters:
+        return ClearFilters();
+    case Command::Find:
+        return FindRows();
     default:
         return;
     }
@@ -213,16 +191,20 @@ void RowsView::Run(Command command)
 
 void RowsView::OpenRowMenu(const QPoint& position)
 {
-    if (m_options.isReadOnly || SelectedLine() < 0)
+    if (m_options.isReadOnly || m_options.foundBy || SelectedLine() < 0)
         return;
     OpenContextMenu(MenuEntries(MenuId::RowContext), m_view->viewport()->mapToGlobal(position));
 }
 
+void RowsView::Push(Page* page, std::function<void(PageResult)> then)
+{
+    qobject_cast<PageStack*>(parentWidget())->Push(page, std::move(then));
+}
+
 void RowsView::OpenEditor(const Record* row, std::function<void(const std::vector<QString>&)> store)
 {
-    auto* page = new RowEditorPage(m_list.Name, m_list, row, m_context);
-    auto* stack = qobject_cast<PageStack*>(parentWidget());
-    stack->Push(page, [page, store = std::move(store)](PageResult result) {
+    auto* page = new RowEditor(m_list, row, m_context);
+    Push(page, [page, store = std::move(store)](PageResult result) {
         if (result == PageResult::Ok)
             store(page->Texts());
     });
@@ -260,9 +242,10 @@ void RowsView::DeleteRow()
 {
     const int line = SelectedLine();
     ShowMessage(this, LoadString(StringId::DeleteRowQuestion), MessageIcon::Exclamation,
-        MessageButtons::YesNo, [this, line](MessageAnswer answer) {
-            if (answer == MessageAnswer::Yes && m_store.DeleteRow(m_model->RowAt(line)))
-                m_model->Remove(line);
+        MessageButtons::YesNo, [page = QPointer(this), line](MessageAnswer answer) {
+            if (page != nullptr && answer == MessageAnswer::Yes
+                && page->m_store.DeleteRow(page->m_model->RowAt(line)))
+                page->m_model->Remove(line);
         });
 }
 
@@ -276,14 +259,10 @@ void RowsView::AdjustCount(qint32 step)
 void RowsView::SortByColumn(int column)
 {
     const WaitCursor wait;
-    const int line = SelectedLine();
-    const ObjectId selected = line < 0 ? kNoObject : m_model->RowAt(line);
+    const ObjectId selected = SelectedRow();
     m_model->SetRows(
         m_store.SortRows(m_model->Rows(), m_list.columns[static_cast<size_t>(column)].id));
-    const auto& rows = m_model->Rows();
-    const auto found = std::find(rows.begin(), rows.end(), selected);
-    if (found != rows.end())
-        Select(static_cast<int>(found - rows.begin()));
+    SelectRow(selected);
 }
 
 void RowsView::TapCell(const QModelIndex& index)
@@ -298,13 +277,8 @@ void RowsView::DoubleTapCell(const QModelIndex& index)
 {
     if (m_options.isReadOnly)
         return;
-    std::vector<int> boxes;
-    for (int column = 0; column < m_model->columnCount(); ++column) {
-        if (m_model->IsCheckbox(column))
-            boxes.push_back(column);
-    }
-    if (boxes.size() == 1)
-        ToggleCheckbox(index.row(), boxes.front());
+    if (m_checkboxColumns.size() == 1)
+        ToggleCheckbox(index.row(), m_checkboxColumns.front());
     else
         Trigger(Command::Modify);
 }
@@ -316,17 +290,67 @@ void RowsView::ToggleCheckbox(int line, int column)
         m_model->Refresh(line);
 }
 
+void RowsView::ToggleByKey()
+{
+    const QModelIndex current = m_view->currentIndex();
+    if (m_options.isReadOnly || SelectedLine() < 0)
+        return;
+    if (m_checkboxColumns.size() == 1)
+        ToggleCheckbox(SelectedLine(), m_checkboxColumns.front());
+    else if (m_model->IsCheckbox(current.column()))
+        ToggleCheckbox(current.row(), current.column());
+}
+
 void RowsView::ShowSummary()
 {
-    auto* stack = qobject_cast<PageStack*>(parentWidget());
     const WaitCursor wait;
-    stack->Push(new SummaryPage(m_store.Totals(nullptr)));
+    Push(new SummaryPage(m_store.Totals(m_filters ? &*m_filters : nullptr)), {});
+}
+
+void RowsView::SetFilters()
+{
+    if (!m_filters)
+        m_filters.emplace();
+    auto* page = new FiltersPage(*m_filters, m_list, m_context);
+    Push(page, [this, page](PageResult) {
+        m_filters = page->Filters();
+        Fill();
+    });
+}
+
+void RowsView::ClearFilters()
+{
+    m_filters.reset();
+    Fill();
+}
+
+void RowsView::FindRows()
+{
+    auto* page = new FilterPage({ FilterMode::Find, {} }, m_list, m_context);
+    // A cancelled page gives its fresh state, a condition that no row meets: that is told.
+    Push(page, [this, page](PageResult) { ShowFound(page->State().entry); });
+}
+
+void RowsView::ShowFound(const FilterEntry& condition)
+{
+    // The results come in the columns as they lie now.
+    StoreColumnLayout(*m_view->horizontalHeader(), m_list);
+    RowsViewOptions options = m_options;
+    options.foundBy = condition;
+    // What was changed among the results is read again.
+    Push(new RowsView(m_store, m_list, m_context, options),
+        [this](PageResult) { m_model->RefreshAll(); });
 }
 
 bool RowsView::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress)
         m_tapPosition = static_cast<QMouseEvent*>(event)->position().toPoint();
+    if (watched == m_view && event->type() == QEvent::KeyPress
+        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
+        ToggleByKey();
+        return true;
+    }
     return Page::eventFilter(watched, event);
 }
 

@@ -4,6 +4,8 @@
 #include "store/row_store.h"
 #include "widgets/page.h"
 
+#include <optional>
+
 class QTableView;
 
 namespace Quillory {
@@ -13,6 +15,9 @@ struct RowsViewOptions
     /// Shows rows and lets none be made, changed or deleted.
     bool isReadOnly = false;
     bool hasAlternateLines = false;
+    /// For the results of a Find: shows the rows that meet this condition, without menus. If there
+    /// are none it says so and ends.
+    std::optional<FilterEntry> foundBy {};
 };
 
 /// The rows of the open list, and every command on them. However it is left, it has put the widths
@@ -36,21 +41,30 @@ private:
     RowsViewOptions m_options;
     RowsModel* m_model;
     QTableView* m_view;
+    /// The criteria of the rows shown; none once filters were cleared, as at first.
+    std::optional<FilterSet> m_filters;
+    std::vector<int> m_checkboxColumns;
     /// Where the latest tap went down, in the view's coordinates.
     QPoint m_tapPosition;
 
     void BuildTable();
     void BuildCommands();
-    void ApplyLayout();
-    void StoreLayout();
+    /// Shows the rows that meet the criteria, the selected one selected again if it is among them,
+    /// else the first.
     void Fill();
+    void TellNothingFound();
 
     void Run(Command command);
     void UpdateCommands();
     void OpenRowMenu(const QPoint& position);
     /// -1 if none is selected.
     [[nodiscard]] int SelectedLine() const;
+    /// kNoObject if none is selected.
+    [[nodiscard]] ObjectId SelectedRow() const;
     void Select(int line);
+    /// False if the row is not shown.
+    bool SelectRow(ObjectId row);
+    void Push(Page* page, std::function<void(PageResult)> then);
 
     void NewRow();
     void ModifyRow();
@@ -61,7 +75,14 @@ private:
     void TapCell(const QModelIndex& index);
     void DoubleTapCell(const QModelIndex& index);
     void ToggleCheckbox(int line, int column);
+    /// What Space does: ticks the only checkbox of the selected row, or the one of the current
+    /// cell.
+    void ToggleByKey();
     void ShowSummary();
+    void SetFilters();
+    void ClearFilters();
+    void FindRows();
+    void ShowFound(const FilterEntry& condition);
     void OpenEditor(const Record* row, std::function<void(const std::vector<QString>&)> store);
 };
 

@@ -1,36 +1,11 @@
-#include "rows/row_delegate.h"
-#include "rows/row_editor_page.h"
-#include "rows/rows_view.h"
-#include "tests/list_fixture.h"
+#include "rows/row_look.h"
+#include "tests/rows_view_errand.h"
 #include "values/file_date.h"
-#include "widgets/colour_palette.h"
-#include "widgets/page_stack.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTableView>
-#include <QTest>
+#include <QPointingDevice>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Columns of the fixture's list.
-enum Column
-{
-    Name,
-    Count,
-    Shelf,
-    Bio,
-    Price,
-};
-
-} // namespace
 
 class RowsViewTest : public QObject
 {
@@ -47,224 +22,280 @@ private Q_SLOTS:
     void aCopyOpensInTheEditor();
     void ticksAreTappedInTheirSquareAlone();
     void aDoubleTapTicksTheOnlyCheckbox();
+    void twoCheckboxesLeaveTheDoubleTapToTheEditor();
+    void aTapOnTheHeaderSorts_data();
     void aTapOnTheHeaderSorts();
+    void deletingTheLastRowLeavesNothingToCommand();
+    void aHoldOpensTheMenuOfTheRow();
     void readOnlyLetsNothingChange();
+    void columnsAreDraggedByTouch();
     void widthsAndOrderAreKept();
     void aVanishedRowShowsErr();
     void looksFollowWarnings_data();
     void looksFollowWarnings();
 
 private:
-    std::unique_ptr<ListFixture> m_file;
-    std::unique_ptr<PageStack> m_stack;
-    RowsView* m_page = nullptr;
+    std::unique_ptr<RowsErrand> m_errand;
 
-    void OpenView(const RowsViewOptions& options = {})
-    {
-        m_stack = std::make_unique<PageStack>();
-        m_stack->Push(new Page(QString()));
-        m_page = new RowsView(*m_file->rows, m_file->list, m_file->context, options);
-        m_stack->Push(m_page);
-        m_stack->resize(800, 480);
-        m_stack->show();
-        // Shortcuts are the active window's.
-        QVERIFY(QTest::qWaitForWindowActive(m_stack.get()));
-    }
-    [[nodiscard]] QTableView* View() const { return m_page->findChild<QTableView*>(); }
-    [[nodiscard]] QString Text(int line, int column) const
-    {
-        return View()->model()->index(line, column).data().toString();
-    }
-    [[nodiscard]] QString Lines() const
-    {
-        QStringList names;
-        for (int line = 0; line < View()->model()->rowCount(); ++line)
-            names << Text(line, Name);
-        return names.join(u' ');
-    }
-    void Tap(int line, int column, const QPoint& offset = {}) const
-    {
-        const QRect cell = View()->visualRect(View()->model()->index(line, column));
-        QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, cell.center() + offset);
-    }
-    void Answer(QMessageBox::StandardButton button) const
-    {
-        auto* box = m_stack->findChild<QMessageBox*>();
-        QVERIFY(box != nullptr);
-        QVERIFY(box->defaultButton() == box->button(QMessageBox::No));
-        QTest::mouseClick(box->button(button), Qt::LeftButton);
-    }
+    [[nodiscard]] ListFixture& File() const { return m_errand->file; }
+    [[nodiscard]] PageStack& Stack() const { return *m_errand->stack; }
+    [[nodiscard]] RowsView* Page() const { return m_errand->page; }
+    [[nodiscard]] QTableView* View() const { return m_errand->View(); }
 };
 
 void RowsViewTest::init()
 {
-    m_stack.reset();
-    m_file = std::make_unique<ListFixture>();
-    m_file->MakeFullList(u"Pantry"_s);
-    m_file->Add({ u"rice"_s, u"0"_s, u"top"_s, u"Unchecked"_s, u"3"_s });
-    m_file->Add({ u"salt"_s, u"5"_s, u"top"_s, u"Checked"_s, u"1"_s });
+    m_errand = std::make_unique<RowsErrand>();
+    File().Add({ u"rice"_s, u"0"_s, u"top"_s, u"Unchecked"_s, u"3"_s });
+    File().Add({ u"salt"_s, u"5"_s, u"top"_s, u"Checked"_s, u"1"_s });
 }
 
 void RowsViewTest::theFirstLineIsSelected()
 {
-    OpenView();
-    QCOMPARE(m_page->Title(), u"Pantry"_s);
-    QCOMPARE(Lines(), u"rice salt"_s);
+    m_errand->Open();
+    QCOMPARE(Page()->Title(), u"Pantry"_s);
+    QCOMPARE(m_errand->Lines(), u"rice salt"_s);
     QCOMPARE(View()->currentIndex().row(), 0);
 }
 
 void RowsViewTest::aNewRowIsEnteredByKeyboard()
 {
-    OpenView();
-    QTest::keyClick(m_page, Qt::Key_N, Qt::ControlModifier);
-    Page* editor = m_stack->Top();
-    QCOMPARE(editor->objectName(), u"rowEditor"_s);
-    const auto field = [editor](int i) { return editor->findChild<QWidget*>(u"field%1"_s.arg(i)); };
-    QCOMPARE(field(Count)->property("text").toString(), u"0"_s);
-    QCOMPARE(field(Price)->property("text").toString(), u"0.00"_s);
-    QTest::keyClicks(field(Name), u"barley"_s);
-    QTest::keyClick(field(Name), Qt::Key_Return);
-    QTest::keyClicks(field(Count), u"7"_s);
-    for (int i = Count; i < 7; ++i)
-        QTest::keyClick(field(i), Qt::Key_Down);
-    QTest::keyClicks(field(7), u"1/5/2027"_s);
-    QTest::keyClick(field(7), Qt::Key_Return);
-    QCOMPARE(m_stack->Top(), m_page);
+    m_errand->Open();
+    QTest::keyClick(Page(), Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
+    m_errand->TypeInEditor(u"barley"_s, Qt::Key_Return);
+    m_errand->TypeInEditor(u"7"_s, Qt::Key_Return);
+    for (int field = Shelf; field < Expiry; ++field)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    m_errand->TypeInEditor(u"1/5/2027"_s, Qt::Key_Return);
+    QCOMPARE(Stack().Top(), Page());
     // At the end, until the list is opened again.
-    QCOMPARE(Lines(), u"rice salt barley"_s);
-    QCOMPARE(Text(2, Count), u"7"_s);
-    QCOMPARE(Text(2, 7), u"1/5/2027"_s);
-    QCOMPARE(m_file->Cells(m_file->rows->FillRows()), u"barley rice salt"_s);
+    QCOMPARE(m_errand->Lines(), u"rice salt barley"_s);
+    QCOMPARE(m_errand->Text(2, Count), u"7"_s);
+    QCOMPARE(m_errand->Text(2, Expiry), u"1/5/2027"_s);
+    QCOMPARE(m_errand->Stored(), u"barley rice salt"_s);
 }
 
 void RowsViewTest::cancellingTheEditorWritesNothing()
 {
-    OpenView();
-    m_page->Trigger(Command::Modify);
-    QTest::keyClicks(m_stack->Top()->findChild<QWidget*>(u"field0"_s), u"changed"_s);
-    m_stack->Top()->Trigger(Command::Cancel);
-    m_page->Trigger(Command::New);
-    QTest::keyClick(m_stack->Top(), Qt::Key_Escape);
-    QCOMPARE(m_stack->Top(), m_page);
-    QCOMPARE(m_file->Cells(m_file->rows->FillRows()), u"rice salt"_s);
+    m_errand->Open();
+    Page()->Trigger(Command::Modify);
+    m_errand->TypeInEditor(u"changed"_s, Qt::Key_Down);
+    Stack().Top()->Trigger(Command::Cancel);
+    Page()->Trigger(Command::New);
+    QTest::keyClick(Stack().Top(), Qt::Key_Escape);
+    QCOMPARE(Stack().Top(), Page());
+    QCOMPARE(m_errand->Stored(), u"rice salt"_s);
 }
 
 void RowsViewTest::modifyingKeepsWhatWasNotTouched()
 {
-    OpenView();
-    m_page->Trigger(Command::Modify);
-    auto* name = m_stack->Top()->findChild<QLineEdit*>(u"field0"_s);
-    name->selectAll();
-    QTest::keyClicks(name, u"brown rice"_s);
-    QTest::mouseClick(m_stack->Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
-    QCOMPARE(Lines(), u"brown rice salt"_s);
-    QCOMPARE(Text(0, Price), u"3.00"_s);
-    QCOMPARE(m_file->Cells(m_file->rows->FillRows(), Shelf), u"top top"_s);
+    m_errand->Open();
+    Page()->Trigger(Command::Modify);
+    m_errand->TypeInEditor(u"brown rice"_s, Qt::Key_Down);
+    QTest::mouseClick(Stack().Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
+    QCOMPARE(m_errand->Lines(), u"brown rice salt"_s);
+    QCOMPARE(m_errand->Text(0, Price), u"3.00"_s);
+    QCOMPARE(m_errand->Stored(Shelf), u"top top"_s);
 }
 
 void RowsViewTest::countsGoToMinusOneAndBack()
 {
-    OpenView();
+    m_errand->Open();
     QTest::keyClick(View(), Qt::Key_Minus);
-    QCOMPARE(Text(0, Count), u"-1"_s);
+    QCOMPARE(m_errand->Text(0, Count), u"-1"_s);
     QTest::keyClick(View(), Qt::Key_Plus);
     QTest::keyClick(View(), Qt::Key_Plus);
-    QCOMPARE(Text(0, Count), u"1"_s);
-    QCOMPARE(m_file->Cells(m_file->rows->FillRows(), Count), u"1 5"_s);
+    QCOMPARE(m_errand->Text(0, Count), u"1"_s);
+    QCOMPARE(m_errand->Stored(Count), u"1 5"_s);
 }
 
 void RowsViewTest::deletingAsksWithNoAsDefault()
 {
-    OpenView();
+    m_errand->Open();
     QTest::keyClick(View(), Qt::Key_Delete);
-    Answer(QMessageBox::No);
-    QCOMPARE(Lines(), u"rice salt"_s);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_page->Trigger(Command::Delete);
-    Answer(QMessageBox::Yes);
-    QCOMPARE(Lines(), u"salt"_s);
-    QCOMPARE(m_file->Cells(m_file->rows->FillRows()), u"salt"_s);
+    QMessageBox* box = m_errand->Message();
+    QVERIFY(box != nullptr);
+    QCOMPARE(box->text(), u"Do you want to delete the selected row?"_s);
+    QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+    m_errand->Answer(QMessageBox::No);
+    QCOMPARE(m_errand->Lines(), u"rice salt"_s);
+    Page()->Trigger(Command::Delete);
+    m_errand->Answer(QMessageBox::Yes);
+    QCOMPARE(m_errand->Lines(), u"salt"_s);
+    QCOMPARE(m_errand->Stored(), u"salt"_s);
 }
 
 void RowsViewTest::aCopyOpensInTheEditor()
 {
-    OpenView();
-    m_page->Trigger(Command::CreateCopy);
-    QCOMPARE(m_stack->Top()->objectName(), u"rowEditor"_s);
-    QTest::mouseClick(m_stack->Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
-    QCOMPARE(Lines(), u"rice salt rice"_s);
+    m_errand->Open();
+    Page()->Trigger(Command::CreateCopy);
+    QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
+    QTest::mouseClick(Stack().Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
+    QCOMPARE(m_errand->Lines(), u"rice salt rice"_s);
     QCOMPARE(View()->currentIndex().row(), 2);
 }
 
 void RowsViewTest::ticksAreTappedInTheirSquareAlone()
 {
-    OpenView();
-    const auto isTicked = [this] {
-        return View()->model()->index(0, Bio).data(Qt::CheckStateRole).toInt() == Qt::Checked;
-    };
-    Tap(0, Bio, { 30, 0 });
-    Tap(0, Name);
-    QVERIFY(!isTicked());
-    Tap(0, Bio);
-    QVERIFY(isTicked());
-    Tap(0, Bio);
-    QVERIFY(!isTicked());
+    m_errand->Open();
+    m_errand->Tap(0, Bio, { 30, 0 });
+    m_errand->Tap(0, Name);
+    QVERIFY(!m_errand->IsTicked(0));
+    m_errand->Tap(0, Bio);
+    QVERIFY(m_errand->IsTicked(0));
+    m_errand->Tap(0, Bio);
+    QVERIFY(!m_errand->IsTicked(0));
 }
 
 void RowsViewTest::aDoubleTapTicksTheOnlyCheckbox()
 {
-    OpenView();
-    Tap(0, Shelf);
-    const QRect cell = View()->visualRect(View()->model()->index(0, Shelf));
-    QTest::mouseDClick(View()->viewport(), Qt::LeftButton, {}, cell.center());
-    QCOMPARE(View()->model()->index(0, Bio).data(Qt::CheckStateRole).toInt(), int { Qt::Checked });
-    QCOMPARE(m_stack->Top(), m_page);
+    m_errand->Open();
+    m_errand->DoubleTap(0, Shelf);
+    QVERIFY(m_errand->IsTicked(0));
+    QCOMPARE(Stack().Top(), Page());
+    // In the square it is two taps.
+    m_errand->DoubleTap(0, Bio);
+    QVERIFY(m_errand->IsTicked(0));
+    QTest::keyClick(View(), Qt::Key_Space);
+    QVERIFY(!m_errand->IsTicked(0));
+}
+
+void RowsViewTest::twoCheckboxesLeaveTheDoubleTapToTheEditor()
+{
+    InventoryList made = NewInventoryList();
+    made.Name = u"Tools"_s;
+    for (const quint16 number : std::initializer_list<quint16> { 10003, 10004 })
+        made.columns.push_back({ u"Box"_s, 0, MakePropertyId(number, CEVT_BOOL) });
+    File().OpenList(File().catalogue->CreateList(made).oid);
+    File().Add({ u"saw"_s, u"1"_s, u"Unchecked"_s, u"Unchecked"_s });
+    m_errand->Open();
+    m_errand->DoubleTap(0, Name);
+    QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
+    m_errand->PressOk();
+    // Space ticks the box that the arrows went to.
+    QTest::keyClick(View(), Qt::Key_Space);
+    QVERIFY(!m_errand->IsTicked(0, 2) && !m_errand->IsTicked(0, 3));
+    for (int column = Name; column < 3; ++column)
+        QTest::keyClick(View(), Qt::Key_Right);
+    QTest::keyClick(View(), Qt::Key_Space);
+    QVERIFY(!m_errand->IsTicked(0, 2) && m_errand->IsTicked(0, 3));
+}
+
+void RowsViewTest::aTapOnTheHeaderSorts_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("lines");
+    QTest::newRow("text") << int { Shelf } << u"d b a c"_s;
+    QTest::newRow("whole numbers") << int { Count } << u"b d a c"_s;
+    QTest::newRow("checkboxes") << int { Bio } << u"a b d c"_s;
+    QTest::newRow("prices") << int { Price } << u"c d b a"_s;
+    QTest::newRow("dates, the missing one first") << int { Bought } << u"b c a d"_s;
 }
 
 void RowsViewTest::aTapOnTheHeaderSorts()
 {
-    OpenView();
-    QHeaderView* header = View()->horizontalHeader();
-    const QPoint place(header->sectionViewportPosition(Price) + 20, header->height() / 2);
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
-    QCOMPARE(Lines(), u"salt rice"_s);
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
-    QCOMPARE(Lines(), u"salt rice"_s);
-    // The selection stays with its row.
-    QCOMPARE(View()->currentIndex().row(), 1);
+    QFETCH(int, column);
+    for (const ObjectId row : File().rows->FillRows())
+        File().rows->DeleteRow(row);
+    File().Add({ u"a"_s, u"9"_s, u"b"_s, u"Unchecked"_s, u"10"_s, u""_s, u"1/2/2026"_s });
+    File().Add({ u"b"_s, u"-3"_s, u"Z"_s, u"Unchecked"_s, u"9"_s, u""_s, u""_s });
+    File().Add({ u"c"_s, u"10"_s, u"c"_s, u"Checked"_s, u"-1"_s, u""_s, u"12/31/2025"_s });
+    File().Add({ u"d"_s, u"2"_s, u"A"_s, u"Unchecked"_s, u"8.99"_s, u""_s, u"1/3/2026"_s });
+    m_errand->Open();
+    View()->selectRow(3);
+    for (int taps = 0; taps < 2; ++taps) {
+        m_errand->TapHeader(column);
+        QTEST(m_errand->Lines(), "lines");
+        // The selection stays with its row.
+        QCOMPARE(m_errand->Text(View()->currentIndex().row(), Name), u"d"_s);
+    }
+}
+
+void RowsViewTest::deletingTheLastRowLeavesNothingToCommand()
+{
+    m_errand->Open();
+    for (int rows = 2; rows > 0; --rows) {
+        QTest::keyClick(View(), Qt::Key_Delete);
+        m_errand->Answer(QMessageBox::Yes);
+    }
+    QCOMPARE(m_errand->Lines(), QString());
+    for (const Command command : { Command::Modify, Command::CreateCopy, Command::Delete,
+             Command::AddOne, Command::SubtractOne })
+        QVERIFY(!Page()->ActionOf(command)->isEnabled());
+    QVERIFY(Page()->ActionOf(Command::New)->isEnabled());
+}
+
+void RowsViewTest::aHoldOpensTheMenuOfTheRow()
+{
+    m_errand->Open();
+    QTest::mouseClick(View()->viewport(), Qt::RightButton, {}, m_errand->Cell(1, Name).center());
+    QContextMenuEvent hold(
+        QContextMenuEvent::Mouse, m_errand->Cell(1, Name).center(), QPoint(), {});
+    QApplication::sendEvent(View()->viewport(), &hold);
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu != nullptr);
+    QStringList texts;
+    for (const QAction* action : menu->actions())
+        texts << action->text() + (action->isEnabled() ? u""_s : u"-"_s);
+    QCOMPARE(texts.join(u'|'), u"Add 1|Subtract 1||Modify...|Delete"_s);
+    menu->actions().front()->trigger();
+    QCOMPARE(m_errand->Stored(Count), u"0 6"_s);
 }
 
 void RowsViewTest::readOnlyLetsNothingChange()
 {
-    OpenView({ .isReadOnly = true });
+    m_errand->Open({ .isReadOnly = true });
     for (const Command command : { Command::New, Command::Modify, Command::CreateCopy,
              Command::Delete, Command::AddOne, Command::SubtractOne })
-        QVERIFY(!m_page->ActionOf(command)->isEnabled());
+        QVERIFY(!Page()->ActionOf(command)->isEnabled());
     QTest::keyClick(View(), Qt::Key_Plus);
-    Tap(0, Bio);
-    Tap(0, Name);
-    const QRect cell = View()->visualRect(View()->model()->index(0, Name));
-    QTest::mouseDClick(View()->viewport(), Qt::LeftButton, {}, cell.center());
-    QTest::mouseClick(View()->viewport(), Qt::RightButton, {}, cell.center());
+    m_errand->Tap(0, Bio);
+    m_errand->Tap(0, Name);
+    m_errand->DoubleTap(0, Name);
+    for (const auto key : { Qt::Key_Space, Qt::Key_Return, Qt::Key_Delete })
+        QTest::keyClick(View(), key);
+    QContextMenuEvent hold(
+        QContextMenuEvent::Mouse, m_errand->Cell(0, Name).center(), QPoint(), {});
+    QApplication::sendEvent(View()->viewport(), &hold);
     QVERIFY(QApplication::activePopupWidget() == nullptr);
-    QCOMPARE(m_stack->Top(), m_page);
-    QCOMPARE(m_file->Cells(m_file->rows->FillRows(), Count), u"0 5"_s);
+    QCOMPARE(Stack().Top(), Page());
+    QVERIFY(m_errand->Message() == nullptr);
+    QCOMPARE(m_errand->Stored(Count), u"0 5"_s);
+    QVERIFY(!m_errand->IsTicked(0));
+    QVERIFY(Page()->ActionOf(Command::Find)->isEnabled());
+}
+
+void RowsViewTest::columnsAreDraggedByTouch()
+{
+    static const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    m_errand->Open();
+    QHeaderView* header = View()->horizontalHeader();
+    const int y = header->height() / 2;
+    const QPoint from(header->sectionViewportPosition(Price) + 10, y);
+    const QPoint to(10, y);
+    QTest::touchEvent(header->viewport(), screen.get()).press(0, from);
+    for (int step = 1; step <= 8; ++step)
+        QTest::touchEvent(header->viewport(), screen.get()).move(0, from + (to - from) * step / 8);
+    QTest::touchEvent(header->viewport(), screen.get()).release(0, to);
+    QCOMPARE(header->visualIndex(Price), 0);
+    QCOMPARE(m_errand->Lines(), u"rice salt"_s);
 }
 
 void RowsViewTest::widthsAndOrderAreKept()
 {
-    OpenView();
+    m_errand->Open();
     QHeaderView* header = View()->horizontalHeader();
     const int usualCount = header->sectionSize(Count);
     const int usualBio = header->sectionSize(Bio);
     header->resizeSection(Price, 123);
     header->moveSection(header->visualIndex(Price), 0);
-    QTest::keyClick(m_page, Qt::Key_Escape);
-    QCOMPARE(m_file->list.columnOrder, (std::vector<quint32> { 4, 0, 1, 2, 3, 5, 6, 7 }));
-    QCOMPARE(m_file->list.TableColSizes.section(u',', Price, Price), u"123"_s);
+    QTest::keyClick(Page(), Qt::Key_Escape);
+    QCOMPARE(File().list.columnOrder, (std::vector<quint32> { 4, 0, 1, 2, 3, 5, 6, 7 }));
+    QCOMPARE(File().list.TableColSizes.section(u',', Price, Price), u"123"_s);
     // Widths that are missing or absurd are the usual ones.
-    m_file->list.TableColSizes = u"200,-5,x,99999999999,77"_s;
-    OpenView();
+    File().list.TableColSizes = u"200,-5,x,99999999999,77"_s;
+    m_errand->Open();
     header = View()->horizontalHeader();
     QCOMPARE(header->sectionSize(Name), 200);
     QCOMPARE(header->sectionSize(Count), usualCount);
@@ -275,12 +306,12 @@ void RowsViewTest::widthsAndOrderAreKept()
 
 void RowsViewTest::aVanishedRowShowsErr()
 {
-    OpenView();
-    const ObjectId row = m_file->rows->FillRows().front();
-    QVERIFY(m_file->rows->DeleteRow(row));
+    m_errand->Open();
+    const ObjectId row = File().rows->FillRows().front();
+    QVERIFY(File().rows->DeleteRow(row));
     QTest::keyClick(View(), Qt::Key_Plus);
-    OpenView();
-    RowsModel model(*m_file->rows, m_file->list, m_file->context);
+    m_errand->Open();
+    RowsModel model(*File().rows, File().list, File().context);
     model.SetRows({ row });
     QCOMPARE(model.index(0, Price).data().toString(), u"<Err>"_s);
     QCOMPARE(model.FactsOf(0).count, 0);

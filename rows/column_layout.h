@@ -1,0 +1,15 @@
+#pragma once
+
+class QHeaderView;
+
+namespace Quillory {
+
+struct InventoryList;
+
+/// Gives the sections of a rows view the widths and the order that the list stores. A width that is
+/// missing or absurd is the usual one of the column's type; an order that is none is passed over.
+void ApplyColumnLayout(QHeaderView& header, const InventoryList& list);
+/// Puts the widths and the order of the sections into the list's definition.
+void StoreColumnLayout(const QHeaderView& header, InventoryList& list);
+
+} // namespace Quillory

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "store/inventory_list.h"
+#include "values/value_text.h"
+
+#include <QObject>
+
+#include <optional>
+
+class QComboBox;
+class QKeyEvent;
+class QLineEdit;
+
+namespace Quillory {
+
+class DateField;
+
+/// The control that edits one field of a row in its place: a line of text, the two states of a
+/// checkbox, or a date. One of the three is shown at a time.
+class FieldControl : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The controls are children of `place`. `context` outlives this.
+    FieldControl(const ValueContext& context, QWidget* place);
+
+    /// Shows the control that fits the column with the value `text`, and gives it the keyboard.
+    /// `mayBeEmptied` is about dates: whether one that was set can be taken back.
+    void Open(const ColumnDefinition& column, const QString& text, bool mayBeEmptied);
+    void Place(const QRect& rect);
+    /// The control that is shown; null before the first Open.
+    [[nodiscard]] QWidget* Shown() const { return m_shown; }
+    /// The value as it stands in the control. What nobody touched comes back as it was given; so
+    /// does a date whose typed text names no day.
+    [[nodiscard]] QString Text() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// Another control of the window was given the keyboard.
+    void Left();
+    /// A key asked for the next field (1) or the previous one (-1).
+    void Stepped(int by);
+    /// Return was typed.
+    void Confirmed();
+
+private:
+    QLineEdit* m_edit;
+    QComboBox* m_box;
+    DateField* m_date;
+    QWidget* m_shown = nullptr;
+    QString m_startText;
+    /// What the line of text said when it was opened; a text longer than it holds is cut there.
+    QString m_startLine;
+    std::optional<QDate> m_startDate;
+    /// Shift went down, and no other key since.
+    bool m_isShiftAlone = false;
+    /// Shift was pressed and let go by itself, as an on-screen keyboard does to latch it.
+    bool m_isShiftLatched = false;
+
+    void Show(QWidget* control);
+    [[nodiscard]] bool HandleKey(const QKeyEvent& event);
+    [[nodiscard]] bool IsLeft(Qt::FocusReason reason) const;
+};
+
+} // namespace Quillory

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "store/inventory_list.h"
+#include "values/value_text.h"
+#include "widgets/page.h"
+
+#include <vector>
+
+class QStandardItemModel;
+class QTableView;
+
+namespace Quillory {
+
+class FieldControl;
+
+/// The fields of one row, a line each, edited in their places one at a time. Ends with Ok, or with
+/// CancelKey and nothing to be written.
+class RowEditor : public Page
+{
+    Q_OBJECT
+
+public:
+    /// `row` holds the values to start with; null for those of a new row. `list` and `context`
+    /// outlive the page.
+    RowEditor(const InventoryList& list, const Record* row, const ValueContext& context,
+        QWidget* parent = nullptr);
+
+    /// One text per column, in column order, what is being typed included.
+    [[nodiscard]] std::vector<QString> Texts() const;
+
+    void RequestEnd(PageResult result) override;
+    [[nodiscard]] bool HasUnsavedInput() const override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    const InventoryList& m_list;
+    std::vector<QString> m_startTexts;
+    QStandardItemModel* m_lines;
+    QTableView* m_view;
+    FieldControl* m_control;
+    /// The field being edited.
+    int m_current = 0;
+    bool m_isTapOffLines = false;
+
+    void BuildTable();
+    void BuildControl();
+    /// Puts what the control says into its line.
+    void Commit();
+    void Edit(int field);
+    void Step(int by);
+    void Confirm();
+    void PlaceControl();
+    void KeepInView();
+    [[nodiscard]] int LastField() const;
+};
+
+} // namespace Quillory

@@ -1,0 +1,337 @@
+#include "rows/row_editor.h"
+#include "tests/list_fixture.h"
+#include "widgets/page_stack.h"
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Fields of the fixture's list.
+enum Field
+{
+    Name,
+    Count,
+    Shelf,
+    Bio,
+    Price,
+    Size,
+    Bought,
+    Expiry,
+};
+
+} // namespace
+
+class RowEditorTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void aNewRowStartsWithItsDefaults();
+    void keysGoFromFieldToField();
+    void onlyALatchedShiftTurnsTabRound();
+    void anOpenDropDownKeepsItsKeys();
+    void aScannerFillsLineAfterLine();
+    void okWritesTheFields();
+    void onlyCancelLeavesTheRowAsItWas();
+    void dateTextsAreCommittedIfTheyNameADay_data();
+    void dateTextsAreCommittedIfTheyNameADay();
+    void aPickedDateIsCommitted();
+    void aDateOfANewRowCanBeTakenBack();
+    void losingTheKeyboardCommits();
+    void tapsChooseTheField();
+    void theControlStaysInViewWhenThePageShrinks();
+
+private:
+    std::unique_ptr<ListFixture> m_file;
+    std::unique_ptr<PageStack> m_stack;
+    RowEditor* m_page = nullptr;
+    std::optional<PageResult> m_result;
+
+    /// Opens the editor on a row; on a new one for kNoObject. Ok writes it.
+    void Open(ObjectId row)
+    {
+        m_stack = std::make_unique<PageStack>();
+        m_stack->Push(new Page(QString()));
+        const Record record = row == kNoObject ? Record {} : m_file->rows->ReadRow(row);
+        m_page = new RowEditor(m_file->list, row == kNoObject ? nullptr : &record, m_file->context);
+        m_stack->Push(m_page, [this, row](PageResult result) {
+            m_result = result;
+            if (result == PageResult::Ok && row == kNoObject)
+                m_file->rows->WriteNewRow(m_page->Texts());
+            else if (result == PageResult::Ok)
+                m_file->rows->ModifyRow(row, m_page->Texts());
+        });
+        m_stack->resize(360, 640);
+        m_stack->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_stack.get()));
+    }
+    [[nodiscard]] QTableView* View() const { return m_page->findChild<QTableView*>(); }
+    [[nodiscard]] QWidget* Focus() const { return QApplication::focusWidget(); }
+    [[nodiscard]] int Current() const { return View()->currentIndex().row(); }
+    [[nodiscard]] QString Shown(int field) const
+    {
+        return View()->model()->index(field, 1).data().toString();
+    }
+    void GoTo(int field) const
+    {
+        const QRect line = View()->visualRect(View()->model()->index(field, 0));
+        QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, line.center());
+    }
+    /// Types over what the current field holds.
+    void Type(const QString& text) const
+    {
+        auto* edit = qobject_cast<QLineEdit*>(Focus());
+        QVERIFY(edit != nullptr);
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Delete);
+        QTest::keyClicks(edit, text);
+    }
+    void PressOk() const
+    {
+        QTest::mouseClick(m_page->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
+    }
+};
+
+void RowEditorTest::init()
+{
+    m_file = std::make_unique<ListFixture>();
+    m_file->MakeFullList(u"Pantry"_s);
+    m_file->Add(
+        { u"rice"_s, u"2"_s, u"top"_s, u"Checked"_s, u"1234.5"_s, u"7"_s, u"3/1/2026"_s, u""_s });
+    m_result.reset();
+}
+
+void RowEditorTest::aNewRowStartsWithItsDefaults()
+{
+    Open(kNoObject);
+    QCOMPARE(m_page->Title(), u"Pantry"_s);
+    QCOMPARE(m_page->Texts(),
+        (std::vector { u""_s, u"0"_s, u""_s, u"Unchecked"_s, u"0.00"_s, u"0"_s, u""_s, u""_s }));
+    QCOMPARE(Current(), int { Name });
+    QCOMPARE(Focus()->objectName(), u"valueEdit"_s);
+    QCOMPARE(Focus()->accessibleName(), u"Name"_s);
+    QVERIFY(!m_page->HasUnsavedInput());
+    QTest::keyClicks(Focus(), u"x"_s);
+    QVERIFY(m_page->HasUnsavedInput());
+}
+
+void RowEditorTest::keysGoFromFieldToField()
+{
+    Open(m_file->rows->FillRows().front());
+    QTest::keyClick(Focus(), Qt::Key_Up);
+    QCOMPARE(Current(), int { Name });
+    QStringList controls;
+    for (const auto key : { Qt::Key_Down, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Tab, Qt::Key_Down,
+             Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down }) {
+        QTest::keyClick(Focus(), key);
+        controls << QString::number(Current()) + Focus()->objectName();
+    }
+    QCOMPARE(controls.join(u' '),
+        u"1valueEdit 2valueEdit 3valueBox 4valueEdit 5valueEdit 6dateEdit 7dateEdit 7dateEdit"_s);
+    for (int field = Bought; field >= Name; --field) {
+        QTest::keyClick(Focus(), Qt::Key_Up);
+        QCOMPARE(Current(), field);
+    }
+    QVERIFY(!m_page->HasUnsavedInput());
+}
+
+void RowEditorTest::onlyALatchedShiftTurnsTabRound()
+{
+    Open(kNoObject);
+    QTest::keyClick(Focus(), Qt::Key_Down);
+    QTest::keyClick(Focus(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(Current(), int { Shelf });
+    QTest::keyClick(Focus(), Qt::Key_Shift);
+    QTest::keyClick(Focus(), Qt::Key_Tab);
+    QCOMPARE(Current(), int { Count });
+    // Latched and let go again, or used up by a letter.
+    QTest::keyClick(Focus(), Qt::Key_Shift);
+    QTest::keyClick(Focus(), Qt::Key_Shift);
+    QTest::keyClick(Focus(), Qt::Key_Tab);
+    QCOMPARE(Current(), int { Shelf });
+    QTest::keyPress(Focus(), Qt::Key_Shift);
+    QTest::keyClick(Focus(), 'A', Qt::ShiftModifier);
+    QTest::keyRelease(Focus(), Qt::Key_Shift);
+    QTest::keyClick(Focus(), Qt::Key_Tab);
+    QCOMPARE(Current(), int { Bio });
+    QCOMPARE(Shown(Shelf), u"A"_s);
+}
+
+void RowEditorTest::anOpenDropDownKeepsItsKeys()
+{
+    Open(m_file->rows->FillRows().front());
+    GoTo(Bio);
+    auto* box = qobject_cast<QComboBox*>(Focus());
+    QVERIFY(box != nullptr);
+    QCOMPARE(box->currentText(), u"Checked"_s);
+    box->showPopup();
+    QTest::keyClick(box, Qt::Key_Down);
+    QCOMPARE(Current(), int { Bio });
+    box->hidePopup();
+    box->setCurrentIndex(0);
+    QTest::keyClick(box, Qt::Key_Down);
+    QCOMPARE(Current(), int { Price });
+    QCOMPARE(Shown(Bio), u"Unchecked"_s);
+}
+
+void RowEditorTest::aScannerFillsLineAfterLine()
+{
+    Open(kNoObject);
+    QTest::keyClicks(Focus(), u"4006381333931"_s);
+    QTest::keyClick(Focus(), Qt::Key_Return);
+    QTest::keyClicks(Focus(), u"3"_s);
+    for (int field = Count; field < Expiry; ++field)
+        QTest::keyClick(Focus(), Qt::Key_Enter);
+    QCOMPARE(m_stack->Top(), m_page);
+    QTest::keyClick(Focus(), Qt::Key_Return);
+    QCOMPARE(m_result, PageResult::Ok);
+    const auto rows = m_file->rows->FillRows();
+    QCOMPARE(m_file->Cells(rows), u"4006381333931 rice"_s);
+    QCOMPARE(m_file->Cells(rows, Count), u"3 2"_s);
+}
+
+void RowEditorTest::okWritesTheFields()
+{
+    const auto rows = m_file->rows->FillRows();
+    Open(rows.front());
+    // Every comma is read as a point, also one that parts thousands.
+    QCOMPARE(Shown(Price), u"1,234.50"_s);
+    Type(u"brown rice"_s);
+    GoTo(Bio);
+    QTest::keyClick(Focus(), Qt::Key_U);
+    PressOk();
+    QCOMPARE(m_result, PageResult::Ok);
+    const Record row = m_file->rows->ReadRow(rows.front());
+    QCOMPARE(m_file->Cells(rows), u"brown rice"_s);
+    QCOMPARE(m_file->Cells(rows, Price), u"1.23"_s);
+    QCOMPARE(m_file->Cells(rows, Bought), u"3/1/2026"_s);
+    QCOMPARE(FindProperty(row.values, m_file->Column(Bio))->value, PropertyVariant(false));
+    QCOMPARE(FindProperty(row.values, m_file->Column(Expiry)), nullptr);
+}
+
+void RowEditorTest::onlyCancelLeavesTheRowAsItWas()
+{
+    for (const bool isKey : { true, false }) {
+        Open(m_file->rows->FillRows().front());
+        Type(u"salt"_s);
+        QTest::keyClick(Focus(), Qt::Key_Down);
+        if (isKey)
+            QTest::mouseClick(m_page->findChild<QWidget*>(u"leftKey"_s), Qt::LeftButton);
+        else
+            QTest::keyClick(Focus(), Qt::Key_Escape);
+        QCOMPARE(m_result, PageResult::CancelKey);
+        QCOMPARE(m_file->Cells(m_file->rows->FillRows()), u"rice"_s);
+    }
+}
+
+void RowEditorTest::dateTextsAreCommittedIfTheyNameADay_data()
+{
+    QTest::addColumn<int>("field");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("a day over a day") << int { Bought } << u"2 April 2027"_s << u"4/2/2027"_s;
+    QTest::newRow("30 February over a day") << int { Bought } << u"2/30/2026"_s << u"3/1/2026"_s;
+    QTest::newRow("nothing over a day") << int { Bought } << u""_s << u"3/1/2026"_s;
+    QTest::newRow("a day over nothing") << int { Expiry } << u"4/2/2027"_s << u"4/2/2027"_s;
+    QTest::newRow("30 February over nothing") << int { Expiry } << u"2/30/2026"_s << u""_s;
+    QTest::newRow("nothing over nothing") << int { Expiry } << u""_s << u""_s;
+}
+
+void RowEditorTest::dateTextsAreCommittedIfTheyNameADay()
+{
+    QFETCH(int, field);
+    QFETCH(QString, typed);
+    QFETCH(QString, shown);
+    const auto rows = m_file->rows->FillRows();
+    Open(rows.front());
+    GoTo(field);
+    Type(typed);
+    GoTo(Name);
+    QCOMPARE(Shown(field), shown);
+    PressOk();
+    QCOMPARE(m_file->Cells(rows, field), shown);
+}
+
+void RowEditorTest::aPickedDateIsCommitted()
+{
+    Open(kNoObject);
+    GoTo(Bought);
+    QTest::keyClick(Focus(), Qt::Key_F4);
+    auto* days = m_page->findChild<QCalendarWidget*>()->findChild<QTableView*>();
+    // Today is where it starts, and picking nothing commits nothing.
+    QTest::keyClick(days, Qt::Key_Escape);
+    QTRY_COMPARE(m_page->findChild<QCalendarWidget*>(), nullptr);
+    QCOMPARE(m_page->Texts()[Bought], QString());
+    m_stack->activateWindow();
+    QTRY_COMPARE(Focus(), m_page->findChild<QWidget*>(u"dateEdit"_s));
+    QTest::keyClick(Focus(), Qt::Key_F4);
+    days = m_page->findChild<QCalendarWidget*>()->findChild<QTableView*>();
+    QTest::keyClick(days, Qt::Key_Return);
+    QCOMPARE(m_page->Texts()[Bought], u"6/15/2026"_s);
+}
+
+void RowEditorTest::aDateOfANewRowCanBeTakenBack()
+{
+    Open(kNoObject);
+    GoTo(Expiry);
+    Type(u"4/2/2027"_s);
+    GoTo(Name);
+    QCOMPARE(Shown(Expiry), u"4/2/2027"_s);
+    GoTo(Expiry);
+    Type(u""_s);
+    GoTo(Name);
+    QCOMPARE(Shown(Expiry), QString());
+    QVERIFY(!m_page->HasUnsavedInput());
+}
+
+void RowEditorTest::losingTheKeyboardCommits()
+{
+    Open(m_file->rows->FillRows().front());
+    Type(u"salt"_s);
+    QFocusEvent deactivated(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(Focus(), &deactivated);
+    QCOMPARE(Shown(Name), u"rice"_s);
+    m_page->findChild<QWidget*>(u"ok"_s)->setFocus();
+    QCOMPARE(Shown(Name), u"salt"_s);
+    QVERIFY(m_page->findChild<QWidget*>(u"valueEdit"_s)->isVisible());
+}
+
+void RowEditorTest::tapsChooseTheField()
+{
+    Open(m_file->rows->FillRows().front());
+    Type(u"salt"_s);
+    GoTo(Size);
+    QCOMPARE(Current(), int { Size });
+    QCOMPARE(Shown(Name), u"salt"_s);
+    Type(u"8"_s);
+    const QPoint belowLines(20, View()->viewport()->height() - 4);
+    QVERIFY(!View()->indexAt(belowLines).isValid());
+    QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, belowLines);
+    QCOMPARE(Current(), int { Name });
+    QCOMPARE(Shown(Size), u"8"_s);
+}
+
+void RowEditorTest::theControlStaysInViewWhenThePageShrinks()
+{
+    Open(m_file->rows->FillRows().front());
+    GoTo(Expiry);
+    m_stack->resize(360, 240);
+    const auto place = [this] {
+        const QWidget* control = m_page->findChild<QWidget*>(u"datePicker"_s);
+        return QRect(control->mapTo(View()->viewport(), QPoint()), control->size());
+    };
+    QTRY_VERIFY(View()->viewport()->rect().contains(place()));
+    QVERIFY(View()->visualRect(View()->model()->index(Expiry, 1)).contains(place()));
+}
+
+QTEST_MAIN(RowEditorTest)
+#include "row_editor_test.moc"
