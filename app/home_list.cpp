@@ -133,6 +133,11 @@ void HomeList::RemoveLine(ObjectId oid)
     m_model->Remove(oid);
 }
 
+bool HomeList::Has(ObjectId oid) const
+{
+    return m_model->Find(oid).isValid();
+}
+
 void HomeList::Select(ObjectId oid)
 {
     const QModelIndex index = m_model->Find(oid);

@@ -21,6 +21,7 @@ public:
     void AddLine(const ListCatalogue::HomeListEntry& list);
     void UpdateLine(const ListCatalogue::HomeListEntry& list);
     void RemoveLine(ObjectId oid);
+    [[nodiscard]] bool Has(ObjectId oid) const;
     void Select(ObjectId oid);
     void SetRenamer(HomeListModel::Renamer renamer);
 

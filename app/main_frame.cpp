@@ -78,6 +78,8 @@ MainFrame::MainFrame(Settings settings, const QString& settingsPath, QWidget* pa
     RestoreWindow();
     // On every page, not on the home list alone.
     connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
+        &MainFrame::UndoDeletion);
 }
 
 MainFrame::~MainFrame()
@@ -167,6 +169,9 @@ void MainFrame::EndOpening(DataFileOpener::Outcome outcome)
     m_home->Fill(m_catalogue.FillHomeList());
     m_home->FocusLines();
     UpdateCommands();
+    // What a program that was killed had kept aside; once the lists are on the screen.
+    QMetaObject::invokeMethod(
+        this, [this] { m_catalogue.PurgeDeleted(); }, Qt::QueuedConnection);
     if (!m_wantedList.isEmpty() && OpenNamedList(m_wantedList) == StartAnswer::UnknownList)
         NoteUnknownList(m_wantedList);
 }

@@ -4,8 +4,7 @@
 #include "app/landscape_shape.h"
 #include "app/settings.h"
 #include "app/single_instance.h"
-#include "store/list_catalogue.h"
-#include "store/row_store.h"
+#include "store/last_deletion.h"
 #include "transfer/text_import.h"
 #include "values/value_text.h"
 #include "widgets/page_stack.h"
@@ -54,6 +53,7 @@ private:
     ValueContext m_context;
     DataVolume m_volume;
     ListCatalogue m_catalogue { m_volume };
+    LastDeletion m_deletion { m_catalogue };
     FileChooser m_chooser;
     std::unique_ptr<DataFileOpener> m_opener;
     /// The list to open once the data file is.
@@ -95,6 +95,10 @@ private:
     void RenameList();
     void DeleteList();
     void DeleteAllRecords();
+    [[nodiscard]] bool DeleteRow(ObjectId row);
+    void OfferUndo(const QString& text);
+    void UndoDeletion();
+    void ShowRestored(const LastDeletion::Restored& restored);
     void ShowOptions();
     void ImportList();
     void ChooseImportOrder(const QString& path);

@@ -3,6 +3,7 @@
 #include "listdef/list_sheet.h"
 #include "res/string_table.h"
 #include "rows/rows_view.h"
+#include "values/column_type.h"
 #include "widgets/message_box.h"
 #include "widgets/wait_cursor.h"
 
@@ -44,6 +45,7 @@ void MainFrame::OpenList(ObjectId oid)
     const RowsViewOptions options { m_settings.Options.test(kReadOnlyOption),
         m_settings.Options.test(kAlternateColourOption) };
     auto* view = new RowsView(*m_rows, m_list, m_context, options);
+    view->SetRowDeleter([this](ObjectId row) { return DeleteRow(row); });
     m_pages->Push(view, [this](PageResult) { CloseList(); });
 }
 
@@ -111,8 +113,10 @@ void MainFrame::DeleteList()
     const ObjectId oid = m_home->SelectedList();
     ShowMessage(this, FillIn(LoadString(StringId::DeleteListQuestion), m_home->SelectedName()),
         MessageIcon::Exclamation, MessageButtons::YesNo, [this, oid](MessageAnswer answer) {
-            if (answer == MessageAnswer::Yes && m_catalogue.DeleteList(oid))
-                m_home->RemoveLine(oid);
+            if (answer != MessageAnswer::Yes || !m_deletion.DeleteList(oid))
+                return;
+            OfferUndo(tr("The list '%1' was deleted.").arg(m_home->SelectedName()));
+            m_home->RemoveLine(oid);
         });
 }
 
@@ -121,10 +125,58 @@ void MainFrame::DeleteAllRecords()
     const ObjectId oid = m_home->SelectedList();
     ShowMessage(this, FillIn(LoadString(StringId::DeleteAllRowsQuestion), m_home->SelectedName()),
         MessageIcon::Exclamation, MessageButtons::YesNo, [this, oid](MessageAnswer answer) {
-            if (answer == MessageAnswer::Yes
-                && m_catalogue.DeleteAllRows(oid) == ListCatalogue::EmptyOutcome::CannotCreateRows)
+            if (answer != MessageAnswer::Yes)
+                return;
+            const auto outcome = m_deletion.DeleteAllRows(oid);
+            if (outcome == ListCatalogue::EmptyOutcome::CannotCreateRows)
                 TellStop(LoadText(Text::CannotCreateUserDatabase));
+            else if (outcome == ListCatalogue::EmptyOutcome::Done)
+                OfferUndo(tr("All rows of '%1' were deleted.").arg(m_home->SelectedName()));
         });
+}
+
+bool MainFrame::DeleteRow(ObjectId row)
+{
+    const QString name = m_rows->FormatCellText(PropName, row);
+    if (!m_deletion.DeleteRow(m_openList, *m_rows, row))
+        return false;
+    OfferUndo(tr("'%1' was deleted.").arg(name));
+    return true;
+}
+
+void MainFrame::OfferUndo(const QString& text)
+{
+    m_pages->Top()->OfferUndo(text, [this] { UndoDeletion(); });
+}
+
+void MainFrame::UndoDeletion()
+{
+    // Elsewhere nobody could see what comes back.
+    const bool isHome = m_pages->Top() == m_home;
+    const bool isRows = qobject_cast<RowsView*>(m_pages->Top()) != nullptr;
+    if (!isHome && !(isRows && m_deletion.CanUndoIn(m_openList)))
+        return;
+    m_pages->Top()->WithdrawUndo();
+    if (const auto restored = m_deletion.Undo())
+        ShowRestored(*restored);
+}
+
+void MainFrame::ShowRestored(const LastDeletion::Restored& restored)
+{
+    if (auto* view = qobject_cast<RowsView*>(m_pages->Top())) {
+        if (restored.row != kNoObject)
+            return view->ShowRestored(restored.row);
+        // All rows came back, and with them another database in the place of the open one.
+        InventoryList reopened;
+        if (m_catalogue.OpenList(restored.list, reopened))
+            view->Fill();
+        return;
+    }
+    InventoryList list;
+    if (m_home->Has(restored.list))
+        m_home->Select(restored.list);
+    else if (m_catalogue.ReadListHeader(restored.list, list))
+        m_home->AddLine({ restored.list, list.Name, list.TableIcon });
 }
 
 void MainFrame::TellStop(const QString& text, const std::function<void()>& then)

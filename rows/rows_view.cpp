@@ -34,6 +34,7 @@ RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& cont
     , m_list(list)
     , m_context(context)
     , m_options(options)
+    , m_deleter([this](ObjectId row) { return m_store.DeleteRow(row); })
     , m_model(new RowsModel(rows, list, context, this))
     , m_view(new QTableView(this))
 {
@@ -244,9 +245,19 @@ void RowsView::DeleteRow()
     ShowMessage(this, LoadString(StringId::DeleteRowQuestion), MessageIcon::Exclamation,
         MessageButtons::YesNo, [page = QPointer(this), line](MessageAnswer answer) {
             if (page != nullptr && answer == MessageAnswer::Yes
-                && page->m_store.DeleteRow(page->m_model->RowAt(line)))
+                && page->m_deleter(page->m_model->RowAt(line)))
                 page->m_model->Remove(line);
         });
+}
+
+void RowsView::SetRowDeleter(RowDeleter deleter)
+{
+    m_deleter = std::move(deleter);
+}
+
+void RowsView::ShowRestored(ObjectId row)
+{
+    Select(m_model->Append(row));
 }
 
 void RowsView::AdjustCount(qint32 step)

@@ -31,6 +31,16 @@ public:
     RowsView(RowStore& rows, InventoryList& list, const ValueContext& context,
         const RowsViewOptions& options, QWidget* parent = nullptr);
 
+    /// Deletes a row; true if it did.
+    using RowDeleter = std::function<bool(ObjectId row)>;
+    /// Who deletes rows; the store itself unless told otherwise.
+    void SetRowDeleter(RowDeleter deleter);
+    /// Adds a line for a row that came back, and selects it.
+    void ShowRestored(ObjectId row);
+    /// Shows the rows that meet the criteria, the selected one selected again if it is among them,
+    /// else the first.
+    void Fill();
+
     void RequestEnd(PageResult result) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -39,6 +49,7 @@ private:
     InventoryList& m_list;
     const ValueContext& m_context;
     RowsViewOptions m_options;
+    RowDeleter m_deleter;
     RowsModel* m_model;
     QTableView* m_view;
     /// The criteria of the rows shown; none once filters were cleared, as at first.
@@ -49,9 +60,6 @@ private:
 
     void BuildTable();
     void BuildCommands();
-    /// Shows the rows that meet the criteria, the selected one selected again if it is among them,
-    /// else the first.
-    void Fill();
     void TellNothingFound();
 
     void Run(Command command);

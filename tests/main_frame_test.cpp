@@ -147,6 +147,8 @@ private Q_SLOTS:
     void anImportAsksForTheOrderAndShowsTheRows();
     void aFailedImportIsToldAndTheListOpened();
     void closingAsksBeforeInputIsLost();
+    void aDeletedListComesBack();
+    void aDeletedRowComesBack();
     void helpOpensAtThePageItWasAskedFrom();
 };
 
@@ -457,6 +459,53 @@ void MainFrameTest::closingAsksBeforeInputIsLost()
     QVERIFY(!errand.frame->close());
     errand.Answer(QMessageBox::Yes);
     QVERIFY(!errand.frame->isVisible());
+}
+
+void MainFrameTest::aDeletedListComesBack()
+{
+    Errand errand;
+    errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
+    errand.Start();
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    auto* bar = errand.home->findChild<QWidget*>(u"undoBar"_s);
+    QVERIFY(bar->isVisible());
+    QTest::mouseClick(bar->findChild<QWidget*>(u"undo"_s), Qt::LeftButton);
+    QVERIFY(!bar->isVisible());
+    QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
+    QCOMPARE(errand.home->SelectedName(), u"Attic"_s);
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    QTest::keyClick(errand.view, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
+    errand.Restart();
+    QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
+}
+
+void MainFrameTest::aDeletedRowComesBack()
+{
+    Errand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    errand.Start();
+    errand.Import("Tea\t3\r\nSalt\t5\r\n");
+    errand.pages->Top()->End(PageResult::Ok);
+    Page* rows = errand.pages->Top();
+    auto* table = rows->findChild<QTableView*>();
+    rows->Trigger(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    QCOMPARE(table->model()->rowCount(), 1);
+    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(table->model()->rowCount(), 2);
+    QCOMPARE(table->currentIndex().data().toString(), u"Salt"_s);
+    // All of them, deleted from outside the list and brought back inside it.
+    rows->RequestEnd(PageResult::Ok);
+    errand.Choose(Command::DeleteAllRecords);
+    errand.Answer(QMessageBox::Yes);
+    errand.Tap(0);
+    table = errand.pages->Top()->findChild<QTableView*>();
+    QCOMPARE(table->model()->rowCount(), 0);
+    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(table->model()->rowCount(), 2);
 }
 
 void MainFrameTest::helpOpensAtThePageItWasAskedFrom()

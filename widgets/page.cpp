@@ -1,6 +1,7 @@
 #include "widgets/page.h"
 
 #include "widgets/measures.h"
+#include "widgets/undo_bar.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -61,6 +62,8 @@ Page::Page(const QString& title, QWidget* parent)
     m_body->setContentsMargins(0, 0, 0, 0);
     m_body->setSpacing(0);
     layout->addLayout(m_body, 1);
+    m_undoBar = new UndoBar(this);
+    layout->addWidget(m_undoBar);
     m_softKeys = new QWidget(this);
     m_softKeys->setAttribute(Qt::WA_StyledBackground);
     m_softKeys->setObjectName(u"softKeys"_s);
@@ -226,6 +229,16 @@ void Page::OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& glo
     menu->setAttribute(Qt::WA_DeleteOnClose);
     FillMenu(menu, entries);
     menu->popup(globalPosition);
+}
+
+void Page::OfferUndo(const QString& text, std::function<void()> undo)
+{
+    m_undoBar->Offer(text, std::move(undo));
+}
+
+void Page::WithdrawUndo()
+{
+    m_undoBar->hide();
 }
 
 void Page::End(PageResult result)

@@ -15,6 +15,7 @@ class QVBoxLayout;
 namespace Quillory {
 
 class PageStack;
+class UndoBar;
 
 /// How a page ended.
 enum class PageResult
@@ -55,6 +56,10 @@ public:
     /// Opens a menu of these entries at a place on the screen; the actions are those of the page.
     void OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& globalPosition);
 
+    /// Says at the bottom what was deleted and offers to undo it, for some seconds.
+    void OfferUndo(const QString& text, std::function<void()> undo);
+    void WithdrawUndo();
+
     /// Ends the page with a result: the stack takes it away and calls the opener back.
     void End(PageResult result);
 
@@ -85,6 +90,7 @@ private:
     QLabel* m_title = nullptr;
     QPushButton* m_ok = nullptr;
     QToolButton* m_help = nullptr;
+    UndoBar* m_undoBar = nullptr;
     QWidget* m_softKeys = nullptr;
     QString m_helpAnchor;
 
