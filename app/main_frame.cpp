@@ -72,6 +72,13 @@ MainFrame::MainFrame(Settings settings, const QString& settingsPath, QWidget* pa
             { LoadText(Text::InventoryDatabase), u"idb"_s, u"Quillory.idb"_s }, then);
     };
 
+    m_volume.SetWriteFailureListener([this](ErrorNumber error) {
+        if (m_writeFailure != ErrorNumber::None)
+            return;
+        m_writeFailure = error;
+        // Not from inside the operation that failed.
+        QMetaObject::invokeMethod(this, &MainFrame::TellWriteFailure, Qt::QueuedConnection);
+    });
     setCentralWidget(m_pages);
     ApplyWindowStyle(this);
     BuildHome();
@@ -242,6 +249,33 @@ void MainFrame::closeEvent(QCloseEvent* event)
         WriteSettings(m_settingsPath, m_settings);
     }
     event->accept();
+}
+
+void MainFrame::TellWriteFailure()
+{
+    if (m_writeFailure == ErrorNumber::None)
+        return;
+    ShowMessage(this,
+        tr("The change could not be saved. Error: %1\n\nTap Retry to open the data file again.")
+            .arg(static_cast<quint32>(m_writeFailure)),
+        MessageIcon::Stop, MessageButtons::RetryCancel, [this](MessageAnswer answer) {
+            m_writeFailure = ErrorNumber::None;
+            if (answer == MessageAnswer::Retry)
+                ReopenDataFile();
+        });
+}
+
+void MainFrame::ReopenDataFile()
+{
+    // What the pages would still store on their way out could not be stored either.
+    m_volume.Unmount();
+    if (!CloseAllPages()) {
+        AskToDiscardInput();
+        return;
+    }
+    m_isDataFileOpen = false;
+    UpdateCommands();
+    OpenDataFile({});
 }
 
 void MainFrame::ToggleReadOnly()

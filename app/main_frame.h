@@ -59,6 +59,8 @@ private:
     /// The list to open once the data file is.
     QString m_wantedList;
     bool m_isDataFileOpen = false;
+    /// A failed write that the person has not been told of yet.
+    ErrorNumber m_writeFailure = ErrorNumber::None;
     bool m_savesSettings = false;
 
     /// The list that is open, and its rows.
@@ -106,6 +108,8 @@ private:
     void EndImport(const ImportOutcome& outcome);
     void ExportList();
     void ExportTo(const QString& path);
+    void TellWriteFailure();
+    void ReopenDataFile();
     void TellStop(const QString& text, const std::function<void()>& then = {});
     void ToggleReadOnly();
     void ShowAbout();

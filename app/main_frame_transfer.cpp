@@ -47,6 +47,8 @@ void MainFrame::ImportFrom(const QString& path, const std::vector<PropertyId>& o
                 return progress.Show(done.bytesRead, done.bytesTotal);
             });
     }
+    // The import tells of it itself.
+    m_writeFailure = ErrorNumber::None;
     EndImport(outcome);
 }
 

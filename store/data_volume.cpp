@@ -6,6 +6,27 @@
 
 namespace Quillory {
 
+namespace {
+
+bool LiesWithMedium(ErrorNumber error)
+{
+    switch (error) {
+    case ErrorNumber::None:
+    case ErrorNumber::InvalidData:
+    case ErrorNumber::DuplicateName:
+    case ErrorNumber::InvalidParameter:
+    case ErrorNumber::InvalidName:
+    case ErrorNumber::AlreadyExists:
+    case ErrorNumber::NameTooLong:
+    case ErrorNumber::NotFound:
+        return false;
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
 DataVolume::DataVolume() = default;
 
 DataVolume::~DataVolume()
@@ -18,6 +39,14 @@ template <typename T> bool DataVolume::Note(const Result<T>& result)
     if (!result)
         m_lastError = result.Error();
     return result.IsOk();
+}
+
+template <typename T> bool DataVolume::NoteWrite(const Result<T>& result)
+{
+    const bool isDone = Note(result);
+    if (!isDone && m_writeFailureListener && LiesWithMedium(result.Error()))
+        m_writeFailureListener(result.Error());
+    return isDone;
 }
 
 Database* DataVolume::Find(DatabaseType type)
@@ -87,7 +116,7 @@ ObjectId DataVolume::Create(const QString& name, DatabaseType type,
     if (m_volume == nullptr)
         return kNoObject;
     const auto created = m_volume->CreateDatabase(name, type, specs, sortOrders);
-    return Note(created) ? *created : kNoObject;
+    return NoteWrite(created) ? *created : kNoObject;
 }
 
 bool DataVolume::Open(const QString& name, DatabaseType type, const SortOrder& sortOrder,
@@ -196,13 +225,13 @@ ObjectId DataVolume::Write(DatabaseType type, ObjectId oid, std::span<const Prop
     if (database == nullptr)
         return kNoObject;
     const auto written = database->Write(oid, values);
-    return Note(written) ? *written : kNoObject;
+    return NoteWrite(written) ? *written : kNoObject;
 }
 
 bool DataVolume::DeleteRecord(DatabaseType type, ObjectId oid)
 {
     Database* database = Find(type);
-    return database != nullptr && Note(database->DeleteRecord(oid));
+    return database != nullptr && NoteWrite(database->DeleteRecord(oid));
 }
 
 QString DataVolume::DatabaseName(ObjectId oid)
@@ -219,12 +248,12 @@ QString DataVolume::DatabaseName(ObjectId oid)
 
 bool DataVolume::RenameDatabase(ObjectId oid, const QString& name, DatabaseType type)
 {
-    return m_volume != nullptr && Note(m_volume->RenameDatabase(oid, name, type));
+    return m_volume != nullptr && NoteWrite(m_volume->RenameDatabase(oid, name, type));
 }
 
 bool DataVolume::DeleteDatabase(ObjectId oid)
 {
-    return m_volume != nullptr && Note(m_volume->DeleteDatabase(oid));
+    return m_volume != nullptr && NoteWrite(m_volume->DeleteDatabase(oid));
 }
 
 bool DataVolume::BeginTransaction()
@@ -233,12 +262,17 @@ bool DataVolume::BeginTransaction()
         m_lastError = ErrorNumber::InvalidHandle;
         return false;
     }
-    return Note(m_volume->BeginTransaction());
+    return NoteWrite(m_volume->BeginTransaction());
 }
 
 bool DataVolume::EndTransaction(bool commit)
 {
-    return m_volume != nullptr && Note(m_volume->EndTransaction(commit));
+    return m_volume != nullptr && NoteWrite(m_volume->EndTransaction(commit));
+}
+
+void DataVolume::SetWriteFailureListener(WriteFailureListener listener)
+{
+    m_writeFailureListener = std::move(listener);
 }
 
 Database* DataVolume::OpenDatabase(DatabaseType type)

@@ -4,6 +4,7 @@
 #include "propdb/result.h"
 #include "propdb/volume.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -97,6 +98,11 @@ public:
     /// The number of the latest failure.
     [[nodiscard]] ErrorNumber LastError() const { return m_lastError; }
 
+    /// Told of each write that failed for a reason that lies with the file or its medium, not with
+    /// what was to be written: the medium is full, gone, protected, the file was replaced.
+    using WriteFailureListener = std::function<void(ErrorNumber)>;
+    void SetWriteFailureListener(WriteFailureListener listener);
+
 private:
     struct OpenEntry
     {
@@ -108,8 +114,11 @@ private:
     std::map<DatabaseType, OpenEntry> m_open;
     bool m_hasSession = false;
     ErrorNumber m_lastError = ErrorNumber::None;
+    WriteFailureListener m_writeFailureListener;
 
     template <typename T> bool Note(const Result<T>& result);
+    /// As Note(), for an operation that writes.
+    template <typename T> bool NoteWrite(const Result<T>& result);
     Database* Find(DatabaseType type);
 };
 

@@ -149,6 +149,7 @@ private Q_SLOTS:
     void closingAsksBeforeInputIsLost();
     void aDeletedListComesBack();
     void aDeletedRowComesBack();
+    void aFailedWriteIsToldOnceAndWorkGoesOn();
     void helpOpensAtThePageItWasAskedFrom();
 };
 
@@ -506,6 +507,30 @@ void MainFrameTest::aDeletedRowComesBack()
     QCOMPARE(table->model()->rowCount(), 0);
     QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(table->model()->rowCount(), 2);
+}
+
+void MainFrameTest::aFailedWriteIsToldOnceAndWorkGoesOn()
+{
+    Errand errand;
+    errand.MakeLists({ u"Attic"_s });
+    errand.Start();
+    const QString away = errand.DataPath() + u".away"_s;
+    // As when the card is pulled out, and put back.
+    QVERIFY(QFile::rename(errand.DataPath(), away));
+    errand.Tap(0);
+    QTest::keyClick(errand.pages->Top(), Qt::Key_Escape);
+    errand.Answer(QMessageBox::Cancel);
+    QCOMPARE(errand.Lines(), u"Attic"_s);
+    errand.Tap(0);
+    QTest::keyClick(errand.pages->Top(), Qt::Key_Escape);
+    QVERIFY(QFile::rename(away, errand.DataPath()));
+    errand.Answer(QMessageBox::Retry);
+    QVERIFY(errand.question.contains(u"could not be saved"_s));
+    QCOMPARE(errand.Lines(), u"Attic"_s);
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    errand.Restart();
+    QCOMPARE(errand.Lines(), QString());
 }
 
 void MainFrameTest::helpOpensAtThePageItWasAskedFrom()
