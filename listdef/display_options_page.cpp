@@ -34,7 +34,7 @@ DisplayOptionsPage::DisplayOptionsPage(const DisplayOptions& options, QWidget* p
     for (QRadioButton* radio : { m_rightHanded, m_leftHanded }) {
         radio->setMinimumHeight(CurrentMeasures().lineHeight);
         auto* line = new QHBoxLayout;
-        line->setContentsMargins(kCheckIndent, 0, 0, 0);
+        line->setContentsMargins(kPageMargin, 0, 0, 0);
         line->addWidget(radio);
         lines->addLayout(line);
     }

@@ -55,6 +55,7 @@ void Form::AddLine(const QString& label, QWidget* control)
 {
     control->setAccessibleName(label);
     control->setMinimumHeight(CurrentMeasures().lineHeight);
+    control->setMaximumWidth(kMaxFieldWidth);
     control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* text = new QLabel(label, control->parentWidget());
     text->setMinimumHeight(CurrentMeasures().lineHeight);
@@ -80,6 +81,7 @@ QWidget* MakeScrollable(QWidget* content)
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    content->setMaximumWidth(kMaxFormWidth);
     area->setWidget(content);
     area->setFocusProxy(content);
     QScroller::grabGesture(area->viewport(), QScroller::TouchGesture);

@@ -21,6 +21,9 @@ constexpr int kNarrowMargin = 8;
 constexpr int kNarrowPage = 300;
 /// The least height of what a finger is to hit.
 constexpr int kMinTouchTarget = 44;
+/// Wider than this neither a field nor a page of fields is good to read.
+constexpr int kMaxFieldWidth = 480;
+constexpr int kMaxFormWidth = 640;
 constexpr int kMinTextPixels = 13;
 
 /// The measures for the devices at hand: touch where there is a touch screen.
