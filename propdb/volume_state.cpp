@@ -133,6 +133,7 @@ Result<void> VolumeState::Commit()
     }
     isNextOidStored = true;
     isSchemaChanged = false;
+    hasCommitted = true;
     return {};
 }
 

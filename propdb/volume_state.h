@@ -50,6 +50,7 @@ struct VolumeState
     bool isNextOidStored = true;
     bool isInTransaction = false;
     bool isSchemaChanged = false;
+    bool hasCommitted = false;
     /// Counts what may have changed the order of a database's records.
     quint64 orderChanges = 0;
 
