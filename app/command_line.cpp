@@ -1,6 +1,7 @@
 #include "app/command_line.h"
 
 #include "app/command_line_run.h"
+#include "store/kept_copies.h"
 
 #include <QFile>
 #include <QSettings>
@@ -26,6 +27,8 @@ constexpr std::array kImportFlags { "dry-run" };
 constexpr std::array kImportOptions { "columns" };
 constexpr std::array kSummaryOptions { "where" };
 constexpr std::array kDueOptions { "within" };
+constexpr std::array kRestoreFlags { "json", "salvage" };
+constexpr std::array kRestoreOptions { "from" };
 
 constexpr const char* kListsHelp
     = "Prints a line per list, in the order of their names: name TAB number of rows.\n"
@@ -88,6 +91,20 @@ constexpr const char* kCheckHelp
 constexpr const char* kBackupHelp
     = "Writes a consistent copy of the data file, also while it is in use. FILE must not exist.\n";
 
+constexpr const char* kRestoreHelp
+    = "After each run that changed the data file a copy of it is kept; the last three are. "
+      "Without\n"
+      "options prints a line per copy, the newest first: number TAB time TAB bytes, and then a "
+      "line\n"
+      "per list that can be read from the data file itself, also if that is damaged: salvage TAB\n"
+      "list TAB rows TAB what is lost. Makes the new data file FILE, which must not exist:\n"
+      "\n"
+      "  --from N             from copy N\n"
+      "  --salvage            from what can still be read of the data file, and prints what that "
+      "is;\n"
+      "                       the data file is only read\n"
+      "  --json               an object per copy and per list\n";
+
 constexpr std::array kSubCommands {
     SubCommand { "lists", "", kListsHelp, 0, 0, kJsonFlag, {}, &RunLists },
     SubCommand { "new", "LIST [--column NAME:TYPE]... [--create]", kNewHelp, 1, 1, kNewFlags,
@@ -102,6 +119,8 @@ constexpr std::array kSubCommands {
     SubCommand { "due", "[--within DAYS]", kDueHelp, 0, 0, kJsonFlag, kDueOptions, &RunDue },
     SubCommand { "check", "", kCheckHelp, 0, 0, {}, {}, &RunCheck },
     SubCommand { "backup", "FILE", kBackupHelp, 1, 1, {}, {}, &RunBackup },
+    SubCommand { "restore", "[FILE --from N | FILE --salvage]", kRestoreHelp, 0, 1, kRestoreFlags,
+        kRestoreOptions, &RunRestore },
 };
 
 constexpr const char* kUsageHead = "usage: quillory [LIST]\n"
@@ -281,7 +300,8 @@ int RunCommandLine(const QStringList& arguments)
     static_cast<void>(output.open(STDOUT_FILENO, QIODevice::WriteOnly | kMode));
     static_cast<void>(errors.open(STDERR_FILENO, QIODevice::WriteOnly | kMode));
     return static_cast<int>(RunCommandLine(arguments,
-        { input, output, errors, ValueContext::FromEnvironment(), ConfiguredDataFile() }));
+        { input, output, errors, ValueContext::FromEnvironment(), ConfiguredDataFile(),
+            DefaultCopiesFolder() }));
 }
 
 QString ConfiguredDataFile()

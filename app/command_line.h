@@ -24,6 +24,8 @@ struct CommandEnvironment
     ValueContext context;
     /// The data file where none is named; empty if none is set.
     QString dataFile;
+    /// Where copies of data files are kept; empty if none are.
+    QString copiesFolder;
 };
 
 /// Whether the program's arguments (without its own name) are a command, not a call of the window.

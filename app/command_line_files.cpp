@@ -88,6 +88,7 @@ void RunImport(const CommandRun& run)
     if (!isDryRun && outcome.writeError == ErrorNumber::None)
         data->StoreColumnOrder(oid);
     ReportImport(run, outcome);
+    run.KeepCopyOf(*data);
 }
 
 void RunCheck(const CommandRun& run)

@@ -156,6 +156,7 @@ void RunNew(const CommandRun& run)
         Fail(u"there is a list named “%1” already"_s.arg(list.Name));
     if (!CreateList(data->catalogue, list))
         Fail(u"cannot make the list: %1"_s.arg(ErrorText(data->volume.LastError())));
+    run.KeepCopyOf(*data);
 }
 
 } // namespace Quillory

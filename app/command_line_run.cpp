@@ -1,5 +1,7 @@
 #include "app/command_line_run.h"
 
+#include "store/kept_copies.h"
+
 #include <utility>
 
 namespace Quillory {
@@ -99,6 +101,11 @@ std::unique_ptr<CommandData> CommandRun::OpenForReading() const
 std::unique_ptr<CommandData> CommandRun::OpenForWriting(Disposition disposition) const
 {
     return std::make_unique<CommandData>(DataFile(), VolumeAccess::Exclusive, disposition);
+}
+
+void CommandRun::KeepCopyOf(CommandData& data) const
+{
+    KeepCopy(data.volume, data.Path(), environment.copiesFolder, QDateTime::currentDateTimeUtc());
 }
 
 bool CommandRun::IsJson() const

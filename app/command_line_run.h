@@ -72,6 +72,8 @@ struct CommandRun
     [[nodiscard]] std::unique_ptr<CommandData> OpenForReading() const;
     [[nodiscard]] std::unique_ptr<CommandData> OpenForWriting(
         Disposition disposition = Disposition::OpenExisting) const;
+    /// Keeps a copy of a data file that the command has changed; to be called at its good end.
+    void KeepCopyOf(CommandData& data) const;
     [[nodiscard]] bool IsJson() const;
 };
 
@@ -99,5 +101,6 @@ void RunSummary(const CommandRun& run);
 void RunDue(const CommandRun& run);
 void RunCheck(const CommandRun& run);
 void RunBackup(const CommandRun& run);
+void RunRestore(const CommandRun& run);
 
 } // namespace Quillory

@@ -7,6 +7,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 namespace Quillory {
@@ -21,7 +22,9 @@ enum Column
     Name,
     Count,
     Text,
-    Price = 4,
+    Tick,
+    Price,
+    Day,
 };
 /// Changes made one after the other in the durable case.
 constexpr int kChanges = 100;
@@ -120,14 +123,16 @@ Timing ReadColumn(int rows, Column column)
     return timing;
 }
 
-Timing FilterColumn(int rows)
+/// A condition that some rows meet, or most of them, on a list that is shown.
+Timing FilterColumn(int rows, FilterCondition condition)
 {
     BenchList& list = BenchList::OfSize(rows);
     Timing timing;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
         RowStore store(data, definition, Context());
         FilterSet filters;
-        AddFilter(filters, definition.columns[Price].id, FilterCondition::Less, u"10"_s);
+        AddFilter(filters, definition.columns[Price].id, condition, u"10"_s);
+        Require(std::cmp_equal(store.FillRows().size(), rows), "rows are missing");
         timing.oursMs = MeasureMs(
             [&] { Require(!store.FillFilteredRows(filters).empty(), "nothing passed"); });
     });
@@ -135,7 +140,30 @@ Timing FilterColumn(int rows)
     return timing;
 }
 
-Timing SortByPrice(int rows)
+/// Reads a column and sorts what it holds: doubles, or texts for the column of texts.
+double SortedScanMs(const BenchList& list, Column column)
+{
+    double elapsed = 0;
+    list.WithSqlite([&](sqlite3* connection) {
+        std::vector<double> numbers;
+        std::vector<std::u16string> texts;
+        const QString sql = u"SELECT %1 FROM %2"_s.arg(list.Column(column), list.Table());
+        elapsed = MeasureMs([&] {
+            ForEachRow(connection, sql, [&](sqlite3_stmt* row) {
+                if (column == Text)
+                    texts.emplace_back(static_cast<const char16_t*>(sqlite3_column_text16(row, 0)));
+                else
+                    numbers.push_back(sqlite3_column_double(row, 0));
+            });
+            std::sort(numbers.begin(), numbers.end());
+            std::sort(texts.begin(), texts.end());
+        });
+        Require(std::cmp_equal(numbers.size() + texts.size(), list.Rows()), "rows are missing");
+    });
+    return elapsed;
+}
+
+Timing SortByColumnOf(int rows, Column column)
 {
     BenchList& list = BenchList::OfSize(rows);
     Timing timing;
@@ -143,25 +171,21 @@ Timing SortByPrice(int rows)
         RowStore store(data, definition, Context());
         auto listed = store.FillRows();
         timing.oursMs = MeasureMs(
-            [&] { listed = store.SortRows(std::move(listed), definition.columns[Price].id); });
+            [&] { listed = store.SortRows(std::move(listed), definition.columns[column].id); });
         Require(std::cmp_equal(listed.size(), rows), "rows are missing");
     });
-    list.WithSqlite([&](sqlite3* connection) {
-        std::vector<double> prices;
-        timing.floorMs = MeasureMs([&] {
-            ForEachRow(connection, u"SELECT %1 FROM %2"_s.arg(list.Column(Price), list.Table()),
-                [&](sqlite3_stmt* row) { prices.push_back(sqlite3_column_double(row, 0)); });
-            std::sort(prices.begin(), prices.end());
-        });
-    });
+    timing.floorMs = SortedScanMs(list, column);
     return timing;
 }
 
+/// The totals of a list that is shown.
 Timing Summarise(int rows)
 {
     BenchList& list = BenchList::OfSize(rows);
     Timing timing;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        Require(std::cmp_equal(data.OpenDatabase(kRows)->ListRecords()->size(), rows),
+            "rows are missing");
         timing.oursMs = MeasureMs([&] {
             Require(ComputeTotals(data, definition, nullptr, Context()).size() == 2, "no totals");
         });
@@ -215,8 +239,19 @@ std::vector<BenchCase> StoreCases()
         { u"walk position by position"_s, 1.3, 11, WalkInOrder },
         { u"read a column of prices"_s, 1.5, 11, [](int rows) { return ReadColumn(rows, Price); } },
         { u"read a column of texts"_s, 1.5, 11, [](int rows) { return ReadColumn(rows, Text); } },
-        { u"filter by price"_s, 1.5, 11, FilterColumn },
-        { u"sort by price"_s, 1.5, kSortGrowth, SortByPrice },
+        { u"filter that some rows pass"_s, 1.5, 11,
+            [](int rows) { return FilterColumn(rows, FilterCondition::Less); } },
+        { u"filter that most rows pass"_s, 1.5, 11,
+            [](int rows) { return FilterColumn(rows, FilterCondition::Greater); } },
+        { u"sort by integer"_s, 1.5, kSortGrowth,
+            [](int rows) { return SortByColumnOf(rows, Count); } },
+        { u"sort by price"_s, 1.5, kSortGrowth,
+            [](int rows) { return SortByColumnOf(rows, Price); } },
+        { u"sort by date"_s, 1.5, kSortGrowth, [](int rows) { return SortByColumnOf(rows, Day); } },
+        { u"sort by checkbox"_s, 1.5, kSortGrowth,
+            [](int rows) { return SortByColumnOf(rows, Tick); } },
+        { u"sort by text"_s, 1.3, kSortGrowth,
+            [](int rows) { return SortByColumnOf(rows, Text); } },
         { u"summary"_s, 2.0, 11, Summarise },
         { u"add 1, one hundred times"_s, 1.3, 11, AddOne },
     };

@@ -86,12 +86,7 @@ int FileRead(sqlite3_file* file, void* buffer, int amount, sqlite3_int64 offset)
     if (code != SQLITE_OK || !reinterpret_cast<ConfinedFile*>(file)->hasChecksums
         || !IsWholePage(amount, offset))
         return code;
-    XXH64_canonical_t stored;
-    static_assert(sizeof(stored) == kPageReserve);
-    std::memcpy(
-        &stored, static_cast<const char*>(buffer) + kPageSize - kPageReserve, sizeof(stored));
-    const bool isIntact = XXH64_hashFromCanonical(&stored) == PageChecksum(buffer, offset);
-    return isIntact ? SQLITE_OK : SQLITE_IOERR_DATA;
+    return IsPageIntact(static_cast<const char*>(buffer), offset) ? SQLITE_OK : SQLITE_IOERR_DATA;
 }
 
 int FileWrite(sqlite3_file* file, const void* buffer, int amount, sqlite3_int64 offset)
@@ -250,6 +245,14 @@ sqlite3_vfs* RegisterVfs()
 }
 
 } // namespace
+
+bool IsPageIntact(const char* page, qint64 offset)
+{
+    XXH64_canonical_t stored;
+    static_assert(sizeof(stored) == kPageReserve);
+    std::memcpy(&stored, page + kPageSize - kPageReserve, sizeof(stored));
+    return XXH64_hashFromCanonical(&stored) == PageChecksum(page, offset);
+}
 
 const char* ConfinedVfs::Name()
 {

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QByteArray>
+#include <QtGlobal>
 
 namespace Quillory {
 
 /// Bytes of a page of a volume, the last kPageReserve of which hold its checksum.
 constexpr int kPageSize = 4096;
 constexpr int kPageReserve = 8;
+
+/// Whether the whole page at `offset` of a volume's file is as it was written there.
+[[nodiscard]] bool IsPageIntact(const char* page, qint64 offset);
 
 /// SQLite's view of the file system while it works on a volume.
 ///

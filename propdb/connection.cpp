@@ -31,7 +31,7 @@ constexpr std::array kLimits {
     Limit { SQLITE_LIMIT_COLUMN, 512 },
     Limit { SQLITE_LIMIT_EXPR_DEPTH, 64 },
     Limit { SQLITE_LIMIT_COMPOUND_SELECT, 4 },
-    Limit { SQLITE_LIMIT_FUNCTION_ARG, 8 },
+    Limit { SQLITE_LIMIT_FUNCTION_ARG, 1 + int { RecordVisit::kMaxProperties } },
     Limit { SQLITE_LIMIT_ATTACHED, 0 },
     Limit { SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 64 },
     Limit { SQLITE_LIMIT_VARIABLE_NUMBER, 512 },

@@ -2,12 +2,9 @@
 
 #include "propdb/database_state.h"
 
-#include <QStringList>
-
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <memory>
 
 namespace Quillory {
 
@@ -153,6 +150,7 @@ Result<void> Database::DeleteRecord(ObjectId oid)
     VolumeState& volume = m_state->volume;
     if (const auto begun = volume.BeginWrite(); !begun)
         return begun;
+    ++volume.orderChanges;
     Result<void> done = m_state->cursor.LeaveRecord(oid);
     if (done) {
         auto remove = Statement::Prepare(volume.connection.get(),
@@ -172,37 +170,54 @@ Result<void> Database::DeleteRecord(ObjectId oid)
 
 Result<std::vector<ObjectId>> Database::ListRecords()
 {
-    return m_state->cursor.List();
+    return m_state->ListRecords();
 }
 
 Result<void> Database::Scan(
     std::span<const PropertyId> ids, ScanOrder order, const Visitor& visitor)
 {
-    const QString key = QuotedName(m_state->schema->Find(m_state->order.key)->columnName);
-    const QString select = u"SELECT oid%1 FROM %2"_s.arg(
-        m_state->ColumnList(ids), QuotedName(m_state->schema->tableName));
-    QStringList parts { select };
-    if (order == ScanOrder::Sorted)
-        parts = { select + u" WHERE %1 IS NOT NULL ORDER BY %1, oid"_s.arg(key),
-            select + u" WHERE %1 IS NULL ORDER BY oid"_s.arg(key) };
     std::vector<PropertyValue> values(ids.size());
     for (size_t i = 0; i < ids.size(); ++i)
         values[i].id = ids[i];
-    sqlite3* connection = m_state->volume.connection.get();
-    const auto roomyCache
-        = order == ScanOrder::Sorted ? std::make_unique<RoomyCache>(connection) : nullptr;
-    for (const QString& sql : parts) {
+    return ScanInPlace(ids, order, [&](const ScannedRecord& record) {
+        for (size_t i = 0; i < values.size(); ++i)
+            record.Read(i, values[i]);
+        return visitor(record.Oid(), values);
+    });
+}
+
+Result<void> Database::ScanInPlace(
+    std::span<const PropertyId> ids, ScanOrder order, const RecordVisitor& visitor)
+{
+    VolumeState& volume = m_state->volume;
+    sqlite3* connection = volume.connection.get();
+    const QString columns = u"oid"_s + m_state->ColumnList(ids);
+    const QString table = QuotedName(m_state->schema->tableName);
+    if (order == ScanOrder::Any && ids.size() <= RecordVisit::kMaxProperties) {
+        auto statement = Statement::Prepare(connection,
+            u"SELECT %1(%2) FROM %3"_s.arg(
+                QLatin1StringView(RecordVisit::kFunctionName), columns, table));
+        return statement ? volume.visit.Run(*statement, visitor) : statement.Error();
+    }
+    const QString select = u"SELECT %1 FROM %2"_s.arg(columns, table);
+    if (order == ScanOrder::Any) {
+        auto statement = Statement::Prepare(connection, select);
+        return statement ? statement->VisitRows(visitor) : statement.Error();
+    }
+    const QString key = QuotedName(m_state->schema->Find(m_state->order.key)->columnName);
+    const RoomyCache roomyCache(connection);
+    bool isGoingOn = true;
+    const auto visit = [&](const ScannedRecord& record) {
+        isGoingOn = visitor(record);
+        return isGoingOn;
+    };
+    for (const QString& sql : { select + u" WHERE %1 IS NOT NULL ORDER BY %1, oid"_s.arg(key),
+             select + u" WHERE %1 IS NULL ORDER BY oid"_s.arg(key) }) {
         auto statement = Statement::Prepare(connection, sql);
         if (!statement)
             return statement.Error();
-        while (statement->Next()) {
-            for (size_t i = 0; i < values.size(); ++i)
-                statement->ReadProperty(static_cast<int>(i) + 1, values[i]);
-            if (!visitor(statement->Oid(0), values))
-                return {};
-        }
-        if (statement->Error() != ErrorNumber::None)
-            return statement->Error();
+        if (const auto visited = statement->VisitRows(visit); !visited || !isGoingOn)
+            return visited;
     }
     return {};
 }

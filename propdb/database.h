@@ -2,6 +2,7 @@
 
 #include "propdb/property_value.h"
 #include "propdb/result.h"
+#include "propdb/scanned_record.h"
 #include "propdb/volume.h"
 
 #include <functional>
@@ -56,15 +57,19 @@ public:
     [[nodiscard]] Result<ObjectId> Write(ObjectId oid, std::span<const PropertyValue> values);
     [[nodiscard]] Result<void> DeleteRecord(ObjectId oid);
 
-    /// Every record in the order of the handle, by one scan of its index.
+    /// Every record in the order of the handle, by one scan of its index. Kept, at four bytes a
+    /// record, until a write that can change it.
     [[nodiscard]] Result<std::vector<ObjectId>> ListRecords();
-
     /// Called with each record; the values are in the order asked for and valid during the call.
     /// False ends the scan early. The visitor must not write to the volume.
     using Visitor = std::function<bool(ObjectId oid, std::span<const PropertyValue> values)>;
     /// Reads the listed properties of all records without touching the position.
     [[nodiscard]] Result<void> Scan(
         std::span<const PropertyId> ids, ScanOrder order, const Visitor& visitor);
+    using RecordVisitor = std::function<bool(const ScannedRecord& record)>;
+    /// As above for visitors that look at little of a record: nothing is copied.
+    [[nodiscard]] Result<void> ScanInPlace(
+        std::span<const PropertyId> ids, ScanOrder order, const RecordVisitor& visitor);
 
 private:
     std::unique_ptr<DatabaseState> m_state;

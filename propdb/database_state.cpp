@@ -106,6 +106,7 @@ Result<void> DatabaseState::AddMissingColumns(std::span<const PropertyValue> val
 
 Result<ObjectId> DatabaseState::Insert(std::span<const PropertyValue> values)
 {
+    ++volume.orderChanges;
     const auto ids = IdsOf(values);
     const auto statement = inserts.Find(ids, [&] {
         QString parameters;
@@ -133,6 +134,8 @@ Result<ObjectId> DatabaseState::Insert(std::span<const PropertyValue> values)
 Result<ObjectId> DatabaseState::Update(ObjectId oid, std::span<const PropertyValue> values)
 {
     const auto ids = IdsOf(values);
+    if (std::ranges::find(ids, order.key) != ids.end())
+        ++volume.orderChanges;
     const auto statement = updates.Find(ids, [&] {
         QString assignments;
         for (size_t i = 0; i < ids.size(); ++i) {
@@ -156,6 +159,22 @@ Result<ObjectId> DatabaseState::Update(ObjectId oid, std::span<const PropertyVal
     if (!*isThere)
         return ErrorNumber::NotFound;
     return oid;
+}
+
+Result<std::vector<ObjectId>> DatabaseState::ListRecords()
+{
+    const auto version = volume.ReadOrderVersion();
+    if (!version)
+        return version.Error();
+    if (listingVersion != *version) {
+        listingVersion.reset();
+        auto listed = cursor.List();
+        if (!listed)
+            return listed;
+        listing = std::move(*listed);
+        listingVersion = *version;
+    }
+    return listing;
 }
 
 Result<Record> DatabaseState::ReadRecord(ObjectId oid, std::span<const PropertyId> ids)

@@ -44,6 +44,9 @@ struct DatabaseState
     StatementCache inserts;
     StatementCache updates;
     StatementCache selects;
+    std::vector<ObjectId> listing;
+    /// What `listing` is true of; none if there is no listing.
+    std::optional<VolumeState::OrderVersion> listingVersion;
 
     /// The columns so listed, as SQL; NULL for one that the database has no column for.
     [[nodiscard]] QString ColumnList(std::span<const PropertyId> ids) const;
@@ -51,6 +54,8 @@ struct DatabaseState
     [[nodiscard]] Result<void> AddMissingColumns(std::span<const PropertyValue> values);
     [[nodiscard]] Result<ObjectId> Insert(std::span<const PropertyValue> values);
     [[nodiscard]] Result<ObjectId> Update(ObjectId oid, std::span<const PropertyValue> values);
+    /// Every record in sort order.
+    [[nodiscard]] Result<std::vector<ObjectId>> ListRecords();
     [[nodiscard]] Result<Record> ReadRecord(ObjectId oid, std::span<const PropertyId> ids);
 };
 

@@ -13,11 +13,45 @@ namespace Quillory {
 
 namespace {
 
-void MarkMissing(PropertyValue& value)
+/// The columns of the current row from `first` on.
+class RowRecord final : public ScannedRecord
 {
-    value.flags = CEDB_PROPNOTFOUND;
-    value.value = std::monostate();
-}
+public:
+    RowRecord(sqlite3_stmt* statement, int first)
+        : m_statement(statement)
+        , m_first(first)
+    { }
+
+    [[nodiscard]] ObjectId Oid() const override
+    {
+        return static_cast<ObjectId>(sqlite3_column_int64(m_statement, 0));
+    }
+    [[nodiscard]] bool IsMissing(size_t place) const override
+    {
+        return sqlite3_column_type(m_statement, ColumnOf(place)) == SQLITE_NULL;
+    }
+    [[nodiscard]] qint64 Integer(size_t place) const override
+    {
+        return sqlite3_column_int64(m_statement, ColumnOf(place));
+    }
+    [[nodiscard]] double Number(size_t place) const override
+    {
+        return sqlite3_column_double(m_statement, ColumnOf(place));
+    }
+    [[nodiscard]] QByteArrayView Bytes(size_t place) const override
+    {
+        // In this order: the size is that of the bytes that were asked for last.
+        const int column = ColumnOf(place);
+        const auto* bytes = static_cast<const char*>(sqlite3_column_blob(m_statement, column));
+        return { bytes, bytes == nullptr ? 0 : sqlite3_column_bytes16(m_statement, column) };
+    }
+
+private:
+    sqlite3_stmt* m_statement;
+    int m_first;
+
+    [[nodiscard]] int ColumnOf(size_t place) const { return m_first + static_cast<int>(place); }
+};
 
 } // namespace
 
@@ -177,9 +211,9 @@ qint64 Statement::Int64(int column) const
 
 QString Statement::Text(int column) const
 {
-    QString text;
-    ReadText(column, text);
-    return text;
+    PropertyValue text { MakePropertyId(0, CEVT_LPWSTR), 0, QString() };
+    ReadProperty(column, text);
+    return text.IsMissing() ? QString() : std::get<QString>(text.value);
 }
 
 QByteArray Statement::Utf8(int column) const
@@ -187,57 +221,19 @@ QByteArray Statement::Utf8(int column) const
     return { reinterpret_cast<const char*>(sqlite3_column_text(m_statement, column)) };
 }
 
-void Statement::ReadText(int column, QString& text) const
-{
-    const void* units = sqlite3_column_blob(m_statement, column);
-    const auto size = static_cast<qsizetype>(sqlite3_column_bytes16(m_statement, column))
-        / static_cast<qsizetype>(sizeof(char16_t));
-    text.resize(size);
-    if (size > 0)
-        qFromBigEndian<quint16>(units, size, text.data());
-}
-
 void Statement::ReadProperty(int column, PropertyValue& value) const
 {
-    value.flags = 0;
-    switch (PropertyType(value.id)) {
-    case CEVT_I2:
-        return ReadNumber(column, value, static_cast<qint16>(Int64(column)));
-    case CEVT_I4:
-        return ReadNumber(column, value, static_cast<qint32>(Int64(column)));
-    case CEVT_UI4:
-        return ReadNumber(column, value, static_cast<quint32>(Int64(column)));
-    case CEVT_BOOL:
-        return ReadNumber(column, value, Int64(column) != 0);
-    case CEVT_FILETIME:
-        return ReadNumber(column, value, FileTime { static_cast<quint64>(Int64(column)) });
-    case CEVT_R8:
-        return ReadNumber(column, value, sqlite3_column_double(m_statement, column));
-    default:
-        break;
-    }
-    if (IsNull(column))
-        return MarkMissing(value);
-    if (PropertyType(value.id) == CEVT_BLOB) {
-        value.value = QByteArray(static_cast<const char*>(sqlite3_column_blob(m_statement, column)),
-            sqlite3_column_bytes(m_statement, column));
-        return;
-    }
-    if (!std::holds_alternative<QString>(value.value))
-        value.value = QString();
-    ReadText(column, std::get<QString>(value.value));
+    RowRecord(m_statement, column).Read(0, value);
 }
 
-template <typename Number>
-void Statement::ReadNumber(int column, PropertyValue& value, Number number) const
+Result<void> Statement::VisitRows(const std::function<bool(const ScannedRecord& record)>& visitor)
 {
-    // NULL reads as zero, so that only a zero needs a second look.
-    if (number == Number {} && IsNull(column))
-        return MarkMissing(value);
-    if (auto* current = std::get_if<Number>(&value.value))
-        *current = number;
-    else
-        value.value = number;
+    const RowRecord record(m_statement, 1);
+    while (Next()) {
+        if (!visitor(record))
+            return {};
+    }
+    return m_error;
 }
 
 Result<void> Execute(sqlite3* connection, const char* sql)

@@ -2,10 +2,11 @@
 
 #include "propdb/property_value.h"
 #include "propdb/result.h"
+#include "propdb/scanned_record.h"
 
 #include <QStringView>
 
-#include <string_view>
+#include <functional>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -55,9 +56,11 @@ public:
     [[nodiscard]] QString Text(int column) const;
     /// The text of a column whatever its encoding: settings answer before the file's is known.
     [[nodiscard]] QByteArray Utf8(int column) const;
-    /// Reads a column into `value` by the type of `value.id`, flagging it where it is NULL. Text
-    /// reuses the memory of the string that is there.
+    /// Reads a column into `value`, as ScannedRecord::Read does.
     void ReadProperty(int column, PropertyValue& value) const;
+    /// Visits all rows, of an identifier and properties each, until it is told false.
+    [[nodiscard]] Result<void> VisitRows(
+        const std::function<bool(const ScannedRecord& record)>& visitor);
 
     explicit operator bool() const { return m_statement != nullptr; }
 
@@ -65,9 +68,6 @@ private:
     sqlite3_stmt* m_statement = nullptr;
     ErrorNumber m_error = ErrorNumber::None;
 
-    void ReadText(int column, QString& text) const;
-    template <typename Number>
-    void ReadNumber(int column, PropertyValue& value, Number number) const;
     void Finish(int code);
 };
 

@@ -218,6 +218,11 @@ bool Volume::IsInTransaction() const
     return m_state->isInTransaction;
 }
 
+bool Volume::HasChanged() const
+{
+    return m_state->hasCommitted;
+}
+
 Result<std::vector<QString>> Volume::Check()
 {
     std::vector<QString> faults;

@@ -72,6 +72,8 @@ public:
     [[nodiscard]] Result<void> BeginTransaction();
     [[nodiscard]] Result<void> EndTransaction(bool commit);
     [[nodiscard]] bool IsInTransaction() const;
+    /// Whether anything was written since the volume was mounted.
+    [[nodiscard]] bool HasChanged() const;
 
     /// Reads the whole file and tells what is wrong with it, a line each; empty if nothing is.
     [[nodiscard]] Result<std::vector<QString>> Check();

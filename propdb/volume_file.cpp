@@ -47,14 +47,14 @@ QByteArray FolderOf(const QByteArray& path)
 /// Where the fields of SQLite's file header lie.
 struct HeaderLayout
 {
-    static constexpr int kSize = 100;
-    static constexpr int kPageSize = 16;
-    static constexpr int kWriteVersion = 18;
-    static constexpr int kReadVersion = 19;
-    static constexpr int kReserve = 20;
-    static constexpr int kTextEncoding = 56;
-    static constexpr int kUserVersion = 60;
-    static constexpr int kApplicationId = 68;
+    static constexpr size_t kSize = 100;
+    static constexpr size_t kPageSize = 16;
+    static constexpr size_t kWriteVersion = 18;
+    static constexpr size_t kReadVersion = 19;
+    static constexpr size_t kReserve = 20;
+    static constexpr size_t kTextEncoding = 56;
+    static constexpr size_t kUserVersion = 60;
+    static constexpr size_t kApplicationId = 68;
 };
 constexpr std::array<char, 16> kMagic { 'S', 'Q', 'L', 'i', 't', 'e', ' ', 'f', 'o', 'r', 'm', 'a',
     't', ' ', '3', '\0' };
@@ -176,27 +176,34 @@ Result<void> VolumeFile::LockOut() const
     return ErrorFromErrno(errno);
 }
 
+ErrorNumber VerifyVolumeHeader(std::span<const char> header)
+{
+    const auto field
+        = [&](size_t offset) { return qFromBigEndian<quint32>(header.data() + offset); };
+    if (std::memcmp(header.data(), kMagic.data(), kMagic.size()) != 0
+        || field(HeaderLayout::kApplicationId) != kApplicationId)
+        return ErrorNumber::BadFormat;
+    if (field(HeaderLayout::kUserVersion) > kFormatVersion)
+        return ErrorNumber::NotSupported;
+    const bool isOurs = field(HeaderLayout::kUserVersion) != 0
+        && qFromBigEndian<quint16>(header.data() + HeaderLayout::kPageSize) == kPageSize
+        && header[HeaderLayout::kWriteVersion] == kRollbackJournal
+        && header[HeaderLayout::kReadVersion] == kRollbackJournal
+        && header[HeaderLayout::kReserve] == kPageReserve
+        && field(HeaderLayout::kTextEncoding) == kUtf16BigEndian;
+    return isOurs ? ErrorNumber::None : ErrorNumber::FileCorrupt;
+}
+
 Result<void> VolumeFile::VerifyHeader() const
 {
     std::array<char, HeaderLayout::kSize> header {};
     const ssize_t size = pread(m_descriptor, header.data(), header.size(), 0);
     if (size < 0)
         return ErrorFromErrno(errno);
-    if (size < static_cast<ssize_t>(header.size())
-        || std::memcmp(header.data(), kMagic.data(), kMagic.size()) != 0)
+    if (size < static_cast<ssize_t>(header.size()))
         return ErrorNumber::BadFormat;
-    const auto field = [&](int offset) { return qFromBigEndian<quint32>(header.data() + offset); };
-    if (field(HeaderLayout::kApplicationId) != kApplicationId)
-        return ErrorNumber::BadFormat;
-    if (field(HeaderLayout::kUserVersion) > kFormatVersion)
-        return ErrorNumber::NotSupported;
-    if (field(HeaderLayout::kUserVersion) == 0
-        || qFromBigEndian<quint16>(header.data() + HeaderLayout::kPageSize) != kPageSize
-        || header[HeaderLayout::kWriteVersion] != kRollbackJournal
-        || header[HeaderLayout::kReadVersion] != kRollbackJournal
-        || header[HeaderLayout::kReserve] != kPageReserve
-        || field(HeaderLayout::kTextEncoding) != kUtf16BigEndian)
-        return ErrorNumber::FileCorrupt;
+    if (const ErrorNumber error = VerifyVolumeHeader(header); error != ErrorNumber::None)
+        return error;
     // A file whose journal is still there may be cut short; the journal makes it whole.
     struct stat status
     { };

@@ -7,12 +7,18 @@
 
 #include <sys/types.h>
 
+#include <span>
+
 namespace Quillory {
 
 /// Stands in the file's header; tells a volume from any other SQLite file.
 constexpr int kApplicationId = 0x5175696C;
 /// The version of the file's layout; files with a higher one are refused.
 constexpr int kFormatVersion = 1;
+
+/// What the first bytes of a file, at least 100, say about it: None (a volume), BadFormat,
+/// NotSupported (made by a newer program) or FileCorrupt.
+[[nodiscard]] ErrorNumber VerifyVolumeHeader(std::span<const char> header);
 
 /// The real, absolute path of a file that may not exist yet; its folder must. PathNotFound if the
 /// folder is missing or the last step is a link to nothing.

@@ -27,6 +27,8 @@ Result<void> VolumeState::Connect()
     if (!opened)
         return opened.Error();
     connection = std::move(*opened);
+    if (const auto registered = visit.Register(connection.get()); !registered)
+        return registered;
     // The file that was looked at and locked must be the one that SQLite has opened.
     if (const auto inPlace = file.VerifyInPlace(); !inPlace)
         return inPlace;
@@ -45,11 +47,12 @@ Result<void> VolumeState::Connect()
         return ErrorNumber::FileCorrupt;
     nextOid = static_cast<quint64>(counter->Int64(0));
 
-    const std::array<std::pair<Statement*, QString>, 4> kept { {
+    const std::array<std::pair<Statement*, QString>, 5> kept { {
         { &begin, u"BEGIN IMMEDIATE"_s },
         { &commit, u"COMMIT"_s },
         { &rollback, u"ROLLBACK"_s },
         { &storeNextOid, u"UPDATE object_counter SET next_oid = ?1"_s },
+        { &readDataVersion, u"PRAGMA data_version"_s },
     } };
     for (const auto& [statement, sql] : kept) {
         auto prepared = Statement::Prepare(connection.get(), sql, true);
@@ -58,6 +61,16 @@ Result<void> VolumeState::Connect()
         *statement = std::move(*prepared);
     }
     return {};
+}
+
+Result<VolumeState::OrderVersion> VolumeState::ReadOrderVersion()
+{
+    const auto step = readDataVersion.Step();
+    if (!step)
+        return step.Error();
+    const OrderVersion version { orderChanges, readDataVersion.Int64(0) };
+    readDataVersion.Reset();
+    return version;
 }
 
 Result<ObjectId> VolumeState::AllocateOid()
@@ -120,11 +133,13 @@ Result<void> VolumeState::Commit()
     }
     isNextOidStored = true;
     isSchemaChanged = false;
+    hasCommitted = true;
     return {};
 }
 
 void VolumeState::Rollback()
 {
+    ++orderChanges;
     for (DatabaseState* database : openDatabases)
         database->cursor.Suspend();
     // Some failures have rolled back already.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "propdb/confined_vfs.h"
+#include "propdb/record_visit.h"
 #include "propdb/schema.h"
 #include "propdb/statement.h"
 #include "propdb/volume_file.h"
@@ -34,6 +35,7 @@ struct VolumeState
     QByteArray path;
     VolumeAccess access;
     ConfinedVfs::Permit permit;
+    RecordVisit visit;
     ConnectionHandle connection;
     VolumeSchema schema;
     std::vector<DatabaseState*> openDatabases;
@@ -42,14 +44,28 @@ struct VolumeState
     Statement commit;
     Statement rollback;
     Statement storeNextOid;
+    Statement readDataVersion;
 
     quint64 nextOid = 1;
     bool isNextOidStored = true;
     bool isInTransaction = false;
     bool isSchemaChanged = false;
+    bool hasCommitted = false;
+    /// Counts what may have changed the order of a database's records.
+    quint64 orderChanges = 0;
 
     /// Opens the connection the hardened way, prepares its statements and reads the schema.
     [[nodiscard]] Result<void> Connect();
+    /// Differs from an earlier one if anything may have changed which records there are or their
+    /// order, in this process or another.
+    struct OrderVersion
+    {
+        quint64 ownChanges = 0;
+        qint64 fileVersion = 0;
+
+        friend bool operator==(const OrderVersion&, const OrderVersion&) = default;
+    };
+    [[nodiscard]] Result<OrderVersion> ReadOrderVersion();
     /// A fresh identifier; the counter is stored with the transaction.
     [[nodiscard]] Result<ObjectId> AllocateOid();
 

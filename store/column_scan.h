@@ -32,8 +32,27 @@ private:
     std::vector<Entry> m_sparse;
 };
 
-/// Reads `columns` of every row that passes `filters` (all rows if null), in no particular order.
-/// The visitor gets the values of `columns` alone.
+/// A set of records: a bit for each identifier between the least and the greatest, or the sorted
+/// identifiers where these lie far apart.
+class RowSet
+{
+public:
+    explicit RowSet(std::span<const ObjectId> rows);
+
+    [[nodiscard]] bool Contains(ObjectId row) const;
+
+private:
+    quint32 m_first = 0;
+    std::vector<bool> m_dense;
+    std::vector<ObjectId> m_sparse;
+};
+
+/// Visits every row that passes `filters` (all rows if null), `columns` at the first places of its
+/// record.
+[[nodiscard]] Result<void> ScanFilteredInPlace(Database& rows, std::span<const PropertyId> columns,
+    const FilterSet* filters, const ValueContext& context, ScanOrder order,
+    const Database::RecordVisitor& visitor);
+/// As above for visitors that want the values of `columns`.
 [[nodiscard]] Result<void> ScanFiltered(Database& rows, std::span<const PropertyId> columns,
     const FilterSet* filters, const ValueContext& context, ScanOrder order,
     const Database::Visitor& visitor);

@@ -98,6 +98,18 @@ void ApplyProperties(InventoryList& definition, std::span<const PropertyValue> v
     }
 }
 
+/// Name, map name, icon and settings.
+void ApplyHeader(InventoryList& definition, std::span<const PropertyValue> values)
+{
+    if (const auto* name = FindProperty(values, kName))
+        definition.Name = std::get<QString>(name->value);
+    if (const auto* mapName = FindProperty(values, kMapName))
+        definition.MapName = std::get<QString>(mapName->value);
+    if (const auto* icon = FindProperty(values, kTableIcon))
+        definition.TableIcon = std::get<qint16>(icon->value);
+    ApplyProperties(definition, values);
+}
+
 std::vector<PropertyValue> OptionValues(const InventoryList& definition)
 {
     return {
@@ -214,14 +226,23 @@ bool ListCatalogue::ReadListHeader(ObjectId oid, InventoryList& definition)
     const Record record = m_volume.ReadAll(kCatalogueType);
     if (!record)
         return false;
-    if (const auto* name = FindProperty(record.values, kName))
-        definition.Name = std::get<QString>(name->value);
-    if (const auto* mapName = FindProperty(record.values, kMapName))
-        definition.MapName = std::get<QString>(mapName->value);
-    if (const auto* icon = FindProperty(record.values, kTableIcon))
-        definition.TableIcon = std::get<qint16>(icon->value);
-    ApplyProperties(definition, record.values);
+    ApplyHeader(definition, record.values);
     return true;
+}
+
+InventoryList ListCatalogue::DefinitionOf(std::span<const PropertyValue> record)
+{
+    InventoryList definition;
+    ApplyHeader(definition, record);
+    return definition;
+}
+
+std::vector<ColumnDefinition> ListCatalogue::ColumnsOf(std::span<const PropertySpec> properties)
+{
+    std::vector<ColumnDefinition> columns;
+    for (const PropertySpec& property : properties)
+        columns.push_back({ property.name, KindOf(property.id), property.id });
+    return columns;
 }
 
 std::optional<QString> ListCatalogue::ReadListDefinition(ObjectId oid, InventoryList* definition)
@@ -307,8 +328,7 @@ bool ListCatalogue::OpenList(ObjectId oid, InventoryList& definition)
         || !m_volume.Open(definition.MapName, kRowsType, kByRowName))
         return false;
     const auto specs = m_volume.PropertySpecs(kRowsType, m_volume.PropertyCount(kRowsType));
-    for (const PropertySpec& spec : specs)
-        definition.columns.push_back({ spec.name, KindOf(spec.id), spec.id });
+    definition.columns = ColumnsOf(specs);
     return true;
 }
 

@@ -40,6 +40,12 @@ public:
     [[nodiscard]] ObjectId FindList(const QString& name);
 
     [[nodiscard]] std::optional<QString> ReadListName(ObjectId oid);
+    /// The definition that a record of the catalogue holds, as far as it goes; without columns.
+    [[nodiscard]] static InventoryList DefinitionOf(std::span<const PropertyValue> record);
+    /// The columns that the properties of a row database are.
+    [[nodiscard]] static std::vector<ColumnDefinition> ColumnsOf(
+        std::span<const PropertySpec> properties);
+
     /// Reads name, map name, icon and settings of a record into `definition`; false if the record
     /// cannot be read. Columns are not touched.
     [[nodiscard]] bool ReadListHeader(ObjectId oid, InventoryList& definition);

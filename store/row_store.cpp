@@ -2,8 +2,8 @@
 
 #include "store/column_scan.h"
 #include "store/list_catalogue.h"
+#include "store/row_sort.h"
 #include "values/column_type.h"
-#include "values/file_date.h"
 
 #include <algorithm>
 #include <array>
@@ -15,54 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr DatabaseType kRows = ListCatalogue::kRowsType;
-
-/// A row's key beside its place, so that a sort touches nothing else.
-template <typename Key> struct SortEntry
-{
-    Key key {};
-    quint32 position = 0;
-
-    friend bool operator<(const SortEntry& a, const SortEntry& b)
-    {
-        if (a.key < b.key)
-            return true;
-        return !(b.key < a.key) && a.position < b.position;
-    }
-};
-
-/// Reads `column` once into a key per row; a row without a value keeps the key's default. Equal
-/// rows keep their order.
-template <typename Key, typename Value>
-std::vector<ObjectId> SortBy(Database& database, const std::vector<ObjectId>& rows,
-    PropertyId column, Key (*makeKey)(const Value&))
-{
-    std::vector<SortEntry<Key>> entries;
-    entries.reserve(rows.size());
-    std::vector<bool> isRead(rows.size());
-    const RowPositions positions(rows);
-    const auto read = database.Scan(std::span(&column, 1), ScanOrder::Any,
-        [&](ObjectId oid, std::span<const PropertyValue> values) {
-            const quint32 position = positions.Find(oid);
-            if (position == RowPositions::kNowhere)
-                return true;
-            const auto* value = std::get_if<Value>(&values.front().value);
-            entries.push_back({ value == nullptr ? Key {} : makeKey(*value), position });
-            isRead[position] = true;
-            return true;
-        });
-    if (!read)
-        return rows;
-    for (size_t i = 0; entries.size() < rows.size() && i < rows.size(); ++i) {
-        if (!isRead[i])
-            entries.push_back({ Key {}, static_cast<quint32>(i) });
-    }
-    std::sort(entries.begin(), entries.end());
-    std::vector<ObjectId> sorted;
-    sorted.reserve(rows.size());
-    for (const SortEntry<Key>& entry : entries)
-        sorted.push_back(rows[entry.position]);
-    return sorted;
-}
 
 } // namespace
 
@@ -87,24 +39,25 @@ std::vector<ObjectId> RowStore::FillFilteredRows(const FilterSet& filters)
     if (database == nullptr || filters.entries.empty())
         return FillRows();
     std::vector<ObjectId> passing;
-    const auto collect = [&passing](ObjectId oid, std::span<const PropertyValue>) {
-        passing.push_back(oid);
+    const auto collect = [&passing](const ScannedRecord& record) {
+        passing.push_back(record.Oid());
         return true;
     };
-    const auto scanned = ScanFiltered(*database, {}, &filters, m_context, ScanOrder::Any, collect);
+    const auto scanned
+        = ScanFilteredInPlace(*database, {}, &filters, m_context, ScanOrder::Any, collect);
     if (!scanned) {
         // In sorted order the rows before the one that cannot be read are known.
         passing.clear();
         static_cast<void>(
-            ScanFiltered(*database, {}, &filters, m_context, ScanOrder::Sorted, collect).IsOk());
+            ScanFilteredInPlace(*database, {}, &filters, m_context, ScanOrder::Sorted, collect)
+                .IsOk());
         return passing;
     }
     if (passing.empty())
         return passing;
-    const RowPositions isPassing(passing);
+    const RowSet passingRows(passing);
     std::vector<ObjectId> rows = FillRows();
-    std::erase_if(
-        rows, [&](ObjectId oid) { return isPassing.Find(oid) == RowPositions::kNowhere; });
+    std::erase_if(rows, [&](ObjectId oid) { return !passingRows.Contains(oid); });
     return rows;
 }
 
@@ -113,23 +66,9 @@ std::vector<ObjectId> RowStore::SortRows(std::vector<ObjectId> rows, PropertyId 
     Database* database = m_volume.OpenDatabase(kRows);
     if (database == nullptr)
         return rows;
-    switch (ColumnTypeOf(column)) {
-    case ColumnType::Integer:
-        return SortBy<qint32, qint32>(
-            *database, rows, column, [](const qint32& value) { return value; });
-    case ColumnType::Price:
-        return SortBy<double, double>(
-            *database, rows, column, [](const double& value) { return value; });
-    case ColumnType::Checkbox:
-        return SortBy<quint8, bool>(
-            *database, rows, column, [](const bool& value) { return quint8 { value }; });
-    case ColumnType::Date:
-        return SortBy<double, FileTime>(*database, rows, column,
-            [](const FileTime& value) { return FileTimeToDateNumber(value).value_or(0.0); });
-    case ColumnType::String:
-        return SortBy<QString, QString>(
-            *database, rows, column, [](const QString& value) { return value; });
-    }
+    auto sorted = SortByColumn(*database, rows, column);
+    if (sorted)
+        return std::move(*sorted);
     return rows;
 }
 

@@ -64,32 +64,27 @@ bool IsCertain(PropertyId column, const OrderlessSum& sum)
         && TwoDecimals(sum.Value() - reach) == TwoDecimals(sum.Value() + reach);
 }
 
-double NumberOf(const PropertyValue& value)
-{
-    if (const auto* integer = std::get_if<qint32>(&value.value))
-        return *integer;
-    if (const auto* price = std::get_if<double>(&value.value))
-        return *price;
-    return 0.0;
-}
-
-/// The numbers of the counted rows, a sequence a column; a missing value is a zero, which adds
-/// nothing.
+/// The numbers of the counted rows, those of a row side by side; a missing value is a zero, which
+/// adds nothing.
 struct Numbers
 {
     std::vector<ObjectId> rows;
-    std::vector<std::vector<double>> columns;
+    std::vector<double> values;
+    std::vector<OrderlessSum> sums;
 };
 
 Result<Numbers> ReadNumbers(Database& rows, std::span<const PropertyId> columns,
     const FilterSet* filters, const ValueContext& context)
 {
-    Numbers numbers { {}, std::vector<std::vector<double>>(columns.size()) };
-    const auto scanned = ScanFiltered(rows, columns, filters, context, ScanOrder::Any,
-        [&numbers](ObjectId oid, std::span<const PropertyValue> values) {
-            numbers.rows.push_back(oid);
-            for (size_t i = 0; i < values.size(); ++i)
-                numbers.columns[i].push_back(NumberOf(values[i]));
+    Numbers numbers { {}, {}, std::vector<OrderlessSum>(columns.size()) };
+    const auto scanned = ScanFilteredInPlace(
+        rows, columns, filters, context, ScanOrder::Any, [&numbers](const ScannedRecord& record) {
+            numbers.rows.push_back(record.Oid());
+            for (size_t i = 0; i < numbers.sums.size(); ++i) {
+                const double number = record.Number(i);
+                numbers.values.push_back(number);
+                numbers.sums[i].Add(number);
+            }
             return true;
         });
     if (!scanned)
@@ -97,10 +92,10 @@ Result<Numbers> ReadNumbers(Database& rows, std::span<const PropertyId> columns,
     return numbers;
 }
 
-/// The total by plain addition in the order of names, which defines it.
+/// The totals by plain addition in the order of names, which defines them.
 Result<std::vector<double>> SumInOrder(Database& rows, const Numbers& numbers)
 {
-    std::vector<double> totals(numbers.columns.size(), 0.0);
+    std::vector<double> totals(numbers.sums.size(), 0.0);
     const auto listed = rows.ListRecords();
     if (!listed)
         return listed.Error();
@@ -110,23 +105,23 @@ Result<std::vector<double>> SumInOrder(Database& rows, const Numbers& numbers)
         if (position == RowPositions::kNowhere)
             continue;
         for (size_t i = 0; i < totals.size(); ++i)
-            totals[i] += numbers.columns[i][position];
+            totals[i] += numbers.values[position * totals.size() + i];
     }
     return totals;
 }
 
 /// The totals; by the order of names only where another order could show.
-Result<std::vector<double>> Sum(
-    Database& rows, std::span<const PropertyId> columns, const Numbers& numbers)
+Result<std::vector<double>> Sum(Database& rows, std::span<const PropertyId> columns,
+    const FilterSet* filters, const ValueContext& context)
 {
+    const auto numbers = ReadNumbers(rows, columns, filters, context);
+    if (!numbers)
+        return numbers.Error();
     std::vector<double> totals;
     for (size_t i = 0; i < columns.size(); ++i) {
-        OrderlessSum sum;
-        for (const double number : numbers.columns[i])
-            sum.Add(number);
-        if (!IsCertain(columns[i], sum))
-            return SumInOrder(rows, numbers);
-        totals.push_back(sum.Value());
+        if (!IsCertain(columns[i], numbers->sums[i]))
+            return SumInOrder(rows, *numbers);
+        totals.push_back(numbers->sums[i].Value());
     }
     return totals;
 }
@@ -148,10 +143,7 @@ std::vector<ColumnTotal> ComputeTotals(DataVolume& volume, const InventoryList& 
     Database* rows = volume.OpenDatabase(ListCatalogue::kRowsType);
     if (rows == nullptr || columns.empty())
         return lines;
-    const auto numbers = ReadNumbers(*rows, columns, filters, context);
-    if (!numbers)
-        return lines;
-    const auto totals = Sum(*rows, columns, *numbers);
+    const auto totals = Sum(*rows, columns, filters, context);
     if (!totals)
         return lines;
     for (size_t i = 0; i < columns.size(); ++i)

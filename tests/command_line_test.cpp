@@ -39,7 +39,8 @@ public:
         in.open(QIODevice::ReadOnly);
         out.open(QIODevice::WriteOnly);
         err.open(QIODevice::WriteOnly);
-        const ExitCode code = RunCommandLine(arguments, { in, out, err, context, Path() });
+        const ExitCode code
+            = RunCommandLine(arguments, { in, out, err, context, Path(), Path(u"copies"_s) });
         return { code, out.data(), err.data() };
     }
     /// The output of a command that must succeed silently.
@@ -93,6 +94,8 @@ private Q_SLOTS:
     void loneSurrogatesAndControlsComeOutAsText();
     void aFailedImportTellsHowFarItCame();
     void aBackupIsTheSameData();
+    void whatARunChangedIsKeptAndRestored();
+    void whatIsLeftOfADamagedFileIsSaved();
     void theWindowKeepsItsArguments();
 };
 
@@ -180,6 +183,11 @@ void CommandLineTest::wrongUsageExitsWithTwoAndUsage_data()
     add("an import column twice",
         { u"import"_s, u"Pantry"_s, u"-"_s, u"--columns"_s, u"Name,Name"_s });
     add("a backup to a stream", { u"backup"_s, u"-"_s });
+    add("a restored file to a stream", { u"restore"_s, u"-"_s, u"--salvage"_s });
+    add("a file to restore, and not from what", { u"restore"_s, u"x.idb"_s });
+    add("what to restore from, and no file", { u"restore"_s, u"--from=1"_s });
+    add("two things to restore from", { u"restore"_s, u"x.idb"_s, u"--from=1"_s, u"--salvage"_s });
+    add("a copy that is never kept", { u"restore"_s, u"x.idb"_s, u"--from=4"_s });
 }
 
 void CommandLineTest::wrongUsageExitsWithTwoAndUsage()
@@ -206,6 +214,13 @@ void CommandLineTest::failuresExitWithOneAndOneLine_data()
     QTest::newRow("no such folder") << QStringList { u"export"_s, u"Pantry"_s, u"/no/x"_s };
     QTest::newRow("a full device") << QStringList { u"export"_s, u"Pantry"_s, u"/dev/full"_s };
     QTest::newRow("a backup over a file") << QStringList { u"backup"_s, u"/dev/null"_s };
+    QTest::newRow("a copy over a file")
+        << QStringList { u"restore"_s, u"/dev/null"_s, u"--from=1"_s };
+    QTest::newRow("a salvaged file over a file")
+        << QStringList { u"restore"_s, u"/dev/null"_s, u"--salvage"_s };
+    QTest::newRow("a copy there is not") << QStringList { u"restore"_s, u"x"_s, u"--from=3"_s };
+    QTest::newRow("a file without copies")
+        << QStringList { u"restore"_s, u"--data"_s, u"/dev/null"_s };
 }
 
 void CommandLineTest::failuresExitWithOneAndOneLine()
@@ -224,8 +239,8 @@ void CommandLineTest::everyCommandHasHelp()
 {
     Shell shell;
     const QByteArray help = shell.Output({ u"--help"_s });
-    for (const char* name :
-        { "lists", "new", "show", "export", "import", "summary", "due", "check", "backup" }) {
+    for (const char* name : { "lists", "new", "show", "export", "import", "summary", "due", "check",
+             "backup", "restore" }) {
         QVERIFY(help.contains(QByteArray("  quillory ") + name));
         const QByteArray own = shell.Output({ QString::fromLatin1(name), u"--help"_s });
         QVERIFY(own.startsWith(QByteArray("usage: quillory ") + name));
@@ -361,6 +376,62 @@ void CommandLineTest::aBackupIsTheSameData()
     QFile file(text);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), shell.Output({ u"export"_s, u"Pantry"_s, u"-"_s }));
+}
+
+void CommandLineTest::whatARunChangedIsKeptAndRestored()
+{
+    Shell shell;
+    shell.MakePantry();
+    // None of these changes anything, or ends well.
+    shell.Output({ u"lists"_s });
+    shell.Output({ u"import"_s, u"Pantry"_s, u"-"_s, u"--dry-run"_s }, "a\r\n");
+    QVERIFY(shell.Run({ u"new"_s, u"Pantry"_s }).code == ExitCode::Failed);
+
+    const QList<QByteArray> lines = shell.Output({ u"restore"_s }).split('\n');
+    QCOMPARE(lines.size(), 4);
+    QVERIFY(lines[0].startsWith("1\t") && lines[1].startsWith("2\t"));
+    QCOMPARE(lines[2], "salvage\tPantry\t3\tcomplete"_ba);
+    const auto json = QJsonDocument::fromJson(shell.Output({ u"restore"_s, u"--json"_s })).array();
+    QCOMPARE(json.size(), 3);
+    QCOMPARE(json[1][u"copy"], 2);
+    QVERIFY(QDateTime::fromString(json[1][u"time"].toString(), Qt::ISODate).isValid());
+    QCOMPARE(json[2],
+        (QJsonObject { { u"salvage"_s, u"Pantry"_s }, { u"rows"_s, 3 }, { u"lost"_s, 0 },
+            { u"complete"_s, true } }));
+
+    for (const auto& [number, rows] :
+        { std::pair { u"1"_s, "Pantry\t3\n"_ba }, { u"2"_s, "Pantry\t0\n"_ba } }) {
+        const QString made = shell.Path(u"made-"_s + number);
+        QCOMPARE(shell.Output({ u"restore"_s, made, u"--from"_s, number }), ""_ba);
+        QCOMPARE(shell.Output({ u"lists"_s, u"--data"_s, made }), rows);
+    }
+    // The copies are found by the file's place, also when it is gone.
+    QVERIFY(QFile::remove(shell.Path()));
+    QCOMPARE(shell.Output({ u"restore"_s }).count('\n'), 2);
+}
+
+void CommandLineTest::whatIsLeftOfADamagedFileIsSaved()
+{
+    Shell shell;
+    shell.MakePantry();
+    QFile file(shell.Path());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QByteArray bytes = file.readAll();
+    // A bit of the rows, which stand on the last page but that of their index.
+    const qsizetype place = bytes.lastIndexOf(QByteArray("\0T\0e\0a", 6));
+    const qsizetype otherPlace = bytes.lastIndexOf(QByteArray("\0T\0e\0a", 6), place - 4096);
+    const qsizetype page = bytes[place & ~4095] == 0x0D ? place : otherPlace;
+    QCOMPARE(bytes[page & ~4095], char(0x0D));
+    bytes[page] = 1;
+    QVERIFY(file.seek(0) && file.write(bytes) == bytes.size());
+    file.close();
+    const QString saved = shell.Path(u"saved.idb"_s);
+    const Call call = shell.Run({ u"restore"_s, saved, u"--salvage"_s });
+    QVERIFY(call.code == ExitCode::Done);
+    QCOMPARE(call.output, "Pantry\t0\t3 lost\n"_ba);
+    QCOMPARE(shell.Output({ u"lists"_s, u"--data"_s, saved }), "Pantry\t0\n"_ba);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), bytes);
 }
 
 void CommandLineTest::theWindowKeepsItsArguments()

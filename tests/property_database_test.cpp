@@ -96,6 +96,7 @@ private Q_SLOTS:
     void aCommittedTransactionIsDurable();
     void refusals();
     void scansGiveEveryRecordOnce();
+    void aListingFollowsEveryWrite();
 };
 
 void PropertyDatabaseTest::valuesComeBackAsTheyWereWritten_data()
@@ -335,8 +336,59 @@ void PropertyDatabaseTest::scansGiveEveryRecordOnce()
         });
         return done.IsOk() ? texts : QStringList();
     };
+    // Once the visitor has enough the scan ends, and another can begin.
+    for (const ScanOrder order : { ScanOrder::Sorted, ScanOrder::Any }) {
+        int visits = 0;
+        const auto stopped = rows.rows->Scan(ids, order, [&](ObjectId, auto) {
+            ++visits;
+            return false;
+        });
+        QVERIFY(stopped.IsOk());
+        QCOMPARE(visits, 1);
+        const auto failing = [](ObjectId, auto) -> bool { throw std::bad_alloc(); };
+        QVERIFY_THROWS_EXCEPTION(
+            std::bad_alloc, static_cast<void>(rows.rows->Scan(ids, order, failing).IsOk()));
+    }
+    // A visitor may scan.
+    QStringList pairs;
+    const auto nested = rows.rows->Scan(ids, ScanOrder::Any, [&](ObjectId outer, auto) {
+        const auto inner = rows.rows->Scan(ids, ScanOrder::Any, [&](ObjectId oid, auto) {
+            pairs << u"%1%2"_s.arg(quint32(outer)).arg(quint32(oid));
+            return oid != outer;
+        });
+        return inner.IsOk();
+    });
+    QVERIFY(nested.IsOk());
+    QCOMPARE(pairs.size(), 1 + 2 + 3);
     QCOMPARE(counts(ScanOrder::Sorted), QStringList({ u"-"_s, u"2"_s, u"3"_s }));
     QCOMPARE(counts(ScanOrder::Any), QStringList({ u"2"_s, u"3"_s, u"-"_s }));
+}
+
+void PropertyDatabaseTest::aListingFollowsEveryWrite()
+{
+    Rows rows;
+    const auto names = [&] {
+        QString text;
+        for (const ObjectId oid : Take(rows.rows->ListRecords())) {
+            const auto found = rows.rows->SeekTo(oid);
+            const auto record = rows.rows->Read(std::array { kName });
+            text += found && record ? std::get<QString>(record->values.front().value) : u"?"_s;
+        }
+        return text;
+    };
+    const ObjectId b = rows.Add({ Text(u"b"_s), Count(1) });
+    QCOMPARE(names(), u"b"_s);
+    const ObjectId a = rows.Add({ Text(u"a"_s) });
+    QCOMPARE(names(), u"ab"_s);
+    QVERIFY(rows.rows->Write(b, std::array { Count(2) }).IsOk());
+    QCOMPARE(names(), u"ab"_s);
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    QVERIFY(rows.rows->Write(a, std::array { Text(u"c"_s) }).IsOk());
+    QCOMPARE(names(), u"bc"_s);
+    QVERIFY(rows.volume->EndTransaction(false).IsOk());
+    QCOMPARE(names(), u"ab"_s);
+    QVERIFY(rows.rows->DeleteRecord(a).IsOk());
+    QCOMPARE(names(), u"b"_s);
 }
 
 QTEST_GUILESS_MAIN(PropertyDatabaseTest)

@@ -1,10 +1,13 @@
 #include "store/totals.h"
 #include "tests/list_fixture.h"
 #include "values/column_type.h"
+#include "values/value_compare.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 #include <limits>
+#include <map>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -57,6 +60,8 @@ private Q_SLOTS:
     void filtersKeepTheOrderOfNames();
     void sortingIsStableInEveryType_data();
     void sortingIsStableInEveryType();
+    void sortingManyRowsAgreesWithComparingThem_data();
+    void sortingManyRowsAgreesWithComparingThem();
     void totalsCoverWhatIsListed();
     void totalsAreAddedInTheOrderOfNamesWhereItShows();
 };
@@ -177,6 +182,8 @@ void RowStoreTest::filtersKeepTheOrderOfNames()
     QCOMPARE(Totals(file, &filters), u"Quantity=10 Price=0.00 Size=0"_s);
     AddFilter(filters, PropertyId {}, FilterCondition::Contains, QString());
     QVERIFY(file.rows->FillFilteredRows(filters).empty());
+    const auto zeros = Where(file.Column(Size), FilterCondition::Equals, u"0"_s);
+    QVERIFY(file.rows->FillFilteredRows(zeros).empty());
     QCOMPARE(file.rows->FillFilteredRows({}).size(), size_t { 10 });
 }
 
@@ -203,6 +210,56 @@ void RowStoreTest::sortingIsStableInEveryType()
     file.Add({ u"d"_s, {}, u"b"_s, u"Checked"_s, u"2.5"_s, u"-2"_s, u"1/3/2026"_s });
     file.Add({ u"e"_s, {}, u"a"_s, u"Unchecked"_s });
     QCOMPARE(file.Cells(file.rows->SortRows(file.rows->FillRows(), file.Column(column))), names);
+}
+
+void RowStoreTest::sortingManyRowsAgreesWithComparingThem_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::newRow("text") << int { Shelf };
+    QTest::newRow("checkbox") << int { Bio };
+    QTest::newRow("price") << int { Price };
+    QTest::newRow("integer") << int { Size };
+    QTest::newRow("date") << int { Bought };
+}
+
+void RowStoreTest::sortingManyRowsAgreesWithComparingThem()
+{
+    QFETCH(int, column);
+    ListFixture file;
+    file.MakeFullList(u"l"_s);
+    constexpr int kRows = 6000;
+    QRandomGenerator random(7);
+    QVERIFY(file.data->BeginTransaction());
+    for (int i = 0; i < kRows; ++i) {
+        // Texts that begin alike, end each other, are empty, or hold units above surrogates.
+        QString shelf = QString(random.bounded(4) * 90, u'x')
+            + QString(random.bounded(6), u'\uFF5A') + QString::number(random.bounded(50));
+        shelf.chop(random.bounded(2) * 2);
+        const FileTime day { quint64(random.bounded(400'000)) * 864'000'000'000 / 3 };
+        std::vector<PropertyValue> values { { file.Column(Name), 0, QString::number(i) },
+            { file.Column(Shelf), 0, shelf }, { file.Column(Bio), 0, random.bounded(2) == 1 },
+            { file.Column(Price), 0, (random.bounded(2000) - 1000) * 0.25e-3 },
+            { file.Column(Size), 0, qint32(random.generate()) >> random.bounded(32) },
+            { file.Column(Bought), 0, day } };
+        if (i % 11 == 0)
+            values[3].value = i % 2 == 0 ? -0.0 : 0.0;
+        values.erase(values.begin() + 1 + i % 5, values.begin() + 1 + i % 5 + (i % 7 == 0 ? 1 : 0));
+        QVERIFY(file.data->Write(ListCatalogue::kRowsType, kNoObject, values) != kNoObject);
+    }
+    QVERIFY(file.data->EndTransaction(true));
+
+    std::vector<ObjectId> expected = file.rows->FillRows();
+    std::reverse(expected.begin(), expected.end());
+    const std::vector<ObjectId> sorted = file.rows->SortRows(expected, file.Column(column));
+    std::map<ObjectId, Record> records;
+    for (const ObjectId row : expected)
+        records[row] = file.rows->ReadRow(row);
+    const auto value
+        = [&](ObjectId row) { return FindProperty(records.at(row).values, file.Column(column)); };
+    std::stable_sort(expected.begin(), expected.end(), [&](ObjectId a, ObjectId b) {
+        return CompareColumnValues(value(a), value(b), file.Column(column)) < 0;
+    });
+    QVERIFY(sorted == expected);
 }
 
 void RowStoreTest::totalsCoverWhatIsListed()

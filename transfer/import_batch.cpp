@@ -9,9 +9,14 @@ namespace Quillory {
 
 ImportBatch::ImportBatch(std::span<const PropertyId> columns, const ImportBatchLimits& limits)
     : m_limits(limits)
-    , m_nameField(static_cast<size_t>(
-          std::find(columns.begin(), columns.end(), PropName) - columns.begin()))
+    , m_nameField(NameFieldOf(columns))
 { }
+
+size_t ImportBatch::NameFieldOf(std::span<const PropertyId> columns)
+{
+    return static_cast<size_t>(
+        std::find(columns.begin(), columns.end(), PropName) - columns.begin());
+}
 
 void ImportBatch::Add(std::span<const QStringView> fields)
 {
@@ -50,10 +55,9 @@ QStringView ImportBatch::NameOf(const Line& line) const
     return { m_text.data() + line.nameBegin, static_cast<qsizetype>(line.nameLength) };
 }
 
-void ImportBatch::CutLine(const Line& line, std::vector<QStringView>& fields) const
+void ImportBatch::CutLine(const char16_t* begin, std::vector<QStringView>& fields)
 {
     fields.clear();
-    const char16_t* begin = m_text.data() + line.begin;
     for (const char16_t* end = begin;; ++end) {
         if (*end != kFieldSeparator && *end != u'\0')
             continue;
@@ -75,16 +79,20 @@ bool ImportBatch::StandsBefore(const Line& a, const Line& b) const
     return order != 0 ? order < 0 : a.begin < b.begin;
 }
 
-void ImportBatch::Drain(const std::function<bool(std::span<const QStringView> fields)>& visit)
+void ImportBatch::Visit(const Visitor& visit)
 {
     std::sort(m_lines.begin(), m_lines.end(),
         [this](const Line& a, const Line& b) { return StandsBefore(a, b); });
     std::vector<QStringView> fields;
     for (const Line& line : m_lines) {
-        CutLine(line, fields);
+        CutLine(m_text.data() + line.begin, fields);
         if (!visit(fields))
             break;
     }
+}
+
+void ImportBatch::Clear()
+{
     m_lines.clear();
     m_text.clear();
 }

@@ -10,7 +10,8 @@
 
 namespace Quillory {
 
-/// How much of a file is stored in one go; reached or passed by the last line of a batch.
+/// How much of a file is sorted in memory and stored in one go; reached or passed by the last line
+/// of a batch.
 struct ImportBatchLimits
 {
     size_t lines = 200'000;
@@ -18,7 +19,7 @@ struct ImportBatchLimits
     size_t text = 7'000'000;
 };
 
-/// Lines of an import that are stored together, sorted by the row name that they give.
+/// Lines of an import, sorted by the row name that they give.
 ///
 /// Rows in the order of their names reach the name index of a large list place by place; in the
 /// file's order each would touch another page of it. Rows of one name keep the file's order.
@@ -32,8 +33,15 @@ public:
     [[nodiscard]] bool IsFull() const;
     [[nodiscard]] bool IsEmpty() const { return m_lines.empty(); }
 
-    /// Calls back with the fields of each line, by name, until it is told false; then holds none.
-    void Drain(const std::function<bool(std::span<const QStringView> fields)>& visit);
+    using Visitor = std::function<bool(std::span<const QStringView> fields)>;
+    /// Calls back with the fields of each line, by name, until it is told false.
+    void Visit(const Visitor& visit);
+    void Clear();
+
+    /// The field that fills the column of row names; beyond all fields if none does.
+    [[nodiscard]] static size_t NameFieldOf(std::span<const PropertyId> columns);
+    /// The fields of a line that TABs separate and a NUL ends.
+    static void CutLine(const char16_t* begin, std::vector<QStringView>& fields);
 
 private:
     /// Places and lengths in m_text. The first units of the name stand in `prefix`, the first one
@@ -55,7 +63,6 @@ private:
     void NoteName(Line& line, QStringView name) const;
     [[nodiscard]] QStringView NameOf(const Line& line) const;
     [[nodiscard]] bool StandsBefore(const Line& a, const Line& b) const;
-    void CutLine(const Line& line, std::vector<QStringView>& fields) const;
 };
 
 } // namespace Quillory

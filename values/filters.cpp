@@ -178,6 +178,31 @@ bool FilterTest::Matches(const PropertyValue* value) const
     return false;
 }
 
+bool FilterTest::Matches(const ScannedRecord& record, size_t place) const
+{
+    // What is missing reads as zero, so that only a zero that would match needs a second look.
+    const auto isNumberMatch = [&](auto row) {
+        using Number = decltype(row);
+        const auto* const operand = std::get_if<Number>(&m_operand);
+        return operand != nullptr && OrderMatches(m_condition, row, *operand)
+            && (row != Number {} || !record.IsMissing(place));
+    };
+    switch (ColumnTypeOf(m_column)) {
+    case ColumnType::Integer:
+        return isNumberMatch(static_cast<qint32>(record.Integer(place)));
+    case ColumnType::Price:
+        return isNumberMatch(record.Number(place));
+    case ColumnType::Date:
+        return isNumberMatch(FileTime { static_cast<quint64>(record.Integer(place)) });
+    case ColumnType::String:
+    case ColumnType::Checkbox:
+        break;
+    }
+    PropertyValue value { m_column, 0, {} };
+    record.Read(place, value);
+    return Matches(&value);
+}
+
 bool RowPassesFilters(const FilterSet& filters, std::span<const PropertyValue> rowProperties,
     const ValueContext& context)
 {

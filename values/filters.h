@@ -1,5 +1,6 @@
 #pragma once
 
+#include "propdb/scanned_record.h"
 #include "values/value_text.h"
 
 #include <functional>
@@ -59,6 +60,8 @@ public:
     [[nodiscard]] PropertyId Column() const { return m_column; }
     /// `value` is the row's value of Column(), null if the row has none: then it never matches.
     [[nodiscard]] bool Matches(const PropertyValue* value) const;
+    /// As above on a record in a scan that has Column() at `place`.
+    [[nodiscard]] bool Matches(const ScannedRecord& record, size_t place) const;
 
 private:
     PropertyId m_column {};

@@ -1,0 +1,41 @@
+#include "propdb/page_file.h"
+
+#include "propdb/volume_file.h"
+
+#include <cerrno>
+#include <limits>
+
+namespace Quillory {
+
+Result<PageFile> PageFile::Open(const QString& path)
+{
+    PageFile pages;
+    pages.m_file = std::make_unique<QFile>(path);
+    errno = 0;
+    if (!pages.m_file->open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return errno == 0 ? ErrorNumber::FileNotFound : ErrorFromErrno(errno);
+    const qint64 count = pages.m_file->size() / kPageSize;
+    if (count > std::numeric_limits<quint32>::max())
+        return ErrorNumber::FileTooLarge;
+    pages.m_pageCount = static_cast<quint32>(count);
+    PageBytes first;
+    const bool isIntact = pages.Read(1, first);
+    const ErrorNumber verdict = VerifyVolumeHeader(first);
+    if (verdict == ErrorNumber::None && !isIntact)
+        return ErrorNumber::FileCorrupt;
+    if (verdict != ErrorNumber::None)
+        return verdict;
+    return pages;
+}
+
+bool PageFile::Read(quint32 number, PageBytes& page) const
+{
+    page.fill('\0');
+    if (number == 0 || number > m_pageCount)
+        return false;
+    const qint64 offset = qint64 { number - 1 } * kPageSize;
+    return m_file->seek(offset) && m_file->read(page.data(), kPageSize) == kPageSize
+        && IsPageIntact(page.data(), offset);
+}
+
+} // namespace Quillory

@@ -1,0 +1,142 @@
+#include "store/kept_copies.h"
+
+#include "propdb/volume_file.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStorageInfo>
+
+#include <algorithm>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kSuffix = ".idb"_L1;
+constexpr auto kOriginName = "copy-of.txt"_L1;
+constexpr QFileDevice::Permissions kOwnerOnly
+    = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+/// A copy's name is its time; the order of the names is that of the times.
+QString TimeFormat()
+{
+    return u"yyyyMMdd'T'HHmmsszzz'Z'"_s;
+}
+
+QString NameAt(const QDateTime& time)
+{
+    return time.toUTC().toString(TimeFormat()) + kSuffix;
+}
+
+QDateTime TimeOf(const QString& name)
+{
+    QDateTime time = QDateTime::fromString(name.chopped(kSuffix.size()), TimeFormat());
+    time.setTimeSpec(Qt::UTC);
+    return time;
+}
+
+/// The folder for the copies of one data file; empty if its path leads nowhere.
+QString SetFolder(const QString& path, const QString& folder)
+{
+    const auto real = ResolveVolumePath(path);
+    if (!real || folder.isEmpty())
+        return {};
+    constexpr qsizetype kHashCharacters = 16;
+    const QByteArray hash
+        = QCryptographicHash::hash(*real, QCryptographicHash::Sha256).toHex().left(kHashCharacters);
+    const QString name = QFileInfo(QFile::decodeName(*real)).completeBaseName();
+    return QDir(folder).filePath(name.left(kHashCharacters) + u'-' + QString::fromLatin1(hash));
+}
+
+bool MakeFolder(const QString& folder)
+{
+    const QFileInfo info(folder);
+    if (info.isDir())
+        return info.isWritable();
+    return QDir().mkpath(folder) && QFile::setPermissions(folder, kOwnerOnly);
+}
+
+/// Says in words whose copies these are, for whoever looks into the folder.
+bool WriteOrigin(const QDir& set, const QString& path)
+{
+    QSaveFile file(set.filePath(kOriginName));
+    return file.open(QIODevice::WriteOnly)
+        && file.write(QFileInfo(path).absoluteFilePath().toUtf8() + '\n') > 0 && file.commit();
+}
+
+bool HasRoom(const QString& folder, const QString& path)
+{
+    // A copy must not take the last of a medium that the data file may share.
+    constexpr qint64 kLeastLeft = 16 << 20;
+    const QStorageInfo storage(folder);
+    return storage.isValid() && storage.bytesAvailable() >= QFileInfo(path).size() + kLeastLeft;
+}
+
+std::vector<KeptCopy> CopiesIn(const QDir& set)
+{
+    std::vector<KeptCopy> copies;
+    const auto files = set.entryInfoList({ u'*' + kSuffix }, QDir::Files, QDir::Name);
+    for (const QFileInfo& file : files) {
+        const QDateTime time = TimeOf(file.fileName());
+        if (time.isValid())
+            copies.push_back({ file.filePath(), time, file.size() });
+    }
+    std::reverse(copies.begin(), copies.end());
+    return copies;
+}
+
+/// Removes copies beyond the number that is kept, and what an interrupted run left unfinished.
+void Prune(QDir& set)
+{
+    const auto copies = CopiesIn(set);
+    for (size_t i = kKeptCopies; i < copies.size(); ++i)
+        QFile::remove(copies[i].path);
+    for (const QString& name : set.entryList({ u'*' + kSuffix + u".new-*"_s }, QDir::Files))
+        set.remove(name);
+}
+
+} // namespace
+
+QString DefaultCopiesFolder()
+{
+    QString state = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(state))
+        state = QDir::home().filePath(u".local/state"_s);
+    return QDir(state).filePath(u"quillory/copies"_s);
+}
+
+KeepOutcome KeepCopy(
+    DataVolume& data, const QString& path, const QString& folder, const QDateTime& now)
+{
+    Volume* volume = data.MountedVolume();
+    if (volume == nullptr || !volume->HasChanged())
+        return KeepOutcome::Unchanged;
+    const QString setFolder = SetFolder(path, folder);
+    if (setFolder.isEmpty() || !MakeFolder(setFolder))
+        return KeepOutcome::NotKept;
+    QDir set(setFolder);
+    Prune(set);
+    if (!HasRoom(setFolder, path) || !WriteOrigin(set, path)
+        || !volume->Backup(set.filePath(NameAt(now))))
+        return KeepOutcome::NotKept;
+    Prune(set);
+    return KeepOutcome::Kept;
+}
+
+std::vector<KeptCopy> ListKeptCopies(const QString& path, const QString& folder)
+{
+    const QString setFolder = SetFolder(path, folder);
+    return setFolder.isEmpty() ? std::vector<KeptCopy>() : CopiesIn(QDir(setFolder));
+}
+
+Result<void> RestoreCopy(const KeptCopy& copy, const QString& target)
+{
+    const auto volume = Volume::Mount(copy.path, Disposition::OpenExisting, VolumeAccess::ReadOnly);
+    return volume ? (*volume)->Backup(target) : volume.Error();
+}
+
+} // namespace Quillory

@@ -1,0 +1,182 @@
+#include "store/salvage.h"
+
+#include "propdb/damaged_volume.h"
+#include "propdb/volume_file.h"
+#include "store/list_catalogue.h"
+
+#include <QFile>
+#include <QHash>
+#include <QScopeGuard>
+
+#include <algorithm>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The lists' definitions by the names of their row databases.
+using Definitions = QHash<QString, InventoryList>;
+
+Definitions ReadDefinitions(const DamagedVolume& volume, SalvageReport& report)
+{
+    Definitions definitions;
+    const auto& databases = volume.Databases();
+    for (size_t i = 0; i < databases.size(); ++i) {
+        if (databases[i].info.type != ListCatalogue::kCatalogueType)
+            continue;
+        const auto outcome = volume.ReadRecords(i, [&definitions](const Record& record) {
+            const InventoryList definition = ListCatalogue::DefinitionOf(record.values);
+            definitions.insert(definition.MapName, definition);
+        });
+        report.mayListsBeLost = report.mayListsBeLost || outcome.lostPages > 0;
+    }
+    return definitions;
+}
+
+/// The definition of a list whose rows are `content`, from what is left of it.
+InventoryList DefinitionFor(
+    const DamagedVolume::DatabaseContent& content, const Definitions& definitions)
+{
+    InventoryList list = definitions.value(content.info.name);
+    if (list.Name.isEmpty())
+        list.Name = content.info.name;
+    list.columns = ListCatalogue::ColumnsOf(content.properties);
+    std::erase_if(
+        list.columnOrder, [&list](quint32 index) { return index >= list.columns.size(); });
+    return list;
+}
+
+/// Writes the rows of one list into a list made for them, in one transaction.
+class ListWriter
+{
+public:
+    ListWriter(ListCatalogue& catalogue, const InventoryList& list)
+        : m_data(catalogue.Volume())
+    {
+        for (const ColumnDefinition& column : list.columns)
+            m_oldIds.push_back(column.id);
+        m_error = Create(catalogue, list);
+        if (m_error == ErrorNumber::None && !m_data.BeginTransaction())
+            m_error = m_data.LastError();
+    }
+
+    void Write(const Record& record)
+    {
+        std::vector<PropertyValue> values;
+        for (const PropertyValue& value : record.values) {
+            const auto place = std::ranges::find(m_oldIds, value.id) - m_oldIds.begin();
+            if (place < std::ssize(m_oldIds))
+                values.push_back({ m_list.columns[static_cast<size_t>(place)].id, 0, value.value });
+        }
+        const bool isWanted = m_error == ErrorNumber::None && !values.empty();
+        if (isWanted && m_data.Write(ListCatalogue::kRowsType, kNoObject, values) == kNoObject)
+            m_error = m_data.LastError();
+    }
+    [[nodiscard]] Result<void> End()
+    {
+        if (m_error == ErrorNumber::None && !m_data.EndTransaction(true))
+            m_error = m_data.LastError();
+        return m_error;
+    }
+
+private:
+    DataVolume& m_data;
+    InventoryList m_list;
+    std::vector<PropertyId> m_oldIds;
+    ErrorNumber m_error = ErrorNumber::None;
+
+    /// Columns get new identifiers, drawn at random; two that draw one make the list fail.
+    [[nodiscard]] ErrorNumber Create(ListCatalogue& catalogue, const InventoryList& list)
+    {
+        constexpr int kDraws = 8;
+        for (int draw = 0; draw < kDraws; ++draw) {
+            m_list = list;
+            const auto created = catalogue.CreateList(m_list);
+            if (created.isCommitted)
+                return catalogue.OpenList(created.oid, m_list) ? ErrorNumber::None
+                                                               : m_data.LastError();
+        }
+        return m_data.LastError();
+    }
+};
+
+/// Saves into `catalogue`, or only counts if it is null.
+Result<SalvageReport> Salvage(const DamagedVolume& volume, ListCatalogue* catalogue)
+{
+    SalvageReport report;
+    report.mayListsBeLost = volume.AreDatabasesLost();
+    Definitions definitions = ReadDefinitions(volume, report);
+    const auto& databases = volume.Databases();
+    for (size_t i = 0; i < databases.size(); ++i) {
+        const DamagedVolume::DatabaseContent& content = databases[i];
+        if (content.info.type != ListCatalogue::kRowsType || content.properties.empty())
+            continue;
+        const InventoryList list = DefinitionFor(content, definitions);
+        std::optional<ListWriter> writer;
+        if (catalogue != nullptr)
+            writer.emplace(*catalogue, list);
+        const auto outcome = volume.ReadRecords(i, [&writer](const Record& record) {
+            if (writer)
+                writer->Write(record);
+        });
+        const Result<void> written = writer ? writer->End() : Result<void>();
+        if (!written)
+            return written.Error();
+        report.lists.push_back({ list.Name, outcome.records, outcome.lostRecords,
+            content.isComplete && outcome.lostPages == 0 });
+        definitions.remove(content.info.name);
+    }
+    for (const InventoryList& lost : std::as_const(definitions))
+        report.lostLists << lost.Name;
+    report.lostLists.sort();
+    return report;
+}
+
+Result<SalvageReport> SalvageInto(const DamagedVolume& volume, const QString& path)
+{
+    DataVolume data;
+    if (const auto error = data.Mount(path, Disposition::OpenAlways); error != ErrorNumber::None)
+        return error;
+    ListCatalogue catalogue(data);
+    if (catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
+        return data.LastError();
+    return Salvage(volume, &catalogue);
+}
+
+} // namespace
+
+Result<SalvageReport> ExamineLists(const QString& damaged)
+{
+    const auto volume = DamagedVolume::Open(damaged);
+    if (!volume)
+        return volume.Error();
+    return Salvage(*volume, nullptr);
+}
+
+Result<SalvageReport> SalvageLists(const QString& damaged, const QString& target)
+{
+    const auto volume = DamagedVolume::Open(damaged);
+    if (!volume)
+        return volume.Error();
+    const auto path = ResolveVolumePath(target);
+    if (!path)
+        return path.Error();
+    if (QFile::exists(QFile::decodeName(*path)))
+        return ErrorNumber::FileExists;
+    const QByteArray unfinished = UnfinishedName(*path);
+    const auto removeUnfinished
+        = qScopeGuard([&] { QFile::remove(QFile::decodeName(unfinished)); });
+    auto report = SalvageInto(*volume, QFile::decodeName(unfinished));
+    const bool isLost = report && (report->mayListsBeLost || !report->lostLists.isEmpty());
+    if (isLost && report->lists.empty())
+        return ErrorNumber::FileCorrupt;
+    if (report) {
+        if (const auto published = PublishFile(unfinished, *path); !published)
+            return published.Error();
+    }
+    return report;
+}
+
+} // namespace Quillory

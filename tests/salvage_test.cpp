@@ -1,0 +1,284 @@
+#include "propdb/confined_vfs.h"
+#include "store/salvage.h"
+#include "tests/list_fixture.h"
+
+#include <QFile>
+#include <QTest>
+#include <QtEndian>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kRows = 400;
+/// First bytes of pages.
+constexpr char kIndexLeaf = 0x0A;
+constexpr char kTableLeaf = 0x0D;
+constexpr char kTableInner = 0x05;
+
+QByteArray Contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+QByteArray Units(const QString& text)
+{
+    QByteArray bytes(text.size() * 2, Qt::Uninitialized);
+    qToBigEndian<quint16>(text.utf16(), text.size(), bytes.data());
+    return bytes;
+}
+
+QString NameOfRow(int row)
+{
+    return u"row %1"_s.arg(row, 4, 10, QChar(u'0'));
+}
+
+/// A data file of two lists, one large and one small, for damaging.
+class Damage
+{
+public:
+    Damage()
+    {
+        ListFixture file;
+        Fill(file, u"Pantry"_s, kRows);
+        Fill(file, u"Tools"_s, 3);
+        file.rows.reset();
+        file.data->Unmount();
+        if (!QFile::copy(file.Path(), Path()))
+            qFatal("the data file cannot be copied");
+        bytes = Contents(Path());
+    }
+
+    QString Path() const { return m_folder.filePath(u"damaged.idb"_s); }
+    QString Target() const { return m_folder.filePath(u"saved.idb"_s); }
+    /// The number, from 0, of a page of this kind that holds a text and not another.
+    qsizetype PageOf(char kind, const QString& text, const QString& other = u"no such text"_s) const
+    {
+        for (qsizetype page = 1; page < bytes.size() / kPageSize; ++page) {
+            const QByteArray content = bytes.mid(page * kPageSize, kPageSize);
+            if (content[0] == kind && content.contains(Units(text))
+                && !content.contains(Units(other)))
+                return page;
+        }
+        qFatal("there is no such page");
+    }
+    qsizetype InnerPage() const
+    {
+        for (qsizetype page = 1; page < bytes.size() / kPageSize; ++page) {
+            if (bytes[page * kPageSize] == kTableInner)
+                return page;
+        }
+        qFatal("there is no such page");
+    }
+    void FlipBit(qsizetype page)
+    {
+        constexpr qsizetype kSomewhere = 3001;
+        char& byte = bytes.data()[page * kPageSize + kSomewhere];
+        byte = static_cast<char>(byte ^ 4);
+        Write();
+    }
+    void Write() const
+    {
+        QFile file(Path());
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("the file cannot be damaged");
+    }
+
+    QByteArray bytes;
+
+private:
+    QTemporaryDir m_folder;
+
+    static void Fill(ListFixture& file, const QString& name, int rows)
+    {
+        file.MakeFullList(name);
+        if (!file.data->BeginTransaction())
+            qFatal("no transaction");
+        // In no order, so that the pages of the table and of the index hold different rows.
+        for (int i = 0; i < rows; ++i) {
+            const int row = i * 7 % rows;
+            file.Add({ NameOfRow(row), QString::number(row), u"shelf"_s, u"Checked"_s, u"1.25"_s,
+                u"-7"_s, u"2/29/2024"_s });
+        }
+        file.Add({ u"long"_s, {}, QString(20'000, u'x') });
+        if (!file.data->EndTransaction(true))
+            qFatal("no commit");
+    }
+};
+
+/// What stands in a salvaged file: each list's name with its number of rows; the name ends at the
+/// first digit. "wrong" if a row is not as it was.
+QString Saved(const QString& path)
+{
+    DataVolume data;
+    ListCatalogue catalogue(data);
+    if (data.Mount(path, Disposition::OpenExisting) != ErrorNumber::None
+        || !data.MountedVolume()->Check()->empty()
+        || catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
+        return u"unreadable"_s;
+    QStringList lists;
+    const ValueContext context = TestContext();
+    for (const auto& entry : catalogue.FillHomeList()) {
+        InventoryList list;
+        if (!catalogue.OpenList(entry.oid, list) || list.columns.size() != 8)
+            return u"unreadable"_s;
+        RowStore store(data, list, context);
+        const auto rows = store.FillRows();
+        for (const ObjectId row : rows) {
+            QStringList texts;
+            for (const ColumnDefinition& column : list.columns)
+                texts << store.FormatCellText(column.id, row);
+            const int number = texts[1].toInt();
+            const bool isRight = texts[0] == u"long"_s ? texts[2].size() == 20'000
+                                                       : texts.join(u' ')
+                    == u"%1 %2 shelf  1.25 -7 2/29/2024 "_s.arg(NameOfRow(number)).arg(number);
+            if (!isRight)
+                return u"wrong: "_s + texts.join(u' ');
+        }
+        const auto digit = std::find_if(
+            entry.name.begin(), entry.name.end(), [](QChar unit) { return unit.isDigit(); });
+        lists << entry.name.left(digit - entry.name.begin())
+                + (digit == entry.name.end() ? u""_s : u"#"_s) + u' '
+                + QString::number(rows.size());
+    }
+    return lists.join(u' ');
+}
+
+} // namespace
+
+class SalvageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatCanBeReadIsSaved_data();
+    void whatCanBeReadIsSaved();
+    void aCutFileLosesItsEnd();
+    void whereNothingIsLeftNothingIsMade_data();
+    void whereNothingIsLeftNothingIsMade();
+    void anyBitMayFlip();
+    void anExistingFileIsNotReplaced();
+};
+
+void SalvageTest::whatCanBeReadIsSaved_data()
+{
+    QTest::addColumn<int>("damage");
+    QTest::addColumn<QString>("saved");
+    QTest::addColumn<bool>("areListsLost");
+    QTest::newRow("nothing is damaged") << 0 << u"Pantry 401 Tools 4"_s << false;
+    QTest::newRow("a page of the index") << 1 << u"Pantry 401 Tools 4"_s << false;
+    QTest::newRow("the page above those of the rows") << 2 << u"Pantry 401 Tools 4"_s << false;
+    QTest::newRow("the page of the lists") << 3 << u"Pantry# 401 Tools# 4"_s << true;
+}
+
+void SalvageTest::whatCanBeReadIsSaved()
+{
+    QFETCH(int, damage);
+    QFETCH(QString, saved);
+    QFETCH(bool, areListsLost);
+    Damage file;
+    if (damage == 1)
+        file.FlipBit(file.PageOf(kIndexLeaf, NameOfRow(200)));
+    else if (damage == 2)
+        file.FlipBit(file.InnerPage());
+    else if (damage == 3)
+        file.FlipBit(file.PageOf(kTableLeaf, u"Pantry"_s, u"InvLists"_s));
+    const auto report = SalvageLists(file.Path(), file.Target());
+    QVERIFY(report);
+    QCOMPARE(report->mayListsBeLost, areListsLost);
+    QCOMPARE(Saved(file.Target()), saved);
+    QCOMPARE(Contents(file.Path()), file.bytes);
+    const auto examined = ExamineLists(file.Path());
+    QVERIFY(examined);
+    QCOMPARE(examined->lists.size(), size_t { 2 });
+    QCOMPARE(examined->lists.front().rows, kRows + 1);
+    QCOMPARE(examined->lists.front().lostRows, 0);
+}
+
+void SalvageTest::aCutFileLosesItsEnd()
+{
+    Damage whole;
+    const qsizetype rowsPage = whole.PageOf(kTableLeaf, NameOfRow(200));
+    for (const bool isCut : { false, true }) {
+        Damage file;
+        if (isCut)
+            file.bytes.truncate(rowsPage * kPageSize + 100);
+        file.Write();
+        if (!isCut)
+            file.FlipBit(rowsPage);
+        const auto report = SalvageLists(file.Path(), file.Target());
+        QVERIFY(report);
+        QCOMPARE(report->mayListsBeLost, false);
+        const SalvageReport::List& pantry = report->lists.front();
+        QCOMPARE(pantry.name, u"Pantry"_s);
+        QVERIFY(!pantry.isComplete);
+        QVERIFY2(pantry.rows < kRows && pantry.rows > kRows / 10,
+            qPrintable(QString::number(pantry.rows)));
+        if (!isCut)
+            QCOMPARE(pantry.rows + pantry.lostRows, kRows + 1);
+        QVERIFY2(Saved(file.Target()).startsWith(u"Pantry %1"_s.arg(pantry.rows)),
+            qPrintable(Saved(file.Target())));
+        QCOMPARE(Contents(file.Path()), file.bytes);
+    }
+}
+
+void SalvageTest::whereNothingIsLeftNothingIsMade_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("error");
+    Damage file;
+    QByteArray flipped = file.bytes;
+    flipped[200] = static_cast<char>(flipped[200] ^ 1);
+    QTest::newRow("the first page") << flipped << int(ErrorNumber::FileCorrupt);
+    QTest::newRow("cut within the first page")
+        << file.bytes.left(2000) << int(ErrorNumber::BadFormat);
+    QTest::newRow("no data file") << QByteArray(10'000, 'x') << int(ErrorNumber::BadFormat);
+    QTest::newRow("empty") << QByteArray() << int(ErrorNumber::BadFormat);
+    const qsizetype columns = file.PageOf(kIndexLeaf, u"Shelf"_s);
+    file.FlipBit(columns);
+    QTest::newRow("the columns of all lists") << file.bytes << int(ErrorNumber::FileCorrupt);
+}
+
+void SalvageTest::whereNothingIsLeftNothingIsMade()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, error);
+    Damage file;
+    file.bytes = bytes;
+    file.Write();
+    QCOMPARE(int(SalvageLists(file.Path(), file.Target()).Error()), error);
+    QVERIFY(!QFile::exists(file.Target()));
+    QCOMPARE(QDir(QFileInfo(file.Path()).path()).entryList(QDir::Files).size(), 1);
+    QCOMPARE(Contents(file.Path()), bytes);
+}
+
+void SalvageTest::anyBitMayFlip()
+{
+    Damage file;
+    const QByteArray sound = file.bytes;
+    for (qsizetype page = 1; page < sound.size() / kPageSize; ++page) {
+        file.bytes = sound;
+        file.FlipBit(page);
+        const auto report = SalvageLists(file.Path(), file.Target());
+        if (!report)
+            continue;
+        QVERIFY2(!Saved(file.Target()).contains(u"wrong"_s), qPrintable(QString::number(page)));
+        QVERIFY(QFile::remove(file.Target()));
+    }
+}
+
+void SalvageTest::anExistingFileIsNotReplaced()
+{
+    Damage file;
+    QFile target(file.Target());
+    QVERIFY(target.open(QIODevice::WriteOnly));
+    target.write("mine");
+    target.close();
+    QCOMPARE(SalvageLists(file.Path(), file.Target()).Error(), ErrorNumber::FileExists);
+    QCOMPARE(Contents(file.Target()), "mine"_ba);
+}
+
+QTEST_GUILESS_MAIN(SalvageTest)
+#include "salvage_test.moc"
