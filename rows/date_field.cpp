@@ -30,20 +30,26 @@ DateField::DateField(const ValueContext& context, QWidget* parent)
     m_edit->setObjectName(u"dateEdit"_s);
     m_edit->setInputMethodHints(Qt::ImhDate);
     m_edit->installEventFilter(this);
-    auto* button = new QToolButton(this);
+    auto* button = new QToolButton(m_edit);
     button->setObjectName(u"openCalendar"_s);
     button->setAccessibleName(tr("Calendar"));
     button->setArrowType(Qt::DownArrow);
+    button->setAutoRaise(true);
+    button->setCursor(Qt::ArrowCursor);
     button->setFocusPolicy(Qt::NoFocus);
-    button->setMinimumWidth(CurrentMeasures().lineHeight);
+    button->setFixedWidth(CurrentMeasures().lineHeight);
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     m_edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     connect(button, &QToolButton::clicked, this, &DateField::OpenCalendar);
+    // The button lies inside the line, at its end.
+    auto* inside = new QHBoxLayout(m_edit);
+    inside->setContentsMargins(2, 2, 2, 2);
+    inside->addStretch(1);
+    inside->addWidget(button);
+    m_edit->setTextMargins(0, 0, button->width(), 0);
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(0);
-    line->addWidget(m_edit, 1);
-    line->addWidget(button);
+    line->addWidget(m_edit);
     setFocusProxy(m_edit);
     SetDate(std::nullopt);
 }

@@ -6,9 +6,9 @@
 
 #include <optional>
 
-class QTableView;
-
 namespace Quillory {
+
+class RowsTable;
 
 struct RowsViewOptions
 {
@@ -40,7 +40,7 @@ private:
     const ValueContext& m_context;
     RowsViewOptions m_options;
     RowsModel* m_model;
-    QTableView* m_view;
+    RowsTable* m_view;
     /// The criteria of the rows shown; none once filters were cleared, as at first.
     std::optional<FilterSet> m_filters;
     std::vector<int> m_checkboxColumns;
