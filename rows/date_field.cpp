@@ -20,6 +20,28 @@ namespace {
 /// File times begin here.
 constexpr int kFirstYear = 1601;
 
+constexpr int kDays = 7;
+
+/// Days that fingers can hit, in the colours of the palette alone.
+void DressCalendar(QCalendarWidget* calendar)
+{
+    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendar->setMinimumWidth(kDays * kMinTouchTarget);
+    calendar->setMinimumHeight(kDays * kMinTouchTarget);
+    // The cells of lists have room around their texts; here that would leave none for the days.
+    calendar->setStyleSheet(u"QTableView::item { padding: 0; }"_s);
+    for (const auto day : { Qt::Saturday, Qt::Sunday })
+        calendar->setWeekdayTextFormat(day, calendar->weekdayTextFormat(Qt::Monday));
+    for (const auto& [name, text] : { std::pair(u"qt_calendar_prevmonth"_s, u"‹"_s),
+             std::pair(u"qt_calendar_nextmonth"_s, u"›"_s) }) {
+        if (auto* button = calendar->findChild<QToolButton*>(name)) {
+            button->setIcon({});
+            button->setText(text);
+            button->setMinimumSize(CurrentMeasures().lineHeight, CurrentMeasures().lineHeight);
+        }
+    }
+}
+
 } // namespace
 
 DateField::DateField(const ValueContext& context, QWidget* parent)
@@ -103,7 +125,7 @@ void DateField::OpenCalendar()
     auto* calendar = new QCalendarWidget(popup);
     calendar->setObjectName(u"calendar"_s);
     calendar->setAccessibleName(accessibleName());
-    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    DressCalendar(calendar);
     calendar->setMinimumDate(QDate(kFirstYear, 1, 1));
     calendar->setSelectedDate(Date().value_or(m_context.clock().date));
     auto* layout = new QVBoxLayout(popup);

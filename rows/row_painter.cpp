@@ -30,13 +30,30 @@ RowPainter::Face::Face(const QFont& faceFont)
     : font(faceFont)
     , metrics(faceFont)
 {
-    int narrowest = metrics.horizontalAdvance(u'0');
-    int widest = narrowest;
-    for (char16_t figure = u'1'; figure <= u'9'; ++figure) {
-        narrowest = std::min(narrowest, metrics.horizontalAdvance(figure));
-        widest = std::max(widest, metrics.horizontalAdvance(figure));
-    }
-    figureWidth = narrowest == widest ? 0 : widest;
+    for (size_t code = 0; code < advances.size(); ++code)
+        advances[code] = metrics.horizontalAdvance(QChar(static_cast<char16_t>(code)));
+    const auto figures = std::minmax_element(advances.begin() + '0', advances.begin() + '9' + 1);
+    figureWidth = *figures.second;
+    hasEvenFigures = *figures.first == *figures.second;
+}
+
+int RowPainter::Face::AdvanceOf(QChar character) const
+{
+    const char16_t code = character.unicode();
+    return code < advances.size() ? advances[code] : metrics.horizontalAdvance(character);
+}
+
+int RowPainter::Face::RoughWidth(const QString& text) const
+{
+    int width = 0;
+    for (const QChar character : text)
+        width += AdvanceOf(character);
+    return width;
+}
+
+int RowPainter::Face::BaseLine(const QRect& room) const
+{
+    return room.top() + (room.height() - metrics.height()) / 2 + metrics.ascent();
 }
 
 RowPainter::RowPainter(const QFont& font)
@@ -65,21 +82,21 @@ QRect RowPainter::TextRoom(const QRect& cell) const
     return cell.adjusted(margin, 0, -margin, 0);
 }
 
-void RowPainter::DrawText(QPainter& painter, const QRect& room, const QString& text,
-    const RowLook& look, Qt::Alignment side) const
+QString RowPainter::Cut(const Face& face, const QString& text, int width)
 {
-    const Face& face = FaceOf(look);
-    painter.setFont(face.font);
-    painter.setPen(look.text);
-    const bool isCut = face.metrics.horizontalAdvance(text) > room.width();
-    painter.drawText(room, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine,
-        isCut ? face.metrics.elidedText(text, Qt::ElideRight, room.width()) : text);
+    if (face.RoughWidth(text) <= width)
+        return text;
+    return face.metrics.elidedText(text, Qt::ElideRight, width);
 }
 
 void RowPainter::DrawLabel(
     QPainter& painter, const QRect& cell, const QString& text, const RowLook& look) const
 {
-    DrawText(painter, TextRoom(cell), text, look, Qt::AlignLeft);
+    const Face& face = FaceOf(look);
+    const QRect room = TextRoom(cell);
+    painter.setFont(face.font);
+    painter.setPen(look.text);
+    painter.drawText(room.left(), face.BaseLine(room), Cut(face, text, room.width()));
 }
 
 void RowPainter::DrawNumber(
@@ -87,24 +104,22 @@ void RowPainter::DrawNumber(
 {
     const Face& face = FaceOf(look);
     const QRect room = TextRoom(cell);
-    const auto widthOf = [&face](QChar character) {
-        return IsFigure(character) ? face.figureWidth : face.metrics.horizontalAdvance(character);
-    };
-    int width = 0;
-    for (const QChar character : text)
-        width += widthOf(character);
-    if (face.figureWidth == 0 || width > room.width())
-        return DrawText(painter, room, text, look, Qt::AlignRight);
+    const QString shown = Cut(face, text, room.width());
     painter.setFont(face.font);
     painter.setPen(look.text);
-    int x = room.right() + 1 - width;
-    const int base
-        = room.top() + (room.height() - face.metrics.height()) / 2 + face.metrics.ascent();
-    for (const QChar character : text) {
-        const int advance = widthOf(character);
-        const int spare = advance - face.metrics.horizontalAdvance(character);
-        painter.drawText(x + spare / 2, base, QString(character));
-        x += advance;
+    const int base = face.BaseLine(room);
+    if (face.hasEvenFigures) {
+        painter.drawText(room.right() + 1 - face.RoughWidth(shown), base, shown);
+        return;
+    }
+    const auto widthOf = [&face](QChar character) {
+        return IsFigure(character) ? face.figureWidth : face.AdvanceOf(character);
+    };
+    int x = room.right() + 1;
+    for (auto character = shown.crbegin(); character != shown.crend(); ++character) {
+        const int width = widthOf(*character);
+        x -= width;
+        painter.drawText(x + (width - face.AdvanceOf(*character)) / 2, base, QString(*character));
     }
 }
 

@@ -7,6 +7,8 @@
 #include <QIcon>
 #include <QRect>
 
+#include <array>
+
 class QPainter;
 
 namespace Quillory {
@@ -41,8 +43,17 @@ private:
 
         QFont font;
         QFontMetrics metrics;
-        /// The width of the widest figure, if they differ in width; else 0.
+        /// Of the ASCII characters, so that most texts are measured without shaping them.
+        std::array<int, 128> advances {};
+        /// The width of the widest figure.
         int figureWidth = 0;
+        bool hasEvenFigures = false;
+
+        [[nodiscard]] int AdvanceOf(QChar character) const;
+        /// The sum of the characters' advances. Close to the width of the text, if not exact.
+        [[nodiscard]] int RoughWidth(const QString& text) const;
+        /// Where the base line of a line of text is that stands in the middle of `room`.
+        [[nodiscard]] int BaseLine(const QRect& room) const;
     };
 
     Face m_upright;
@@ -52,8 +63,7 @@ private:
 
     [[nodiscard]] const Face& FaceOf(const RowLook& look) const;
     [[nodiscard]] QRect TextRoom(const QRect& cell) const;
-    void DrawText(QPainter& painter, const QRect& room, const QString& text, const RowLook& look,
-        Qt::Alignment side) const;
+    [[nodiscard]] static QString Cut(const Face& face, const QString& text, int width);
 };
 
 } // namespace Quillory
