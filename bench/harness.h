@@ -25,6 +25,8 @@ struct BenchCase
     /// How much longer ten times the rows may take.
     double growthLimit = 11;
     std::function<Timing(int rows)> run;
+    /// Milliseconds that must not be exceeded whatever the floor takes; 0 for no such limit.
+    double limitMs = 0;
 };
 
 struct BenchOptions

@@ -1,16 +1,18 @@
 #include "bench/harness.h"
+#include "bench/rows_cases.h"
 #include "bench/store_cases.h"
 #include "bench/transfer_cases.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
-#include <QCoreApplication>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 
-int main(int argc, char** argv)
+namespace {
+
+BenchOptions ReadOptions(const QCoreApplication& application)
 {
-    const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Times Quillory against bare SQLite, in one run."_s);
     parser.addHelpOption();
@@ -28,11 +30,28 @@ int main(int argc, char** argv)
         options.sizes = { 100000, 1000000 };
     options.repeat = std::max(1, parser.value(repeat).toInt());
     options.nameFilter = parser.positionalArguments().value(0);
-    // First, while this process is small: a child counts its parent's memory as its own.
+    return options;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    BenchOptions options;
+    {
+        const QCoreApplication application(argc, argv);
+        options = ReadOptions(application);
+        // First, while this process is small: a child counts its parent's memory as its own.
+        if (options.nameFilter.isEmpty())
+            PrintImportMemory(options.sizes);
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
     if (options.nameFilter.isEmpty())
-        PrintImportMemory(options.sizes);
+        PrintRowMemory(options.sizes);
     PrintHeading();
     RunCases(StoreCases(), options);
     RunCases(TransferCases(), options);
+    RunCases(RowsCases(), options);
     return 0;
 }

@@ -20,6 +20,28 @@ namespace {
 /// File times begin here.
 constexpr int kFirstYear = 1601;
 
+constexpr int kDays = 7;
+
+/// Days that fingers can hit, in the colours of the palette alone.
+void DressCalendar(QCalendarWidget* calendar)
+{
+    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendar->setMinimumWidth(kDays * kMinTouchTarget);
+    calendar->setMinimumHeight(kDays * kMinTouchTarget);
+    // The cells of lists have room around their texts; here that would leave none for the days.
+    calendar->setStyleSheet(u"QTableView::item { padding: 0; }"_s);
+    for (const auto day : { Qt::Saturday, Qt::Sunday })
+        calendar->setWeekdayTextFormat(day, calendar->weekdayTextFormat(Qt::Monday));
+    for (const auto& [name, text] : { std::pair(u"qt_calendar_prevmonth"_s, u"‹"_s),
+             std::pair(u"qt_calendar_nextmonth"_s, u"›"_s) }) {
+        if (auto* button = calendar->findChild<QToolButton*>(name)) {
+            button->setIcon({});
+            button->setText(text);
+            button->setMinimumSize(CurrentMeasures().lineHeight, CurrentMeasures().lineHeight);
+        }
+    }
+}
+
 } // namespace
 
 DateField::DateField(const ValueContext& context, QWidget* parent)
@@ -30,20 +52,26 @@ DateField::DateField(const ValueContext& context, QWidget* parent)
     m_edit->setObjectName(u"dateEdit"_s);
     m_edit->setInputMethodHints(Qt::ImhDate);
     m_edit->installEventFilter(this);
-    auto* button = new QToolButton(this);
+    auto* button = new QToolButton(m_edit);
     button->setObjectName(u"openCalendar"_s);
     button->setAccessibleName(tr("Calendar"));
     button->setArrowType(Qt::DownArrow);
+    button->setAutoRaise(true);
+    button->setCursor(Qt::ArrowCursor);
     button->setFocusPolicy(Qt::NoFocus);
-    button->setMinimumWidth(CurrentMeasures().lineHeight);
+    button->setFixedWidth(CurrentMeasures().lineHeight);
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     m_edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     connect(button, &QToolButton::clicked, this, &DateField::OpenCalendar);
+    // The button lies inside the line, at its end.
+    auto* inside = new QHBoxLayout(m_edit);
+    inside->setContentsMargins(2, 2, 2, 2);
+    inside->addStretch(1);
+    inside->addWidget(button);
+    m_edit->setTextMargins(0, 0, button->width(), 0);
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(0);
-    line->addWidget(m_edit, 1);
-    line->addWidget(button);
+    line->addWidget(m_edit);
     setFocusProxy(m_edit);
     SetDate(std::nullopt);
 }
@@ -97,7 +125,7 @@ void DateField::OpenCalendar()
     auto* calendar = new QCalendarWidget(popup);
     calendar->setObjectName(u"calendar"_s);
     calendar->setAccessibleName(accessibleName());
-    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    DressCalendar(calendar);
     calendar->setMinimumDate(QDate(kFirstYear, 1, 1));
     calendar->setSelectedDate(Date().value_or(m_context.clock().date));
     auto* layout = new QVBoxLayout(popup);

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <tuple>
 
 namespace Quillory {
 
@@ -46,6 +47,7 @@ FilterPage::FilterPage(FilterDialogState state, const InventoryList& list,
     FillConditions();
     SelectStoredCondition();
     ShowStoredValue();
+    m_startEntry = ChosenEntry();
     connect(m_field, &QComboBox::currentIndexChanged, this, &FilterPage::FillConditions);
 
     Form form(Body());
@@ -149,14 +151,25 @@ QString FilterPage::ValueText() const
     return m_text->text();
 }
 
+FilterEntry FilterPage::ChosenEntry() const
+{
+    const QVariant code = m_condition->currentData();
+    return { ChosenColumn(),
+        code.isValid() ? static_cast<FilterCondition>(code.toInt()) : FilterCondition::None,
+        ValueText() };
+}
+
+bool FilterPage::HasUnsavedInput() const
+{
+    const FilterEntry entry = ChosenEntry();
+    return std::tie(entry.column, entry.condition, entry.value)
+        != std::tie(m_startEntry.column, m_startEntry.condition, m_startEntry.value);
+}
+
 void FilterPage::RequestEnd(PageResult result)
 {
-    if (result == PageResult::Ok) {
-        const QVariant code = m_condition->currentData();
-        m_state.entry = { ChosenColumn(),
-            code.isValid() ? static_cast<FilterCondition>(code.toInt()) : FilterCondition::None,
-            ValueText() };
-    }
+    if (result == PageResult::Ok)
+        m_state.entry = ChosenEntry();
     End(result);
 }
 

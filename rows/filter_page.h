@@ -43,9 +43,12 @@ public:
     [[nodiscard]] const FilterDialogState& State() const { return m_state; }
 
     void RequestEnd(PageResult result) override;
+    [[nodiscard]] bool HasUnsavedInput() const override;
 
 private:
     FilterDialogState m_state;
+    /// What the controls said at first.
+    FilterEntry m_startEntry;
     const ValueContext& m_context;
     QComboBox* m_field;
     QComboBox* m_condition;
@@ -63,6 +66,8 @@ private:
     void ShowStoredValue();
     [[nodiscard]] PropertyId ChosenColumn() const;
     [[nodiscard]] QString ValueText() const;
+    /// What the controls say.
+    [[nodiscard]] FilterEntry ChosenEntry() const;
 };
 
 } // namespace Quillory

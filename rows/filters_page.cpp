@@ -103,9 +103,8 @@ void FiltersPage::Run(Command command)
 void FiltersPage::Add()
 {
     auto* page = new FilterPage({}, m_list, m_context);
-    auto* stack = qobject_cast<PageStack*>(parentWidget());
     // A cancelled page gives its fresh state, and that is added too: a filter that no row passes.
-    stack->Push(page, [this, page](PageResult) {
+    PageStack::Of(this).Push(page, [this, page](PageResult) {
         const FilterEntry& entry = page->State().entry;
         AddFilter(m_filters, entry.column, entry.condition, entry.value);
         AddLine(m_filters.entries.back());

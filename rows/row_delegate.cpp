@@ -2,8 +2,6 @@
 
 #include "rows/rows_model.h"
 #include "values/file_date.h"
-#include "widgets/icon_set.h"
-#include "widgets/measures.h"
 
 #include <QPainter>
 
@@ -16,14 +14,15 @@ RowDelegate::RowDelegate(const RowsModel& model, const InventoryList& list,
     , m_list(list)
     , m_context(context)
     , m_hasAlternateLines(hasAlternateLines)
+    , m_painter(QFont())
 { }
 
-QRect RowDelegate::CheckboxSquare(const QRect& cell)
+void RowDelegate::BeginFrame(const QFont& font, const QPalette& palette)
 {
-    const int size = CurrentMeasures().iconSize;
-    QRect square(0, 0, size, size);
-    square.moveCenter(cell.center());
-    return square;
+    m_today = DateToFileTime(m_context.clock().date).value_or(FileTime {});
+    m_colours = ColoursFor(m_list, m_hasAlternateLines, palette);
+    if (m_painter.Font() != font)
+        m_painter = RowPainter(font);
 }
 
 void RowDelegate::paint(
@@ -31,32 +30,20 @@ void RowDelegate::paint(
 {
     RowFacts facts = m_model.FactsOf(index.row());
     facts.isSelected = option.state.testFlag(QStyle::State_Selected);
-    const FileTime today = DateToFileTime(m_context.clock().date).value_or(FileTime {});
-    const RowLook look = DecideRowLook(facts, m_list, today, m_hasAlternateLines, option.palette);
-
-    painter->save();
-    painter->fillRect(option.rect, look.ground);
-    painter->setPen(option.palette.color(QPalette::Midlight));
-    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    const RowLook look = DecideRowLook(facts, WarningsFor(facts, m_list, m_today), m_colours);
+    const QRect& cell = option.rect;
+    painter->fillRect(cell, look.ground);
+    painter->fillRect(cell.left(), cell.bottom(), cell.width(), 1, m_colours.rule);
     if (m_model.IsCheckbox(index.column())) {
-        const bool isChecked = m_model.IsChecked(index.row(), index.column());
-        CheckboxIcon(isChecked).paint(painter, CheckboxSquare(option.rect), Qt::AlignCenter,
-            facts.isSelected ? QIcon::Selected : QIcon::Normal);
+        m_painter.DrawCheckbox(
+            *painter, cell, m_model.IsChecked(index.row(), index.column()), facts.isSelected);
+        if (option.state.testFlag(QStyle::State_HasFocus))
+            RowPainter::DrawFocus(*painter, cell, look);
+    } else if (m_model.IsNumber(index.column())) {
+        m_painter.DrawNumber(*painter, cell, m_model.Text(index.row(), index.column()), look);
     } else {
-        QFont font = option.font;
-        font.setItalic(look.isItalic);
-        const QFontMetrics metrics(font);
-        const int margin = metrics.averageCharWidth();
-        const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
-        const QString text = metrics.elidedText(
-            index.data(Qt::DisplayRole).toString(), Qt::ElideRight, room.width());
-        painter->setFont(font);
-        painter->setPen(look.text);
-        painter->drawText(room,
-            index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine | Qt::TextDontClip,
-            text);
+        m_painter.DrawLabel(*painter, cell, m_model.Text(index.row(), index.column()), look);
     }
-    painter->restore();
 }
 
 } // namespace Quillory

@@ -1,9 +1,12 @@
 #pragma once
 
-#include "store/inventory_list.h"
+#include "rows/row_look.h"
+#include "rows/row_painter.h"
 #include "values/value_text.h"
 
 #include <QStyledItemDelegate>
+
+#include <optional>
 
 namespace Quillory {
 
@@ -19,17 +22,20 @@ public:
     RowDelegate(const RowsModel& model, const InventoryList& list, const ValueContext& context,
         bool hasAlternateLines, QObject* parent);
 
+    /// To be called before the cells of a frame are painted: works out what they have in common,
+    /// the day among it.
+    void BeginFrame(const QFont& font, const QPalette& palette);
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override;
-
-    /// The square of a checkbox within its cell: what a tap must hit.
-    [[nodiscard]] static QRect CheckboxSquare(const QRect& cell);
 
 private:
     const RowsModel& m_model;
     const InventoryList& m_list;
     const ValueContext& m_context;
     bool m_hasAlternateLines;
+    RowColours m_colours;
+    FileTime m_today {};
+    RowPainter m_painter;
 };
 
 } // namespace Quillory

@@ -13,21 +13,27 @@ RowWarnings WarningsFor(const RowFacts& row, const InventoryList& list, FileTime
     return warnings;
 }
 
-RowLook DecideRowLook(const RowFacts& row, const InventoryList& list, FileTime today,
-    bool hasAlternateLines, const QPalette& palette)
+RowColours ColoursFor(const InventoryList& list, bool hasAlternateLines, const QPalette& palette)
 {
-    RowLook look { palette.color(QPalette::Text), palette.color(QPalette::Base), false };
-    if (hasAlternateLines && row.line % 2 == 0)
-        look.ground = AlternateRowColour(palette);
-    const RowWarnings warnings = WarningsFor(row, list, today);
+    const QColor ground = palette.color(QPalette::Base);
+    return { palette.color(QPalette::Text), ground,
+        hasAlternateLines ? AlternateRowColour(palette) : ground,
+        TextColour(list.TableWarnColour, palette), TextColour(list.TableExpiryColour, palette),
+        palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight),
+        palette.color(QPalette::Midlight) };
+}
+
+RowLook DecideRowLook(const RowFacts& row, const RowWarnings& warnings, const RowColours& colours)
+{
+    RowLook look { colours.text, row.line % 2 == 0 ? colours.alternateGround : colours.ground,
+        warnings.isLow && warnings.isExpired };
     if (warnings.isLow)
-        look.text = TextColour(list.TableWarnColour, palette);
+        look.text = colours.lowText;
     if (warnings.isExpired)
-        look.text = TextColour(list.TableExpiryColour, palette);
-    look.isItalic = warnings.isLow && warnings.isExpired;
+        look.text = colours.expiredText;
     if (row.isSelected) {
-        look.text = palette.color(QPalette::HighlightedText);
-        look.ground = palette.color(QPalette::Highlight);
+        look.text = colours.selectedText;
+        look.ground = colours.selectedGround;
     }
     return look;
 }

@@ -29,6 +29,20 @@ struct RowWarnings
     friend bool operator==(const RowWarnings&, const RowWarnings&) = default;
 };
 
+/// The colours that the rows of a list may have, worked out once for many of them.
+struct RowColours
+{
+    QColor text;
+    QColor ground;
+    QColor alternateGround;
+    QColor lowText;
+    QColor expiredText;
+    QColor selectedText;
+    QColor selectedGround;
+    /// The hairlines between the rows.
+    QColor rule;
+};
+
 struct RowLook
 {
     QColor text;
@@ -40,10 +54,14 @@ struct RowLook
 [[nodiscard]] RowWarnings WarningsFor(
     const RowFacts& row, const InventoryList& list, FileTime today);
 
+/// With `hasAlternateLines` the alternate ground is one of its own.
+[[nodiscard]] RowColours ColoursFor(
+    const InventoryList& list, bool hasAlternateLines, const QPalette& palette);
+
 /// How a row is drawn: selection goes before the expiry colour, that before the count colour, that
-/// before the colour of text; both warnings together are in italics. With `hasAlternateLines` the
-/// first line and every second from there has a ground of its own.
-[[nodiscard]] RowLook DecideRowLook(const RowFacts& row, const InventoryList& list, FileTime today,
-    bool hasAlternateLines, const QPalette& palette);
+/// before the colour of text; both warnings together are in italics. The first line and every
+/// second from there has the alternate ground.
+[[nodiscard]] RowLook DecideRowLook(
+    const RowFacts& row, const RowWarnings& warnings, const RowColours& colours);
 
 } // namespace Quillory

@@ -11,6 +11,8 @@ namespace {
 
 /// Several screens full.
 constexpr int kShownRows = 512;
+/// More of a text than any cell has room for.
+constexpr qsizetype kMaxCellText = 260;
 
 } // namespace
 
@@ -79,8 +81,9 @@ const RowsModel::ShownRow& RowsModel::Shown(int line) const
     auto* shown = new ShownRow { m_store.ReadRow(RowAt(line)), {} };
     for (const ColumnDefinition& column : m_list.columns) {
         const PropertyValue* value = FindProperty(shown->record.values, column.id);
-        shown->texts.push_back(
-            shown->record ? FormatCellText(value, column.id, m_context) : u"<Err>"_s);
+        shown->texts.push_back(shown->record
+                ? FormatCellText(value, column.id, m_context).left(kMaxCellText)
+                : u"<Err>"_s);
     }
     m_shown.insert(key, shown);
     return *m_shown.object(key);
@@ -103,6 +106,17 @@ bool RowsModel::IsCheckbox(int column) const
     return ColumnTypeOf(ColumnId(column)) == ColumnType::Checkbox;
 }
 
+bool RowsModel::IsNumber(int column) const
+{
+    const ColumnType type = ColumnTypeOf(ColumnId(column));
+    return type == ColumnType::Integer || type == ColumnType::Price;
+}
+
+QString RowsModel::Text(int line, int column) const
+{
+    return Shown(line).texts[static_cast<size_t>(column)];
+}
+
 bool RowsModel::IsChecked(int line, int column) const
 {
     const PropertyValue* value = FindProperty(Shown(line).record.values, ColumnId(column));
@@ -121,16 +135,10 @@ int RowsModel::columnCount(const QModelIndex& parent) const
 
 Qt::Alignment RowsModel::AlignmentOf(int column) const
 {
-    switch (ColumnTypeOf(ColumnId(column))) {
-    case ColumnType::Integer:
-    case ColumnType::Price:
+    if (IsNumber(column))
         return Qt::AlignRight | Qt::AlignVCenter;
-    case ColumnType::Checkbox:
+    if (IsCheckbox(column))
         return Qt::AlignCenter;
-    case ColumnType::String:
-    case ColumnType::Date:
-        break;
-    }
     return Qt::AlignLeft | Qt::AlignVCenter;
 }
 
@@ -138,7 +146,7 @@ QString RowsModel::AccessibleText(int line, int column) const
 {
     if (IsCheckbox(column))
         return IsChecked(line, column) ? m_context.checkedText : m_context.uncheckedText;
-    return Shown(line).texts[static_cast<size_t>(column)];
+    return Text(line, column);
 }
 
 QString RowsModel::WarningText(int line) const
@@ -159,7 +167,7 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return Shown(index.row()).texts[static_cast<size_t>(index.column())];
+        return Text(index.row(), index.column());
     case Qt::TextAlignmentRole:
         return QVariant(AlignmentOf(index.column()));
     case Qt::AccessibleTextRole:

@@ -35,7 +35,11 @@ public:
 
     [[nodiscard]] RowFacts FactsOf(int line) const;
     [[nodiscard]] bool IsCheckbox(int column) const;
+    /// Whether a column holds whole numbers or prices.
+    [[nodiscard]] bool IsNumber(int column) const;
     [[nodiscard]] bool IsChecked(int line, int column) const;
+    /// The text of a cell; empty in a checkbox column.
+    [[nodiscard]] QString Text(int line, int column) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;

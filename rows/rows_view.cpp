@@ -5,10 +5,10 @@
 #include "rows/column_layout.h"
 #include "rows/filter_page.h"
 #include "rows/filters_page.h"
-#include "rows/row_delegate.h"
 #include "rows/row_editor.h"
+#include "rows/row_painter.h"
+#include "rows/rows_table.h"
 #include "rows/summary_page.h"
-#include "widgets/line_view.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 #include "widgets/touch.h"
@@ -18,7 +18,6 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -36,7 +35,7 @@ RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& cont
     , m_options(options)
     , m_deleter([this](ObjectId row) { return m_store.DeleteRow(row); })
     , m_model(new RowsModel(rows, list, context, this))
-    , m_view(new QTableView(this))
+    , m_view(new RowsTable(*m_model, list, context, options.hasAlternateLines, this))
 {
     setObjectName(u"rows"_s);
     if (m_options.foundBy) {
@@ -60,16 +59,8 @@ RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& cont
 
 void RowsView::BuildTable()
 {
-    m_view->setObjectName(u"rowsTable"_s);
-    m_view->setAccessibleName(m_list.Name);
-    m_view->setModel(m_model);
-    m_view->setItemDelegate(
-        new RowDelegate(*m_model, m_list, m_context, m_options.hasAlternateLines, m_view));
-    DressLineView(m_view);
-    QHeaderView* header = m_view->horizontalHeader();
-    header->setSectionsMovable(true);
-    header->setSectionsClickable(true);
-    connect(header, &QHeaderView::sectionClicked, this, &RowsView::SortByColumn);
+    connect(
+        m_view->horizontalHeader(), &QHeaderView::sectionClicked, this, &RowsView::SortByColumn);
     connect(m_view, &QTableView::clicked, this, &RowsView::TapCell);
     connect(m_view, &QTableView::doubleClicked, this, &RowsView::DoubleTapCell);
     auto* touch = new TouchBehaviour(m_view);
@@ -199,7 +190,7 @@ void RowsView::OpenRowMenu(const QPoint& position)
 
 void RowsView::Push(Page* page, std::function<void(PageResult)> then)
 {
-    qobject_cast<PageStack*>(parentWidget())->Push(page, std::move(then));
+    PageStack::Of(this).Push(page, std::move(then));
 }
 
 void RowsView::OpenEditor(const Record* row, std::function<void(const std::vector<QString>&)> store)
@@ -280,7 +271,7 @@ void RowsView::TapCell(const QModelIndex& index)
 {
     if (m_options.isReadOnly || !m_model->IsCheckbox(index.column()))
         return;
-    if (RowDelegate::CheckboxSquare(m_view->visualRect(index)).contains(m_tapPosition))
+    if (RowPainter::CheckboxSquare(m_view->visualRect(index)).contains(m_tapPosition))
         ToggleCheckbox(index.row(), index.column());
 }
 

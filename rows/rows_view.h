@@ -6,9 +6,9 @@
 
 #include <optional>
 
-class QTableView;
-
 namespace Quillory {
+
+class RowsTable;
 
 struct RowsViewOptions
 {
@@ -51,7 +51,7 @@ private:
     RowsViewOptions m_options;
     RowDeleter m_deleter;
     RowsModel* m_model;
-    QTableView* m_view;
+    RowsTable* m_view;
     /// The criteria of the rows shown; none once filters were cleared, as at first.
     std::optional<FilterSet> m_filters;
     std::vector<int> m_checkboxColumns;

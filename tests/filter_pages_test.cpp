@@ -239,7 +239,9 @@ void FilterPagesTest::aDateIsPickedFromTheCalendar()
 void FilterPagesTest::cancelGivesTheStateBack()
 {
     ShowFilter();
+    QVERIFY(!m_stack->Top()->HasUnsavedInput());
     Find<QComboBox>("fieldBox")->setCurrentText(u"Bio"_s);
+    QVERIFY(m_stack->Top()->HasUnsavedInput());
     Press("leftKey");
     QCOMPARE(m_result, PageResult::Cancel);
     QCOMPARE(m_state.entry.column, PropertyId {});

@@ -356,12 +356,16 @@ void RowsViewTest::looksFollowWarnings()
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Highlight, Qt::blue);
     palette.setColor(QPalette::HighlightedText, Qt::yellow);
-    const RowLook look = DecideRowLook(row, list, *DateToFileTime(today), true, palette);
+    const auto lookOf = [&row, &palette, today](const InventoryList& of, bool hasAlternateLines) {
+        return DecideRowLook(row, WarningsFor(row, of, *DateToFileTime(today)),
+            ColoursFor(of, hasAlternateLines, palette));
+    };
+    const RowLook look = lookOf(list, true);
     QTEST(look.text, "text");
     QTEST(look.ground, "ground");
     QTEST(look.isItalic, "isItalic");
     list.TableOption = 0;
-    const RowLook off = DecideRowLook(row, list, *DateToFileTime(today), false, palette);
+    const RowLook off = lookOf(list, false);
     QCOMPARE(off.text, isSelected ? QColor(Qt::yellow) : QColor(Qt::black));
     QVERIFY(!off.isItalic);
 }

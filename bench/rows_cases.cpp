@@ -1,0 +1,233 @@
+#include "bench/rows_cases.h"
+
+#include "bench/bench_data.h"
+#include "rows/rows_view.h"
+#include "widgets/line_view.h"
+#include "widgets/page_stack.h"
+#include "widgets/window_style.h"
+
+#include <QAbstractTableModel>
+#include <QApplication>
+#include <QScrollBar>
+#include <QTableView>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <malloc.h>
+#include <memory>
+#include <utility>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize kWindow(480, 800);
+constexpr int kColumns = 8;
+constexpr int kNameColumn = 0;
+/// A frame that takes longer is seen.
+constexpr double kMaxFrameMs = 8;
+constexpr double kMaxBytesPerRow = 12;
+
+/// As many lines as there are rows, and the same text in all of them.
+class ConstantModel : public QAbstractTableModel
+{
+public:
+    explicit ConstantModel(int rows)
+        : m_rows(rows)
+    { }
+    void Reset()
+    {
+        beginResetModel();
+        endResetModel();
+    }
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override
+    {
+        return parent.isValid() ? 0 : m_rows;
+    }
+    [[nodiscard]] int columnCount(const QModelIndex& parent) const override
+    {
+        return parent.isValid() ? 0 : kColumns;
+    }
+    [[nodiscard]] QVariant data(const QModelIndex& /*index*/, int role) const override
+    {
+        return role == Qt::DisplayRole ? QVariant(u"1,234.50"_s) : QVariant();
+    }
+
+private:
+    int m_rows;
+};
+
+/// A bare view that is dressed as the program's lists are, in a window of the same style and size.
+class BareWindow
+{
+public:
+    explicit BareWindow(int rows)
+        : m_model(rows)
+    {
+        ApplyWindowStyle(&m_view);
+        DressLineView(&m_view);
+        m_view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        m_view.setModel(&m_model);
+        m_view.resize(kWindow);
+        m_view.show();
+        QCoreApplication::processEvents();
+        m_view.repaint();
+    }
+    [[nodiscard]] ConstantModel& Model() { return m_model; }
+    [[nodiscard]] QTableView& View() { return m_view; }
+
+private:
+    ConstantModel m_model;
+    QTableView m_view;
+};
+
+/// The benchmark's list with two of its columns shown twice: eight.
+InventoryList WithEightColumns(InventoryList list)
+{
+    for (const size_t column : { size_t { 1 }, size_t { 4 } })
+        list.columns.push_back(list.columns[column]);
+    Require(list.columns.size() == kColumns, "the list has other columns");
+    return list;
+}
+
+/// The program's window with a list's rows view on top.
+class RowsWindow
+{
+public:
+    RowsWindow()
+    {
+        ApplyWindowStyle(&m_stack);
+        m_stack.Push(new Page(QString()));
+        m_stack.resize(kWindow);
+        m_stack.show();
+        QCoreApplication::processEvents();
+        m_stack.repaint();
+    }
+    /// Returns once the rows are painted.
+    void Open(DataVolume& data, const InventoryList& definition)
+    {
+        m_list = WithEightColumns(definition);
+        m_rows = std::make_unique<RowStore>(data, m_list, m_context);
+        m_stack.Push(new RowsView(*m_rows, m_list, m_context, { .hasAlternateLines = true }));
+        QCoreApplication::processEvents();
+        m_stack.repaint();
+    }
+    [[nodiscard]] QTableView& View() const { return *m_stack.Top()->findChild<QTableView*>(); }
+
+private:
+    ValueContext m_context = ValueContext::FromEnvironment();
+    InventoryList m_list;
+    std::unique_ptr<RowStore> m_rows;
+    PageStack m_stack;
+};
+
+Timing OpenToFirstFrame(int rows)
+{
+    BenchList& list = BenchList::OfSize(rows);
+    Timing timing;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        RowsWindow window;
+        timing.oursMs = MeasureMs([&] { window.Open(data, definition); });
+        Require(window.View().model()->rowCount() == rows, "rows are missing");
+    });
+    BareWindow bare(rows);
+    list.WithSqlite([&](sqlite3* connection) {
+        std::vector<quint32> oids;
+        const QString sql
+            = u"SELECT oid FROM %1 ORDER BY %2"_s.arg(list.Table(), list.Column(kNameColumn));
+        timing.floorMs = MeasureMs([&] {
+            ForEachRow(connection, sql, [&](sqlite3_stmt* row) {
+                oids.push_back(static_cast<quint32>(sqlite3_column_int64(row, 0)));
+            });
+            bare.Model().Reset();
+            bare.View().repaint();
+        });
+        Require(std::cmp_equal(oids.size(), rows), "the floor missed rows");
+    });
+    return timing;
+}
+
+/// The time that 95 of 100 frames stay within, while the view scrolls on as under a fast flick.
+double FrameMs(QTableView& view)
+{
+    constexpr int kFrames = 300;
+    constexpr int kPixelsPerFrame = 175;
+    std::vector<double> frames;
+    QScrollBar* bar = view.verticalScrollBar();
+    bar->setValue(bar->maximum() / 3);
+    for (int frame = 0; frame < kFrames; ++frame) {
+        frames.push_back(MeasureMs([&] {
+            bar->setValue(bar->value() + kPixelsPerFrame);
+            QCoreApplication::processEvents();
+        }));
+    }
+    std::sort(frames.begin(), frames.end());
+    return frames[frames.size() * 95 / 100];
+}
+
+Timing FlickFrame(int rows)
+{
+    BenchList& list = BenchList::OfSize(rows);
+    Timing timing;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        RowsWindow window;
+        window.Open(data, definition);
+        timing.oursMs = FrameMs(window.View());
+    });
+    BareWindow bare(rows);
+    timing.floorMs = FrameMs(bare.View());
+    return timing;
+}
+
+double HeapBytes()
+{
+    const auto heap = mallinfo2();
+    return static_cast<double>(heap.uordblks) + static_cast<double>(heap.hblkhd);
+}
+
+double HeapOfOpenView(BenchList& list)
+{
+    double bytes = 0;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        RowsWindow window;
+        // The pages that the database keeps are not the view's.
+        const InventoryList listed = definition;
+        const ValueContext context = ValueContext::FromEnvironment();
+        Require(std::cmp_equal(RowStore(data, listed, context).FillRows().size(), list.Rows()),
+            "rows are missing");
+        const double before = HeapBytes();
+        window.Open(data, definition);
+        bytes = HeapBytes() - before;
+    });
+    return bytes;
+}
+
+} // namespace
+
+std::vector<BenchCase> RowsCases()
+{
+    constexpr double kFlatGrowth = 2;
+    return {
+        { u"open a list to its first frame"_s, 1.5, 11, OpenToFirstFrame },
+        { u"a frame while flicking"_s, 2.0, kFlatGrowth, FlickFrame, kMaxFrameMs },
+    };
+}
+
+void PrintRowMemory(const std::vector<int>& sizes)
+{
+    BenchList empty(0);
+    for (const int rows : sizes) {
+        // The first window of all makes what later ones share.
+        static_cast<void>(HeapOfOpenView(empty));
+        const double bytes
+            = (HeapOfOpenView(BenchList::OfSize(rows)) - HeapOfOpenView(empty)) / rows;
+        std::printf("%-34s %9d %8.1f bytes, at most %.0f%s\n", "memory of a shown row", rows, bytes,
+            kMaxBytesPerRow, bytes > kMaxBytesPerRow ? "  OVER" : "");
+    }
+}
+
+} // namespace Quillory

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "store/inventory_list.h"
+#include "values/value_text.h"
+
+#include <QTableView>
+
+namespace Quillory {
+
+class RowDelegate;
+class RowsModel;
+
+/// The table of a rows view.
+class RowsTable : public QTableView
+{
+    Q_OBJECT
+
+public:
+    /// All outlive the table.
+    RowsTable(RowsModel& model, const InventoryList& list, const ValueContext& context,
+        bool hasAlternateLines, QWidget* parent = nullptr);
+
+    /// Does nothing: looking for what was typed would read every row of the list.
+    void keyboardSearch(const QString& search) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    RowDelegate* m_delegate;
+};
+
+} // namespace Quillory
