@@ -1,13 +1,18 @@
 #include "app/data_file_opener.h"
 
 #include "res/string_table.h"
+#include "store/kept_copies.h"
+#include "store/salvage.h"
+
+#include <QLocale>
 
 namespace Quillory {
 
-DataFileOpener::DataFileOpener(ListCatalogue& catalogue, Settings& settings, Prompts prompts,
-    std::function<void(Outcome)> then)
+DataFileOpener::DataFileOpener(ListCatalogue& catalogue, Settings& settings, QString copiesFolder,
+    Prompts prompts, std::function<void(Outcome)> then)
     : m_catalogue(catalogue)
     , m_settings(settings)
+    , m_copiesFolder(std::move(copiesFolder))
     , m_prompts(std::move(prompts))
     , m_then(std::move(then))
 { }
@@ -69,7 +74,77 @@ void DataFileOpener::AskAboutMissingFolder()
 void DataFileOpener::TellFailure(ErrorNumber error)
 {
     m_prompts.ask(FillIn(LoadText(Text::CannotOpenDataFile), static_cast<qint64>(error)),
-        MessageIcon::Stop, MessageButtons::Ok, [this](MessageAnswer) { GiveUp(); });
+        MessageIcon::Stop, MessageButtons::Ok, [this, error](MessageAnswer) {
+            if (error == ErrorNumber::FileCorrupt && !m_isFirstStart)
+                OfferCopy();
+            else
+                GiveUp();
+        });
+}
+
+void DataFileOpener::OfferCopy()
+{
+    const std::vector<KeptCopy> copies = ListKeptCopies(m_settings.DbPath, m_copiesFolder);
+    if (copies.empty())
+        return OfferSalvage();
+    const KeptCopy& latest = copies.front();
+    const QString time = QLocale().toString(latest.time.toLocalTime(), QLocale::ShortFormat);
+    AskToRestore(
+        tr("The data file is damaged. There is a good copy of %1.\n\nDo you want to go on "
+           "with it? It is written to a new file; the damaged one stays as it is.")
+            .arg(time),
+        [latest](const QString& target) { return RestoreCopy(latest, target).Error(); },
+        [this] { OfferSalvage(); });
+}
+
+void DataFileOpener::OfferSalvage()
+{
+    const Result<SalvageReport> report = ExamineLists(m_settings.DbPath);
+    if (!report || report->lists.empty())
+        return GiveUp();
+    qint64 rows = 0;
+    for (const SalvageReport::List& list : report->lists)
+        rows += list.rows;
+    AskToRestore(
+        tr("Of the damaged file %n row(s) in %1 list(s) can still be read.\n\nDo you want "
+           "to go on with them? They are written to a new file; the damaged one stays as "
+           "it is.",
+            nullptr, static_cast<int>(rows))
+            .arg(report->lists.size()),
+        [damaged = m_settings.DbPath](
+            const QString& target) { return SalvageLists(damaged, target).Error(); },
+        [this] { GiveUp(); });
+}
+
+void DataFileOpener::AskToRestore(
+    const QString& question, const Restorer& restore, const std::function<void()>& otherwise)
+{
+    m_prompts.ask(question, MessageIcon::Exclamation, MessageButtons::YesNo,
+        [this, restore, otherwise](MessageAnswer answer) {
+            if (answer == MessageAnswer::Yes)
+                ChooseRestored(restore);
+            else
+                otherwise();
+        });
+}
+
+void DataFileOpener::ChooseRestored(const Restorer& restore)
+{
+    m_prompts.chooseFile([this, restore](const QString& path) {
+        if (path.isEmpty())
+            return GiveUp();
+        const ErrorNumber error = restore(path);
+        if (error != ErrorNumber::None) {
+            // Never over another file; another name may do.
+            return m_prompts.ask(
+                tr("The new file could not be written. Error: %1").arg(static_cast<quint32>(error)),
+                MessageIcon::Stop, MessageButtons::Ok,
+                [this, restore](MessageAnswer) { ChooseRestored(restore); });
+        }
+        m_settings.DbPath = path;
+        m_disposition = Disposition::OpenExisting;
+        Mount();
+    });
 }
 
 void DataFileOpener::OpenCatalogue()

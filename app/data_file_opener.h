@@ -4,6 +4,8 @@
 #include "store/list_catalogue.h"
 #include "widgets/message_box.h"
 
+#include <QCoreApplication>
+
 #include <functional>
 
 namespace Quillory {
@@ -12,6 +14,8 @@ namespace Quillory {
 /// and for a way on where the data file cannot be opened.
 class DataFileOpener
 {
+    Q_DECLARE_TR_FUNCTIONS(DataFileOpener)
+
 public:
     /// What is asked of the person. Each returns at once and calls `then` with the answer.
     struct Prompts
@@ -35,14 +39,16 @@ public:
 
     /// `catalogue` and `settings` outlive the opener, which outlives every answer; `then` comes
     /// once.
-    DataFileOpener(ListCatalogue& catalogue, Settings& settings, Prompts prompts,
-        std::function<void(Outcome)> then);
+    /// Copies of the data file are looked for in `copiesFolder`.
+    DataFileOpener(ListCatalogue& catalogue, Settings& settings, QString copiesFolder,
+        Prompts prompts, std::function<void(Outcome)> then);
 
     void Start();
 
 private:
     ListCatalogue& m_catalogue;
     Settings& m_settings;
+    QString m_copiesFolder;
     Prompts m_prompts;
     std::function<void(Outcome)> m_then;
     bool m_isFirstStart = false;
@@ -53,6 +59,13 @@ private:
     void AskAboutMissingFile();
     void AskAboutMissingFolder();
     void TellFailure(ErrorNumber error);
+    /// Writes a new data file in the place of a damaged one.
+    using Restorer = std::function<ErrorNumber(const QString& target)>;
+    void OfferCopy();
+    void OfferSalvage();
+    void AskToRestore(
+        const QString& question, const Restorer& restore, const std::function<void()>& otherwise);
+    void ChooseRestored(const Restorer& restore);
     void OpenCatalogue();
     void GiveUp();
 };

@@ -6,8 +6,10 @@
 #include "listdef/display_options_page.h"
 #include "res/dialog_table.h"
 #include "res/string_table.h"
+#include "store/kept_copies.h"
 #include "widgets/help_page.h"
 #include "widgets/message_box.h"
+#include "widgets/wait_cursor.h"
 #include "widgets/window_style.h"
 
 #include <QAction>
@@ -54,9 +56,9 @@ const MainFrame::CommandEntry MainFrame::kCommands[] {
     { Command::About, {}, Needs::DataFile, &MainFrame::ShowAbout },
 };
 
-MainFrame::MainFrame(Settings settings, const QString& settingsPath, QWidget* parent)
+MainFrame::MainFrame(Settings settings, Places places, QWidget* parent)
     : QMainWindow(parent)
-    , m_settingsPath(settingsPath)
+    , m_places(std::move(places))
     , m_settings(std::move(settings))
     , m_context(ValueContext::FromEnvironment())
     , m_pages(new PageStack(this))
@@ -147,8 +149,8 @@ void MainFrame::SetFileChooser(FileChooser chooser)
 void MainFrame::OpenDataFile(const QString& listName)
 {
     m_wantedList = listName;
-    m_opener = std::make_unique<DataFileOpener>(m_catalogue, m_settings, OpenerPrompts(),
-        [this](DataFileOpener::Outcome outcome) { EndOpening(outcome); });
+    m_opener = std::make_unique<DataFileOpener>(m_catalogue, m_settings, m_places.copies,
+        OpenerPrompts(), [this](DataFileOpener::Outcome outcome) { EndOpening(outcome); });
     m_opener->Start();
 }
 
@@ -231,6 +233,13 @@ void MainFrame::AskToDiscardInput()
         });
 }
 
+void MainFrame::EndDataFile()
+{
+    const WaitCursor wait;
+    m_deletion.Forget();
+    KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
+}
+
 void MainFrame::closeEvent(QCloseEvent* event)
 {
     // Before the data file is open there is nothing to lose. Later, work that shows its progress,
@@ -243,10 +252,11 @@ void MainFrame::closeEvent(QCloseEvent* event)
                 AskToDiscardInput();
             return event->ignore();
         }
+        EndDataFile();
     }
     if (m_savesSettings) {
         m_settings.windowGeometry = saveGeometry();
-        WriteSettings(m_settingsPath, m_settings);
+        WriteSettings(m_places.settings, m_settings);
     }
     event->accept();
 }

@@ -23,9 +23,16 @@ class MainFrame : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Takes the settings over, to be written to `settingsPath` at the end; the data file is opened
-    /// by OpenDataFile() alone.
-    MainFrame(Settings settings, const QString& settingsPath, QWidget* parent = nullptr);
+    /// Where the program keeps what is not in the data file.
+    struct Places
+    {
+        QString settings;
+        /// The folder of the copies of data files.
+        QString copies;
+    };
+    /// Takes the settings over, to be written back at the end; the data file is opened by
+    /// OpenDataFile() alone.
+    MainFrame(Settings settings, Places places, QWidget* parent = nullptr);
     ~MainFrame() override;
 
     /// Asks for a place for the data file; calls `then` with an empty path if none was chosen.
@@ -48,7 +55,7 @@ private:
     struct CommandEntry;
     static const CommandEntry kCommands[];
 
-    QString m_settingsPath;
+    Places m_places;
     Settings m_settings;
     ValueContext m_context;
     DataVolume m_volume;
@@ -83,6 +90,7 @@ private:
     /// Ends the pages from the top. False where one has input that would be lost, or stays.
     [[nodiscard]] bool CloseAllPages();
     void AskToDiscardInput();
+    void EndDataFile();
     void ShowHelp(const QString& anchor);
 
     [[nodiscard]] StartAnswer OpenNamedList(const QString& name);

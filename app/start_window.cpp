@@ -3,6 +3,7 @@
 #include "app/main_frame.h"
 #include "app/settings.h"
 #include "app/single_instance.h"
+#include "store/kept_copies.h"
 #include "widgets/app_style.h"
 #include "widgets/desktop_look.h"
 #include "widgets/icon_set.h"
@@ -86,7 +87,7 @@ int RunFrame(SingleInstance& instance, const QString& listName, int endRequests)
     Settings settings;
     ReadSettings(SettingsPath(), settings);
     const DesktopLook look(FixedScheme(settings));
-    MainFrame frame(settings, SettingsPath());
+    MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder() });
     instance.SetHandler(
         [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
     // The window closes as its user would close it: pages end, settings are saved.

@@ -1,10 +1,13 @@
 #include "bench/harness.h"
 #include "bench/rows_cases.h"
+#include "bench/start_cases.h"
 #include "bench/store_cases.h"
 #include "bench/transfer_cases.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+
+#include <cstring>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -37,6 +40,9 @@ BenchOptions ReadOptions(const QCoreApplication& application)
 
 int main(int argc, char** argv)
 {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (argc > 1 && std::strcmp(argv[1], kStartArgument) == 0)
+        return RunStart(argc, argv);
     BenchOptions options;
     {
         const QCoreApplication application(argc, argv);
@@ -45,11 +51,13 @@ int main(int argc, char** argv)
         if (options.nameFilter.isEmpty())
             PrintImportMemory(options.sizes);
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     if (options.nameFilter.isEmpty())
         PrintRowMemory(options.sizes);
     PrintHeading();
+    if (options.nameFilter.isEmpty())
+        PrintStart(options.repeat);
+    RunCases(HomeCases(), { { options.sizes.front() }, options.repeat, options.nameFilter });
     RunCases(StoreCases(), options);
     RunCases(TransferCases(), options);
     RunCases(RowsCases(), options);

@@ -24,10 +24,11 @@ public:
     }
     void Run()
     {
-        DataFileOpener opener(m_catalogue, settings, Answering(), [this](Outcome end) {
-            outcome = end;
-            ++ends;
-        });
+        DataFileOpener opener(
+            m_catalogue, settings, Path(u"copies"_s), Answering(), [this](Outcome end) {
+                outcome = end;
+                ++ends;
+            });
         opener.Start();
     }
     /// Ends the program as far as the data file goes.

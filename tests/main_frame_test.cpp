@@ -29,6 +29,8 @@ namespace {
 /// The program with settings and data file of its own, and what a person does with it.
 class Errand
 {
+    QTemporaryDir m_folder;
+
 public:
     QString DataPath() const { return m_folder.filePath(u"Quillory.idb"_s); }
     void MakeLists(const QStringList& names)
@@ -48,8 +50,9 @@ public:
     {
         Settings settings;
         ReadSettings(Conf(), settings);
-        frame = std::make_unique<MainFrame>(settings, Conf());
-        frame->SetFileChooser([this](const auto& then) { then(DataPath()); });
+        frame = std::make_unique<MainFrame>(
+            settings, MainFrame::Places { Conf(), m_folder.filePath(u"copies"_s) });
+        frame->SetFileChooser([this](const auto& then) { then(chosenPath); });
         frame->show();
         frame->OpenDataFile(listName);
         pages = frame->findChild<PageStack*>();
@@ -118,10 +121,10 @@ public:
     HomeList* home = nullptr;
     QTreeView* view = nullptr;
     QString question;
+    /// What the file dialog for the data file answers.
+    QString chosenPath = DataPath();
 
 private:
-    QTemporaryDir m_folder;
-
     QString Conf() const { return m_folder.filePath(u"quillory.conf"_s); }
 };
 
@@ -150,6 +153,7 @@ private Q_SLOTS:
     void aDeletedListComesBack();
     void aDeletedRowComesBack();
     void aFailedWriteIsToldOnceAndWorkGoesOn();
+    void aDamagedFileIsReplacedByItsCopy();
     void helpOpensAtThePageItWasAskedFrom();
 };
 
@@ -531,6 +535,31 @@ void MainFrameTest::aFailedWriteIsToldOnceAndWorkGoesOn()
     errand.Answer(QMessageBox::Yes);
     errand.Restart();
     QCOMPARE(errand.Lines(), QString());
+}
+
+void MainFrameTest::aDamagedFileIsReplacedByItsCopy()
+{
+    Errand errand;
+    errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
+    errand.Start();
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    QVERIFY(errand.frame->close());
+    errand.frame.reset();
+    QFile damaged(errand.DataPath());
+    QVERIFY(damaged.open(QIODevice::ReadWrite));
+    damaged.seek(40);
+    damaged.write("xxxxxxxx");
+    damaged.close();
+
+    errand.chosenPath = errand.DataPath() + u".new.idb"_s;
+    errand.Start();
+    errand.Answer(QMessageBox::Ok);
+    QCOMPARE(errand.question, u"Unable to open data file. Error: 1392"_s);
+    errand.Answer(QMessageBox::Yes);
+    QTRY_COMPARE(errand.Lines(), u"Zoo"_s);
+    errand.Restart();
+    QCOMPARE(errand.Lines(), u"Zoo"_s);
 }
 
 void MainFrameTest::helpOpensAtThePageItWasAskedFrom()

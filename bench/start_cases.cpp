@@ -1,0 +1,210 @@
+#include "bench/start_cases.h"
+
+#include "app/home_list.h"
+#include "app/main_frame.h"
+#include "bench/bench_data.h"
+#include "widgets/app_style.h"
+#include "widgets/desktop_look.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QProcess>
+#include <QStandardItemModel>
+#include <QTreeView>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kHomeLists = 10000;
+constexpr int kStartLists = 50;
+constexpr double kMaxStartRatio = 1.3;
+constexpr double kMaxMemoryRatio = 1.5;
+
+/// A data file whose catalogue has so many lists; their rows are of no interest here.
+void MakeLists(const QString& path, int count)
+{
+    DataVolume data;
+    ListCatalogue catalogue(data);
+    Require(data.Mount(path, Disposition::OpenAlways) == ErrorNumber::None
+            && catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened,
+        "the data file cannot be made");
+    Transaction transaction(data);
+    for (int i = 0; i < count; ++i) {
+        InventoryList list = NewInventoryList();
+        list.Name = u"List %1"_s.arg((i * 7919) % count, 5, 10, QLatin1Char('0'));
+        list.MapName = list.Name;
+        list.TableIcon = static_cast<qint16>(i % 43);
+        Require(catalogue.AddList(list) != kNoObject, "a list cannot be made");
+    }
+    Require(transaction.Commit(), "the lists cannot be made");
+}
+
+double FillHome(ListCatalogue& catalogue)
+{
+    HomeList home;
+    const double spent = MeasureMs([&] { home.Fill(catalogue.FillHomeList()); });
+    Require(home.SelectedList() != kNoObject, "the home list is empty");
+    return spent;
+}
+
+double ScanAndSort(const QString& path)
+{
+    sqlite3* connection = nullptr;
+    Require(sqlite3_open_v2(path.toUtf8().constData(), &connection, SQLITE_OPEN_READONLY, nullptr)
+            == SQLITE_OK,
+        "the floor's file cannot be opened");
+    QString table;
+    ForEachRow(connection, u"SELECT table_name FROM property_database"_s, [&](sqlite3_stmt* row) {
+        table = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(row, 0)));
+    });
+    std::vector<QString> names;
+    const double spent = MeasureMs([&] {
+        const QString sql = u"SELECT oid, \"Name\", \"TableIcon\" FROM \"%1\" ORDER BY \"Name\""_s;
+        ForEachRow(connection, sql.arg(table), [&](sqlite3_stmt* row) {
+            names.push_back(
+                QString::fromUtf16(static_cast<const char16_t*>(sqlite3_column_text16(row, 1))));
+        });
+        std::sort(names.begin(), names.end());
+    });
+    sqlite3_close(connection);
+    Require(names.size() == kHomeLists, "the floor read other lists");
+    return spent;
+}
+
+qint64 NowNs()
+{
+    return std::chrono::steady_clock::now().time_since_epoch().count();
+}
+
+qint64 ResidentKilobytes()
+{
+    QFile status(u"/proc/self/status"_s);
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    const QString text = QString::fromLatin1(status.readAll());
+    return text.section(u"VmRSS:"_s, 1, 1).simplified().section(u' ', 0, 0).toLongLong();
+}
+
+struct StartFigures
+{
+    double ms = 0;
+    double kilobytes = 0;
+};
+
+StartFigures StartOnce(const QString& dataFile)
+{
+    QProcess child;
+    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    child.start(QCoreApplication::applicationFilePath(),
+        { QString::fromLatin1(kStartArgument), QString::number(NowNs()), dataFile });
+    Require(child.waitForFinished() && child.exitCode() == 0, "a window did not start");
+    const QStringList figures = QString::fromLatin1(child.readAll()).split(u' ');
+    return { figures.value(0).toDouble(), figures.value(1).toDouble() };
+}
+
+StartFigures MedianStart(const QString& dataFile, int repeat)
+{
+    std::vector<double> times;
+    std::vector<double> sizes;
+    for (int i = 0; i < repeat; ++i) {
+        const StartFigures figures = StartOnce(dataFile);
+        times.push_back(figures.ms);
+        sizes.push_back(figures.kilobytes);
+    }
+    std::sort(times.begin(), times.end());
+    std::sort(sizes.begin(), sizes.end());
+    return { times[times.size() / 2], sizes[sizes.size() / 2] };
+}
+
+void TellFigures(qint64 startedNs)
+{
+    std::printf("%.2f %lld", static_cast<double>(NowNs() - startedNs) / 1e6,
+        static_cast<long long>(ResidentKilobytes()));
+}
+
+void ShowBareWindow()
+{
+    QMainWindow window;
+    QTreeView view;
+    QStandardItemModel lists;
+    for (int i = 0; i < kStartLists; ++i)
+        lists.appendRow(new QStandardItem(u"List %1"_s.arg(i)));
+    view.setModel(&lists);
+    window.setCentralWidget(&view);
+    window.resize(360, 640);
+    window.show();
+    QCoreApplication::processEvents();
+    window.repaint();
+    view.setParent(nullptr);
+}
+
+} // namespace
+
+std::vector<BenchCase> HomeCases()
+{
+    const auto run = [](int) {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"home.idb"_s);
+        MakeLists(path, kHomeLists);
+        Timing timing;
+        timing.floorMs = ScanAndSort(path);
+        DataVolume data;
+        ListCatalogue catalogue(data);
+        Require(data.Mount(path, Disposition::OpenExisting) == ErrorNumber::None
+                && catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened,
+            "the data file cannot be opened");
+        timing.oursMs = FillHome(catalogue);
+        return timing;
+    };
+    return { { u"home list of 10,000 lists"_s, 2.0, 11, run } };
+}
+
+int RunStart(int argumentCount, char** argumentValues)
+{
+    const QApplication application(argumentCount, argumentValues);
+    const qint64 startedNs = QCoreApplication::arguments().value(2).toLongLong();
+    const QString dataFile = QCoreApplication::arguments().value(3);
+    if (dataFile.isEmpty()) {
+        ShowBareWindow();
+        TellFigures(startedNs);
+        return 0;
+    }
+    QApplication::setStyle(new AppStyle);
+    const DesktopLook look(std::nullopt);
+    Settings settings;
+    settings.DbPath = dataFile;
+    MainFrame frame(settings, {});
+    frame.show();
+    QCoreApplication::processEvents();
+    frame.OpenDataFile({});
+    QCoreApplication::processEvents();
+    frame.repaint();
+    TellFigures(startedNs);
+    return 0;
+}
+
+void PrintStart(int repeat)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"start.idb"_s);
+    MakeLists(path, kStartLists);
+    const StartFigures bare = MedianStart({}, repeat);
+    const StartFigures ours = MedianStart(path, repeat);
+    const auto line = [](const char* name, double own, double floor, double limit) {
+        std::printf("%-44s %10.1f %10.1f  %5.2f (limit %.2f)%s\n", name, own, floor, own / floor,
+            limit, own / floor > limit ? "  OVER" : "");
+    };
+    line("start to the first 50 lists, ms", ours.ms, bare.ms, kMaxStartRatio);
+    line("resident memory with 50 lists, KB", ours.kilobytes, bare.kilobytes, kMaxMemoryRatio);
+}
+
+} // namespace Quillory
