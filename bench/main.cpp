@@ -47,8 +47,7 @@ int main(int argc, char** argv)
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    if (options.nameFilter.isEmpty())
-        PrintRowMemory(options.sizes);
+    PrintRowMemory(options);
     PrintHeading();
     RunCases(StoreCases(), options);
     RunCases(TransferCases(), options);
