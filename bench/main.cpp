@@ -52,8 +52,7 @@ int main(int argc, char** argv)
             PrintImportMemory(options.sizes);
     }
     const QApplication application(argc, argv);
-    if (options.nameFilter.isEmpty())
-        PrintRowMemory(options.sizes);
+    PrintRowMemory(options);
     PrintHeading();
     if (options.nameFilter.isEmpty())
         PrintStart(options.repeat);

@@ -17,6 +17,7 @@
 #include <cstdio>
 #include <malloc.h>
 #include <memory>
+#include <span>
 #include <utility>
 
 namespace Quillory {
@@ -31,6 +32,16 @@ constexpr int kNameColumn = 0;
 /// A frame that takes longer is seen.
 constexpr double kMaxFrameMs = 8;
 constexpr double kMaxBytesPerRow = 12;
+/// More lines than the window has.
+constexpr size_t kScreenful = 64;
+
+/// Lays out and paints what waits for it, and no more.
+void PaintPending(QWidget& window)
+{
+    QCoreApplication::processEvents();
+    QEvent update(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&window, &update);
+}
 
 /// As many lines as there are rows, and the same text in all of them.
 class ConstantModel : public QAbstractTableModel
@@ -74,8 +85,7 @@ public:
         m_view.setModel(&m_model);
         m_view.resize(kWindow);
         m_view.show();
-        QCoreApplication::processEvents();
-        m_view.repaint();
+        PaintPending(m_view);
     }
     [[nodiscard]] ConstantModel& Model() { return m_model; }
     [[nodiscard]] QTableView& View() { return m_view; }
@@ -104,8 +114,7 @@ public:
         m_stack.Push(new Page(QString()));
         m_stack.resize(kWindow);
         m_stack.show();
-        QCoreApplication::processEvents();
-        m_stack.repaint();
+        PaintPending(m_stack);
     }
     /// Returns once the rows are painted.
     void Open(DataVolume& data, const InventoryList& definition)
@@ -113,8 +122,7 @@ public:
         m_list = WithEightColumns(definition);
         m_rows = std::make_unique<RowStore>(data, m_list, m_context);
         m_stack.Push(new RowsView(*m_rows, m_list, m_context, { .hasAlternateLines = true }));
-        QCoreApplication::processEvents();
-        m_stack.repaint();
+        PaintPending(m_stack);
     }
     [[nodiscard]] QTableView& View() const { return *m_stack.Top()->findChild<QTableView*>(); }
 
@@ -144,7 +152,7 @@ Timing OpenToFirstFrame(int rows)
                 oids.push_back(static_cast<quint32>(sqlite3_column_int64(row, 0)));
             });
             bare.Model().Reset();
-            bare.View().repaint();
+            PaintPending(bare.View());
         });
         Require(std::cmp_equal(oids.size(), rows), "the floor missed rows");
     });
@@ -162,7 +170,7 @@ double FrameMs(QTableView& view)
     for (int frame = 0; frame < kFrames; ++frame) {
         frames.push_back(MeasureMs([&] {
             bar->setValue(bar->value() + kPixelsPerFrame);
-            QCoreApplication::processEvents();
+            PaintPending(*view.window());
         }));
     }
     std::sort(frames.begin(), frames.end());
@@ -197,8 +205,11 @@ double HeapOfOpenView(BenchList& list)
         // The pages that the database keeps are not the view's.
         const InventoryList listed = definition;
         const ValueContext context = ValueContext::FromEnvironment();
-        Require(std::cmp_equal(RowStore(data, listed, context).FillRows().size(), list.Rows()),
-            "rows are missing");
+        RowStore store(data, listed, context);
+        const auto rows = store.FillRows();
+        Require(std::cmp_equal(rows.size(), list.Rows()), "rows are missing");
+        for (const ObjectId row : std::span(rows).first(std::min(rows.size(), kScreenful)))
+            Require(static_cast<bool>(store.ReadRow(row)), "a row cannot be read");
         const double before = HeapBytes();
         window.Open(data, definition);
         bytes = HeapBytes() - before;
@@ -217,15 +228,18 @@ std::vector<BenchCase> RowsCases()
     };
 }
 
-void PrintRowMemory(const std::vector<int>& sizes)
+void PrintRowMemory(const BenchOptions& options)
 {
+    const QString name = u"memory of a shown row"_s;
+    if (!name.contains(options.nameFilter))
+        return;
     BenchList empty(0);
-    for (const int rows : sizes) {
-        // The first window of all makes what later ones share.
-        static_cast<void>(HeapOfOpenView(empty));
+    for (const int rows : options.sizes) {
+        // The first window with texts makes what later ones share.
+        static_cast<void>(HeapOfOpenView(BenchList::OfSize(rows)));
         const double bytes
             = (HeapOfOpenView(BenchList::OfSize(rows)) - HeapOfOpenView(empty)) / rows;
-        std::printf("%-34s %9d %8.1f bytes, at most %.0f%s\n", "memory of a shown row", rows, bytes,
+        std::printf("%-34s %9d %8.1f bytes, at most %.0f%s\n", qPrintable(name), rows, bytes,
             kMaxBytesPerRow, bytes > kMaxBytesPerRow ? "  OVER" : "");
     }
 }

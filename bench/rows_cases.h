@@ -8,7 +8,7 @@ namespace Quillory {
 /// QApplication.
 [[nodiscard]] std::vector<BenchCase> RowsCases();
 
-/// Prints what a rows view takes of the heap for each row.
-void PrintRowMemory(const std::vector<int>& sizes);
+/// Prints what a rows view takes of the heap for each row, if it is among the cases asked for.
+void PrintRowMemory(const BenchOptions& options);
 
 } // namespace Quillory

@@ -13,8 +13,9 @@
 namespace Quillory {
 
 /// What can still be read of a volume that is damaged. The file is read page by page and never
-/// written; a page that is not as it was written is passed over. Works on sound volumes too. The
-/// volume must not be mounted in this process.
+/// written; a page that is not as it was written is passed over. Works on sound volumes too. A
+/// journal is not looked at: after a write that was cut off some of its records may be new and some
+/// old. The volume must not be mounted in this process.
 class DamagedVolume
 {
 public:

@@ -29,7 +29,9 @@ void DressCalendar(QCalendarWidget* calendar)
     calendar->setMinimumWidth(kDays * kMinTouchTarget);
     calendar->setMinimumHeight(kDays * kMinTouchTarget);
     // The cells of lists have room around their texts; here that would leave none for the days.
-    calendar->setStyleSheet(u"QTableView::item { padding: 0; }"_s);
+    calendar->setStyleSheet(u"QTableView::item { padding: 0; }"
+                            "#qt_calendar_prevmonth, #qt_calendar_nextmonth {"
+                            " color: palette(highlighted-text); font-weight: bold; }"_s);
     for (const auto day : { Qt::Saturday, Qt::Sunday })
         calendar->setWeekdayTextFormat(day, calendar->weekdayTextFormat(Qt::Monday));
     for (const auto& [name, text] : { std::pair(u"qt_calendar_prevmonth"_s, u"‹"_s),

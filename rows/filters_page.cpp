@@ -3,6 +3,7 @@
 #include "res/dialog_table.h"
 #include "res/string_table.h"
 #include "rows/filter_page.h"
+#include "rows/line_delegate.h"
 #include "values/column_type.h"
 #include "widgets/line_view.h"
 #include "widgets/page_stack.h"
@@ -48,6 +49,7 @@ void FiltersPage::BuildTable()
     m_view->setObjectName(u"filterList"_s);
     m_view->setAccessibleName(DialogTitle(Dialog::Filters));
     m_view->setModel(m_lines);
+    m_view->setItemDelegate(new LineDelegate(m_view));
     DressLineView(m_view);
     m_view->horizontalHeader()->hide();
     m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);

@@ -1,7 +1,5 @@
 #include "rows/row_field_delegate.h"
 
-#include "widgets/measures.h"
-
 #include <QPainter>
 
 namespace Quillory {
@@ -26,19 +24,11 @@ void RowFieldDelegate::paint(
 {
     const QColor ground = option.palette.color(QPalette::Base);
     const QColor text = option.palette.color(QPalette::Text);
-    painter->save();
-    if (option.state.testFlag(QStyle::State_Selected))
-        painter->fillRect(
-            option.rect, Mix(option.palette.color(QPalette::Highlight), ground, kTint));
-    painter->setPen(option.palette.color(QPalette::Midlight));
-    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-    const int left = index.column() == 0 ? kPageMargin : kGrid;
-    const QRect room = option.rect.adjusted(left, 0, -kGrid, 0);
+    const float tint = option.state.testFlag(QStyle::State_Selected) ? kTint : 0;
+    painter->fillRect(option.rect, Mix(option.palette.color(QPalette::Highlight), ground, tint));
+    DrawHairline(*painter, option);
     painter->setPen(index.column() == 0 ? Mix(text, ground, kQuiet) : text);
-    painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-        option.fontMetrics.elidedText(
-            index.data(Qt::DisplayRole).toString(), Qt::ElideRight, room.width()));
-    painter->restore();
+    DrawLabel(*painter, option, TextRoom(option.rect, index.column()), index);
 }
 
 } // namespace Quillory

@@ -29,6 +29,8 @@ void RowsModel::SetRows(std::vector<ObjectId> rows)
 {
     beginResetModel();
     m_rows = std::move(rows);
+    // A listing is grown as it is read: a million rows would keep room for more.
+    m_rows.shrink_to_fit();
     m_shown.clear();
     endResetModel();
 }

@@ -1,7 +1,9 @@
 #include "rows/summary_page.h"
 
 #include "res/dialog_table.h"
+#include "rows/line_delegate.h"
 #include "widgets/line_view.h"
+#include "widgets/touch.h"
 
 #include <QHeaderView>
 #include <QStandardItemModel>
@@ -26,9 +28,11 @@ SummaryPage::SummaryPage(const std::vector<ColumnTotal>& totals, QWidget* parent
     view->setObjectName(u"totals"_s);
     view->setAccessibleName(tr("Totals"));
     view->setModel(model);
+    view->setItemDelegate(new LineDelegate(view));
     DressLineView(view);
     view->horizontalHeader()->hide();
     view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    new TouchBehaviour(view);
     Body()->addWidget(view, 1);
     setFocusProxy(view);
 }

@@ -13,7 +13,7 @@ constexpr size_t kBufferUnits = 16'384;
 
 qint64 BytesOf(size_t units)
 {
-    return static_cast<qint64>(units * sizeof(char16_t));
+    return static_cast<qint64>(units) * qint64 { sizeof(char16_t) };
 }
 
 } // namespace

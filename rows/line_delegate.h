@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace Quillory {
+
+/// Draws the cells of plain lists of texts: a hairline under each line, the selected one in the
+/// colours of selection.
+class LineDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const override;
+
+protected:
+    /// The room of a cell's text: the first column begins at the margin of the page.
+    [[nodiscard]] static QRect TextRoom(const QRect& cell, int column);
+    static void DrawHairline(QPainter& painter, const QStyleOptionViewItem& option);
+    /// Vertically centred in `room`, with an ellipsis where it is cut.
+    static void DrawLabel(QPainter& painter, const QStyleOptionViewItem& option, const QRect& room,
+        const QModelIndex& index);
+};
+
+} // namespace Quillory
