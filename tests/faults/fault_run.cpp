@@ -1,0 +1,131 @@
+#include "tests/faults/fault_run.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstdio>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// More of them tell nothing new.
+constexpr int kMaxToldBlames = 10;
+
+QString ScratchTemplate()
+{
+    const QString memory = u"/dev/shm"_s;
+    const bool isThere = QFileInfo(memory).isWritable();
+    return (isThere ? memory : QDir::tempPath()) + u"/quillory-faults-XXXXXX"_s;
+}
+
+void WriteFiles(const QString& folder, const Files& files)
+{
+    for (const auto& [name, bytes] : files) {
+        QFile file(folder + u'/' + QFile::decodeName(name));
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+            || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+}
+
+/// The contents of the data file after the n-th backup step, for n from 1.
+const QByteArray* StateAtBackup(const Script& script, int n)
+{
+    for (size_t i = 0; i < script.steps.size(); ++i) {
+        if (script.steps[i].action == Action::Backup && --n == 0)
+            return &script.states[i].back();
+    }
+    return nullptr;
+}
+
+QString JudgeBackups(const FaultRun& run, const Script& script)
+{
+    const QByteArray stem = run.DataFile() + ".backup-";
+    for (int n = 1; QFile::exists(QFile::decodeName(stem + QByteArray::number(n))); ++n) {
+        const Reading copy = ReadDataFile(stem + QByteArray::number(n));
+        if (copy.error != ErrorNumber::None)
+            return u"backup %1 cannot be read: %2"_s.arg(n).arg(
+                QLatin1StringView(ErrorPhrase(copy.error)));
+        const QByteArray* state = StateAtBackup(script, n);
+        if (state == nullptr || copy.contents != *state)
+            return u"backup %1 holds something else"_s.arg(n);
+    }
+    return {};
+}
+
+} // namespace
+
+FaultRun::FaultRun(int runCount, quint32 firstSeed)
+    : m_runs(runCount)
+    , m_seed(firstSeed)
+    , m_folder(ScratchTemplate())
+{
+    if (!m_folder.isValid())
+        qFatal("no scratch folder can be made");
+}
+
+QByteArray FaultRun::Folder() const
+{
+    return QFile::encodeName(m_folder.path());
+}
+
+QByteArray FaultRun::DataFile() const
+{
+    return Folder() + "/data.idb";
+}
+
+void FaultRun::Clear() const
+{
+    QDir folder(m_folder.path());
+    for (const QString& name :
+        folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
+        if (!folder.remove(name) && !QDir(folder.filePath(name)).removeRecursively())
+            qFatal("cannot remove %s", qPrintable(name));
+    }
+}
+
+void FaultRun::Place(const Files& files) const
+{
+    Clear();
+    WriteFiles(m_folder.path(), files);
+}
+
+Files FaultRun::Taken() const
+{
+    Files files;
+    const QDir folder(m_folder.path());
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden)) {
+        QFile file(folder.filePath(name));
+        if (file.open(QIODevice::ReadOnly))
+            files[QFile::encodeName(name)] = file.readAll();
+    }
+    return files;
+}
+
+void FaultRun::Blame(const QString& what, const Files& evidence)
+{
+    if (++m_blames > kMaxToldBlames)
+        return;
+    const QString folder
+        = QDir::current().filePath(u"fault-evidence/%1-%2"_s.arg(m_seed).arg(m_blames));
+    QDir().mkpath(folder);
+    WriteFiles(folder, evidence);
+    std::printf(
+        "FAULT seed %u: %s\n  files kept in %s\n", m_seed, qPrintable(what), qPrintable(folder));
+}
+
+QString Judge(const FaultRun& run, const Script& script, size_t acknowledged)
+{
+    const Reading reading = ReadDataFile(run.DataFile());
+    if (reading.error != ErrorNumber::None)
+        return u"after %1 steps the file cannot be used: %2"_s.arg(acknowledged)
+            .arg(QLatin1StringView(ErrorPhrase(reading.error)));
+    if (!script.Allows(acknowledged, reading.contents))
+        return u"after %1 steps the file holds something else"_s.arg(acknowledged);
+    return JudgeBackups(run, script);
+}
+
+} // namespace Quillory

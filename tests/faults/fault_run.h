@@ -1,0 +1,57 @@
+#pragma once
+
+#include "tests/faults/session.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <map>
+
+namespace Quillory {
+
+/// The bytes of files by their names within the scratch folder.
+using Files = std::map<QByteArray, QByteArray>;
+
+/// One run of one kind of fault: how large, where, and what it found.
+class FaultRun
+{
+public:
+    FaultRun(int runCount, quint32 firstSeed);
+
+    /// How often the fault is to be made.
+    [[nodiscard]] int Runs() const { return m_runs; }
+    [[nodiscard]] quint32 Seed() const { return m_seed; }
+    /// A folder in memory where there is one.
+    [[nodiscard]] QByteArray Folder() const;
+    [[nodiscard]] QByteArray DataFile() const;
+
+    /// Empties the scratch folder, or fills it with these files and nothing else.
+    void Clear() const;
+    void Place(const Files& files) const;
+    [[nodiscard]] Files Taken() const;
+
+    /// Counts a fault that was made.
+    void Count() { ++m_count; }
+    [[nodiscard]] int CountSoFar() const { return m_count; }
+    /// Tells of a broken promise and keeps the files that show it.
+    void Blame(const QString& what, const Files& evidence);
+    [[nodiscard]] int Blames() const { return m_blames; }
+
+private:
+    int m_runs;
+    quint32 m_seed;
+    int m_count = 0;
+    int m_blames = 0;
+    QTemporaryDir m_folder;
+};
+
+/// Looks at what a fault left in the scratch folder, as the next start of the program would. Empty
+/// if it holds the acknowledged steps of the script and at most one whole transaction more, passes
+/// the check, and every backup is whole; else what is wrong.
+[[nodiscard]] QString Judge(const FaultRun& run, const Script& script, size_t acknowledged);
+
+// The kinds of faults. Each makes its fault run.Runs() times or a little more.
+void KillAtEveryCall(FaultRun& run);
+
+} // namespace Quillory

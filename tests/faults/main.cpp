@@ -1,0 +1,63 @@
+#include "tests/faults/fault_run.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+#include <array>
+#include <cstdio>
+#include <random>
+
+using namespace Quillory;
+
+namespace {
+
+struct FaultKind
+{
+    const char* name;
+    const char* description;
+    void (*run)(FaultRun&);
+};
+
+constexpr std::array kFaultKinds {
+    FaultKind { "kill", "the process is killed at a call or amid it", &KillAtEveryCall },
+};
+
+int Usage()
+{
+    std::puts("Usage: quillory_faults KIND RUNS [SEED]\n\n"
+              "Makes a fault so many times and looks whether the data file kept every promise.\n"
+              "SEED is a number, or \"random\".\n");
+    for (const FaultKind& kind : kFaultKinds)
+        std::printf("  %-12s %s\n", kind.name, kind.description);
+    return 2;
+}
+
+int RunFault(const FaultKind& kind, int runs, quint32 seed)
+{
+    QElapsedTimer timer;
+    timer.start();
+    FaultRun run(runs, seed);
+    kind.run(run);
+    std::printf("%s: %d times, %d broken promises, seed %u, %.1f s\n", kind.name, run.CountSoFar(),
+        run.Blames(), seed, static_cast<double>(timer.elapsed()) / 1000);
+    return run.CountSoFar() > 0 && run.Blames() == 0 ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (argc != 3 && argc != 4)
+        return Usage();
+    const int runs = QByteArrayView(argv[2]).toInt();
+    const bool isRandom = argc == 4 && QByteArrayView(argv[3]) == "random";
+    const quint32 seed = isRandom ? std::random_device()()
+        : argc == 4               ? QByteArrayView(argv[3]).toUInt()
+                                  : 1;
+    for (const FaultKind& kind : kFaultKinds) {
+        if (QByteArrayView(argv[1]) == kind.name && runs > 0)
+            return RunFault(kind, runs, seed);
+    }
+    return Usage();
+}
