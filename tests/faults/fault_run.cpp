@@ -31,27 +31,18 @@ void WriteFiles(const QString& folder, const Files& files)
     }
 }
 
-/// The contents of the data file after the n-th backup step, for n from 1.
-const QByteArray* StateAtBackup(const Script& script, int n)
-{
-    for (size_t i = 0; i < script.steps.size(); ++i) {
-        if (script.steps[i].action == Action::Backup && --n == 0)
-            return &script.states[i].back();
-    }
-    return nullptr;
-}
-
 QString JudgeBackups(const FaultRun& run, const Script& script)
 {
-    const QByteArray stem = run.DataFile() + ".backup-";
-    for (int n = 1; QFile::exists(QFile::decodeName(stem + QByteArray::number(n))); ++n) {
-        const Reading copy = ReadDataFile(stem + QByteArray::number(n));
+    for (size_t i = 0; i < script.steps.size(); ++i) {
+        const QByteArray path = BackupPath(run.DataFile(), script.steps[i].number);
+        if (script.steps[i].action != Action::Backup || !QFile::exists(QFile::decodeName(path)))
+            continue;
+        const Reading copy = ReadDataFile(path);
         if (copy.error != ErrorNumber::None)
-            return u"backup %1 cannot be read: %2"_s.arg(n).arg(
+            return u"the backup of step %1 cannot be read: %2"_s.arg(i + 1).arg(
                 QLatin1StringView(ErrorPhrase(copy.error)));
-        const QByteArray* state = StateAtBackup(script, n);
-        if (state == nullptr || copy.contents != *state)
-            return u"backup %1 holds something else"_s.arg(n);
+        if (copy.contents != script.After(i + 1))
+            return u"the backup of step %1 holds something else"_s.arg(i + 1);
     }
     return {};
 }
@@ -126,6 +117,21 @@ QString Judge(const FaultRun& run, const Script& script, size_t acknowledged)
     if (!script.Allows(acknowledged, reading.contents))
         return u"after %1 steps the file holds something else"_s.arg(acknowledged);
     return JudgeBackups(run, script);
+}
+
+std::vector<Files> MakeStages(const FaultRun& run, const Script& script)
+{
+    run.Clear();
+    std::vector<Files> stages { {} };
+    {
+        Session session;
+        if (session.Start(run.DataFile()) != ErrorNumber::None)
+            qFatal("the workload cannot start");
+        // Between two steps no lock is held that reading the file could drop.
+        RunScript(session, script, [&](size_t) { stages.push_back(run.Taken()); });
+    }
+    run.Clear();
+    return stages;
 }
 
 } // namespace Quillory

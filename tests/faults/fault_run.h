@@ -51,6 +51,10 @@ private:
 /// the check, and every backup is whole; else what is wrong.
 [[nodiscard]] QString Judge(const FaultRun& run, const Script& script, size_t acknowledged);
 
+/// The files before each step of the script, which is run once to make them; before the first step
+/// there are none. The scratch folder is empty afterwards.
+[[nodiscard]] std::vector<Files> MakeStages(const FaultRun& run, const Script& script);
+
 // The kinds of faults. Each makes its fault run.Runs() times or a little more.
 void KillAtEveryCall(FaultRun& run);
 

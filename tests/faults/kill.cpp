@@ -14,7 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr size_t kScriptLength = 40;
-constexpr int kPointsPerScript = 1500;
 
 class CallCounter : public CallWatcher
 {
@@ -70,9 +69,10 @@ private:
     bool m_isDue = false;
 };
 
-/// Runs the script in a process of its own until it is killed, and gives the number of steps that
-/// it acknowledged. `status` is how it ended.
-size_t RunUntilKilled(const FaultRun& run, const Script& script, Killer& killer, int& status)
+/// Runs the script from a step on in a process of its own until it is killed, and gives the number
+/// of steps that it acknowledged. `status` is how it ended.
+size_t RunUntilKilled(
+    const FaultRun& run, const Script& script, size_t step, Killer& killer, int& status)
 {
     std::array<int, 2> ends {};
     if (pipe(ends.data()) != 0)
@@ -83,12 +83,13 @@ size_t RunUntilKilled(const FaultRun& run, const Script& script, Killer& killer,
         // Nothing is open here but the pipe: the child starts as a new process would.
         const WatchScope watch(run.Folder(), killer);
         Session session;
-        if (session.Start(run.DataFile()) == ErrorNumber::None)
-            RunScript(session, script, [&](size_t) {
-                if (write(ends[1], "+", 1) != 1)
-                    _exit(3);
-            });
-        _exit(2);
+        if (session.Start(run.DataFile()) != ErrorNumber::None)
+            _exit(2);
+        for (size_t i = step; i < script.steps.size() && session.Run(script.steps[i]).isDone; ++i) {
+            if (write(ends[1], "+", 1) != 1)
+                _exit(3);
+        }
+        _exit(4);
     }
     close(ends[1]);
     size_t acknowledged = 0;
@@ -99,50 +100,51 @@ size_t RunUntilKilled(const FaultRun& run, const Script& script, Killer& killer,
     return acknowledged;
 }
 
-int CountCalls(const FaultRun& run, const Script& script)
+int CountCalls(const FaultRun& run, const Script& script, size_t step)
 {
-    run.Clear();
     CallCounter counter;
     const WatchScope watch(run.Folder(), counter);
     Session session;
-    if (session.Start(run.DataFile()) != ErrorNumber::None)
-        qFatal("the workload cannot start");
-    RunScript(session, script, [](size_t) {});
+    if (session.Start(run.DataFile()) != ErrorNumber::None
+        || !session.Run(script.steps[step]).isDone)
+        qFatal("the workload cannot run");
     return counter.Count();
 }
 
-void KillAt(FaultRun& run, const Script& script, int callNumber, KillMoment moment)
+void KillAt(FaultRun& run, const Script& script, size_t step, int callNumber, KillMoment moment)
 {
-    run.Clear();
     Killer killer(callNumber, moment);
     int status = 0;
-    const size_t acknowledged = RunUntilKilled(run, script, killer, status);
+    const size_t acknowledged = step + RunUntilKilled(run, script, step, killer, status);
     run.Count();
     const Files left = run.Taken();
+    const QString place = u"step %1, call %2: "_s.arg(step + 1).arg(callNumber);
     if (!WIFSIGNALED(status) || WTERMSIG(status) != SIGKILL)
-        run.Blame(u"call %1: the process ended by itself"_s.arg(callNumber), left);
+        run.Blame(place + u"the process ended by itself"_s, left);
     else if (const QString wrong = Judge(run, script, acknowledged); !wrong.isEmpty())
-        run.Blame(u"killed at call %1: %2"_s.arg(callNumber).arg(wrong), left);
-}
-
-/// Kills at calls spread over the whole script, each one before and amid it.
-void KillThroughScript(FaultRun& run, const Script& script, int points)
-{
-    const int calls = CountCalls(run, script);
-    for (int i = 0; i < points; ++i) {
-        const int callNumber = 1 + static_cast<int>(qint64 { calls } * i / points);
-        KillAt(
-            run, script, callNumber, i % 2 == 0 ? KillMoment::BeforeTheCall : KillMoment::MidCall);
-    }
+        run.Blame(place + wrong, left);
 }
 
 } // namespace
 
 void KillAtEveryCall(FaultRun& run)
 {
-    for (quint32 round = 0; run.CountSoFar() < run.Runs(); ++round)
-        KillThroughScript(run, MakeScript(run.Seed() + round, kScriptLength),
-            std::min(kPointsPerScript, run.Runs() - run.CountSoFar()));
+    for (quint32 round = 0;; ++round) {
+        const Script script = MakeScript(run.Seed() + round, kScriptLength);
+        const std::vector<Files> stages = MakeStages(run, script);
+        for (size_t step = 0; step < script.steps.size(); ++step) {
+            run.Place(stages[step]);
+            const int calls = CountCalls(run, script, step);
+            for (int call = 1; call <= calls; ++call) {
+                for (const KillMoment moment : { KillMoment::BeforeTheCall, KillMoment::MidCall }) {
+                    if (run.CountSoFar() == run.Runs())
+                        return;
+                    run.Place(stages[step]);
+                    KillAt(run, script, step, call, moment);
+                }
+            }
+        }
+    }
 }
 
 } // namespace Quillory

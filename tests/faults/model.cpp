@@ -50,6 +50,8 @@ public:
             step.list = NewName();
         if (action == Action::RenameList)
             step.newName = NewName();
+        if (action == Action::Backup)
+            step.number = ++m_backups;
         if (action == Action::AddRow || action == Action::ChangeRow)
             step.rows.push_back(SomeRow());
         if (action == Action::ImportRows)
@@ -83,6 +85,7 @@ private:
     Model m_model;
     Script m_script;
     int m_names = 0;
+    int m_backups = 0;
 
     size_t Below(size_t limit) { return m_random() % limit; }
     /// Ends in no digit, so that no two row databases get the same name.

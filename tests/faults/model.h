@@ -50,6 +50,7 @@ struct Step
     /// Stands for the row at this place, modulo the number of rows.
     size_t row = 0;
     std::vector<ModelRow> rows;
+    /// The number of an option, or of a backup.
     qint32 number = 0;
 };
 

@@ -99,10 +99,10 @@ Session::Outcome Session::Import(const Step& step)
     return { isDone, outcome.rows };
 }
 
-bool Session::Backup()
+bool Session::Backup(int number)
 {
-    const QByteArray path = m_path + ".backup-" + QByteArray::number(++m_backups);
-    return m_volume.MountedVolume()->Backup(QFile::decodeName(path)).IsOk();
+    const QString path = QFile::decodeName(BackupPath(m_path, number));
+    return m_volume.MountedVolume()->Backup(path).IsOk();
 }
 
 bool Session::RunOnRow(const Step& step)
@@ -161,7 +161,7 @@ Session::Outcome Session::Run(const Step& step)
     if (step.action == Action::AddList)
         return { AddList(step), 0 };
     if (step.action == Action::Backup)
-        return { Backup(), 0 };
+        return { Backup(step.number), 0 };
     const ObjectId list = m_catalogue.FindList(step.list);
     if (list == kNoObject)
         return {};
@@ -196,6 +196,11 @@ ErrorNumber Session::Check()
     if (!faults)
         return faults.Error();
     return faults->empty() ? ErrorNumber::None : ErrorNumber::FileCorrupt;
+}
+
+QByteArray BackupPath(const QByteArray& dataFile, int number)
+{
+    return dataFile + ".backup-" + QByteArray::number(number);
 }
 
 Reading ReadDataFile(const QByteArray& path)

@@ -37,14 +37,16 @@ private:
     InventoryList m_list;
     ValueContext m_context;
     QByteArray m_path;
-    int m_backups = 0;
 
     bool AddList(const Step& step);
     Outcome Import(const Step& step);
-    bool Backup();
+    bool Backup(int number);
     bool RunOnList(const Step& step, ObjectId list);
     bool RunOnRow(const Step& step);
 };
+
+/// Where a workload on a data file puts a backup.
+[[nodiscard]] QByteArray BackupPath(const QByteArray& dataFile, int number);
 
 /// What a file holds for somebody who starts the program on it.
 struct Reading
