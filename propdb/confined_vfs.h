@@ -8,6 +8,9 @@ namespace Quillory {
 constexpr int kPageSize = 4096;
 constexpr int kPageReserve = 8;
 
+/// Whether the kPageSize bytes at `page` bear the checksum of the page of this number, from 1.
+[[nodiscard]] bool HasRightChecksum(const void* page, quint32 number);
+
 /// SQLite's view of the file system while it works on a volume.
 ///
 /// It reaches the permitted volumes, their journals and nameless temporary files, and nothing else,

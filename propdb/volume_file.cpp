@@ -1,6 +1,7 @@
 #include "propdb/volume_file.h"
 
 #include "propdb/confined_vfs.h"
+#include "propdb/hot_journal.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -11,6 +12,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -182,8 +184,16 @@ Result<void> VolumeFile::VerifyHeader() const
     const ssize_t size = pread(m_descriptor, header.data(), header.size(), 0);
     if (size < 0)
         return ErrorFromErrno(errno);
-    if (size < static_cast<ssize_t>(header.size())
-        || std::memcmp(header.data(), kMagic.data(), kMagic.size()) != 0)
+    const auto isOurs
+        = [&header] { return std::memcmp(header.data(), kMagic.data(), kMagic.size()) == 0; };
+    if (m_hasJournal && size > 0 && !isOurs()) {
+        // The first page was being written when the power failed; the journal has it whole.
+        const QByteArray page = FirstPageFromJournal(m_path, m_descriptor);
+        std::copy_n(page.begin(), std::min<size_t>(header.size(), page.size()), header.begin());
+    } else if (size < static_cast<ssize_t>(header.size())) {
+        return ErrorNumber::BadFormat;
+    }
+    if (!isOurs())
         return ErrorNumber::BadFormat;
     const auto field = [&](int offset) { return qFromBigEndian<quint32>(header.data() + offset); };
     if (field(HeaderLayout::kApplicationId) != kApplicationId)
