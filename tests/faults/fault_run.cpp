@@ -98,7 +98,7 @@ Files FaultRun::Taken() const
 
 void FaultRun::Blame(const QString& what, const Files& evidence)
 {
-    if (++m_blames > kMaxToldBlames)
+    if (++m_blames > kMaxToldBlames || m_isQuiet)
         return;
     const QString folder
         = QDir::current().filePath(u"fault-evidence/%1-%2"_s.arg(m_seed).arg(m_blames));

@@ -36,6 +36,8 @@ public:
     [[nodiscard]] int CountSoFar() const { return m_count; }
     /// Tells of a broken promise and keeps the files that show it.
     void Blame(const QString& what, const Files& evidence);
+    /// Only counts what it is blamed for: for runs that must go wrong.
+    void KeepQuiet() { m_isQuiet = true; }
     [[nodiscard]] int Blames() const { return m_blames; }
 
 private:
@@ -43,6 +45,7 @@ private:
     quint32 m_seed;
     int m_count = 0;
     int m_blames = 0;
+    bool m_isQuiet = false;
     QTemporaryDir m_folder;
 };
 
@@ -57,5 +60,8 @@ private:
 
 // The kinds of faults. Each makes its fault run.Runs() times or a little more.
 void KillAtEveryCall(FaultRun& run);
+void CutPowerEverywhere(FaultRun& run);
+/// The same with the syncs of the data file weakened, which must be found out.
+void CutPowerOfCarelessFiles(FaultRun& run);
 
 } // namespace Quillory

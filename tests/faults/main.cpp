@@ -20,6 +20,9 @@ struct FaultKind
 
 constexpr std::array kFaultKinds {
     FaultKind { "kill", "the process is killed at a call or amid it", &KillAtEveryCall },
+    FaultKind { "power", "the power is cut after a call, in eight ways", &CutPowerEverywhere },
+    FaultKind { "careless", "the same with weakened syncs, which must be found out",
+        &CutPowerOfCarelessFiles },
 };
 
 int Usage()
