@@ -54,6 +54,7 @@ struct HeaderLayout
     static constexpr int kWriteVersion = 18;
     static constexpr int kReadVersion = 19;
     static constexpr int kReserve = 20;
+    static constexpr int kChangeCounter = 24;
     static constexpr int kTextEncoding = 56;
     static constexpr int kUserVersion = 60;
     static constexpr int kApplicationId = 68;
@@ -62,6 +63,17 @@ constexpr std::array<char, 16> kMagic { 'S', 'Q', 'L', 'i', 't', 'e', ' ', 'f', 
     't', ' ', '3', '\0' };
 constexpr quint32 kUtf16BigEndian = 3;
 constexpr char kRollbackJournal = 1;
+
+Result<void> SyncFolderOf(const QByteArray& path)
+{
+    const int folder = open(FolderOf(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return ErrorFromErrno(errno);
+    // File systems that know no sync of folders need none.
+    const int code = fsync(folder) == 0 || errno == EINVAL ? 0 : errno;
+    close(folder);
+    return code == 0 ? ErrorNumber::None : ErrorFromErrno(code);
+}
 
 } // namespace
 
@@ -226,6 +238,25 @@ Result<void> VolumeFile::VerifyInPlace() const
     return {};
 }
 
+Result<quint32> VolumeFile::ChangeCounter() const
+{
+    std::array<char, sizeof(quint32)> field {};
+    const ssize_t size
+        = pread(m_descriptor, field.data(), field.size(), HeaderLayout::kChangeCounter);
+    if (size < 0)
+        return ErrorFromErrno(errno);
+    if (size < static_cast<ssize_t>(field.size()))
+        return ErrorNumber::FileCorrupt;
+    return qFromBigEndian<quint32>(field.data());
+}
+
+Result<void> VolumeFile::MakeDurable() const
+{
+    if (fsync(m_descriptor) != 0)
+        return ErrorFromErrno(errno);
+    return SyncFolderOf(m_path);
+}
+
 Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
 {
     bool isRenamed
@@ -235,12 +266,7 @@ Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
         isRenamed = rename(from.constData(), to.constData()) == 0;
     if (!isRenamed)
         return ErrorFromErrno(errno);
-    const int folder = open(FolderOf(to).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder < 0)
-        return ErrorFromErrno(errno);
-    const int code = fsync(folder) == 0 || errno == EINVAL ? 0 : errno;
-    close(folder);
-    return code == 0 ? ErrorNumber::None : ErrorFromErrno(code);
+    return SyncFolderOf(to);
 }
 
 QByteArray UnfinishedName(const QByteArray& path)
