@@ -63,5 +63,6 @@ void KillAtEveryCall(FaultRun& run);
 void CutPowerEverywhere(FaultRun& run);
 /// The same with the syncs of the data file weakened, which must be found out.
 void CutPowerOfCarelessFiles(FaultRun& run);
+void LetCallsFail(FaultRun& run);
 
 } // namespace Quillory

@@ -53,7 +53,7 @@ public:
             raise(SIGKILL);
         m_isDue = true;
         if (call.kind == CallKind::Write && call.size > 1)
-            return CallFault { 0, call.size / 2 };
+            return CallFault { 0, call.size / 2, false };
         return std::nullopt;
     }
     void AfterCall(const SystemCall& /*call*/) override

@@ -23,6 +23,7 @@ constexpr std::array kFaultKinds {
     FaultKind { "power", "the power is cut after a call, in eight ways", &CutPowerEverywhere },
     FaultKind { "careless", "the same with weakened syncs, which must be found out",
         &CutPowerOfCarelessFiles },
+    FaultKind { "calls", "a call fails, once or for good", &LetCallsFail },
 };
 
 int Usage()

@@ -81,9 +81,10 @@ template <typename Real> long Perform(SystemCall call, const Real& real)
         errno = systemError;
         return result;
     }
-    if (fault->sizeDone > 0) {
-        const long result = real(fault->sizeDone);
-        call.size = result;
+    if (fault->sizeDone > 0 || fault->isDone) {
+        const long result = real(fault->isDone ? call.size : fault->sizeDone);
+        if (fault->sizeDone > 0)
+            call.size = result;
         watch->watcher->AfterCall(call);
         if (fault->errorNumber == 0)
             return result;

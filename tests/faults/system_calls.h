@@ -48,6 +48,8 @@ struct CallFault
     int errorNumber = 0;
     /// So many bytes of a write are written all the same.
     qint64 sizeDone = 0;
+    /// The whole call is made, and told to have failed.
+    bool isDone = false;
 };
 
 /// Stands between the program, SQLite included, and the operating system.
