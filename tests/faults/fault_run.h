@@ -64,5 +64,6 @@ void CutPowerEverywhere(FaultRun& run);
 /// The same with the syncs of the data file weakened, which must be found out.
 void CutPowerOfCarelessFiles(FaultRun& run);
 void LetCallsFail(FaultRun& run);
+void DamageFiles(FaultRun& run);
 
 } // namespace Quillory

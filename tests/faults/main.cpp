@@ -24,6 +24,7 @@ constexpr std::array kFaultKinds {
     FaultKind { "careless", "the same with weakened syncs, which must be found out",
         &CutPowerOfCarelessFiles },
     FaultKind { "calls", "a call fails, once or for good", &LetCallsFail },
+    FaultKind { "damage", "the file is damaged at rest", &DamageFiles },
 };
 
 int Usage()

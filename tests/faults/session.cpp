@@ -170,24 +170,37 @@ Session::Outcome Session::Run(const Step& step)
     return { RunOnList(step, list), 0 };
 }
 
-Result<QByteArray> Session::Contents()
+std::vector<Session::ListText> Session::ReadLists()
 {
-    QString text;
+    std::vector<ListText> texts;
     for (const auto& entry : m_catalogue.FillHomeList()) {
         InventoryList list;
-        if (!m_catalogue.OpenList(entry.oid, list))
-            return m_volume.LastError();
-        QBuffer target;
-        target.open(QIODevice::WriteOnly);
-        const auto exported
-            = ExportRows(*m_volume.OpenDatabase(ListCatalogue::kRowsType), list, m_context, target);
-        if (exported.readError != ErrorNumber::None)
-            return exported.readError;
-        text += u"%1 %2\r\n"_s.arg(entry.name).arg(list.TableWarnStart);
-        text += Utf16Text(target.data());
+        ListText text { entry.name, {}, ErrorNumber::None };
+        if (m_catalogue.OpenList(entry.oid, list)) {
+            QBuffer target;
+            target.open(QIODevice::WriteOnly);
+            Database& rows = *m_volume.OpenDatabase(ListCatalogue::kRowsType);
+            text.error = ExportRows(rows, list, m_context, target).readError;
+            text.heading += u' ' + QString::number(list.TableWarnStart) + u"\r\n"_s;
+            text.rows = Utf16Text(target.data());
+        } else {
+            text.error = m_volume.LastError();
+        }
+        texts.push_back(std::move(text));
     }
     m_catalogue.CloseRows();
-    return text.toUtf8();
+    return texts;
+}
+
+Result<QByteArray> Session::Contents()
+{
+    QString whole;
+    for (const ListText& text : ReadLists()) {
+        if (text.error != ErrorNumber::None)
+            return text.error;
+        whole += text.heading + text.rows;
+    }
+    return whole.toUtf8();
 }
 
 ErrorNumber Session::Check()

@@ -25,7 +25,16 @@ public:
         qint64 importedRows = 0;
     };
     [[nodiscard]] Outcome Run(const Step& step);
-    /// Every list with its options and rows as text, through the export.
+    /// One list as text, through the export.
+    struct ListText
+    {
+        QString heading;
+        QString rows;
+        /// Why rows are missing; None if all are there.
+        ErrorNumber error = ErrorNumber::None;
+    };
+    [[nodiscard]] std::vector<ListText> ReadLists();
+    /// Every list with its options and rows, or why something is missing.
     [[nodiscard]] Result<QByteArray> Contents();
     /// What `quillory check` finds: None or FileCorrupt, or why it could not look.
     [[nodiscard]] ErrorNumber Check();
