@@ -106,22 +106,27 @@ void FailAt(FaultRun& run, const Script& script, size_t step, const Files& files
 
 } // namespace
 
-void LetCallsFail(FaultRun& run)
+void LetCallsFailThrough(FaultRun& run, const Script& script, int runs)
 {
-    size_t next = 0;
-    for (quint32 round = 0;; ++round) {
-        const Script script = MakeScript(run.Seed() + round, kScriptLength);
-        const std::vector<Files> stages = MakeStages(run, script);
-        for (size_t step = 0; step < script.steps.size(); ++step) {
-            run.Place(stages[step]);
-            const int calls = CountCalls(run, script, step);
-            for (int call = 1; call <= calls; ++call) {
-                if (run.CountSoFar() == run.Runs())
-                    return;
-                FailAt(run, script, step, stages[step], call, kFailures[next++ % kFailures.size()]);
-            }
+    const std::vector<Files> stages = MakeStages(run, script);
+    const int end = run.CountSoFar() + runs;
+    for (size_t step = 0; step < script.steps.size(); ++step) {
+        run.Place(stages[step]);
+        const int calls = CountCalls(run, script, step);
+        for (int call = 1; call <= calls; ++call) {
+            if (run.CountSoFar() == end)
+                return;
+            const auto kind = static_cast<size_t>(run.CountSoFar()) % kFailures.size();
+            FailAt(run, script, step, stages[step], call, kFailures[kind]);
         }
     }
+}
+
+void LetCallsFail(FaultRun& run)
+{
+    for (quint32 round = 0; run.CountSoFar() < run.Runs(); ++round)
+        LetCallsFailThrough(
+            run, MakeScript(run.Seed() + round, kScriptLength), run.Runs() - run.CountSoFar());
 }
 
 } // namespace Quillory

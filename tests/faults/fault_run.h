@@ -64,6 +64,15 @@ void CutPowerEverywhere(FaultRun& run);
 /// The same with the syncs of the data file weakened, which must be found out.
 void CutPowerOfCarelessFiles(FaultRun& run);
 void LetCallsFail(FaultRun& run);
+void FillDisk(FaultRun& run);
+/// Kills, failing calls and a full disk during an import.
+void BreakImports(FaultRun& run);
+void ExhaustMemory(FaultRun& run);
 void DamageFiles(FaultRun& run);
+
+// The same on a given script, at most so often.
+void KillThrough(FaultRun& run, const Script& script, int runs);
+void LetCallsFailThrough(FaultRun& run, const Script& script, int runs);
+void FillDiskThrough(FaultRun& run, const Script& script, int runs);
 
 } // namespace Quillory

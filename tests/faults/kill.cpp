@@ -127,24 +127,29 @@ void KillAt(FaultRun& run, const Script& script, size_t step, int callNumber, Ki
 
 } // namespace
 
-void KillAtEveryCall(FaultRun& run)
+void KillThrough(FaultRun& run, const Script& script, int runs)
 {
-    for (quint32 round = 0;; ++round) {
-        const Script script = MakeScript(run.Seed() + round, kScriptLength);
-        const std::vector<Files> stages = MakeStages(run, script);
-        for (size_t step = 0; step < script.steps.size(); ++step) {
-            run.Place(stages[step]);
-            const int calls = CountCalls(run, script, step);
-            for (int call = 1; call <= calls; ++call) {
-                for (const KillMoment moment : { KillMoment::BeforeTheCall, KillMoment::MidCall }) {
-                    if (run.CountSoFar() == run.Runs())
-                        return;
-                    run.Place(stages[step]);
-                    KillAt(run, script, step, call, moment);
-                }
+    const std::vector<Files> stages = MakeStages(run, script);
+    const int end = run.CountSoFar() + runs;
+    for (size_t step = 0; step < script.steps.size(); ++step) {
+        run.Place(stages[step]);
+        const int calls = CountCalls(run, script, step);
+        for (int call = 1; call <= calls; ++call) {
+            for (const KillMoment moment : { KillMoment::BeforeTheCall, KillMoment::MidCall }) {
+                if (run.CountSoFar() == end)
+                    return;
+                run.Place(stages[step]);
+                KillAt(run, script, step, call, moment);
             }
         }
     }
+}
+
+void KillAtEveryCall(FaultRun& run)
+{
+    for (quint32 round = 0; run.CountSoFar() < run.Runs(); ++round)
+        KillThrough(
+            run, MakeScript(run.Seed() + round, kScriptLength), run.Runs() - run.CountSoFar());
 }
 
 } // namespace Quillory

@@ -24,6 +24,10 @@ constexpr std::array kFaultKinds {
     FaultKind { "careless", "the same with weakened syncs, which must be found out",
         &CutPowerOfCarelessFiles },
     FaultKind { "calls", "a call fails, once or for good", &LetCallsFail },
+    FaultKind { "full", "the disk runs full", &FillDisk },
+    FaultKind {
+        "import", "an import is killed, or its calls fail, or the disk runs full", &BreakImports },
+    FaultKind { "memory", "SQLite gets no memory, once or for good", &ExhaustMemory },
     FaultKind { "damage", "the file is damaged at rest", &DamageFiles },
 };
 
