@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstring>
+#include <optional>
 #include <set>
 
 namespace Quillory {
@@ -35,6 +36,11 @@ bool ReadAt(int descriptor, char* buffer, qsizetype size, qint64 offset)
     return pread(descriptor, buffer, static_cast<size_t>(size), offset) == size;
 }
 
+bool HasMagic(const char* header)
+{
+    return std::memcmp(header, kJournalMagic.data(), kJournalMagic.size()) == 0;
+}
+
 /// Whether both pages have a sector in common that no other file is likely to have.
 bool HaveCommonSector(const char* a, const char* b)
 {
@@ -51,7 +57,7 @@ bool HaveCommonSector(const char* a, const char* b)
 class JournalReader
 {
 public:
-    JournalReader(const QByteArray& path, int fileDescriptor)
+    explicit JournalReader(const QByteArray& path, int fileDescriptor = -1)
         : m_descriptor(
             open((path + "-journal").constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK))
         , m_fileDescriptor(fileDescriptor)
@@ -79,6 +85,14 @@ public:
         return true;
     }
 
+    /// How many pages the file gets by it; nothing if it is no journal that is played back.
+    [[nodiscard]] std::optional<quint32> OriginalPageCount() const
+    {
+        std::array<char, JournalLayout::kHeaderSize> header {};
+        if (!ReadAt(m_descriptor, header.data(), header.size(), 0) || !HasMagic(header.data()))
+            return std::nullopt;
+        return qFromBigEndian<quint32>(header.data() + JournalLayout::kOriginalPages);
+    }
     [[nodiscard]] const QByteArray& FirstPage() const { return m_firstPage; }
     /// The file has a piece of what the journal restores, or nothing that outlasts it.
     [[nodiscard]] bool IsOfThisFile() const
@@ -101,7 +115,7 @@ private:
     {
         std::array<char, JournalLayout::kHeaderSize> header {};
         if (!ReadAt(m_descriptor, header.data(), header.size(), m_offset)
-            || std::memcmp(header.data(), kJournalMagic.data(), kJournalMagic.size()) != 0)
+            || !HasMagic(header.data()))
             return false;
         const auto field
             = [&](int place) { return qFromBigEndian<quint32>(header.data() + place); };
@@ -150,6 +164,13 @@ private:
 };
 
 } // namespace
+
+bool HasPlausibleJournal(const QByteArray& path, qint64 fileSize)
+{
+    const JournalReader journal(path);
+    const auto pages = journal.OriginalPageCount();
+    return !pages || (*pages > 0 && (qint64 { *pages } - 1) * kPageSize < fileSize);
+}
 
 QByteArray FirstPageFromJournal(const QByteArray& path, int descriptor)
 {

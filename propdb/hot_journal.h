@@ -12,4 +12,9 @@ namespace Quillory {
 /// Lets a volume be known whose first page was being written when the power failed.
 [[nodiscard]] QByteArray FirstPageFromJournal(const QByteArray& path, int descriptor);
 
+/// False if the journal of the volume at `path` would give the file of so many bytes a size that
+/// none of this program's journals does: no page, or more than the file has. Playing it back would
+/// cut the file off or blow it up.
+[[nodiscard]] bool HasPlausibleJournal(const QByteArray& path, qint64 fileSize);
+
 } // namespace Quillory

@@ -222,9 +222,11 @@ Result<void> VolumeFile::VerifyHeader() const
     // A file whose journal is still there may be cut short; the journal makes it whole.
     struct stat status
     { };
-    if (!m_hasJournal && fstat(m_descriptor, &status) == 0 && status.st_size % kPageSize != 0)
-        return ErrorNumber::FileCorrupt;
-    return {};
+    if (fstat(m_descriptor, &status) != 0)
+        return ErrorFromErrno(errno);
+    const bool isSound = m_hasJournal ? HasPlausibleJournal(m_path, status.st_size)
+                                      : status.st_size % kPageSize == 0;
+    return isSound ? ErrorNumber::None : ErrorNumber::FileCorrupt;
 }
 
 Result<void> VolumeFile::VerifyInPlace() const
