@@ -68,7 +68,12 @@ void FillDisk(FaultRun& run);
 /// Kills, failing calls and a full disk during an import.
 void BreakImports(FaultRun& run);
 void ExhaustMemory(FaultRun& run);
+/// Somebody removes, moves, replaces or cuts the file that the program has open.
+void MeddleWithOpenFile(FaultRun& run);
 void DamageFiles(FaultRun& run);
+/// Each foreign file there is in its table, once, however many runs are asked for.
+void RefuseForeignFiles(FaultRun& run);
+void LayJournals(FaultRun& run);
 
 // The same on a given script, at most so often.
 void KillThrough(FaultRun& run, const Script& script, int runs);
