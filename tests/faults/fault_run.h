@@ -74,6 +74,8 @@ void DamageFiles(FaultRun& run);
 /// Each foreign file there is in its table, once, however many runs are asked for.
 void RefuseForeignFiles(FaultRun& run);
 void LayJournals(FaultRun& run);
+/// Other processes read, write and lock the file beside the program.
+void ShareTheFile(FaultRun& run);
 
 // The same on a given script, at most so often.
 void KillThrough(FaultRun& run, const Script& script, int runs);

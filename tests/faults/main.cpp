@@ -32,6 +32,7 @@ constexpr std::array kFaultKinds {
     FaultKind { "damage", "the file is damaged at rest", &DamageFiles },
     FaultKind { "foreign", "the file is another program's (a table of them)", &RefuseForeignFiles },
     FaultKind { "journals", "a hostile journal lies beside the file", &LayJournals },
+    FaultKind { "neighbours", "other processes use the file as well", &ShareTheFile },
 };
 
 int Usage()
