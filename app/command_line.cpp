@@ -291,6 +291,7 @@ ExitCode RunCommandLine(const QStringList& arguments, const CommandEnvironment& 
 int RunCommandLine(const QStringList& arguments)
 {
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     QFile input;
     QFile output;
     QFile errors;

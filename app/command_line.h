@@ -32,7 +32,7 @@ struct CommandEnvironment
 [[nodiscard]] bool IsCommandLine(const QStringList& arguments);
 
 /// Runs a command with the process's own streams, locale and settings; the process's exit code.
-/// Ignores SIGPIPE from here on. Needs no display and no application object.
+/// Ignores SIGPIPE and SIGXFSZ from here on. Needs no display and no application object.
 [[nodiscard]] int RunCommandLine(const QStringList& arguments);
 [[nodiscard]] ExitCode RunCommandLine(
     const QStringList& arguments, const CommandEnvironment& environment);

@@ -68,10 +68,14 @@ bool IsWholePage(int amount, sqlite3_int64 offset)
     return amount == kPageSize && offset % kPageSize == 0;
 }
 
-/// The checksum covers the page's number too, so that a page at another's place is found.
-XXH64_hash_t PageChecksum(const void* page, sqlite3_int64 offset)
+quint32 PageNumber(sqlite3_int64 offset)
 {
-    const auto number = static_cast<XXH64_hash_t>(offset / kPageSize + 1);
+    return static_cast<quint32>(offset / kPageSize + 1);
+}
+
+/// The checksum covers the page's number too, so that a page at another's place is found.
+XXH64_hash_t PageChecksum(const void* page, quint32 number)
+{
     return XXH3_64bits_withSeed(page, kPageSize - kPageReserve, number);
 }
 
@@ -86,7 +90,7 @@ int FileRead(sqlite3_file* file, void* buffer, int amount, sqlite3_int64 offset)
     if (code != SQLITE_OK || !reinterpret_cast<ConfinedFile*>(file)->hasChecksums
         || !IsWholePage(amount, offset))
         return code;
-    return IsPageIntact(static_cast<const char*>(buffer), offset) ? SQLITE_OK : SQLITE_IOERR_DATA;
+    return HasRightChecksum(buffer, PageNumber(offset)) ? SQLITE_OK : SQLITE_IOERR_DATA;
 }
 
 int FileWrite(sqlite3_file* file, const void* buffer, int amount, sqlite3_int64 offset)
@@ -95,7 +99,7 @@ int FileWrite(sqlite3_file* file, const void* buffer, int amount, sqlite3_int64 
         // The page cache owns the buffer and leaves the reserved bytes to the VFS. Writing them in
         // place keeps the cached page, and so the journal made from it, equal to the file.
         XXH64_canonical_t checksum;
-        XXH64_canonicalFromHash(&checksum, PageChecksum(buffer, offset));
+        XXH64_canonicalFromHash(&checksum, PageChecksum(buffer, PageNumber(offset)));
         std::memcpy(static_cast<char*>(const_cast<void*>(buffer)) + kPageSize - kPageReserve,
             &checksum, sizeof(checksum));
     }
@@ -246,12 +250,12 @@ sqlite3_vfs* RegisterVfs()
 
 } // namespace
 
-bool IsPageIntact(const char* page, qint64 offset)
+bool HasRightChecksum(const void* page, quint32 number)
 {
     XXH64_canonical_t stored;
     static_assert(sizeof(stored) == kPageReserve);
-    std::memcpy(&stored, page + kPageSize - kPageReserve, sizeof(stored));
-    return XXH64_hashFromCanonical(&stored) == PageChecksum(page, offset);
+    std::memcpy(&stored, static_cast<const char*>(page) + kPageSize - kPageReserve, sizeof(stored));
+    return XXH64_hashFromCanonical(&stored) == PageChecksum(page, number);
 }
 
 const char* ConfinedVfs::Name()

@@ -9,8 +9,8 @@ namespace Quillory {
 constexpr int kPageSize = 4096;
 constexpr int kPageReserve = 8;
 
-/// Whether the whole page at `offset` of a volume's file is as it was written there.
-[[nodiscard]] bool IsPageIntact(const char* page, qint64 offset);
+/// Whether the kPageSize bytes at `page` bear the checksum of the page of this number, from 1.
+[[nodiscard]] bool HasRightChecksum(const void* page, quint32 number);
 
 /// SQLite's view of the file system while it works on a volume.
 ///

@@ -35,7 +35,7 @@ bool PageFile::Read(quint32 number, PageBytes& page) const
         return false;
     const qint64 offset = qint64 { number - 1 } * kPageSize;
     return m_file->seek(offset) && m_file->read(page.data(), kPageSize) == kPageSize
-        && IsPageIntact(page.data(), offset);
+        && HasRightChecksum(page.data(), number);
 }
 
 } // namespace Quillory

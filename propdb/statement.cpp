@@ -62,12 +62,14 @@ Statement::~Statement()
 
 Statement::Statement(Statement&& other) noexcept
     : m_statement(std::exchange(other.m_statement, nullptr))
+    , m_bindCode(other.m_bindCode)
     , m_error(other.m_error)
 { }
 
 Statement& Statement::operator=(Statement&& other) noexcept
 {
     std::swap(m_statement, other.m_statement);
+    m_bindCode = other.m_bindCode;
     m_error = other.m_error;
     return *this;
 }
@@ -84,9 +86,15 @@ Result<Statement> Statement::Prepare(sqlite3* connection, const QString& sql, bo
     return statement;
 }
 
+void Statement::NoteBinding(int code)
+{
+    if (m_bindCode == SQLITE_OK)
+        m_bindCode = code;
+}
+
 void Statement::Bind(int parameter, qint64 value)
 {
-    sqlite3_bind_int64(m_statement, parameter, value);
+    NoteBinding(sqlite3_bind_int64(m_statement, parameter, value));
 }
 
 void Statement::Bind(int parameter, QStringView text)
@@ -97,14 +105,15 @@ void Statement::Bind(int parameter, QStringView text)
     // Files hold text big-endian, so that comparing bytes compares units.
     QVarLengthArray<char16_t, 256> units(text.size());
     qToBigEndian<quint16>(text.utf16(), text.size(), units.data());
-    sqlite3_bind_text64(m_statement, parameter, reinterpret_cast<const char*>(units.constData()),
+    NoteBinding(sqlite3_bind_text64(m_statement, parameter,
+        reinterpret_cast<const char*>(units.constData()),
         static_cast<sqlite3_uint64>(text.size()) * sizeof(char16_t), SQLITE_TRANSIENT,
-        SQLITE_UTF16BE);
+        SQLITE_UTF16BE));
 }
 
 void Statement::BindNull(int parameter)
 {
-    sqlite3_bind_null(m_statement, parameter);
+    NoteBinding(sqlite3_bind_null(m_statement, parameter));
 }
 
 bool Statement::Bind(int parameter, const PropertyValue& value)
@@ -135,8 +144,10 @@ bool Statement::Bind(int parameter, const PropertyValue& value)
             return bindInteger(time->ticks);
         return false;
     case CEVT_R8:
-        if (const auto* number = std::get_if<double>(&value.value))
-            return sqlite3_bind_double(m_statement, parameter, *number) == SQLITE_OK;
+        if (const auto* number = std::get_if<double>(&value.value)) {
+            NoteBinding(sqlite3_bind_double(m_statement, parameter, *number));
+            return true;
+        }
         return false;
     case CEVT_LPWSTR:
         if (const auto* text = std::get_if<QString>(&value.value)) {
@@ -145,36 +156,35 @@ bool Statement::Bind(int parameter, const PropertyValue& value)
         }
         return false;
     case CEVT_BLOB:
-        if (const auto* bytes = std::get_if<QByteArray>(&value.value))
-            return sqlite3_bind_blob64(m_statement, parameter, bytes->constData(),
-                       static_cast<sqlite3_uint64>(bytes->size()), SQLITE_TRANSIENT)
-                == SQLITE_OK;
+        if (const auto* bytes = std::get_if<QByteArray>(&value.value)) {
+            NoteBinding(sqlite3_bind_blob64(m_statement, parameter, bytes->constData(),
+                static_cast<sqlite3_uint64>(bytes->size()), SQLITE_TRANSIENT));
+            return true;
+        }
         return false;
     default:
         return false;
     }
 }
 
-void Statement::BindColumnOf(int parameter, const Statement& source, int column)
-{
-    sqlite3_bind_value(m_statement, parameter, sqlite3_column_value(source.m_statement, column));
-}
-
 bool Statement::Next()
 {
+    sqlite3* connection = sqlite3_db_handle(m_statement);
+    if (m_bindCode != SQLITE_OK) {
+        Finish(ErrorFromSqlite(std::exchange(m_bindCode, SQLITE_OK), connection));
+        return false;
+    }
     const int code = sqlite3_step(m_statement);
     if (code == SQLITE_ROW)
         return true;
-    Finish(code);
+    Finish(code == SQLITE_DONE ? ErrorNumber::None
+                               : ErrorFromSqlite(sqlite3_extended_errcode(connection), connection));
     return false;
 }
 
-void Statement::Finish(int code)
+void Statement::Finish(ErrorNumber error)
 {
-    sqlite3* connection = sqlite3_db_handle(m_statement);
-    m_error = code == SQLITE_DONE
-        ? ErrorNumber::None
-        : ErrorFromSqlite(sqlite3_extended_errcode(connection), connection);
+    m_error = error;
     sqlite3_reset(m_statement);
 }
 

@@ -14,7 +14,8 @@ struct sqlite3_stmt;
 namespace Quillory {
 
 /// A prepared statement: prepared by Prepare, finalised by the destructor. Parameters count from 1,
-/// columns from 0. Text goes in and out as 16-bit units, lone surrogates included.
+/// columns from 0. Text goes in and out as 16-bit units, lone surrogates included. A value that
+/// there was no memory to bind makes the next run fail.
 class Statement
 {
 public:
@@ -36,8 +37,6 @@ public:
     void BindNull(int parameter);
     /// False if the value is not of the type that its identifier names.
     [[nodiscard]] bool Bind(int parameter, const PropertyValue& value);
-    /// What column `column` of the current row of `source` holds, as it is.
-    void BindColumnOf(int parameter, const Statement& source, int column);
 
     /// True while there is a row. At the end and on failure it resets itself and gives false;
     /// Error() tells the two apart.
@@ -66,9 +65,12 @@ public:
 
 private:
     sqlite3_stmt* m_statement = nullptr;
+    /// The code of a value that could not be bound; the statement must not run without it.
+    int m_bindCode = 0;
     ErrorNumber m_error = ErrorNumber::None;
 
-    void Finish(int code);
+    void NoteBinding(int code);
+    void Finish(ErrorNumber error);
 };
 
 /// Runs SQL without parameters and without rows, one statement or several.

@@ -107,6 +107,8 @@ Result<std::unique_ptr<Volume>> Volume::Mount(
 
 Result<std::vector<Volume::DatabaseInfo>> Volume::Databases()
 {
+    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
+        return refreshed.Error();
     std::vector<DatabaseInfo> infos;
     for (const auto& schema : m_state->schema.databases)
         infos.push_back({ schema->oid, schema->name, schema->type });
@@ -184,6 +186,8 @@ Result<void> Volume::DeleteDatabase(ObjectId oid)
 Result<std::unique_ptr<Database>> Volume::OpenDatabase(
     const QString& name, const SortOrder& sortOrder)
 {
+    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
+        return refreshed.Error();
     const auto schema = m_state->schema.Find(name);
     if (schema == nullptr)
         return ErrorNumber::FileNotFound;

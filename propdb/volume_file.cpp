@@ -1,6 +1,7 @@
 #include "propdb/volume_file.h"
 
 #include "propdb/confined_vfs.h"
+#include "propdb/hot_journal.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -11,6 +12,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -52,6 +54,7 @@ struct HeaderLayout
     static constexpr size_t kWriteVersion = 18;
     static constexpr size_t kReadVersion = 19;
     static constexpr size_t kReserve = 20;
+    static constexpr size_t kChangeCounter = 24;
     static constexpr size_t kTextEncoding = 56;
     static constexpr size_t kUserVersion = 60;
     static constexpr size_t kApplicationId = 68;
@@ -60,6 +63,17 @@ constexpr std::array<char, 16> kMagic { 'S', 'Q', 'L', 'i', 't', 'e', ' ', 'f', 
     't', ' ', '3', '\0' };
 constexpr quint32 kUtf16BigEndian = 3;
 constexpr char kRollbackJournal = 1;
+
+Result<void> SyncFolderOf(const QByteArray& path)
+{
+    const int folder = open(FolderOf(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return ErrorFromErrno(errno);
+    // File systems that know no sync of folders need none.
+    const int code = fsync(folder) == 0 || errno == EINVAL ? 0 : errno;
+    close(folder);
+    return code == 0 ? ErrorNumber::None : ErrorFromErrno(code);
+}
 
 } // namespace
 
@@ -200,16 +214,25 @@ Result<void> VolumeFile::VerifyHeader() const
     const ssize_t size = pread(m_descriptor, header.data(), header.size(), 0);
     if (size < 0)
         return ErrorFromErrno(errno);
-    if (size < static_cast<ssize_t>(header.size()))
+    const auto isOurs
+        = [&header] { return std::memcmp(header.data(), kMagic.data(), kMagic.size()) == 0; };
+    if (m_hasJournal && size > 0 && !isOurs()) {
+        // The first page was being written when the power failed; the journal has it whole.
+        const QByteArray page = FirstPageFromJournal(m_path, m_descriptor);
+        std::copy_n(page.begin(), std::min<size_t>(header.size(), page.size()), header.begin());
+    } else if (size < static_cast<ssize_t>(header.size())) {
         return ErrorNumber::BadFormat;
+    }
     if (const ErrorNumber error = VerifyVolumeHeader(header); error != ErrorNumber::None)
         return error;
     // A file whose journal is still there may be cut short; the journal makes it whole.
     struct stat status
     { };
-    if (!m_hasJournal && fstat(m_descriptor, &status) == 0 && status.st_size % kPageSize != 0)
-        return ErrorNumber::FileCorrupt;
-    return {};
+    if (fstat(m_descriptor, &status) != 0)
+        return ErrorFromErrno(errno);
+    const bool isSound = m_hasJournal ? HasPlausibleJournal(m_path, status.st_size)
+                                      : status.st_size % kPageSize == 0;
+    return isSound ? ErrorNumber::None : ErrorNumber::FileCorrupt;
 }
 
 Result<void> VolumeFile::VerifyInPlace() const
@@ -223,6 +246,25 @@ Result<void> VolumeFile::VerifyInPlace() const
     return {};
 }
 
+Result<quint32> VolumeFile::ChangeCounter() const
+{
+    std::array<char, sizeof(quint32)> field {};
+    const ssize_t size
+        = pread(m_descriptor, field.data(), field.size(), HeaderLayout::kChangeCounter);
+    if (size < 0)
+        return ErrorFromErrno(errno);
+    if (size < static_cast<ssize_t>(field.size()))
+        return ErrorNumber::FileCorrupt;
+    return qFromBigEndian<quint32>(field.data());
+}
+
+Result<void> VolumeFile::MakeDurable() const
+{
+    if (fsync(m_descriptor) != 0)
+        return ErrorFromErrno(errno);
+    return SyncFolderOf(m_path);
+}
+
 Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
 {
     bool isRenamed
@@ -232,12 +274,7 @@ Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
         isRenamed = rename(from.constData(), to.constData()) == 0;
     if (!isRenamed)
         return ErrorFromErrno(errno);
-    const int folder = open(FolderOf(to).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder < 0)
-        return ErrorFromErrno(errno);
-    const int code = fsync(folder) == 0 || errno == EINVAL ? 0 : errno;
-    close(folder);
-    return code == 0 ? ErrorNumber::None : ErrorFromErrno(code);
+    return SyncFolderOf(to);
 }
 
 QByteArray UnfinishedName(const QByteArray& path)

@@ -43,6 +43,10 @@ public:
     /// Whether the path still leads to the file that was opened: FileNotFound or SharingViolation
     /// if it was removed or replaced.
     [[nodiscard]] Result<void> VerifyInPlace() const;
+    /// How often the file was changed, as its header counts; for telling whether it was since.
+    [[nodiscard]] Result<quint32> ChangeCounter() const;
+    /// Puts on the medium what the system may still keep back of the file and of its name.
+    [[nodiscard]] Result<void> MakeDurable() const;
     /// A journal stood beside the file: its last user did not end well.
     [[nodiscard]] bool HasJournal() const { return m_hasJournal; }
     [[nodiscard]] bool IsWritable() const { return m_isWritable; }

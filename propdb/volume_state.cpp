@@ -37,17 +37,8 @@ Result<void> VolumeState::Connect()
         return loaded.Error();
     schema = std::move(*loaded);
 
-    auto counter = Statement::Prepare(connection.get(), u"SELECT next_oid FROM object_counter"_s);
-    if (!counter)
-        return counter.Error();
-    const auto step = counter->Step();
-    if (!step)
-        return step.Error();
-    if (!*step || counter->Int64(0) < 1)
-        return ErrorNumber::FileCorrupt;
-    nextOid = static_cast<quint64>(counter->Int64(0));
-
-    const std::array<std::pair<Statement*, QString>, 5> kept { {
+    const std::array<std::pair<Statement*, QString>, 6> kept { {
+        { &readNextOid, u"SELECT next_oid FROM object_counter"_s },
         { &begin, u"BEGIN IMMEDIATE"_s },
         { &commit, u"COMMIT"_s },
         { &rollback, u"ROLLBACK"_s },
@@ -60,6 +51,13 @@ Result<void> VolumeState::Connect()
             return prepared.Error();
         *statement = std::move(*prepared);
     }
+    const auto step = readNextOid.Step();
+    if (!step)
+        return step.Error();
+    if (!*step || readNextOid.Int64(0) < 1)
+        return ErrorNumber::FileCorrupt;
+    nextOid = static_cast<quint64>(readNextOid.Int64(0));
+    readNextOid.Reset();
     return {};
 }
 
@@ -111,7 +109,19 @@ Result<void> VolumeState::Begin()
         database->cursor.Suspend();
     if (const auto inPlace = file.VerifyInPlace(); !inPlace)
         return inPlace;
-    return begin.Run();
+    if (const auto settled = SettleDoubt(); !settled)
+        return settled.Error();
+    if (const auto refreshed = RefreshSchema(); !refreshed)
+        return refreshed;
+    if (const auto begun = begin.Run(); !begun)
+        return begun;
+    const auto changes = file.ChangeCounter();
+    if (!changes) {
+        Rollback();
+        return changes.Error();
+    }
+    changesBefore = *changes;
+    return {};
 }
 
 Result<void> VolumeState::Commit()
@@ -125,11 +135,14 @@ Result<void> VolumeState::Commit()
         storeNextOid.Bind(1, static_cast<qint64>(nextOid));
         done = storeNextOid.Run();
     }
-    if (done)
-        done = commit.Run();
     if (!done) {
         Rollback();
         return done;
+    }
+    if (const auto committed = commit.Run(); !committed) {
+        Rollback();
+        if (const auto found = FindOutcome(committed.Error()); !found)
+            return found;
     }
     isNextOidStored = true;
     isSchemaChanged = false;
@@ -145,12 +158,45 @@ void VolumeState::Rollback()
     // Some failures have rolled back already.
     if (sqlite3_get_autocommit(connection.get()) == 0)
         static_cast<void>(rollback.Run().IsOk());
-    if (!isSchemaChanged)
-        return;
-    isSchemaChanged = false;
+    // Where this fails it is tried again before the schema is used.
+    static_cast<void>(RefreshSchema().IsOk());
+}
+
+Result<void> VolumeState::FindOutcome(ErrorNumber commitError)
+{
+    isInDoubt = true;
+    const auto isDone = SettleDoubt();
+    return isDone && *isDone ? ErrorNumber::None : commitError;
+}
+
+Result<bool> VolumeState::SettleDoubt()
+{
+    if (!isInDoubt)
+        return false;
+    // Reading makes SQLite undo what a journal still stands for.
+    const auto step = readNextOid.Step();
+    readNextOid.Reset();
+    if (!step)
+        return step.Error();
+    const auto changes = file.ChangeCounter();
+    if (!changes)
+        return changes.Error();
+    const bool isDone = *changes != changesBefore;
+    const Result<void> durable = isDone ? file.MakeDurable() : Result<void>();
+    if (!durable)
+        return durable.Error();
+    isInDoubt = false;
+    return isDone;
+}
+
+Result<void> VolumeState::RefreshSchema()
+{
+    if (!isSchemaChanged || sqlite3_get_autocommit(connection.get()) == 0)
+        return {};
     auto loaded = LoadVolumeSchema(connection.get());
     if (!loaded)
-        return;
+        return loaded.Error();
+    isSchemaChanged = false;
     schema = std::move(*loaded);
     for (DatabaseState* database : openDatabases) {
         // Open databases go on sharing their layout with the volume.
@@ -162,6 +208,7 @@ void VolumeState::Rollback()
         }
         database->selects.Clear();
     }
+    return {};
 }
 
 } // namespace Quillory

@@ -45,14 +45,20 @@ struct VolumeState
     Statement rollback;
     Statement storeNextOid;
     Statement readDataVersion;
+    Statement readNextOid;
 
     quint64 nextOid = 1;
     bool isNextOidStored = true;
     bool isInTransaction = false;
+    /// `schema` is not what the file held when the transaction began.
     bool isSchemaChanged = false;
     bool hasCommitted = false;
     /// Counts what may have changed the order of a database's records.
     quint64 orderChanges = 0;
+    /// The file's counter of changes when the transaction began.
+    quint32 changesBefore = 0;
+    /// Whether the latest commit is in the file, and durable, is not known.
+    bool isInDoubt = false;
 
     /// Opens the connection the hardened way, prepares its statements and reads the schema.
     [[nodiscard]] Result<void> Connect();
@@ -77,9 +83,20 @@ struct VolumeState
     [[nodiscard]] Result<void> EndWrite(const Result<void>& outcome);
 
     [[nodiscard]] Result<void> Begin();
+    /// A commit that SQLite reports to have failed may have been done: then the file tells, and
+    /// what it holds is made durable. A failure means that nothing was changed, unless the medium
+    /// does not answer any more; it is then asked again before the next write.
     [[nodiscard]] Result<void> Commit();
     /// Undoes everything since Begin and reads the schema anew if it had changed.
     void Rollback();
+    /// Reads the schema again if it is not the file's: where an earlier attempt failed, or within
+    /// a transaction that a failure has ended underneath.
+    [[nodiscard]] Result<void> RefreshSchema();
+
+private:
+    [[nodiscard]] Result<void> FindOutcome(ErrorNumber commitError);
+    /// Whether the commit in doubt was done; false too if none is.
+    [[nodiscard]] Result<bool> SettleDoubt();
 };
 
 /// Opens a connection to the volume at `path` under the confined VFS, everything dangerous off.

@@ -280,7 +280,8 @@ void VolumeFileTest::aHostileJournalReachesNoOtherFile()
     const VolumeFixture fixture;
     const QString victim = fixture.Path(u"victim.txt"_s);
     WriteFile(victim, "precious");
-    WriteFile(fixture.Path(), SampleFile());
+    const QByteArray sample = SampleFile();
+    WriteFile(fixture.Path(), sample);
     // A journal may end with the name of a journal above it, which SQLite would look for and drop.
     const QByteArray name = QFile::encodeName(victim);
     quint32 sum = 0;
@@ -291,8 +292,8 @@ void VolumeFileTest::aHostileJournalReachesNoOtherFile()
         qToBigEndian(value, bytes.data());
         return bytes;
     };
-    QByteArray journal
-        = QByteArray::fromHex("d9d505f920a163d7") + big(0) + big(1) + big(0) + big(512) + big(4096);
+    QByteArray journal = QByteArray::fromHex("d9d505f920a163d7") + big(0) + big(1)
+        + big(static_cast<quint32>(sample.size() / 4096)) + big(512) + big(4096);
     journal = journal.leftJustified(512, '\0') + big(262145) + name
         + big(static_cast<quint32>(name.size())) + big(sum)
         + QByteArray::fromHex("d9d505f920a163d7");

@@ -1,0 +1,109 @@
+#include "tests/faults/believer.h"
+
+#include <algorithm>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString Told(const char* what, ErrorNumber error)
+{
+    return u"%1: %2"_s.arg(QLatin1StringView(what), QLatin1StringView(ErrorPhrase(error)));
+}
+
+} // namespace
+
+Believer::Believer(QByteArray dataFile, const Script& script, size_t firstStep)
+    : m_dataFile(std::move(dataFile))
+    , m_script(script)
+    , m_firstStep(firstStep)
+{
+    for (size_t i = 0; i < firstStep; ++i)
+        m_believed.Apply(script.steps[i]);
+}
+
+bool Believer::Start()
+{
+    m_session = std::make_unique<Session>();
+    const ErrorNumber error = m_session->Start(m_dataFile);
+    if (error == ErrorNumber::None)
+        return true;
+    // The reason must be one that a person can be told.
+    if (QByteArrayView(ErrorPhrase(error)) == "general failure")
+        m_wrong = u"the start failed for no known reason"_s;
+    return false;
+}
+
+void Believer::Run(size_t stepCount)
+{
+    if (!Start() && !Start())
+        return;
+    const size_t end = std::min(m_firstStep + stepCount, m_script.steps.size());
+    for (size_t i = m_firstStep; i < end; ++i) {
+        if (m_believed.CanApply(m_script.steps[i]))
+            Do(m_script.steps[i]);
+    }
+}
+
+void Believer::Do(const Step& step)
+{
+    const auto outcome = m_session->Run(step);
+    if (outcome.isDone) {
+        m_believed.Apply(step);
+        return;
+    }
+    ++m_failedSteps;
+    if (QByteArrayView(ErrorPhrase(m_session->LastError())) == "general failure")
+        m_wrong = u"a step failed for no known reason"_s;
+    const auto importedRows = static_cast<size_t>(outcome.importedRows);
+    NoteFailure(step, importedRows);
+    if (step.action == Action::ImportRows)
+        m_believed.ApplyImport(step, importedRows);
+}
+
+void Believer::NoteFailure(const Step& step, size_t importedRows)
+{
+    Model model = m_believed;
+    if (step.action == Action::ImportRows)
+        model.ApplyImport(step, std::min(importedRows + kImportBatch, step.rows.size()));
+    else
+        model.Apply(step);
+    m_doubtful.push_back(model.Contents());
+}
+
+QString Believer::JudgeContents(bool isDoubtAllowed) const
+{
+    if (!m_wrong.isEmpty())
+        return m_wrong;
+    const Reading reading = ReadDataFile(m_dataFile);
+    if (reading.error != ErrorNumber::None)
+        return Told("afterwards the file cannot be used", reading.error);
+    const bool isDoubt = isDoubtAllowed
+        && std::find(m_doubtful.begin(), m_doubtful.end(), reading.contents) != m_doubtful.end();
+    if (reading.contents != m_believed.Contents() && !isDoubt) {
+        const bool isDone
+            = std::find(m_doubtful.begin(), m_doubtful.end(), reading.contents) != m_doubtful.end();
+        return isDone ? u"a step that was told to have failed was done"_s
+                      : u"the file holds something else than was told"_s;
+    }
+    Session session;
+    if (const ErrorNumber error = session.Start(m_dataFile); error != ErrorNumber::None)
+        return Told("the file cannot be opened again", error);
+    Step step { Action::AddList, u"Afterwards"_s, {}, 0, {}, 0 };
+    return session.Run(step).isDone ? QString()
+                                    : Told("no change can be made", session.LastError());
+}
+
+QString Believer::Judge() const
+{
+    return JudgeContents(false);
+}
+
+QString Believer::JudgeWithDoubt() const
+{
+    return JudgeContents(true);
+}
+
+} // namespace Quillory

@@ -1,0 +1,137 @@
+#include "tests/faults/fault_run.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstdio>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// More of them tell nothing new.
+constexpr int kMaxToldBlames = 10;
+
+QString ScratchTemplate()
+{
+    const QString memory = u"/dev/shm"_s;
+    const bool isThere = QFileInfo(memory).isWritable();
+    return (isThere ? memory : QDir::tempPath()) + u"/quillory-faults-XXXXXX"_s;
+}
+
+void WriteFiles(const QString& folder, const Files& files)
+{
+    for (const auto& [name, bytes] : files) {
+        QFile file(folder + u'/' + QFile::decodeName(name));
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+            || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+}
+
+QString JudgeBackups(const FaultRun& run, const Script& script)
+{
+    for (size_t i = 0; i < script.steps.size(); ++i) {
+        const QByteArray path = BackupPath(run.DataFile(), script.steps[i].number);
+        if (script.steps[i].action != Action::Backup || !QFile::exists(QFile::decodeName(path)))
+            continue;
+        const Reading copy = ReadDataFile(path);
+        if (copy.error != ErrorNumber::None)
+            return u"the backup of step %1 cannot be read: %2"_s.arg(i + 1).arg(
+                QLatin1StringView(ErrorPhrase(copy.error)));
+        if (copy.contents != script.After(i + 1))
+            return u"the backup of step %1 holds something else"_s.arg(i + 1);
+    }
+    return {};
+}
+
+} // namespace
+
+FaultRun::FaultRun(int runCount, quint32 firstSeed)
+    : m_runs(runCount)
+    , m_seed(firstSeed)
+    , m_folder(ScratchTemplate())
+{
+    if (!m_folder.isValid())
+        qFatal("no scratch folder can be made");
+}
+
+QByteArray FaultRun::Folder() const
+{
+    return QFile::encodeName(m_folder.path());
+}
+
+QByteArray FaultRun::DataFile() const
+{
+    return Folder() + "/data.idb";
+}
+
+void FaultRun::Clear() const
+{
+    QDir folder(m_folder.path());
+    for (const QString& name :
+        folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)) {
+        if (!folder.remove(name) && !QDir(folder.filePath(name)).removeRecursively())
+            qFatal("cannot remove %s", qPrintable(name));
+    }
+}
+
+void FaultRun::Place(const Files& files) const
+{
+    Clear();
+    WriteFiles(m_folder.path(), files);
+}
+
+Files FaultRun::Taken() const
+{
+    Files files;
+    const QDir folder(m_folder.path());
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden)) {
+        QFile file(folder.filePath(name));
+        if (file.open(QIODevice::ReadOnly))
+            files[QFile::encodeName(name)] = file.readAll();
+    }
+    return files;
+}
+
+void FaultRun::Blame(const QString& what, const Files& evidence)
+{
+    if (++m_blames > kMaxToldBlames || m_isQuiet)
+        return;
+    const QString folder
+        = QDir::current().filePath(u"fault-evidence/%1-%2"_s.arg(m_seed).arg(m_blames));
+    QDir().mkpath(folder);
+    WriteFiles(folder, evidence);
+    std::printf(
+        "FAULT seed %u: %s\n  files kept in %s\n", m_seed, qPrintable(what), qPrintable(folder));
+}
+
+QString Judge(const FaultRun& run, const Script& script, size_t acknowledged)
+{
+    const Reading reading = ReadDataFile(run.DataFile());
+    if (reading.error != ErrorNumber::None)
+        return u"after %1 steps the file cannot be used: %2"_s.arg(acknowledged)
+            .arg(QLatin1StringView(ErrorPhrase(reading.error)));
+    if (!script.Allows(acknowledged, reading.contents))
+        return u"after %1 steps the file holds something else"_s.arg(acknowledged);
+    return JudgeBackups(run, script);
+}
+
+std::vector<Files> MakeStages(const FaultRun& run, const Script& script)
+{
+    run.Clear();
+    std::vector<Files> stages { {} };
+    {
+        Session session;
+        if (session.Start(run.DataFile()) != ErrorNumber::None)
+            qFatal("the workload cannot start");
+        // Between two steps no lock is held that reading the file could drop.
+        RunScript(session, script, [&](size_t) { stages.push_back(run.Taken()); });
+    }
+    run.Clear();
+    return stages;
+}
+
+} // namespace Quillory

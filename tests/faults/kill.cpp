@@ -1,0 +1,155 @@
+#include "tests/faults/fault_run.h"
+#include "tests/faults/system_calls.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr size_t kScriptLength = 40;
+
+class CallCounter : public CallWatcher
+{
+public:
+    std::optional<CallFault> BeforeCall(const SystemCall& call) override
+    {
+        m_count += call.IsMutating() ? 1 : 0;
+        return std::nullopt;
+    }
+    [[nodiscard]] int Count() const { return m_count; }
+
+private:
+    int m_count = 0;
+};
+
+enum class KillMoment
+{
+    BeforeTheCall,
+    /// A write leaves half of its bytes; other calls are done.
+    MidCall,
+};
+
+/// Ends the process, as the system does when it runs out of memory, at one of its mutating calls.
+class Killer : public CallWatcher
+{
+public:
+    Killer(int callNumber, KillMoment moment)
+        : m_callNumber(callNumber)
+        , m_moment(moment)
+    { }
+
+    std::optional<CallFault> BeforeCall(const SystemCall& call) override
+    {
+        if (!call.IsMutating() || ++m_count != m_callNumber)
+            return std::nullopt;
+        if (m_moment == KillMoment::BeforeTheCall)
+            raise(SIGKILL);
+        m_isDue = true;
+        if (call.kind == CallKind::Write && call.size > 1)
+            return CallFault { 0, call.size / 2, false };
+        return std::nullopt;
+    }
+    void AfterCall(const SystemCall& /*call*/) override
+    {
+        if (m_isDue)
+            raise(SIGKILL);
+    }
+
+private:
+    int m_callNumber;
+    KillMoment m_moment;
+    int m_count = 0;
+    bool m_isDue = false;
+};
+
+/// Runs the script from a step on in a process of its own until it is killed, and gives the number
+/// of steps that it acknowledged. `status` is how it ended.
+size_t RunUntilKilled(
+    const FaultRun& run, const Script& script, size_t step, Killer& killer, int& status)
+{
+    std::array<int, 2> ends {};
+    if (pipe(ends.data()) != 0)
+        qFatal("no pipe");
+    std::fflush(nullptr);
+    const pid_t process = fork();
+    if (process == 0) {
+        // Nothing is open here but the pipe: the child starts as a new process would.
+        const WatchScope watch(run.Folder(), killer);
+        Session session;
+        if (session.Start(run.DataFile()) != ErrorNumber::None)
+            _exit(2);
+        for (size_t i = step; i < script.steps.size() && session.Run(script.steps[i]).isDone; ++i) {
+            if (write(ends[1], "+", 1) != 1)
+                _exit(3);
+        }
+        _exit(4);
+    }
+    close(ends[1]);
+    size_t acknowledged = 0;
+    for (char sign = 0; read(ends[0], &sign, 1) == 1;)
+        ++acknowledged;
+    close(ends[0]);
+    waitpid(process, &status, 0);
+    return acknowledged;
+}
+
+int CountCalls(const FaultRun& run, const Script& script, size_t step)
+{
+    CallCounter counter;
+    const WatchScope watch(run.Folder(), counter);
+    Session session;
+    if (session.Start(run.DataFile()) != ErrorNumber::None
+        || !session.Run(script.steps[step]).isDone)
+        qFatal("the workload cannot run");
+    return counter.Count();
+}
+
+void KillAt(FaultRun& run, const Script& script, size_t step, int callNumber, KillMoment moment)
+{
+    Killer killer(callNumber, moment);
+    int status = 0;
+    const size_t acknowledged = step + RunUntilKilled(run, script, step, killer, status);
+    run.Count();
+    const Files left = run.Taken();
+    const QString place = u"step %1, call %2: "_s.arg(step + 1).arg(callNumber);
+    if (!WIFSIGNALED(status) || WTERMSIG(status) != SIGKILL)
+        run.Blame(place + u"the process ended by itself"_s, left);
+    else if (const QString wrong = Judge(run, script, acknowledged); !wrong.isEmpty())
+        run.Blame(place + wrong, left);
+}
+
+} // namespace
+
+void KillThrough(FaultRun& run, const Script& script, int runs)
+{
+    const std::vector<Files> stages = MakeStages(run, script);
+    const int end = run.CountSoFar() + runs;
+    for (size_t step = 0; step < script.steps.size(); ++step) {
+        run.Place(stages[step]);
+        const int calls = CountCalls(run, script, step);
+        for (int call = 1; call <= calls; ++call) {
+            for (const KillMoment moment : { KillMoment::BeforeTheCall, KillMoment::MidCall }) {
+                if (run.CountSoFar() == end)
+                    return;
+                run.Place(stages[step]);
+                KillAt(run, script, step, call, moment);
+            }
+        }
+    }
+}
+
+void KillAtEveryCall(FaultRun& run)
+{
+    for (quint32 round = 0; run.CountSoFar() < run.Runs(); ++round)
+        KillThrough(
+            run, MakeScript(run.Seed() + round, kScriptLength), run.Runs() - run.CountSoFar());
+}
+
+} // namespace Quillory

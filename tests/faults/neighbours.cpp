@@ -1,0 +1,199 @@
+#include "tests/faults/believer.h"
+#include "tests/faults/fault_run.h"
+
+#include <QFile>
+
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <functional>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Another process on the same file. It is made before this one opens anything, since a copy of an
+/// open connection would know of locks that it does not have.
+class Neighbour
+{
+public:
+    /// `work` is called in the other process each time that it is asked; it answers with a sign.
+    explicit Neighbour(const std::function<char()>& work)
+    {
+        std::array<int, 2> toChild {};
+        std::array<int, 2> fromChild {};
+        if (pipe(toChild.data()) != 0 || pipe(fromChild.data()) != 0)
+            qFatal("no pipe");
+        std::fflush(nullptr);
+        m_process = fork();
+        if (m_process == 0) {
+            close(toChild[1]);
+            close(fromChild[0]);
+            for (char sign = 0; read(toChild[0], &sign, 1) == 1;) {
+                sign = work();
+                if (write(fromChild[1], &sign, 1) != 1)
+                    break;
+            }
+            _exit(0);
+        }
+        close(toChild[0]);
+        close(fromChild[1]);
+        m_to = toChild[1];
+        m_from = fromChild[0];
+    }
+    ~Neighbour()
+    {
+        close(m_to);
+        close(m_from);
+        waitpid(m_process, nullptr, 0);
+    }
+    Neighbour(const Neighbour&) = delete;
+    Neighbour& operator=(const Neighbour&) = delete;
+
+    /// The sign that its work ends with; NUL if it died.
+    [[nodiscard]] char Ask()
+    {
+        char sign = '+';
+        if (write(m_to, &sign, 1) != 1 || read(m_from, &sign, 1) != 1)
+            return '\0';
+        return sign;
+    }
+
+private:
+    pid_t m_process = -1;
+    int m_to = -1;
+    int m_from = -1;
+};
+
+/// The sqlite3 shell, as far as the file notices; keeps its connection from one call to the next.
+bool RunAsShell(const QByteArray& path, const char* sql)
+{
+    static sqlite3* connection = nullptr;
+    if (connection == nullptr && sqlite3_open(path.constData(), &connection) != SQLITE_OK)
+        return false;
+    return sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+const Step& AnotherList()
+{
+    static const Step step { Action::AddList, u"Afterwards"_s, {}, 0, {}, 0 };
+    return step;
+}
+
+QString SecondProgramIsRefused(const FaultRun& run, const Script& script)
+{
+    Neighbour second([&] {
+        Session session;
+        return session.Start(run.DataFile()) == ErrorNumber::SharingViolation ? 'r' : 'o';
+    });
+    Believer first(run.DataFile(), script, script.steps.size());
+    first.Run(0);
+    const char answer = second.Ask();
+    first.End();
+    if (answer != 'r')
+        return u"a second program may write"_s;
+    return second.Ask() == 'o' ? first.Judge() : u"the file stays locked"_s;
+}
+
+QString ReaderSeesWholeSteps(const FaultRun& run, const Script& script)
+{
+    Neighbour reader([&] {
+        DataVolume volume;
+        const QString path = QFile::decodeName(run.DataFile());
+        if (volume.Mount(path, Disposition::OpenExisting, VolumeAccess::ReadOnly)
+            != ErrorNumber::None)
+            return 'n';
+        const auto faults = volume.MountedVolume()->Check();
+        return faults && faults->empty() ? 'w' : 'd';
+    });
+    run.Clear();
+    Session session;
+    if (session.Start(run.DataFile()) != ErrorNumber::None)
+        return u"the workload cannot start"_s;
+    for (const Step& step : script.steps) {
+        if (!session.Run(step).isDone)
+            return u"a change fails because of a reader"_s;
+        if (reader.Ask() != 'w')
+            return u"a reader cannot read beside the program"_s;
+    }
+    return {};
+}
+
+/// A lock that somebody else holds makes a change wait, fail with its reason, and work afterwards.
+QString LockMakesChangeFail(const FaultRun& run, const Script& script, const char* locking)
+{
+    bool isLocked = false;
+    Neighbour shell([&] {
+        isLocked = !isLocked;
+        return RunAsShell(run.DataFile(), isLocked ? locking : "COMMIT") ? 'y' : 'n';
+    });
+    Session session;
+    if (session.Start(run.DataFile()) != ErrorNumber::None || shell.Ask() != 'y')
+        return u"the file cannot be locked"_s;
+    if (session.Run(AnotherList()).isDone || session.LastError() != ErrorNumber::SharingViolation)
+        return u"a change does not heed the lock"_s;
+    if (shell.Ask() != 'y' || !session.Run(AnotherList()).isDone)
+        return u"no change can be made after the lock is gone"_s;
+    Model model;
+    for (const Step& step : script.steps)
+        model.Apply(step);
+    model.Apply(AnotherList());
+    const auto contents = session.Contents();
+    return contents && *contents == model.Contents() ? QString() : u"the rows are others"_s;
+}
+
+QString LockOnWriting(const FaultRun& run, const Script& script)
+{
+    return LockMakesChangeFail(run, script, "BEGIN IMMEDIATE");
+}
+
+QString LockOnReading(const FaultRun& run, const Script& script)
+{
+    return LockMakesChangeFail(run, script, "BEGIN; SELECT * FROM property");
+}
+
+QString StrangersRowsAreNotShown(const FaultRun& run, const Script& script)
+{
+    Neighbour shell([&] {
+        return RunAsShell(run.DataFile(), "UPDATE property_database SET name = name || '!'") ? 'y'
+                                                                                             : 'n';
+    });
+    Session session;
+    if (session.Start(run.DataFile()) != ErrorNumber::None || shell.Ask() != 'y')
+        return u"the file cannot be changed"_s;
+    const auto contents = session.Contents();
+    // Lists that cannot be read are missing; what is shown is the program's own.
+    if (contents && !script.After(script.steps.size()).contains(*contents))
+        return u"a stranger's change is shown"_s;
+    return session.Check() == ErrorNumber::FileCorrupt ? QString()
+                                                       : u"the check does not notice it"_s;
+}
+
+constexpr std::array kCases {
+    &SecondProgramIsRefused,
+    &ReaderSeesWholeSteps,
+    &StrangersRowsAreNotShown,
+    &LockOnWriting,
+    &LockOnReading,
+};
+
+} // namespace
+
+void ShareTheFile(FaultRun& run)
+{
+    const Script script = MakeScript(run.Seed(), 20);
+    const std::vector<Files> stages = MakeStages(run, script);
+    while (run.CountSoFar() < run.Runs()) {
+        const auto number = static_cast<size_t>(run.CountSoFar()) % kCases.size();
+        run.Place(stages.back());
+        run.Count();
+        if (const QString wrong = kCases[number](run, script); !wrong.isEmpty())
+            run.Blame(wrong, run.Taken());
+    }
+}
+
+} // namespace Quillory

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tests/faults/fault_run.h"
+
+#include <QByteArray>
+
+namespace Quillory {
+
+/// The bytes of a data file in which a script of this seed was carried out, and what it holds.
+struct SampleFile
+{
+    QByteArray bytes;
+    QByteArray contents;
+};
+[[nodiscard]] SampleFile MakeSampleFile(const FaultRun& run, quint32 seed);
+
+/// Gives the page at this place (from 0), or every whole page, the checksum of what it holds now:
+/// the work of somebody who knows the format.
+void SealPage(QByteArray& file, qsizetype page);
+void SealAllPages(QByteArray& file);
+
+} // namespace Quillory
