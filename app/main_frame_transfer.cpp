@@ -44,7 +44,10 @@ void MainFrame::ImportFrom(const QString& path, const std::vector<PropertyId>& o
         TransferProgress progress(this, m_list.Name);
         outcome = ImportRows(
             m_volume, order, m_context, *source.file, [&progress](const ImportProgress& done) {
-                return progress.Show(done.bytesRead, done.bytesTotal);
+                // Half of the work is to read and sort, the other half to store.
+                if (done.rows == 0)
+                    return progress.Show(done.bytesRead, 2 * done.bytesTotal);
+                return progress.Show(done.lines + done.rows, 2 * done.lines);
             });
     }
     // The import tells of it itself.
