@@ -81,11 +81,16 @@ struct Weakening
     const char* synchronous = nullptr;
 };
 
-sqlite3* g_latestConnection = nullptr;
+/// The connection that was opened last.
+sqlite3*& LatestConnection()
+{
+    static sqlite3* connection = nullptr;
+    return connection;
+}
 
 int NoteConnection(sqlite3* connection, char** /*message*/, const void* /*routines*/)
 {
-    g_latestConnection = connection;
+    LatestConnection() = connection;
     return SQLITE_OK;
 }
 
@@ -93,7 +98,7 @@ int NoteConnection(sqlite3* connection, char** /*message*/, const void* /*routin
 void Weaken(const Weakening& weakening)
 {
     const QByteArray sql = QByteArray("PRAGMA synchronous = ") + weakening.synchronous;
-    if (sqlite3_exec(g_latestConnection, sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
+    if (sqlite3_exec(LatestConnection(), sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
         qFatal("the medium cannot be weakened");
 }
 
