@@ -13,6 +13,8 @@ namespace {
 constexpr size_t kScriptLength = 40;
 /// Of so many images that need recovery one has its recovery cut too.
 constexpr quint32 kRecoveryShare = 40;
+/// The first hundreds show the first start, which is never weakened.
+constexpr int kFewestCarelessImages = 2000;
 
 /// Reads images of data files, each different one once.
 class ImageReader
@@ -178,7 +180,7 @@ void CutPowerOfCarelessFiles(FaultRun& run)
     using Routine = void (*)();
     sqlite3_auto_extension(reinterpret_cast<Routine>(&NoteConnection));
     for (const char* synchronous : { "OFF", "NORMAL", "FULL" }) {
-        FaultRun careless(run.Runs(), run.Seed());
+        FaultRun careless(std::max(run.Runs(), kFewestCarelessImages), run.Seed());
         careless.KeepQuiet();
         CutPower(careless, { synchronous });
         for (int i = 0; i < careless.CountSoFar(); ++i)
