@@ -13,6 +13,8 @@ namespace {
 constexpr size_t kScriptLength = 40;
 /// Of so many images that need recovery one has its recovery cut too.
 constexpr quint32 kRecoveryShare = 40;
+/// The first hundreds show the first start, which is never weakened.
+constexpr int kFewestCarelessImages = 2000;
 
 /// Reads images of data files, each different one once.
 class ImageReader
@@ -81,11 +83,16 @@ struct Weakening
     const char* synchronous = nullptr;
 };
 
-sqlite3* g_latestConnection = nullptr;
+/// The connection that was opened last.
+sqlite3*& LatestConnection()
+{
+    static sqlite3* connection = nullptr;
+    return connection;
+}
 
 int NoteConnection(sqlite3* connection, char** /*message*/, const void* /*routines*/)
 {
-    g_latestConnection = connection;
+    LatestConnection() = connection;
     return SQLITE_OK;
 }
 
@@ -93,7 +100,7 @@ int NoteConnection(sqlite3* connection, char** /*message*/, const void* /*routin
 void Weaken(const Weakening& weakening)
 {
     const QByteArray sql = QByteArray("PRAGMA synchronous = ") + weakening.synchronous;
-    if (sqlite3_exec(g_latestConnection, sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
+    if (sqlite3_exec(LatestConnection(), sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
         qFatal("the medium cannot be weakened");
 }
 
@@ -173,7 +180,7 @@ void CutPowerOfCarelessFiles(FaultRun& run)
     using Routine = void (*)();
     sqlite3_auto_extension(reinterpret_cast<Routine>(&NoteConnection));
     for (const char* synchronous : { "OFF", "NORMAL", "FULL" }) {
-        FaultRun careless(run.Runs(), run.Seed());
+        FaultRun careless(std::max(run.Runs(), kFewestCarelessImages), run.Seed());
         careless.KeepQuiet();
         CutPower(careless, { synchronous });
         for (int i = 0; i < careless.CountSoFar(); ++i)
