@@ -165,6 +165,7 @@ double FrameMs(QTableView& view)
     constexpr int kFrames = 300;
     constexpr int kPixelsPerFrame = 175;
     std::vector<double> frames;
+    frames.reserve(kFrames);
     QScrollBar* bar = view.verticalScrollBar();
     bar->setValue(bar->maximum() / 3);
     for (int frame = 0; frame < kFrames; ++frame) {
@@ -203,9 +204,8 @@ double HeapOfOpenView(BenchList& list)
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
         RowsWindow window;
         // The pages that the database keeps are not the view's.
-        const InventoryList listed = definition;
         const ValueContext context = ValueContext::FromEnvironment();
-        RowStore store(data, listed, context);
+        RowStore store(data, definition, context);
         const auto rows = store.FillRows();
         Require(std::cmp_equal(rows.size(), list.Rows()), "rows are missing");
         for (const ObjectId row : std::span(rows).first(std::min(rows.size(), kScreenful)))

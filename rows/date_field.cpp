@@ -135,7 +135,7 @@ void DateField::OpenCalendar()
     layout->addWidget(calendar);
     const auto pick = [this, popup](QDate date) {
         popup->close();
-        Pick(date);
+        m_edit->setText(TextOf(date));
     };
     connect(calendar, &QCalendarWidget::clicked, popup, pick);
     connect(calendar, &QCalendarWidget::activated, popup, pick);
@@ -151,12 +151,6 @@ void DateField::OpenCalendar()
     popup->move(place);
     popup->show();
     calendar->setFocus();
-}
-
-void DateField::Pick(QDate date)
-{
-    m_edit->setText(TextOf(date));
-    Q_EMIT DatePicked();
 }
 
 bool DateField::eventFilter(QObject* watched, QEvent* event)

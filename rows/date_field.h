@@ -41,10 +41,6 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-Q_SIGNALS:
-    /// A date was picked from the calendar.
-    void DatePicked();
-
 private:
     const ValueContext& m_context;
     QLineEdit* m_edit;
@@ -54,7 +50,6 @@ private:
     bool m_mayBeEmptied = false;
 
     [[nodiscard]] QString TextOf(QDate date) const;
-    void Pick(QDate date);
 };
 
 } // namespace Quillory
