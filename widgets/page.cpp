@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QToolButton>
@@ -33,6 +34,28 @@ protected:
         painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
             fontMetrics().elidedText(text(), Qt::ElideRight, width()));
     }
+};
+
+/// A menu that a held finger opened: lifting the finger chooses nothing, whatever lies under it.
+class HoldMenu : public QMenu
+{
+public:
+    using QMenu::QMenu;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        m_isPressed = true;
+        QMenu::mousePressEvent(event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (event->button() != Qt::LeftButton || m_isPressed)
+            QMenu::mouseReleaseEvent(event);
+    }
+
+private:
+    bool m_isPressed = false;
 };
 
 /// Opens a menu upward from a soft key, within the window, wherever that stands. In a window that
@@ -224,7 +247,7 @@ void Page::Trigger(Command command)
 void Page::OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& globalPosition)
 {
     Q_EMIT MenuAboutToOpen();
-    auto* menu = new QMenu(this);
+    auto* menu = new HoldMenu(this);
     menu->setObjectName(u"contextMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     FillMenu(menu, entries);
