@@ -6,6 +6,7 @@
 #include "listdef/display_options_page.h"
 #include "res/dialog_table.h"
 #include "res/string_table.h"
+#include "rows/rows_view.h"
 #include "store/kept_copies.h"
 #include "widgets/help_page.h"
 #include "widgets/message_box.h"
@@ -277,15 +278,28 @@ void MainFrame::TellWriteFailure()
 
 void MainFrame::ReopenDataFile()
 {
-    // What the pages would still store on their way out could not be stored either.
     m_volume.Unmount();
-    if (!CloseAllPages()) {
-        AskToDiscardInput();
-        return;
-    }
+    if (m_volume.Mount(m_settings.DbPath, Disposition::OpenExisting) == ErrorNumber::None
+        && m_catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened
+        && (m_openList == kNoObject || m_catalogue.OpenList(m_openList, m_list)))
+        return RefreshPages();
+    // What is entered on the pages can only be kept as long as they stay.
+    if (!CloseAllPages())
+        return AskToDiscardInput();
+    m_volume.Unmount();
     m_isDataFileOpen = false;
     UpdateCommands();
     OpenDataFile({});
+}
+
+void MainFrame::RefreshPages()
+{
+    const ObjectId selected = m_home->SelectedList();
+    m_home->Fill(m_catalogue.FillHomeList());
+    m_home->Select(selected);
+    // Something else may stand in the file now.
+    for (RowsView* view : m_pages->findChildren<RowsView*>())
+        view->Fill();
 }
 
 void MainFrame::ToggleReadOnly()

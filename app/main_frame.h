@@ -118,6 +118,7 @@ private:
     void ExportTo(const QString& path);
     void TellWriteFailure();
     void ReopenDataFile();
+    void RefreshPages();
     void TellStop(const QString& text, const std::function<void()>& then = {});
     void ToggleReadOnly();
     void ShowAbout();

@@ -77,6 +77,13 @@ RowEditor::RowEditor(
     Edit(0);
 }
 
+void RowEditor::SetTexts(const std::vector<QString>& texts)
+{
+    for (size_t i = 0; i < texts.size(); ++i)
+        m_lines->item(static_cast<int>(i), kValueColumn)->setText(texts[i]);
+    Edit(0);
+}
+
 void RowEditor::BuildTable()
 {
     m_view->setObjectName(u"fieldList"_s);

@@ -27,6 +27,8 @@ public:
 
     /// One text per column, in column order, what is being typed included.
     [[nodiscard]] std::vector<QString> Texts() const;
+    /// Shows texts that were typed before and could not be stored.
+    void SetTexts(const std::vector<QString>& texts);
 
     void RequestEnd(PageResult result) override;
     [[nodiscard]] bool HasUnsavedInput() const override;

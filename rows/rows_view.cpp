@@ -193,31 +193,40 @@ void RowsView::Push(Page* page, std::function<void(PageResult)> then)
     PageStack::Of(this).Push(page, std::move(then));
 }
 
-void RowsView::OpenEditor(const Record* row, std::function<void(const std::vector<QString>&)> store)
+void RowsView::OpenEditor(
+    const std::optional<Record>& row, const RowWriter& write, const std::vector<QString>& typed)
 {
-    auto* page = new RowEditor(m_list, row, m_context);
-    Push(page, [page, store = std::move(store)](PageResult result) {
-        if (result == PageResult::Ok)
-            store(page->Texts());
+    auto* page = new RowEditor(m_list, row ? &*row : nullptr, m_context);
+    if (!typed.empty())
+        page->SetTexts(typed);
+    Push(page, [this, page, row, write](PageResult result) {
+        if (result == PageResult::Ok && !write(page->Texts()))
+            OpenEditor(row, write, page->Texts());
     });
 }
 
 void RowsView::NewRow()
 {
-    OpenEditor(nullptr, [this](const std::vector<QString>& texts) {
+    OpenEditor(std::nullopt, [this](const std::vector<QString>& texts) {
         const ObjectId row = m_store.WriteNewRow(texts);
         if (row != kNoObject)
             m_model->Append(row);
+        return row != kNoObject;
     });
 }
 
 void RowsView::ModifyRow()
 {
-    const int line = SelectedLine();
-    const Record row = m_store.ReadRow(m_model->RowAt(line));
-    OpenEditor(&row, [this, line](const std::vector<QString>& texts) {
-        if (m_store.ModifyRow(m_model->RowAt(line), texts))
-            m_model->Refresh(line);
+    const ObjectId row = SelectedRow();
+    const Record record = m_store.ReadRow(row);
+    // What cannot be read must not be written over.
+    if (!record)
+        return;
+    OpenEditor(record, [this, row](const std::vector<QString>& texts) {
+        const bool isStored = m_store.ModifyRow(row, texts);
+        if (isStored)
+            m_model->RefreshAll();
+        return isStored;
     });
 }
 

@@ -91,7 +91,11 @@ private:
     void ClearFilters();
     void FindRows();
     void ShowFound(const FilterEntry& condition);
-    void OpenEditor(const Record* row, std::function<void(const std::vector<QString>&)> store);
+    /// Stores what was typed; false if it could not be.
+    using RowWriter = std::function<bool(const std::vector<QString>& texts)>;
+    /// Edits a row, or a new one for none. What could not be stored comes back to be tried again.
+    void OpenEditor(const std::optional<Record>& row, const RowWriter& write,
+        const std::vector<QString>& typed = {});
 };
 
 } // namespace Quillory

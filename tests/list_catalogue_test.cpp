@@ -149,6 +149,7 @@ void ListCatalogueTest::deletingAListRemovesItsRows()
     QVERIFY(file.catalogue->DeleteList(oid));
     file.Restart();
     QCOMPARE(HomeList(*file.catalogue), u"kept"_s);
+    QVERIFY(file.catalogue->PurgeDeleted());
     QCOMPARE(file.data->MountedVolume()->Databases()->size(), size_t { 2 });
     QVERIFY(!file.catalogue->DeleteList(oid));
 }

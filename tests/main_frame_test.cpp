@@ -155,6 +155,7 @@ private Q_SLOTS:
     void aDeletedListComesBack();
     void aDeletedRowComesBack();
     void aFailedWriteIsToldOnceAndWorkGoesOn();
+    void whatCouldNotBeStoredIsTypedOnlyOnce();
     void aDamagedFileIsReplacedByItsCopy();
     void helpOpensAtThePageItWasAskedFrom();
 };
@@ -537,6 +538,28 @@ void MainFrameTest::aFailedWriteIsToldOnceAndWorkGoesOn()
     errand.Answer(QMessageBox::Yes);
     errand.Restart();
     QCOMPARE(errand.Lines(), QString());
+}
+
+void MainFrameTest::whatCouldNotBeStoredIsTypedOnlyOnce()
+{
+    Errand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    errand.Start();
+    errand.Tap(0);
+    Page* rows = errand.pages->Top();
+    rows->Trigger(Command::New);
+    QTest::keyClicks(QApplication::focusWidget(), u"Tea"_s);
+    const QString away = errand.DataPath() + u".away"_s;
+    QVERIFY(QFile::rename(errand.DataPath(), away));
+    errand.pages->Top()->RequestEnd(PageResult::Ok);
+    QVERIFY(errand.pages->Top() != rows);
+    QVERIFY(QFile::rename(away, errand.DataPath()));
+    errand.Answer(QMessageBox::Retry);
+    errand.pages->Top()->RequestEnd(PageResult::Ok);
+    QCOMPARE(errand.pages->Top(), rows);
+    const auto* model = rows->findChild<QTableView*>()->model();
+    QCOMPARE(model->rowCount(), 1);
+    QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
 }
 
 void MainFrameTest::aDamagedFileIsReplacedByItsCopy()

@@ -186,17 +186,13 @@ void Model::ApplyToRow(List& list, const Step& step)
 
 void Model::ApplyImport(const Step& step, size_t rowCount)
 {
-    List& list = *Find(step.list);
-    for (size_t begin = 0; begin < rowCount; begin += kImportBatch) {
-        // Rows of a batch are stored by name.
-        std::vector<ModelRow> batch(step.rows.begin() + static_cast<std::ptrdiff_t>(begin),
-            step.rows.begin()
-                + static_cast<std::ptrdiff_t>(std::min(begin + kImportBatch, rowCount)));
-        std::stable_sort(batch.begin(), batch.end(),
-            [](const ModelRow& a, const ModelRow& b) { return a.name < b.name; });
-        for (const ModelRow& row : batch)
-            Add(list, row);
-    }
+    // The whole file is sorted by name before the first batch of it is stored.
+    std::vector<ModelRow> rows = step.rows;
+    std::stable_sort(rows.begin(), rows.end(),
+        [](const ModelRow& a, const ModelRow& b) { return a.name < b.name; });
+    rows.resize(std::min(rowCount, rows.size()));
+    for (const ModelRow& row : rows)
+        Add(*Find(step.list), row);
 }
 
 void Model::Apply(const Step& step)
