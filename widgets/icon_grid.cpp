@@ -150,7 +150,8 @@ void IconGrid::updateGeometries()
     bar->setPageStep(viewport()->height());
     // There, so that nothing moves when it is needed, but of no use.
     bar->setEnabled(layout.needsScrollBar);
-    QAbstractItemView::updateGeometries();
+    // A list view's own would set the range by its own layout again.
+    QAbstractItemView::updateGeometries(); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void IconGrid::ScrollByPage(int action)
@@ -239,14 +240,15 @@ void IconGrid::mouseReleaseEvent(QMouseEvent* event)
 
 void IconGrid::focusInEvent(QFocusEvent* event)
 {
-    QAbstractScrollArea::focusInEvent(event);
+    // An item view's own would select the first icon where none is.
+    QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
     Q_EMIT FocusGained();
 }
 
 void IconGrid::focusOutEvent(QFocusEvent* event)
 {
-    QAbstractScrollArea::focusOutEvent(event);
+    QAbstractScrollArea::focusOutEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
     Q_EMIT FocusLost();
 }
