@@ -42,6 +42,10 @@ function(quillory_add_library name)
         PRIVATE ${arg_PRIVATE_LINKS})
 endfunction()
 
+# What tests run under: no display, no locale of the machine's, and known leaks of libraries aside.
+set(QUILLORY_TEST_ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+
 # quillory_add_test(NAME target...) declares tests/NAME.cpp, a Qt Test, linked to the targets.
 function(quillory_add_test name)
     add_executable(${name} ${name}.cpp)
@@ -49,5 +53,5 @@ function(quillory_add_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+        ENVIRONMENT "${QUILLORY_TEST_ENVIRONMENT}")
 endfunction()
