@@ -135,6 +135,7 @@ void RunLists(const CommandRun& run)
     }
     if (json)
         json->End();
+    FailIfListsAreMissing(data->catalogue);
 }
 
 void RunNew(const CommandRun& run)

@@ -248,6 +248,7 @@ void RunShow(const CommandRun& run)
     else
         PrintByName(*data, filters, context, printer);
     printer.End();
+    FailIfListsAreMissing(data->catalogue);
 }
 
 void RunSummary(const CommandRun& run)

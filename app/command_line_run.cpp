@@ -23,6 +23,12 @@ void FailUsage(const QString& message)
     throw CommandFailure(ExitCode::WrongUsage, message);
 }
 
+void FailIfListsAreMissing(const ListCatalogue& catalogue)
+{
+    if (catalogue.HomeListError() != ErrorNumber::None)
+        Fail(u"some lists cannot be read: %1"_s.arg(ErrorText(catalogue.HomeListError())));
+}
+
 qint32 ReadInteger(
     const QCommandLineParser& parser, const QString& option, qint32 least, qint32 most)
 {

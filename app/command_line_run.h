@@ -28,6 +28,8 @@ private:
 
 [[noreturn]] void Fail(const QString& message);
 [[noreturn]] void FailUsage(const QString& message);
+/// Fails if the latest listing of the catalogue ended before its end. What could be read was shown.
+void FailIfListsAreMissing(const ListCatalogue& catalogue);
 /// The value of an option as a whole number; one outside the limits ends the command.
 [[nodiscard]] qint32 ReadInteger(
     const QCommandLineParser& parser, const QString& option, qint32 least, qint32 most);

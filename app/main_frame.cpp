@@ -176,7 +176,7 @@ void MainFrame::EndOpening(DataFileOpener::Outcome outcome)
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
         return;
     }
-    m_home->Fill(m_catalogue.FillHomeList());
+    FillHome();
     m_home->FocusLines();
     UpdateCommands();
     // What a program that was killed had kept aside; once the lists are on the screen.
@@ -196,6 +196,14 @@ StartAnswer MainFrame::TakeStartRequest(const StartRequest& request)
         return StartAnswer::Done;
     }
     return OpenNamedList(request.listName);
+}
+
+void MainFrame::FillHome()
+{
+    m_home->Fill(m_catalogue.FillHomeList());
+    const ErrorNumber error = m_catalogue.HomeListError();
+    if (error != ErrorNumber::None)
+        TellStop(tr("Some lists cannot be read. Error: %1").arg(static_cast<quint32>(error)));
 }
 
 void MainFrame::BringToFront(const QString& activationToken)
@@ -295,7 +303,7 @@ void MainFrame::ReopenDataFile()
 void MainFrame::RefreshPages()
 {
     const ObjectId selected = m_home->SelectedList();
-    m_home->Fill(m_catalogue.FillHomeList());
+    FillHome();
     m_home->Select(selected);
     // Something else may stand in the file now.
     for (RowsView* view : m_pages->findChildren<RowsView*>())

@@ -86,6 +86,7 @@ private:
 
     [[nodiscard]] DataFileOpener::Prompts OpenerPrompts();
     void EndOpening(DataFileOpener::Outcome outcome);
+    void FillHome();
     void BringToFront(const QString& activationToken);
     /// Ends the pages from the top. False where one has input that would be lost, or stays.
     [[nodiscard]] bool CloseAllPages();

@@ -181,11 +181,12 @@ std::vector<ListCatalogue::HomeListEntry> ListCatalogue::FillHomeList()
 {
     std::vector<HomeListEntry> entries;
     Database* catalogue = m_volume.OpenDatabase(kCatalogueType);
+    m_homeListError = catalogue == nullptr ? ErrorNumber::InvalidHandle : ErrorNumber::None;
     if (catalogue == nullptr)
         return entries;
     constexpr std::array kIds { kName, kTableIcon };
     // A record that cannot be read ends the list; those before it are shown.
-    static_cast<void>(catalogue
+    m_homeListError = catalogue
                           ->Scan(kIds, ScanOrder::Sorted,
                               [&entries](ObjectId oid, std::span<const PropertyValue> values) {
                                   HomeListEntry entry { oid, {}, 0 };
@@ -196,7 +197,7 @@ std::vector<ListCatalogue::HomeListEntry> ListCatalogue::FillHomeList()
                                   entries.push_back(std::move(entry));
                                   return true;
                               })
-                          .IsOk());
+                          .Error();
     return entries;
 }
 

@@ -36,6 +36,8 @@ public:
     };
     /// Every list, in the order of their names by 16-bit unit.
     [[nodiscard]] std::vector<HomeListEntry> FillHomeList();
+    /// Why lists were missing from the latest FillHomeList; None if none were.
+    [[nodiscard]] ErrorNumber HomeListError() const { return m_homeListError; }
     /// The record of the first list so named; kNoObject if there is none.
     [[nodiscard]] ObjectId FindList(const QString& name);
 
@@ -105,6 +107,7 @@ public:
 
 private:
     DataVolume& m_volume;
+    ErrorNumber m_homeListError = ErrorNumber::None;
 
     bool CreateCatalogue();
     bool CreateRowDatabase(InventoryList& definition);

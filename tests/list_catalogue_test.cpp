@@ -1,6 +1,7 @@
 #include "tests/list_fixture.h"
 #include "values/column_type.h"
 
+#include <QFile>
 #include <QTest>
 
 using namespace Quillory;
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void optionsAndNameAreWrittenApart();
     void twoColumnsUnderOneNumberLeaveNothingBehind();
     void deletingAListRemovesItsRows();
+    void listsThatCannotBeReadAreToldOf();
     void aListWithoutItsRowsCannotBeDeletedOrOpened();
     void emptyingAListKeepsItsColumns();
 };
@@ -152,6 +154,41 @@ void ListCatalogueTest::deletingAListRemovesItsRows()
     QVERIFY(file.catalogue->PurgeDeleted());
     QCOMPARE(file.data->MountedVolume()->Databases()->size(), size_t { 2 });
     QVERIFY(!file.catalogue->DeleteList(oid));
+}
+
+void ListCatalogueTest::listsThatCannotBeReadAreToldOf()
+{
+    constexpr qsizetype kLists = 80;
+    constexpr qsizetype kPage = 4096;
+    ListFixture file;
+    for (qsizetype i = 0; i < kLists; ++i)
+        QVERIFY(file.catalogue->AddList(Named(QString::number(i).repeated(40))) != kNoObject);
+    QCOMPARE(file.catalogue->FillHomeList().size(), size_t { kLists });
+    QCOMPARE(file.catalogue->HomeListError(), ErrorNumber::None);
+    file.catalogue.reset();
+    file.data.reset();
+    QFile onDisk(file.Path());
+    QVERIFY(onDisk.open(QIODevice::ReadWrite));
+    const QByteArray whole = onDisk.readAll();
+    int told = 0;
+    for (qsizetype place = kPage + 100; place < whole.size(); place += kPage) {
+        QByteArray damaged = whole;
+        damaged[place] = static_cast<char>(damaged[place] ^ 1);
+        onDisk.seek(0);
+        onDisk.write(damaged);
+        onDisk.flush();
+        DataVolume data;
+        ListCatalogue catalogue(data);
+        if (data.Mount(file.Path(), Disposition::OpenExisting) != ErrorNumber::None
+            || catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
+            continue;
+        const size_t lists = catalogue.FillHomeList().size();
+        if (catalogue.HomeListError() == ErrorNumber::None)
+            QCOMPARE(lists, size_t { kLists });
+        else
+            ++told;
+    }
+    QVERIFY(told > 0);
 }
 
 void ListCatalogueTest::aListWithoutItsRowsCannotBeDeletedOrOpened()
