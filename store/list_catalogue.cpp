@@ -305,7 +305,11 @@ ListCatalogue::CreateOutcome ListCatalogue::CreateList(InventoryList& definition
     outcome.oid = AddList(definition);
     if (outcome.oid == kNoObject)
         return outcome;
+    const std::vector<ColumnDefinition> undrawn = definition.columns;
     outcome.isCommitted = CreateRowDatabase(definition) && transaction.Commit();
+    // Kept, a number that collided would be taken for that of a built-in column the next time.
+    if (!outcome.isCommitted)
+        definition.columns = undrawn;
     return outcome;
 }
 
