@@ -81,7 +81,7 @@ public:
             bytes.truncate(at / kSectorSize * kSectorSize);
             break;
         case Damage::JunkBehind:
-            for (qsizetype i = Below(3 * kPageSize); i >= 0; --i)
+            for (qsizetype i = Below(qsizetype { 3 } * kPageSize); i >= 0; --i)
                 bytes.append(Byte());
             break;
         case Damage::SealedBytes:
