@@ -176,8 +176,8 @@ void LayJournals(FaultRun& run)
         for (quint32 i = 3; count >= pageCounts.size() && i > 0; --i) {
             constexpr quint32 kHeaderSize = 28;
             const auto size = static_cast<quint32>(journal.size()) - kHeaderSize;
-            journal[static_cast<qsizetype>(kHeaderSize + random() % size)]
-                = static_cast<char>(random());
+            const auto place = static_cast<quint32>(random() % size);
+            journal[kHeaderSize + place] = static_cast<char>(random());
         }
         LayJournal(run, sample, journal);
     }

@@ -55,7 +55,7 @@ public:
     Neighbour& operator=(const Neighbour&) = delete;
 
     /// The sign that its work ends with; NUL if it died.
-    [[nodiscard]] char Ask()
+    [[nodiscard]] char Ask() const
     {
         char sign = '+';
         if (write(m_to, &sign, 1) != 1 || read(m_from, &sign, 1) != 1)
