@@ -219,7 +219,8 @@ Result<void> VolumeFile::VerifyHeader() const
     if (m_hasJournal && size > 0 && !isOurs()) {
         // The first page was being written when the power failed; the journal has it whole.
         const QByteArray page = FirstPageFromJournal(m_path, m_descriptor);
-        std::copy_n(page.begin(), std::min<size_t>(header.size(), page.size()), header.begin());
+        std::copy_n(page.begin(), std::min(header.size(), static_cast<size_t>(page.size())),
+            header.begin());
     } else if (size < static_cast<ssize_t>(header.size())) {
         return ErrorNumber::BadFormat;
     }
