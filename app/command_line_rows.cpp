@@ -248,7 +248,6 @@ void RunShow(const CommandRun& run)
     else
         PrintByName(*data, filters, context, printer);
     printer.End();
-    FailIfListsAreMissing(data->catalogue);
 }
 
 void RunSummary(const CommandRun& run)
@@ -282,6 +281,7 @@ void RunDue(const CommandRun& run)
         printer.PrintList(*data);
     }
     printer.End();
+    FailIfListsAreMissing(data->catalogue);
 }
 
 } // namespace Quillory

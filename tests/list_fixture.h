@@ -19,6 +19,19 @@ inline ValueContext TestContext(const QString& locale = QStringLiteral("en_US"))
         QStringLiteral("Unchecked") };
 }
 
+/// The columns of the list that ListFixture makes.
+enum FullListColumn
+{
+    Name,
+    Count,
+    Shelf,
+    Bio,
+    Price,
+    Size,
+    Bought,
+    Expiry,
+};
+
 /// A data file with a catalogue, and verbs on lists and rows.
 class ListFixture
 {

@@ -1,134 +1,24 @@
-#include "app/home_list.h"
-#include "app/main_frame.h"
 #include "listdef/display_options_page.h"
-#include "tests/list_fixture.h"
+#include "tests/main_frame_errand.h"
 #include "widgets/icon_picker.h"
 
-#include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 #include <QTextBrowser>
-#include <QTreeView>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The program with settings and data file of its own, and what a person does with it.
-class Errand
-{
-    QTemporaryDir m_folder;
-
-public:
-    QString DataPath() const { return m_folder.filePath(u"Quillory.idb"_s); }
-    void MakeLists(const QStringList& names)
-    {
-        DataVolume volume;
-        QCOMPARE(volume.Mount(DataPath(), Disposition::OpenAlways), ErrorNumber::None);
-        ListCatalogue catalogue(volume);
-        QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
-        for (const QString& name : names) {
-            InventoryList list = NewInventoryList();
-            list.Name = name;
-            QVERIFY(catalogue.CreateList(list).isCommitted);
-        }
-        WriteSettings(Conf(), { DataPath(), {}, kLandscapeRightHanded, {}, {}, {} });
-    }
-    void Start(const QString& listName = {})
-    {
-        Settings settings;
-        ReadSettings(Conf(), settings);
-        frame = std::make_unique<MainFrame>(
-            settings, MainFrame::Places { Conf(), m_folder.filePath(u"copies"_s) });
-        frame->SetFileChooser([this](const auto& then) { then(chosenPath); });
-        frame->show();
-        frame->OpenDataFile(listName);
-        pages = frame->findChild<PageStack*>();
-        home = frame->findChild<HomeList*>();
-        view = home->findChild<QTreeView*>();
-        QVERIFY(QTest::qWaitForWindowActive(frame.get()));
-    }
-    void Restart()
-    {
-        QVERIFY(frame->close());
-        frame.reset();
-        Start();
-    }
-    /// What a soft key, a menu entry or a shortcut does; fails where a person could not.
-    void Choose(Command command) const
-    {
-        QVERIFY(home->ActionOf(command)->isEnabled());
-        home->Trigger(command);
-    }
-    void Answer(QMessageBox::StandardButton button)
-    {
-        QTRY_VERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr);
-        const QPointer box(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
-        QVERIFY(box->button(button) != nullptr);
-        question = box->text();
-        QTest::mouseClick(box->button(button), Qt::LeftButton);
-        // Another question may follow at once.
-        QTRY_VERIFY(box == nullptr || !box->isVisible());
-    }
-    void Tap(int line) const
-    {
-        const QRect place = view->visualRect(view->model()->index(line, 0));
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place.center());
-    }
-    ObjectId ListNamed(const QString& name) const
-    {
-        const auto* model = qobject_cast<HomeListModel*>(view->model());
-        for (int i = 0; i < model->rowCount(); ++i) {
-            if (model->NameAt(model->index(i)) == name)
-                return model->OidAt(model->index(i));
-        }
-        return kNoObject;
-    }
-    /// Chooses a file of this content for import, up to the order of its columns.
-    void Import(const QByteArray& content)
-    {
-        QFile file(m_folder.filePath(u"in.txt"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        Choose(Command::Import);
-        auto* dialog = frame->findChild<QFileDialog*>();
-        QVERIFY(dialog != nullptr);
-        dialog->selectFile(file.fileName());
-        static_cast<QDialog*>(dialog)->accept();
-    }
-    QString Lines() const
-    {
-        QStringList names;
-        for (int i = 0; i < view->model()->rowCount(); ++i)
-            names << view->model()->index(i, 0).data().toString();
-        return names.join(u", "_s);
-    }
-
-    std::unique_ptr<MainFrame> frame;
-    PageStack* pages = nullptr;
-    HomeList* home = nullptr;
-    QTreeView* view = nullptr;
-    QString question;
-    /// What the file dialog for the data file answers.
-    QString chosenPath = DataPath();
-
-private:
-    QString Conf() const { return m_folder.filePath(u"quillory.conf"_s); }
-};
 
 class MainFrameTest : public QObject
 {
@@ -151,18 +41,12 @@ private Q_SLOTS:
     void landscapeLastsAsLongAsTheListIsShown();
     void anImportAsksForTheOrderAndShowsTheRows();
     void aFailedImportIsToldAndTheListOpened();
-    void closingAsksBeforeInputIsLost();
-    void aDeletedListComesBack();
-    void aDeletedRowComesBack();
-    void aFailedWriteIsToldOnceAndWorkGoesOn();
-    void whatCouldNotBeStoredIsTypedOnlyOnce();
-    void aDamagedFileIsReplacedByItsCopy();
     void helpOpensAtThePageItWasAskedFrom();
 };
 
 void MainFrameTest::theFirstStartMakesTheDataFile()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.Start();
     QCOMPARE(errand.pages->Top()->Title(), u"Welcome to Quillory"_s);
     QVERIFY(!QFile::exists(errand.DataPath()));
@@ -175,7 +59,7 @@ void MainFrameTest::theFirstStartMakesTheDataFile()
 
 void MainFrameTest::aNewListIsThereAfterARestart()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
     errand.Start();
     errand.Choose(Command::New);
@@ -195,7 +79,7 @@ void MainFrameTest::aNewListIsThereAfterARestart()
 
 void MainFrameTest::aListIsDeletedOnlyOnYes()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
     errand.Start();
     errand.Choose(Command::Delete);
@@ -211,7 +95,7 @@ void MainFrameTest::aListIsDeletedOnlyOnYes()
 
 void MainFrameTest::recordsAreDeletedOnlyOnYes()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Pantry"_s });
     const auto count = [&errand](bool addsRow) {
         DataVolume volume;
@@ -242,7 +126,7 @@ void MainFrameTest::recordsAreDeletedOnlyOnYes()
 
 void MainFrameTest::aListIsRenamedInPlace()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
     errand.Start();
     const auto rename = [&errand](const QString& name, Qt::Key end) {
@@ -268,7 +152,7 @@ void MainFrameTest::aListIsRenamedInPlace()
 
 void MainFrameTest::theHeaderTurnsTheOrderRound()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"apple"_s, u"cherry"_s, u"Banana"_s });
     errand.Start();
     QCOMPARE(errand.Lines(), u"Banana, apple, cherry"_s);
@@ -282,7 +166,7 @@ void MainFrameTest::theHeaderTurnsTheOrderRound()
 
 void MainFrameTest::commandsOnAListNeedOne()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({});
     errand.Start();
     for (const Command command : { Command::Rename, Command::Delete, Command::DeleteAllRecords,
@@ -294,7 +178,7 @@ void MainFrameTest::commandsOnAListNeedOne()
 
 void MainFrameTest::readOnlySurvivesARestart()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Pantry"_s });
     errand.Start();
     const auto isChecked
@@ -310,7 +194,7 @@ void MainFrameTest::readOnlySurvivesARestart()
 
 void MainFrameTest::aTapOpensAListAndComingBackKeepsItSelected()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
     errand.Start();
     errand.Tap(1);
@@ -328,7 +212,7 @@ void MainFrameTest::aTapOpensAListAndComingBackKeepsItSelected()
 
 void MainFrameTest::aLaterStartOpensTheListItNames()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
     errand.Start(u"Attic"_s);
     QCOMPARE(errand.pages->Top()->Title(), u"Attic"_s);
@@ -342,7 +226,7 @@ void MainFrameTest::aLaterStartOpensTheListItNames()
 
 void MainFrameTest::theSelectedListIsExported()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Pantry"_s });
     errand.Start();
     errand.Choose(Command::Export);
@@ -360,11 +244,9 @@ void MainFrameTest::theSelectedListIsExported()
     QTRY_COMPARE(errand.pages->Depth(), 2);
 }
 
-} // namespace
-
 void MainFrameTest::propertiesChangeNameIconAndPlace()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
     errand.Start();
     for (const PageResult result : { PageResult::Cancel, PageResult::Ok }) {
@@ -386,7 +268,7 @@ void MainFrameTest::propertiesChangeNameIconAndPlace()
 
 void MainFrameTest::optionsSurviveARestart()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({});
     errand.Start();
     errand.Choose(Command::Options);
@@ -405,7 +287,7 @@ void MainFrameTest::optionsSurviveARestart()
 
 void MainFrameTest::landscapeLastsAsLongAsTheListIsShown()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Pantry"_s });
     errand.Start();
     errand.frame->resize(300, 500);
@@ -421,7 +303,7 @@ void MainFrameTest::landscapeLastsAsLongAsTheListIsShown()
 
 void MainFrameTest::anImportAsksForTheOrderAndShowsTheRows()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
     errand.Start();
     errand.home->Select(errand.ListNamed(u"Pantry"_s));
@@ -442,7 +324,7 @@ void MainFrameTest::anImportAsksForTheOrderAndShowsTheRows()
 
 void MainFrameTest::aFailedImportIsToldAndTheListOpened()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({ u"Pantry"_s });
     errand.Start();
     // Nothing but a byte-order mark.
@@ -454,142 +336,9 @@ void MainFrameTest::aFailedImportIsToldAndTheListOpened()
     QCOMPARE(errand.pages->Top()->Title(), u"Pantry"_s);
 }
 
-void MainFrameTest::closingAsksBeforeInputIsLost()
-{
-    Errand errand;
-    errand.MakeLists({});
-    errand.Start();
-    errand.Choose(Command::New);
-    QTest::keyClicks(errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s), u"Pantry"_s);
-    QVERIFY(!errand.frame->close());
-    errand.Answer(QMessageBox::No);
-    QCOMPARE(errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s)->text(), u"Pantry"_s);
-    QVERIFY(!errand.frame->close());
-    errand.Answer(QMessageBox::Yes);
-    QVERIFY(!errand.frame->isVisible());
-}
-
-void MainFrameTest::aDeletedListComesBack()
-{
-    Errand errand;
-    errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
-    errand.Start();
-    errand.Choose(Command::Delete);
-    errand.Answer(QMessageBox::Yes);
-    auto* bar = errand.home->findChild<QWidget*>(u"undoBar"_s);
-    QVERIFY(bar->isVisible());
-    QTest::mouseClick(bar->findChild<QWidget*>(u"undo"_s), Qt::LeftButton);
-    QVERIFY(!bar->isVisible());
-    QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
-    QCOMPARE(errand.home->SelectedName(), u"Attic"_s);
-    errand.Choose(Command::Delete);
-    errand.Answer(QMessageBox::Yes);
-    QTest::keyClick(errand.view, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
-    errand.Restart();
-    QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
-}
-
-void MainFrameTest::aDeletedRowComesBack()
-{
-    Errand errand;
-    errand.MakeLists({ u"Pantry"_s });
-    errand.Start();
-    errand.Import("Tea\t3\r\nSalt\t5\r\n");
-    errand.pages->Top()->End(PageResult::Ok);
-    Page* rows = errand.pages->Top();
-    auto* table = rows->findChild<QTableView*>();
-    rows->Trigger(Command::Delete);
-    errand.Answer(QMessageBox::Yes);
-    QCOMPARE(table->model()->rowCount(), 1);
-    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(table->model()->rowCount(), 2);
-    QCOMPARE(table->currentIndex().data().toString(), u"Salt"_s);
-    // All of them, deleted from outside the list and brought back inside it.
-    rows->RequestEnd(PageResult::Ok);
-    errand.Choose(Command::DeleteAllRecords);
-    errand.Answer(QMessageBox::Yes);
-    errand.Tap(0);
-    table = errand.pages->Top()->findChild<QTableView*>();
-    QCOMPARE(table->model()->rowCount(), 0);
-    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(table->model()->rowCount(), 2);
-}
-
-void MainFrameTest::aFailedWriteIsToldOnceAndWorkGoesOn()
-{
-    Errand errand;
-    errand.MakeLists({ u"Attic"_s });
-    errand.Start();
-    const QString away = errand.DataPath() + u".away"_s;
-    // As when the card is pulled out, and put back.
-    QVERIFY(QFile::rename(errand.DataPath(), away));
-    errand.Tap(0);
-    QTest::keyClick(errand.pages->Top(), Qt::Key_Escape);
-    errand.Answer(QMessageBox::Cancel);
-    QCOMPARE(errand.Lines(), u"Attic"_s);
-    errand.Tap(0);
-    QTest::keyClick(errand.pages->Top(), Qt::Key_Escape);
-    QVERIFY(QFile::rename(away, errand.DataPath()));
-    errand.Answer(QMessageBox::Retry);
-    QVERIFY(errand.question.contains(u"could not be saved"_s));
-    QCOMPARE(errand.Lines(), u"Attic"_s);
-    errand.Choose(Command::Delete);
-    errand.Answer(QMessageBox::Yes);
-    errand.Restart();
-    QCOMPARE(errand.Lines(), QString());
-}
-
-void MainFrameTest::whatCouldNotBeStoredIsTypedOnlyOnce()
-{
-    Errand errand;
-    errand.MakeLists({ u"Pantry"_s });
-    errand.Start();
-    errand.Tap(0);
-    Page* rows = errand.pages->Top();
-    rows->Trigger(Command::New);
-    QTest::keyClicks(QApplication::focusWidget(), u"Tea"_s);
-    const QString away = errand.DataPath() + u".away"_s;
-    QVERIFY(QFile::rename(errand.DataPath(), away));
-    errand.pages->Top()->RequestEnd(PageResult::Ok);
-    QVERIFY(errand.pages->Top() != rows);
-    QVERIFY(QFile::rename(away, errand.DataPath()));
-    errand.Answer(QMessageBox::Retry);
-    errand.pages->Top()->RequestEnd(PageResult::Ok);
-    QCOMPARE(errand.pages->Top(), rows);
-    const auto* model = rows->findChild<QTableView*>()->model();
-    QCOMPARE(model->rowCount(), 1);
-    QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
-}
-
-void MainFrameTest::aDamagedFileIsReplacedByItsCopy()
-{
-    Errand errand;
-    errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
-    errand.Start();
-    errand.Choose(Command::Delete);
-    errand.Answer(QMessageBox::Yes);
-    QVERIFY(errand.frame->close());
-    errand.frame.reset();
-    QFile damaged(errand.DataPath());
-    QVERIFY(damaged.open(QIODevice::ReadWrite));
-    damaged.seek(40);
-    damaged.write("xxxxxxxx");
-    damaged.close();
-
-    errand.chosenPath = errand.DataPath() + u".new.idb"_s;
-    errand.Start();
-    errand.Answer(QMessageBox::Ok);
-    QCOMPARE(errand.question, u"Unable to open data file. Error: 1392"_s);
-    errand.Answer(QMessageBox::Yes);
-    QTRY_COMPARE(errand.Lines(), u"Zoo"_s);
-    errand.Restart();
-    QCOMPARE(errand.Lines(), u"Zoo"_s);
-}
-
 void MainFrameTest::helpOpensAtThePageItWasAskedFrom()
 {
-    Errand errand;
+    FrameErrand errand;
     errand.MakeLists({});
     errand.Start();
     QTest::keyClick(errand.view, Qt::Key_F1);
@@ -605,5 +354,4 @@ void MainFrameTest::helpOpensAtThePageItWasAskedFrom()
 }
 
 QTEST_MAIN(MainFrameTest)
-
 #include "main_frame_test.moc"

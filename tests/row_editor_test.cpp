@@ -12,23 +12,6 @@
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// Fields of the fixture's list.
-enum Field
-{
-    Name,
-    Count,
-    Shelf,
-    Bio,
-    Price,
-    Size,
-    Bought,
-    Expiry,
-};
-
-} // namespace
-
 class RowEditorTest : public QObject
 {
     Q_OBJECT

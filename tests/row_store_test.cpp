@@ -14,19 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Columns of the fixture's list.
-enum Column
-{
-    Name,
-    Count,
-    Shelf,
-    Bio,
-    Price,
-    Size,
-    Bought,
-    Expiry,
-};
-
 FilterSet Where(PropertyId column, FilterCondition condition, const QString& value)
 {
     FilterSet filters;

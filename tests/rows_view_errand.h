@@ -14,19 +14,6 @@
 
 namespace Quillory {
 
-/// The columns of the errands' list.
-enum PantryColumn
-{
-    Name,
-    Count,
-    Shelf,
-    Bio,
-    Price,
-    Size,
-    Bought,
-    Expiry,
-};
-
 /// A rows view over a list of every type, in a window, and what a person does there.
 class RowsErrand
 {

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "app/home_list.h"
+#include "app/main_frame.h"
+#include "tests/list_fixture.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeView>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+/// The program with settings and data file of its own, and what a person does with it.
+class FrameErrand
+{
+    QTemporaryDir m_folder;
+
+public:
+    QString DataPath() const { return m_folder.filePath(u"Quillory.idb"_s); }
+    void MakeLists(const QStringList& names)
+    {
+        DataVolume volume;
+        QCOMPARE(volume.Mount(DataPath(), Disposition::OpenAlways), ErrorNumber::None);
+        ListCatalogue catalogue(volume);
+        QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
+        for (const QString& name : names) {
+            InventoryList list = NewInventoryList();
+            list.Name = name;
+            QVERIFY(catalogue.CreateList(list).isCommitted);
+        }
+        WriteSettings(Conf(), { DataPath(), {}, kLandscapeRightHanded, {}, {}, {} });
+    }
+    void Start(const QString& listName = {})
+    {
+        Settings settings;
+        ReadSettings(Conf(), settings);
+        frame = std::make_unique<MainFrame>(
+            settings, MainFrame::Places { Conf(), m_folder.filePath(u"copies"_s) });
+        frame->SetFileChooser([this](const auto& then) { then(chosenPath); });
+        frame->show();
+        frame->OpenDataFile(listName);
+        pages = frame->findChild<PageStack*>();
+        home = frame->findChild<HomeList*>();
+        view = home->findChild<QTreeView*>();
+        QVERIFY(QTest::qWaitForWindowActive(frame.get()));
+    }
+    void Restart()
+    {
+        QVERIFY(frame->close());
+        frame.reset();
+        Start();
+    }
+    /// What a soft key, a menu entry or a shortcut does; fails where a person could not.
+    void Choose(Command command) const
+    {
+        QVERIFY(home->ActionOf(command)->isEnabled());
+        home->Trigger(command);
+    }
+    void Answer(QMessageBox::StandardButton button)
+    {
+        QTRY_VERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr);
+        const QPointer box(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
+        QVERIFY(box->button(button) != nullptr);
+        question = box->text();
+        QTest::mouseClick(box->button(button), Qt::LeftButton);
+        // Another question may follow at once.
+        QTRY_VERIFY(box == nullptr || !box->isVisible());
+    }
+    void Tap(int line) const
+    {
+        const QRect place = view->visualRect(view->model()->index(line, 0));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place.center());
+    }
+    ObjectId ListNamed(const QString& name) const
+    {
+        const auto* model = qobject_cast<HomeListModel*>(view->model());
+        for (int i = 0; i < model->rowCount(); ++i) {
+            if (model->NameAt(model->index(i)) == name)
+                return model->OidAt(model->index(i));
+        }
+        return kNoObject;
+    }
+    /// Chooses a file of this content for import, up to the order of its columns.
+    void Import(const QByteArray& content)
+    {
+        QFile file(m_folder.filePath(u"in.txt"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        Choose(Command::Import);
+        auto* dialog = frame->findChild<QFileDialog*>();
+        QVERIFY(dialog != nullptr);
+        dialog->selectFile(file.fileName());
+        static_cast<QDialog*>(dialog)->accept();
+    }
+    QString Lines() const
+    {
+        QStringList names;
+        for (int i = 0; i < view->model()->rowCount(); ++i)
+            names << view->model()->index(i, 0).data().toString();
+        return names.join(u", "_s);
+    }
+
+    std::unique_ptr<MainFrame> frame;
+    PageStack* pages = nullptr;
+    HomeList* home = nullptr;
+    QTreeView* view = nullptr;
+    QString question;
+    /// What the file dialog for the data file answers.
+    QString chosenPath = DataPath();
+
+private:
+    QString Conf() const { return m_folder.filePath(u"quillory.conf"_s); }
+};
+
+} // namespace Quillory

@@ -1,0 +1,161 @@
+#include "tests/main_frame_errand.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+class MainFrameSafetyTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void closingAsksBeforeInputIsLost();
+    void aDeletedListComesBack();
+    void aDeletedRowComesBack();
+    void aFailedWriteIsToldOnceAndWorkGoesOn();
+    void whatCouldNotBeStoredIsTypedOnlyOnce();
+    void aDamagedFileIsReplacedByItsCopy();
+};
+
+void MainFrameSafetyTest::closingAsksBeforeInputIsLost()
+{
+    FrameErrand errand;
+    errand.MakeLists({});
+    errand.Start();
+    errand.Choose(Command::New);
+    QTest::keyClicks(errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s), u"Pantry"_s);
+    QVERIFY(!errand.frame->close());
+    errand.Answer(QMessageBox::No);
+    QCOMPARE(errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s)->text(), u"Pantry"_s);
+    QVERIFY(!errand.frame->close());
+    errand.Answer(QMessageBox::Yes);
+    QVERIFY(!errand.frame->isVisible());
+}
+
+void MainFrameSafetyTest::aDeletedListComesBack()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
+    errand.Start();
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    auto* bar = errand.home->findChild<QWidget*>(u"undoBar"_s);
+    QVERIFY(bar->isVisible());
+    QTest::mouseClick(bar->findChild<QWidget*>(u"undo"_s), Qt::LeftButton);
+    QVERIFY(!bar->isVisible());
+    QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
+    QCOMPARE(errand.home->SelectedName(), u"Attic"_s);
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    QTest::keyClick(errand.view, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
+    errand.Restart();
+    QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
+}
+
+void MainFrameSafetyTest::aDeletedRowComesBack()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    errand.Start();
+    errand.Import("Tea\t3\r\nSalt\t5\r\n");
+    errand.pages->Top()->End(PageResult::Ok);
+    Page* rows = errand.pages->Top();
+    auto* table = rows->findChild<QTableView*>();
+    rows->Trigger(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    QCOMPARE(table->model()->rowCount(), 1);
+    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(table->model()->rowCount(), 2);
+    QCOMPARE(table->currentIndex().data().toString(), u"Salt"_s);
+    // All of them, deleted from outside the list and brought back inside it.
+    rows->RequestEnd(PageResult::Ok);
+    errand.Choose(Command::DeleteAllRecords);
+    errand.Answer(QMessageBox::Yes);
+    errand.Tap(0);
+    table = errand.pages->Top()->findChild<QTableView*>();
+    QCOMPARE(table->model()->rowCount(), 0);
+    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(table->model()->rowCount(), 2);
+}
+
+void MainFrameSafetyTest::aFailedWriteIsToldOnceAndWorkGoesOn()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Attic"_s });
+    errand.Start();
+    const QString away = errand.DataPath() + u".away"_s;
+    // As when the card is pulled out, and put back.
+    QVERIFY(QFile::rename(errand.DataPath(), away));
+    errand.Tap(0);
+    QTest::keyClick(errand.pages->Top(), Qt::Key_Escape);
+    errand.Answer(QMessageBox::Cancel);
+    QCOMPARE(errand.Lines(), u"Attic"_s);
+    errand.Tap(0);
+    QTest::keyClick(errand.pages->Top(), Qt::Key_Escape);
+    QVERIFY(QFile::rename(away, errand.DataPath()));
+    errand.Answer(QMessageBox::Retry);
+    QVERIFY(errand.question.contains(u"could not be saved"_s));
+    QCOMPARE(errand.Lines(), u"Attic"_s);
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    errand.Restart();
+    QCOMPARE(errand.Lines(), QString());
+}
+
+void MainFrameSafetyTest::whatCouldNotBeStoredIsTypedOnlyOnce()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    errand.Start();
+    errand.Tap(0);
+    Page* rows = errand.pages->Top();
+    rows->Trigger(Command::New);
+    QTest::keyClicks(QApplication::focusWidget(), u"Tea"_s);
+    const QString away = errand.DataPath() + u".away"_s;
+    QVERIFY(QFile::rename(errand.DataPath(), away));
+    errand.pages->Top()->RequestEnd(PageResult::Ok);
+    QVERIFY(errand.pages->Top() != rows);
+    QVERIFY(QFile::rename(away, errand.DataPath()));
+    errand.Answer(QMessageBox::Retry);
+    errand.pages->Top()->RequestEnd(PageResult::Ok);
+    QCOMPARE(errand.pages->Top(), rows);
+    const auto* model = rows->findChild<QTableView*>()->model();
+    QCOMPARE(model->rowCount(), 1);
+    QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
+}
+
+void MainFrameSafetyTest::aDamagedFileIsReplacedByItsCopy()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
+    errand.Start();
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    QVERIFY(errand.frame->close());
+    errand.frame.reset();
+    QFile damaged(errand.DataPath());
+    QVERIFY(damaged.open(QIODevice::ReadWrite));
+    damaged.seek(40);
+    damaged.write("xxxxxxxx");
+    damaged.close();
+
+    errand.chosenPath = errand.DataPath() + u".new.idb"_s;
+    errand.Start();
+    errand.Answer(QMessageBox::Ok);
+    QCOMPARE(errand.question, u"Unable to open data file. Error: 1392"_s);
+    errand.Answer(QMessageBox::Yes);
+    QTRY_COMPARE(errand.Lines(), u"Zoo"_s);
+    errand.Restart();
+    QCOMPARE(errand.Lines(), u"Zoo"_s);
+}
+
+QTEST_MAIN(MainFrameSafetyTest)
+#include "main_frame_safety_test.moc"
