@@ -284,17 +284,27 @@ void MainFrame::TellWriteFailure()
         });
 }
 
-void MainFrame::ReopenDataFile()
+bool MainFrame::RemountUnderPages()
 {
     m_volume.Unmount();
-    if (m_volume.Mount(m_settings.DbPath, Disposition::OpenExisting) == ErrorNumber::None
-        && m_catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened
-        && (m_openList == kNoObject || m_catalogue.OpenList(m_openList, m_list)))
+    if (m_volume.Mount(m_settings.DbPath, Disposition::OpenExisting) != ErrorNumber::None
+        || m_catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
+        return false;
+    // In another file the identifier may be that of another list.
+    InventoryList reopened;
+    return m_openList == kNoObject
+        || (m_catalogue.OpenList(m_openList, reopened) && reopened.columns == m_list.columns);
+}
+
+void MainFrame::ReopenDataFile()
+{
+    if (RemountUnderPages())
         return RefreshPages();
-    // What is entered on the pages can only be kept as long as they stay.
+    // The pages are not those of the file that is there now: nothing of theirs may get into it.
+    m_volume.Unmount();
+    // What is entered on them can only be kept as long as they stay.
     if (!CloseAllPages())
         return AskToDiscardInput();
-    m_volume.Unmount();
     m_isDataFileOpen = false;
     UpdateCommands();
     OpenDataFile({});

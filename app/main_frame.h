@@ -119,6 +119,8 @@ private:
     void ExportTo(const QString& path);
     void TellWriteFailure();
     void ReopenDataFile();
+    /// Opens the data file and the open list anew. False if they are not what the pages show.
+    [[nodiscard]] bool RemountUnderPages();
     void RefreshPages();
     void TellStop(const QString& text, const std::function<void()>& then = {});
     void ToggleReadOnly();
