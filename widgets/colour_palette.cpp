@@ -55,11 +55,6 @@ constexpr std::array<ColourEntry, kColourCount> kColours { {
     { qRgb(0, 64, 0), QT_TRANSLATE_NOOP("Colours", "Dark green") },
 } };
 
-bool IsDark(const QPalette& palette)
-{
-    return palette.color(QPalette::Base).lightnessF() < palette.color(QPalette::Text).lightnessF();
-}
-
 /// Relative luminance by the formula of WCAG 2.
 double Luminance(const QColor& colour)
 {
@@ -93,6 +88,11 @@ QColor LightenedFor(QColor colour, const QColor& ground)
 }
 
 } // namespace
+
+bool IsDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Base).lightnessF() < palette.color(QPalette::Text).lightnessF();
+}
 
 QColor PaletteColour(quint32 index)
 {

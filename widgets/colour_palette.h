@@ -14,6 +14,8 @@ constexpr quint32 kAutomaticColour = 0;
 /// The ground of every other row, where that is asked for.
 constexpr QRgb kAlternateRowColour = qRgb(207, 217, 246);
 
+/// Whether text is lighter than its ground.
+[[nodiscard]] bool IsDark(const QPalette& palette);
 /// The colour of an index as it is defined; black for one outside the palette.
 [[nodiscard]] QColor PaletteColour(quint32 index);
 /// What a colour is called, for those who cannot see it.

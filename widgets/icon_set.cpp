@@ -81,11 +81,6 @@ int KnownIcon(int index)
     return index >= 0 && index < kListIconCount ? index : 0;
 }
 
-bool IsDarkGround(const QPalette& palette)
-{
-    return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
-}
-
 /// A drawing of one colour, which follows the palette, selection and disabling at every scale.
 class DrawnIcon : public QIconEngine
 {
@@ -159,8 +154,7 @@ QIcon ListIcon(int index)
     const quint32 colour = kListIcons.at(static_cast<size_t>(known)).colour;
     return QIcon(new DrawnIcon(u":/icons/list_%1.svg"_s.arg(known, 2, 10, QLatin1Char('0')),
         [colour](const QPalette& palette) {
-            return IsDarkGround(palette) ? palette.color(QPalette::Text)
-                                         : TextColour(colour, palette);
+            return IsDark(palette) ? palette.color(QPalette::Text) : TextColour(colour, palette);
         }));
 }
 
