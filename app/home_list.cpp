@@ -1,6 +1,7 @@
 #include "app/home_list.h"
 
 #include "res/string_table.h"
+#include "widgets/line_delegate.h"
 #include "widgets/measures.h"
 #include "widgets/touch.h"
 
@@ -8,9 +9,7 @@
 #include <QFontDatabase>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QPainter>
 #include <QShortcut>
-#include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -21,17 +20,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Lines high enough for a finger, names no longer than the catalogue takes.
-class LineDelegate : public QStyledItemDelegate
+class HomeLineDelegate : public LineDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using LineDelegate::LineDelegate;
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override
     {
         QStyledItemDelegate::paint(painter, option, index);
-        painter->setPen(option.palette.color(QPalette::Midlight));
-        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+        DrawHairline(*painter, option);
     }
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
@@ -68,7 +66,7 @@ void HomeList::BuildView()
     m_view->setObjectName(u"HomeList"_s);
     m_view->setAccessibleName(LoadString(StringId::InventoryList));
     m_view->setModel(m_model);
-    m_view->setItemDelegate(new LineDelegate(m_view));
+    m_view->setItemDelegate(new HomeLineDelegate(m_view));
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);

@@ -3,6 +3,7 @@
 #include "listdef/column_definition_page.h"
 #include "listdef/column_table_model.h"
 #include "res/dialog_table.h"
+#include "widgets/line_delegate.h"
 #include "widgets/line_view.h"
 #include "widgets/page_stack.h"
 #include "widgets/touch.h"
@@ -45,6 +46,7 @@ void ColumnsPanel::BuildView()
     m_view->setObjectName(u"columns"_s);
     m_view->setAccessibleName(DialogTitle(Dialog::Columns));
     m_view->setModel(m_columns);
+    m_view->setItemDelegate(new LineDelegate(m_view));
     DressLineView(m_view);
     m_view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_view->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Fixed);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rows/line_delegate.h"
+#include "widgets/line_delegate.h"
 
 namespace Quillory {
 

@@ -1,7 +1,7 @@
 #include "rows/summary_page.h"
 
 #include "res/dialog_table.h"
-#include "rows/line_delegate.h"
+#include "widgets/line_delegate.h"
 #include "widgets/line_view.h"
 #include "widgets/touch.h"
 

@@ -1,4 +1,4 @@
-#include "rows/line_delegate.h"
+#include "widgets/line_delegate.h"
 
 #include "widgets/measures.h"
 
