@@ -1,7 +1,7 @@
 #include "store/totals.h"
+#include "tests/column_order.h"
 #include "tests/list_fixture.h"
 #include "values/column_type.h"
-#include "values/value_compare.h"
 
 #include <QRandomGenerator>
 #include <QTest>

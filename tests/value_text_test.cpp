@@ -1,6 +1,6 @@
+#include "tests/column_order.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
-#include "values/value_compare.h"
 #include "values/value_text.h"
 
 #include <QTest>
