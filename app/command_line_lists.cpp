@@ -99,20 +99,6 @@ void SetWarnings(InventoryList& list, const QCommandLineParser& parser)
         list.TableOption |= kWarnOnExpiry;
 }
 
-/// Column numbers are drawn at random; the rare draw of one number twice is made good by another.
-bool CreateList(ListCatalogue& catalogue, InventoryList& list)
-{
-    constexpr int kDraws = 3;
-    for (int draw = 0; draw < kDraws; ++draw) {
-        if (catalogue.CreateList(list).isCommitted)
-            return true;
-        const ErrorNumber error = catalogue.Volume().LastError();
-        if (error != ErrorNumber::AlreadyExists && error != ErrorNumber::DuplicateName)
-            return false;
-    }
-    return false;
-}
-
 } // namespace
 
 void RunLists(const CommandRun& run)
@@ -155,7 +141,7 @@ void RunNew(const CommandRun& run)
         = run.OpenForWriting(isCreating ? Disposition::OpenAlways : Disposition::OpenExisting);
     if (data->catalogue.FindList(list.Name) != kNoObject)
         Fail(u"there is a list named “%1” already"_s.arg(list.Name));
-    if (!CreateList(data->catalogue, list))
+    if (!data->catalogue.CreateListRedrawing(list).isCommitted)
         Fail(u"cannot make the list: %1"_s.arg(ErrorText(data->volume.LastError())));
     run.KeepCopyOf(*data);
 }

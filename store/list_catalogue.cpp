@@ -313,6 +313,19 @@ ListCatalogue::CreateOutcome ListCatalogue::CreateList(InventoryList& definition
     return outcome;
 }
 
+ListCatalogue::CreateOutcome ListCatalogue::CreateListRedrawing(InventoryList& definition)
+{
+    constexpr int kDraws = 8;
+    CreateOutcome outcome;
+    for (int draw = 0; draw < kDraws && !outcome.isCommitted; ++draw) {
+        outcome = CreateList(definition);
+        const ErrorNumber error = m_volume.LastError();
+        if (error != ErrorNumber::AlreadyExists && error != ErrorNumber::DuplicateName)
+            break;
+    }
+    return outcome;
+}
+
 bool ListCatalogue::CreateRowDatabase(InventoryList& definition)
 {
     // Two columns that draw one number make the creation fail, and with it the whole list.

@@ -73,6 +73,8 @@ public:
     /// Makes a list and its row database in one transaction. `definition` gets its map name, the
     /// identifiers of its columns and, if it has none, its column order.
     CreateOutcome CreateList(InventoryList& definition);
+    /// The same, trying again where the numbers drawn collide: for lists that nobody sees made.
+    CreateOutcome CreateListRedrawing(InventoryList& definition);
 
     /// Reads a list and opens its row database, columns included. False, and nothing open, if any
     /// of it fails. A row database that was open is closed first.

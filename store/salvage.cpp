@@ -54,10 +54,11 @@ class ListWriter
 public:
     ListWriter(ListCatalogue& catalogue, const InventoryList& list)
         : m_data(catalogue.Volume())
+        , m_list(list)
     {
         for (const ColumnDefinition& column : list.columns)
             m_oldIds.push_back(column.id);
-        m_error = Create(catalogue, list);
+        m_error = Create(catalogue);
         if (m_error == ErrorNumber::None && !m_data.BeginTransaction())
             m_error = m_data.LastError();
     }
@@ -87,18 +88,12 @@ private:
     std::vector<PropertyId> m_oldIds;
     ErrorNumber m_error = ErrorNumber::None;
 
-    /// Columns get new identifiers, drawn at random; two that draw one make the list fail.
-    [[nodiscard]] ErrorNumber Create(ListCatalogue& catalogue, const InventoryList& list)
+    /// Columns get new identifiers, drawn at random.
+    [[nodiscard]] ErrorNumber Create(ListCatalogue& catalogue)
     {
-        constexpr int kDraws = 8;
-        for (int draw = 0; draw < kDraws; ++draw) {
-            m_list = list;
-            const auto created = catalogue.CreateList(m_list);
-            if (created.isCommitted)
-                return catalogue.OpenList(created.oid, m_list) ? ErrorNumber::None
-                                                               : m_data.LastError();
-        }
-        return m_data.LastError();
+        const auto created = catalogue.CreateListRedrawing(m_list);
+        const bool isOpen = created.isCommitted && catalogue.OpenList(created.oid, m_list);
+        return isOpen ? ErrorNumber::None : m_data.LastError();
     }
 };
 

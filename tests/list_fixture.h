@@ -60,10 +60,7 @@ public:
                  { QStringLiteral("Bought"), CEVT_FILETIME } })
             made.columns.push_back({ title, 0, MakePropertyId(number++, type) });
         made.columns.push_back({ QStringLiteral("Expiry Date"), 0, PropExpiryDate });
-        // The number drawn for a column is now and then that of a built-in one.
-        auto created = catalogue->CreateList(made);
-        while (!created.isCommitted && data->LastError() == ErrorNumber::AlreadyExists)
-            created = catalogue->CreateList(made);
+        const auto created = catalogue->CreateListRedrawing(made);
         if (!created.isCommitted)
             qFatal("the list cannot be made");
         OpenList(created.oid);
