@@ -345,7 +345,9 @@ void MainFrame::ShowOptions()
 
 void MainFrame::ShowHelp(const QString& anchor)
 {
-    m_pages->Push(new HelpPage(anchor.isEmpty() ? QString::fromLatin1(kHelpMain) : anchor));
+    // Help on help is the help that is open.
+    if (qobject_cast<HelpPage*>(m_pages->Top()) == nullptr)
+        m_pages->Push(new HelpPage(anchor.isEmpty() ? QString::fromLatin1(kHelpMain) : anchor));
 }
 
 void MainFrame::ShowAbout()
