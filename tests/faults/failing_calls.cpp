@@ -108,18 +108,12 @@ void FailAt(FaultRun& run, const Script& script, size_t step, const Files& files
 
 void LetCallsFailThrough(FaultRun& run, const Script& script, int runs)
 {
-    const std::vector<Files> stages = MakeStages(run, script);
-    const int end = run.CountSoFar() + runs;
-    for (size_t step = 0; step < script.steps.size(); ++step) {
-        run.Place(stages[step]);
-        const int calls = CountCalls(run, script, step);
-        for (int call = 1; call <= calls; ++call) {
-            if (run.CountSoFar() == end)
-                return;
+    ForEachCall(
+        run, script, runs, [&](size_t step) { return CountCalls(run, script, step); },
+        [&](size_t step, const Files& before, int call) {
             const auto kind = static_cast<size_t>(run.CountSoFar()) % kFailures.size();
-            FailAt(run, script, step, stages[step], call, kFailures[kind]);
-        }
-    }
+            FailAt(run, script, step, before, call, kFailures[kind]);
+        });
 }
 
 void LetCallsFail(FaultRun& run)

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <map>
 
 namespace Quillory {
@@ -57,6 +58,12 @@ private:
 /// The files before each step of the script, which is run once to make them; before the first step
 /// there are none. The scratch folder is empty afterwards.
 [[nodiscard]] std::vector<Files> MakeStages(const FaultRun& run, const Script& script);
+
+/// Visits each call that each step of the script makes, as `countCalls` finds when it runs the step
+/// on the files before it, until the run has made `runs` more faults.
+void ForEachCall(FaultRun& run, const Script& script, int runs,
+    const std::function<int(size_t step)>& countCalls,
+    const std::function<void(size_t step, const Files& before, int call)>& visit);
 
 // The kinds of faults. Each makes its fault run.Runs() times or a little more.
 void KillAtEveryCall(FaultRun& run);

@@ -129,20 +129,14 @@ void KillAt(FaultRun& run, const Script& script, size_t step, int callNumber, Ki
 
 void KillThrough(FaultRun& run, const Script& script, int runs)
 {
-    const std::vector<Files> stages = MakeStages(run, script);
-    const int end = run.CountSoFar() + runs;
-    for (size_t step = 0; step < script.steps.size(); ++step) {
-        run.Place(stages[step]);
-        const int calls = CountCalls(run, script, step);
-        for (int call = 1; call <= calls; ++call) {
+    ForEachCall(
+        run, script, runs, [&](size_t step) { return CountCalls(run, script, step); },
+        [&](size_t step, const Files& before, int call) {
             for (const KillMoment moment : { KillMoment::BeforeTheCall, KillMoment::MidCall }) {
-                if (run.CountSoFar() == end)
-                    return;
-                run.Place(stages[step]);
+                run.Place(before);
                 KillAt(run, script, step, call, moment);
             }
-        }
-    }
+        });
 }
 
 void KillAtEveryCall(FaultRun& run)
