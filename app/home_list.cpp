@@ -28,7 +28,8 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override
     {
-        QStyledItemDelegate::paint(painter, option, index);
+        // With the icon, which lines of mere text have not.
+        QStyledItemDelegate::paint(painter, option, index); // NOLINT(bugprone-parent-virtual-call)
         DrawHairline(*painter, option);
     }
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override

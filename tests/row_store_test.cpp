@@ -219,9 +219,9 @@ void RowStoreTest::sortingManyRowsAgreesWithComparingThem()
     QVERIFY(file.data->BeginTransaction());
     for (int i = 0; i < kRows; ++i) {
         // Texts that begin alike, end each other, are empty, or hold units above surrogates.
-        QString shelf = QString(random.bounded(4) * 90, u'x')
+        QString shelf = QString(qsizetype { random.bounded(4) } * 90, u'x')
             + QString(random.bounded(6), u'\uFF5A') + QString::number(random.bounded(50));
-        shelf.chop(random.bounded(2) * 2);
+        shelf.chop(qsizetype { random.bounded(2) } * 2);
         const FileTime day { quint64(random.bounded(400'000)) * 864'000'000'000 / 3 };
         std::vector<PropertyValue> values { { file.Column(Name), 0, QString::number(i) },
             { file.Column(Shelf), 0, shelf }, { file.Column(Bio), 0, random.bounded(2) == 1 },
