@@ -23,6 +23,8 @@ private Q_SLOTS:
     void ticksAreTappedInTheirSquareAlone();
     void aDoubleTapTicksTheOnlyCheckbox();
     void twoCheckboxesLeaveTheDoubleTapToTheEditor();
+    void keysMoveThroughALongList_data();
+    void keysMoveThroughALongList();
     void aTapOnTheHeaderSorts_data();
     void aTapOnTheHeaderSorts();
     void deletingTheLastRowLeavesNothingToCommand();
@@ -180,6 +182,37 @@ void RowsViewTest::twoCheckboxesLeaveTheDoubleTapToTheEditor()
         QTest::keyClick(View(), Qt::Key_Right);
     QTest::keyClick(View(), Qt::Key_Space);
     QVERIFY(!m_errand->IsTicked(0, 2) && m_errand->IsTicked(0, 3));
+}
+
+void RowsViewTest::keysMoveThroughALongList_data()
+{
+    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<bool>("isAtTop");
+    QTest::newRow("down") << QList<int> { Qt::Key_Down } << 1 << true;
+    QTest::newRow("up at the top") << QList<int> { Qt::Key_Up } << 0 << true;
+    QTest::newRow("to the end") << QList<int> { Qt::Key_End } << 99 << false;
+    QTest::newRow("down at the end") << QList<int> { Qt::Key_End, Qt::Key_Down } << 99 << false;
+    QTest::newRow("there and back") << QList<int> { Qt::Key_End, Qt::Key_Home } << 0 << true;
+    QTest::newRow("pages there and back")
+        << QList<int> { Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_PageUp } << 0
+        << true;
+}
+
+void RowsViewTest::keysMoveThroughALongList()
+{
+    QFETCH(QList<int>, keys);
+    for (int i = 2; i < 100; ++i)
+        File().Add({ u"row"_s, u"1"_s, u"top"_s, u"Unchecked"_s, u"1"_s });
+    m_errand->Open();
+    for (const int key : keys)
+        QTest::keyClick(View(), static_cast<Qt::Key>(key));
+    QCOMPARE(View()->selectionModel()->selectedRows().value(0).row(), View()->currentIndex().row());
+    QTEST(View()->currentIndex().row(), "line");
+    QTEST(View()->verticalScrollBar()->value() == 0, "isAtTop");
+    const QRect line = View()->visualRect(View()->currentIndex());
+    QVERIFY(line.top() >= 0 && line.bottom() < View()->viewport()->height());
+    QCOMPARE(View()->indexAt(line.center()), View()->currentIndex());
 }
 
 void RowsViewTest::aTapOnTheHeaderSorts_data()
