@@ -3,33 +3,65 @@
 #include "propdb/database.h"
 #include "values/filters.h"
 
+#include <algorithm>
 #include <functional>
+#include <span>
 #include <vector>
 
 namespace Quillory {
 
-/// Finds the place of a record in a sequence of them, in constant time and four bytes a record
-/// where identifiers lie close together, as those of one list mostly do.
-class RowPositions
+/// A value for each record of a sequence, found in constant time where identifiers lie close
+/// together, as those of one list mostly do. Needs a value and the slack between identifiers, or a
+/// value and four bytes, a record.
+template <typename Value> class RecordMap
 {
 public:
-    explicit RowPositions(const std::vector<ObjectId>& rows);
+    /// Every record of the sequence has the value `absent`, and so has any that is not in it.
+    RecordMap(std::span<const ObjectId> records, Value absent)
+        : m_absent(absent)
+    {
+        if (records.empty())
+            return;
+        constexpr quint64 kSlack = 4096;
+        const auto [low, high] = std::ranges::minmax_element(records);
+        m_first = static_cast<quint32>(*low);
+        quint64 places = quint64 { static_cast<quint32>(*high) } - m_first + 1;
+        if (places > 4 * records.size() + kSlack) {
+            m_sparse.assign(records.begin(), records.end());
+            std::ranges::sort(m_sparse);
+            places = records.size();
+        }
+        m_values.assign(places, absent);
+    }
 
-    static constexpr quint32 kNowhere = 0xFFFFFFFF;
-    /// kNowhere for a record that is not in the sequence.
-    [[nodiscard]] quint32 Find(ObjectId row) const;
+    /// Does nothing for a record that is not in the sequence.
+    void Set(ObjectId record, Value value)
+    {
+        if (const size_t place = PlaceOf(record); place < m_values.size())
+            m_values[place] = value;
+    }
+    [[nodiscard]] Value Find(ObjectId record) const
+    {
+        const size_t place = PlaceOf(record);
+        return place < m_values.size() ? m_values[place] : m_absent;
+    }
 
 private:
-    struct Entry
-    {
-        quint32 oid;
-        quint32 position;
-    };
-
+    Value m_absent;
     quint32 m_first = 0;
-    std::vector<quint32> m_dense;
-    /// In place of m_dense where it would be too large; sorted by identifier.
-    std::vector<Entry> m_sparse;
+    std::vector<Value> m_values;
+    /// The records in the order of their values, where they lie too far apart for a place each.
+    std::vector<ObjectId> m_sparse;
+
+    [[nodiscard]] size_t PlaceOf(ObjectId record) const
+    {
+        if (m_sparse.empty())
+            return static_cast<quint32>(record) - m_first;
+        const auto found = std::ranges::lower_bound(m_sparse, record);
+        return found != m_sparse.end() && *found == record
+            ? static_cast<size_t>(found - m_sparse.begin())
+            : m_values.size();
+    }
 };
 
 /// A set of records: a bit for each identifier between the least and the greatest, or the sorted

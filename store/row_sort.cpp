@@ -10,6 +10,7 @@
 #include <array>
 #include <bit>
 #include <cstring>
+#include <limits>
 
 namespace Quillory {
 
@@ -184,55 +185,54 @@ private:
     }
 };
 
-/// An entry for each row, all of one key.
-Entries EntriesOf(size_t rows, quint64 key)
+/// An entry for each row, in their order.
+template <typename KeyOfRow>
+Entries EntriesOf(const std::vector<ObjectId>& rows, const KeyOfRow& keyOf)
 {
-    Entries entries(rows);
-    for (size_t i = 0; i < rows; ++i)
-        entries[i] = { key, static_cast<quint32>(i) };
+    Entries entries(rows.size());
+    for (size_t i = 0; i < rows.size(); ++i)
+        entries[i] = { keyOf(rows[i]), static_cast<quint32>(i) };
     return entries;
 }
 
-/// Sorts entries by the numbers of their rows.
-Result<void> SortNumbers(
-    Database& database, const RowPositions& positions, PropertyId column, Entries& entries)
+Result<Entries> SortNumbers(
+    Database& database, const std::vector<ObjectId>& rows, PropertyId column)
 {
     const ColumnType type = ColumnTypeOf(column);
-    std::vector<ObjectId> oids;
-    std::vector<quint64> keys;
-    oids.reserve(entries.size());
-    keys.reserve(entries.size());
+    const bool isFraction = type == ColumnType::Price || type == ColumnType::Date;
+    RecordMap<quint64> keys(rows, isFraction ? KeyOf(0.0) : KeyOf(qint64 { 0 }));
     const auto read = database.ScanInPlace(
         std::span(&column, 1), ScanOrder::Any, [&](const ScannedRecord& record) {
-            oids.push_back(record.Oid());
-            keys.push_back(KeyOf(record, type));
+            keys.Set(record.Oid(), KeyOf(record, type));
             return true;
         });
-    // The places lie all over the memory: in a loop of their own they are waited for together.
-    for (size_t i = 0; read && i < oids.size(); ++i) {
-        const quint32 position = positions.Find(oids[i]);
-        if (position != RowPositions::kNowhere)
-            entries[position].key = keys[i];
-    }
+    if (!read)
+        return read.Error();
+    Entries entries = EntriesOf(rows, [&keys](ObjectId row) { return keys.Find(row); });
     Entries spare;
     SortByKey(entries, spare);
-    return read;
+    return entries;
 }
 
-Result<void> SortTexts(
-    Database& database, const RowPositions& positions, PropertyId column, Entries& entries)
+Result<Entries> SortTexts(Database& database, const std::vector<ObjectId>& rows, PropertyId column)
 {
-    ColumnTexts texts(entries.size());
+    constexpr quint32 kNowhere = std::numeric_limits<quint32>::max();
+    Entries entries = EntriesOf(rows, [](ObjectId) { return quint64 { 0 }; });
+    RecordMap<quint32> positions(rows, kNowhere);
+    for (const SortEntry& entry : entries)
+        positions.Set(rows[entry.position], entry.position);
+    ColumnTexts texts(rows.size());
     const auto read = database.ScanInPlace(
         std::span(&column, 1), ScanOrder::Any, [&](const ScannedRecord& record) {
             const quint32 position = positions.Find(record.Oid());
-            if (position != RowPositions::kNowhere)
+            if (position != kNowhere)
                 texts.Add(position, record.Bytes(0));
             return true;
         });
-    if (read)
-        texts.Sort(entries);
-    return read;
+    if (!read)
+        return read.Error();
+    texts.Sort(entries);
+    return entries;
 }
 
 } // namespace
@@ -240,16 +240,13 @@ Result<void> SortTexts(
 Result<std::vector<ObjectId>> SortByColumn(
     Database& database, const std::vector<ObjectId>& rows, PropertyId column)
 {
-    const ColumnType type = ColumnTypeOf(column);
-    const bool isFraction = type == ColumnType::Price || type == ColumnType::Date;
-    const RowPositions positions(rows);
-    Entries entries = EntriesOf(rows.size(), isFraction ? KeyOf(0.0) : KeyOf(qint64 { 0 }));
-    const auto sort = type == ColumnType::String ? SortTexts : SortNumbers;
-    if (const auto done = sort(database, positions, column, entries); !done)
-        return done.Error();
+    const bool isText = ColumnTypeOf(column) == ColumnType::String;
+    const auto entries = (isText ? SortTexts : SortNumbers)(database, rows, column);
+    if (!entries)
+        return entries.Error();
     std::vector<ObjectId> sorted;
     sorted.reserve(rows.size());
-    for (const SortEntry& entry : entries)
+    for (const SortEntry& entry : *entries)
         sorted.push_back(rows[entry.position]);
     return sorted;
 }

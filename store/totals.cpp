@@ -64,26 +64,31 @@ bool IsCertain(PropertyId column, const OrderlessSum& sum)
         && TwoDecimals(sum.Value() - reach) == TwoDecimals(sum.Value() + reach);
 }
 
-/// The numbers of the counted rows, those of a row side by side; a missing value is a zero, which
-/// adds nothing.
+/// The numbers of a column in the order of the rows they belong to; a missing value is a zero,
+/// which adds nothing.
+struct ColumnNumbers
+{
+    std::vector<double> values;
+    OrderlessSum sum;
+};
+
 struct Numbers
 {
     std::vector<ObjectId> rows;
-    std::vector<double> values;
-    std::vector<OrderlessSum> sums;
+    std::vector<ColumnNumbers> columns;
 };
 
 Result<Numbers> ReadNumbers(Database& rows, std::span<const PropertyId> columns,
     const FilterSet* filters, const ValueContext& context)
 {
-    Numbers numbers { {}, {}, std::vector<OrderlessSum>(columns.size()) };
+    Numbers numbers { {}, std::vector<ColumnNumbers>(columns.size()) };
     const auto scanned = ScanFilteredInPlace(
         rows, columns, filters, context, ScanOrder::Any, [&numbers](const ScannedRecord& record) {
             numbers.rows.push_back(record.Oid());
-            for (size_t i = 0; i < numbers.sums.size(); ++i) {
+            for (size_t i = 0; i < numbers.columns.size(); ++i) {
                 const double number = record.Number(i);
-                numbers.values.push_back(number);
-                numbers.sums[i].Add(number);
+                numbers.columns[i].values.push_back(number);
+                numbers.columns[i].sum.Add(number);
             }
             return true;
         });
@@ -92,22 +97,20 @@ Result<Numbers> ReadNumbers(Database& rows, std::span<const PropertyId> columns,
     return numbers;
 }
 
-/// The totals by plain addition in the order of names, which defines them.
-Result<std::vector<double>> SumInOrder(Database& rows, const Numbers& numbers)
+/// A total by plain addition in the order of names, which defines it.
+Result<double> SumInOrder(
+    Database& database, std::span<const ObjectId> rows, std::span<const double> values)
 {
-    std::vector<double> totals(numbers.sums.size(), 0.0);
-    const auto listed = rows.ListRecords();
+    const auto listed = database.ListRecords();
     if (!listed)
         return listed.Error();
-    const RowPositions positions(numbers.rows);
-    for (const ObjectId oid : *listed) {
-        const quint32 position = positions.Find(oid);
-        if (position == RowPositions::kNowhere)
-            continue;
-        for (size_t i = 0; i < totals.size(); ++i)
-            totals[i] += numbers.values[position * totals.size() + i];
-    }
-    return totals;
+    RecordMap<double> byRow(rows, 0.0);
+    for (size_t i = 0; i < rows.size(); ++i)
+        byRow.Set(rows[i], values[i]);
+    double total = 0;
+    for (const ObjectId row : *listed)
+        total += byRow.Find(row);
+    return total;
 }
 
 /// The totals; by the order of names only where another order could show.
@@ -119,9 +122,12 @@ Result<std::vector<double>> Sum(Database& rows, std::span<const PropertyId> colu
         return numbers.Error();
     std::vector<double> totals;
     for (size_t i = 0; i < columns.size(); ++i) {
-        if (!IsCertain(columns[i], numbers->sums[i]))
-            return SumInOrder(rows, *numbers);
-        totals.push_back(numbers->sums[i].Value());
+        const auto& [values, sum] = numbers->columns[i];
+        const Result<double> total
+            = IsCertain(columns[i], sum) ? sum.Value() : SumInOrder(rows, numbers->rows, values);
+        if (!total)
+            return total.Error();
+        totals.push_back(*total);
     }
     return totals;
 }
