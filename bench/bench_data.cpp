@@ -7,9 +7,11 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <memory>
+#include <utility>
 
 namespace Quillory {
 
@@ -35,6 +37,24 @@ QString Word(quint64 seed)
         seed >>= 4;
     }
     return word;
+}
+
+/// In which order the rows of a long list come to be: most by an import, which stores them by name,
+/// the last tenth by hand.
+std::vector<int> OrderOfComing(const InventoryList& list, int rows)
+{
+    constexpr int kByHand = 10;
+    std::vector<std::pair<QString, int>> imported;
+    for (int i = 0; i < rows - rows / kByHand; ++i)
+        imported.emplace_back(std::get<QString>(BenchRow(list, i).front().value), i);
+    std::sort(imported.begin(), imported.end());
+    std::vector<int> order;
+    order.reserve(static_cast<size_t>(rows));
+    for (const auto& [name, index] : imported)
+        order.push_back(index);
+    for (int i = static_cast<int>(imported.size()); i < rows; ++i)
+        order.push_back(i);
+    return order;
 }
 
 } // namespace
@@ -88,8 +108,9 @@ void BenchList::Fill()
     m_oid = catalogue.CreateList(made).oid;
     Require(catalogue.OpenList(m_oid, m_list), "cannot open the list");
     Require(data.BeginTransaction(), "no transaction");
-    for (int i = 0; i < m_rows; ++i)
-        Require(data.Write(ListCatalogue::kRowsType, kNoObject, BenchRow(m_list, i)) != kNoObject,
+    for (const int index : OrderOfComing(m_list, m_rows))
+        Require(
+            data.Write(ListCatalogue::kRowsType, kNoObject, BenchRow(m_list, index)) != kNoObject,
             "cannot write a row");
     Require(data.EndTransaction(true), "cannot commit");
     const auto oid = static_cast<quint32>(data.DatabaseOid(ListCatalogue::kRowsType));

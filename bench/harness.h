@@ -49,8 +49,8 @@ inline void Require(bool isTrue, const char* what)
 
 void PrintHeading();
 
-/// Runs the cases whose names hold the filter and prints a line per case and size: the medians of
-/// both sides, their ratio and its limit, and the growth between sizes ten times apart.
+/// Runs the cases whose names hold the filter and prints a line per case and size: the least time
+/// of both sides, their ratio and its limit, and the growth of both between sizes ten times apart.
 void RunCases(const std::vector<BenchCase>& cases, const BenchOptions& options);
 
 } // namespace Quillory

@@ -22,7 +22,7 @@ BenchOptions ReadOptions(const QCoreApplication& application)
     parser.addPositionalArgument(u"name"_s, u"Only the cases whose names hold this."_s);
     const QCommandLineOption rows(u"rows"_s, u"Number of rows; can be given again."_s, u"number"_s);
     const QCommandLineOption repeat(
-        u"repeat"_s, u"Runs of each case, of which the median counts."_s, u"number"_s, u"5"_s);
+        u"repeat"_s, u"Runs of each case, of which the quickest counts."_s, u"number"_s, u"5"_s);
     parser.addOptions({ rows, repeat });
     parser.process(application);
 

@@ -217,6 +217,41 @@ double HeapOfOpenView(BenchList& list)
     return bytes;
 }
 
+/// By how much 10,000 pages of scrolling make the heap grow, after the whole list was seen once.
+double HeapGrownByScrolling(BenchList& list)
+{
+    constexpr int kPages = 10000;
+    double bytes = 0;
+    list.WithList([&](DataVolume& data, const InventoryList& definition) {
+        RowsWindow window;
+        window.Open(data, definition);
+        QScrollBar* bar = window.View().verticalScrollBar();
+        const int pagesOfList = bar->maximum() / bar->pageStep() + 2;
+        const auto scroll = [&](int pages) {
+            for (int page = 0; page < pages; ++page) {
+                const int next = bar->value() + bar->pageStep();
+                bar->setValue(next > bar->maximum() ? 0 : next);
+                PaintPending(*window.View().window());
+            }
+        };
+        scroll(pagesOfList);
+        const double before = HeapBytes();
+        scroll(kPages);
+        bytes = HeapBytes() - before;
+    });
+    return bytes;
+}
+
+void PrintScrollGrowth(int rows)
+{
+    constexpr double kKilobyte = 1024;
+    // Caches hold texts of other lengths now and then.
+    constexpr double kMaxKilobytes = 64;
+    const double grown = HeapGrownByScrolling(BenchList::OfSize(rows)) / kKilobyte;
+    std::printf("%-34s %9d %8.1f KB, at most %.0f%s\n", "growth over 10,000 scrolled pages", rows,
+        grown, kMaxKilobytes, grown > kMaxKilobytes ? "  OVER" : "");
+}
+
 } // namespace
 
 std::vector<BenchCase> RowsCases()
@@ -242,6 +277,7 @@ void PrintRowMemory(const BenchOptions& options)
         std::printf("%-34s %9d %8.1f bytes, at most %.0f%s\n", qPrintable(name), rows, bytes,
             kMaxBytesPerRow, bytes > kMaxBytesPerRow ? "  OVER" : "");
     }
+    PrintScrollGrowth(options.sizes.front());
 }
 
 } // namespace Quillory
