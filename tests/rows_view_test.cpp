@@ -3,6 +3,7 @@
 #include "values/file_date.h"
 
 #include <QPointingDevice>
+#include <QScrollBar>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
