@@ -191,33 +191,35 @@ Result<void> Database::ScanInPlace(
 {
     VolumeState& volume = m_state->volume;
     sqlite3* connection = volume.connection.get();
+    const bool isVisited = ids.size() <= RecordVisit::kMaxProperties;
     const QString columns = u"oid"_s + m_state->ColumnList(ids);
-    const QString table = QuotedName(m_state->schema->tableName);
-    if (order == ScanOrder::Any && ids.size() <= RecordVisit::kMaxProperties) {
-        auto statement = Statement::Prepare(connection,
-            u"SELECT %1(%2) FROM %3"_s.arg(
-                QLatin1StringView(RecordVisit::kFunctionName), columns, table));
-        return statement ? volume.visit.Run(*statement, visitor) : statement.Error();
-    }
-    const QString select = u"SELECT %1 FROM %2"_s.arg(columns, table);
-    if (order == ScanOrder::Any) {
-        auto statement = Statement::Prepare(connection, select);
-        return statement ? statement->VisitRows(visitor) : statement.Error();
-    }
-    const QString key = QuotedName(m_state->schema->Find(m_state->order.key)->columnName);
-    const RoomyCache roomyCache(connection);
+    const QString select = u"SELECT "_s
+        + (isVisited ? u"%1(%2)"_s.arg(QLatin1StringView(RecordVisit::kFunctionName), columns)
+                     : columns)
+        + u" FROM "_s + QuotedName(m_state->schema->tableName);
     bool isGoingOn = true;
-    const auto visit = [&](const ScannedRecord& record) {
+    const RecordVisitor visit = [&](const ScannedRecord& record) {
         isGoingOn = visitor(record);
         return isGoingOn;
     };
-    for (const QString& sql : { select + u" WHERE %1 IS NOT NULL ORDER BY %1, oid"_s.arg(key),
-             select + u" WHERE %1 IS NULL ORDER BY oid"_s.arg(key) }) {
+    const auto run = [&](const QString& sql) -> Result<void> {
         auto statement = Statement::Prepare(connection, sql);
         if (!statement)
             return statement.Error();
-        if (const auto visited = statement->VisitRows(visit); !visited || !isGoingOn)
-            return visited;
+        return isVisited ? volume.visit.Run(*statement, visit) : statement->VisitRows(visit);
+    };
+    if (order == ScanOrder::Any)
+        return run(select);
+    const PropertyColumn& keyColumn = *m_state->schema->Find(m_state->order.key);
+    const QString key = QuotedName(keyColumn.columnName);
+    // A record is visited when it is read, not once it would be sorted: the index has to lead.
+    const QString byIndex = select
+        + u" INDEXED BY %1 WHERE %2"_s.arg(QuotedName(IndexName(*m_state->schema, keyColumn)), key);
+    const RoomyCache roomyCache(connection);
+    for (const QString& part :
+        { u" IS NOT NULL ORDER BY %1, oid"_s.arg(key), u" IS NULL ORDER BY oid"_s }) {
+        if (const auto done = run(byIndex + part); !done || !isGoingOn)
+            return done;
     }
     return {};
 }

@@ -65,11 +65,6 @@ QString TableSql(const DatabaseSchema& schema)
     return sql + u") STRICT"_s;
 }
 
-QString IndexName(const DatabaseSchema& schema, const PropertyColumn& key)
-{
-    return schema.tableName + u" by "_s + key.columnName;
-}
-
 QString IndexSql(const DatabaseSchema& schema, const PropertyColumn& key)
 {
     return u"CREATE INDEX "_s + QuotedName(IndexName(schema, key)) + u" ON "_s
@@ -229,6 +224,11 @@ QString QuotedName(const QString& name)
 {
     QString quoted = name;
     return u'"' + quoted.replace(u'"', u"\"\""_s) + u'"';
+}
+
+QString IndexName(const DatabaseSchema& schema, const PropertyColumn& key)
+{
+    return schema.tableName + u" by "_s + key.columnName;
 }
 
 bool IsStorableType(quint16 type)

@@ -46,6 +46,8 @@ struct VolumeSchema
 
 /// The identifier in double quotes, as SQL wants it.
 [[nodiscard]] QString QuotedName(const QString& name);
+/// The name of the index that serves the order by `key`.
+[[nodiscard]] QString IndexName(const DatabaseSchema& schema, const PropertyColumn& key);
 
 /// Whether a property of this type can be stored.
 [[nodiscard]] bool IsStorableType(quint16 type);
