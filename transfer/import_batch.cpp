@@ -7,6 +7,15 @@
 
 namespace Quillory {
 
+namespace {
+
+/// Units of a name that make a key.
+constexpr quint32 kKeyUnits = 4;
+constexpr int kUnitBits = 16;
+constexpr quint64 kUnitMask = (quint64 { 1 } << kUnitBits) - 1;
+
+} // namespace
+
 ImportBatch::ImportBatch(std::span<const PropertyId> columns, const ImportBatchLimits& limits)
     : m_limits(limits)
     , m_nameField(NameFieldOf(columns))
@@ -25,34 +34,19 @@ void ImportBatch::Add(std::span<const QStringView> fields)
     Line line;
     line.begin = static_cast<quint32>(m_text.size());
     for (size_t i = 0; i < fields.size(); ++i) {
-        if (i == m_nameField)
-            NoteName(line, fields[i]);
+        if (i == m_nameField) {
+            line.nameBegin = static_cast<quint32>(m_text.size());
+            line.nameLength = static_cast<quint32>(fields[i].size());
+        }
         m_text.insert(m_text.end(), fields[i].utf16(), fields[i].utf16() + fields[i].size());
         m_text.push_back(i + 1 < fields.size() ? kFieldSeparator : u'\0');
     }
     m_lines.push_back(line);
 }
 
-void ImportBatch::NoteName(Line& line, QStringView name) const
-{
-    constexpr int kPrefixUnits = 4;
-    constexpr int kUnitBits = 16;
-    line.nameBegin = static_cast<quint32>(m_text.size());
-    line.nameLength = static_cast<quint32>(name.size());
-    for (int i = 0; i < kPrefixUnits; ++i) {
-        const quint64 unit = i < name.size() ? name[i].unicode() : 0;
-        line.prefix = line.prefix << kUnitBits | unit;
-    }
-}
-
 bool ImportBatch::IsFull() const
 {
     return m_lines.size() >= m_limits.lines || m_text.size() >= m_limits.text;
-}
-
-QStringView ImportBatch::NameOf(const Line& line) const
-{
-    return { m_text.data() + line.nameBegin, static_cast<qsizetype>(line.nameLength) };
 }
 
 void ImportBatch::CutLine(const char16_t* begin, std::vector<QStringView>& fields)
@@ -68,21 +62,40 @@ void ImportBatch::CutLine(const char16_t* begin, std::vector<QStringView>& field
     }
 }
 
-bool ImportBatch::StandsBefore(const Line& a, const Line& b) const
+quint64 ImportBatch::KeyOf(const Line& line, quint32 depth) const
 {
-    // A field is never empty: a line without a name comes last, as its row does.
-    if ((a.nameLength == 0) != (b.nameLength == 0))
-        return b.nameLength == 0;
-    if (a.prefix != b.prefix)
-        return a.prefix < b.prefix;
-    const int order = NameOf(a).compare(NameOf(b));
-    return order != 0 ? order < 0 : a.begin < b.begin;
+    quint64 key = 0;
+    for (quint32 place = depth; place < depth + kKeyUnits; ++place) {
+        const quint64 unit = place < line.nameLength ? m_text[line.nameBegin + place] : 0;
+        key = key << kUnitBits | unit;
+    }
+    return key;
+}
+
+void ImportBatch::SortByName(std::span<Line> lines, quint32 depth) const
+{
+    for (Line& line : lines)
+        line.key = KeyOf(line, depth);
+    std::ranges::sort(lines, [](const Line& a, const Line& b) {
+        return a.key != b.key ? a.key < b.key : a.begin < b.begin;
+    });
+    for (auto begin = lines.begin(); begin != lines.end();) {
+        const auto end = std::find_if(
+            begin, lines.end(), [begin](const Line& line) { return line.key != begin->key; });
+        // A name holds no NUL: where the key ends in one, so do the names.
+        if (end - begin > 1 && (begin->key & kUnitMask) != 0)
+            SortByName({ begin, end }, depth + kKeyUnits);
+        begin = end;
+    }
 }
 
 void ImportBatch::Visit(const Visitor& visit)
 {
-    std::sort(m_lines.begin(), m_lines.end(),
-        [this](const Line& a, const Line& b) { return StandsBefore(a, b); });
+    // A field is never empty: a line without a name comes last, as its row does.
+    const auto nameless = std::partition(
+        m_lines.begin(), m_lines.end(), [](const Line& line) { return line.nameLength != 0; });
+    SortByName({ m_lines.begin(), nameless }, 0);
+    SortByName({ nameless, m_lines.end() }, 0);
     std::vector<QStringView> fields;
     for (const Line& line : m_lines) {
         CutLine(m_text.data() + line.begin, fields);

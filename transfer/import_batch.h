@@ -44,11 +44,12 @@ public:
     static void CutLine(const char16_t* begin, std::vector<QStringView>& fields);
 
 private:
-    /// Places and lengths in m_text. The first units of the name stand in `prefix`, the first one
-    /// highest, so that most comparisons look no further.
+    /// Places and lengths in m_text.
     struct Line
     {
-        quint64 prefix = 0;
+        /// A piece of the name, its first unit highest, that tells the lines apart that are equal
+        /// up to it.
+        quint64 key = 0;
         quint32 begin = 0;
         quint32 nameBegin = 0;
         quint32 nameLength = 0;
@@ -60,9 +61,9 @@ private:
     std::vector<char16_t> m_text;
     std::vector<Line> m_lines;
 
-    void NoteName(Line& line, QStringView name) const;
-    [[nodiscard]] QStringView NameOf(const Line& line) const;
-    [[nodiscard]] bool StandsBefore(const Line& a, const Line& b) const;
+    /// Sorts lines whose names are equal in their first `depth` units.
+    void SortByName(std::span<Line> lines, quint32 depth) const;
+    [[nodiscard]] quint64 KeyOf(const Line& line, quint32 depth) const;
 };
 
 } // namespace Quillory
