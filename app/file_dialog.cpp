@@ -1,6 +1,10 @@
 #include "app/file_dialog.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QScreen>
 #include <QStandardPaths>
 
@@ -26,13 +30,29 @@ void FitToScreen(QFileDialog& dialog)
     dialog.setWindowState(Qt::WindowMaximized);
 }
 
+/// The person's documents; their home where there is no such folder, as on many phones.
+QString StartFolder()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+/// The names that pop up below what is typed come late at times. While they are up, the window that
+/// the dialog gives way to does not become active and has no shortcuts.
+void CloseSuggestions(QFileDialog& dialog)
+{
+    for (QCompleter* suggestions : dialog.findChildren<QCompleter*>()) {
+        suggestions->setWidget(nullptr);
+        suggestions->popup()->close();
+    }
+}
+
 } // namespace
 
 void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
     const std::function<void(const QString& path)>& then)
 {
-    auto* dialog = new QFileDialog(
-        parent, QString(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    auto* dialog = new QFileDialog(parent, QString(), StartFolder());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setObjectName(u"FileDialog"_s);
     dialog->setAcceptMode(use == FileUse::Read ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
@@ -42,8 +62,13 @@ void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
     dialog->setOption(QFileDialog::DontConfirmOverwrite, use == FileUse::MakeOrOpen);
     if (!kind.suggestion.isEmpty())
         dialog->selectFile(kind.suggestion);
-    QObject::connect(dialog, &QDialog::finished, parent, [dialog, then](int result) {
-        then(result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString());
+    QObject::connect(dialog, &QDialog::finished, parent, [parent, dialog, then](int result) {
+        const QString path
+            = result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();
+        CloseSuggestions(*dialog);
+        // Not before the dialog is gone, so that a page that opens now takes the focus from none.
+        QMetaObject::invokeMethod(
+            parent, [then, path] { then(path); }, Qt::QueuedConnection);
     });
     FitToScreen(*dialog);
     dialog->open();
