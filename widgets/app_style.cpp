@@ -1,9 +1,12 @@
 #include "widgets/app_style.h"
 
 #include "widgets/icon_set.h"
+#include "widgets/measures.h"
 
+#include <QComboBox>
 #include <QPainter>
 #include <QStyleOption>
+#include <QStyledItemDelegate>
 
 namespace Quillory {
 
@@ -39,11 +42,49 @@ void DrawCheckbox(QPainter& painter, const QStyleOption& option)
         .paint(&painter, option.rect, Qt::AlignCenter, isEnabled ? QIcon::Normal : QIcon::Disabled);
 }
 
+/// Lines of a drop-down list as high as those of every other list.
+class ChoiceDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return { QStyledItemDelegate::sizeHint(option, index).width(),
+            CurrentMeasures().lineHeight };
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        // The selection tells where the focus is; a frame would shade it.
+        option->state.setFlag(QStyle::State_HasFocus, false);
+    }
+};
+
 } // namespace
 
 AppStyle::AppStyle()
     : QProxyStyle(QStringLiteral("fusion"))
 { }
+
+void AppStyle::polish(QWidget* widget)
+{
+    auto* box = qobject_cast<QComboBox*>(widget);
+    if (box != nullptr && dynamic_cast<ChoiceDelegate*>(box->itemDelegate()) == nullptr)
+        box->setItemDelegate(new ChoiceDelegate(box));
+    QProxyStyle::polish(widget);
+}
+
+int AppStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+    QStyleHintReturn* returnData) const
+{
+    // Choices drop down below their box. Laid over it they have room for one line and a half.
+    if (hint == SH_ComboBox_Popup)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
 
 void AppStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
     QPainter* painter, const QWidget* widget) const

@@ -13,6 +13,10 @@ class AppStyle : public QProxyStyle
 public:
     AppStyle();
 
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+        QStyleHintReturn* returnData) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
         const QWidget* widget) const override;
 };
