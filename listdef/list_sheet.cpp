@@ -58,6 +58,7 @@ ListSheet::ListSheet(SheetMode mode, const InventoryList& list, QWidget* parent)
 void ListSheet::AddPanel(const QString& title, QWidget* panel)
 {
     m_tabs->addTab(title);
+    m_firstFields.push_back(panel);
     m_panels->addWidget(panel == m_columns ? panel : MakeScrollable(panel));
 }
 
@@ -78,8 +79,10 @@ void ListSheet::ShowPanel(int index)
         SetSoftKeys(SoftKeysOf(MenuBar::Columns), MenuEntries(MenuId::Columns));
     else
         SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
-    setFocusProxy(isColumns ? static_cast<QWidget*>(m_columns) : m_panels->currentWidget());
-    m_panels->currentWidget()->setFocus();
+    setFocusProxy(m_firstFields.at(static_cast<size_t>(index)));
+    // Keys that go through the tabs go on doing so.
+    if (!m_tabs->hasFocus())
+        setFocus();
 }
 
 void ListSheet::resizeEvent(QResizeEvent* event)

@@ -121,9 +121,11 @@ void Page::BuildHeader(const QString& title)
     m_ok = new QPushButton(tr("OK"), m_header);
     m_ok->setObjectName(u"ok"_s);
     m_ok->setFont(bold);
-    m_ok->setAutoDefault(false);
+    m_ok->setAutoDefault(true);
+    m_ok->setFixedHeight(CurrentMeasures().headerHeight);
     connect(m_ok, &QPushButton::clicked, this, [this] { RequestEnd(PageResult::Ok); });
     line->addWidget(m_ok);
+    setFocusProxy(m_ok);
     m_header->setFixedHeight(CurrentMeasures().headerHeight + 1);
     m_header->setVisible(!title.isEmpty());
     layout()->addWidget(m_header);
@@ -272,6 +274,16 @@ void Page::End(PageResult result)
 void Page::RequestEnd(PageResult result)
 {
     End(result);
+}
+
+bool Page::focusNextPrevChild(bool next)
+{
+    // With its proxy the page would be a stop of its own, from which Tab passes over the header.
+    QWidget* first = focusProxy();
+    setFocusProxy(nullptr);
+    const bool isMoved = QWidget::focusNextPrevChild(next);
+    setFocusProxy(first);
+    return isMoved;
 }
 
 void Page::keyPressEvent(QKeyEvent* event)
