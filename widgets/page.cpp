@@ -178,6 +178,7 @@ void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
     left->setObjectName(u"leftKey"_s);
     QWidget* right = MakeSoftKey(keys.right, menu);
     right->setObjectName(u"rightKey"_s);
+    right->setAttribute(Qt::WA_StyledBackground);
     // Equal halves, whatever their texts.
     halves->addWidget(left, 1);
     halves->addWidget(right, 1);
@@ -187,14 +188,13 @@ void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
 
 QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu)
 {
+    if (entry.command == Command::Separator)
+        return new QWidget(m_softKeys);
     auto* button = new QToolButton(m_softKeys);
     button->setText(entry.Text());
     button->setFocusPolicy(Qt::TabFocus);
     button->setAutoRaise(true);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-    button->setEnabled(entry.command != Command::Separator);
-    if (entry.command == Command::Separator)
-        return button;
     if (entry.command == Command::Menu) {
         auto* popup = new QMenu(button);
         FillMenu(popup, menu);
