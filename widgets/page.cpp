@@ -115,6 +115,7 @@ void Page::BuildHeader(const QString& title)
     m_help->setText(u"?"_s);
     m_help->setAccessibleName(tr("Help"));
     m_help->setAutoRaise(true);
+    m_help->setFixedSize(CurrentMeasures().headerHeight, CurrentMeasures().headerHeight);
     m_help->hide();
     connect(m_help, &QToolButton::clicked, this, [this] { Q_EMIT HelpRequested(m_helpAnchor); });
     line->addWidget(m_help);
