@@ -1,12 +1,17 @@
 #include "app/file_dialog.h"
 
+#include "widgets/measures.h"
+
 #include <QAbstractItemView>
+#include <QComboBox>
 #include <QCompleter>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QToolButton>
 
 namespace Quillory {
 
@@ -17,6 +22,19 @@ namespace {
 /// Screens narrower than this have no room for the dialog's list of places.
 constexpr int kNarrowScreen = 500;
 
+/// Makes the controls of the toolkit's own dialog high enough for a finger.
+void FitToFingers(const QFileDialog& dialog)
+{
+    if (CurrentMeasures().lineHeight < kMinTouchTarget)
+        return;
+    for (auto* button : dialog.findChildren<QToolButton*>())
+        button->setFixedSize(kMinTouchTarget, kMinTouchTarget);
+    for (auto* field : dialog.findChildren<QLineEdit*>())
+        field->setMinimumHeight(kMinTouchTarget);
+    for (auto* field : dialog.findChildren<QComboBox*>())
+        field->setMinimumHeight(kMinTouchTarget);
+}
+
 /// Keeps the toolkit's own dialog, where the desktop brings none, on a phone's screen.
 void FitToScreen(QFileDialog& dialog)
 {
@@ -24,14 +42,18 @@ void FitToScreen(QFileDialog& dialog)
     auto* places = dialog.findChild<QWidget*>(u"sidebar"_s);
     if (places == nullptr || free.width() >= kNarrowScreen)
         return;
-    places->hide();
+    for (const auto& name : { u"sidebar"_s, u"lookInLabel"_s, u"forwardButton"_s,
+             u"listModeButton"_s, u"detailModeButton"_s }) {
+        if (auto* spare = dialog.findChild<QWidget*>(name))
+            spare->hide();
+    }
     if (auto* type = dialog.findChild<QWidget*>(u"fileTypeCombo"_s))
         type->setMinimumWidth(0);
     dialog.setWindowState(Qt::WindowMaximized);
 }
 
-/// The person's documents; their home where there is no such folder, as on many phones.
-QString StartFolder()
+/// The toolkit takes a folder that is not there for the name of a file.
+QString FirstFolder()
 {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QFileInfo(documents).isDir() ? documents : QDir::homePath();
@@ -52,7 +74,7 @@ void CloseSuggestions(QFileDialog& dialog)
 void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
     const std::function<void(const QString& path)>& then)
 {
-    auto* dialog = new QFileDialog(parent, QString(), StartFolder());
+    auto* dialog = new QFileDialog(parent, QString(), FirstFolder());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setObjectName(u"FileDialog"_s);
     dialog->setAcceptMode(use == FileUse::Read ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
@@ -71,6 +93,7 @@ void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
             parent, [then, path] { then(path); }, Qt::QueuedConnection);
     });
     FitToScreen(*dialog);
+    FitToFingers(*dialog);
     dialog->open();
 }
 

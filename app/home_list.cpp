@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QTreeView>
@@ -28,8 +29,11 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override
     {
+        // The selected line says where the keyboard is; a focus mark over it would dim its text.
+        QStyleOptionViewItem plain = option;
+        plain.state.setFlag(QStyle::State_HasFocus, false);
         // With the icon, which lines of mere text have not.
-        QStyledItemDelegate::paint(painter, option, index); // NOLINT(bugprone-parent-virtual-call)
+        QStyledItemDelegate::paint(painter, plain, index); // NOLINT(bugprone-parent-virtual-call)
         DrawHairline(*painter, option);
     }
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
@@ -55,8 +59,10 @@ HomeList::HomeList(QWidget* parent)
     : Page(QString(), parent)
     , m_model(new HomeListModel(this))
     , m_view(new QTreeView(this))
+    , m_hint(new QLabel(m_view->viewport()))
 {
     BuildView();
+    BuildHint();
     ConnectView();
     UpdateFont();
     SetSoftKeys(SoftKeysOf(MenuBar::Main), MenuEntries(MenuId::Main));
@@ -71,7 +77,6 @@ void HomeList::BuildView()
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
-    m_view->setAllColumnsShowFocus(true);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -88,6 +93,24 @@ void HomeList::BuildView()
     header->setMinimumHeight(CurrentMeasures().headerHeight);
     Body()->addWidget(m_view);
     setFocusProxy(m_view);
+}
+
+void HomeList::BuildHint()
+{
+    m_hint->setObjectName(u"hint"_s);
+    m_hint->setText(tr("No lists yet. Tap New to make one."));
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setWordWrap(true);
+    m_hint->setMargin(kPageMargin);
+    m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_hint->setForegroundRole(QPalette::Dark);
+    m_hint->hide();
+    auto* room = new QVBoxLayout(m_view->viewport());
+    room->addWidget(m_hint);
+    const auto update = [this] { m_hint->setVisible(m_model->rowCount() == 0); };
+    connect(m_model, &QAbstractItemModel::modelReset, this, update);
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, update);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, update);
 }
 
 void HomeList::ConnectView()

@@ -3,6 +3,7 @@
 #include "app/home_list_model.h"
 #include "widgets/page.h"
 
+class QLabel;
 class QTreeView;
 
 namespace Quillory {
@@ -48,9 +49,11 @@ protected:
 private:
     HomeListModel* m_model;
     QTreeView* m_view;
+    QLabel* m_hint;
     SortDirection m_direction = SortDirection::Ascending;
 
     void BuildView();
+    void BuildHint();
     void ConnectView();
     void Sort();
     void FlipDirection();

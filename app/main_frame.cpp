@@ -64,6 +64,7 @@ MainFrame::MainFrame(Settings settings, Places places, QWidget* parent)
     , m_context(ValueContext::FromEnvironment())
     , m_pages(new PageStack(this))
     , m_home(new HomeList)
+    , m_landscape(*this, m_places.turnedOutput)
 {
     if (m_settings.codePage) {
         m_context.userLocale.codePage = *m_settings.codePage;

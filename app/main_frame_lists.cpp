@@ -41,7 +41,7 @@ void MainFrame::OpenList(ObjectId oid)
     m_openList = oid;
     m_rows = std::make_unique<RowStore>(m_volume, m_list, m_context);
     if (m_settings.Options.test(kLandscapeOption))
-        m_landscape.Enter();
+        m_landscape.Enter(m_settings.ListOrientation);
     const RowsViewOptions options { m_settings.Options.test(kReadOnlyOption),
         m_settings.Options.test(kAlternateColourOption) };
     auto* view = new RowsView(*m_rows, m_list, m_context, options);

@@ -1,6 +1,7 @@
 #include "app/start_window.h"
 
 #include "app/main_frame.h"
+#include "app/output_turn.h"
 #include "app/settings.h"
 #include "app/single_instance.h"
 #include "store/kept_copies.h"
@@ -87,7 +88,10 @@ int RunFrame(SingleInstance& instance, const QString& listName, int endRequests)
     Settings settings;
     ReadSettings(SettingsPath(), settings);
     const DesktopLook look(FixedScheme(settings));
-    MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder() });
+    const QString turnedOutput
+        = instance.IsOnly() ? SingleInstance::Folder() + u"/turned-output"_s : QString();
+    OutputTurn(turnedOutput).TurnBackForEarlierRun();
+    MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder(), turnedOutput });
     instance.SetHandler(
         [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
     // The window closes as its user would close it: pages end, settings are saved.

@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace Quillory {
@@ -31,6 +32,10 @@ ColumnDefinitionPage::ColumnDefinitionPage(QWidget* parent)
     Body()->addStretch(1);
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
     connect(m_name, &QLineEdit::returnPressed, this, [this] { RequestEnd(PageResult::Ok); });
+    for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
+        auto* shortcut = new QShortcut(key, m_type, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, [this] { RequestEnd(PageResult::Ok); });
+    }
     setFocusProxy(m_name);
 }
 

@@ -3,6 +3,7 @@
 #include "listdef/column_definition_page.h"
 #include "listdef/column_table_model.h"
 #include "res/dialog_table.h"
+#include "res/string_table.h"
 #include "widgets/line_delegate.h"
 #include "widgets/line_view.h"
 #include "widgets/page_stack.h"
@@ -19,6 +20,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTypeWidth = 112;
+
+/// Lines whose names can be edited in their place.
+class ColumnDelegate : public LineDelegate
+{
+public:
+    using LineDelegate::LineDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const override
+    {
+        QWidget* editor = LineDelegate::createEditor(parent, option, index);
+        editor->setAccessibleName(LoadString(StringId::Name));
+        return editor;
+    }
+};
 
 } // namespace
 
@@ -46,7 +62,7 @@ void ColumnsPanel::BuildView()
     m_view->setObjectName(u"columns"_s);
     m_view->setAccessibleName(DialogTitle(Dialog::Columns));
     m_view->setModel(m_columns);
-    m_view->setItemDelegate(new LineDelegate(m_view));
+    m_view->setItemDelegate(new ColumnDelegate(m_view));
     DressLineView(m_view);
     m_view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_view->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Fixed);
@@ -102,6 +118,9 @@ void ColumnsPanel::UpdateCommands()
 
 void ColumnsPanel::Run(Command command)
 {
+    // Shortcuts reach it from the other panels, too.
+    if (!isVisible())
+        return;
     const int row = SelectedRow();
     switch (command) {
     case Command::Insert:

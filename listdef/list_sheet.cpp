@@ -9,6 +9,7 @@
 #include "widgets/form.h"
 #include "widgets/measures.h"
 
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -32,6 +33,9 @@ ListSheet::ListSheet(SheetMode mode, const InventoryList& list, QWidget* parent)
     setObjectName(u"listSheet"_s);
     SetHelpAnchor(QString::fromLatin1(kHelpNewList));
     SetShortcut(Command::Rename, Qt::Key_F2);
+    SetShortcut(Command::Delete, Qt::Key_Delete);
+    SetShortcut(Command::MoveUp, Qt::CTRL | Qt::Key_Up);
+    SetShortcut(Command::MoveDown, Qt::CTRL | Qt::Key_Down);
     m_tabs->setObjectName(u"tabs"_s);
     m_tabs->setExpanding(true);
     m_tabs->setDrawBase(false);
@@ -46,6 +50,8 @@ ListSheet::ListSheet(SheetMode mode, const InventoryList& list, QWidget* parent)
     }
     AddPanel(DialogTitle(Dialog::ListOptions), m_options);
     connect(m_tabs, &QTabBar::currentChanged, this, &ListSheet::ShowPanel);
+    connect(new QShortcut(QKeySequence::NextChild, this), &QShortcut::activated, this,
+        [this] { m_tabs->setCurrentIndex((m_tabs->currentIndex() + 1) % m_tabs->count()); });
     connect(m_general, &GeneralPanel::Entered, this, [this] { RequestEnd(PageResult::Ok); });
     connect(this, &Page::CommandChosen, this, [this](Command command) {
         if (command == Command::Cancel)
@@ -58,6 +64,7 @@ ListSheet::ListSheet(SheetMode mode, const InventoryList& list, QWidget* parent)
 void ListSheet::AddPanel(const QString& title, QWidget* panel)
 {
     m_tabs->addTab(title);
+    m_firstFields.push_back(panel);
     m_panels->addWidget(panel == m_columns ? panel : MakeScrollable(panel));
 }
 
@@ -78,8 +85,10 @@ void ListSheet::ShowPanel(int index)
         SetSoftKeys(SoftKeysOf(MenuBar::Columns), MenuEntries(MenuId::Columns));
     else
         SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
-    setFocusProxy(isColumns ? static_cast<QWidget*>(m_columns) : m_panels->currentWidget());
-    m_panels->currentWidget()->setFocus();
+    setFocusProxy(m_firstFields.at(static_cast<size_t>(index)));
+    // Keys that go through the tabs go on doing so.
+    if (!m_tabs->hasFocus())
+        setFocus();
 }
 
 void ListSheet::resizeEvent(QResizeEvent* event)

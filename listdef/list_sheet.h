@@ -45,6 +45,8 @@ private:
     ColumnsPanel* m_columns = nullptr;
     OptionsPanel* m_options;
     InventoryList m_before;
+    /// What takes the keyboard on each panel.
+    std::vector<QWidget*> m_firstFields;
 
     void AddPanel(const QString& title, QWidget* panel);
     void ShowPanel(int index);

@@ -28,6 +28,9 @@ private Q_SLOTS:
     void sixteenColumnsAreTheLimit();
     void menuEntriesFollowTheSelection();
     void columnsAreRenamedInPlace();
+    void keysChangeColumnsOnTheirPanelAlone();
+    void tabReachesEveryControl_data();
+    void tabReachesEveryControl();
     void theExpiryDateTakesTheKindOfTheColumnBefore();
     void theIconIsSteppedOrChosenInTheGrid();
     void warningsAreEnabledByTheirBoxes();
@@ -173,6 +176,50 @@ void ListSheetTest::columnsAreRenamedInPlace()
     QTRY_COMPARE(Names(), u"Name|Stock"_s);
     QVERIFY(!View()->model()->setData(View()->model()->index(0, 0), QString(), Qt::EditRole));
     QCOMPARE(Names(), u"Name|Stock"_s);
+}
+
+void ListSheetTest::keysChangeColumnsOnTheirPanelAlone()
+{
+    QVERIFY(QTest::qWaitForWindowActive(m_stack.get()));
+    Define(u"Price"_s, 2);
+    QCOMPARE(Names(), u"Price|Name|Quantity"_s);
+    QTest::keyClick(View(), Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(Names(), u"Name|Price|Quantity"_s);
+    QTest::keyClick(View(), Qt::Key_Tab, Qt::ControlModifier);
+    auto* box = Find<QCheckBox>(u"warnOnCount"_s);
+    QTRY_VERIFY(box->hasFocus());
+    QTest::keyClick(box, Qt::Key_Delete);
+    QTest::keyClick(box, Qt::Key_Up, Qt::ControlModifier);
+    QCOMPARE(Names(), u"Name|Price|Quantity"_s);
+    ShowTab(u"Columns"_s);
+    QTest::keyClick(View(), Qt::Key_Delete);
+    QCOMPARE(Names(), u"Name|Quantity"_s);
+}
+
+void ListSheetTest::tabReachesEveryControl_data()
+{
+    QTest::addColumn<QString>("panel");
+    QTest::addColumn<QStringList>("controls");
+    QTest::newRow("General") << u"General"_s << QStringList { u"listName"_s, u"listIcon"_s };
+    QTest::newRow("Columns") << u"Columns"_s << QStringList { u"columns"_s, u"rightKey"_s };
+    QTest::newRow("Options") << u"Options"_s << QStringList { u"warnOnCount"_s };
+}
+
+void ListSheetTest::tabReachesEveryControl()
+{
+    QFETCH(const QString, panel);
+    QFETCH(const QStringList, controls);
+    QVERIFY(QTest::qWaitForWindowActive(m_stack.get()));
+    ShowTab(panel);
+    QTRY_VERIFY(Find<QWidget>(u"leftKey"_s)->isVisible());
+    QStringList reached;
+    for (int i = 0; i < 12; ++i) {
+        QTest::keyClick(m_stack->focusWidget(), Qt::Key_Tab);
+        reached << m_stack->focusWidget()->objectName();
+    }
+    for (const QString& name :
+        controls + QStringList { u"leftKey"_s, u"help"_s, u"ok"_s, u"tabs"_s })
+        QVERIFY2(reached.contains(name), qPrintable(name + u" not in "_s + reached.join(u' ')));
 }
 
 void ListSheetTest::theExpiryDateTakesTheKindOfTheColumnBefore()

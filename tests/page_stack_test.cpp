@@ -24,6 +24,7 @@ void PageStackTest::theOpenerHearsTheResultOnce_data()
     QTest::newRow("the OK button") << 0 << 1;
     QTest::newRow("Escape") << 1 << 2;
     QTest::newRow("from outside") << 2 << 59281;
+    QTest::newRow("Return on a page without fields") << 3 << 1;
 }
 
 void PageStackTest::theOpenerHearsTheResultOnce()
@@ -42,6 +43,8 @@ void PageStackTest::theOpenerHearsTheResultOnce()
         QTest::mouseClick(page->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
     else if (how == 1)
         QTest::keyClick(page, Qt::Key_Escape);
+    else if (how == 3)
+        QTest::keyClick(stack.focusWidget(), Qt::Key_Return);
     else
         page->End(PageResult::CancelKey);
     QCOMPARE(heard, QList<int> { result });

@@ -93,8 +93,7 @@ void AppStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* optio
         DrawCheckbox(*painter, *option);
     else if (element == PE_IndicatorRadioButton)
         DrawRadio(*painter, *option);
-    // A tree has the line in focus framed, for no widget; the frame would shade the selection.
-    else if (element != PE_FrameFocusRect || widget != nullptr)
+    else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 

@@ -83,7 +83,7 @@ QWidget* MakeScrollable(QWidget* content)
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     content->setMaximumWidth(kMaxFormWidth);
     area->setWidget(content);
-    area->setFocusProxy(content);
+    area->setFocusPolicy(Qt::NoFocus);
     QScroller::grabGesture(area->viewport(), QScroller::TouchGesture);
     return area;
 }

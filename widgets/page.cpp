@@ -115,15 +115,18 @@ void Page::BuildHeader(const QString& title)
     m_help->setText(u"?"_s);
     m_help->setAccessibleName(tr("Help"));
     m_help->setAutoRaise(true);
+    m_help->setFixedSize(CurrentMeasures().headerHeight, CurrentMeasures().headerHeight);
     m_help->hide();
     connect(m_help, &QToolButton::clicked, this, [this] { Q_EMIT HelpRequested(m_helpAnchor); });
     line->addWidget(m_help);
     m_ok = new QPushButton(tr("OK"), m_header);
     m_ok->setObjectName(u"ok"_s);
     m_ok->setFont(bold);
-    m_ok->setAutoDefault(false);
+    m_ok->setAutoDefault(true);
+    m_ok->setFixedHeight(CurrentMeasures().headerHeight);
     connect(m_ok, &QPushButton::clicked, this, [this] { RequestEnd(PageResult::Ok); });
     line->addWidget(m_ok);
+    setFocusProxy(m_ok);
     m_header->setFixedHeight(CurrentMeasures().headerHeight + 1);
     m_header->setVisible(!title.isEmpty());
     layout()->addWidget(m_header);
@@ -176,6 +179,7 @@ void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
     left->setObjectName(u"leftKey"_s);
     QWidget* right = MakeSoftKey(keys.right, menu);
     right->setObjectName(u"rightKey"_s);
+    right->setAttribute(Qt::WA_StyledBackground);
     // Equal halves, whatever their texts.
     halves->addWidget(left, 1);
     halves->addWidget(right, 1);
@@ -185,14 +189,13 @@ void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
 
 QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu)
 {
+    if (entry.command == Command::Separator)
+        return new QWidget(m_softKeys);
     auto* button = new QToolButton(m_softKeys);
     button->setText(entry.Text());
     button->setFocusPolicy(Qt::TabFocus);
     button->setAutoRaise(true);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-    button->setEnabled(entry.command != Command::Separator);
-    if (entry.command == Command::Separator)
-        return button;
     if (entry.command == Command::Menu) {
         auto* popup = new QMenu(button);
         FillMenu(popup, menu);
@@ -272,6 +275,16 @@ void Page::End(PageResult result)
 void Page::RequestEnd(PageResult result)
 {
     End(result);
+}
+
+bool Page::focusNextPrevChild(bool next)
+{
+    // With its proxy the page would be a stop of its own, from which Tab passes over the header.
+    QWidget* first = focusProxy();
+    setFocusProxy(nullptr);
+    const bool isMoved = QWidget::focusNextPrevChild(next);
+    setFocusProxy(first);
+    return isMoved;
 }
 
 void Page::keyPressEvent(QKeyEvent* event)

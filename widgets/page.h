@@ -82,6 +82,7 @@ Q_SIGNALS:
 protected:
     /// The page's own content goes here, between header and soft keys.
     [[nodiscard]] QVBoxLayout* Body() const { return m_body; }
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

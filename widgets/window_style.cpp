@@ -20,6 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The line below a tab.
+constexpr int kTabRule = 3;
+
 QString StyleSheet(const QWidget& window)
 {
     LoadStyleResources();
@@ -30,7 +33,15 @@ QString StyleSheet(const QWidget& window)
     // Menu entries are as high as the lines of lists.
     const int text = window.fontMetrics().height();
     const int padding = std::max(4, (CurrentMeasures().lineHeight - text) / 2);
-    return sheet.replace(u"@menu-padding@"_s, QString::number(padding) + u"px"_s);
+    const auto set = [&sheet](const QString& name, int pixels) {
+        sheet.replace(u'@' + name + u'@', QString::number(pixels) + u"px"_s);
+    };
+    set(u"menu-padding"_s, padding);
+    // With the padding and the border of a button.
+    set(u"answer-height"_s,
+        CurrentMeasures().lineHeight >= kMinTouchTarget ? kMinTouchTarget - 14 : 24);
+    set(u"tab-height"_s, CurrentMeasures().headerHeight - kTabRule);
+    return sheet;
 }
 
 /// Works the colours of the palette into the style again whenever they change.
