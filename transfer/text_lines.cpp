@@ -25,6 +25,14 @@ qsizetype IndexOf(std::span<char16_t> units, char16_t wanted)
     return QStringView(units.data(), std::ssize(units)).indexOf(QChar(wanted));
 }
 
+/// Where this computer cannot decode a page, the text is still to be read.
+const CodePage& CodePageOrUsual(int number)
+{
+    constexpr int kUsualPage = 1252;
+    const CodePage* page = CodePage::For(number);
+    return page != nullptr ? *page : *CodePage::For(kUsualPage);
+}
+
 } // namespace
 
 ByteWindow::ByteWindow(QIODevice& source)
@@ -63,7 +71,7 @@ void ByteWindow::PadTo(qsizetype size)
 
 TextLineReader::TextLineReader(QIODevice& source, int codePage)
     : m_window(source)
-    , m_codePage(CodePage::For(codePage).value_or(*CodePage::For(1252)))
+    , m_codePage(CodePageOrUsual(codePage))
     , m_buffer(kLineCapacity)
 {
     ReadMark();

@@ -63,7 +63,7 @@ public:
 
 private:
     ByteWindow m_window;
-    CodePage m_codePage;
+    const CodePage& m_codePage;
     std::vector<char16_t> m_buffer;
     char16_t* m_line = nullptr;
     bool m_isWide = false;
