@@ -47,10 +47,12 @@ public:
     }
     qint64 Import(const QByteArray& bytes)
     {
+        constexpr size_t kBatchText = 4000;
         QBuffer source;
         source.setData(bytes);
         source.open(QIODevice::ReadOnly);
-        const ImportOutcome outcome = ImportRows(m_volume, kFuzzedColumns, *m_context, source);
+        const ImportOutcome outcome = ImportRows(
+            m_volume, kFuzzedColumns, *m_context, source, {}, { m_batchLines, kBatchText });
         Require(outcome.writeError == ErrorNumber::None, "storing");
         return outcome.rows;
     }
@@ -75,8 +77,14 @@ public:
         return plain;
     }
 
-    /// The locale by its number.
-    void SetLocale(size_t number) { m_context = &FuzzedContext(number); }
+    /// The locale by its number, and whether the lines of a small file come in several batches.
+    void SetWay(size_t locale, bool isBatchSmall)
+    {
+        constexpr size_t kFewLines = 3;
+        constexpr size_t kManyLines = 100'000;
+        m_context = &FuzzedContext(locale);
+        m_batchLines = isBatchSmall ? kFewLines : kManyLines;
+    }
 
 private:
     QTemporaryDir m_folder;
@@ -84,6 +92,7 @@ private:
     ListCatalogue m_catalogue;
     InventoryList m_list;
     const ValueContext* m_context = nullptr;
+    size_t m_batchLines = 0;
 
     Database& Rows() { return *m_volume.OpenDatabase(ListCatalogue::kRowsType); }
 };
@@ -97,14 +106,14 @@ QStringList Lines(const QByteArray& bytes)
 
 } // namespace
 
-/// The first byte chooses the locale, the second nothing here, the rest is the file.
+/// The first two bytes choose the way, the rest is the file.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     static Target target;
     constexpr size_t kHeader = 2;
     if (size < kHeader)
         return 0;
-    target.SetLocale(data[0]);
+    target.SetWay(data[0], data[1] % 8 == 0);
 
     target.Empty();
     const qint64 rows = target.Import(
