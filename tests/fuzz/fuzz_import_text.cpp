@@ -14,6 +14,15 @@ namespace {
 using Fields = std::vector<QString>;
 using Row = std::vector<PropertyValue>;
 
+/// One way to import: whose locale, which columns, and how the file comes in.
+struct Way
+{
+    const ValueContext& context;
+    std::vector<PropertyId> columns;
+    qint64 step = 0;
+    size_t maxLine = 0;
+};
+
 /// Unlike QString::fromStdU16String it takes no first character for a byte-order mark.
 QString TextOf(const std::u16string& units)
 {
@@ -24,9 +33,10 @@ QString TextOf(const std::u16string& units)
 class PlainReader
 {
 public:
-    PlainReader(QByteArray bytes, size_t maxFields, const CodePage& page)
-        : m_maxFields(maxFields)
-        , m_page(page)
+    PlainReader(QByteArray bytes, const Way& way)
+        : m_maxFields(way.columns.size())
+        , m_maxLine(way.maxLine)
+        , m_page(*CodePage::For(way.context.userLocale.codePage))
     {
         m_isWide = bytes.startsWith("\xFF\xFE");
         if (m_isWide && bytes.size() % 2 != 0)
@@ -56,24 +66,34 @@ public:
 
 private:
     size_t m_maxFields;
+    size_t m_maxLine;
+    bool m_wasCut = false;
     const CodePage& m_page;
     bool m_isWide = false;
     std::u16string m_text;
     std::u16string m_buffer = std::u16string(1024, u'\0');
 
     /// In 8-bit text a line of more than half the buffer is followed by what an earlier one left.
-    Fields FieldsOf(const std::u16string& line)
+    /// Of a line that is too long the beginning has to do, and it leaves nothing.
+    Fields FieldsOf(std::u16string line)
     {
-        if (m_isWide || line.size() >= m_buffer.size())
-            m_buffer.assign(line.size() + 1, u'\0');
+        const bool isCut = line.size() > m_maxLine;
+        line.resize(std::min(line.size(), m_maxLine));
+        if (m_isWide || m_wasCut || line.size() >= m_buffer.size())
+            m_buffer.assign(std::max(line.size() + 1, m_buffer.size()), u'\0');
+        m_wasCut = isCut;
         std::fill_n(m_buffer.begin(), m_buffer.size() / 2, u'\0');
         if (m_isWide)
             std::copy(line.begin(), line.end(), m_buffer.begin());
         else
             m_page.Decode(TextOf(line).toLatin1(), m_buffer.data());
-        return CutBuffer();
+        Fields fields = CutBuffer();
+        if (isCut && fields.size() <= m_maxFields)
+            return {};
+        fields.resize(std::min(fields.size(), m_maxFields));
+        return fields;
     }
-    /// The TAB behind each field that is looked at becomes a NUL.
+    /// One field more than are wanted, if there is one. The TAB behind each becomes a NUL.
     Fields CutBuffer()
     {
         Fields fields;
@@ -87,25 +107,17 @@ private:
             place = end + (m_buffer[end] == u'\t' ? 1 : 0);
             m_buffer[end] = u'\0';
         }
-        fields.resize(std::min(fields.size(), m_maxFields));
         return fields;
     }
-};
-
-/// One way to import: whose locale, which columns, and how the file comes in.
-struct Way
-{
-    const ValueContext& context;
-    std::vector<PropertyId> columns;
-    qint64 step = 0;
 };
 
 /// The two bytes choose among everything there is.
 Way WayOf(quint8 first, quint8 second)
 {
+    constexpr size_t kShortLine = 20;
     constexpr std::array<qint64, 8> kSteps { 1, 2, 3, 5, 16, 100, 1021, 1 << 20 };
     Way way { FuzzedContext(first), { kFuzzedColumns.begin(), kFuzzedColumns.end() },
-        kSteps.at(second % kSteps.size()) };
+        kSteps.at(second % kSteps.size()), second < 128 ? kMaxLine : kShortLine };
     const auto shift = static_cast<std::ptrdiff_t>(first / 4 % way.columns.size());
     std::rotate(way.columns.begin(), way.columns.begin() + shift, way.columns.end());
     way.columns.resize(1 + second / kSteps.size() % way.columns.size());
@@ -116,7 +128,8 @@ Way WayOf(quint8 first, quint8 second)
 std::vector<Row> Import(const QByteArray& bytes, const Way& way, std::vector<Fields>& lines)
 {
     Trickle source(bytes, way.step);
-    ImportFieldReader reader(source, way.columns.size(), way.context.userLocale.codePage);
+    ImportFieldReader reader(
+        source, way.columns.size(), way.context.userLocale.codePage, way.maxLine);
     std::vector<Row> rows;
     Row values;
     while (reader.Next()) {
@@ -155,13 +168,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     if (size < 2)
         return 0;
-    const Way way = WayOf(data[0], data[1]);
+    Way way = WayOf(data[0], data[1]);
     const QByteArray file(
         reinterpret_cast<const char*>(data + 2), static_cast<qsizetype>(size) - 2);
     std::vector<Fields> lines;
     std::vector<Row> rows = Import(file, way, lines);
-    PlainReader plain(file, way.columns.size(), *CodePage::For(way.context.userLocale.codePage));
-    Require(lines == plain.ReadAll(), "lines are cut as they should be");
+    Require(lines == PlainReader(file, way).ReadAll(), "lines are cut as they should be");
 
     static_cast<void>(Export(rows, way));
     std::erase_if(rows, [](const Row& row) { return !IsPlain(row); });
@@ -170,6 +182,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const QString text = Export(rows, way);
     const QByteArray bytes(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
     lines.clear();
+    way.maxLine = kMaxLine;
     const std::vector<Row> again = Import(bytes, way, lines);
     Require(again.size() == rows.size(), "as many rows come back");
     Require(Export(again, way) == text, "a plain row comes back as it was");
