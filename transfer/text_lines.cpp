@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace Quillory {
 
@@ -26,6 +27,13 @@ qsizetype IndexOf(std::span<char16_t> units, char16_t wanted)
     return QStringView(units.data(), std::ssize(units)).indexOf(QChar(wanted));
 }
 
+/// Pipes have no size, and some files of the system's say that they are empty.
+qint64 SizeOf(const QIODevice& source)
+{
+    const qint64 size = source.isSequential() ? 0 : source.size();
+    return size > 0 ? size : std::numeric_limits<qint64>::max();
+}
+
 /// Where this computer cannot decode a page, the text is still to be read.
 const CodePage& CodePageOrUsual(int number)
 {
@@ -38,6 +46,7 @@ const CodePage& CodePageOrUsual(int number)
 
 ByteWindow::ByteWindow(QIODevice& source)
     : m_source(source)
+    , m_size(SizeOf(source))
     , m_bytes(kReadSize, Qt::Uninitialized)
 { }
 
@@ -53,7 +62,8 @@ bool ByteWindow::Fill()
         std::memmove(m_bytes.data(), m_bytes.data() + m_begin, static_cast<size_t>(size));
     m_begin = 0;
     m_end = size;
-    const qint64 got = m_source.read(m_bytes.data() + m_end, m_bytes.size() - m_end);
+    const qint64 wanted = std::min<qint64>(m_bytes.size() - m_end, m_size - m_bytesRead);
+    const qint64 got = m_source.read(m_bytes.data() + m_end, wanted);
     m_hasFailed = m_hasFailed || got < 0;
     if (got <= 0)
         return false;

@@ -13,7 +13,8 @@ namespace Quillory {
 /// Characters of a line that are held: more than a row has that was typed in the row editor.
 constexpr size_t kMaxLine = 1'048'576;
 
-/// The bytes of a device, read as they are needed.
+/// The bytes of a device, read as they are needed. What is added to a file while it is read is left
+/// out: who adds faster would keep the reader for ever.
 class ByteWindow
 {
 public:
@@ -35,6 +36,8 @@ public:
 
 private:
     QIODevice& m_source;
+    /// What there is to read.
+    qint64 m_size;
     QByteArray m_bytes;
     qsizetype m_begin = 0;
     qsizetype m_end = 0;
