@@ -5,6 +5,10 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
+# The target `autogen` makes what moc makes, without waiting for any library: clang-tidy needs that
+# and nothing else of a build.
+set(CMAKE_GLOBAL_AUTOGEN_TARGET ON)
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
 
 add_library(quillory_options INTERFACE)
 target_include_directories(quillory_options INTERFACE ${PROJECT_SOURCE_DIR})

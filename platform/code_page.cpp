@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <map>
 #include <span>
 
 namespace Quillory {
@@ -137,7 +138,16 @@ std::vector<char16_t> PairsOf(const PageRow& page)
 
 } // namespace
 
-std::optional<CodePage> CodePage::For(int number)
+const CodePage* CodePage::For(int number)
+{
+    static std::map<int, std::optional<CodePage>> made;
+    auto found = made.find(number);
+    if (found == made.end())
+        found = made.emplace(number, Make(number)).first;
+    return found->second ? &*found->second : nullptr;
+}
+
+std::optional<CodePage> CodePage::Make(int number)
 {
     const auto row = std::find_if(kPages.begin(), kPages.end(),
         [number](const PageRow& page) { return page.number == number; });

@@ -13,14 +13,14 @@ namespace Quillory {
 /// character become the control or private-use character of the platform's tables, broken pairs of
 /// bytes the page's default character; nothing fails.
 ///
-/// Making one takes a tenth of a millisecond, for a page of pairs (932, 936, 949, 950) one or two:
-/// keep it for a whole file.
+/// Each is made when it is first asked for and kept: that takes a tenth of a millisecond, for a
+/// page of pairs (932, 936, 949, 950) one or two.
 class CodePage
 {
 public:
-    /// Nothing if the number is none of 874, 932, 936, 949, 950 and 1250 to 1258, or if this
+    /// Null if the number is none of 874, 932, 936, 949, 950 and 1250 to 1258, or if this
     /// computer's Qt cannot decode it.
-    [[nodiscard]] static std::optional<CodePage> For(int number);
+    [[nodiscard]] static const CodePage* For(int number);
 
     /// Writes the text of `bytes` to `target`, which has room for as many units as there are bytes,
     /// and returns how many units it is. A pair cut at the end gives the default character.
@@ -29,6 +29,8 @@ public:
 
 private:
     CodePage() = default;
+
+    [[nodiscard]] static std::optional<CodePage> Make(int number);
 
     /// By byte; the first of a pair has a mark of its own.
     std::array<char16_t, 256> m_units {};

@@ -1,4 +1,5 @@
 #include "tests/list_fixture.h"
+#include "tests/trickle.h"
 #include "transfer/import_rows.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
@@ -23,38 +24,11 @@ QByteArray Wide(QStringView text)
     return bytes.append(reinterpret_cast<const char*>(text.utf16()), text.size() * qsizetype { 2 });
 }
 
-/// Gives out its bytes a few at a time and knows no size, as a slow pipe does.
-class Trickle : public QIODevice
-{
-public:
-    Trickle(QByteArray bytes, qint64 step)
-        : m_bytes(std::move(bytes))
-        , m_step(step)
-    {
-        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    }
-    [[nodiscard]] bool isSequential() const override { return true; }
-
-protected:
-    qint64 readData(char* target, qint64 size) override
-    {
-        const qint64 count = std::min({ size, m_step, m_bytes.size() });
-        std::copy_n(m_bytes.constData(), count, target);
-        m_bytes.remove(0, count);
-        return count;
-    }
-    qint64 writeData(const char*, qint64) override { return -1; }
-
-private:
-    QByteArray m_bytes;
-    qint64 m_step;
-};
-
 /// Rows by line feeds, values by blanks, as "column=text"; "failed" at the end of a failed file.
-QString RowsOf(QIODevice& source, const std::vector<PropertyId>& columns,
-    const ValueContext& context = TestContext())
+QString RowsOf(QIODevice& source, const std::vector<PropertyId>& columns, size_t maxLine = kMaxLine)
 {
-    ImportFieldReader reader(source, columns.size(), context.userLocale.codePage);
+    const ValueContext context = TestContext();
+    ImportFieldReader reader(source, columns.size(), context.userLocale.codePage, maxLine);
     std::vector<PropertyValue> row;
     QStringList rows;
     while (reader.Next()) {
@@ -74,10 +48,11 @@ QString RowsOf(QIODevice& source, const std::vector<PropertyId>& columns,
     return rows.join(u'\n');
 }
 
-QString RowsOf(QByteArray bytes, const std::vector<PropertyId>& columns = { kText, kCount })
+QString RowsOf(QByteArray bytes, const std::vector<PropertyId>& columns = { kText, kCount },
+    size_t maxLine = kMaxLine)
 {
     Trickle source(std::move(bytes), 1'000'000);
-    return RowsOf(source, columns);
+    return RowsOf(source, columns, maxLine);
 }
 
 ImportOutcome Import(ListFixture& file, const QByteArray& bytes, const ImportMonitor& monitor = {},
@@ -105,7 +80,10 @@ private Q_SLOTS:
     void aLongNarrowLineIsFollowedByWhatAnEarlierOneLeft();
     void piecesOfAnySizeGiveTheSameRows_data();
     void piecesOfAnySizeGiveTheSameRows();
+    void aLineTooLongIsPassedOverAndTold_data();
+    void aLineTooLongIsPassedOverAndTold();
     void exportedRowsComeBack();
+    void longNamesAreSortedAcrossBatches();
     void rowsAreAddedInBatches();
     void cancellingKeepsTheRowsSoFar();
     void anUnreadableFileKeepsTheRowsBefore();
@@ -177,6 +155,10 @@ void TextImportTest::aLongNarrowLineIsFollowedByWhatAnEarlierOneLeft()
             { kText }),
         u"0=%1\n0=%2\n0=%3"_s.arg(
             QString(700, u'a'), QString(1024, u'e'), QString(600, u'f') + QString(424, u'e')));
+    // What was cut leaves nothing.
+    QCOMPARE(
+        RowsOf(QByteArray(3000, 'g') + "\r\n" + QByteArray(1100, 'h') + "\r\n", { kText }, 2000),
+        QString(1100, u'h').prepend(u"0="_s) + u"\nfailed"_s);
     // Wide text is always clean.
     QCOMPARE(RowsOf(Wide(QString(900, u'a') + u"\r\n"_s + QString(600, u'b') + u"\r\n"_s)),
         u"0=%1\n0=%2"_s.arg(QString(900, u'a'), QString(600, u'b')));
@@ -200,6 +182,31 @@ void TextImportTest::piecesOfAnySizeGiveTheSameRows()
     Trickle source(bytes, step);
     QCOMPARE(RowsOf(source, { kText, kCount }),
         u"0=one 1=1\n0=two 1=2\n0=%1 1=3"_s.arg(QString(3000, u'x')));
+}
+
+void TextImportTest::aLineTooLongIsPassedOverAndTold_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("rows");
+    const auto both = [](const char* name, const QString& line, const QString& row) {
+        const QString text = u"a\t1\r\n%1\r\nb\t2\r\n"_s.arg(line);
+        const QString rows
+            = row.isEmpty() ? u"0=a 1=1\n0=b 1=2\nfailed"_s : u"0=a 1=1\n%1\n0=b 1=2"_s.arg(row);
+        QTest::addRow("%s in 8-bit text", name) << text.toLatin1() << rows;
+        QTest::addRow("%s in wide text", name) << Wide(text) << rows;
+    };
+    both("ten characters", u"ab\t1234567"_s, u"0=ab 1=1234567"_s);
+    both("a field behind the wanted ones is cut", u"ab\t12345\tmore"_s, u"0=ab 1=12345"_s);
+    both("the last wanted field ends at the cut", u"ab\t1234567\tmore"_s, {});
+    both("the last wanted field goes on", u"ab\t12345678"_s, {});
+    both("a field is missing", u"abcdefghijk"_s, {});
+    both("nothing but TABs", QString(20, u'\t'), {});
+}
+
+void TextImportTest::aLineTooLongIsPassedOverAndTold()
+{
+    QFETCH(QByteArray, bytes);
+    QTEST(RowsOf(bytes, { kText, kCount }, 10), "rows");
 }
 
 void TextImportTest::exportedRowsComeBack()
@@ -249,6 +256,28 @@ void TextImportTest::rowsAreAddedInBatches()
     for (int count = 0; count < 7000; count += 100)
         counts << QString::number(count);
     QCOMPARE(file.Cells(zeros, 1), counts.join(u' '));
+}
+
+void TextImportTest::longNamesAreSortedAcrossBatches()
+{
+    // Names and lines around the size of what is held of a batch in the temporary file.
+    ListFixture file;
+    file.MakeFullList(u"L"_s);
+    QStringList names;
+    QString text;
+    for (int i = 0; i < 60; ++i) {
+        names << QString(i % 3 * 16'370 + i % 7, u'n') + QString::number(i * 37 % 60);
+        text += QString(1 + i % 2 * 20'000, u's') + u'\t' + names.back() + u"\r\n"_s;
+    }
+    Trickle source(Wide(text), 100'000);
+    const ImportOutcome outcome = ImportRows(*file.data,
+        std::vector { file.Column(Shelf), PropName }, file.context, source, {}, { 4, 10'000'000 });
+    QVERIFY(outcome.result == ImportResult::Done);
+    names.sort();
+    const auto rows = file.rows->FillRows();
+    QCOMPARE(file.Cells(rows), names.join(u' '));
+    // They were stored in that order.
+    QVERIFY(std::is_sorted(rows.begin(), rows.end()));
 }
 
 void TextImportTest::cancellingKeepsTheRowsSoFar()

@@ -30,7 +30,7 @@ size_t ImportBatch::NameFieldOf(std::span<const PropertyId> columns)
 void ImportBatch::Add(std::span<const QStringView> fields)
 {
     // Memory that is reserved and not used costs nothing; memory that moves costs twice.
-    m_text.reserve(m_limits.text);
+    m_text.reserve(m_limits.text + m_limits.line);
     Line line;
     line.begin = static_cast<quint32>(m_text.size());
     for (size_t i = 0; i < fields.size(); ++i) {
@@ -106,8 +106,8 @@ void ImportBatch::Visit(const Visitor& visit)
 
 void ImportBatch::Clear()
 {
-    m_lines.clear();
-    m_text.clear();
+    m_lines = std::vector<Line>();
+    m_text = std::vector<char16_t>();
 }
 
 } // namespace Quillory

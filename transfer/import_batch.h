@@ -1,6 +1,7 @@
 #pragma once
 
 #include "propdb/property_value.h"
+#include "transfer/text_lines.h"
 
 #include <QStringView>
 
@@ -17,6 +18,8 @@ struct ImportBatchLimits
     size_t lines = 200'000;
     /// Characters; two bytes of memory each.
     size_t text = 7'000'000;
+    /// Characters of a single line; a longer one is passed over.
+    size_t line = kMaxLine;
 };
 
 /// Lines of an import, sorted by the row name that they give.
@@ -36,6 +39,7 @@ public:
     using Visitor = std::function<bool(std::span<const QStringView> fields)>;
     /// Calls back with the fields of each line, by name, until it is told false.
     void Visit(const Visitor& visit);
+    /// Forgets all lines and gives their memory back.
     void Clear();
 
     /// The field that fills the column of row names; beyond all fields if none does.

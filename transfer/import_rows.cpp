@@ -39,8 +39,9 @@ private:
 
 } // namespace
 
-ImportFieldReader::ImportFieldReader(QIODevice& source, size_t maxFields, int codePage)
-    : m_lines(source, codePage)
+ImportFieldReader::ImportFieldReader(
+    QIODevice& source, size_t maxFields, int codePage, size_t maxLine)
+    : m_lines(source, codePage, maxLine)
     , m_maxFields(maxFields)
 {
     m_fields.reserve(maxFields);
@@ -54,7 +55,10 @@ bool ImportFieldReader::Next()
         QStringView field = fields.Take();
         for (; !field.isNull() && m_fields.size() < m_maxFields; field = fields.Take())
             m_fields.push_back(field);
-        if (!m_fields.empty())
+        // Without one behind it the last field may go on beyond the cut.
+        const bool isLost = m_lines.IsCut() && field.isNull();
+        m_isLineLost = m_isLineLost || isLost;
+        if (!isLost && !m_fields.empty())
             return true;
     }
     return false;

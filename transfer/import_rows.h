@@ -17,21 +17,24 @@ namespace Quillory {
 class ImportFieldReader
 {
 public:
-    /// Fields beyond `maxFields` are dropped.
-    ImportFieldReader(QIODevice& source, size_t maxFields, int codePage);
+    /// Fields beyond `maxFields` are dropped. A line that does not hold that many in its first
+    /// `maxLine` characters, and is longer, is passed over.
+    ImportFieldReader(QIODevice& source, size_t maxFields, int codePage, size_t maxLine = kMaxLine);
 
     /// Goes to the next line that has a field. False at the end and on failure.
     bool Next();
     /// The fields of the current line. Valid until the next call.
     [[nodiscard]] std::span<const QStringView> Fields() const { return m_fields; }
 
-    [[nodiscard]] bool HasFailed() const { return m_lines.HasFailed(); }
+    /// The file could not be read, had nothing behind its mark, or a line was passed over.
+    [[nodiscard]] bool HasFailed() const { return m_isLineLost || m_lines.HasFailed(); }
     [[nodiscard]] qint64 BytesRead() const { return m_lines.BytesRead(); }
 
 private:
     TextLineReader m_lines;
     size_t m_maxFields;
     std::vector<QStringView> m_fields;
+    bool m_isLineLost = false;
 };
 
 /// Puts the values that the fields give into `values`, field i for column i. A date that cannot be

@@ -3,6 +3,8 @@
 #include "transfer/list_file.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 
 namespace Quillory {
 
@@ -16,74 +18,135 @@ qint64 BytesOf(size_t units)
     return static_cast<qint64>(units) * qint64 { sizeof(char16_t) };
 }
 
+/// Stands before the text of each line of a run.
+struct LineHead
+{
+    /// Characters of the line with its NUL, and among them those of the name.
+    quint32 length = 0;
+    quint32 nameBegin = 0;
+    quint32 nameLength = 0;
+};
+constexpr size_t kHeadUnits = sizeof(LineHead) / sizeof(char16_t);
+using HeadUnits = std::array<char16_t, kHeadUnits>;
+
+LineHead HeadOf(std::span<const QStringView> fields, size_t nameField)
+{
+    LineHead head;
+    for (size_t i = 0; i < fields.size(); ++i) {
+        const auto size = static_cast<quint32>(fields[i].size());
+        if (i == nameField) {
+            head.nameBegin = head.length;
+            head.nameLength = size;
+        }
+        head.length += size + 1;
+    }
+    return head;
+}
+
 } // namespace
 
-/// The lines of one run, one after another.
+/// The lines of one run, one after another. Holds some kilobytes, however long they are.
 class ImportRuns::Reader
 {
 public:
-    Reader(QFile& file, const Run& run, size_t nameField)
+    Reader(QFile& file, const Run& run)
         : m_file(file)
-        , m_run(run)
-        , m_nameField(nameField)
+        , m_end(run.end)
+        , m_next(run.begin)
     { }
 
     /// Goes to the next line; false at the end and on failure.
     [[nodiscard]] bool Next()
     {
-        size_t searched = 0;
-        for (;;) {
-            const auto from = m_units.begin() + static_cast<std::ptrdiff_t>(m_place + searched);
-            const auto end = std::find(from, m_units.end(), u'\0');
-            if (end != m_units.end()) {
-                ImportBatch::CutLine(m_units.data() + m_place, m_fields);
-                m_place = static_cast<size_t>(end - m_units.begin()) + 1;
-                return true;
-            }
-            searched = m_units.size() - m_place;
-            if (!Fill())
-                return false;
-        }
+        m_whole = std::vector<char16_t>();
+        const char16_t* const head = m_next == m_end ? nullptr : Hold(m_next, kHeadUnits);
+        if (head == nullptr)
+            return false;
+        HeadUnits units {};
+        std::copy_n(head, units.size(), units.begin());
+        m_head = std::bit_cast<LineHead>(units);
+        m_line = m_next + BytesOf(kHeadUnits);
+        m_next = m_line + BytesOf(m_head.length);
+        // Of a line that is too long to be held, the name or its beginning is.
+        m_heldBegin = IsHeld() ? 0 : m_head.nameBegin;
+        m_held = Hold(m_line + BytesOf(m_heldBegin), IsHeld() ? m_head.length : HeldNameLength());
+        return m_held != nullptr;
     }
-    [[nodiscard]] std::span<const QStringView> Fields() const { return m_fields; }
+    /// The fields of the current line, for as long as it is that; none on failure.
+    [[nodiscard]] std::span<const QStringView> Fields()
+    {
+        m_fields.clear();
+        if (!IsHeld())
+            m_whole = Read(m_line, m_head.length);
+        if (IsHeld() || !m_whole.empty())
+            ImportBatch::CutLine(IsHeld() ? m_held : m_whole.data(), m_fields);
+        return m_fields;
+    }
     [[nodiscard]] bool HasFailed() const { return m_hasFailed; }
-    /// Null where the line has none.
-    [[nodiscard]] QStringView Name() const
+    [[nodiscard]] bool StandsBefore(Reader& other)
     {
-        return m_nameField < m_fields.size() ? m_fields[m_nameField] : QStringView();
-    }
-    [[nodiscard]] bool StandsBefore(const Reader& other) const
-    {
-        const QStringView a = Name();
-        const QStringView b = other.Name();
         // A line without a name comes last, as its row does.
-        const int order
-            = a.isNull() || b.isNull() ? int { a.isNull() } - int { b.isNull() } : a.compare(b);
-        return order != 0 ? order < 0 : m_run.end < other.m_run.end;
+        if ((m_head.nameLength == 0) != (other.m_head.nameLength == 0))
+            return other.m_head.nameLength == 0;
+        int order = HeldName().compare(other.HeldName());
+        if (order == 0
+            && (m_head.nameLength > kBufferUnits || other.m_head.nameLength > kBufferUnits))
+            order = WholeName().compare(other.WholeName());
+        return order != 0 ? order < 0 : m_end < other.m_end;
     }
 
 private:
     QFile& m_file;
-    Run m_run;
-    size_t m_nameField;
-    std::vector<char16_t> m_units;
-    size_t m_place = 0;
+    qint64 m_end;
+    qint64 m_next;
+    LineHead m_head;
+    /// Where the current line's text stands in the file, and how much of it precedes m_held.
+    qint64 m_line = 0;
+    size_t m_heldBegin = 0;
+    const char16_t* m_held = nullptr;
+    std::vector<char16_t> m_buffer;
+    qint64 m_bufferBegin = 0;
+    std::vector<char16_t> m_whole;
     std::vector<QStringView> m_fields;
     bool m_hasFailed = false;
 
-    bool Fill()
+    [[nodiscard]] bool IsHeld() const { return m_head.length <= kBufferUnits; }
+    [[nodiscard]] size_t HeldNameLength() const
     {
-        m_units.erase(m_units.begin(), m_units.begin() + static_cast<std::ptrdiff_t>(m_place));
-        m_place = 0;
-        const size_t kept = m_units.size();
-        const qint64 wanted = std::min(BytesOf(kBufferUnits), m_run.end - m_run.begin);
-        if (wanted == 0)
-            return false;
-        m_units.resize(kept + static_cast<size_t>(wanted) / sizeof(char16_t));
-        m_hasFailed = !m_file.seek(m_run.begin)
-            || m_file.read(reinterpret_cast<char*>(m_units.data() + kept), wanted) != wanted;
-        m_run.begin += wanted;
-        return !m_hasFailed;
+        return std::min<size_t>(m_head.nameLength, kBufferUnits);
+    }
+    [[nodiscard]] QStringView HeldName() const
+    {
+        return { m_held + (m_head.nameBegin - m_heldBegin),
+            static_cast<qsizetype>(HeldNameLength()) };
+    }
+    [[nodiscard]] QString WholeName()
+    {
+        const auto units = Read(m_line + BytesOf(m_head.nameBegin), m_head.nameLength);
+        return QStringView(units.data(), std::ssize(units)).toString();
+    }
+
+    /// So many characters, at most kBufferUnits, from a place of the file on; null on failure.
+    const char16_t* Hold(qint64 place, size_t count)
+    {
+        const qint64 bufferEnd = m_bufferBegin + BytesOf(m_buffer.size());
+        if (place < m_bufferBegin || place + BytesOf(count) > bufferEnd || m_buffer.empty()) {
+            const qint64 size = std::min(BytesOf(kBufferUnits), m_end - place);
+            m_buffer = Read(place, static_cast<size_t>(size) / sizeof(char16_t));
+            m_bufferBegin = place;
+        }
+        if (m_buffer.empty())
+            return nullptr;
+        return m_buffer.data() + static_cast<size_t>(place - m_bufferBegin) / sizeof(char16_t);
+    }
+    /// Empty on failure.
+    [[nodiscard]] std::vector<char16_t> Read(qint64 place, size_t count)
+    {
+        std::vector<char16_t> units(count);
+        const qint64 size = BytesOf(count);
+        m_hasFailed = m_hasFailed || !m_file.seek(place)
+            || m_file.read(reinterpret_cast<char*>(units.data()), size) != size;
+        return m_hasFailed ? std::vector<char16_t>() : units;
     }
 };
 
@@ -117,6 +180,8 @@ bool ImportRuns::Write(ImportBatch& batch)
         return isWritten;
     };
     batch.Visit([&](std::span<const QStringView> fields) {
+        const auto head = std::bit_cast<HeadUnits>(HeadOf(fields, m_nameField));
+        units.insert(units.end(), head.begin(), head.end());
         for (size_t i = 0; i < fields.size(); ++i) {
             units.insert(units.end(), fields[i].utf16(), fields[i].utf16() + fields[i].size());
             units.push_back(i + 1 < fields.size() ? kFieldSeparator : u'\0');
@@ -141,12 +206,14 @@ bool ImportRuns::Drain(const ImportBatch::Visitor& visit)
         std::ranges::push_heap(readers, isLater);
     };
     for (const Run& run : m_runs)
-        enter(std::make_unique<Reader>(*m_file, run, m_nameField));
+        enter(std::make_unique<Reader>(*m_file, run));
     while (isWhole && !readers.empty()) {
         std::ranges::pop_heap(readers, isLater);
         auto reader = std::move(readers.back());
         readers.pop_back();
-        if (!visit(reader->Fields()))
+        const auto fields = reader->Fields();
+        isWhole = !reader->HasFailed();
+        if (!isWhole || !visit(fields))
             break;
         enter(std::move(reader));
     }

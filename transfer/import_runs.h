@@ -10,7 +10,8 @@ namespace Quillory {
 
 /// Batches of a large import that are put aside, each sorted, in a temporary file, and come back as
 /// one sequence sorted by row name. So the name index of the list is walked once for the whole
-/// file. Rows of one name keep the file's order. Needs some kilobytes of memory a batch.
+/// file. Rows of one name keep the file's order. Needs some kilobytes of memory a batch, whatever
+/// the length of the lines.
 class ImportRuns
 {
 public:

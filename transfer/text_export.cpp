@@ -1,14 +1,12 @@
 #include "transfer/text_export.h"
 
-#include "transfer/list_file.h"
+#include "transfer/export_lines.h"
 
 #include <QtEndian>
 
 #include <vector>
 
 namespace Quillory {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -70,60 +68,6 @@ private:
     }
 };
 
-/// Appends the lines of one list's rows.
-class LineBuilder
-{
-public:
-    LineBuilder(const InventoryList& list, const ValueContext& context)
-        : m_context(context)
-        , m_valueLimit(list.columnOrder.size())
-        , m_isThere(list.columns.size())
-    {
-        for (const quint32 index : list.columnOrder) {
-            if (index < list.columns.size())
-                m_fields.push_back(index);
-        }
-    }
-
-    /// `values` has one entry per column of the list, in their order.
-    void AppendLine(QString& text, std::span<const PropertyValue> values)
-    {
-        FindValues(values);
-        qsizetype start = text.size();
-        qsizetype length = 0;
-        for (size_t i = 0; i < m_fields.size(); ++i) {
-            if (i > 0)
-                text.append(QChar(kFieldSeparator));
-            const size_t column = m_fields[i];
-            const qsizetype next = text.size();
-            if (m_isThere[column] != 0)
-                AppendExportText(text, values[column], m_context);
-            else
-                text.append(text.mid(start, length));
-            start = next;
-            length = text.size() - next;
-        }
-        text.append(u"\r\n"_s);
-    }
-
-private:
-    const ValueContext& m_context;
-    std::vector<size_t> m_fields;
-    size_t m_valueLimit;
-    std::vector<quint8> m_isThere;
-
-    /// A row's record holds what the row has and nothing else; what stands in it beyond the limit
-    /// counts as missing.
-    void FindValues(std::span<const PropertyValue> values)
-    {
-        size_t present = 0;
-        for (size_t i = 0; i < values.size(); ++i) {
-            m_isThere[i] = !values[i].IsMissing() && present < m_valueLimit ? 1 : 0;
-            present += values[i].IsMissing() ? 0 : 1;
-        }
-    }
-};
-
 } // namespace
 
 ExportOutcome ExportRows(Database& rows, const InventoryList& list, const ValueContext& context,
@@ -135,7 +79,7 @@ ExportOutcome ExportRows(Database& rows, const InventoryList& list, const ValueC
         ids.push_back(column.id);
     ExportOutcome outcome;
     ChunkWriter writer(target);
-    LineBuilder builder(list, context);
+    ExportLineBuilder builder(list, context);
     qint64 count = 0;
     const auto scanned
         = rows.Scan(ids, ScanOrder::Sorted, [&](ObjectId, std::span<const PropertyValue> values) {

@@ -107,7 +107,7 @@ public:
     Import(DataVolume& volume, std::span<const PropertyId> columns, const ValueContext& context,
         QIODevice& source, const ImportMonitor& monitor, const ImportBatchLimits& limits)
         : m_monitor(monitor)
-        , m_reader(source, columns.size(), context.userLocale.codePage)
+        , m_reader(source, columns.size(), context.userLocale.codePage, limits.line)
         , m_batch(columns, limits)
         , m_runs(columns)
         , m_writer(volume, columns, context, limits.lines)

@@ -14,7 +14,8 @@ namespace Quillory {
 enum class ImportResult
 {
     Done,
-    /// The file could not be read to its end, or has nothing behind its byte-order mark.
+    /// The file could not be read to its end, or has nothing behind its byte-order mark, or a line
+    /// was longer than the import takes. The other lines are in.
     Failed,
     Cancelled,
 };

@@ -5,13 +5,15 @@
 #include <QStringView>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace Quillory {
 
 namespace {
 
-constexpr qsizetype kReadSize = 131'072;
+constexpr qsizetype kReadSize = 65'536;
 /// Characters of the buffer for 8-bit lines; it grows with the longest line.
 constexpr size_t kLineCapacity = 1024;
 
@@ -25,10 +27,26 @@ qsizetype IndexOf(std::span<char16_t> units, char16_t wanted)
     return QStringView(units.data(), std::ssize(units)).indexOf(QChar(wanted));
 }
 
+/// Pipes have no size, and some files of the system's say that they are empty.
+qint64 SizeOf(const QIODevice& source)
+{
+    const qint64 size = source.isSequential() ? 0 : source.size();
+    return size > 0 ? size : std::numeric_limits<qint64>::max();
+}
+
+/// Where this computer cannot decode a page, the text is still to be read.
+const CodePage& CodePageOrUsual(int number)
+{
+    constexpr int kUsualPage = 1252;
+    const CodePage* page = CodePage::For(number);
+    return page != nullptr ? *page : *CodePage::For(kUsualPage);
+}
+
 } // namespace
 
 ByteWindow::ByteWindow(QIODevice& source)
     : m_source(source)
+    , m_size(SizeOf(source))
     , m_bytes(kReadSize, Qt::Uninitialized)
 { }
 
@@ -44,9 +62,8 @@ bool ByteWindow::Fill()
         std::memmove(m_bytes.data(), m_bytes.data() + m_begin, static_cast<size_t>(size));
     m_begin = 0;
     m_end = size;
-    if (m_end > m_bytes.size() / 2)
-        m_bytes.resize(2 * m_bytes.size());
-    const qint64 got = m_source.read(m_bytes.data() + m_end, m_bytes.size() - m_end);
+    const qint64 wanted = std::min<qint64>(m_bytes.size() - m_end, m_size - m_bytesRead);
+    const qint64 got = m_source.read(m_bytes.data() + m_end, wanted);
     m_hasFailed = m_hasFailed || got < 0;
     if (got <= 0)
         return false;
@@ -61,9 +78,10 @@ void ByteWindow::PadTo(qsizetype size)
         m_bytes.data()[m_end++] = '\0';
 }
 
-TextLineReader::TextLineReader(QIODevice& source, int codePage)
+TextLineReader::TextLineReader(QIODevice& source, int codePage, size_t maxLine)
     : m_window(source)
-    , m_codePage(CodePage::For(codePage).value_or(*CodePage::For(1252)))
+    , m_codePage(CodePageOrUsual(codePage))
+    , m_maxLine(maxLine)
     , m_buffer(kLineCapacity)
 {
     ReadMark();
@@ -91,31 +109,35 @@ template <typename Unit> std::span<Unit> TextLineReader::UnitsAtHand()
     return { reinterpret_cast<Unit*>(bytes.data()), bytes.size() / sizeof(Unit) };
 }
 
-template <typename Unit> std::optional<std::span<Unit>> TextLineReader::NextUnits()
+template <typename Unit> void TextLineReader::Hold(std::span<Unit> units)
 {
-    size_t searched = 0;
-    bool isMore = true;
-    for (;;) {
+    const size_t held = static_cast<size_t>(m_held.size()) / sizeof(Unit);
+    const auto taken = units.first(std::min(units.size(), m_maxLine - held));
+    m_isCut = m_isCut || taken.size() < units.size();
+    m_held.append(reinterpret_cast<const char*>(taken.data()), std::ssize(std::as_bytes(taken)));
+}
+
+/// Holds the next line, an empty one too. False at the end of the text and on failure.
+template <typename Unit> bool TextLineReader::HoldNext()
+{
+    m_held.resize(0);
+    m_isCut = false;
+    for (bool isMore = true;;) {
         auto units = UnitsAtHand<Unit>();
         if (m_isSkipping && !units.empty()) {
             m_window.Drop(sizeof(Unit));
             m_isSkipping = false;
             units = UnitsAtHand<Unit>();
         }
-        const auto fresh = units.subspan(searched);
-        const qsizetype end = IndexOf(fresh, kLineEnd);
-        const auto part = end < 0 ? fresh : fresh.first(static_cast<size_t>(end));
+        const qsizetype end = IndexOf(units, kLineEnd);
+        const auto part = end < 0 ? units : units.first(static_cast<size_t>(end));
         if (IndexOf(part, u'\0') >= 0)
-            return std::nullopt;
-        if (end >= 0) {
-            const size_t length = searched + part.size();
-            m_window.Drop(std::ssize(std::as_bytes(units.first(length + 1))));
-            m_isSkipping = true;
-            return units.first(length);
-        }
-        if (!isMore)
-            return std::nullopt;
-        searched = units.size();
+            return false;
+        Hold(part);
+        m_isSkipping = m_isSkipping || end >= 0;
+        m_window.Drop(std::ssize(std::as_bytes(units.first(part.size() + (end < 0 ? 0 : 1)))));
+        if (end >= 0 || !isMore)
+            return end >= 0;
         isMore = m_window.Fill();
         if (!isMore)
             m_window.PadTo(sizeof(Unit));
@@ -131,32 +153,32 @@ bool TextLineReader::Next()
 
 bool TextLineReader::NextWide()
 {
-    for (auto units = NextUnits<char16_t>(); units; units = NextUnits<char16_t>()) {
-        if (units->empty())
-            continue;
-        qFromLittleEndian<quint16>(units->data(), std::ssize(*units), units->data());
-        m_line = units->data();
-        // In the place of the CR.
-        m_line[units->size()] = u'\0';
-        return true;
-    }
-    return false;
+    do {
+        if (!HoldNext<char16_t>())
+            return false;
+    } while (m_held.isEmpty());
+    const qsizetype length = m_held.size() / qsizetype { sizeof(char16_t) };
+    m_held.append(qsizetype { sizeof(char16_t) }, '\0');
+    m_line = reinterpret_cast<char16_t*>(m_held.data());
+    qFromLittleEndian<quint16>(m_line, length, m_line);
+    return true;
 }
 
 bool TextLineReader::NextNarrow()
 {
-    for (auto bytes = NextUnits<char>(); bytes; bytes = NextUnits<char>()) {
-        if (bytes->size() >= m_buffer.size())
-            m_buffer.assign(bytes->size() + 1, u'\0');
+    do {
+        const bool wasCut = m_isCut;
+        if (!HoldNext<char>())
+            return false;
+        const auto size = static_cast<size_t>(m_held.size());
+        if (wasCut || size >= m_buffer.size())
+            m_buffer.assign(std::max(size + 1, m_buffer.size()), u'\0');
         // As many bytes as the buffer has characters: its first half.
         std::memset(m_buffer.data(), 0, m_buffer.size());
-        if (bytes->empty())
-            continue;
-        m_codePage.Decode(QByteArrayView(bytes->data(), std::ssize(*bytes)), m_buffer.data());
-        m_line = m_buffer.data();
-        return true;
-    }
-    return false;
+    } while (m_held.isEmpty());
+    m_codePage.Decode(m_held, m_buffer.data());
+    m_line = m_buffer.data();
+    return true;
 }
 
 } // namespace Quillory

@@ -16,13 +16,17 @@ SampleFile MakeSampleFile(const FaultRun& run, quint32 seed)
     return { stages.back().at("data.idb"), script.After(script.steps.size()) };
 }
 
+void SealBytes(char* page, quint32 number)
+{
+    XXH64_canonical_t checksum;
+    XXH64_canonicalFromHash(
+        &checksum, XXH3_64bits_withSeed(page, kPageSize - kPageReserve, number));
+    std::memcpy(page + kPageSize - kPageReserve, &checksum, sizeof(checksum));
+}
+
 void SealPage(QByteArray& file, qsizetype page)
 {
-    char* const bytes = file.data() + page * kPageSize;
-    XXH64_canonical_t checksum;
-    XXH64_canonicalFromHash(&checksum,
-        XXH3_64bits_withSeed(bytes, kPageSize - kPageReserve, static_cast<XXH64_hash_t>(page + 1)));
-    std::memcpy(bytes + kPageSize - kPageReserve, &checksum, sizeof(checksum));
+    SealBytes(file.data() + page * kPageSize, static_cast<quint32>(page + 1));
 }
 
 void SealAllPages(QByteArray& file)

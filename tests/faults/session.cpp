@@ -64,10 +64,12 @@ Session::Session()
 
 Session::~Session() = default;
 
-ErrorNumber Session::Start(const QByteArray& path)
+ErrorNumber Session::Start(const QByteArray& path, VolumeAccess access)
 {
     m_path = path;
-    const ErrorNumber error = m_volume.Mount(QFile::decodeName(path), Disposition::OpenAlways);
+    const auto disposition
+        = access == VolumeAccess::Exclusive ? Disposition::OpenAlways : Disposition::OpenExisting;
+    const ErrorNumber error = m_volume.Mount(QFile::decodeName(path), disposition, access);
     if (error != ErrorNumber::None)
         return error;
     return m_catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened ? ErrorNumber::None

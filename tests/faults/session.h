@@ -16,8 +16,10 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    /// Starts as the program does, on a missing file too. None, or why not.
-    [[nodiscard]] ErrorNumber Start(const QByteArray& path);
+    /// Starts as the program does, on a missing file too, or as a command that only reads. None, or
+    /// why not.
+    [[nodiscard]] ErrorNumber Start(
+        const QByteArray& path, VolumeAccess access = VolumeAccess::Exclusive);
     struct Outcome
     {
         bool isDone = false;

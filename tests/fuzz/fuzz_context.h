@@ -1,0 +1,54 @@
+#pragma once
+
+#include "values/column_type.h"
+#include "values/value_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <span>
+
+namespace Quillory {
+
+/// What must hold for every input; where it does not, the input is kept as one that breaks it.
+inline void Require(bool isTrue, const char* what)
+{
+    if (!isTrue)
+        qFatal("broken: %s", what);
+}
+
+/// A list's own columns and one of every type.
+constexpr std::array kFuzzedColumns { PropName, PropCount, MakePropertyId(1, CEVT_LPWSTR),
+    MakePropertyId(2, CEVT_BOOL), MakePropertyId(3, CEVT_R8), MakePropertyId(4, CEVT_I4),
+    MakePropertyId(5, CEVT_FILETIME) };
+
+/// Locales whose dates, numbers and code pages differ, one of them chosen by a number; each is made
+/// once. It is always the same day.
+inline const ValueContext& FuzzedContext(size_t number)
+{
+    static const auto contexts = [] {
+        std::array<ValueContext, 4> made;
+        const std::array names { "en_US", "de_DE", "ja_JP", "th_TH" };
+        for (size_t i = 0; i < made.size(); ++i) {
+            const LocaleProfile locale = LocaleProfile::For(QString::fromLatin1(names[i]));
+            const auto now = [] { return LocalTime { QDate(2026, 6, 15), QTime(12, 30) }; };
+            made[i]
+                = { locale, locale, now, QStringLiteral("Checked"), QStringLiteral("Unchecked") };
+        }
+        return made;
+    }();
+    return contexts[number % contexts.size()];
+}
+
+/// Whether a row's line reads back as the same row: every value is there, and the price is one that
+/// its text holds.
+inline bool IsPlain(std::span<const PropertyValue> row)
+{
+    constexpr double kManyDigits = 1e50;
+    return std::all_of(row.begin(), row.end(), [](const PropertyValue& value) {
+        const auto* price = std::get_if<double>(&value.value);
+        return !value.IsMissing() && (price == nullptr || std::abs(*price) < kManyDigits);
+    });
+}
+
+} // namespace Quillory

@@ -1,0 +1,51 @@
+#include "transfer/export_lines.h"
+
+#include "transfer/list_file.h"
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+ExportLineBuilder::ExportLineBuilder(const InventoryList& list, const ValueContext& context)
+    : m_context(context)
+    , m_valueLimit(list.columnOrder.size())
+    , m_isThere(list.columns.size())
+{
+    for (const quint32 index : list.columnOrder) {
+        if (index < list.columns.size())
+            m_fields.push_back(index);
+    }
+}
+
+void ExportLineBuilder::AppendLine(QString& text, std::span<const PropertyValue> values)
+{
+    FindValues(values);
+    qsizetype start = text.size();
+    qsizetype length = 0;
+    for (size_t i = 0; i < m_fields.size(); ++i) {
+        if (i > 0)
+            text.append(QChar(kFieldSeparator));
+        const size_t column = m_fields[i];
+        const qsizetype next = text.size();
+        if (m_isThere[column] != 0)
+            AppendExportText(text, values[column], m_context);
+        else
+            text.append(text.mid(start, length));
+        start = next;
+        length = text.size() - next;
+    }
+    text.append(u"\r\n"_s);
+}
+
+/// A row's record holds what the row has and nothing else; what stands in it beyond the limit
+/// counts as missing.
+void ExportLineBuilder::FindValues(std::span<const PropertyValue> values)
+{
+    size_t present = 0;
+    for (size_t i = 0; i < values.size(); ++i) {
+        m_isThere[i] = !values[i].IsMissing() && present < m_valueLimit ? 1 : 0;
+        present += values[i].IsMissing() ? 0 : 1;
+    }
+}
+
+} // namespace Quillory
