@@ -256,6 +256,11 @@ void MainFrame::closeEvent(QCloseEvent* event)
     if (m_isDataFileOpen) {
         if (QApplication::activeModalWidget() != nullptr)
             return event->ignore();
+        if (IsReplaced()) {
+            // Whoever closes the window should know of it as well as whoever changes something.
+            ReopenDataFile();
+            return event->ignore();
+        }
         if (!CloseAllPages()) {
             if (m_pages->Top()->HasUnsavedInput())
                 AskToDiscardInput();
@@ -284,6 +289,24 @@ void MainFrame::TellWriteFailure()
         });
 }
 
+bool MainFrame::IsReplaced()
+{
+    const Volume* volume = m_volume.MountedVolume();
+    return volume != nullptr && volume->HasChanged()
+        && volume->VerifyInPlace().Error() == ErrorNumber::SharingViolation;
+}
+
+void MainFrame::KeepReplacedFile()
+{
+    const KeepOutcome outcome
+        = KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
+    TellStop(outcome == KeepOutcome::Kept
+            ? tr("Another file was put in the place of the data file. The old one is kept as a "
+                 "copy; \"quillory restore\" lists the copies.")
+            : tr("Another file was put in the place of the data file. No copy could be kept of "
+                 "the old one."));
+}
+
 bool MainFrame::RemountUnderPages()
 {
     m_volume.Unmount();
@@ -298,6 +321,8 @@ bool MainFrame::RemountUnderPages()
 
 void MainFrame::ReopenDataFile()
 {
+    if (IsReplaced())
+        KeepReplacedFile();
     if (RemountUnderPages())
         return RefreshPages();
     // The pages are not those of the file that is there now: nothing of theirs may get into it.
