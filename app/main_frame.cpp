@@ -181,7 +181,7 @@ void MainFrame::EndOpening(DataFileOpener::Outcome outcome)
     UpdateCommands();
     // What a program that was killed had kept aside; once the lists are on the screen.
     QMetaObject::invokeMethod(
-        this, [this] { m_catalogue.PurgeDeleted(); }, Qt::QueuedConnection);
+        this, [this] { m_deletion.Forget(); }, Qt::QueuedConnection);
     if (!m_wantedList.isEmpty() && OpenNamedList(m_wantedList) == StartAnswer::UnknownList)
         NoteUnknownList(m_wantedList);
 }
@@ -313,7 +313,10 @@ bool MainFrame::RemountUnderPages()
     if (m_volume.Mount(m_settings.DbPath, Disposition::OpenExisting) != ErrorNumber::None
         || m_catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
         return false;
-    // In another file the identifier may be that of another list.
+    // What was deleted from another file must not come back in this one.
+    m_deletion.Forget();
+    m_home->WithdrawUndo();
+    // Nor need the identifier be that of the same list.
     InventoryList reopened;
     return m_openList == kNoObject
         || (m_catalogue.OpenList(m_openList, reopened) && reopened.columns == m_list.columns);
@@ -341,8 +344,10 @@ void MainFrame::RefreshPages()
     FillHome();
     m_home->Select(selected);
     // Something else may stand in the file now.
-    for (RowsView* view : m_pages->findChildren<RowsView*>())
+    for (RowsView* view : m_pages->findChildren<RowsView*>()) {
+        view->WithdrawUndo();
         view->Fill();
+    }
 }
 
 void MainFrame::ToggleReadOnly()

@@ -174,11 +174,13 @@ void MainFrameSafetyTest::aFileReplacedUnderAnEditorTakesWhatIsTyped()
     const QString older = errand.DataPath() + u".older"_s;
     QVERIFY(QFile::copy(errand.DataPath(), older));
     errand.Start();
-    errand.Import("Salt\t5\r\n");
+    errand.Import("Rice\t2\r\nSalt\t5\r\n");
     errand.pages->Top()->End(PageResult::Ok);
     Page* rows = errand.pages->Top();
     const auto* model = rows->findChild<QTableView*>()->model();
-    QCOMPARE(model->rowCount(), 1);
+    QCOMPARE(model->rowCount(), 2);
+    rows->Trigger(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
     rows->Trigger(Command::New);
     QTest::keyClicks(QApplication::focusWidget(), u"Tea"_s);
     Replace(errand, older);
@@ -190,6 +192,8 @@ void MainFrameSafetyTest::aFileReplacedUnderAnEditorTakesWhatIsTyped()
     QCOMPARE(model->rowCount(), 0);
     errand.pages->Top()->RequestEnd(PageResult::Ok);
     QCOMPARE(errand.pages->Top(), rows);
+    // Nothing that was deleted from the old one comes back in this one.
+    QTest::keyClick(rows->findChild<QTableView*>(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(model->rowCount(), 1);
     QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
 }
@@ -208,6 +212,10 @@ void MainFrameSafetyTest::aFileReplacedBeforeTheEndIsTold()
     errand.Answer(QMessageBox::Ok);
     QVERIFY(errand.question.contains(u"kept as a copy"_s));
     QCOMPARE(NewestCopy(errand), u"Zoo 0"_s);
+    QCOMPARE(errand.Lines(), u"Attic, Zoo"_s);
+    // What was deleted from the old one is not brought into this one.
+    QVERIFY(!errand.home->findChild<QWidget*>(u"undoBar"_s)->isVisible());
+    QTest::keyClick(errand.view, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(errand.Lines(), u"Attic, Zoo"_s);
     QVERIFY(errand.frame->close());
 }
