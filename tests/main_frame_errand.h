@@ -102,6 +102,12 @@ public:
         dialog->selectFile(file.fileName());
         static_cast<QDialog*>(dialog)->accept();
     }
+    /// As a window manager does once a question is answered.
+    void ComeBack() const
+    {
+        frame->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(frame.get()));
+    }
     QString Lines() const
     {
         QStringList names;

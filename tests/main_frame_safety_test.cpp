@@ -193,6 +193,7 @@ void MainFrameSafetyTest::aFileReplacedUnderAnEditorTakesWhatIsTyped()
     errand.pages->Top()->RequestEnd(PageResult::Ok);
     QCOMPARE(errand.pages->Top(), rows);
     // Nothing that was deleted from the old one comes back in this one.
+    errand.ComeBack();
     QTest::keyClick(rows->findChild<QTableView*>(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(model->rowCount(), 1);
     QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
@@ -215,6 +216,7 @@ void MainFrameSafetyTest::aFileReplacedBeforeTheEndIsTold()
     QCOMPARE(errand.Lines(), u"Attic, Zoo"_s);
     // What was deleted from the old one is not brought into this one.
     QVERIFY(!errand.home->findChild<QWidget*>(u"undoBar"_s)->isVisible());
+    errand.ComeBack();
     QTest::keyClick(errand.view, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(errand.Lines(), u"Attic, Zoo"_s);
     QVERIFY(errand.frame->close());
