@@ -1,11 +1,10 @@
 #include "app/command_line.h"
 
 #include "app/command_line_run.h"
+#include "app/settings.h"
 #include "store/kept_copies.h"
 
 #include <QFile>
-#include <QSettings>
-#include <QStandardPaths>
 
 #include <unistd.h>
 
@@ -307,9 +306,9 @@ int RunCommandLine(const QStringList& arguments)
 
 QString ConfiguredDataFile()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    const QSettings settings(folder + u"/quillory/quillory.conf"_s, QSettings::IniFormat);
-    return settings.value(u"DbPath"_s).toString();
+    Settings settings;
+    ReadSettings(SettingsPath(), settings);
+    return settings.DbPath;
 }
 
 } // namespace Quillory

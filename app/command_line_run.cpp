@@ -54,6 +54,9 @@ CommandData::CommandData(const QString& path, VolumeAccess access, Disposition d
         Fail(u"%1 is open in Quillory; close it first"_s.arg(path));
     if (error != ErrorNumber::None)
         Fail(u"cannot open %1: %2"_s.arg(path, ErrorText(error)));
+    // A reader makes no table for the lists that are not there yet.
+    if (access == VolumeAccess::ReadOnly && catalogue.IsWithoutTables())
+        return;
     if (catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
         Fail(u"cannot open the lists of %1: %2"_s.arg(path, ErrorText(volume.LastError())));
 }

@@ -182,7 +182,7 @@ void MainFrame::EndOpening(DataFileOpener::Outcome outcome)
     UpdateCommands();
     // What a program that was killed had kept aside; once the lists are on the screen.
     QMetaObject::invokeMethod(
-        this, [this] { m_catalogue.PurgeDeleted(); }, Qt::QueuedConnection);
+        this, [this] { m_deletion.Forget(); }, Qt::QueuedConnection);
     if (!m_wantedList.isEmpty() && OpenNamedList(m_wantedList) == StartAnswer::UnknownList)
         NoteUnknownList(m_wantedList);
 }
@@ -257,6 +257,11 @@ void MainFrame::closeEvent(QCloseEvent* event)
     if (m_isDataFileOpen) {
         if (QApplication::activeModalWidget() != nullptr)
             return event->ignore();
+        if (IsReplaced()) {
+            // Whoever closes the window should know of it as well as whoever changes something.
+            ReopenDataFile();
+            return event->ignore();
+        }
         if (!CloseAllPages()) {
             if (m_pages->Top()->HasUnsavedInput())
                 AskToDiscardInput();
@@ -285,13 +290,34 @@ void MainFrame::TellWriteFailure()
         });
 }
 
+bool MainFrame::IsReplaced()
+{
+    const Volume* volume = m_volume.MountedVolume();
+    return volume != nullptr && volume->HasChanged()
+        && volume->VerifyInPlace().Error() == ErrorNumber::SharingViolation;
+}
+
+void MainFrame::KeepReplacedFile()
+{
+    const KeepOutcome outcome
+        = KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
+    TellStop(outcome == KeepOutcome::Kept
+            ? tr("Another file was put in the place of the data file. The old one is kept as a "
+                 "copy; \"quillory restore\" lists the copies.")
+            : tr("Another file was put in the place of the data file. No copy could be kept of "
+                 "the old one."));
+}
+
 bool MainFrame::RemountUnderPages()
 {
     m_volume.Unmount();
     if (m_volume.Mount(m_settings.DbPath, Disposition::OpenExisting) != ErrorNumber::None
         || m_catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
         return false;
-    // In another file the identifier may be that of another list.
+    // What was deleted from another file must not come back in this one.
+    m_deletion.Forget();
+    m_home->WithdrawUndo();
+    // Nor need the identifier be that of the same list.
     InventoryList reopened;
     return m_openList == kNoObject
         || (m_catalogue.OpenList(m_openList, reopened) && reopened.columns == m_list.columns);
@@ -299,6 +325,8 @@ bool MainFrame::RemountUnderPages()
 
 void MainFrame::ReopenDataFile()
 {
+    if (IsReplaced())
+        KeepReplacedFile();
     if (RemountUnderPages())
         return RefreshPages();
     // The pages are not those of the file that is there now: nothing of theirs may get into it.
@@ -317,8 +345,10 @@ void MainFrame::RefreshPages()
     FillHome();
     m_home->Select(selected);
     // Something else may stand in the file now.
-    for (RowsView* view : m_pages->findChildren<RowsView*>())
+    for (RowsView* view : m_pages->findChildren<RowsView*>()) {
+        view->WithdrawUndo();
         view->Fill();
+    }
 }
 
 void MainFrame::ToggleReadOnly()

@@ -120,6 +120,10 @@ private:
     void ExportList();
     void ExportTo(const QString& path);
     void TellWriteFailure();
+    /// Whether another file stands in the place of the data file, which holds changes of this run.
+    [[nodiscard]] bool IsReplaced();
+    /// Keeps what would go with the old file, and tells of it.
+    void KeepReplacedFile();
     void ReopenDataFile();
     /// Opens the data file and the open list anew. False if they are not what the pages show.
     [[nodiscard]] bool RemountUnderPages();

@@ -227,6 +227,11 @@ bool Volume::HasChanged() const
     return m_state->hasCommitted;
 }
 
+Result<void> Volume::VerifyInPlace() const
+{
+    return m_state->file.VerifyInPlace();
+}
+
 Result<std::vector<QString>> Volume::Check()
 {
     std::vector<QString> faults;

@@ -74,6 +74,9 @@ public:
     [[nodiscard]] bool IsInTransaction() const;
     /// Whether anything was written since the volume was mounted.
     [[nodiscard]] bool HasChanged() const;
+    /// Whether the path still leads to the file that was opened: FileNotFound if it leads nowhere,
+    /// SharingViolation if another file was put there. The opened one can be read all the same.
+    [[nodiscard]] Result<void> VerifyInPlace() const;
 
     /// Reads the whole file and tells what is wrong with it, a line each; empty if nothing is.
     [[nodiscard]] Result<std::vector<QString>> Check();

@@ -58,7 +58,10 @@ Result<void> VolumeState::Connect()
         return ErrorNumber::FileCorrupt;
     nextOid = static_cast<quint64>(readNextOid.Int64(0));
     readNextOid.Reset();
-    return {};
+    const auto changes = file.ChangeCounter();
+    if (changes)
+        changesSeen = *changes;
+    return changes.Error();
 }
 
 Result<VolumeState::OrderVersion> VolumeState::ReadOrderVersion()
@@ -116,11 +119,12 @@ Result<void> VolumeState::Begin()
     if (const auto begun = begin.Run(); !begun)
         return begun;
     const auto changes = file.ChangeCounter();
-    if (!changes) {
+    const bool isOurs = changes && *changes == changesSeen.value_or(*changes);
+    if (!isOurs) {
         Rollback();
-        return changes.Error();
+        return changes ? ErrorNumber::SharingViolation : changes.Error();
     }
-    changesBefore = *changes;
+    changesSeen = *changes;
     return {};
 }
 
@@ -143,6 +147,9 @@ Result<void> VolumeState::Commit()
         Rollback();
         if (const auto found = FindOutcome(committed.Error()); !found)
             return found;
+    } else {
+        const auto changes = file.ChangeCounter();
+        changesSeen = changes ? std::optional(*changes) : std::nullopt;
     }
     isNextOidStored = true;
     isSchemaChanged = false;
@@ -181,10 +188,11 @@ Result<bool> VolumeState::SettleDoubt()
     const auto changes = file.ChangeCounter();
     if (!changes)
         return changes.Error();
-    const bool isDone = *changes != changesBefore;
+    const bool isDone = *changes != changesSeen;
     const Result<void> durable = isDone ? file.MakeDurable() : Result<void>();
     if (!durable)
         return durable.Error();
+    changesSeen = *changes;
     isInDoubt = false;
     return isDone;
 }

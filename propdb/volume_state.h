@@ -55,8 +55,8 @@ struct VolumeState
     bool hasCommitted = false;
     /// Counts what may have changed the order of a database's records.
     quint64 orderChanges = 0;
-    /// The file's counter of changes when the transaction began.
-    quint32 changesBefore = 0;
+    /// The file's counter of changes as this connection left it; none where it is not known.
+    std::optional<quint32> changesSeen;
     /// Whether the latest commit is in the file, and durable, is not known.
     bool isInDoubt = false;
 
@@ -82,6 +82,8 @@ struct VolumeState
     /// transaction only passes `outcome` on.
     [[nodiscard]] Result<void> EndWrite(const Result<void>& outcome);
 
+    /// SharingViolation if something else has written into the file since the last commit: what
+    /// is to be written may be meant for records that now are others.
     [[nodiscard]] Result<void> Begin();
     /// A commit that SQLite reports to have failed may have been done: then the file tells, and
     /// what it holds is made durable. A failure means that nothing was changed, unless the medium

@@ -160,6 +160,14 @@ ListCatalogue::OpenOutcome ListCatalogue::OpenCatalogue()
     return isOpen ? OpenOutcome::Opened : OpenOutcome::CannotOpen;
 }
 
+bool ListCatalogue::IsWithoutTables() const
+{
+    if (!m_volume.IsMounted())
+        return false;
+    const auto databases = m_volume.MountedVolume()->Databases();
+    return databases && databases->empty();
+}
+
 bool ListCatalogue::CreateCatalogue()
 {
     const std::array<PropertySpec, 9> specs { {
@@ -181,9 +189,10 @@ std::vector<ListCatalogue::HomeListEntry> ListCatalogue::FillHomeList()
 {
     std::vector<HomeListEntry> entries;
     Database* catalogue = m_volume.OpenDatabase(kCatalogueType);
-    m_homeListError = catalogue == nullptr ? ErrorNumber::InvalidHandle : ErrorNumber::None;
-    if (catalogue == nullptr)
+    if (catalogue == nullptr) {
+        m_homeListError = IsWithoutTables() ? ErrorNumber::None : ErrorNumber::InvalidHandle;
         return entries;
+    }
     constexpr std::array kIds { kName, kTableIcon };
     // A record that cannot be read ends the list; those before it are shown.
     m_homeListError = catalogue

@@ -27,6 +27,9 @@ public:
     };
     /// Opens the catalogue, making it in a fresh volume (not in one mounted for reading).
     [[nodiscard]] OpenOutcome OpenCatalogue();
+    /// Whether the data file has no table at all, as one whose making was cut short: it has no
+    /// lists, and no catalogue that could be opened for reading.
+    [[nodiscard]] bool IsWithoutTables() const;
 
     struct HomeListEntry
     {

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void everyCommandHasHelp();
     void listsNamedLikeOptionsAreReached();
     void noDataFileIsMadeUnlessTold();
+    void aFileWhoseMakingWasCutShortHasNoLists();
     void jsonHoldsTypedValues();
     void columnsGiveTheImportItsOrder();
     void aDryRunStoresNothing();
@@ -267,6 +268,16 @@ void CommandLineTest::noDataFileIsMadeUnlessTold()
     QVERIFY(
         shell.Run({ u"--data"_s, other, u"new"_s, u"L"_s, u"--create"_s }).code == ExitCode::Done);
     QVERIFY(QFile::exists(other) && !QFile::exists(shell.Path()));
+}
+
+void CommandLineTest::aFileWhoseMakingWasCutShortHasNoLists()
+{
+    Shell shell;
+    QCOMPARE(DataVolume().Mount(shell.Path(), Disposition::OpenAlways), ErrorNumber::None);
+    QCOMPARE(shell.Output({ u"lists"_s }), ""_ba);
+    QCOMPARE(shell.Output({ u"check"_s }), "ok\n"_ba);
+    QCOMPARE(shell.Run({ u"show"_s, u"Pantry"_s }).code, ExitCode::Failed);
+    shell.MakePantry();
 }
 
 void CommandLineTest::jsonHoldsTypedValues()

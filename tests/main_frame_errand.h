@@ -26,6 +26,7 @@ class FrameErrand
 
 public:
     QString DataPath() const { return m_folder.filePath(u"Quillory.idb"_s); }
+    QString CopiesFolder() const { return m_folder.filePath(u"copies"_s); }
     void MakeLists(const QStringList& names)
     {
         DataVolume volume;
@@ -43,8 +44,7 @@ public:
     {
         Settings settings;
         ReadSettings(Conf(), settings);
-        frame = std::make_unique<MainFrame>(
-            settings, MainFrame::Places { Conf(), m_folder.filePath(u"copies"_s) });
+        frame = std::make_unique<MainFrame>(settings, MainFrame::Places { Conf(), CopiesFolder() });
         frame->SetFileChooser([this](const auto& then) { then(chosenPath); });
         frame->show();
         frame->OpenDataFile(listName);
@@ -101,6 +101,12 @@ public:
         QVERIFY(dialog != nullptr);
         dialog->selectFile(file.fileName());
         static_cast<QDialog*>(dialog)->accept();
+    }
+    /// As a window manager does once a question is answered.
+    void ComeBack() const
+    {
+        frame->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(frame.get()));
     }
     QString Lines() const
     {

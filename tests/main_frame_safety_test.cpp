@@ -1,3 +1,4 @@
+#include "store/kept_copies.h"
 #include "tests/main_frame_errand.h"
 
 #include <QApplication>
@@ -21,8 +22,42 @@ private Q_SLOTS:
     void aDeletedRowComesBack();
     void aFailedWriteIsToldOnceAndWorkGoesOn();
     void whatCouldNotBeStoredIsTypedOnlyOnce();
+    void aFileReplacedUnderAnEditorTakesWhatIsTyped();
+    void aFileReplacedBeforeTheEndIsTold();
     void aDamagedFileIsReplacedByItsCopy();
 };
+
+namespace {
+
+/// Puts a file in the place of the data file, as programs do that keep folders alike.
+void Replace(const FrameErrand& errand, const QString& by)
+{
+    QVERIFY(QFile::remove(errand.DataPath()));
+    QVERIFY(QFile::rename(by, errand.DataPath()));
+}
+
+/// The lists of the newest kept copy and how many rows each has.
+QString NewestCopy(const FrameErrand& errand)
+{
+    const auto copies = ListKeptCopies(errand.DataPath(), errand.CopiesFolder());
+    DataVolume volume;
+    ListCatalogue catalogue(volume);
+    if (copies.empty()
+        || volume.Mount(copies.front().path, Disposition::OpenExisting, VolumeAccess::ReadOnly)
+            != ErrorNumber::None
+        || catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
+        return u"no copy"_s;
+    QStringList lists;
+    for (const auto& entry : catalogue.FillHomeList()) {
+        InventoryList list;
+        if (catalogue.OpenList(entry.oid, list))
+            lists << list.Name + u' '
+                    + QString::number(volume.RecordCount(ListCatalogue::kRowsType));
+    }
+    return lists.join(u", "_s);
+}
+
+} // namespace
 
 void MainFrameSafetyTest::closingAsksBeforeInputIsLost()
 {
@@ -130,6 +165,61 @@ void MainFrameSafetyTest::whatCouldNotBeStoredIsTypedOnlyOnce()
     const auto* model = rows->findChild<QTableView*>()->model();
     QCOMPARE(model->rowCount(), 1);
     QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
+}
+
+void MainFrameSafetyTest::aFileReplacedUnderAnEditorTakesWhatIsTyped()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    const QString older = errand.DataPath() + u".older"_s;
+    QVERIFY(QFile::copy(errand.DataPath(), older));
+    errand.Start();
+    errand.Import("Rice\t2\r\nSalt\t5\r\n");
+    errand.pages->Top()->End(PageResult::Ok);
+    Page* rows = errand.pages->Top();
+    const auto* model = rows->findChild<QTableView*>()->model();
+    QCOMPARE(model->rowCount(), 2);
+    rows->Trigger(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    rows->Trigger(Command::New);
+    QTest::keyClicks(QApplication::focusWidget(), u"Tea"_s);
+    Replace(errand, older);
+    errand.pages->Top()->RequestEnd(PageResult::Ok);
+    errand.Answer(QMessageBox::Retry);
+    errand.Answer(QMessageBox::Ok);
+    QVERIFY(errand.question.contains(u"kept as a copy"_s));
+    QCOMPARE(NewestCopy(errand), u"Pantry 1"_s);
+    QCOMPARE(model->rowCount(), 0);
+    errand.pages->Top()->RequestEnd(PageResult::Ok);
+    QCOMPARE(errand.pages->Top(), rows);
+    // Nothing that was deleted from the old one comes back in this one.
+    errand.ComeBack();
+    QTest::keyClick(rows->findChild<QTableView*>(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(model->rowCount(), 1);
+    QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
+}
+
+void MainFrameSafetyTest::aFileReplacedBeforeTheEndIsTold()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
+    const QString older = errand.DataPath() + u".older"_s;
+    QVERIFY(QFile::copy(errand.DataPath(), older));
+    errand.Start();
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    Replace(errand, older);
+    QVERIFY(!errand.frame->close());
+    errand.Answer(QMessageBox::Ok);
+    QVERIFY(errand.question.contains(u"kept as a copy"_s));
+    QCOMPARE(NewestCopy(errand), u"Zoo 0"_s);
+    QCOMPARE(errand.Lines(), u"Attic, Zoo"_s);
+    // What was deleted from the old one is not brought into this one.
+    QVERIFY(!errand.home->findChild<QWidget*>(u"undoBar"_s)->isVisible());
+    errand.ComeBack();
+    QTest::keyClick(errand.view, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(errand.Lines(), u"Attic, Zoo"_s);
+    QVERIFY(errand.frame->close());
 }
 
 void MainFrameSafetyTest::aDamagedFileIsReplacedByItsCopy()

@@ -5,9 +5,17 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
-#include <thread>
+#include <functional>
+#include <grp.h>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -15,6 +23,59 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Outcome = SingleInstance::Outcome;
+
+/// Whoever owns nothing.
+constexpr uid_t kNobody = 65534;
+
+/// Does something in a process of its own, as another user if told so, while this one goes on.
+class Stranger
+{
+public:
+    explicit Stranger(const std::function<int()>& work, bool isOtherUser = false)
+        : m_process(fork())
+    {
+        if (m_process != 0)
+            return;
+        const bool isReady = !isOtherUser
+            || (setgroups(0, nullptr) == 0 && setgid(kNobody) == 0 && setuid(kNobody) == 0);
+        _exit(isReady ? work() : -1);
+    }
+    /// What the work returned.
+    int Wait() const
+    {
+        int status = 0;
+        while (waitpid(m_process, &status, WNOHANG) == 0)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+private:
+    pid_t m_process;
+};
+
+/// A connection without Qt, whose buffers would count as this process's memory; -1 if refused.
+int ConnectPlainly(const QByteArray& path)
+{
+    sockaddr_un address {};
+    address.sun_family = AF_UNIX;
+    qstrncpy(address.sun_path, path.constData(), sizeof(address.sun_path));
+    const int connection = socket(AF_UNIX, SOCK_STREAM, 0);
+    return connect(connection, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0
+        ? connection
+        : -1;
+}
+
+/// The most memory in KiB that this process used since it last asked with `isReset`.
+long PeakMemory(bool isReset = false)
+{
+    QFile forget(u"/proc/self/clear_refs"_s);
+    if (isReset && (!forget.open(QIODevice::WriteOnly) || forget.write("5") != 1))
+        qFatal("the peak cannot be reset");
+    forget.close();
+    rusage usage {};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
 
 class SingleInstanceTest : public QObject
 {
@@ -27,6 +88,12 @@ private Q_SLOTS:
     void whatIsNoRequestIsDropped_data();
     void whatIsNoRequestIsDropped();
     void idleConnectionsDoNotKeepOthersOut();
+    void longMessagesCostNoMemory();
+    void anotherUserIsNotHeard();
+    void anotherUsersFolderIsNotUsed();
+    void whatLiesInTheFolderKeepsNobodyFromStarting_data();
+    void whatLiesInTheFolderKeepsNobodyFromStarting();
+    void aBusyProgramIsLeftToAnswerLater();
     void aSocketLeftBehindIsReplaced();
     void theFolderIsThisUsersAlone();
 
@@ -41,6 +108,7 @@ private:
 
 void SingleInstanceTest::init()
 {
+    qunsetenv("TMPDIR");
     m_folder = std::make_unique<QTemporaryDir>();
     m_requests.clear();
 }
@@ -131,6 +199,124 @@ void SingleInstanceTest::idleConnectionsDoNotKeepOthersOut()
         QCoreApplication::processEvents();
     }
     QCOMPARE(StartSecond({ u"Pantry"_s, {} }), Outcome::HandedOver);
+}
+
+void SingleInstanceTest::longMessagesCostNoMemory()
+{
+    SingleInstance first(m_folder->path());
+    Serve(first);
+    const QByteArray path = QFile::encodeName(m_folder->filePath(u"socket"_s));
+    const long before = PeakMemory(true);
+    const Stranger stranger([&path] {
+        const QByteArray piece(1 << 20, 'x');
+        std::array<int, 16> connections {};
+        for (int& connection : connections) {
+            connection = ConnectPlainly(path);
+            static_cast<void>(send(connection, "quillory\0", 9, MSG_NOSIGNAL));
+        }
+        constexpr int kPieces = 64;
+        for (const int connection : connections) {
+            const auto size = static_cast<size_t>(piece.size());
+            for (int i = 0; i < kPieces; ++i)
+                static_cast<void>(send(connection, piece.constData(), size, MSG_NOSIGNAL));
+        }
+        return 0;
+    });
+    QCOMPARE(stranger.Wait(), 0);
+    QCOMPARE(StartSecond({ u"Pantry"_s, {} }), Outcome::HandedOver);
+    const long growth = PeakMemory() - before;
+    QVERIFY2(growth < 8L * 1024, qPrintable(QString::number(growth)));
+}
+
+void SingleInstanceTest::anotherUserIsNotHeard()
+{
+    if (geteuid() != 0)
+        QSKIP("Only root can be another user.");
+    SingleInstance first(m_folder->path());
+    Serve(first);
+    const QString socket = m_folder->filePath(u"socket"_s);
+    const QByteArray path = QFile::encodeName(socket);
+    const auto ask = [&path] {
+        const int connection = ConnectPlainly(path);
+        if (connection < 0)
+            return 1;
+        static_cast<void>(send(connection, "quillory\0Pantry\0\0", 17, MSG_NOSIGNAL));
+        char answer = 0;
+        return recv(connection, &answer, 1, 0) <= 0 ? 2 : 3;
+    };
+    QCOMPARE(Stranger(ask, true).Wait(), 1);
+    // Even if somebody opened the way to it.
+    QCOMPARE(chmod(QFile::encodeName(m_folder->path()).constData(), 0755), 0);
+    QCOMPARE(chmod(path.constData(), 0777), 0);
+    QCOMPARE(Stranger(ask, true).Wait(), 2);
+    QCOMPARE(m_requests.size(), 0U);
+    QCOMPARE(Stranger(ask).Wait(), 3);
+    QCOMPARE(m_requests.size(), 1U);
+}
+
+void SingleInstanceTest::anotherUsersFolderIsNotUsed()
+{
+    if (geteuid() != 0)
+        QSKIP("Only root can be another user.");
+    qputenv("XDG_RUNTIME_DIR", m_folder->path().toLocal8Bit());
+    qputenv("TMPDIR", m_folder->path().toLocal8Bit());
+    QCOMPARE(chmod(QFile::encodeName(m_folder->path()).constData(), 0777), 0);
+    const auto take = [this](const QString& name) {
+        const QByteArray path = QFile::encodeName(m_folder->filePath(name));
+        return Stranger([&path] { return mkdir(path.constData(), 0700); }, true).Wait() == 0;
+    };
+    QVERIFY(take(u"quillory"_s));
+    const QString fallback = SingleInstance::Folder();
+    QVERIFY(fallback.startsWith(m_folder->filePath(u"quillory-"_s)));
+    QVERIFY(QDir().rmdir(fallback));
+    QVERIFY(take(QFileInfo(fallback).fileName()));
+    QCOMPARE(SingleInstance::Folder(), QString());
+}
+
+void SingleInstanceTest::whatLiesInTheFolderKeepsNobodyFromStarting_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<char>("kind");
+    QTest::addColumn<bool>("isHeard");
+    QTest::newRow("lock of a run that ended") << u"lock"_s << 'f' << true;
+    QTest::newRow("pipe for a lock") << u"lock"_s << 'p' << true;
+    QTest::newRow("link for a lock") << u"lock"_s << 'l' << false;
+    QTest::newRow("file for a socket") << u"socket"_s << 'f' << true;
+    QTest::newRow("link for a socket") << u"socket"_s << 'l' << true;
+    QTest::newRow("folder for a socket") << u"socket"_s << 'd' << false;
+}
+
+void SingleInstanceTest::whatLiesInTheFolderKeepsNobodyFromStarting()
+{
+    QFETCH(QString, name);
+    QFETCH(char, kind);
+    const QByteArray path = QFile::encodeName(m_folder->filePath(name));
+    const QByteArray elsewhere = QFile::encodeName(m_folder->filePath(u"elsewhere"_s));
+    if (kind == 'f')
+        QVERIFY(close(open(path.constData(), O_CREAT | O_WRONLY, 0600)) == 0);
+    else if (kind == 'p')
+        QCOMPARE(mkfifo(path.constData(), 0600), 0);
+    else if (kind == 'l')
+        QCOMPARE(symlink(elsewhere.constData(), path.constData()), 0);
+    else
+        QCOMPARE(mkdir(path.constData(), 0700), 0);
+    SingleInstance first(m_folder->path());
+    Serve(first);
+    QTEST(StartSecond({ u"Pantry"_s, {} }) == Outcome::HandedOver, "isHeard");
+    // Nothing is made where a link leads.
+    QVERIFY(!QFile::exists(QFile::decodeName(elsewhere)));
+}
+
+void SingleInstanceTest::aBusyProgramIsLeftToAnswerLater()
+{
+    const QByteArray lock = QFile::encodeName(m_folder->filePath(u"lock"_s));
+    const int held = open(lock.constData(), O_CREAT | O_RDWR, 0600);
+    QCOMPARE(flock(held, LOCK_EX), 0);
+    QLocalServer busy;
+    QVERIFY(busy.listen(m_folder->filePath(u"socket"_s)));
+    SingleInstance second(m_folder->path());
+    QCOMPARE(second.Start({}), Outcome::HandedOverUnanswered);
+    close(held);
 }
 
 void SingleInstanceTest::aSocketLeftBehindIsReplaced()

@@ -75,6 +75,8 @@ void FillDisk(FaultRun& run);
 /// Kills, failing calls and a full disk during an import.
 void BreakImports(FaultRun& run);
 void ExhaustMemory(FaultRun& run);
+/// The same with the memory of all code that is not SQLite's.
+void ExhaustHeap(FaultRun& run);
 /// Somebody removes, moves, replaces or cuts the file that the program has open.
 void MeddleWithOpenFile(FaultRun& run);
 void DamageFiles(FaultRun& run);

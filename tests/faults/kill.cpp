@@ -1,10 +1,8 @@
-#include "tests/faults/fault_run.h"
+#include "tests/faults/doomed_process.h"
 #include "tests/faults/system_calls.h"
 
 #include <sys/wait.h>
-#include <unistd.h>
 
-#include <array>
 #include <csignal>
 
 namespace Quillory {
@@ -69,37 +67,6 @@ private:
     bool m_isDue = false;
 };
 
-/// Runs the script from a step on in a process of its own until it is killed, and gives the number
-/// of steps that it acknowledged. `status` is how it ended.
-size_t RunUntilKilled(
-    const FaultRun& run, const Script& script, size_t step, Killer& killer, int& status)
-{
-    std::array<int, 2> ends {};
-    if (pipe(ends.data()) != 0)
-        qFatal("no pipe");
-    std::fflush(nullptr);
-    const pid_t process = fork();
-    if (process == 0) {
-        // Nothing is open here but the pipe: the child starts as a new process would.
-        const WatchScope watch(run.Folder(), killer);
-        Session session;
-        if (session.Start(run.DataFile()) != ErrorNumber::None)
-            _exit(2);
-        for (size_t i = step; i < script.steps.size() && session.Run(script.steps[i]).isDone; ++i) {
-            if (write(ends[1], "+", 1) != 1)
-                _exit(3);
-        }
-        _exit(4);
-    }
-    close(ends[1]);
-    size_t acknowledged = 0;
-    for (char sign = 0; read(ends[0], &sign, 1) == 1;)
-        ++acknowledged;
-    close(ends[0]);
-    waitpid(process, &status, 0);
-    return acknowledged;
-}
-
 int CountCalls(const FaultRun& run, const Script& script, size_t step)
 {
     CallCounter counter;
@@ -114,14 +81,16 @@ int CountCalls(const FaultRun& run, const Script& script, size_t step)
 void KillAt(FaultRun& run, const Script& script, size_t step, int callNumber, KillMoment moment)
 {
     Killer killer(callNumber, moment);
-    int status = 0;
-    const size_t acknowledged = step + RunUntilKilled(run, script, step, killer, status);
+    const Doom doom = RunDoomed(run, script, step, [&](const auto& work) {
+        const WatchScope watch(run.Folder(), killer);
+        work();
+    });
     run.Count();
     const Files left = run.Taken();
     const QString place = u"step %1, call %2: "_s.arg(step + 1).arg(callNumber);
-    if (!WIFSIGNALED(status) || WTERMSIG(status) != SIGKILL)
+    if (!WIFSIGNALED(doom.status) || WTERMSIG(doom.status) != SIGKILL)
         run.Blame(place + u"the process ended by itself"_s, left);
-    else if (const QString wrong = Judge(run, script, acknowledged); !wrong.isEmpty())
+    else if (const QString wrong = Judge(run, script, doom.acknowledged); !wrong.isEmpty())
         run.Blame(place + wrong, left);
 }
 

@@ -28,6 +28,7 @@ constexpr std::array kFaultKinds {
     FaultKind {
         "import", "an import is killed, or its calls fail, or the disk runs full", &BreakImports },
     FaultKind { "memory", "SQLite gets no memory, once or for good", &ExhaustMemory },
+    FaultKind { "heap", "operator new gets no memory, once or for good", &ExhaustHeap },
     FaultKind { "meddle", "somebody removes or replaces the open file", &MeddleWithOpenFile },
     FaultKind { "damage", "the file is damaged at rest", &DamageFiles },
     FaultKind { "foreign", "the file is another program's (a table of them)", &RefuseForeignFiles },

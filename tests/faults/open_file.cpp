@@ -2,6 +2,8 @@
 #include "tests/faults/fault_run.h"
 #include "tests/faults/system_calls.h"
 
+#include <QFile>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -59,6 +61,30 @@ void ReplaceByText(const QByteArray& path)
 {
     MoveAside(path);
     Spill(path, "a letter to somebody\n");
+}
+
+/// Another data file that lies beside it.
+QByteArray Other(const QByteArray& path)
+{
+    return path + ".other";
+}
+
+/// As programs do that keep folders alike on several machines.
+void ReplaceByOther(const QByteArray& path)
+{
+    if (rename(Other(path).constData(), path.constData()) != 0)
+        qFatal("cannot replace");
+}
+
+QByteArray Slurp(const QByteArray& path)
+{
+    QFile file(QFile::decodeName(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void OverwriteByOther(const QByteArray& path)
+{
+    Spill(path, Slurp(Other(path)));
 }
 
 void ReplaceByLink(const QByteArray& path)
@@ -127,6 +153,8 @@ constexpr std::array kMischiefs {
     Mischief { "is moved away", &MoveAside, &MoveBack, true },
     Mischief { "is replaced by a text", &ReplaceByText, &MoveBack, true },
     Mischief { "is replaced by an empty file", &ReplaceByEmpty, &MoveBack, true },
+    Mischief { "is replaced by another data file", &ReplaceByOther, nullptr, true },
+    Mischief { "is overwritten by another data file", &OverwriteByOther, nullptr, true },
     Mischief { "is replaced by a link to nothing", &ReplaceByLink, &MoveBack, true },
     Mischief { "is replaced by a folder", &ReplaceByFolder, &RemoveFolder, true },
     Mischief { "gets a second name", &LinkAgain, &RemoveSecondName, false },
@@ -183,6 +211,12 @@ public:
             m_mischief.act(m_path);
         return std::nullopt;
     }
+    /// Acts now if the operations made too few calls.
+    void ActAtLast() const
+    {
+        if (m_count < m_callNumber)
+            m_mischief.act(m_path);
+    }
 
 private:
     const Mischief& m_mischief;
@@ -196,19 +230,25 @@ private:
 QString ActWithin(
     const FaultRun& run, const Mischief& mischief, const Script& script, size_t step, int call)
 {
+    const QByteArray other = Slurp(Other(run.DataFile()));
     {
         Session session;
         if (session.Start(run.DataFile()) != ErrorNumber::None)
             qFatal("the workload cannot start");
         Actor actor(mischief, run.DataFile(), call);
-        const WatchScope watch(run.Folder(), actor);
-        for (size_t i = step; i < std::min(step + 3, script.steps.size()); ++i)
-            static_cast<void>(session.Run(script.steps[i]));
+        {
+            const WatchScope watch(run.Folder(), actor);
+            for (size_t i = step; i < std::min(step + 3, script.steps.size()); ++i)
+                static_cast<void>(session.Run(script.steps[i]));
+        }
+        actor.ActAtLast();
     }
     if (mischief.act == &ReplaceByText && BytesAt(run.Taken()) != "a letter to somebody\n")
         return u"somebody else's file was written into"_s;
     Session next;
     const ErrorNumber error = next.Start(run.DataFile());
+    if (mischief.act == &ReplaceByOther && BytesAt(run.Taken()) != other)
+        return u"the other data file was written into"_s;
     return QByteArrayView(ErrorPhrase(error)) == "general failure"
         ? u"the next start fails for no known reason"_s
         : QString();
@@ -226,15 +266,20 @@ void MeddleWithOpenFile(FaultRun& run)
             run.Blame(
                 u"the file %1: "_s.arg(QLatin1StringView(mischief.name)) + wrong, run.Taken());
     };
+    const auto place = [&](size_t step) {
+        Files files = stages[step];
+        files["data.idb.other"] = stages[1].at("data.idb");
+        run.Place(files);
+    };
     for (const Mischief& mischief : kMischiefs) {
-        run.Place(stages.back());
+        place(stages.size() - 1);
         note(mischief, ActBetween(run, mischief));
     }
     for (int round = 0; run.CountSoFar() < run.Runs(); ++round) {
         constexpr int kCallsCovered = 60;
         const size_t step = 1 + static_cast<size_t>(round) % (script.steps.size() - 1);
         for (const Mischief& mischief : kMischiefs) {
-            run.Place(stages[step]);
+            place(step);
             note(mischief, ActWithin(run, mischief, script, step, 1 + round * 7 % kCallsCovered));
         }
     }
