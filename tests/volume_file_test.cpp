@@ -191,12 +191,13 @@ void VolumeFileTest::onlyOneProgramWritesButOthersMayRead()
     QCOMPARE(
         Volume::Mount(fixture.Path(), Disposition::OpenExisting, VolumeAccess::Exclusive).Error(),
         ErrorNumber::SharingViolation);
+    const QByteArray program = QFile::encodeName(QCoreApplication::applicationFilePath());
     const auto child = [&](VolumeAccess access) {
         const pid_t process = fork();
         if (process == 0) {
             // The copy of the parent's memory knows the file as open: exec drops it.
             const char* how = access == VolumeAccess::ReadOnly ? "read" : "write";
-            execl("/proc/self/exe", "volume_file_test", "--mount", how,
+            execl(program.constData(), "volume_file_test", "--mount", how,
                 QFile::encodeName(fixture.Path()).constData(), nullptr);
             _exit(127);
         }
