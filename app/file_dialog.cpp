@@ -84,13 +84,9 @@ void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
     dialog->setOption(QFileDialog::DontConfirmOverwrite, use == FileUse::MakeOrOpen);
     if (!kind.suggestion.isEmpty())
         dialog->selectFile(kind.suggestion);
-    QObject::connect(dialog, &QDialog::finished, parent, [parent, dialog, then](int result) {
-        const QString path
-            = result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();
+    QObject::connect(dialog, &QDialog::finished, parent, [dialog, then](int result) {
         CloseSuggestions(*dialog);
-        // Not before the dialog is gone, so that a page that opens now takes the focus from none.
-        QMetaObject::invokeMethod(
-            parent, [then, path] { then(path); }, Qt::QueuedConnection);
+        then(result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString());
     });
     FitToScreen(*dialog);
     FitToFingers(*dialog);

@@ -34,6 +34,7 @@ constexpr double kMaxFrameMs = 8;
 constexpr double kMaxBytesPerRow = 12;
 /// More lines than the window has.
 constexpr size_t kScreenful = 64;
+constexpr int kScrolledPages = 10000;
 
 /// Lays out and paints what waits for it, and no more.
 void PaintPending(QWidget& window)
@@ -220,7 +221,6 @@ double HeapOfOpenView(BenchList& list)
 /// By how much 10,000 pages of scrolling make the heap grow, after the whole list was seen once.
 double HeapGrownByScrolling(BenchList& list)
 {
-    constexpr int kPages = 10000;
     double bytes = 0;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
         RowsWindow window;
@@ -236,7 +236,7 @@ double HeapGrownByScrolling(BenchList& list)
         };
         scroll(pagesOfList);
         const double before = HeapBytes();
-        scroll(kPages);
+        scroll(kScrolledPages);
         bytes = HeapBytes() - before;
     });
     return bytes;
@@ -277,7 +277,9 @@ void PrintRowMemory(const BenchOptions& options)
         std::printf("%-34s %9d %8.1f bytes, at most %.0f%s\n", qPrintable(name), rows, bytes,
             kMaxBytesPerRow, bytes > kMaxBytesPerRow ? "  OVER" : "");
     }
-    PrintScrollGrowth(options.sizes.front());
+    // Not worth its time on the few rows of a trial run.
+    if (options.sizes.front() >= kScrolledPages)
+        PrintScrollGrowth(options.sizes.front());
 }
 
 } // namespace Quillory
