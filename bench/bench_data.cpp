@@ -45,6 +45,7 @@ std::vector<int> OrderOfComing(const InventoryList& list, int rows)
 {
     constexpr int kByHand = 10;
     std::vector<std::pair<QString, int>> imported;
+    imported.reserve(static_cast<size_t>(rows));
     for (int i = 0; i < rows - rows / kByHand; ++i)
         imported.emplace_back(std::get<QString>(BenchRow(list, i).front().value), i);
     std::sort(imported.begin(), imported.end());
