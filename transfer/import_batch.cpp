@@ -62,6 +62,11 @@ void ImportBatch::CutLine(const char16_t* begin, std::vector<QStringView>& field
     }
 }
 
+QStringView ImportBatch::NameOf(const Line& line) const
+{
+    return { m_text.data() + line.nameBegin, static_cast<qsizetype>(line.nameLength) };
+}
+
 quint64 ImportBatch::KeyOf(const Line& line, quint32 depth) const
 {
     quint64 key = 0;
@@ -72,8 +77,20 @@ quint64 ImportBatch::KeyOf(const Line& line, quint32 depth) const
     return key;
 }
 
+void ImportBatch::SortWhole(std::span<Line> lines, quint32 depth) const
+{
+    std::ranges::sort(lines, [this, depth](const Line& a, const Line& b) {
+        const int order = NameOf(a).mid(depth).compare(NameOf(b).mid(depth));
+        return order != 0 ? order < 0 : a.begin < b.begin;
+    });
+}
+
 void ImportBatch::SortByName(std::span<Line> lines, quint32 depth) const
 {
+    // Names that are equal for so long are few, or equal to their end.
+    constexpr quint32 kMaxDepth = 16 * kKeyUnits;
+    if (depth >= kMaxDepth)
+        return SortWhole(lines, depth);
     for (Line& line : lines)
         line.key = KeyOf(line, depth);
     std::ranges::sort(lines, [](const Line& a, const Line& b) {

@@ -67,6 +67,9 @@ private:
 
     /// Sorts lines whose names are equal in their first `depth` units.
     void SortByName(std::span<Line> lines, quint32 depth) const;
+    /// As SortByName, comparing the names themselves.
+    void SortWhole(std::span<Line> lines, quint32 depth) const;
+    [[nodiscard]] QStringView NameOf(const Line& line) const;
     [[nodiscard]] quint64 KeyOf(const Line& line, quint32 depth) const;
 };
 
