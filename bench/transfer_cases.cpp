@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <malloc.h>
 #include <utility>
 
 namespace Quillory {
@@ -199,6 +200,8 @@ double PeakMegabytes(const QStringList& command)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
     std::fflush(nullptr);
+    // What this process holds and does not use would count as the child's.
+    malloc_trim(0);
     const pid_t process = fork();
     if (process == 0) {
         freopen("/dev/null", "w", stdout);
