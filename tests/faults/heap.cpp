@@ -1,29 +1,19 @@
+#include "tests/faults/allocations.h"
 #include "tests/faults/doomed_process.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <new>
-#include <random>
 
 namespace Quillory {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr size_t kScriptLength = 40;
 /// Steps among whose allocations the failing one is.
 constexpr size_t kSteps = 3;
 
-/// What `operator new` has, of which there can be nothing from an allocation on.
-struct Heap
-{
-    int count = 0;
-    /// The allocation that fails; 0 for none.
-    int failing = 0;
-    bool isForGood = false;
-};
-Heap theHeap;
+/// Those of `operator new`.
+Allocations theHeap;
 
 int CountAllocations(const FaultRun& run, const Script& script, size_t step)
 {
@@ -40,48 +30,35 @@ int CountAllocations(const FaultRun& run, const Script& script, size_t step)
 
 /// Ends as the command line does: what is open is closed while the exception passes by. Where it
 /// cannot pass, and where Qt does not survive it, the program dies, which is as if it were killed.
-void ExhaustAt(FaultRun& run, const Script& script, size_t step, int allocation, bool isForGood)
+Verdict ExhaustAt(
+    const FaultRun& run, const Script& script, size_t step, const Allocations& failing)
 {
     const Doom doom = RunDoomed(run, script, step, [&](const auto& work) {
         // Where it is told that the exception could not pass.
         if (std::freopen("/dev/null", "w", stderr) == nullptr)
             return;
-        theHeap = { 0, allocation, isForGood };
+        theHeap = failing;
         try {
             work();
         } catch (const std::bad_alloc&) {
             theHeap = {};
         }
     });
-    run.Count();
-    const Files left = run.Taken();
-    const QString wrong = Judge(run, script, doom.acknowledged);
-    if (!wrong.isEmpty())
-        run.Blame(u"step %1, allocation %2%3: "_s.arg(step + 1)
-                      .arg(allocation)
-                      .arg(isForGood ? u" and all after it"_s : QString())
-                + wrong,
-            left);
+    return [&run, &script, acknowledged = doom.acknowledged] {
+        return Judge(run, script, acknowledged);
+    };
 }
 
 } // namespace
 
 void ExhaustHeap(FaultRun& run)
 {
-    std::mt19937 random(run.Seed());
-    const Script script = MakeScript(run.Seed(), kScriptLength);
-    const std::vector<Files> stages = MakeStages(run, script);
-    std::vector<int> counts;
-    for (size_t step = 0; step < script.steps.size(); ++step) {
-        run.Place(stages[step]);
-        counts.push_back(CountAllocations(run, script, step));
-    }
-    while (run.CountSoFar() < run.Runs()) {
-        const size_t step = static_cast<size_t>(run.CountSoFar()) % script.steps.size();
-        const int allocation = 1 + static_cast<int>(random() % static_cast<quint32>(counts[step]));
-        run.Place(stages[step]);
-        ExhaustAt(run, script, step, allocation, random() % 4 == 0);
-    }
+    ExhaustAllocations(
+        run,
+        [&run](const Script& script, size_t step) { return CountAllocations(run, script, step); },
+        [&run](const Script& script, size_t step, const Allocations& failing) {
+            return ExhaustAt(run, script, step, failing);
+        });
 }
 
 } // namespace Quillory
@@ -90,12 +67,8 @@ void ExhaustHeap(FaultRun& run)
 
 void* operator new(size_t size)
 {
-    using Quillory::theHeap;
-    ++theHeap.count;
-    const bool isFailing = theHeap.failing != 0
-        && (theHeap.isForGood ? theHeap.count >= theHeap.failing
-                              : theHeap.count == theHeap.failing);
-    void* memory = isFailing ? nullptr : std::malloc(size == 0 ? 1 : size);
+    const bool isThereSome = Quillory::theHeap.IsThereSome();
+    void* memory = isThereSome ? std::malloc(size == 0 ? 1 : size) : nullptr;
     if (memory == nullptr)
         throw std::bad_alloc();
     return memory;

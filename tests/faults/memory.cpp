@@ -1,33 +1,21 @@
+#include "tests/faults/allocations.h"
 #include "tests/faults/believer.h"
-#include "tests/faults/fault_run.h"
 
 #include <sqlite3.h>
 
-#include <random>
+#include <memory>
 
 namespace Quillory {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr size_t kScriptLength = 40;
 constexpr size_t kStepsAfter = 3;
 
-/// SQLite's memory, of which there can be none from an allocation on.
+/// SQLite's memory.
 struct Memory
 {
     sqlite3_mem_methods real {};
-    int count = 0;
-    /// The allocation that fails; 0 for none.
-    int failing = 0;
-    bool isForGood = false;
-
-    [[nodiscard]] bool IsThereSome()
-    {
-        ++count;
-        return failing == 0 || (isForGood ? count < failing : count != failing);
-    }
+    Allocations allocations;
 };
 
 Memory& TheMemory()
@@ -38,12 +26,13 @@ Memory& TheMemory()
 
 void* Allocate(int size)
 {
-    return TheMemory().IsThereSome() ? TheMemory().real.xMalloc(size) : nullptr;
+    return TheMemory().allocations.IsThereSome() ? TheMemory().real.xMalloc(size) : nullptr;
 }
 
 void* Reallocate(void* memory, int size)
 {
-    return TheMemory().IsThereSome() ? TheMemory().real.xRealloc(memory, size) : nullptr;
+    return TheMemory().allocations.IsThereSome() ? TheMemory().real.xRealloc(memory, size)
+                                                 : nullptr;
 }
 
 /// Before SQLite is used for the first time.
@@ -57,39 +46,25 @@ void TakeOverMemory()
         qFatal("SQLite keeps its own memory");
 }
 
-void Arm(int failing, bool isForGood)
-{
-    TheMemory().count = 0;
-    TheMemory().failing = failing;
-    TheMemory().isForGood = isForGood;
-}
-
 int CountAllocations(const FaultRun& run, const Script& script, size_t step)
 {
-    Arm(0, false);
+    TheMemory().allocations = {};
     Believer believer(run.DataFile(), script, step);
     believer.Run(1);
-    return TheMemory().count;
+    return TheMemory().allocations.count;
 }
 
-void ExhaustAt(FaultRun& run, const Script& script, size_t step, const Files& files, int allocation,
-    bool isForGood)
+Verdict ExhaustAt(
+    const FaultRun& run, const Script& script, size_t step, const Allocations& failing)
 {
-    run.Place(files);
-    Believer believer(run.DataFile(), script, step);
-    Arm(allocation, isForGood);
-    believer.Run(kStepsAfter);
-    believer.End();
-    Arm(0, false);
-    run.Count();
-    const Files left = run.Taken();
-    const QString wrong = isForGood ? believer.JudgeWithDoubt() : believer.Judge();
-    if (!wrong.isEmpty())
-        run.Blame(u"step %1, allocation %2%3: "_s.arg(step + 1)
-                      .arg(allocation)
-                      .arg(isForGood ? u" and all after it"_s : QString())
-                + wrong,
-            left);
+    const auto believer = std::make_shared<Believer>(run.DataFile(), script, step);
+    TheMemory().allocations = failing;
+    believer->Run(kStepsAfter);
+    believer->End();
+    TheMemory().allocations = {};
+    return [believer, isDoubtAllowed = failing.isForGood] {
+        return isDoubtAllowed ? believer->JudgeWithDoubt() : believer->Judge();
+    };
 }
 
 } // namespace
@@ -97,19 +72,12 @@ void ExhaustAt(FaultRun& run, const Script& script, size_t step, const Files& fi
 void ExhaustMemory(FaultRun& run)
 {
     TakeOverMemory();
-    std::mt19937 random(run.Seed());
-    const Script script = MakeScript(run.Seed(), kScriptLength);
-    const std::vector<Files> stages = MakeStages(run, script);
-    std::vector<int> counts;
-    for (size_t step = 0; step < script.steps.size(); ++step) {
-        run.Place(stages[step]);
-        counts.push_back(CountAllocations(run, script, step));
-    }
-    while (run.CountSoFar() < run.Runs()) {
-        const size_t step = static_cast<size_t>(run.CountSoFar()) % script.steps.size();
-        const int allocation = 1 + static_cast<int>(random() % static_cast<quint32>(counts[step]));
-        ExhaustAt(run, script, step, stages[step], allocation, random() % 4 == 0);
-    }
+    ExhaustAllocations(
+        run,
+        [&run](const Script& script, size_t step) { return CountAllocations(run, script, step); },
+        [&run](const Script& script, size_t step, const Allocations& failing) {
+            return ExhaustAt(run, script, step, failing);
+        });
 }
 
 } // namespace Quillory
