@@ -29,11 +29,8 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override
     {
-        // The selected line says where the keyboard is; a focus mark over it would dim its text.
-        QStyleOptionViewItem plain = option;
-        plain.state.setFlag(QStyle::State_HasFocus, false);
         // With the icon, which lines of mere text have not.
-        QStyledItemDelegate::paint(painter, plain, index); // NOLINT(bugprone-parent-virtual-call)
+        QStyledItemDelegate::paint(painter, option, index); // NOLINT(bugprone-parent-virtual-call)
         DrawHairline(*painter, option);
     }
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override

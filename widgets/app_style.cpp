@@ -3,6 +3,7 @@
 #include "widgets/icon_set.h"
 #include "widgets/measures.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QPainter>
 #include <QStyleOption>
@@ -53,14 +54,6 @@ public:
         return { QStyledItemDelegate::sizeHint(option, index).width(),
             CurrentMeasures().lineHeight };
     }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        // The selection tells where the focus is; a frame would shade it.
-        option->state.setFlag(QStyle::State_HasFocus, false);
-    }
 };
 
 } // namespace
@@ -93,7 +86,9 @@ void AppStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* optio
         DrawCheckbox(*painter, *option);
     else if (element == PE_IndicatorRadioButton)
         DrawRadio(*painter, *option);
-    else
+    // The selected line of a list tells where the focus is; a frame over it would shade its text.
+    else if (element != PE_FrameFocusRect
+        || qobject_cast<const QAbstractItemView*>(widget) == nullptr)
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
