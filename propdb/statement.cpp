@@ -7,6 +7,7 @@
 
 #include <sqlite3.h>
 
+#include <span>
 #include <utility>
 
 namespace Quillory {
@@ -103,12 +104,18 @@ void Statement::Bind(int parameter, QStringView text)
     if (nul >= 0)
         text.truncate(nul);
     // Files hold text big-endian, so that comparing bytes compares units.
-    QVarLengthArray<char16_t, 256> units(text.size());
-    qToBigEndian<quint16>(text.utf16(), text.size(), units.data());
-    NoteBinding(sqlite3_bind_text64(m_statement, parameter,
-        reinterpret_cast<const char*>(units.constData()),
-        static_cast<sqlite3_uint64>(text.size()) * sizeof(char16_t), SQLITE_TRANSIENT,
-        SQLITE_UTF16BE));
+    constexpr QChar kMark = u'\uFEFF';
+    QVarLengthArray<char16_t, 256> units(1 + text.size());
+    units[0] = qToBigEndian(kMark.unicode());
+    qToBigEndian<quint16>(text.utf16(), text.size(), units.data() + 1);
+    // SQLite takes a byte-order mark at the front for its own and leaves it out or, where the mark
+    // is turned round, turns the whole text. One more in front of it keeps such a text as it is.
+    constexpr QChar kTurnedMark = u'\uFFFE';
+    const bool needsMark = text.startsWith(kMark) || text.startsWith(kTurnedMark);
+    const auto bound = std::span(units).subspan(needsMark ? 0 : 1);
+    NoteBinding(
+        sqlite3_bind_text64(m_statement, parameter, reinterpret_cast<const char*>(bound.data()),
+            bound.size_bytes(), SQLITE_TRANSIENT, SQLITE_UTF16BE));
 }
 
 void Statement::BindNull(int parameter)

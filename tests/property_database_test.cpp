@@ -83,6 +83,7 @@ class PropertyDatabaseTest : public QObject
 private Q_SLOTS:
     void valuesComeBackAsTheyWereWritten_data();
     void valuesComeBackAsTheyWereWritten();
+    void textMayBeginWithAByteOrderMark();
     void recordsAreSortedByUnitWithMissingKeysLast();
     void equalKeysKeepTheOrderOfTheirIdentifiers();
     void aWalkSurvivesWritesUnderIt();
@@ -134,6 +135,18 @@ void PropertyDatabaseTest::valuesComeBackAsTheyWereWritten()
     QVERIFY(actual == expected);
     if (const auto* number = std::get_if<double>(&actual))
         QCOMPARE(std::signbit(*number), std::signbit(std::get<double>(expected)));
+}
+
+void PropertyDatabaseTest::textMayBeginWithAByteOrderMark()
+{
+    Rows rows;
+    const QChar mark(0xFEFF);
+    const QChar turned(0xFFFE);
+    for (const QString& text : { QString(mark), mark + u"rice"_s, turned + u"rice"_s,
+             QString(mark) + mark, turned + u""_s + mark, u"rice"_s + mark }) {
+        const ObjectId oid = rows.Add({ Text(text) });
+        QCOMPARE(std::get<QString>(rows.Value(oid, kName)), text);
+    }
 }
 
 void PropertyDatabaseTest::recordsAreSortedByUnitWithMissingKeysLast()
