@@ -46,12 +46,10 @@ QString TextFile(int rows)
     Require(file.open(QIODevice::WriteOnly), "cannot make the text file");
     file.write("\xff\xfe");
     for (int i = 0; i < rows; ++i) {
-        QString line;
-        for (const PropertyValue& value : BenchRow(list.Definition(), i)) {
-            line += line.isEmpty() ? QString() : u"\t"_s;
-            AppendExportText(line, value, Context());
-        }
-        line += u"\r\n"_s;
+        QStringList fields;
+        for (const PropertyValue& value : BenchRow(list.Definition(), i))
+            fields += FormatExportText(value, Context());
+        const QString line = fields.join(u'\t') + u"\r\n"_s;
         file.write(reinterpret_cast<const char*>(line.utf16()), line.size() * 2);
     }
     return path;

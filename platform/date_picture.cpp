@@ -68,66 +68,40 @@ template <typename Visit> bool VisitPicture(QStringView picture, Visit visit)
     return true;
 }
 
-/// Gathers a short text, so that the line it goes to grows once.
-class TextBuffer
+void AppendText(std::u16string& line, QStringView text)
 {
-public:
-    explicit TextBuffer(QString& line)
-        : m_line(line)
-    { }
+    line.append(text.utf16(), static_cast<std::size_t>(text.size()));
+}
 
-    void Add(QChar unit)
-    {
-        if (m_count == m_units.size()) {
-            Flush();
-        }
-        m_units.at(m_count++) = unit;
-    }
-    void Add(QStringView text)
-    {
-        for (const QChar unit : text) {
-            Add(unit);
-        }
-    }
-    void AddNumber(int number, int minDigits)
-    {
-        std::array<QChar, 10> digits;
-        auto first = digits.end();
-        int left = number;
-        do {
-            *--first = QChar(static_cast<char16_t>(u'0' + left % 10));
-            left /= 10;
-        } while (left > 0 || digits.end() - first < minDigits);
-        Add(QStringView(first, digits.end()));
-    }
-    void Flush()
-    {
-        m_line.append(m_units.data(), static_cast<qsizetype>(m_count));
-        m_count = 0;
-    }
+void AppendNumber(std::u16string& line, int number, int minDigits)
+{
+    std::array<char16_t, 10> digits;
+    auto first = digits.end();
+    int left = number;
+    do {
+        *--first = static_cast<char16_t>(u'0' + left % 10);
+        left /= 10;
+    } while (left > 0 || digits.end() - first < minDigits);
+    line.append(first, static_cast<std::size_t>(digits.end() - first));
+}
 
-private:
-    QString& m_line;
-    std::array<QChar, 24> m_units;
-    std::size_t m_count = 0;
-};
-
-void AddMonth(TextBuffer& text, int month, int count, const LocaleProfile& locale)
+void AppendMonth(std::u16string& line, int month, int count, const LocaleProfile& locale)
 {
     const auto index = static_cast<std::size_t>(month - 1);
     if (count <= 2) {
-        text.AddNumber(month, count);
+        AppendNumber(line, month, count);
     } else {
-        text.Add(count == 3 ? locale.shortMonthNames.at(index) : locale.monthNames.at(index));
+        AppendText(
+            line, count == 3 ? locale.shortMonthNames.at(index) : locale.monthNames.at(index));
     }
 }
 
-void AddYear(TextBuffer& text, int year, int count)
+void AppendYear(std::u16string& line, int year, int count)
 {
     if (count <= 2) {
-        text.AddNumber(year % 100, count);
+        AppendNumber(line, year % 100, count);
     } else {
-        text.AddNumber(year, 4);
+        AppendNumber(line, year, 4);
     }
 }
 
@@ -232,7 +206,7 @@ private:
 
 } // namespace
 
-void AppendDateText(QString& line, QDate date, const LocaleProfile& locale)
+void AppendDateText(std::u16string& line, QDate date, const LocaleProfile& locale)
 {
     int year = 0;
     int month = 0;
@@ -241,32 +215,30 @@ void AppendDateText(QString& line, QDate date, const LocaleProfile& locale)
     if (year < kFirstYear) {
         return;
     }
-    TextBuffer text(line);
     VisitPicture(locale.shortDatePicture, [&](const PictureToken& token) {
         switch (token.kind) {
         case PictureToken::Kind::Literal:
-            text.Add(token.literal);
+            line.push_back(token.literal.unicode());
             break;
         case PictureToken::Kind::Day:
-            text.AddNumber(day, std::min(token.count, 2));
+            AppendNumber(line, day, std::min(token.count, 2));
             break;
         case PictureToken::Kind::Month:
-            AddMonth(text, month, token.count, locale);
+            AppendMonth(line, month, token.count, locale);
             break;
         case PictureToken::Kind::Year:
-            AddYear(text, year + locale.yearOffset, token.count);
+            AppendYear(line, year + locale.yearOffset, token.count);
             break;
         }
         return true;
     });
-    text.Flush();
 }
 
 QString DateText(QDate date, const LocaleProfile& locale)
 {
-    QString text;
+    std::u16string text;
     AppendDateText(text, date, locale);
-    return text;
+    return QString::fromStdU16String(text);
 }
 
 std::optional<QDate> ReadDateByPicture(

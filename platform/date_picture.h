@@ -6,6 +6,7 @@
 #include <QStringView>
 
 #include <optional>
+#include <string>
 
 namespace Quillory {
 
@@ -19,9 +20,9 @@ enum class DigitCount
 };
 
 /// Appends the short form of a date. Only years from 1601 on have one; for others, and for an
-/// invalid date, nothing is appended. Needs no memory of its own, so that it can be called for
-/// every row of a long list.
-void AppendDateText(QString& line, QDate date, const LocaleProfile& locale);
+/// invalid date, nothing is appended. Called for every row of a long list: appending to a string of
+/// the library's costs a fraction of what it costs with one of Qt's.
+void AppendDateText(std::u16string& line, QDate date, const LocaleProfile& locale);
 [[nodiscard]] QString DateText(QDate date, const LocaleProfile& locale);
 
 /// The date from 1601 to 9999 that `text`, from its first to its last character, writes in the

@@ -1,7 +1,5 @@
 #include "platform/number_text.h"
 
-#include <QLatin1StringView>
-
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -37,13 +35,12 @@ quint64 RoundedProduct(double value, quint64 factor)
 }
 
 /// Appends hundredths as a number with two decimals.
-void AppendHundredths(QString& line, quint64 hundredths, bool isNegative)
+void AppendHundredths(std::u16string& line, quint64 hundredths, bool isNegative)
 {
-    std::array<QChar, 24> text;
+    std::array<char16_t, 24> text;
     auto first = text.end();
     quint64 left = hundredths;
-    const auto prepend
-        = [&](quint64 digit) { *--first = QChar(static_cast<char16_t>(u'0' + digit)); };
+    const auto prepend = [&](quint64 digit) { *--first = static_cast<char16_t>(u'0' + digit); };
     for (int i = 0; i < kDecimals; ++i) {
         prepend(left % 10);
         left /= 10;
@@ -56,25 +53,26 @@ void AppendHundredths(QString& line, quint64 hundredths, bool isNegative)
     if (isNegative) {
         *--first = u'-';
     }
-    line.append(first, text.end() - first);
+    line.append(first, static_cast<size_t>(text.end() - first));
 }
 
-void AppendWhole(QString& line, double value)
+void AppendWhole(std::u16string& line, double value)
 {
     constexpr int kDigitsAfterFirst = 16;
     std::array<char, 32> text {};
     // No whole double lies half-way between two numbers of 17 digits: this rounding is exact.
-    const char* const end = std::to_chars(text.data(), text.data() + text.size(), value,
+    char* const end = std::to_chars(text.data(), text.data() + text.size(), value,
         std::chars_format::scientific, kDigitsAfterFirst)
-                                .ptr;
-    const char* const mark = std::find<const char*>(text.data(), end, 'e');
-    qsizetype exponent = 0;
+                          .ptr;
+    char* const mark = std::find(text.data(), end, 'e');
+    size_t exponent = 0;
     std::from_chars(mark + 2, end, exponent);
-    QString digits = QString::fromLatin1(text.data(), mark - text.data());
-    digits.remove(u'.');
-    line.append(QStringView(digits).left(exponent + 1));
-    line.append(QString(std::max<qsizetype>(exponent + 1 - digits.size(), 0), u'0'));
-    line.append(".00"_L1);
+    char* const digitsEnd = std::remove(text.data(), mark, '.');
+    const auto digits = static_cast<size_t>(digitsEnd - text.data());
+    for (size_t i = 0; i <= exponent; ++i) {
+        line.push_back(i < digits ? static_cast<char16_t>(text.at(i)) : u'0');
+    }
+    line.append(u".00");
 }
 
 /// A plain number taken apart.
@@ -165,10 +163,10 @@ QString WithSign(const QString& number, int negativeForm)
 
 } // namespace
 
-void AppendTwoDecimals(QString& line, double value)
+void AppendTwoDecimals(std::u16string& line, double value)
 {
     if (std::isnan(value)) {
-        line.append("1.#R"_L1);
+        line.append(u"1.#R");
         return;
     }
     const bool isNegative = std::signbit(value);
@@ -182,10 +180,10 @@ void AppendTwoDecimals(QString& line, double value)
         return;
     }
     if (isNegative) {
-        line.append(u'-');
+        line.push_back(u'-');
     }
     if (std::isinf(value)) {
-        line.append("1.#J"_L1);
+        line.append(u"1.#J");
     } else {
         AppendWhole(line, magnitude);
     }
@@ -193,9 +191,9 @@ void AppendTwoDecimals(QString& line, double value)
 
 QString TwoDecimals(double value)
 {
-    QString text;
+    std::u16string text;
     AppendTwoDecimals(text, value);
-    return text;
+    return QString::fromStdU16String(text);
 }
 
 std::optional<QString> FormatNumber(

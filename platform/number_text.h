@@ -6,6 +6,7 @@
 #include <QStringView>
 
 #include <optional>
+#include <string>
 
 namespace Quillory {
 
@@ -15,7 +16,7 @@ constexpr qsizetype kMaxNumberTextLength = 259;
 /// Appends a number with a point and two decimals. The exact value is rounded, halves away from
 /// zero; after 17 significant digits zeros follow. A negative number that rounds to zero keeps its
 /// sign. Infinity is 1.#J or -1.#J, and what is no number 1.#R.
-void AppendTwoDecimals(QString& line, double value);
+void AppendTwoDecimals(std::u16string& line, double value);
 [[nodiscard]] QString TwoDecimals(double value);
 
 /// Writes a plain number (a minus first, digits, one point) in the locale's form: two decimals,

@@ -94,6 +94,8 @@ Result<ObjectId> Database::SeekFirst()
 
 Result<ObjectId> Database::SeekNext(int n)
 {
+    if (n == 1)
+        return m_state->cursor.Step(WalkDirection::Forward);
     const auto direction = n < 0 ? WalkDirection::Backward : WalkDirection::Forward;
     Result<ObjectId> place = m_state->cursor.Current();
     for (int i = 0; i != n; i += n < 0 ? -1 : 1) {

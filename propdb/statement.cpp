@@ -176,22 +176,17 @@ bool Statement::Bind(int parameter, const PropertyValue& value)
 
 bool Statement::Next()
 {
-    sqlite3* connection = sqlite3_db_handle(m_statement);
-    if (m_bindCode != SQLITE_OK) {
-        Finish(ErrorFromSqlite(std::exchange(m_bindCode, SQLITE_OK), connection));
-        return false;
-    }
-    const int code = sqlite3_step(m_statement);
+    const int code = m_bindCode == SQLITE_OK ? sqlite3_step(m_statement)
+                                             : std::exchange(m_bindCode, SQLITE_OK);
     if (code == SQLITE_ROW)
         return true;
-    Finish(code == SQLITE_DONE ? ErrorNumber::None
-                               : ErrorFromSqlite(sqlite3_extended_errcode(connection), connection));
+    Finish(code);
     return false;
 }
 
-void Statement::Finish(ErrorNumber error)
+void Statement::Finish(int code)
 {
-    m_error = error;
+    m_error = ErrorFromSqlite(code, sqlite3_db_handle(m_statement));
     sqlite3_reset(m_statement);
 }
 

@@ -70,7 +70,7 @@ private:
     ErrorNumber m_error = ErrorNumber::None;
 
     void NoteBinding(int code);
-    void Finish(ErrorNumber error);
+    void Finish(int code);
 };
 
 /// Runs SQL without parameters and without rows, one statement or several.

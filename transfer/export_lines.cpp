@@ -4,8 +4,6 @@
 
 namespace Quillory {
 
-using namespace Qt::StringLiterals;
-
 ExportLineBuilder::ExportLineBuilder(const InventoryList& list, const ValueContext& context)
     : m_context(context)
     , m_valueLimit(list.columnOrder.size())
@@ -17,24 +15,24 @@ ExportLineBuilder::ExportLineBuilder(const InventoryList& list, const ValueConte
     }
 }
 
-void ExportLineBuilder::AppendLine(QString& text, std::span<const PropertyValue> values)
+void ExportLineBuilder::AppendLine(std::u16string& text, std::span<const PropertyValue> values)
 {
     FindValues(values);
-    qsizetype start = text.size();
-    qsizetype length = 0;
+    size_t start = text.size();
+    size_t length = 0;
     for (size_t i = 0; i < m_fields.size(); ++i) {
         if (i > 0)
-            text.append(QChar(kFieldSeparator));
+            text.push_back(kFieldSeparator);
         const size_t column = m_fields[i];
-        const qsizetype next = text.size();
+        const size_t next = text.size();
         if (m_isThere[column] != 0)
             AppendExportText(text, values[column], m_context);
         else
-            text.append(text.mid(start, length));
+            text.append(text, start, length);
         start = next;
         length = text.size() - next;
     }
-    text.append(u"\r\n"_s);
+    text.append(u"\r\n");
 }
 
 /// A row's record holds what the row has and nothing else; what stands in it beyond the limit

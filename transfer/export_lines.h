@@ -3,9 +3,8 @@
 #include "store/inventory_list.h"
 #include "values/value_text.h"
 
-#include <QString>
-
 #include <span>
+#include <string>
 #include <vector>
 
 namespace Quillory {
@@ -19,7 +18,7 @@ public:
 
     /// Appends the line of a row with its end. `values` has one entry per column of the list, in
     /// their order.
-    void AppendLine(QString& text, std::span<const PropertyValue> values);
+    void AppendLine(std::u16string& text, std::span<const PropertyValue> values);
 
 private:
     const ValueContext& m_context;

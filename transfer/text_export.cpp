@@ -4,6 +4,7 @@
 
 #include <QtEndian>
 
+#include <string>
 #include <vector>
 
 namespace Quillory {
@@ -11,7 +12,7 @@ namespace Quillory {
 namespace {
 
 /// Units of text that are gathered before they are written.
-constexpr qsizetype kChunkUnits = 32'768;
+constexpr size_t kChunkUnits = 32'768;
 
 /// Gathers text and writes it in chunks. After a failed write it goes on with the next chunk.
 class ChunkWriter
@@ -21,11 +22,11 @@ public:
         : m_target(target)
     {
         m_text.reserve(2 * kChunkUnits);
-        m_text.append(QChar::ByteOrderMark);
+        m_text.push_back(QChar::ByteOrderMark);
     }
 
     /// What was not written yet; lines are appended to it.
-    [[nodiscard]] QString& Text() { return m_text; }
+    [[nodiscard]] std::u16string& Text() { return m_text; }
     void EndRow()
     {
         ++m_rows;
@@ -34,12 +35,13 @@ public:
     }
     void Flush()
     {
-        qToLittleEndian<quint16>(m_text.utf16(), m_text.size(), m_text.data());
-        if (Write(reinterpret_cast<const char*>(m_text.constData()),
-                m_text.size() * qsizetype { sizeof(char16_t) }))
+        const auto units = static_cast<qsizetype>(m_text.size());
+        qToLittleEndian<quint16>(m_text.data(), units, m_text.data());
+        if (Write(reinterpret_cast<const char*>(m_text.data()),
+                units * qsizetype { sizeof(char16_t) }))
             m_writtenRows += m_rows;
         m_rows = 0;
-        m_text.resize(0);
+        m_text.clear();
     }
 
     [[nodiscard]] qint64 WrittenRows() const { return m_writtenRows; }
@@ -47,7 +49,7 @@ public:
 
 private:
     QIODevice& m_target;
-    QString m_text;
+    std::u16string m_text;
     qint64 m_rows = 0;
     qint64 m_writtenRows = 0;
     QString m_failure;

@@ -23,17 +23,12 @@ template <typename T> const T* Held(const PropertyValue* property)
     return isHeld ? std::get_if<T>(&property->value) : nullptr;
 }
 
-void AppendInteger(QString& line, qint32 value)
+void AppendInteger(std::u16string& line, qint32 value)
 {
     std::array<char, 12> text {};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
-    line.append(QLatin1StringView(text.data(), end));
-}
-
-void AppendDate(QString& line, FileTime time, const ValueContext& context)
-{
-    if (const auto date = FileTimeToDate(time)) {
-        AppendDateText(line, *date, context.systemLocale);
+    for (const char* unit = text.data(); unit != end; ++unit) {
+        line.push_back(static_cast<char16_t>(*unit));
     }
 }
 
@@ -51,7 +46,7 @@ QString FormatText(const PropertyValue* value, PropertyId column, const ValueCon
     switch (ColumnTypeOf(column)) {
     case ColumnType::Integer:
         if (const auto* const number = Held<qint32>(value)) {
-            AppendInteger(text, *number);
+            text = QString::number(*number);
         }
         break;
     case ColumnType::Price:
@@ -61,7 +56,8 @@ QString FormatText(const PropertyValue* value, PropertyId column, const ValueCon
         break;
     case ColumnType::Date:
         if (const auto* const time = Held<FileTime>(value)) {
-            AppendDate(text, *time, context);
+            const auto date = FileTimeToDate(*time);
+            text = date ? DateText(*date, context.systemLocale) : QString();
         }
         break;
     case ColumnType::String:
@@ -101,23 +97,25 @@ QString FormatEditText(const PropertyValue* value, PropertyId column, const Valu
 
 QString FormatExportText(const PropertyValue& value, const ValueContext& context)
 {
-    QString text;
+    std::u16string text;
     AppendExportText(text, value, context);
-    return text;
+    return QString::fromStdU16String(text);
 }
 
-void AppendExportText(QString& line, const PropertyValue& value, const ValueContext& context)
+void AppendExportText(std::u16string& line, const PropertyValue& value, const ValueContext& context)
 {
     if (const auto* const text = Held<QString>(&value)) {
-        line.append(*text);
+        line.append(QStringView(*text).utf16(), static_cast<std::size_t>(text->size()));
     } else if (const auto* const number = Held<qint32>(&value)) {
         AppendInteger(line, *number);
     } else if (const auto* const price = Held<double>(&value)) {
         AppendTwoDecimals(line, *price);
     } else if (const auto* const time = Held<FileTime>(&value)) {
-        AppendDate(line, *time, context);
+        if (const auto date = FileTimeToDate(*time)) {
+            AppendDateText(line, *date, context.systemLocale);
+        }
     } else if (const auto* const isChecked = Held<bool>(&value)) {
-        line.append(*isChecked ? u'Y' : u'N');
+        line.push_back(*isChecked ? u'Y' : u'N');
     }
 }
 

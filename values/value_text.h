@@ -8,6 +8,7 @@
 #include <QStringView>
 
 #include <optional>
+#include <string>
 
 namespace Quillory {
 
@@ -38,7 +39,8 @@ struct ValueContext
 /// The text of a value in an export file: prices with a point and two decimals, "Y" or "N".
 [[nodiscard]] QString FormatExportText(const PropertyValue& value, const ValueContext& context);
 /// As FormatExportText, appended to `line` without a string of its own.
-void AppendExportText(QString& line, const PropertyValue& value, const ValueContext& context);
+void AppendExportText(
+    std::u16string& line, const PropertyValue& value, const ValueContext& context);
 
 /// What a text typed for a column stores; nothing for a date that cannot be read. Integers are read
 /// by LeadingInteger, prices by ParsePriceText; a checkbox is checked unless the text is exactly

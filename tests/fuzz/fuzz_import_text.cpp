@@ -155,10 +155,10 @@ QString Export(const std::vector<Row>& rows, const Way& way)
         list.columns.push_back({ {}, 0, column });
     list.columnOrder = NaturalColumnOrder(list);
     ExportLineBuilder builder(list, way.context);
-    QString text(QChar::ByteOrderMark);
+    std::u16string text(1, QChar::ByteOrderMark);
     for (const Row& row : rows)
         builder.AppendLine(text, row);
-    return text;
+    return QString::fromStdU16String(text);
 }
 
 } // namespace
