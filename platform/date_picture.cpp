@@ -1,7 +1,6 @@
 #include "platform/date_picture.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Quillory {
 
@@ -75,14 +74,10 @@ void AppendText(std::u16string& line, QStringView text)
 
 void AppendNumber(std::u16string& line, int number, int minDigits)
 {
-    std::array<char16_t, 10> digits;
-    auto first = digits.end();
-    int left = number;
-    do {
-        *--first = static_cast<char16_t>(u'0' + left % 10);
-        left /= 10;
-    } while (left > 0 || digits.end() - first < minDigits);
-    line.append(first, static_cast<std::size_t>(digits.end() - first));
+    if (number >= 10 || minDigits > 1) {
+        AppendNumber(line, number / 10, minDigits - 1);
+    }
+    line.push_back(static_cast<char16_t>(u'0' + number % 10));
 }
 
 void AppendMonth(std::u16string& line, int month, int count, const LocaleProfile& locale)
@@ -238,7 +233,7 @@ QString DateText(QDate date, const LocaleProfile& locale)
 {
     std::u16string text;
     AppendDateText(text, date, locale);
-    return QString::fromStdU16String(text);
+    return QStringView(text).toString();
 }
 
 std::optional<QDate> ReadDateByPicture(

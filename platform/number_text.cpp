@@ -193,7 +193,7 @@ QString TwoDecimals(double value)
 {
     std::u16string text;
     AppendTwoDecimals(text, value);
-    return QString::fromStdU16String(text);
+    return QStringView(text).toString();
 }
 
 std::optional<QString> FormatNumber(

@@ -163,7 +163,7 @@ void ValueTextTest::everyDestinationHasItsText()
     QCOMPARE(FormatExportText(value, context), exported);
     std::u16string line = u"before";
     AppendExportText(line, value, context);
-    QCOMPARE(QString::fromStdU16String(line), u"before"_s + exported);
+    QCOMPARE(QStringView(line), u"before"_s + exported);
 }
 
 void ValueTextTest::aMissingValueIsEmptyOrUnchecked()

@@ -99,7 +99,8 @@ QString FormatExportText(const PropertyValue& value, const ValueContext& context
 {
     std::u16string text;
     AppendExportText(text, value, context);
-    return QString::fromStdU16String(text);
+    // Not fromStdU16String(), which takes a first character for a byte-order mark.
+    return QStringView(text).toString();
 }
 
 void AppendExportText(std::u16string& line, const PropertyValue& value, const ValueContext& context)

@@ -158,7 +158,7 @@ QString Export(const std::vector<Row>& rows, const Way& way)
     std::u16string text(1, QChar::ByteOrderMark);
     for (const Row& row : rows)
         builder.AppendLine(text, row);
-    return QString::fromStdU16String(text);
+    return TextOf(text);
 }
 
 } // namespace
