@@ -161,9 +161,6 @@ void ValueTextTest::everyDestinationHasItsText()
     QCOMPARE(FormatCellText(&value, value.id, context), cell);
     QCOMPARE(FormatEditText(&value, value.id, context), edit);
     QCOMPARE(FormatExportText(value, context), exported);
-    std::u16string line = u"before";
-    AppendExportText(line, value, context);
-    QCOMPARE(QStringView(line), u"before"_s + exported);
 }
 
 void ValueTextTest::aMissingValueIsEmptyOrUnchecked()

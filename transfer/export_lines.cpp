@@ -9,15 +9,17 @@ ExportLineBuilder::ExportLineBuilder(const InventoryList& list, const ValueConte
     , m_valueLimit(list.columnOrder.size())
     , m_isThere(list.columns.size())
 {
+    for (const ColumnDefinition& column : list.columns)
+        m_columns.push_back(column.id);
     for (const quint32 index : list.columnOrder) {
         if (index < list.columns.size())
             m_fields.push_back(index);
     }
 }
 
-void ExportLineBuilder::AppendLine(std::u16string& text, std::span<const PropertyValue> values)
+void ExportLineBuilder::AppendLine(std::u16string& text, const ScannedRecord& row)
 {
-    FindValues(values);
+    FindValues(row);
     size_t start = text.size();
     size_t length = 0;
     for (size_t i = 0; i < m_fields.size(); ++i) {
@@ -26,7 +28,7 @@ void ExportLineBuilder::AppendLine(std::u16string& text, std::span<const Propert
         const size_t column = m_fields[i];
         const size_t next = text.size();
         if (m_isThere[column] != 0)
-            AppendExportText(text, values[column], m_context);
+            AppendExportText(text, row, column, m_columns[column], m_context);
         else
             text.append(text, start, length);
         start = next;
@@ -37,12 +39,13 @@ void ExportLineBuilder::AppendLine(std::u16string& text, std::span<const Propert
 
 /// A row's record holds what the row has and nothing else; what stands in it beyond the limit
 /// counts as missing.
-void ExportLineBuilder::FindValues(std::span<const PropertyValue> values)
+void ExportLineBuilder::FindValues(const ScannedRecord& row)
 {
     size_t present = 0;
-    for (size_t i = 0; i < values.size(); ++i) {
-        m_isThere[i] = !values[i].IsMissing() && present < m_valueLimit ? 1 : 0;
-        present += values[i].IsMissing() ? 0 : 1;
+    for (size_t i = 0; i < m_columns.size(); ++i) {
+        const bool isThere = !row.IsMissing(i);
+        m_isThere[i] = isThere && present < m_valueLimit ? 1 : 0;
+        present += isThere ? 1 : 0;
     }
 }
 

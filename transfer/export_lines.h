@@ -16,17 +16,19 @@ public:
     /// `context` outlives the builder.
     ExportLineBuilder(const InventoryList& list, const ValueContext& context);
 
-    /// Appends the line of a row with its end. `values` has one entry per column of the list, in
-    /// their order.
-    void AppendLine(std::u16string& text, std::span<const PropertyValue> values);
+    /// What is to be read of each row: the columns of the list.
+    [[nodiscard]] std::span<const PropertyId> Columns() const { return m_columns; }
+    /// Appends the line of a row with its end. `row` has the columns in their order.
+    void AppendLine(std::u16string& text, const ScannedRecord& row);
 
 private:
     const ValueContext& m_context;
+    std::vector<PropertyId> m_columns;
     std::vector<size_t> m_fields;
     size_t m_valueLimit;
     std::vector<quint8> m_isThere;
 
-    void FindValues(std::span<const PropertyValue> values);
+    void FindValues(const ScannedRecord& row);
 };
 
 } // namespace Quillory

@@ -5,7 +5,6 @@
 #include <QtEndian>
 
 #include <string>
-#include <vector>
 
 namespace Quillory {
 
@@ -76,16 +75,13 @@ ExportOutcome ExportRows(Database& rows, const InventoryList& list, const ValueC
     QIODevice& target, const ExportMonitor& monitor)
 {
     constexpr qint64 kRowsPerCall = 1024;
-    std::vector<PropertyId> ids;
-    for (const ColumnDefinition& column : list.columns)
-        ids.push_back(column.id);
     ExportOutcome outcome;
     ChunkWriter writer(target);
     ExportLineBuilder builder(list, context);
     qint64 count = 0;
     const auto scanned
-        = rows.Scan(ids, ScanOrder::Sorted, [&](ObjectId, std::span<const PropertyValue> values) {
-              builder.AppendLine(writer.Text(), values);
+        = rows.ScanInPlace(builder.Columns(), ScanOrder::Sorted, [&](const ScannedRecord& row) {
+              builder.AppendLine(writer.Text(), row);
               writer.EndRow();
               ++count;
               if (count % kRowsPerCall == 0 && monitor)

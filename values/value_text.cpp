@@ -6,6 +6,9 @@
 #include "values/column_type.h"
 #include "values/file_date.h"
 
+#include <QtEndian>
+
+#include <array>
 #include <charconv>
 
 namespace Quillory {
@@ -32,6 +35,27 @@ void AppendInteger(std::u16string& line, qint32 value)
     }
 }
 
+void AppendTick(std::u16string& line, bool isChecked)
+{
+    line.push_back(isChecked ? u'Y' : u'N');
+}
+
+void AppendDate(std::u16string& line, FileTime time, const ValueContext& context)
+{
+    if (const auto date = FileTimeToDate(time)) {
+        AppendDateText(line, *date, context.systemLocale);
+    }
+}
+
+/// The units of a text, the high byte of each first.
+void AppendText(std::u16string& line, QByteArrayView bytes)
+{
+    const std::size_t place = line.size();
+    const qsizetype units = bytes.size() / qsizetype { sizeof(char16_t) };
+    line.resize(place + static_cast<std::size_t>(units));
+    qFromBigEndian<quint16>(bytes.data(), units, line.data() + place);
+}
+
 QString PriceText(double value, const ValueContext& context, qsizetype maxLength)
 {
     const QString plain = TwoDecimals(value);
@@ -56,8 +80,9 @@ QString FormatText(const PropertyValue* value, PropertyId column, const ValueCon
         break;
     case ColumnType::Date:
         if (const auto* const time = Held<FileTime>(value)) {
-            const auto date = FileTimeToDate(*time);
-            text = date ? DateText(*date, context.systemLocale) : QString();
+            if (const auto date = FileTimeToDate(*time)) {
+                text = DateText(*date, context.systemLocale);
+            }
         }
         break;
     case ColumnType::String:
@@ -98,25 +123,37 @@ QString FormatEditText(const PropertyValue* value, PropertyId column, const Valu
 QString FormatExportText(const PropertyValue& value, const ValueContext& context)
 {
     std::u16string text;
-    AppendExportText(text, value, context);
-    // Not fromStdU16String(), which takes a first character for a byte-order mark.
+    if (const auto* const stored = Held<QString>(&value)) {
+        return *stored;
+    }
+    if (const auto* const number = Held<qint32>(&value)) {
+        AppendInteger(text, *number);
+    } else if (const auto* const price = Held<double>(&value)) {
+        AppendTwoDecimals(text, *price);
+    } else if (const auto* const time = Held<FileTime>(&value)) {
+        AppendDate(text, *time, context);
+    } else if (const auto* const isChecked = Held<bool>(&value)) {
+        AppendTick(text, *isChecked);
+    }
     return QStringView(text).toString();
 }
 
-void AppendExportText(std::u16string& line, const PropertyValue& value, const ValueContext& context)
+void AppendExportText(std::u16string& line, const ScannedRecord& record, std::size_t place,
+    PropertyId column, const ValueContext& context)
 {
-    if (const auto* const text = Held<QString>(&value)) {
-        line.append(QStringView(*text).utf16(), static_cast<std::size_t>(text->size()));
-    } else if (const auto* const number = Held<qint32>(&value)) {
-        AppendInteger(line, *number);
-    } else if (const auto* const price = Held<double>(&value)) {
-        AppendTwoDecimals(line, *price);
-    } else if (const auto* const time = Held<FileTime>(&value)) {
-        if (const auto date = FileTimeToDate(*time)) {
-            AppendDateText(line, *date, context.systemLocale);
-        }
-    } else if (const auto* const isChecked = Held<bool>(&value)) {
-        line.push_back(*isChecked ? u'Y' : u'N');
+    switch (PropertyType(column)) {
+    case CEVT_LPWSTR:
+        return AppendText(line, record.Bytes(place));
+    case CEVT_I4:
+        return AppendInteger(line, static_cast<qint32>(record.Integer(place)));
+    case CEVT_R8:
+        return AppendTwoDecimals(line, record.Number(place));
+    case CEVT_FILETIME:
+        return AppendDate(line, { static_cast<quint64>(record.Integer(place)) }, context);
+    case CEVT_BOOL:
+        return AppendTick(line, record.Integer(place) != 0);
+    default:
+        return;
     }
 }
 

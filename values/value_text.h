@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/locale_profile.h"
 #include "propdb/property_value.h"
+#include "propdb/scanned_record.h"
 
 #include <QString>
 #include <QStringView>
@@ -38,9 +39,9 @@ struct ValueContext
     const PropertyValue* value, PropertyId column, const ValueContext& context);
 /// The text of a value in an export file: prices with a point and two decimals, "Y" or "N".
 [[nodiscard]] QString FormatExportText(const PropertyValue& value, const ValueContext& context);
-/// As FormatExportText, appended to `line` without a string of its own.
-void AppendExportText(
-    std::u16string& line, const PropertyValue& value, const ValueContext& context);
+/// As FormatExportText, of a property that a record has, appended to `line`.
+void AppendExportText(std::u16string& line, const ScannedRecord& record, std::size_t place,
+    PropertyId column, const ValueContext& context);
 
 /// What a text typed for a column stores; nothing for a date that cannot be read. Integers are read
 /// by LeadingInteger, prices by ParsePriceText; a checkbox is checked unless the text is exactly

@@ -3,6 +3,8 @@
 #include "transfer/export_lines.h"
 #include "transfer/import_rows.h"
 
+#include <QtEndian>
+
 #include <string>
 #include <vector>
 
@@ -147,6 +149,37 @@ std::vector<Row> Import(const QByteArray& bytes, const Way& way, std::vector<Fie
     return rows;
 }
 
+/// A row as the database hands it out.
+class RowRecord final : public ScannedRecord
+{
+public:
+    explicit RowRecord(const Row& row)
+        : m_row(row)
+    {
+        for (const PropertyValue& value : row) {
+            const auto* text = std::get_if<QString>(&value.value);
+            QByteArray& bytes = m_bytes.emplace_back(2 * (text ? text->size() : 0), '\0');
+            qToBigEndian<quint16>(text ? text->utf16() : nullptr, bytes.size() / 2, bytes.data());
+        }
+    }
+    ObjectId Oid() const override { return kNoObject; }
+    bool IsMissing(size_t place) const override { return m_row[place].IsMissing(); }
+    qint64 Integer(size_t place) const override
+    {
+        const PropertyVariant& value = m_row[place].value;
+        if (const auto* time = std::get_if<FileTime>(&value))
+            return static_cast<qint64>(time->ticks);
+        const auto* number = std::get_if<qint32>(&value);
+        return number ? *number : std::get<bool>(value);
+    }
+    double Number(size_t place) const override { return std::get<double>(m_row[place].value); }
+    QByteArrayView Bytes(size_t place) const override { return m_bytes[place]; }
+
+private:
+    const Row& m_row;
+    std::vector<QByteArray> m_bytes;
+};
+
 /// The export of rows.
 QString Export(const std::vector<Row>& rows, const Way& way)
 {
@@ -157,7 +190,7 @@ QString Export(const std::vector<Row>& rows, const Way& way)
     ExportLineBuilder builder(list, way.context);
     std::u16string text(1, QChar::ByteOrderMark);
     for (const Row& row : rows)
-        builder.AppendLine(text, row);
+        builder.AppendLine(text, RowRecord(row));
     return TextOf(text);
 }
 
