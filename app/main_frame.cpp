@@ -243,11 +243,23 @@ void MainFrame::AskToDiscardInput()
         });
 }
 
-void MainFrame::EndDataFile()
+bool MainFrame::EndDataFile()
 {
     const WaitCursor wait;
     m_deletion.Forget();
-    KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
+    const KeepOutcome outcome
+        = KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
+    if (PlaceError() != ErrorNumber::FileNotFound)
+        return true;
+    TellStop(outcome == KeepOutcome::Kept
+            ? tr("The data file is no longer in its place. What it held is kept as a copy; "
+                 "\"quillory restore\" lists the copies.")
+            : tr("The data file is no longer in its place. No copy could be kept of it."),
+        [this] {
+            m_isDataFileOpen = false;
+            close();
+        });
+    return false;
 }
 
 void MainFrame::closeEvent(QCloseEvent* event)
@@ -257,7 +269,7 @@ void MainFrame::closeEvent(QCloseEvent* event)
     if (m_isDataFileOpen) {
         if (QApplication::activeModalWidget() != nullptr)
             return event->ignore();
-        if (IsReplaced()) {
+        if (PlaceError() == ErrorNumber::SharingViolation) {
             // Whoever closes the window should know of it as well as whoever changes something.
             ReopenDataFile();
             return event->ignore();
@@ -267,7 +279,8 @@ void MainFrame::closeEvent(QCloseEvent* event)
                 AskToDiscardInput();
             return event->ignore();
         }
-        EndDataFile();
+        if (!EndDataFile())
+            return event->ignore();
     }
     if (m_savesSettings) {
         m_settings.windowGeometry = saveGeometry();
@@ -290,11 +303,11 @@ void MainFrame::TellWriteFailure()
         });
 }
 
-bool MainFrame::IsReplaced()
+ErrorNumber MainFrame::PlaceError()
 {
     const Volume* volume = m_volume.MountedVolume();
-    return volume != nullptr && volume->HasChanged()
-        && volume->VerifyInPlace().Error() == ErrorNumber::SharingViolation;
+    return volume != nullptr && volume->HasChanged() ? volume->VerifyInPlace().Error()
+                                                     : ErrorNumber::None;
 }
 
 void MainFrame::KeepReplacedFile()
@@ -325,7 +338,7 @@ bool MainFrame::RemountUnderPages()
 
 void MainFrame::ReopenDataFile()
 {
-    if (IsReplaced())
+    if (PlaceError() == ErrorNumber::SharingViolation)
         KeepReplacedFile();
     if (RemountUnderPages())
         return RefreshPages();

@@ -93,7 +93,8 @@ private:
     /// Ends the pages from the top. False where one has input that would be lost, or stays.
     [[nodiscard]] bool CloseAllPages();
     void AskToDiscardInput();
-    void EndDataFile();
+    /// False if it is gone from its place, which is told before the window closes.
+    [[nodiscard]] bool EndDataFile();
     void ShowHelp(const QString& anchor);
 
     [[nodiscard]] StartAnswer OpenNamedList(const QString& name);
@@ -120,8 +121,8 @@ private:
     void ExportList();
     void ExportTo(const QString& path);
     void TellWriteFailure();
-    /// Whether another file stands in the place of the data file, which holds changes of this run.
-    [[nodiscard]] bool IsReplaced();
+    /// As Volume::VerifyInPlace() tells of the data file, if it holds changes of this run.
+    [[nodiscard]] ErrorNumber PlaceError();
     /// Keeps what would go with the old file, and tells of it.
     void KeepReplacedFile();
     void ReopenDataFile();

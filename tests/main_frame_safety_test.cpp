@@ -24,6 +24,7 @@ private Q_SLOTS:
     void whatCouldNotBeStoredIsTypedOnlyOnce();
     void aFileReplacedUnderAnEditorTakesWhatIsTyped();
     void aFileReplacedBeforeTheEndIsTold();
+    void aFileRemovedBeforeTheEndIsTold();
     void aDamagedFileIsReplacedByItsCopy();
 };
 
@@ -220,6 +221,21 @@ void MainFrameSafetyTest::aFileReplacedBeforeTheEndIsTold()
     QTest::keyClick(errand.view, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(errand.Lines(), u"Attic, Zoo"_s);
     QVERIFY(errand.frame->close());
+}
+
+void MainFrameSafetyTest::aFileRemovedBeforeTheEndIsTold()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
+    errand.Start();
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    QVERIFY(QFile::remove(errand.DataPath()));
+    QVERIFY(!errand.frame->close());
+    errand.Answer(QMessageBox::Ok);
+    QVERIFY(errand.question.contains(u"kept as a copy"_s));
+    QVERIFY(!errand.frame->isVisible());
+    QCOMPARE(NewestCopy(errand), u"Zoo 0"_s);
 }
 
 void MainFrameSafetyTest::aDamagedFileIsReplacedByItsCopy()
