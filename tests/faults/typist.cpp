@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QGenericPlugin>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -42,7 +43,7 @@ Errand ErrandOf(const QString& line)
     return errand;
 }
 
-/// What a person sees of lists, rows and questions.
+/// What a person sees of lists, rows and questions; where there is none of them, of other texts.
 QString Screen()
 {
     const QWidget* window = QApplication::activeWindow();
@@ -60,6 +61,10 @@ QString Screen()
                 texts << cell.data().toString() + cell.data(Qt::CheckStateRole).toString();
             }
         }
+    }
+    if (texts.isEmpty()) {
+        for (const auto* label : window->findChildren<QLabel*>())
+            texts << (label->isVisible() ? label->text().simplified() : QString());
     }
     return texts.join(u'|');
 }
