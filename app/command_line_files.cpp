@@ -46,6 +46,9 @@ void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
         Fail(u"the rows cannot be stored: %1"_s.arg(ErrorText(outcome.writeError)));
     if (outcome.result == ImportResult::Failed)
         Fail(LoadString(StringId::ImportErrors));
+    if (outcome.rows == 0)
+        run.environment.errors.write("quillory: there is no line to import that ends with a "
+                                     "carriage return and a line feed\n");
 }
 
 std::vector<PropertyId> ColumnOrder(const CommandRun& run, const InventoryList& list)

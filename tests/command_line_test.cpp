@@ -372,6 +372,9 @@ void CommandLineTest::aFailedImportTellsHowFarItCame()
     QVERIFY(call.code == ExitCode::Failed);
     QCOMPARE(call.output, "0\n"_ba);
     QVERIFY(call.errors.contains("Import is completed with errors"));
+    // As editors on this system save it.
+    const Call unended = shell.Run({ u"import"_s, u"Pantry"_s, u"-"_s }, "a\nb\n");
+    QVERIFY(unended.code == ExitCode::Done && unended.errors.contains("carriage return"));
 }
 
 void CommandLineTest::aBackupIsTheSameData()
