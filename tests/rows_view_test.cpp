@@ -30,6 +30,7 @@ private Q_SLOTS:
     void aTapOnTheHeaderSorts();
     void deletingTheLastRowLeavesNothingToCommand();
     void aHoldOpensTheMenuOfTheRow();
+    void keysOpenTheMenuOfTheRow();
     void readOnlyLetsNothingChange();
     void columnsAreDraggedByTouch();
     void widthsAndOrderAreKept();
@@ -275,6 +276,26 @@ void RowsViewTest::aHoldOpensTheMenuOfTheRow()
     QCOMPARE(texts.join(u'|'), u"Add 1|Subtract 1||Modify...|Delete"_s);
     menu->actions().front()->trigger();
     QCOMPARE(m_errand->Stored(Count), u"0 6"_s);
+}
+
+void RowsViewTest::keysOpenTheMenuOfTheRow()
+{
+    m_errand->Open();
+    const auto choose = [this](Qt::Key key) {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu != nullptr);
+        QTest::keyClick(menu, key);
+        QTest::keyClick(menu, Qt::Key_Return);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    };
+    // What the window system makes of the menu key goes to who has the focus.
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint(), {});
+    QApplication::sendEvent(View(), &menuKey);
+    choose(Qt::Key_Down);
+    QCOMPARE(m_errand->Stored(Count), u"1 5"_s);
+    QTest::keyClick(View(), Qt::Key_F10, Qt::ShiftModifier);
+    choose(Qt::Key_Down);
+    QCOMPARE(m_errand->Stored(Count), u"2 5"_s);
 }
 
 void RowsViewTest::readOnlyLetsNothingChange()

@@ -197,6 +197,7 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
     button->setAutoRaise(true);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     if (entry.command == Command::Menu) {
+        button->setShortcut(Qt::Key_F10);
         auto* popup = new QMenu(button);
         FillMenu(popup, menu);
         connect(popup, &QMenu::aboutToShow, this, &Page::MenuAboutToOpen);

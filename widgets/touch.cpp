@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QContextMenuEvent>
 #include <QGestureEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScroller>
 
@@ -18,6 +19,8 @@ TouchBehaviour::TouchBehaviour(QAbstractItemView* view)
     QScroller::grabGesture(view->viewport(), QScroller::TouchGesture);
     view->viewport()->grabGesture(Qt::TapAndHoldGesture);
     view->viewport()->installEventFilter(this);
+    // Where keys arrive, and the menu key's event with them.
+    view->installEventFilter(this);
 }
 
 bool TouchBehaviour::eventFilter(QObject* watched, QEvent* event)
@@ -34,15 +37,29 @@ bool TouchBehaviour::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
     }
+    if (event->type() == QEvent::KeyPress) {
+        const auto* press = static_cast<QKeyEvent*>(event);
+        if (press->keyCombination() == (Qt::SHIFT | Qt::Key_F10)) {
+            HoldCurrent();
+            return true;
+        }
+    }
     if (event->type() == QEvent::ContextMenu) {
         const auto* menu = static_cast<QContextMenuEvent*>(event);
         if (menu->reason() == QContextMenuEvent::Keyboard)
-            Q_EMIT Held(m_view->visualRect(m_view->currentIndex()).center());
+            HoldCurrent();
         else if (menu->reason() == QContextMenuEvent::Mouse)
             Q_EMIT Held(menu->pos());
         return true;
     }
     return QObject::eventFilter(watched, event);
+}
+
+void TouchBehaviour::HoldCurrent()
+{
+    const QModelIndex current = m_view->currentIndex();
+    m_view->scrollTo(current);
+    Q_EMIT Held(m_view->visualRect(current).center());
 }
 
 } // namespace Quillory
