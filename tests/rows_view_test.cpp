@@ -281,7 +281,7 @@ void RowsViewTest::aHoldOpensTheMenuOfTheRow()
 void RowsViewTest::keysOpenTheMenuOfTheRow()
 {
     m_errand->Open();
-    const auto choose = [this](Qt::Key key) {
+    const auto choose = [](Qt::Key key) {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         QVERIFY(menu != nullptr);
         QTest::keyClick(menu, key);
