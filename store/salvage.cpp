@@ -39,9 +39,12 @@ Definitions ReadDefinitions(const DamagedVolume& volume, SalvageReport& report)
 InventoryList DefinitionFor(
     const DamagedVolume::DatabaseContent& content, const Definitions& definitions)
 {
+    // Names end at a NUL: one that went on would not be found by what is kept of it.
+    const auto upToNul = [](const QString& name) { return name.left(name.indexOf(QChar(u'\0'))); };
     InventoryList list = definitions.value(content.info.name);
+    list.Name = upToNul(list.Name);
     if (list.Name.isEmpty())
-        list.Name = content.info.name;
+        list.Name = upToNul(content.info.name);
     list.columns = ListCatalogue::ColumnsOf(content.properties);
     std::erase_if(
         list.columnOrder, [&list](quint32 index) { return index >= list.columns.size(); });
@@ -65,14 +68,17 @@ public:
 
     void Write(const Record& record)
     {
+        // Without its list it has no columns.
+        if (m_error != ErrorNumber::None)
+            return;
         std::vector<PropertyValue> values;
         for (const PropertyValue& value : record.values) {
             const auto place = std::ranges::find(m_oldIds, value.id) - m_oldIds.begin();
             if (place < std::ssize(m_oldIds))
                 values.push_back({ m_list.columns[static_cast<size_t>(place)].id, 0, value.value });
         }
-        const bool isWanted = m_error == ErrorNumber::None && !values.empty();
-        if (isWanted && m_data.Write(ListCatalogue::kRowsType, kNoObject, values) == kNoObject)
+        if (!values.empty()
+            && m_data.Write(ListCatalogue::kRowsType, kNoObject, values) == kNoObject)
             m_error = m_data.LastError();
     }
     [[nodiscard]] Result<void> End()

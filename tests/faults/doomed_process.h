@@ -16,7 +16,8 @@ struct Doom
 };
 
 /// Starts the program on the scratch folder in a process of its own and does the steps of the
-/// script from `firstStep` on until one fails. `doom` is called there, and calls the work.
+/// script from `firstStep` on until one fails; at its end it kills itself. `doom` is called there,
+/// and calls the work.
 [[nodiscard]] Doom RunDoomed(const FaultRun& run, const Script& script, size_t firstStep,
     const std::function<void(const std::function<void()>& work)>& doom);
 

@@ -101,7 +101,8 @@ private:
         {
             Session session;
             isStarted = session.Start(m_run.DataFile()) == ErrorNumber::None;
-            isWhole = isStarted && session.Check() == ErrorNumber::None;
+            isWhole
+                = isStarted && session.Check() == ErrorNumber::None && session.Contents().IsOk();
             if (isStarted)
                 Work(session);
         }
