@@ -101,6 +101,9 @@ Result<std::unique_ptr<Volume>> Volume::Mount(
             return faults.Error();
         if (!faults->empty())
             return ErrorNumber::FileCorrupt;
+        // A journal that only looks like the file's does not make it whole.
+        if (const auto sized = volume->m_state->file.VerifySize(); !sized)
+            return sized.Error();
     }
     return volume;
 }

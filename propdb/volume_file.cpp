@@ -227,13 +227,23 @@ Result<void> VolumeFile::VerifyHeader() const
     if (const ErrorNumber error = VerifyVolumeHeader(header); error != ErrorNumber::None)
         return error;
     // A file whose journal is still there may be cut short; the journal makes it whole.
+    if (!m_hasJournal)
+        return VerifySize();
     struct stat status
     { };
     if (fstat(m_descriptor, &status) != 0)
         return ErrorFromErrno(errno);
-    const bool isSound = m_hasJournal ? HasPlausibleJournal(m_path, status.st_size)
-                                      : status.st_size % kPageSize == 0;
-    return isSound ? ErrorNumber::None : ErrorNumber::FileCorrupt;
+    return HasPlausibleJournal(m_path, status.st_size) ? ErrorNumber::None
+                                                       : ErrorNumber::FileCorrupt;
+}
+
+Result<void> VolumeFile::VerifySize() const
+{
+    struct stat status
+    { };
+    if (fstat(m_descriptor, &status) != 0)
+        return ErrorFromErrno(errno);
+    return status.st_size % kPageSize == 0 ? ErrorNumber::None : ErrorNumber::FileCorrupt;
 }
 
 Result<void> VolumeFile::VerifyInPlace() const

@@ -45,6 +45,9 @@ public:
     [[nodiscard]] Result<void> VerifyInPlace() const;
     /// How often the file was changed, as its header counts; for telling whether it was since.
     [[nodiscard]] Result<quint32> ChangeCounter() const;
+    /// FileCorrupt unless the file consists of whole pages. It need not before its journal was
+    /// played back.
+    [[nodiscard]] Result<void> VerifySize() const;
     /// Puts on the medium what the system may still keep back of the file and of its name.
     [[nodiscard]] Result<void> MakeDurable() const;
     /// A journal stood beside the file: its last user did not end well.
