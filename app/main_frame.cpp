@@ -249,7 +249,7 @@ bool MainFrame::EndDataFile()
     m_deletion.Forget();
     const KeepOutcome outcome
         = KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
-    if (PlaceError() != ErrorNumber::FileNotFound)
+    if (PlaceError() == ErrorNumber::None)
         return true;
     TellStop(outcome == KeepOutcome::Kept
             ? tr("The data file is no longer in its place. What it held is kept as a copy; "

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void aFileReplacedUnderAnEditorTakesWhatIsTyped();
     void aFileReplacedBeforeTheEndIsTold();
     void aFileRemovedBeforeTheEndIsTold();
+    void aFolderRemovedBeforeTheEndIsTold();
     void aDamagedFileIsReplacedByItsCopy();
 };
 
@@ -236,6 +237,21 @@ void MainFrameSafetyTest::aFileRemovedBeforeTheEndIsTold()
     QVERIFY(errand.question.contains(u"kept as a copy"_s));
     QVERIFY(!errand.frame->isVisible());
     QCOMPARE(NewestCopy(errand), u"Zoo 0"_s);
+}
+
+void MainFrameSafetyTest::aFolderRemovedBeforeTheEndIsTold()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Attic"_s });
+    errand.Start();
+    errand.Choose(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    // With the card it lies on.
+    QVERIFY(QDir(QFileInfo(errand.DataPath()).path()).removeRecursively());
+    QVERIFY(!errand.frame->close());
+    errand.Answer(QMessageBox::Ok);
+    QVERIFY(errand.question.contains(u"no longer in its place"_s));
+    QVERIFY(!errand.frame->isVisible());
 }
 
 void MainFrameSafetyTest::aDamagedFileIsReplacedByItsCopy()
