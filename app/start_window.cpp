@@ -30,7 +30,11 @@ constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
-/// Whether there is a place for a window; the toolkit would end the process with a core dump.
+constexpr char kNoDisplay[]
+    = "quillory: there is no display to open a window on; \"quillory --help\" "
+      "lists the commands that need none\n";
+
+/// Whether there may be a place for a window.
 bool HasDisplay(int argumentCount, char** argumentValues)
 {
     for (const char* name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" }) {
@@ -39,6 +43,16 @@ bool HasDisplay(int argumentCount, char** argumentValues)
     }
     return std::any_of(argumentValues, argumentValues + argumentCount,
         [](std::string_view argument) { return argument.ends_with("-platform"); });
+}
+
+/// The toolkit ends the process with a core dump where it reaches no display, after telling why.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    if (type == QtFatalMsg) {
+        std::fputs(kNoDisplay, stderr);
+        _exit(kFailed);
+    }
+    std::fprintf(stderr, "%s\n", qUtf8Printable(text));
 }
 
 /// The permission to come to the front that the desktop gave this start. An application object
@@ -116,13 +130,13 @@ int RunWindow(int argumentCount, char** argumentValues)
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     if (!HasDisplay(argumentCount, argumentValues)) {
-        std::fputs("quillory: there is no display to open a window on; \"quillory --help\" lists "
-                   "the commands that need none\n",
-            stderr);
+        std::fputs(kNoDisplay, stderr);
         return kFailed;
     }
     const QString token = ActivationToken();
+    const QtMessageHandler ownHandler = qInstallMessageHandler(EndWithoutDisplay);
     const QApplication app(argumentCount, argumentValues);
+    qInstallMessageHandler(ownHandler);
     QApplication::setStyle(new AppStyle);
     QApplication::setApplicationName(u"quillory"_s);
     QApplication::setApplicationDisplayName(u"Quillory"_s);
