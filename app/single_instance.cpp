@@ -1,5 +1,7 @@
 #include "app/single_instance.h"
 
+#include "store/inventory_list.h"
+
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
@@ -41,7 +43,9 @@ QByteArray WriteRequest(const StartRequest& request)
 {
     QByteArray message;
     message.append(kGreeting).append('\0');
-    message.append(request.listName.toUtf8()).append('\0');
+    // No list has a longer name, and what is shorter fits into a message.
+    const QString listName = request.listName.left(kMaxListNameLength + 1);
+    message.append(listName.toUtf8()).append('\0');
     message.append(request.activationToken.toUtf8()).append('\0');
     return message;
 }
