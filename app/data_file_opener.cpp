@@ -31,6 +31,8 @@ void DataFileOpener::TakeChosenFile(const QString& path)
 {
     if (path.isEmpty())
         return m_then(Outcome::NothingChosen);
+    if (path.size() > kMaxDataFilePathLength)
+        return TellFailure(ErrorNumber::NameTooLong);
     m_settings.DbPath = path;
     Mount();
 }
@@ -133,7 +135,8 @@ void DataFileOpener::ChooseRestored(const Restorer& restore)
     m_prompts.chooseFile([this, restore](const QString& path) {
         if (path.isEmpty())
             return GiveUp();
-        const ErrorNumber error = restore(path);
+        const ErrorNumber error
+            = path.size() > kMaxDataFilePathLength ? ErrorNumber::NameTooLong : restore(path);
         if (error != ErrorNumber::None) {
             // Never over another file; another name may do.
             return m_prompts.ask(

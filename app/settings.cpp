@@ -14,7 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr quint32 kVersion = 100;
-constexpr qsizetype kMaxPathLength = 260;
 /// A file larger than this was not written here and is not read.
 constexpr qint64 kMaxFileSize = 256LL * 1024;
 
@@ -36,7 +35,8 @@ quint32 ReadNumber(const QSettings& file, QLatin1StringView key, quint32 fallbac
 QString ReadPath(const QSettings& file)
 {
     const QString path = file.value(kPathKey).toString();
-    return path.size() > kMaxPathLength || path.contains(QChar(u'\0')) ? QString() : path;
+    const bool isPath = path.size() <= kMaxDataFilePathLength && !path.contains(QChar(u'\0'));
+    return isPath ? path : QString();
 }
 
 std::optional<int> ReadCodePage(const QSettings& file)

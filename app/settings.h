@@ -16,6 +16,9 @@ constexpr size_t kLandscapeOption = 0;
 constexpr size_t kReadOnlyOption = 1;
 constexpr size_t kAlternateColourOption = 2;
 
+/// A longer path of a data file is not remembered.
+constexpr qsizetype kMaxDataFilePathLength = 260;
+
 /// The rotation of the screen that landscape display asks for.
 constexpr quint32 kLandscapeRightHanded = 1;
 constexpr quint32 kLandscapeLeftHanded = 4;

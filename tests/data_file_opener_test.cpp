@@ -83,6 +83,7 @@ private Q_SLOTS:
     void anExistingFileChosenAtTheFirstStartIsOpenedAsItIs();
     void choosingNothingEndsTheProgram();
     void aFileThatIsNoDataFileIsRefusedAndForgotten();
+    void aPathTooLongToBeRememberedIsRefused();
     void aMissingFileIsAskedAbout_data();
     void aMissingFileIsAskedAbout();
     void aMissingFolderIsLookedForAgain();
@@ -155,6 +156,18 @@ void DataFileOpenerTest::aFileThatIsNoDataFileIsRefusedAndForgotten()
     QFile file(start.chosen);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), content);
+}
+
+void DataFileOpenerTest::aPathTooLongToBeRememberedIsRefused()
+{
+    Start start;
+    const QString folder = start.Path(QString(200, u'f'));
+    QVERIFY(QDir().mkpath(folder));
+    start.chosen = folder + u'/' + QString(100, u'x');
+    start.Run();
+    QCOMPARE(start.shown.last(), kFailure);
+    QCOMPARE(start.settings.DbPath, QString());
+    QVERIFY(!QFile::exists(start.chosen));
 }
 
 void DataFileOpenerTest::aMissingFileIsAskedAbout_data()
