@@ -18,14 +18,8 @@ constexpr quint64 kUnitMask = (quint64 { 1 } << kUnitBits) - 1;
 
 ImportBatch::ImportBatch(std::span<const PropertyId> columns, const ImportBatchLimits& limits)
     : m_limits(limits)
-    , m_nameField(NameFieldOf(columns))
+    , m_nameField(static_cast<size_t>(std::ranges::find(columns, PropName) - columns.begin()))
 { }
-
-size_t ImportBatch::NameFieldOf(std::span<const PropertyId> columns)
-{
-    return static_cast<size_t>(
-        std::find(columns.begin(), columns.end(), PropName) - columns.begin());
-}
 
 void ImportBatch::Add(std::span<const QStringView> fields)
 {
@@ -41,6 +35,7 @@ void ImportBatch::Add(std::span<const QStringView> fields)
         m_text.insert(m_text.end(), fields[i].utf16(), fields[i].utf16() + fields[i].size());
         m_text.push_back(i + 1 < fields.size() ? kFieldSeparator : u'\0');
     }
+    line.length = static_cast<quint32>(m_text.size()) - line.begin;
     m_lines.push_back(line);
 }
 
@@ -106,19 +101,28 @@ void ImportBatch::SortByName(std::span<Line> lines, quint32 depth) const
     }
 }
 
-void ImportBatch::Visit(const Visitor& visit)
+void ImportBatch::VisitLines(const std::function<bool(const KeptLine& line)>& visit)
 {
     // A field is never empty: a line without a name comes last, as its row does.
     const auto nameless = std::partition(
         m_lines.begin(), m_lines.end(), [](const Line& line) { return line.nameLength != 0; });
     SortByName({ m_lines.begin(), nameless }, 0);
     SortByName({ nameless, m_lines.end() }, 0);
-    std::vector<QStringView> fields;
     for (const Line& line : m_lines) {
-        CutLine(m_text.data() + line.begin, fields);
-        if (!visit(fields))
+        const QStringView text(m_text.data() + line.begin, static_cast<qsizetype>(line.length));
+        const bool isNamed = line.nameLength != 0;
+        if (!visit({ text, isNamed ? line.nameBegin - line.begin : 0, line.nameLength }))
             break;
     }
+}
+
+void ImportBatch::Visit(const Visitor& visit)
+{
+    std::vector<QStringView> fields;
+    VisitLines([&](const KeptLine& line) {
+        CutLine(line.text.utf16(), fields);
+        return visit(fields);
+    });
 }
 
 void ImportBatch::Clear()

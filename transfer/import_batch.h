@@ -36,15 +36,23 @@ public:
     [[nodiscard]] bool IsFull() const;
     [[nodiscard]] bool IsEmpty() const { return m_lines.empty(); }
 
+    /// A line as it is kept: its fields, a TAB behind each and a NUL behind the last.
+    struct KeptLine
+    {
+        QStringView text;
+        /// Where the name stands in the text; nowhere and empty if there is none.
+        quint32 nameBegin = 0;
+        quint32 nameLength = 0;
+    };
+    /// Calls back with each line, by name, until it is told false.
+    void VisitLines(const std::function<bool(const KeptLine& line)>& visit);
     using Visitor = std::function<bool(std::span<const QStringView> fields)>;
-    /// Calls back with the fields of each line, by name, until it is told false.
+    /// As VisitLines, with the fields of each line.
     void Visit(const Visitor& visit);
     /// Forgets all lines and gives their memory back.
     void Clear();
 
-    /// The field that fills the column of row names; beyond all fields if none does.
-    [[nodiscard]] static size_t NameFieldOf(std::span<const PropertyId> columns);
-    /// The fields of a line that TABs separate and a NUL ends.
+    /// The fields of a kept line.
     static void CutLine(const char16_t* begin, std::vector<QStringView>& fields);
 
 private:
@@ -55,13 +63,14 @@ private:
         /// up to it.
         quint64 key = 0;
         quint32 begin = 0;
+        quint32 length = 0;
         quint32 nameBegin = 0;
         quint32 nameLength = 0;
     };
 
     ImportBatchLimits m_limits;
+    /// The field that fills the column of row names; beyond all fields if none does.
     size_t m_nameField;
-    /// The fields, a TAB behind each and a NUL behind the last of a line.
     std::vector<char16_t> m_text;
     std::vector<Line> m_lines;
 

@@ -1,7 +1,5 @@
 #include "transfer/import_runs.h"
 
-#include "transfer/list_file.h"
-
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -28,20 +26,6 @@ struct LineHead
 };
 constexpr size_t kHeadUnits = sizeof(LineHead) / sizeof(char16_t);
 using HeadUnits = std::array<char16_t, kHeadUnits>;
-
-LineHead HeadOf(std::span<const QStringView> fields, size_t nameField)
-{
-    LineHead head;
-    for (size_t i = 0; i < fields.size(); ++i) {
-        const auto size = static_cast<quint32>(fields[i].size());
-        if (i == nameField) {
-            head.nameBegin = head.length;
-            head.nameLength = size;
-        }
-        head.length += size + 1;
-    }
-    return head;
-}
 
 } // namespace
 
@@ -76,9 +60,7 @@ public:
     [[nodiscard]] std::span<const QStringView> Fields()
     {
         m_fields.clear();
-        if (!IsHeld())
-            m_whole = Read(m_line, m_head.length);
-        if (IsHeld() || !m_whole.empty())
+        if (IsHeld() || Read(m_line, m_head.length, m_whole))
             ImportBatch::CutLine(IsHeld() ? m_held : m_whole.data(), m_fields);
         return m_fields;
     }
@@ -122,7 +104,9 @@ private:
     }
     [[nodiscard]] QString WholeName()
     {
-        const auto units = Read(m_line + BytesOf(m_head.nameBegin), m_head.nameLength);
+        std::vector<char16_t> units;
+        if (!Read(m_line + BytesOf(m_head.nameBegin), m_head.nameLength, units))
+            return {};
         return QStringView(units.data(), std::ssize(units)).toString();
     }
 
@@ -132,27 +116,21 @@ private:
         const qint64 bufferEnd = m_bufferBegin + BytesOf(m_buffer.size());
         if (place < m_bufferBegin || place + BytesOf(count) > bufferEnd || m_buffer.empty()) {
             const qint64 size = std::min(BytesOf(kBufferUnits), m_end - place);
-            m_buffer = Read(place, static_cast<size_t>(size) / sizeof(char16_t));
             m_bufferBegin = place;
+            if (!Read(place, static_cast<size_t>(size) / sizeof(char16_t), m_buffer))
+                return nullptr;
         }
-        if (m_buffer.empty())
-            return nullptr;
         return m_buffer.data() + static_cast<size_t>(place - m_bufferBegin) / sizeof(char16_t);
     }
-    /// Empty on failure.
-    [[nodiscard]] std::vector<char16_t> Read(qint64 place, size_t count)
+    [[nodiscard]] bool Read(qint64 place, size_t count, std::vector<char16_t>& units)
     {
-        std::vector<char16_t> units(count);
+        units.resize(count);
         const qint64 size = BytesOf(count);
         m_hasFailed = m_hasFailed || !m_file.seek(place)
             || m_file.read(reinterpret_cast<char*>(units.data()), size) != size;
-        return m_hasFailed ? std::vector<char16_t>() : units;
+        return !m_hasFailed;
     }
 };
-
-ImportRuns::ImportRuns(std::span<const PropertyId> columns)
-    : m_nameField(ImportBatch::NameFieldOf(columns))
-{ }
 
 bool ImportRuns::PutAside(ImportBatch& batch)
 {
@@ -179,13 +157,11 @@ bool ImportRuns::Write(ImportBatch& batch)
         units.clear();
         return isWritten;
     };
-    batch.Visit([&](std::span<const QStringView> fields) {
-        const auto head = std::bit_cast<HeadUnits>(HeadOf(fields, m_nameField));
+    batch.VisitLines([&](const ImportBatch::KeptLine& line) {
+        const auto head = std::bit_cast<HeadUnits>(
+            LineHead { static_cast<quint32>(line.text.size()), line.nameBegin, line.nameLength });
         units.insert(units.end(), head.begin(), head.end());
-        for (size_t i = 0; i < fields.size(); ++i) {
-            units.insert(units.end(), fields[i].utf16(), fields[i].utf16() + fields[i].size());
-            units.push_back(i + 1 < fields.size() ? kFieldSeparator : u'\0');
-        }
+        units.insert(units.end(), line.text.utf16(), line.text.utf16() + line.text.size());
         return units.size() < kBufferUnits || flush();
     });
     return isWritten && flush() && m_file->flush();

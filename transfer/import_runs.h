@@ -15,9 +15,6 @@ namespace Quillory {
 class ImportRuns
 {
 public:
-    /// `columns` says which column each field fills.
-    explicit ImportRuns(std::span<const PropertyId> columns);
-
     /// Puts a batch aside and empties it. False, and the batch is as it was, if the temporary file
     /// cannot be made or takes no more.
     [[nodiscard]] bool PutAside(ImportBatch& batch);
@@ -36,7 +33,6 @@ private:
     };
     class Reader;
 
-    size_t m_nameField;
     std::unique_ptr<QTemporaryFile> m_file;
     std::vector<Run> m_runs;
 

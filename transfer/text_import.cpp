@@ -109,7 +109,6 @@ public:
         : m_monitor(monitor)
         , m_reader(source, columns.size(), context.userLocale.codePage, limits.line)
         , m_batch(columns, limits)
-        , m_runs(columns)
         , m_writer(volume, columns, context, limits.lines)
     {
         m_progress.bytesTotal = source.isSequential() ? 0 : source.size();
