@@ -45,11 +45,7 @@ Result<void> ScanFilteredInPlace(Database& rows, std::span<const PropertyId> col
     }
     const size_t firstTested = columns.size();
     return rows.ScanInPlace(ids, order, [&](const ScannedRecord& record) {
-        for (size_t i = 0; i < tests.size(); ++i) {
-            if (!tests[i].Matches(record, firstTested + i))
-                return true;
-        }
-        return visitor(record);
+        return !RowPassesFilters(tests, record, firstTested) || visitor(record);
     });
 }
 

@@ -100,16 +100,6 @@ template <typename T> bool OrderMatches(FilterCondition condition, T row, T oper
     return false;
 }
 
-template <typename T>
-bool OrderMatches(
-    FilterCondition condition, const PropertyVariant& row, const PropertyVariant& operand)
-{
-    const auto* const rowValue = std::get_if<T>(&row);
-    const auto* const operandValue = std::get_if<T>(&operand);
-    return rowValue != nullptr && operandValue != nullptr
-        && OrderMatches(condition, *rowValue, *operandValue);
-}
-
 } // namespace
 
 void AddFilter(
@@ -151,65 +141,48 @@ FilterTest::FilterTest(const FilterEntry& entry, const ValueContext& context)
     , m_operand(Operand(entry, context))
 { }
 
-bool FilterTest::Matches(const PropertyValue* value) const
+template <typename Number>
+bool FilterTest::MatchesNumber(const ScannedRecord& row, size_t place, Number number) const
 {
-    if (value == nullptr || value->IsMissing()) {
-        return false;
-    }
-    const PropertyVariant& row = value->value;
+    // What is missing reads as zero, so that only a zero that would match needs a second look.
+    const auto* const operand = std::get_if<Number>(&m_operand);
+    return operand != nullptr && OrderMatches(m_condition, number, *operand)
+        && (number != Number {} || !row.IsMissing(place));
+}
+
+bool FilterTest::Matches(const ScannedRecord& row, size_t place) const
+{
     switch (ColumnTypeOf(m_column)) {
     case ColumnType::String: {
-        const auto* const text = std::get_if<QString>(&row);
-        return text != nullptr && TextMatches(m_condition, *text, std::get<QString>(m_operand));
+        PropertyValue value { m_column, 0, {} };
+        row.Read(place, value);
+        const auto* const text = std::get_if<QString>(&value.value);
+        return !value.IsMissing() && text != nullptr
+            && TextMatches(m_condition, *text, std::get<QString>(m_operand));
     }
     case ColumnType::Checkbox: {
-        const auto* const isChecked = std::get_if<bool>(&row);
         const auto* const wanted = std::get_if<bool>(&m_operand);
-        return isChecked != nullptr && wanted != nullptr
-            && CheckboxMatches(m_condition, *isChecked, *wanted);
+        return wanted != nullptr && !row.IsMissing(place)
+            && CheckboxMatches(m_condition, row.Integer(place) != 0, *wanted);
     }
     case ColumnType::Integer:
-        return OrderMatches<qint32>(m_condition, row, m_operand);
+        return MatchesNumber(row, place, static_cast<qint32>(row.Integer(place)));
     case ColumnType::Price:
-        return OrderMatches<double>(m_condition, row, m_operand);
+        return MatchesNumber(row, place, row.Number(place));
     case ColumnType::Date:
-        return OrderMatches<FileTime>(m_condition, row, m_operand);
+        return MatchesNumber(row, place, FileTime { static_cast<quint64>(row.Integer(place)) });
     }
     return false;
 }
 
-bool FilterTest::Matches(const ScannedRecord& record, size_t place) const
+bool RowPassesFilters(
+    std::span<const FilterTest> filters, const ScannedRecord& row, size_t firstPlace)
 {
-    // What is missing reads as zero, so that only a zero that would match needs a second look.
-    const auto isNumberMatch = [&](auto row) {
-        using Number = decltype(row);
-        const auto* const operand = std::get_if<Number>(&m_operand);
-        return operand != nullptr && OrderMatches(m_condition, row, *operand)
-            && (row != Number {} || !record.IsMissing(place));
-    };
-    switch (ColumnTypeOf(m_column)) {
-    case ColumnType::Integer:
-        return isNumberMatch(static_cast<qint32>(record.Integer(place)));
-    case ColumnType::Price:
-        return isNumberMatch(record.Number(place));
-    case ColumnType::Date:
-        return isNumberMatch(FileTime { static_cast<quint64>(record.Integer(place)) });
-    case ColumnType::String:
-    case ColumnType::Checkbox:
-        break;
+    for (size_t i = 0; i < filters.size(); ++i) {
+        if (!filters[i].Matches(row, firstPlace + i))
+            return false;
     }
-    PropertyValue value { m_column, 0, {} };
-    record.Read(place, value);
-    return Matches(&value);
-}
-
-bool RowPassesFilters(const FilterSet& filters, std::span<const PropertyValue> rowProperties,
-    const ValueContext& context)
-{
-    return std::all_of(
-        filters.entries.begin(), filters.entries.end(), [&](const FilterEntry& entry) {
-            return FilterTest(entry, context).Matches(FindProperty(rowProperties, entry.column));
-        });
+    return true;
 }
 
 } // namespace Quillory

@@ -58,19 +58,22 @@ public:
     FilterTest(const FilterEntry& entry, const ValueContext& context);
 
     [[nodiscard]] PropertyId Column() const { return m_column; }
-    /// `value` is the row's value of Column(), null if the row has none: then it never matches.
-    [[nodiscard]] bool Matches(const PropertyValue* value) const;
-    /// As above on a record in a scan that has Column() at `place`.
-    [[nodiscard]] bool Matches(const ScannedRecord& record, size_t place) const;
+    /// Whether a row matches, given its record with Column() at `place`. One without a value there
+    /// never does.
+    [[nodiscard]] bool Matches(const ScannedRecord& row, size_t place) const;
 
 private:
     PropertyId m_column {};
     FilterCondition m_condition = FilterCondition::None;
     PropertyVariant m_operand;
+
+    template <typename Number>
+    [[nodiscard]] bool MatchesNumber(const ScannedRecord& row, size_t place, Number number) const;
 };
 
-/// Whether a row, given all its properties, meets every condition.
-[[nodiscard]] bool RowPassesFilters(const FilterSet& filters,
-    std::span<const PropertyValue> rowProperties, const ValueContext& context);
+/// Whether a row meets every condition, given its record with the column of each from `firstPlace`
+/// on.
+[[nodiscard]] bool RowPassesFilters(
+    std::span<const FilterTest> filters, const ScannedRecord& row, size_t firstPlace);
 
 } // namespace Quillory
