@@ -237,11 +237,6 @@ void Dispatch(const QStringList& arguments, const SubCommand* command,
     command->run({ environment, parser, operands, output });
 }
 
-void Complain(QIODevice& errors, const QString& message)
-{
-    errors.write("quillory: " + message.toUtf8() + '\n');
-}
-
 ExitCode Finish(TextOutput& output, const CommandEnvironment& environment)
 {
     if (output.Flush())

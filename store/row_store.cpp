@@ -136,7 +136,7 @@ Record RowStore::ReadRow(ObjectId row)
 
 std::vector<ColumnTotal> RowStore::Totals(const FilterSet* filters)
 {
-    return ComputeTotals(m_volume, m_list, filters, m_context);
+    return ComputeTotals(m_volume, m_list, filters, m_context).lines;
 }
 
 QString RowStore::FormatCellText(PropertyId column, ObjectId row)

@@ -43,7 +43,8 @@ public:
 
     /// Every property of a row; false in a condition if it cannot be found.
     [[nodiscard]] Record ReadRow(ObjectId row);
-    /// The totals of the list over all rows or, unless `filters` is null, those that pass.
+    /// The totals of the list over all rows or, unless `filters` is null, those that pass. Where a
+    /// row cannot be read every total is "0".
     [[nodiscard]] std::vector<ColumnTotal> Totals(const FilterSet* filters);
     /// The text of one cell as the rows view shows it; "<Err>" if the row cannot be found.
     [[nodiscard]] QString FormatCellText(PropertyId column, ObjectId row);

@@ -6,11 +6,16 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
+#include <QtEndian>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// First bytes of pages.
+constexpr char kIndexLeaf = 0x0A;
+constexpr char kTableLeaf = 0x0D;
 
 /// What a command left behind.
 struct Call
@@ -50,6 +55,22 @@ public:
         if (call.code != ExitCode::Done || !call.errors.isEmpty())
             return "failed: " + call.errors;
         return call.output;
+    }
+    /// Flips a bit of a text on the last page whose first byte is `kind`, and which holds it.
+    void Damage(char kind, const QString& text) const
+    {
+        QFile file(Path());
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QByteArray bytes = file.readAll();
+        QByteArray units(text.size() * 2, Qt::Uninitialized);
+        qToBigEndian<quint16>(text.utf16(), text.size(), units.data());
+        constexpr qsizetype kPageMask = ~qsizetype { 4095 };
+        qsizetype place = bytes.lastIndexOf(units);
+        while (place > 0 && bytes[place & kPageMask] != kind)
+            place = bytes.lastIndexOf(units, place - 1);
+        QVERIFY(place > 0);
+        bytes[place] = 1;
+        QVERIFY(file.seek(0) && file.write(bytes) == bytes.size());
     }
     /// The pantry: Tea is low and expired, Oil is low, Rice expires in ten days.
     void MakePantry()
@@ -97,6 +118,8 @@ private Q_SLOTS:
     void aBackupIsTheSameData();
     void whatARunChangedIsKeptAndRestored();
     void whatIsLeftOfADamagedFileIsSaved();
+    void damagedRowsAreNoRows_data();
+    void damagedRowsAreNoRows();
     void theWindowKeepsItsArguments();
 };
 
@@ -428,24 +451,54 @@ void CommandLineTest::whatIsLeftOfADamagedFileIsSaved()
 {
     Shell shell;
     shell.MakePantry();
+    shell.Damage(kTableLeaf, u"Tea"_s);
     QFile file(shell.Path());
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QByteArray bytes = file.readAll();
-    // A bit of the rows, which stand on the last page but that of their index.
-    const qsizetype place = bytes.lastIndexOf(QByteArray("\0T\0e\0a", 6));
-    const qsizetype otherPlace = bytes.lastIndexOf(QByteArray("\0T\0e\0a", 6), place - 4096);
-    const qsizetype page = bytes[place & ~4095] == 0x0D ? place : otherPlace;
-    QCOMPARE(bytes[page & ~4095], char(0x0D));
-    bytes[page] = 1;
-    QVERIFY(file.seek(0) && file.write(bytes) == bytes.size());
-    file.close();
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
     const QString saved = shell.Path(u"saved.idb"_s);
     const Call call = shell.Run({ u"restore"_s, saved, u"--salvage"_s });
     QVERIFY(call.code == ExitCode::Done);
     QCOMPARE(call.output, "Pantry\t0\t3 lost\n"_ba);
     QCOMPARE(shell.Output({ u"lists"_s, u"--data"_s, saved }), "Pantry\t0\n"_ba);
-    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.seek(0));
     QCOMPARE(file.readAll(), bytes);
+}
+
+void CommandLineTest::damagedRowsAreNoRows_data()
+{
+    QTest::addColumn<char>("page");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("output");
+    const auto add
+        = [](const char* name, char page, const QStringList& arguments, const QByteArray& output) {
+              QTest::newRow(name) << page << arguments << output;
+          };
+    add("totals", kTableLeaf, { u"summary"_s, u"Pantry"_s }, "");
+    add("totals as JSON", kTableLeaf, { u"summary"_s, u"Pantry"_s, u"--json"_s }, "");
+    add("totals of some", kTableLeaf, { u"summary"_s, u"Pantry"_s, u"--where=Name = Tea"_s }, "");
+    // One list that cannot be read does not hide the next.
+    add("lists", kIndexLeaf, { u"lists"_s }, "Tools\t1\n");
+    add("lists as JSON", kIndexLeaf, { u"lists"_s, u"--json"_s },
+        "[\n{\"columns\":[{\"name\":\"Name\",\"type\":\"string\"},{\"name\":\"Quantity\","
+        "\"type\":\"integer\"}],\"icon\":0,\"name\":\"Tools\",\"rows\":1}\n]\n");
+    add("what is due", kIndexLeaf, { u"due"_s }, "Tools\tSaw\tlow\n");
+    add("what is due as JSON", kIndexLeaf, { u"due"_s, u"--json"_s },
+        "[\n{\"count\":1,\"list\":\"Tools\",\"row\":\"Saw\",\"state\":\"low\"}\n]\n");
+}
+
+void CommandLineTest::damagedRowsAreNoRows()
+{
+    QFETCH(char, page);
+    QFETCH(QStringList, arguments);
+    Shell shell;
+    shell.MakePantry();
+    shell.Output({ u"new"_s, u"Tools"_s, u"--warn-count=1"_s });
+    shell.Output({ u"import"_s, u"Tools"_s, u"-"_s }, "Saw\t1\r\n");
+    shell.Damage(page, u"Tea"_s);
+    const Call call = shell.Run(arguments);
+    QCOMPARE(call.code, ExitCode::Failed);
+    QTEST(call.output, "output");
+    QVERIFY(call.errors.contains("the file is damaged (error 1392)\n"));
 }
 
 void CommandLineTest::theWindowKeepsItsArguments()

@@ -24,7 +24,7 @@ FilterSet Where(PropertyId column, FilterCondition condition, const QString& val
 QString Totals(ListFixture& file, const FilterSet* filters = nullptr)
 {
     QStringList texts;
-    for (const ColumnTotal& total : ComputeTotals(*file.data, file.list, filters, file.context))
+    for (const ColumnTotal& total : file.rows->Totals(filters))
         texts << total.name + u'=' + total.text;
     return texts.join(u' ');
 }
