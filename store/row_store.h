@@ -20,12 +20,15 @@ public:
     /// All three outlive the store; `list` is the definition that OpenList filled.
     RowStore(DataVolume& volume, const InventoryList& list, const ValueContext& context);
 
-    /// Every row in the order of names.
+    /// Every row in the order of names. One that cannot be had ends the listing: those before it
+    /// are there. Empty also where no list is open.
     [[nodiscard]] std::vector<ObjectId> FillRows();
-    /// The rows that pass, in the order of names. A row that cannot be read ends the listing.
+    /// The rows that pass, in the order of names; a row that cannot be read ends the listing, as
+    /// above.
     [[nodiscard]] std::vector<ObjectId> FillFilteredRows(const FilterSet& filters);
     /// `rows` ordered by a column, ascending; rows equal in it keep their order. A missing value
-    /// counts as 0, unchecked or the empty text. Reads the column once, not row by row.
+    /// counts as 0, unchecked or the empty text. Reads the column once, not row by row. Where it
+    /// cannot be read, `rows` as they were.
     [[nodiscard]] std::vector<ObjectId> SortRows(std::vector<ObjectId> rows, PropertyId column);
 
     /// One text per column, in column order. A date that cannot be read gets no value. The new

@@ -1,21 +1,17 @@
 #include "app/command_line.h"
 #include "tests/list_fixture.h"
+#include "tests/page_damage.h"
 
 #include <QBuffer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
-#include <QtEndian>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// First bytes of pages.
-constexpr char kIndexLeaf = 0x0A;
-constexpr char kTableLeaf = 0x0D;
 
 /// What a command left behind.
 struct Call
@@ -55,22 +51,6 @@ public:
         if (call.code != ExitCode::Done || !call.errors.isEmpty())
             return "failed: " + call.errors;
         return call.output;
-    }
-    /// Flips a bit of a text on the last page whose first byte is `kind`, and which holds it.
-    void Damage(char kind, const QString& text) const
-    {
-        QFile file(Path());
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QByteArray bytes = file.readAll();
-        QByteArray units(text.size() * 2, Qt::Uninitialized);
-        qToBigEndian<quint16>(text.utf16(), text.size(), units.data());
-        constexpr qsizetype kPageMask = ~qsizetype { 4095 };
-        qsizetype place = bytes.lastIndexOf(units);
-        while (place > 0 && bytes[place & kPageMask] != kind)
-            place = bytes.lastIndexOf(units, place - 1);
-        QVERIFY(place > 0);
-        bytes[place] = 1;
-        QVERIFY(file.seek(0) && file.write(bytes) == bytes.size());
     }
     /// The pantry: Tea is low and expired, Oil is low, Rice expires in ten days.
     void MakePantry()
@@ -451,7 +431,7 @@ void CommandLineTest::whatIsLeftOfADamagedFileIsSaved()
 {
     Shell shell;
     shell.MakePantry();
-    shell.Damage(kTableLeaf, u"Tea"_s);
+    DamagePage(shell.Path(), kTableLeaf, u"Tea"_s);
     QFile file(shell.Path());
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray bytes = file.readAll();
@@ -494,7 +474,7 @@ void CommandLineTest::damagedRowsAreNoRows()
     shell.MakePantry();
     shell.Output({ u"new"_s, u"Tools"_s, u"--warn-count=1"_s });
     shell.Output({ u"import"_s, u"Tools"_s, u"-"_s }, "Saw\t1\r\n");
-    shell.Damage(page, u"Tea"_s);
+    DamagePage(shell.Path(), page, u"Tea"_s);
     const Call call = shell.Run(arguments);
     QCOMPARE(call.code, ExitCode::Failed);
     QTEST(call.output, "output");

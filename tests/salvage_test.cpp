@@ -1,10 +1,10 @@
 #include "propdb/confined_vfs.h"
 #include "store/salvage.h"
 #include "tests/list_fixture.h"
+#include "tests/page_damage.h"
 
 #include <QFile>
 #include <QTest>
-#include <QtEndian>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -12,22 +12,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kRows = 400;
-/// First bytes of pages.
-constexpr char kIndexLeaf = 0x0A;
-constexpr char kTableLeaf = 0x0D;
+/// The first byte of a page.
 constexpr char kTableInner = 0x05;
 
 QByteArray Contents(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-QByteArray Units(const QString& text)
-{
-    QByteArray bytes(text.size() * 2, Qt::Uninitialized);
-    qToBigEndian<quint16>(text.utf16(), text.size(), bytes.data());
-    return bytes;
 }
 
 QString NameOfRow(int row)
@@ -58,8 +49,8 @@ public:
     {
         for (qsizetype page = 1; page < bytes.size() / kPageSize; ++page) {
             const QByteArray content = bytes.mid(page * kPageSize, kPageSize);
-            if (content[0] == kind && content.contains(Units(text))
-                && !content.contains(Units(other)))
+            if (content[0] == kind && content.contains(StoredText(text))
+                && !content.contains(StoredText(other)))
                 return page;
         }
         qFatal("there is no such page");
