@@ -1,7 +1,7 @@
 #include "app/command_line.h"
 
 #include "app/command_line_run.h"
-#include "app/settings.h"
+#include "app/settings_context.h"
 #include "store/kept_copies.h"
 
 #include <QFile>
@@ -294,16 +294,10 @@ int RunCommandLine(const QStringList& arguments)
     static_cast<void>(input.open(STDIN_FILENO, QIODevice::ReadOnly | kMode));
     static_cast<void>(output.open(STDOUT_FILENO, QIODevice::WriteOnly | kMode));
     static_cast<void>(errors.open(STDERR_FILENO, QIODevice::WriteOnly | kMode));
-    return static_cast<int>(RunCommandLine(arguments,
-        { input, output, errors, ValueContext::FromEnvironment(), ConfiguredDataFile(),
-            DefaultCopiesFolder() }));
-}
-
-QString ConfiguredDataFile()
-{
     Settings settings;
     ReadSettings(SettingsPath(), settings);
-    return settings.DbPath;
+    return static_cast<int>(RunCommandLine(arguments,
+        { input, output, errors, ContextOf(settings), settings.DbPath, DefaultCopiesFolder() }));
 }
 
 } // namespace Quillory

@@ -91,6 +91,7 @@ private Q_SLOTS:
     void aFileWhoseMakingWasCutShortHasNoLists();
     void jsonHoldsTypedValues();
     void columnsGiveTheImportItsOrder();
+    void theSettingsNameFileAndCodePage();
     void aDryRunStoresNothing();
     void writersAreRefusedWhileTheWindowHasTheFile();
     void loneSurrogatesAndControlsComeOutAsText();
@@ -323,6 +324,24 @@ void CommandLineTest::columnsGiveTheImportItsOrder()
         "1\n"_ba);
     QCOMPARE(shell.Output({ u"show"_s, u"L"_s }),
         "Name\tQuantity\tA, B\tA\nname\t7\tab\ta\ny\t\t\tx\n"_ba);
+}
+
+void CommandLineTest::theSettingsNameFileAndCodePage()
+{
+    Shell shell;
+    QCOMPARE(shell.Output({ u"new"_s, u"L"_s, u"--create"_s }), ""_ba);
+    const auto write = [&shell](const QString& name, const QByteArray& bytes) {
+        QVERIFY(QDir().mkpath(QFileInfo(shell.Path(name)).path()));
+        QFile file(shell.Path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    };
+    write(u"quillory/quillory.conf"_s,
+        "[General]\nDbPath=" + shell.Path().toUtf8() + "\nCodePage=1251\n");
+    write(u"in.txt"_s, "\xE4\r\n");
+    qputenv("XDG_CONFIG_HOME", QFileInfo(shell.Path()).path().toUtf8());
+    qputenv("XDG_STATE_HOME", QFileInfo(shell.Path()).path().toUtf8());
+    QCOMPARE(RunCommandLine({ u"import"_s, u"L"_s, shell.Path(u"in.txt"_s) }), 0);
+    QCOMPARE(shell.Output({ u"show"_s, u"L"_s }), "Name\tQuantity\n\xD0\xB4\t\n"_ba);
 }
 
 void CommandLineTest::aDryRunStoresNothing()
