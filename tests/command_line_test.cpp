@@ -140,6 +140,8 @@ void CommandLineTest::whatItPrints_data()
         "Pantry\tOil\tlow\nPantry\tRice\t6/25/2026\nPantry\tTea\tlow\nPantry\tTea\texpired\n");
     add("check", { u"check"_s }, "ok\n");
     add("the version", { u"--version"_s }, "quillory " QUILLORY_VERSION "\n");
+    add("the version beside a wrong command", { u"-v"_s, u"frob"_s },
+        "quillory " QUILLORY_VERSION "\n");
 }
 
 void CommandLineTest::whatItPrints()
@@ -244,6 +246,7 @@ void CommandLineTest::everyCommandHasHelp()
 {
     Shell shell;
     const QByteArray help = shell.Output({ u"--help"_s });
+    QCOMPARE(shell.Output({ u"--help"_s, u"frob"_s }), help);
     for (const char* name : { "lists", "new", "show", "export", "import", "summary", "due", "check",
              "backup", "restore" }) {
         QVERIFY(help.contains(QByteArray("  quillory ") + name));
@@ -509,6 +512,15 @@ void CommandLineTest::theWindowKeepsItsArguments()
     QVERIFY(IsCommandLine({ u"--data"_s, u"x"_s, u"lists"_s }));
     QVERIFY(IsCommandLine({ u"--help"_s }));
     QVERIFY(IsCommandLine({ u"--frob"_s }));
+    // An option of the commands is one whatever follows it.
+    QVERIFY(IsCommandLine({ u"--help"_s, u"frob"_s }));
+    QVERIFY(IsCommandLine({ u"-h"_s, u"frob"_s }));
+    QVERIFY(IsCommandLine({ u"--frob"_s, u"Pantry"_s }));
+    QVERIFY(IsCommandLine({ u"--data"_s, u"x"_s }));
+    QVERIFY(IsCommandLine({ u"--data"_s, u"x"_s, u"Pantry"_s }));
+    const Call call = Shell().Run({ u"--data"_s, u"x"_s, u"shwo"_s, u"Pantry"_s, u"--json"_s });
+    QCOMPARE(call.code, ExitCode::WrongUsage);
+    QVERIFY(call.errors.startsWith("quillory: there is no command “shwo”\nusage: quillory"));
 }
 
 QTEST_GUILESS_MAIN(CommandLineTest)
