@@ -96,6 +96,8 @@ private Q_SLOTS:
     void writersAreRefusedWhileTheWindowHasTheFile();
     void loneSurrogatesAndControlsComeOutAsText();
     void aFailedImportTellsHowFarItCame();
+    void anImportOfNoRowsTellsWhy_data();
+    void anImportOfNoRowsTellsWhy();
     void aBackupIsTheSameData();
     void whatARunChangedIsKeptAndRestored();
     void whatIsLeftOfADamagedFileIsSaved();
@@ -397,9 +399,36 @@ void CommandLineTest::aFailedImportTellsHowFarItCame()
     QVERIFY(call.code == ExitCode::Failed);
     QCOMPARE(call.output, "0\n"_ba);
     QVERIFY(call.errors.contains("Import is completed with errors"));
-    // As editors on this system save it.
-    const Call unended = shell.Run({ u"import"_s, u"Pantry"_s, u"-"_s }, "a\nb\n");
-    QVERIFY(unended.code == ExitCode::Done && unended.errors.contains("carriage return"));
+}
+
+void CommandLineTest::anImportOfNoRowsTellsWhy_data()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QByteArray>("reason");
+    const QByteArray unended = "no line to import that ends with a carriage return";
+    QTest::newRow("lines as editors on this system end them") << "a\nb\n"_ba << unended;
+    QTest::newRow("nothing") << ""_ba << unended;
+    QTest::newRow("tabs") << "\t\t\r\n"_ba
+                          << "no line gives a value"_ba;
+    QTest::newRow("an empty line") << "\r\n"_ba
+                                   << "no line gives a value"_ba;
+    QTest::newRow("no date") << "xyz\r\n"_ba
+                             << "no line gives a value"_ba;
+}
+
+void CommandLineTest::anImportOfNoRowsTellsWhy()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(QByteArray, reason);
+    Shell shell;
+    shell.MakePantry();
+    const QStringList arguments { u"import"_s, u"Pantry"_s, u"-"_s, u"--columns=Bought on"_s };
+    for (const QStringList& more : { QStringList(), { u"--dry-run"_s } }) {
+        const Call call = shell.Run(arguments + more, input);
+        QCOMPARE(call.code, ExitCode::Done);
+        QCOMPARE(call.output, "0\n"_ba);
+        QVERIFY2(call.errors.contains(reason), call.errors.constData());
+    }
 }
 
 void CommandLineTest::aBackupIsTheSameData()
