@@ -34,14 +34,17 @@ public:
     /// One text per column, in column order. A date that cannot be read gets no value. The new
     /// row, or kNoObject.
     ObjectId WriteNewRow(std::span<const QString> texts);
-    /// As above onto an existing row; a date that cannot be read keeps its stored value.
+    /// As above onto an existing row; a date that cannot be read keeps its stored value. False, and
+    /// the row as it was, if there is no such row, no text gives a value or it cannot be written.
     bool ModifyRow(ObjectId row, std::span<const QString> texts);
     /// A new row with the same values; kNoObject on failure.
     ObjectId CopyRow(ObjectId row);
+    /// False, and nothing deleted, if there is no such row or it cannot be deleted.
     bool DeleteRow(ObjectId row);
     /// Adds `step` to the row's Count by 32-bit two's complement, all or nothing. The new count;
     /// nothing on failure, also where the list or the row has no count.
     std::optional<qint32> AdjustCount(ObjectId row, qint32 step);
+    /// False, and the row as it was, if there is no such row or it cannot be written.
     bool SetCheckboxValue(ObjectId row, PropertyId column, bool isChecked);
 
     /// Every property of a row; false in a condition if it cannot be found.
