@@ -1,7 +1,7 @@
 #include "app/command_line.h"
 
 #include "app/command_line_run.h"
-#include "app/settings.h"
+#include "app/settings_context.h"
 #include "store/kept_copies.h"
 
 #include <QFile>
@@ -187,10 +187,9 @@ void AddOptions(QCommandLineParser& parser, const SubCommand* command)
         parser.addOption({ QString::fromLatin1(option), {}, u"VALUE"_s });
 }
 
-void Parse(QCommandLineParser& parser, const QStringList& arguments)
+[[nodiscard]] bool Parse(QCommandLineParser& parser, const QStringList& arguments)
 {
-    if (!parser.parse(QStringList { u"quillory"_s } + arguments))
-        FailUsage(parser.errorText());
+    return parser.parse(QStringList { u"quillory"_s } + arguments);
 }
 
 void CheckOperands(const SubCommand& command, const QStringList& operands)
@@ -201,33 +200,33 @@ void CheckOperands(const SubCommand& command, const QStringList& operands)
         FailUsage(u"“%1” is one argument too many"_s.arg(operands[command.maxOperands]));
 }
 
-/// Runs a call that names no sub-command, which can only ask for help or the version.
+/// Runs a call that names no sub-command there is, which can only ask for help or the version.
 void RunBare(const QStringList& arguments, TextOutput& output)
 {
     QCommandLineParser parser;
     AddOptions(parser, nullptr);
-    Parse(parser, arguments);
-    if (parser.isSet(u"help"_s))
-        output.WriteRaw(HelpText());
-    else if (parser.isSet(u"version"_s))
-        output.WriteRaw("quillory " QUILLORY_VERSION "\n");
-    else
-        FailUsage(u"no command is named"_s);
+    const bool isRight = Parse(parser, arguments);
+    if (isRight && parser.isSet(u"help"_s))
+        return output.WriteRaw(HelpText());
+    if (isRight && parser.isSet(u"version"_s))
+        return output.WriteRaw("quillory " QUILLORY_VERSION "\n");
+    const qsizetype place = SubCommandPlace(arguments);
+    if (place >= 0)
+        FailUsage(u"there is no command “%1”"_s.arg(arguments[place]));
+    FailUsage(isRight ? u"no command is named"_s : parser.errorText());
 }
 
 void Dispatch(const QStringList& arguments, const SubCommand* command,
     const CommandEnvironment& environment, TextOutput& output)
 {
-    const qsizetype place = SubCommandPlace(arguments);
-    if (place < 0)
-        return RunBare(arguments, output);
     if (command == nullptr)
-        FailUsage(u"there is no command “%1”"_s.arg(arguments[place]));
+        return RunBare(arguments, output);
     QStringList rest = arguments;
-    rest.removeAt(place);
+    rest.removeAt(SubCommandPlace(arguments));
     QCommandLineParser parser;
     AddOptions(parser, command);
-    Parse(parser, rest);
+    if (!Parse(parser, rest))
+        FailUsage(parser.errorText());
     if (parser.isSet(u"help"_s))
         return output.WriteRaw(HelpText(*command));
     if (parser.isSet(u"version"_s))
@@ -235,11 +234,6 @@ void Dispatch(const QStringList& arguments, const SubCommand* command,
     const QStringList operands = parser.positionalArguments();
     CheckOperands(*command, operands);
     command->run({ environment, parser, operands, output });
-}
-
-void Complain(QIODevice& errors, const QString& message)
-{
-    errors.write("quillory: " + message.toUtf8() + '\n');
 }
 
 ExitCode Finish(TextOutput& output, const CommandEnvironment& environment)
@@ -257,13 +251,14 @@ ExitCode Finish(TextOutput& output, const CommandEnvironment& environment)
 
 bool IsCommandLine(const QStringList& arguments)
 {
-    if (arguments.isEmpty() || arguments.front() == u"--")
+    if (arguments.isEmpty())
         return false;
-    const qsizetype place = SubCommandPlace(arguments);
+    // The toolkit's own options, which the window passes on, begin with a single dash.
     const QString& first = arguments.front();
-    if (place < 0)
-        return first.startsWith(u"--") || first == u"-h" || first == u"-v";
-    return FindSubCommand(arguments[place]) != nullptr;
+    if (first.startsWith(u"--") || first == u"-h" || first == u"-v")
+        return first != u"--";
+    const qsizetype place = SubCommandPlace(arguments);
+    return place >= 0 && FindSubCommand(arguments[place]) != nullptr;
 }
 
 ExitCode RunCommandLine(const QStringList& arguments, const CommandEnvironment& environment)
@@ -275,12 +270,12 @@ ExitCode RunCommandLine(const QStringList& arguments, const CommandEnvironment& 
         Dispatch(arguments, command, environment, output);
         return Finish(output, environment);
     } catch (const CommandFailure& failure) {
-        const ExitCode finished = Finish(output, environment);
+        Finish(output, environment);
         Complain(environment.errors, failure.Message());
         if (failure.Code() == ExitCode::WrongUsage)
             environment.errors.write(
                 command == nullptr ? QByteArray(kUsageHead) : "usage: " + UsageLine(*command));
-        return failure.Code() == ExitCode::Done ? finished : failure.Code();
+        return failure.Code();
     } catch (const std::bad_alloc&) {
         Complain(environment.errors, u"out of memory"_s);
         return ExitCode::Failed;
@@ -299,16 +294,10 @@ int RunCommandLine(const QStringList& arguments)
     static_cast<void>(input.open(STDIN_FILENO, QIODevice::ReadOnly | kMode));
     static_cast<void>(output.open(STDOUT_FILENO, QIODevice::WriteOnly | kMode));
     static_cast<void>(errors.open(STDERR_FILENO, QIODevice::WriteOnly | kMode));
-    return static_cast<int>(RunCommandLine(arguments,
-        { input, output, errors, ValueContext::FromEnvironment(), ConfiguredDataFile(),
-            DefaultCopiesFolder() }));
-}
-
-QString ConfiguredDataFile()
-{
     Settings settings;
     ReadSettings(SettingsPath(), settings);
-    return settings.DbPath;
+    return static_cast<int>(RunCommandLine(arguments,
+        { input, output, errors, ContextOf(settings), settings.DbPath, DefaultCopiesFolder() }));
 }
 
 } // namespace Quillory

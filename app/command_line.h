@@ -37,7 +37,4 @@ struct CommandEnvironment
 [[nodiscard]] ExitCode RunCommandLine(
     const QStringList& arguments, const CommandEnvironment& environment);
 
-/// The data file that the settings name; empty if they name none.
-[[nodiscard]] QString ConfiguredDataFile();
-
 } // namespace Quillory

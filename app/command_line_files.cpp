@@ -46,9 +46,11 @@ void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
         Fail(u"the rows cannot be stored: %1"_s.arg(ErrorText(outcome.writeError)));
     if (outcome.result == ImportResult::Failed)
         Fail(LoadString(StringId::ImportErrors));
-    if (outcome.rows == 0)
-        run.environment.errors.write("quillory: there is no line to import that ends with a "
-                                     "carriage return and a line feed\n");
+    if (outcome.lines == 0)
+        Complain(run.environment.errors,
+            u"there is no line to import that ends with a carriage return and a line feed"_s);
+    else if (outcome.rows == 0)
+        Complain(run.environment.errors, u"no line gives a value"_s);
 }
 
 std::vector<PropertyId> ColumnOrder(const CommandRun& run, const InventoryList& list)

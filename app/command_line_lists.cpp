@@ -107,21 +107,20 @@ void RunLists(const CommandRun& run)
     std::optional<JsonArrayWriter> json;
     if (run.IsJson())
         json.emplace(run.output);
-    for (const ListCatalogue::HomeListEntry& entry : data->catalogue.FillHomeList()) {
-        data->OpenList(entry.oid);
+    const auto print = [&](const ListCatalogue::HomeListEntry& entry) {
         const auto count = data->Rows().RecordCount();
         if (!count)
-            Fail(u"cannot count the rows of “%1”: %2"_s.arg(entry.name, ErrorText(count.Error())));
-        if (!json) {
+            Fail(u"cannot count the rows: %1"_s.arg(ErrorText(count.Error())));
+        if (json)
+            json->Add({ { u"name"_s, entry.name }, { u"rows"_s, *count }, { u"icon"_s, entry.icon },
+                { u"columns"_s, JsonColumns(data->list) } });
+        else
             run.output.WriteFields({ entry.name, QString::number(*count) });
-            continue;
-        }
-        json->Add({ { u"name"_s, entry.name }, { u"rows"_s, *count }, { u"icon"_s, entry.icon },
-            { u"columns"_s, JsonColumns(data->list) } });
-    }
-    if (json)
-        json->End();
-    FailIfListsAreMissing(data->catalogue);
+    };
+    run.VisitLists(*data, print, [&json] {
+        if (json)
+            json->End();
+    });
 }
 
 void RunNew(const CommandRun& run)

@@ -256,10 +256,12 @@ void RunSummary(const CommandRun& run)
     const auto data = run.OpenForReading();
     data->OpenList(run.operands.front());
     const FilterSet filters = ReadConditions(run.parser.values(u"where"_s), data->list, context);
+    const ListTotals totals = ComputeTotals(data->volume, data->list, &filters, context);
+    CheckRead(totals.readError);
     std::optional<JsonArrayWriter> json;
     if (run.IsJson())
         json.emplace(run.output);
-    for (const ColumnTotal& total : ComputeTotals(data->volume, data->list, &filters, context)) {
+    for (const ColumnTotal& total : totals.lines) {
         if (json)
             json->Add({ { u"name"_s, total.name }, { u"total"_s, total.text } });
         else
@@ -276,12 +278,9 @@ void RunDue(const CommandRun& run)
     const qint32 days = isWithin ? ReadInteger(run.parser, u"within"_s, 0, kMostDays) : 0;
     const auto data = run.OpenForReading();
     DuePrinter printer(run, days);
-    for (const ListCatalogue::HomeListEntry& entry : data->catalogue.FillHomeList()) {
-        data->OpenList(entry.oid);
-        printer.PrintList(*data);
-    }
-    printer.End();
-    FailIfListsAreMissing(data->catalogue);
+    run.VisitLists(
+        *data, [&](const ListCatalogue::HomeListEntry&) { printer.PrintList(*data); },
+        [&printer] { printer.End(); });
 }
 
 } // namespace Quillory

@@ -23,6 +23,11 @@ void FailUsage(const QString& message)
     throw CommandFailure(ExitCode::WrongUsage, message);
 }
 
+void Complain(QIODevice& errors, const QString& message)
+{
+    errors.write("quillory: " + message.toUtf8() + '\n');
+}
+
 void FailIfListsAreMissing(const ListCatalogue& catalogue)
 {
     if (catalogue.HomeListError() != ErrorNumber::None)
@@ -64,8 +69,10 @@ CommandData::CommandData(const QString& path, VolumeAccess access, Disposition d
 ObjectId CommandData::OpenList(const QString& name)
 {
     const ObjectId oid = catalogue.FindList(name);
-    if (oid == kNoObject)
+    if (oid == kNoObject) {
+        FailIfListsAreMissing(catalogue);
         Fail(u"there is no list named “%1”"_s.arg(name));
+    }
     OpenList(oid);
     return oid;
 }
@@ -110,6 +117,25 @@ std::unique_ptr<CommandData> CommandRun::OpenForReading() const
 std::unique_ptr<CommandData> CommandRun::OpenForWriting(Disposition disposition) const
 {
     return std::make_unique<CommandData>(DataFile(), VolumeAccess::Exclusive, disposition);
+}
+
+void CommandRun::VisitLists(
+    CommandData& data, const ListVisitor& visit, const std::function<void()>& end) const
+{
+    bool isWhole = true;
+    for (const ListCatalogue::HomeListEntry& entry : data.catalogue.FillHomeList()) {
+        try {
+            data.OpenList(entry.oid);
+            visit(entry);
+        } catch (const CommandFailure& failure) {
+            Complain(environment.errors, u"“%1”: %2"_s.arg(entry.name, failure.Message()));
+            isWhole = false;
+        }
+    }
+    end();
+    FailIfListsAreMissing(data.catalogue);
+    if (!isWhole)
+        Fail(u"not every list could be read"_s);
 }
 
 void CommandRun::KeepCopyOf(CommandData& data) const

@@ -7,6 +7,7 @@
 #include <QCommandLineParser>
 
 #include <exception>
+#include <functional>
 #include <memory>
 #include <span>
 
@@ -28,6 +29,8 @@ private:
 
 [[noreturn]] void Fail(const QString& message);
 [[noreturn]] void FailUsage(const QString& message);
+/// Writes a message as a line of its own to standard error.
+void Complain(QIODevice& errors, const QString& message);
 /// Fails if the latest listing of the catalogue ended before its end. What could be read was shown.
 void FailIfListsAreMissing(const ListCatalogue& catalogue);
 /// The value of an option as a whole number; one outside the limits ends the command.
@@ -74,6 +77,11 @@ struct CommandRun
     [[nodiscard]] std::unique_ptr<CommandData> OpenForReading() const;
     [[nodiscard]] std::unique_ptr<CommandData> OpenForWriting(
         Disposition disposition = Disposition::OpenExisting) const;
+    using ListVisitor = std::function<void(const ListCatalogue::HomeListEntry& entry)>;
+    /// Opens one list after another for `visit`, then calls `end`. A list that fails is told of on
+    /// standard error and the next one follows; after `end` the command fails.
+    void VisitLists(
+        CommandData& data, const ListVisitor& visit, const std::function<void()>& end) const;
     /// Keeps a copy of a data file that the command has changed; to be called at its good end.
     void KeepCopyOf(CommandData& data) const;
     [[nodiscard]] bool IsJson() const;

@@ -3,6 +3,7 @@
 #include "app/file_dialog.h"
 #include "app/home_list.h"
 #include "app/plain_pages.h"
+#include "app/settings_context.h"
 #include "listdef/display_options_page.h"
 #include "res/dialog_table.h"
 #include "res/string_table.h"
@@ -61,15 +62,11 @@ MainFrame::MainFrame(Settings settings, Places places, QWidget* parent)
     : QMainWindow(parent)
     , m_places(std::move(places))
     , m_settings(std::move(settings))
-    , m_context(ValueContext::FromEnvironment())
+    , m_context(ContextOf(m_settings))
     , m_pages(new PageStack(this))
     , m_home(new HomeList)
     , m_landscape(*this, m_places.turnedOutput)
 {
-    if (m_settings.codePage) {
-        m_context.userLocale.codePage = *m_settings.codePage;
-        m_context.systemLocale.codePage = *m_settings.codePage;
-    }
     // A data file that is there already is opened, so there is nothing to warn of.
     m_chooser = [this](const auto& then) {
         ChooseFile(this, FileUse::MakeOrOpen,

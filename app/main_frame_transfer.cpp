@@ -8,9 +8,23 @@
 #include "transfer/text_export.h"
 #include "widgets/message_box.h"
 
+#include <QFileInfo>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// To open a pipe is to wait for its other end, and the window with it. A file that is to be made
+/// counts as plain.
+bool IsPlainFile(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.isFile() || !info.exists();
+}
+
+} // namespace
 
 void MainFrame::ImportList()
 {
@@ -39,7 +53,7 @@ void MainFrame::ChooseImportOrder(const QString& path)
 void MainFrame::ImportFrom(const QString& path, const std::vector<PropertyId>& order)
 {
     ImportOutcome outcome { ImportResult::Failed };
-    const ListFile source = OpenListFile(path, m_settings.DbPath);
+    const ListFile source = IsPlainFile(path) ? OpenListFile(path, m_settings.DbPath) : ListFile();
     if (source.file != nullptr) {
         TransferProgress progress(this, m_list.Name);
         outcome = ImportRows(
@@ -89,7 +103,8 @@ void MainFrame::ExportTo(const QString& path)
     InventoryList list;
     if (!m_catalogue.OpenList(m_home->SelectedList(), list))
         return;
-    const ListFile target = CreateListFile(path, m_settings.DbPath);
+    const ListFile target
+        = IsPlainFile(path) ? CreateListFile(path, m_settings.DbPath) : ListFile();
     Database* rows = m_volume.OpenDatabase(ListCatalogue::kRowsType);
     if (target.file != nullptr && rows != nullptr) {
         const qint64 total = m_volume.RecordCount(ListCatalogue::kRowsType);

@@ -13,6 +13,7 @@ bool LiesWithMedium(ErrorNumber error)
     switch (error) {
     case ErrorNumber::None:
     case ErrorNumber::InvalidData:
+    case ErrorNumber::BadLength:
     case ErrorNumber::DuplicateName:
     case ErrorNumber::InvalidParameter:
     case ErrorNumber::InvalidName:
@@ -58,6 +59,13 @@ Database* DataVolume::Find(DatabaseType type)
     return nullptr;
 }
 
+Volume* DataVolume::FindVolume()
+{
+    if (m_volume == nullptr)
+        m_lastError = ErrorNumber::InvalidHandle;
+    return m_volume.get();
+}
+
 ErrorNumber DataVolume::Mount(const QString& path, Disposition disposition, VolumeAccess access)
 {
     if (m_volume != nullptr)
@@ -79,12 +87,12 @@ bool DataVolume::Unmount()
 
 bool DataVolume::Flush()
 {
-    return m_volume != nullptr;
+    return FindVolume() != nullptr;
 }
 
 bool DataVolume::OpenSession()
 {
-    m_hasSession = m_volume != nullptr;
+    m_hasSession = FindVolume() != nullptr;
     return m_hasSession;
 }
 
@@ -96,7 +104,7 @@ bool DataVolume::Exists(DatabaseType type)
 std::vector<ObjectId> DataVolume::DatabasesOf(DatabaseType type)
 {
     std::vector<ObjectId> oids;
-    if (m_volume == nullptr)
+    if (FindVolume() == nullptr)
         return oids;
     const auto databases = m_volume->Databases();
     if (!Note(databases))
@@ -113,7 +121,7 @@ ObjectId DataVolume::Create(const QString& name, DatabaseType type,
 {
     if (specs.empty())
         return static_cast<ObjectId>(ErrorNumber::InvalidParameter);
-    if (m_volume == nullptr)
+    if (FindVolume() == nullptr)
         return kNoObject;
     const auto created = m_volume->CreateDatabase(name, type, specs, sortOrders);
     return NoteWrite(created) ? *created : kNoObject;
@@ -198,7 +206,9 @@ ObjectId DataVolume::SeekTo(DatabaseType type, ObjectId oid)
     if (database == nullptr)
         return kNoObject;
     const auto found = database->SeekTo(oid);
-    return Note(found) ? *found : kNoObject;
+    if (Note(found) && *found == kNoObject)
+        m_lastError = ErrorNumber::NotFound;
+    return found ? *found : kNoObject;
 }
 
 Record DataVolume::ReadAll(DatabaseType type)
@@ -236,24 +246,27 @@ bool DataVolume::DeleteRecord(DatabaseType type, ObjectId oid)
 
 QString DataVolume::DatabaseName(ObjectId oid)
 {
-    if (m_volume == nullptr)
+    if (FindVolume() == nullptr)
         return {};
     const auto databases = m_volume->Databases();
     if (!Note(databases))
         return {};
     const auto found = std::find_if(databases->begin(), databases->end(),
         [oid](const Volume::DatabaseInfo& info) { return info.oid == oid; });
-    return found == databases->end() ? QString() : found->name;
+    if (found != databases->end())
+        return found->name;
+    m_lastError = ErrorNumber::NotFound;
+    return {};
 }
 
 bool DataVolume::RenameDatabase(ObjectId oid, const QString& name, DatabaseType type)
 {
-    return m_volume != nullptr && NoteWrite(m_volume->RenameDatabase(oid, name, type));
+    return FindVolume() != nullptr && NoteWrite(m_volume->RenameDatabase(oid, name, type));
 }
 
 bool DataVolume::DeleteDatabase(ObjectId oid)
 {
-    return m_volume != nullptr && NoteWrite(m_volume->DeleteDatabase(oid));
+    return FindVolume() != nullptr && NoteWrite(m_volume->DeleteDatabase(oid));
 }
 
 bool DataVolume::BeginTransaction()
@@ -267,7 +280,7 @@ bool DataVolume::BeginTransaction()
 
 bool DataVolume::EndTransaction(bool commit)
 {
-    return m_volume != nullptr && NoteWrite(m_volume->EndTransaction(commit));
+    return FindVolume() != nullptr && NoteWrite(m_volume->EndTransaction(commit));
 }
 
 void DataVolume::SetWriteFailureListener(WriteFailureListener listener)

@@ -42,9 +42,9 @@ public:
     /// Opens the session unless there is one; false when nothing is mounted.
     bool OpenSession();
 
-    /// Whether the volume holds a database of this type, whatever its name.
+    /// Whether the volume holds a database of this type, whatever its name. False also on failure.
     [[nodiscard]] bool Exists(DatabaseType type);
-    /// Every database of this type, oldest first.
+    /// Every database of this type, oldest first. None also on failure.
     [[nodiscard]] std::vector<ObjectId> DatabasesOf(DatabaseType type);
     /// Makes a database; its identifier, or kNoObject on failure. Without any property nothing is
     /// made and 87 comes back in place of an identifier; callers take it for success.
@@ -79,7 +79,7 @@ public:
     /// kNoObject on failure.
     ObjectId Write(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values);
     bool DeleteRecord(DatabaseType type, ObjectId oid);
-    /// Empty if there is no such database.
+    /// Empty if there is no such database, or on failure.
     [[nodiscard]] QString DatabaseName(ObjectId oid);
     /// Gives a closed database another name and type.
     bool RenameDatabase(ObjectId oid, const QString& name, DatabaseType type);
@@ -120,6 +120,7 @@ private:
     /// As Note(), for an operation that writes.
     template <typename T> bool NoteWrite(const Result<T>& result);
     Database* Find(DatabaseType type);
+    Volume* FindVolume();
 };
 
 /// A transaction that rolls back when it is left without a commit.

@@ -99,6 +99,14 @@ void Prune(QDir& set)
         set.remove(name);
 }
 
+/// The name of the next copy. Behind those there are, also where the clock was once ahead: the copy
+/// that is made last must be the newest.
+QString NextName(const QDir& set, const QDateTime& now)
+{
+    const auto copies = CopiesIn(set);
+    return NameAt(copies.empty() ? now : std::max(now, copies.front().time.addMSecs(1)));
+}
+
 } // namespace
 
 QString DefaultCopiesFolder()
@@ -121,7 +129,7 @@ KeepOutcome KeepCopy(
     QDir set(setFolder);
     Prune(set);
     if (!HasRoom(setFolder, path) || !WriteOrigin(set, path)
-        || !volume->Backup(set.filePath(NameAt(now))))
+        || !volume->Backup(set.filePath(NextName(set, now))))
         return KeepOutcome::NotKept;
     Prune(set);
     return KeepOutcome::Kept;

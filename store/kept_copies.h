@@ -16,7 +16,7 @@ constexpr size_t kKeptCopies = 3;
 struct KeptCopy
 {
     QString path;
-    /// When the copy was made, in UTC.
+    /// When the copy was made, in UTC; later than that where the clock was ahead for a copy before.
     QDateTime time;
     qint64 bytes = 0;
 };

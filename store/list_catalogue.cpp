@@ -145,6 +145,12 @@ QString DeletedName(const QString& mapName)
     return mapName + u'~';
 }
 
+/// Writes onto a record that there is; none is added.
+bool WriteOnto(DataVolume& volume, ObjectId oid, std::span<const PropertyValue> values)
+{
+    return oid != kNoObject && volume.Write(ListCatalogue::kCatalogueType, oid, values) == oid;
+}
+
 } // namespace
 
 ListCatalogue::ListCatalogue(DataVolume& volume)
@@ -286,12 +292,12 @@ ObjectId ListCatalogue::AddList(const InventoryList& definition)
 bool ListCatalogue::RenameList(ObjectId oid, const QString& name)
 {
     const std::array<PropertyValue, 1> values { { { kName, 0, name } } };
-    return m_volume.Write(kCatalogueType, oid, values) == oid;
+    return WriteOnto(m_volume, oid, values);
 }
 
 bool ListCatalogue::UpdateListOptions(ObjectId oid, const InventoryList& definition)
 {
-    return m_volume.Write(kCatalogueType, oid, OptionValues(definition)) == oid;
+    return WriteOnto(m_volume, oid, OptionValues(definition));
 }
 
 bool ListCatalogue::UpdateList(ObjectId oid, const InventoryList& definition)
@@ -299,7 +305,7 @@ bool ListCatalogue::UpdateList(ObjectId oid, const InventoryList& definition)
     std::vector<PropertyValue> values = OptionValues(definition);
     values.push_back({ kName, 0, definition.Name });
     values.push_back({ kTableIcon, 0, definition.TableIcon });
-    return m_volume.Write(kCatalogueType, oid, values) == oid;
+    return WriteOnto(m_volume, oid, values);
 }
 
 ListCatalogue::CreateOutcome ListCatalogue::CreateList(InventoryList& definition)

@@ -44,6 +44,7 @@ public:
     /// The record of the first list so named; kNoObject if there is none.
     [[nodiscard]] ObjectId FindList(const QString& name);
 
+    /// Nothing if the record is not there, cannot be read or has no name.
     [[nodiscard]] std::optional<QString> ReadListName(ObjectId oid);
     /// The definition that a record of the catalogue holds, as far as it goes; without columns.
     [[nodiscard]] static InventoryList DefinitionOf(std::span<const PropertyValue> record);
@@ -54,12 +55,15 @@ public:
     /// Reads name, map name, icon and settings of a record into `definition`; false if the record
     /// cannot be read. Columns are not touched.
     [[nodiscard]] bool ReadListHeader(ObjectId oid, InventoryList& definition);
-    /// The map name of a record; its settings go to `definition` unless that is null.
+    /// The map name of a record; its settings go to `definition` unless that is null. Nothing, and
+    /// `definition` as it was, if the record is not there, cannot be read or has no map name.
     [[nodiscard]] std::optional<QString> ReadListDefinition(
         ObjectId oid, InventoryList* definition);
 
     /// Adds a record; its identifier, kNoObject on failure.
     ObjectId AddList(const InventoryList& definition);
+    /// Writes the name alone. This and the two that follow return false, with the record as it was,
+    /// if it is not there or cannot be written.
     bool RenameList(ObjectId oid, const QString& name);
     /// Writes warnings, widths and column order.
     bool UpdateListOptions(ObjectId oid, const InventoryList& definition);
@@ -105,7 +109,8 @@ public:
     /// Brings the deleted rows of a list back, beside those that it was given since. All or
     /// nothing; durable.
     bool RestoreRows(ObjectId oid);
-    /// Ends what is kept aside: nothing of it stays in the file. True if nothing is left.
+    /// Ends what is kept aside: nothing of it stays in the file. False if some of it could
+    /// not be deleted.
     bool PurgeDeleted();
 
     [[nodiscard]] DataVolume& Volume() { return m_volume; }

@@ -16,6 +16,19 @@ namespace {
 
 constexpr DatabaseType kRows = ListCatalogue::kRowsType;
 
+/// The rows that pass in the order of names, up to the first one that cannot be read.
+std::vector<ObjectId> RowsUpToDamage(
+    Database& database, const FilterSet* filters, const ValueContext& context)
+{
+    std::vector<ObjectId> rows;
+    static_cast<void>(ScanFilteredInPlace(
+        database, {}, filters, context, ScanOrder::Sorted, [&rows](const ScannedRecord& record) {
+            rows.push_back(record.Oid());
+            return true;
+        }).IsOk());
+    return rows;
+}
+
 } // namespace
 
 RowStore::RowStore(DataVolume& volume, const InventoryList& list, const ValueContext& context)
@@ -30,7 +43,7 @@ std::vector<ObjectId> RowStore::FillRows()
     if (database == nullptr)
         return {};
     auto rows = database->ListRecords();
-    return rows ? std::move(*rows) : std::vector<ObjectId>();
+    return rows ? std::move(*rows) : RowsUpToDamage(*database, nullptr, m_context);
 }
 
 std::vector<ObjectId> RowStore::FillFilteredRows(const FilterSet& filters)
@@ -39,20 +52,13 @@ std::vector<ObjectId> RowStore::FillFilteredRows(const FilterSet& filters)
     if (database == nullptr || filters.entries.empty())
         return FillRows();
     std::vector<ObjectId> passing;
-    const auto collect = [&passing](const ScannedRecord& record) {
-        passing.push_back(record.Oid());
-        return true;
-    };
-    const auto scanned
-        = ScanFilteredInPlace(*database, {}, &filters, m_context, ScanOrder::Any, collect);
-    if (!scanned) {
-        // In sorted order the rows before the one that cannot be read are known.
-        passing.clear();
-        static_cast<void>(
-            ScanFilteredInPlace(*database, {}, &filters, m_context, ScanOrder::Sorted, collect)
-                .IsOk());
-        return passing;
-    }
+    const auto scanned = ScanFilteredInPlace(*database, {}, &filters, m_context, ScanOrder::Any,
+        [&passing](const ScannedRecord& record) {
+            passing.push_back(record.Oid());
+            return true;
+        });
+    if (!scanned)
+        return RowsUpToDamage(*database, &filters, m_context);
     if (passing.empty())
         return passing;
     const RowSet passingRows(passing);
@@ -136,7 +142,7 @@ Record RowStore::ReadRow(ObjectId row)
 
 std::vector<ColumnTotal> RowStore::Totals(const FilterSet* filters)
 {
-    return ComputeTotals(m_volume, m_list, filters, m_context);
+    return ComputeTotals(m_volume, m_list, filters, m_context).lines;
 }
 
 QString RowStore::FormatCellText(PropertyId column, ObjectId row)

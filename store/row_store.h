@@ -20,30 +20,37 @@ public:
     /// All three outlive the store; `list` is the definition that OpenList filled.
     RowStore(DataVolume& volume, const InventoryList& list, const ValueContext& context);
 
-    /// Every row in the order of names.
+    /// Every row in the order of names. One that cannot be had ends the listing: those before it
+    /// are there. Empty also where no list is open.
     [[nodiscard]] std::vector<ObjectId> FillRows();
-    /// The rows that pass, in the order of names. A row that cannot be read ends the listing.
+    /// The rows that pass, in the order of names; a row that cannot be read ends the listing, as
+    /// above.
     [[nodiscard]] std::vector<ObjectId> FillFilteredRows(const FilterSet& filters);
     /// `rows` ordered by a column, ascending; rows equal in it keep their order. A missing value
-    /// counts as 0, unchecked or the empty text. Reads the column once, not row by row.
+    /// counts as 0, unchecked or the empty text. Reads the column once, not row by row. Where it
+    /// cannot be read, `rows` as they were.
     [[nodiscard]] std::vector<ObjectId> SortRows(std::vector<ObjectId> rows, PropertyId column);
 
     /// One text per column, in column order. A date that cannot be read gets no value. The new
     /// row, or kNoObject.
     ObjectId WriteNewRow(std::span<const QString> texts);
-    /// As above onto an existing row; a date that cannot be read keeps its stored value.
+    /// As above onto an existing row; a date that cannot be read keeps its stored value. False, and
+    /// the row as it was, if there is no such row, no text gives a value or it cannot be written.
     bool ModifyRow(ObjectId row, std::span<const QString> texts);
     /// A new row with the same values; kNoObject on failure.
     ObjectId CopyRow(ObjectId row);
+    /// False, and nothing deleted, if there is no such row or it cannot be deleted.
     bool DeleteRow(ObjectId row);
     /// Adds `step` to the row's Count by 32-bit two's complement, all or nothing. The new count;
     /// nothing on failure, also where the list or the row has no count.
     std::optional<qint32> AdjustCount(ObjectId row, qint32 step);
+    /// False, and the row as it was, if there is no such row or it cannot be written.
     bool SetCheckboxValue(ObjectId row, PropertyId column, bool isChecked);
 
     /// Every property of a row; false in a condition if it cannot be found.
     [[nodiscard]] Record ReadRow(ObjectId row);
-    /// The totals of the list over all rows or, unless `filters` is null, those that pass.
+    /// The totals of the list over all rows or, unless `filters` is null, those that pass. Where a
+    /// row cannot be read every total is "0".
     [[nodiscard]] std::vector<ColumnTotal> Totals(const FilterSet* filters);
     /// The text of one cell as the rows view shows it; "<Err>" if the row cannot be found.
     [[nodiscard]] QString FormatCellText(PropertyId column, ObjectId row);

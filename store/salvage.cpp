@@ -3,6 +3,7 @@
 #include "propdb/damaged_volume.h"
 #include "propdb/volume_file.h"
 #include "store/list_catalogue.h"
+#include "values/column_type.h"
 
 #include <QFile>
 #include <QHash>
@@ -46,6 +47,9 @@ InventoryList DefinitionFor(
     if (list.Name.isEmpty())
         list.Name = upToNul(content.info.name);
     list.columns = ListCatalogue::ColumnsOf(content.properties);
+    // Rows stand in the order of their names: without that column there is no list.
+    if (std::ranges::find(list.columns, PropName, &ColumnDefinition::id) == list.columns.end())
+        list.columns.insert(list.columns.begin(), NewInventoryList().columns.front());
     std::erase_if(
         list.columnOrder, [&list](quint32 index) { return index >= list.columns.size(); });
     return list;

@@ -21,7 +21,8 @@ struct SalvageReport
         qint64 lostRows = 0;
         bool isComplete = true;
     };
-    /// Lists that are saved, with all their columns that are still known.
+    /// Lists that are saved, with all their columns that are still known. A column of names that is
+    /// lost is there and empty.
     std::vector<List> lists;
     /// The names of lists of which nothing else is left.
     QStringList lostLists;

@@ -134,27 +134,28 @@ Result<std::vector<double>> Sum(Database& rows, std::span<const PropertyId> colu
 
 } // namespace
 
-std::vector<ColumnTotal> ComputeTotals(DataVolume& volume, const InventoryList& list,
-    const FilterSet* filters, const ValueContext& context)
+ListTotals ComputeTotals(DataVolume& volume, const InventoryList& list, const FilterSet* filters,
+    const ValueContext& context)
 {
-    std::vector<ColumnTotal> lines;
+    ListTotals totals;
     std::vector<PropertyId> columns;
     for (const ColumnDefinition& column : list.columns) {
         const ColumnType type = ColumnTypeOf(column.id);
         if (type != ColumnType::Integer && type != ColumnType::Price)
             continue;
         columns.push_back(column.id);
-        lines.push_back({ column.name, QStringLiteral("0") });
+        totals.lines.push_back({ column.name, QStringLiteral("0") });
     }
     Database* rows = volume.OpenDatabase(ListCatalogue::kRowsType);
+    if (rows == nullptr)
+        totals.readError = volume.LastError();
     if (rows == nullptr || columns.empty())
-        return lines;
-    const auto totals = Sum(*rows, columns, filters, context);
-    if (!totals)
-        return lines;
-    for (size_t i = 0; i < columns.size(); ++i)
-        lines[i].text = TotalText(columns[i], (*totals)[i]);
-    return lines;
+        return totals;
+    const auto sums = Sum(*rows, columns, filters, context);
+    totals.readError = sums.Error();
+    for (size_t i = 0; sums && i < columns.size(); ++i)
+        totals.lines[i].text = TotalText(columns[i], (*sums)[i]);
+    return totals;
 }
 
 } // namespace Quillory

@@ -14,10 +14,18 @@ struct ColumnTotal
     QString text;
 };
 
+/// The totals of one list.
+struct ListTotals
+{
+    std::vector<ColumnTotal> lines;
+    /// Why every total is "0" though there may be rows; None if the rows could be read.
+    ErrorNumber readError = ErrorNumber::None;
+};
+
 /// The totals of the Integer and Price columns of the open list, in column order, over all rows or,
 /// unless `filters` is null, over those that pass. Reads the columns, not the records. Where a row
-/// cannot be read every total stays "0".
-[[nodiscard]] std::vector<ColumnTotal> ComputeTotals(DataVolume& volume, const InventoryList& list,
+/// cannot be read, or no list is open, every total is "0" and `readError` is set.
+[[nodiscard]] ListTotals ComputeTotals(DataVolume& volume, const InventoryList& list,
     const FilterSet* filters, const ValueContext& context);
 
 } // namespace Quillory

@@ -1,5 +1,6 @@
 #include "app/command_line.h"
 #include "tests/list_fixture.h"
+#include "tests/page_damage.h"
 
 #include <QBuffer>
 #include <QJsonArray>
@@ -90,13 +91,18 @@ private Q_SLOTS:
     void aFileWhoseMakingWasCutShortHasNoLists();
     void jsonHoldsTypedValues();
     void columnsGiveTheImportItsOrder();
+    void theSettingsNameFileAndCodePage();
     void aDryRunStoresNothing();
     void writersAreRefusedWhileTheWindowHasTheFile();
     void loneSurrogatesAndControlsComeOutAsText();
     void aFailedImportTellsHowFarItCame();
+    void anImportOfNoRowsTellsWhy_data();
+    void anImportOfNoRowsTellsWhy();
     void aBackupIsTheSameData();
     void whatARunChangedIsKeptAndRestored();
     void whatIsLeftOfADamagedFileIsSaved();
+    void damagedRowsAreNoRows_data();
+    void damagedRowsAreNoRows();
     void theWindowKeepsItsArguments();
 };
 
@@ -136,6 +142,8 @@ void CommandLineTest::whatItPrints_data()
         "Pantry\tOil\tlow\nPantry\tRice\t6/25/2026\nPantry\tTea\tlow\nPantry\tTea\texpired\n");
     add("check", { u"check"_s }, "ok\n");
     add("the version", { u"--version"_s }, "quillory " QUILLORY_VERSION "\n");
+    add("the version beside a wrong command", { u"-v"_s, u"frob"_s },
+        "quillory " QUILLORY_VERSION "\n");
 }
 
 void CommandLineTest::whatItPrints()
@@ -240,6 +248,7 @@ void CommandLineTest::everyCommandHasHelp()
 {
     Shell shell;
     const QByteArray help = shell.Output({ u"--help"_s });
+    QCOMPARE(shell.Output({ u"--help"_s, u"frob"_s }), help);
     for (const char* name : { "lists", "new", "show", "export", "import", "summary", "due", "check",
              "backup", "restore" }) {
         QVERIFY(help.contains(QByteArray("  quillory ") + name));
@@ -322,6 +331,24 @@ void CommandLineTest::columnsGiveTheImportItsOrder()
         "Name\tQuantity\tA, B\tA\nname\t7\tab\ta\ny\t\t\tx\n"_ba);
 }
 
+void CommandLineTest::theSettingsNameFileAndCodePage()
+{
+    Shell shell;
+    QCOMPARE(shell.Output({ u"new"_s, u"L"_s, u"--create"_s }), ""_ba);
+    const auto write = [&shell](const QString& name, const QByteArray& bytes) {
+        QVERIFY(QDir().mkpath(QFileInfo(shell.Path(name)).path()));
+        QFile file(shell.Path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    };
+    write(u"quillory/quillory.conf"_s,
+        "[General]\nDbPath=" + shell.Path().toUtf8() + "\nCodePage=1251\n");
+    write(u"in.txt"_s, "\xE4\r\n");
+    qputenv("XDG_CONFIG_HOME", QFileInfo(shell.Path()).path().toUtf8());
+    qputenv("XDG_STATE_HOME", QFileInfo(shell.Path()).path().toUtf8());
+    QCOMPARE(RunCommandLine({ u"import"_s, u"L"_s, shell.Path(u"in.txt"_s) }), 0);
+    QCOMPARE(shell.Output({ u"show"_s, u"L"_s }), "Name\tQuantity\n\xD0\xB4\t\n"_ba);
+}
+
 void CommandLineTest::aDryRunStoresNothing()
 {
     Shell shell;
@@ -372,9 +399,36 @@ void CommandLineTest::aFailedImportTellsHowFarItCame()
     QVERIFY(call.code == ExitCode::Failed);
     QCOMPARE(call.output, "0\n"_ba);
     QVERIFY(call.errors.contains("Import is completed with errors"));
-    // As editors on this system save it.
-    const Call unended = shell.Run({ u"import"_s, u"Pantry"_s, u"-"_s }, "a\nb\n");
-    QVERIFY(unended.code == ExitCode::Done && unended.errors.contains("carriage return"));
+}
+
+void CommandLineTest::anImportOfNoRowsTellsWhy_data()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QByteArray>("reason");
+    const QByteArray unended = "no line to import that ends with a carriage return";
+    QTest::newRow("lines as editors on this system end them") << "a\nb\n"_ba << unended;
+    QTest::newRow("nothing") << ""_ba << unended;
+    QTest::newRow("tabs") << "\t\t\r\n"_ba
+                          << "no line gives a value"_ba;
+    QTest::newRow("an empty line") << "\r\n"_ba
+                                   << "no line gives a value"_ba;
+    QTest::newRow("no date") << "xyz\r\n"_ba
+                             << "no line gives a value"_ba;
+}
+
+void CommandLineTest::anImportOfNoRowsTellsWhy()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(QByteArray, reason);
+    Shell shell;
+    shell.MakePantry();
+    const QStringList arguments { u"import"_s, u"Pantry"_s, u"-"_s, u"--columns=Bought on"_s };
+    for (const QStringList& more : { QStringList(), { u"--dry-run"_s } }) {
+        const Call call = shell.Run(arguments + more, input);
+        QCOMPARE(call.code, ExitCode::Done);
+        QCOMPARE(call.output, "0\n"_ba);
+        QVERIFY2(call.errors.contains(reason), call.errors.constData());
+    }
 }
 
 void CommandLineTest::aBackupIsTheSameData()
@@ -428,24 +482,54 @@ void CommandLineTest::whatIsLeftOfADamagedFileIsSaved()
 {
     Shell shell;
     shell.MakePantry();
+    DamagePage(shell.Path(), kTableLeaf, u"Tea"_s);
     QFile file(shell.Path());
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QByteArray bytes = file.readAll();
-    // A bit of the rows, which stand on the last page but that of their index.
-    const qsizetype place = bytes.lastIndexOf(QByteArray("\0T\0e\0a", 6));
-    const qsizetype otherPlace = bytes.lastIndexOf(QByteArray("\0T\0e\0a", 6), place - 4096);
-    const qsizetype page = bytes[place & ~4095] == 0x0D ? place : otherPlace;
-    QCOMPARE(bytes[page & ~4095], char(0x0D));
-    bytes[page] = 1;
-    QVERIFY(file.seek(0) && file.write(bytes) == bytes.size());
-    file.close();
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
     const QString saved = shell.Path(u"saved.idb"_s);
     const Call call = shell.Run({ u"restore"_s, saved, u"--salvage"_s });
     QVERIFY(call.code == ExitCode::Done);
     QCOMPARE(call.output, "Pantry\t0\t3 lost\n"_ba);
     QCOMPARE(shell.Output({ u"lists"_s, u"--data"_s, saved }), "Pantry\t0\n"_ba);
-    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.seek(0));
     QCOMPARE(file.readAll(), bytes);
+}
+
+void CommandLineTest::damagedRowsAreNoRows_data()
+{
+    QTest::addColumn<char>("page");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("output");
+    const auto add
+        = [](const char* name, char page, const QStringList& arguments, const QByteArray& output) {
+              QTest::newRow(name) << page << arguments << output;
+          };
+    add("totals", kTableLeaf, { u"summary"_s, u"Pantry"_s }, "");
+    add("totals as JSON", kTableLeaf, { u"summary"_s, u"Pantry"_s, u"--json"_s }, "");
+    add("totals of some", kTableLeaf, { u"summary"_s, u"Pantry"_s, u"--where=Name = Tea"_s }, "");
+    // One list that cannot be read does not hide the next.
+    add("lists", kIndexLeaf, { u"lists"_s }, "Tools\t1\n");
+    add("lists as JSON", kIndexLeaf, { u"lists"_s, u"--json"_s },
+        "[\n{\"columns\":[{\"name\":\"Name\",\"type\":\"string\"},{\"name\":\"Quantity\","
+        "\"type\":\"integer\"}],\"icon\":0,\"name\":\"Tools\",\"rows\":1}\n]\n");
+    add("what is due", kIndexLeaf, { u"due"_s }, "Tools\tSaw\tlow\n");
+    add("what is due as JSON", kIndexLeaf, { u"due"_s, u"--json"_s },
+        "[\n{\"count\":1,\"list\":\"Tools\",\"row\":\"Saw\",\"state\":\"low\"}\n]\n");
+}
+
+void CommandLineTest::damagedRowsAreNoRows()
+{
+    QFETCH(char, page);
+    QFETCH(QStringList, arguments);
+    Shell shell;
+    shell.MakePantry();
+    shell.Output({ u"new"_s, u"Tools"_s, u"--warn-count=1"_s });
+    shell.Output({ u"import"_s, u"Tools"_s, u"-"_s }, "Saw\t1\r\n");
+    DamagePage(shell.Path(), page, u"Tea"_s);
+    const Call call = shell.Run(arguments);
+    QCOMPARE(call.code, ExitCode::Failed);
+    QTEST(call.output, "output");
+    QVERIFY(call.errors.contains("the file is damaged (error 1392)\n"));
 }
 
 void CommandLineTest::theWindowKeepsItsArguments()
@@ -457,6 +541,15 @@ void CommandLineTest::theWindowKeepsItsArguments()
     QVERIFY(IsCommandLine({ u"--data"_s, u"x"_s, u"lists"_s }));
     QVERIFY(IsCommandLine({ u"--help"_s }));
     QVERIFY(IsCommandLine({ u"--frob"_s }));
+    // An option of the commands is one whatever follows it.
+    QVERIFY(IsCommandLine({ u"--help"_s, u"frob"_s }));
+    QVERIFY(IsCommandLine({ u"-h"_s, u"frob"_s }));
+    QVERIFY(IsCommandLine({ u"--frob"_s, u"Pantry"_s }));
+    QVERIFY(IsCommandLine({ u"--data"_s, u"x"_s }));
+    QVERIFY(IsCommandLine({ u"--data"_s, u"x"_s, u"Pantry"_s }));
+    const Call call = Shell().Run({ u"--data"_s, u"x"_s, u"shwo"_s, u"Pantry"_s, u"--json"_s });
+    QCOMPARE(call.code, ExitCode::WrongUsage);
+    QVERIFY(call.errors.startsWith("quillory: there is no command “shwo”\nusage: quillory"));
 }
 
 QTEST_GUILESS_MAIN(CommandLineTest)

@@ -70,6 +70,7 @@ class KeptCopiesTest : public QObject
 
 private Q_SLOTS:
     void theLastThreeAreKept();
+    void theLastThreeAreKeptWhenTheClockGoesBack();
     void aRunThatChangedNothingKeepsNothing();
     void aFolderThatCannotBeWrittenIsNoFailure();
     void whatAnInterruptedRunLeftIsRemoved();
@@ -91,6 +92,21 @@ void KeptCopiesTest::theLastThreeAreKept()
     QCOMPARE(copies[0].bytes, QFileInfo(copies[0].path).size());
     // The copies, and the file that says whose they are.
     QCOMPARE(runs.FileCount(), 4);
+}
+
+void KeptCopiesTest::theLastThreeAreKeptWhenTheClockGoesBack()
+{
+    Runs runs;
+    const QDateTime right = runs.now;
+    runs.now = right.addYears(10);
+    for (const QString& name : { u"a"_s, u"b"_s, u"c"_s })
+        QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
+    runs.now = right;
+    for (const QString& name : { u"d"_s, u"e"_s }) {
+        QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
+        QVERIFY(runs.ListsOf(runs.Copies().front()).endsWith(name));
+    }
+    QCOMPARE(runs.ListsOf(runs.Copies().back()), u"abc"_s);
 }
 
 void KeptCopiesTest::aRunThatChangedNothingKeepsNothing()

@@ -126,6 +126,9 @@ void ListCatalogueTest::optionsAndNameAreWrittenApart()
     QVERIFY(file.catalogue->ReadListHeader(oid, read));
     QCOMPARE(read.Name + QString::number(read.TableIcon), u"old9"_s);
     QVERIFY(!file.catalogue->UpdateList(static_cast<ObjectId>(9999), list));
+    QVERIFY(!file.catalogue->RenameList(kNoObject, u"none"_s));
+    QVERIFY(!file.catalogue->UpdateListOptions(kNoObject, list));
+    QCOMPARE(file.catalogue->FillHomeList().size(), size_t { 1 });
 }
 
 void ListCatalogueTest::twoColumnsUnderOneNumberLeaveNothingBehind()

@@ -96,10 +96,14 @@ public:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content);
         file.close();
-        Choose(Command::Import);
+        ChooseFileFor(Command::Import, file.fileName());
+    }
+    void ChooseFileFor(Command command, const QString& path) const
+    {
+        Choose(command);
         auto* dialog = frame->findChild<QFileDialog*>();
         QVERIFY(dialog != nullptr);
-        dialog->selectFile(file.fileName());
+        dialog->selectFile(path);
         static_cast<QDialog*>(dialog)->accept();
     }
     /// As a window manager does once a question is answered.

@@ -16,6 +16,9 @@
 #include <QTableView>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTimer>
+
+#include <sys/stat.h>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -41,6 +44,7 @@ private Q_SLOTS:
     void landscapeLastsAsLongAsTheListIsShown();
     void anImportAsksForTheOrderAndShowsTheRows();
     void aFailedImportIsToldAndTheListOpened();
+    void aPipeIsNoTextFile();
     void helpOpensAtThePageItWasAskedFrom();
 };
 
@@ -334,6 +338,28 @@ void MainFrameTest::aFailedImportIsToldAndTheListOpened()
     QCOMPARE(
         errand.question, u"Import is completed with errors. Data may not be imported properly."_s);
     QCOMPARE(errand.pages->Top()->Title(), u"Pantry"_s);
+}
+
+void MainFrameTest::aPipeIsNoTextFile()
+{
+    FrameErrand errand;
+    errand.MakeLists({ u"Pantry"_s });
+    errand.Start();
+    const QString pipe = QFileInfo(errand.DataPath()).path() + u"/pipe.txt"_s;
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    // Whoever opens one end waits for the other.
+    QTimer::singleShot(0, [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        box->button(QMessageBox::Yes)->click();
+    });
+    errand.ChooseFileFor(Command::Export, pipe);
+    QTRY_VERIFY(errand.frame->findChild<QFileDialog*>() == nullptr);
+    QCOMPARE(errand.pages->Top(), errand.home);
+    errand.ChooseFileFor(Command::Import, pipe);
+    errand.pages->Top()->End(PageResult::Ok);
+    errand.Answer(QMessageBox::Ok);
+    QCOMPARE(
+        errand.question, u"Import is completed with errors. Data may not be imported properly."_s);
 }
 
 void MainFrameTest::helpOpensAtThePageItWasAskedFrom()

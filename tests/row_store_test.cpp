@@ -1,6 +1,7 @@
 #include "store/totals.h"
 #include "tests/column_order.h"
 #include "tests/list_fixture.h"
+#include "tests/page_damage.h"
 #include "values/column_type.h"
 
 #include <QRandomGenerator>
@@ -24,7 +25,7 @@ FilterSet Where(PropertyId column, FilterCondition condition, const QString& val
 QString Totals(ListFixture& file, const FilterSet* filters = nullptr)
 {
     QStringList texts;
-    for (const ColumnTotal& total : ComputeTotals(*file.data, file.list, filters, file.context))
+    for (const ColumnTotal& total : file.rows->Totals(filters))
         texts << total.name + u'=' + total.text;
     return texts.join(u' ');
 }
@@ -45,6 +46,8 @@ private Q_SLOTS:
     void aRowWithoutACountCannotBeCounted();
     void ticksAreKept();
     void filtersKeepTheOrderOfNames();
+    void aDamagedPageEndsTheListing_data();
+    void aDamagedPageEndsTheListing();
     void sortingIsStableInEveryType_data();
     void sortingIsStableInEveryType();
     void sortingManyRowsAgreesWithComparingThem_data();
@@ -172,6 +175,40 @@ void RowStoreTest::filtersKeepTheOrderOfNames()
     const auto zeros = Where(file.Column(Size), FilterCondition::Equals, u"0"_s);
     QVERIFY(file.rows->FillFilteredRows(zeros).empty());
     QCOMPARE(file.rows->FillFilteredRows({}).size(), size_t { 10 });
+}
+
+void RowStoreTest::aDamagedPageEndsTheListing_data()
+{
+    QTest::addColumn<char>("page");
+    QTest::addColumn<int>("column");
+    QTest::newRow("of the index") << kIndexLeaf << int { Name };
+    QTest::newRow("of the rows") << kTableLeaf << int { Count };
+}
+
+void RowStoreTest::aDamagedPageEndsTheListing()
+{
+    QFETCH(char, page);
+    constexpr int kRows = 1000;
+    ListFixture file;
+    const ObjectId list = file.MakeFullList(u"l"_s);
+    const auto name = [](int row) { return u"row %1"_s.arg(row, 4, 10, QChar(u'0')); };
+    QVERIFY(file.data->BeginTransaction());
+    for (int i = 0; i < kRows; ++i)
+        file.Add({ name(i), QString::number(i % 2) });
+    QVERIFY(file.data->EndTransaction(true));
+    file.data->Unmount();
+    DamagePage(file.Path(), page, name(600));
+
+    file.Restart();
+    file.OpenList(list);
+    const auto rows = file.rows->FillRows();
+    QVERIFY2(rows.size() > 300, qPrintable(QString::number(rows.size())));
+    // No row is missing before the last one.
+    QCOMPARE(file.Cells({ rows.front(), rows[300] }), name(0) + u' ' + name(300));
+    const auto odd
+        = file.rows->FillFilteredRows(Where(file.Column(Count), FilterCondition::Equals, u"1"_s));
+    QVERIFY(odd.size() > 150 && odd.size() < 300);
+    QCOMPARE(file.Cells({ odd[0], odd[150] }), name(1) + u' ' + name(301));
 }
 
 void RowStoreTest::sortingIsStableInEveryType_data()

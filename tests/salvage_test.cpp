@@ -1,10 +1,10 @@
 #include "propdb/confined_vfs.h"
 #include "store/salvage.h"
 #include "tests/list_fixture.h"
+#include "tests/page_damage.h"
 
 #include <QFile>
 #include <QTest>
-#include <QtEndian>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -12,22 +12,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kRows = 400;
-/// First bytes of pages.
-constexpr char kIndexLeaf = 0x0A;
-constexpr char kTableLeaf = 0x0D;
+/// The first byte of a page.
 constexpr char kTableInner = 0x05;
 
 QByteArray Contents(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-QByteArray Units(const QString& text)
-{
-    QByteArray bytes(text.size() * 2, Qt::Uninitialized);
-    qToBigEndian<quint16>(text.utf16(), text.size(), bytes.data());
-    return bytes;
 }
 
 QString NameOfRow(int row)
@@ -58,8 +49,8 @@ public:
     {
         for (qsizetype page = 1; page < bytes.size() / kPageSize; ++page) {
             const QByteArray content = bytes.mid(page * kPageSize, kPageSize);
-            if (content[0] == kind && content.contains(Units(text))
-                && !content.contains(Units(other)))
+            if (content[0] == kind && content.contains(StoredText(text))
+                && !content.contains(StoredText(other)))
                 return page;
         }
         qFatal("there is no such page");
@@ -156,6 +147,7 @@ private Q_SLOTS:
     void whatCanBeReadIsSaved_data();
     void whatCanBeReadIsSaved();
     void aCutFileLosesItsEnd();
+    void aListWithoutItsColumnOfNamesIsSaved();
     void whereNothingIsLeftNothingIsMade_data();
     void whereNothingIsLeftNothingIsMade();
     void anyBitMayFlip();
@@ -222,6 +214,42 @@ void SalvageTest::aCutFileLosesItsEnd()
             qPrintable(Saved(file.Target())));
         QCOMPARE(Contents(file.Path()), file.bytes);
     }
+}
+
+void SalvageTest::aListWithoutItsColumnOfNamesIsSaved()
+{
+    constexpr int kLists = 60;
+    ListFixture file;
+    for (int i = 0; i < kLists; ++i) {
+        InventoryList list = NewInventoryList();
+        list.Name = u"List"_s;
+        file.OpenList(file.catalogue->CreateListRedrawing(list).oid);
+        file.Add({ u"row"_s, u"7"_s });
+    }
+    file.rows.reset();
+    file.data->Unmount();
+    // The first page of columns. The first list of which the next page has something has lost its
+    // first column.
+    DamagePage(file.Path(), kIndexLeaf, u"TableWarnStart"_s);
+    const QTemporaryDir folder;
+    const QString target = folder.filePath(u"saved.idb"_s);
+    const auto report = SalvageLists(file.Path(), target);
+    QCOMPARE(report.Error(), ErrorNumber::None);
+    QVERIFY(report->lists.size() > kLists / 4 && report->lists.size() < kLists);
+    QVERIFY(!report->lists.front().isComplete);
+
+    DataVolume data;
+    QCOMPARE(data.Mount(target, Disposition::OpenExisting), ErrorNumber::None);
+    ListCatalogue catalogue(data);
+    QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
+    InventoryList list;
+    QVERIFY(catalogue.OpenList(catalogue.FindList(report->lists.front().name), list));
+    QCOMPARE(list.columns.size(), size_t { 2 });
+    const ValueContext context = TestContext();
+    RowStore store(data, list, context);
+    const ObjectId row = store.FillRows().at(0);
+    QCOMPARE(store.FormatCellText(PropName, row), QString());
+    QCOMPARE(store.FormatCellText(PropCount, row), u"7"_s);
 }
 
 void SalvageTest::whereNothingIsLeftNothingIsMade_data()

@@ -133,6 +133,7 @@ public:
         if (m_reader.HasFailed())
             m_outcome.result = ImportResult::Failed;
         m_outcome.rows = m_writer.Rows();
+        m_outcome.lines = m_reader.LinesRead();
         if (m_writer.Error() != ErrorNumber::None)
             m_outcome.writeError = m_writer.Error();
         return m_outcome;
@@ -202,6 +203,7 @@ ImportOutcome CountImportRows(
         ReadFields(reader.Fields(), columns, context, values);
         outcome.rows += values.empty() ? 0 : 1;
     }
+    outcome.lines = reader.LinesRead();
     if (reader.HasFailed())
         outcome.result = ImportResult::Failed;
     return outcome;

@@ -26,6 +26,8 @@ struct ImportOutcome
     /// Rows that are in the list now, or that would be; those of a batch that could not be stored
     /// are not among them.
     qint64 rows = 0;
+    /// Lines that were read, those included that give no row.
+    qint64 lines = 0;
     /// Why storing ended early, such as DiskFull; None if it did not. A single row that the store
     /// does not take is passed over and is no such failure.
     ErrorNumber writeError = ErrorNumber::None;

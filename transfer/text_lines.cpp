@@ -136,6 +136,7 @@ template <typename Unit> bool TextLineReader::HoldNext()
         Hold(part);
         m_isSkipping = m_isSkipping || end >= 0;
         m_window.Drop(std::ssize(std::as_bytes(units.first(part.size() + (end < 0 ? 0 : 1)))));
+        m_linesRead += end >= 0 ? 1 : 0;
         if (end >= 0 || !isMore)
             return end >= 0;
         isMore = m_window.Fill();

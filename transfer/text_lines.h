@@ -70,6 +70,8 @@ public:
     /// True if there was nothing behind the byte-order mark or the file could not be read.
     [[nodiscard]] bool HasFailed() const { return m_isBlank || m_window.HasFailed(); }
     [[nodiscard]] qint64 BytesRead() const { return m_window.BytesRead(); }
+    /// How many lines were read in all, empty ones included.
+    [[nodiscard]] qint64 LinesRead() const { return m_linesRead; }
 
 private:
     ByteWindow m_window;
@@ -79,6 +81,7 @@ private:
     QByteArray m_held;
     std::vector<char16_t> m_buffer;
     char16_t* m_line = nullptr;
+    qint64 m_linesRead = 0;
     bool m_isCut = false;
     bool m_isWide = false;
     bool m_isBlank = false;
