@@ -81,6 +81,7 @@ class PropertyDatabaseTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void anyNameWillDo();
     void valuesComeBackAsTheyWereWritten_data();
     void valuesComeBackAsTheyWereWritten();
     void textMayBeginWithAByteOrderMark();
@@ -99,6 +100,19 @@ private Q_SLOTS:
     void scansGiveEveryRecordOnce();
     void aListingFollowsEveryWrite();
 };
+
+void PropertyDatabaseTest::anyNameWillDo()
+{
+    Rows rows;
+    for (const QString& name : { u"sqlite_sequence"_s, u" SQLite_x"_s, u"\"; DROP"_s, u""_s,
+             u"oid"_s, QString(300, u'n') }) {
+        const std::vector<PropertySpec> specs { { kName, name } };
+        Take(rows.volume->CreateDatabase(name, kType, specs, kByName));
+        rows.Reopen();
+        const auto other = Take(rows.volume->OpenDatabase(name, kByName.front()));
+        QCOMPARE(other->Properties().front().name, name);
+    }
+}
 
 void PropertyDatabaseTest::valuesComeBackAsTheyWereWritten_data()
 {
