@@ -102,6 +102,7 @@ private Q_SLOTS:
     void refusedFilesAreLeftAsTheyWere_data();
     void refusedFilesAreLeftAsTheyWere();
     void missingFilesAndFoldersAreTold();
+    void aFolderThatTakesNoFileIsTold();
     void aNewFileIsWholeFromTheStart();
     void onlyOneProgramWritesButOthersMayRead();
     void noFlippedBitGoesUnnoticed();
@@ -171,6 +172,27 @@ void VolumeFileTest::missingFilesAndFoldersAreTold()
         0);
     QCOMPARE(mount(u"two.idb"_s, Disposition::OpenExisting), 5U);
     QVERIFY(!QFile::exists(fixture.Path(u"a.idb"_s)));
+}
+
+void VolumeFileTest::aFolderThatTakesNoFileIsTold()
+{
+    const VolumeFixture fixture;
+    const QByteArray folder = QFile::encodeName(fixture.Folder());
+    QCOMPARE(chmod(folder.constData(), 0555), 0);
+    const pid_t process = fork();
+    if (process == 0) {
+        // Nothing is forbidden to root.
+        constexpr uid_t kNobody = 65534;
+        if (geteuid() == 0 && setresuid(kNobody, kNobody, kNobody) != 0)
+            _exit(127);
+        const auto made
+            = Volume::Mount(fixture.Path(), Disposition::OpenAlways, VolumeAccess::Exclusive);
+        _exit(static_cast<int>(made.Error()));
+    }
+    int status = 0;
+    waitpid(process, &status, 0);
+    QCOMPARE(chmod(folder.constData(), 0755), 0);
+    QCOMPARE(WEXITSTATUS(status), 5);
 }
 
 void VolumeFileTest::aNewFileIsWholeFromTheStart()
