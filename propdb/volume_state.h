@@ -6,8 +6,10 @@
 #include "propdb/statement.h"
 #include "propdb/volume_file.h"
 
+#include <initializer_list>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 struct sqlite3;
@@ -52,6 +54,8 @@ struct VolumeState
     bool isInTransaction = false;
     /// `schema` is not what the file held when the transaction began.
     bool isSchemaChanged = false;
+    /// What `readDataVersion` gave when `schema` was read, or before.
+    qint64 schemaVersion = 0;
     bool hasCommitted = false;
     /// Counts what may have changed the order of a database's records.
     quint64 orderChanges = 0;
@@ -91,11 +95,17 @@ struct VolumeState
     [[nodiscard]] Result<void> Commit();
     /// Undoes everything since Begin and reads the schema anew if it had changed.
     void Rollback();
-    /// Reads the schema again if it is not the file's: where an earlier attempt failed, or within
-    /// a transaction that a failure has ended underneath.
+    /// Reads the schema again if it is not the file's: where an earlier attempt failed, within a
+    /// transaction that a failure has ended underneath, or beside another program that writes.
     [[nodiscard]] Result<void> RefreshSchema();
 
 private:
+    [[nodiscard]] Result<void> PrepareStatements(
+        std::initializer_list<std::pair<Statement*, const char*>> statements);
+    /// The number of the file's state: another program's commit changes it, this one's do not.
+    [[nodiscard]] Result<qint64> ReadFileVersion();
+    /// Reads the schema and the number of the state that it is at least as new as.
+    [[nodiscard]] Result<void> LoadSchema();
     [[nodiscard]] Result<void> FindOutcome(ErrorNumber commitError);
     /// Whether the commit in doubt was done; false too if none is.
     [[nodiscard]] Result<bool> SettleDoubt();

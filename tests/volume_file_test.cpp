@@ -1,6 +1,7 @@
 #include "tests/volume_fixture.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QtEndian>
@@ -105,6 +106,7 @@ private Q_SLOTS:
     void aFolderThatTakesNoFileIsTold();
     void aNewFileIsWholeFromTheStart();
     void onlyOneProgramWritesButOthersMayRead();
+    void aReaderSeesWhatAWriterMakes();
     void noFlippedBitGoesUnnoticed();
     void aFileCutShortIsRefused();
     void whatAnotherProgramWroteIsNoticed();
@@ -238,6 +240,21 @@ void VolumeFileTest::onlyOneProgramWritesButOthersMayRead()
         reader->CreateDatabase(u"x"_s, kType, kSpecs, kByName).Error(), ErrorNumber::AccessDenied);
 }
 
+void VolumeFileTest::aReaderSeesWhatAWriterMakes()
+{
+    VolumeFixture fixture;
+    fixture.Mount();
+    fixture.volume.reset();
+    const auto reader
+        = Take(Volume::Mount(fixture.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly));
+    QCOMPARE(reader->OpenDatabase(u"rows"_s, kByName.front()).Error(), ErrorNumber::FileNotFound);
+    QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(),
+                 { u"--mount"_s, u"make"_s, fixture.Path() }),
+        0);
+    QCOMPARE(Take(reader->Databases()).size(), size_t { 1 });
+    QVERIFY(reader->OpenDatabase(u"rows"_s, kByName.front()).IsOk());
+}
+
 void VolumeFileTest::noFlippedBitGoesUnnoticed()
 {
     const QByteArray sample = SampleFile();
@@ -348,6 +365,8 @@ int main(int argc, char** argv)
             = QByteArrayView(argv[2]) == "read" ? VolumeAccess::ReadOnly : VolumeAccess::Exclusive;
         const auto volume
             = Volume::Mount(QFile::decodeName(argv[3]), Disposition::OpenExisting, access);
+        if (volume && QByteArrayView(argv[2]) == "make")
+            Take((*volume)->CreateDatabase(u"rows"_s, kType, kSpecs, kByName));
         return static_cast<int>(volume.Error());
     }
     QCoreApplication application(argc, argv);
