@@ -83,6 +83,7 @@ int Authorize(void* /*context*/, int action, const char* /*first*/, const char* 
     case SQLITE_UPDATE:
     case SQLITE_DELETE:
     case SQLITE_TRANSACTION:
+    case SQLITE_SAVEPOINT:
     case SQLITE_PRAGMA:
     case SQLITE_FUNCTION:
     case SQLITE_CREATE_TABLE:

@@ -68,7 +68,8 @@ public:
         const QString& name, const SortOrder& sortOrder);
 
     /// Until the end of a transaction nothing of what is written is durable, and all of it is
-    /// undone if the transaction ends without a commit. AlreadyExists if one is running.
+    /// undone if the transaction ends without a commit. A call that fails leaves nothing of itself
+    /// behind, and the transaction goes on without it. AlreadyExists if one is running.
     [[nodiscard]] Result<void> BeginTransaction();
     [[nodiscard]] Result<void> EndTransaction(bool commit);
     [[nodiscard]] bool IsInTransaction() const;

@@ -120,10 +120,39 @@ Result<void> VolumeState::BeginWrite()
     return {};
 }
 
+Result<void> VolumeState::BeginSchemaChange()
+{
+    isSchemaChanged = true;
+    if (!isInTransaction || isChangingSchema)
+        return {};
+    const auto marked = Execute(connection.get(), "SAVEPOINT schema_change");
+    isChangingSchema = marked.IsOk();
+    return marked;
+}
+
+Result<void> VolumeState::EndSchemaChange(const Result<void>& outcome)
+{
+    isChangingSchema = false;
+    // A failure can have ended the transaction underneath, and with it the change.
+    if (sqlite3_get_autocommit(connection.get()) != 0)
+        return outcome;
+    Result<void> ended;
+    if (!outcome)
+        ended = Execute(connection.get(), "ROLLBACK TO schema_change");
+    if (ended)
+        ended = Execute(connection.get(), "RELEASE schema_change");
+    if (ended && !outcome)
+        ended = ReloadSchema();
+    if (ended)
+        return outcome;
+    Rollback();
+    return outcome ? ended : outcome;
+}
+
 Result<void> VolumeState::EndWrite(const Result<void>& outcome)
 {
     if (isInTransaction)
-        return outcome;
+        return isChangingSchema ? EndSchemaChange(outcome) : outcome;
     if (outcome)
         return Commit();
     Rollback();
@@ -235,9 +264,16 @@ Result<void> VolumeState::RefreshSchema()
         if (!version || *version == schemaVersion)
             return version.Error();
     }
+    const auto loaded = ReloadSchema();
+    if (loaded)
+        isSchemaChanged = false;
+    return loaded;
+}
+
+Result<void> VolumeState::ReloadSchema()
+{
     if (const auto loaded = LoadSchema(); !loaded)
         return loaded;
-    isSchemaChanged = false;
     for (DatabaseState* database : openDatabases) {
         // Open databases go on sharing their layout with the volume.
         for (auto& current : schema.databases) {
@@ -246,6 +282,8 @@ Result<void> VolumeState::RefreshSchema()
             *database->schema = *current;
             current = database->schema;
         }
+        database->inserts.Clear();
+        database->updates.Clear();
         database->selects.Clear();
     }
     return {};

@@ -95,6 +95,7 @@ private Q_SLOTS:
     void undeclaredPropertiesAreKeptButNotDeclared();
     void identifiersAreNeverUsedAgain();
     void aRolledBackTransactionLeavesNothing();
+    void aFailureInATransactionLeavesNothingOfItself();
     void aCommittedTransactionIsDurable();
     void refusals();
     void scansGiveEveryRecordOnce();
@@ -295,10 +296,54 @@ void PropertyDatabaseTest::aRolledBackTransactionLeavesNothing()
     QVERIFY(rows.volume->EndTransaction(false).IsOk());
     QCOMPARE(Take(rows.rows->RecordCount()), 0);
     QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
+    // Two properties of one number get their columns in the order in which they come.
+    constexpr PropertyId kSigned = MakePropertyId(500, CEVT_I4);
+    constexpr PropertyId kUnsigned = MakePropertyId(500, CEVT_UI4);
+    const PropertyValue negative { kSigned, 0, -44 };
+    const PropertyValue positive { kUnsigned, 0, 44U };
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    for (const PropertyValue& value : { negative, positive })
+        rows.Add({ value });
+    Take(rows.rows->Write(rows.Add({ negative }), std::vector { positive }));
+    QVERIFY(rows.volume->EndTransaction(false).IsOk());
+    rows.Add({ positive });
+    const ObjectId both = rows.Add({ positive, negative });
+    rows.Add({ negative });
+    Take(rows.rows->Write(both, std::vector { positive }));
+    QCOMPARE(std::get<qint32>(rows.Value(both, kSigned)), -44);
+    QCOMPARE(std::get<quint32>(rows.Value(both, kUnsigned)), 44U);
     // The column that went with the transaction comes back with the next write.
     const ObjectId oid = rows.Add({ { kUndeclared, 0, QByteArray("c") } });
     rows.Reopen();
     QCOMPARE(std::get<QByteArray>(rows.Value(oid, kUndeclared)), QByteArray("c"));
+    QVERIFY(Take(rows.volume->Check()).empty());
+}
+
+void PropertyDatabaseTest::aFailureInATransactionLeavesNothingOfItself()
+{
+    Rows rows;
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    rows.Add({ Text(u"a"_s) });
+    std::vector<PropertySpec> tooMany;
+    for (quint16 i = 0; i < 600; ++i)
+        tooMany.push_back({ MakePropertyId(i, CEVT_I4), u"n"_s });
+    QVERIFY(!rows.volume->CreateDatabase(u"wide"_s, kType, tooMany, {}).IsOk());
+    QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
+    const std::vector wrongType { Text(u"c"_s), PropertyValue { kUndeclared, 0, u"text"_s } };
+    QCOMPARE(rows.rows->Write(kNoObject, wrongType).Error(), ErrorNumber::InvalidParameter);
+    // As many columns as a table takes, and one more.
+    ErrorNumber error = ErrorNumber::None;
+    for (quint16 i = 0; error == ErrorNumber::None && i < 600; ++i) {
+        const PropertyValue value { MakePropertyId(i, CEVT_UI4), 0, 1U };
+        error = rows.rows->Write(kNoObject, std::vector { value }).Error();
+    }
+    QCOMPARE(error, ErrorNumber::GeneralFailure);
+    const qint64 count = Take(rows.rows->RecordCount());
+    rows.Add({ Text(u"b"_s) });
+    QVERIFY(rows.volume->EndTransaction(true).IsOk());
+    rows.Reopen();
+    QCOMPARE(Take(rows.rows->RecordCount()), count + 1);
+    QVERIFY(rows.Names().startsWith(u"a b -"_s));
     QVERIFY(Take(rows.volume->Check()).empty());
 }
 
