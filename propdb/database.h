@@ -23,8 +23,10 @@ enum class ScanOrder
 
 /// An open database: a position among its records, and reads and writes of them.
 ///
-/// The position stays on its record whatever is written. A record deleted from under it leaves it
-/// where the record was: reads fail, and a seek goes on from there.
+/// The position is at the first record when the database is opened; that record is looked for when
+/// the position is first used. It stays on its record whatever is written. A record deleted from
+/// under it, or undone with its transaction, leaves it where the record was: reads fail, and a seek
+/// goes on from there.
 class Database
 {
 public:

@@ -216,7 +216,7 @@ void VolumeState::Rollback()
 {
     ++orderChanges;
     for (DatabaseState* database : openDatabases)
-        database->cursor.Suspend();
+        database->cursor.DoubtRecord();
     // Some failures have rolled back already.
     if (sqlite3_get_autocommit(connection.get()) == 0)
         static_cast<void>(rollback.Run().IsOk());

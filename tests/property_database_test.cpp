@@ -90,6 +90,8 @@ private Q_SLOTS:
     void aWalkSurvivesWritesUnderIt();
     void aWalkGoesBothWays();
     void aDeletedRecordCannotBeReadButIsSteppedFrom();
+    void anOpeningStandsAtTheFirstRecord();
+    void aRollbackKeepsThePosition();
     void writingSomePropertiesLeavesTheOthers();
     void readFlagsWhatIsMissing();
     void undeclaredPropertiesAreKeptButNotDeclared();
@@ -237,6 +239,49 @@ void PropertyDatabaseTest::aDeletedRecordCannotBeReadButIsSteppedFrom()
     QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
     QCOMPARE(Take(rows.rows->SeekNext(1)), last);
     QCOMPARE(rows.rows->DeleteRecord(middle).Error(), ErrorNumber::NotFound);
+}
+
+void PropertyDatabaseTest::anOpeningStandsAtTheFirstRecord()
+{
+    Rows rows;
+    QCOMPARE(Take(rows.rows->SeekNext(0)), kNoObject);
+    QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+    const ObjectId b = rows.Add({ Text(u"b"_s) });
+    const ObjectId a = rows.Add({ Text(u"a"_s) });
+    rows.Open();
+    QCOMPARE(Take(rows.rows->ReadAll()).oid, a);
+    QCOMPARE(Take(rows.rows->SeekNext(1)), b);
+    rows.Open();
+    QCOMPARE(Take(rows.rows->SeekNext(1)), b);
+    rows.Open();
+    QCOMPARE(Take(rows.rows->SeekNext(-1)), kNoObject);
+    rows.Open();
+    QVERIFY(rows.rows->DeleteRecord(a).IsOk());
+    QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+    QCOMPARE(Take(rows.rows->SeekNext(1)), b);
+}
+
+void PropertyDatabaseTest::aRollbackKeepsThePosition()
+{
+    Rows rows;
+    const ObjectId b = rows.Add({ Text(u"b"_s) });
+    const ObjectId c = rows.Add({ Text(u"c"_s) });
+    const ObjectId d = rows.Add({ Text(u"d"_s) });
+    // On one that was deleted.
+    Take(rows.rows->SeekTo(c));
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    QVERIFY(rows.rows->DeleteRecord(c).IsOk());
+    QVERIFY(rows.volume->EndTransaction(false).IsOk());
+    QCOMPARE(Take(rows.rows->ReadAll()).oid, c);
+    QCOMPARE(Take(rows.rows->SeekNext(1)), d);
+    // On one that was added, first and last.
+    for (const auto& [name, next] : { std::pair(u"a"_s, b), std::pair(u"e"_s, kNoObject) }) {
+        QVERIFY(rows.volume->BeginTransaction().IsOk());
+        Take(rows.rows->SeekTo(rows.Add({ Text(name) })));
+        QVERIFY(rows.volume->EndTransaction(false).IsOk());
+        QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+        QCOMPARE(Take(rows.rows->SeekNext(1)), next);
+    }
 }
 
 void PropertyDatabaseTest::writingSomePropertiesLeavesTheOthers()
