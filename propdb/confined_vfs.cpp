@@ -203,8 +203,7 @@ int OpenKeepingError(const char* path, int flags, int mode)
 void KeepCreateErrors(sqlite3_vfs* real)
 {
     OriginalOpen() = reinterpret_cast<OpenCall>(real->xGetSystemCall(real, "open"));
-    real->xSetSystemCall(
-        real, "open", reinterpret_cast<sqlite3_syscall_ptr>(&OpenKeepingError));
+    real->xSetSystemCall(real, "open", reinterpret_cast<sqlite3_syscall_ptr>(&OpenKeepingError));
 }
 
 int VfsOpen(sqlite3_vfs* vfs, const char* path, sqlite3_file* file, int flags, int* outFlags)

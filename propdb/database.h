@@ -44,6 +44,8 @@ public:
     /// kNoObject, as a value, where there is no record at that place; a seek that finds none leaves
     /// the position at the end.
     [[nodiscard]] Result<ObjectId> SeekFirst();
+    /// Goes `n` records on, back where `n` is negative, and nowhere where it is 0. From the end the
+    /// last record is one back.
     [[nodiscard]] Result<ObjectId> SeekNext(int n);
     [[nodiscard]] Result<ObjectId> SeekTo(ObjectId oid);
 
@@ -54,9 +56,11 @@ public:
 
     /// Adds a record (kNoObject) or changes the listed properties of one, and gives its identifier.
     /// A property new to the database is taken in with it. NotFound if there is no such record,
-    /// InvalidParameter for no values, AlreadyExists for a property listed twice. Strings are kept
-    /// up to their first NUL.
+    /// InvalidParameter for no values, an unknown type or a value that is not of its type,
+    /// AlreadyExists for a property listed twice, BadLength if the record would be larger than
+    /// 60 MB. Strings are kept up to their first NUL.
     [[nodiscard]] Result<ObjectId> Write(ObjectId oid, std::span<const PropertyValue> values);
+    /// NotFound if there is no such record.
     [[nodiscard]] Result<void> DeleteRecord(ObjectId oid);
 
     /// Every record in the order of the handle, by one scan of its index. Kept, at four bytes a

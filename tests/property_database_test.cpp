@@ -85,6 +85,7 @@ private Q_SLOTS:
     void valuesComeBackAsTheyWereWritten_data();
     void valuesComeBackAsTheyWereWritten();
     void textMayBeginWithAByteOrderMark();
+    void aTextIsTooLongOnceAndForAll();
     void recordsAreSortedByUnitWithMissingKeysLast();
     void equalKeysKeepTheOrderOfTheirIdentifiers();
     void aWalkSurvivesWritesUnderIt();
@@ -164,6 +165,30 @@ void PropertyDatabaseTest::textMayBeginWithAByteOrderMark()
         const ObjectId oid = rows.Add({ Text(text) });
         QCOMPARE(std::get<QString>(rows.Value(oid, kName)), text);
     }
+}
+
+void PropertyDatabaseTest::aTextIsTooLongOnceAndForAll()
+{
+    // What is taken in can be shown in order, changed and deleted again, in spite of its index.
+    constexpr qsizetype kMostUnits = (30 << 20) - 2048;
+    Rows rows;
+    const QString most(kMostUnits, u'n');
+    const ObjectId oid = rows.Add({ Text(most) });
+    for (const qsizetype units : { kMostUnits + 4096, 3 * kMostUnits }) {
+        const std::vector tooLong { Text(QString(units, u'n')) };
+        QCOMPARE(rows.rows->Write(kNoObject, tooLong).Error(), ErrorNumber::BadLength);
+        QCOMPARE(rows.rows->Write(oid, tooLong).Error(), ErrorNumber::BadLength);
+    }
+    int visits = 0;
+    const std::vector ids { kName };
+    const auto done = rows.rows->Scan(ids, ScanOrder::Sorted, [&](ObjectId, auto values) {
+        visits += std::get<QString>(values[0].value) == most ? 1 : 0;
+        return true;
+    });
+    QVERIFY(done.IsOk());
+    QCOMPARE(visits, 1);
+    Take(rows.rows->Write(oid, std::vector { Count(1) }));
+    QVERIFY(rows.rows->DeleteRecord(oid).IsOk());
 }
 
 void PropertyDatabaseTest::recordsAreSortedByUnitWithMissingKeysLast()
