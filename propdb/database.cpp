@@ -60,11 +60,6 @@ ObjectId Database::Oid() const
     return m_state->schema->oid;
 }
 
-const SortOrder& Database::Order() const
-{
-    return m_state->order;
-}
-
 Result<qint64> Database::RecordCount()
 {
     auto count = Statement::Prepare(m_state->volume.connection.get(),

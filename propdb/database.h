@@ -36,7 +36,6 @@ public:
     Database& operator=(const Database&) = delete;
 
     [[nodiscard]] ObjectId Oid() const;
-    [[nodiscard]] const SortOrder& Order() const;
     [[nodiscard]] Result<qint64> RecordCount();
     /// The declared properties in the order of their declaration.
     [[nodiscard]] std::vector<PropertySpec> Properties() const;

@@ -231,11 +231,6 @@ Result<void> Volume::EndTransaction(bool commit)
     return {};
 }
 
-bool Volume::IsInTransaction() const
-{
-    return m_state->isInTransaction;
-}
-
 bool Volume::HasChanged() const
 {
     return m_state->hasCommitted;

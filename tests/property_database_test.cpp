@@ -451,7 +451,11 @@ void PropertyDatabaseTest::refusals()
     QCOMPARE(write(kNoObject, {}), ErrorNumber::InvalidParameter);
     QCOMPARE(write(kNoObject, { Count(1), Count(2) }), ErrorNumber::AlreadyExists);
     QCOMPARE(write(kNoObject, { { kCount, 0, u"text"_s } }), ErrorNumber::InvalidParameter);
+    QCOMPARE(write(kNoObject, { { MakePropertyId(1, 99), 0, 1 } }), ErrorNumber::InvalidParameter);
     QCOMPARE(write(static_cast<ObjectId>(9999), { Count(1) }), ErrorNumber::NotFound);
+    QCOMPARE(
+        rows.volume->OpenDatabase(u"rows"_s, { kCount }).Error(), ErrorNumber::InvalidParameter);
+    QCOMPARE(rows.volume->EndTransaction(true).Error(), ErrorNumber::InvalidHandle);
     QCOMPARE(rows.volume->DeleteDatabase(rows.oid).Error(), ErrorNumber::SharingViolation);
     QCOMPARE(
         rows.volume->DeleteDatabase(static_cast<ObjectId>(9999)).Error(), ErrorNumber::NotFound);

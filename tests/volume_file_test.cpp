@@ -163,6 +163,7 @@ void VolumeFileTest::missingFilesAndFoldersAreTold()
     QCOMPARE(mount(u"none/a.idb"_s, Disposition::OpenExisting), 3U);
     QCOMPARE(mount(u"none/a.idb"_s, Disposition::OpenAlways), 3U);
     QCOMPARE(mount(u"."_s, Disposition::OpenAlways), 5U);
+    QCOMPARE(mount(u"a.idb/"_s, Disposition::OpenAlways), 123U);
     QCOMPARE(mount(QString(300, u'n'), Disposition::OpenAlways), 206U);
     QVERIFY(QFile::link(u"/nowhere/at/all"_s, fixture.Path(u"link.idb"_s)));
     QCOMPARE(mount(u"link.idb"_s, Disposition::OpenAlways), 3U);
