@@ -4,8 +4,6 @@
 
 #include <QMap>
 
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <array>
 
@@ -199,28 +197,6 @@ Result<QMap<QString, QString>> ActualObjects(sqlite3* connection)
     return actual;
 }
 
-Result<VolumeSchema> ReadVolumeSchema(sqlite3* connection)
-{
-    const auto actual = ActualObjects(connection);
-    if (!actual)
-        return actual.Error();
-    for (const SystemTable& table : kSystemTables) {
-        if (actual->value(QString::fromLatin1(table.name)) != QString::fromLatin1(table.sql))
-            return ErrorNumber::FileCorrupt;
-    }
-    VolumeSchema volume;
-    Result<void> loaded = LoadDatabases(connection, volume);
-    if (loaded)
-        loaded = LoadProperties(connection, volume);
-    if (loaded)
-        loaded = LoadSortOrders(connection, volume);
-    if (!loaded)
-        return loaded.Error();
-    if (ExpectedObjects(volume) != *actual)
-        return ErrorNumber::FileCorrupt;
-    return volume;
-}
-
 } // namespace
 
 const PropertyColumn* DatabaseSchema::Find(PropertyId id) const
@@ -374,14 +350,29 @@ Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schem
 
 Result<VolumeSchema> LoadVolumeSchema(sqlite3* connection)
 {
-    if (sqlite3_get_autocommit(connection) == 0)
-        return ReadVolumeSchema(connection);
-    // One transaction, lest another program's write come between the tables.
-    if (const auto begun = Execute(connection, "BEGIN"); !begun)
-        return begun.Error();
-    auto volume = ReadVolumeSchema(connection);
-    // A failure can have ended it already.
-    static_cast<void>(Execute(connection, "COMMIT").IsOk());
+    // While a row is being read no other program's write comes between one table and the next.
+    auto hold = Statement::Prepare(connection, u"SELECT 1 FROM sqlite_schema"_s);
+    if (!hold)
+        return hold.Error();
+    if (const auto held = hold->Step(); !held)
+        return held.Error();
+    const auto actual = ActualObjects(connection);
+    if (!actual)
+        return actual.Error();
+    for (const SystemTable& table : kSystemTables) {
+        if (actual->value(QString::fromLatin1(table.name)) != QString::fromLatin1(table.sql))
+            return ErrorNumber::FileCorrupt;
+    }
+    VolumeSchema volume;
+    Result<void> loaded = LoadDatabases(connection, volume);
+    if (loaded)
+        loaded = LoadProperties(connection, volume);
+    if (loaded)
+        loaded = LoadSortOrders(connection, volume);
+    if (!loaded)
+        return loaded.Error();
+    if (ExpectedObjects(volume) != *actual)
+        return ErrorNumber::FileCorrupt;
     return volume;
 }
 
