@@ -183,14 +183,6 @@ qsizetype CodePage::Decode(QByteArrayView bytes, char16_t* target) const
     return out - target;
 }
 
-void CodePage::AppendDecoded(QString& text, QByteArrayView bytes) const
-{
-    const qsizetype start = text.size();
-    text.resize(start + bytes.size());
-    const qsizetype length = Decode(bytes, reinterpret_cast<char16_t*>(text.data() + start));
-    text.resize(start + length);
-}
-
 char16_t AsciiLookAlike(char16_t unit, int codePage)
 {
     constexpr char16_t kMinusSign = 0x2212;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArrayView>
-#include <QString>
 
 #include <array>
 #include <optional>
@@ -25,7 +24,6 @@ public:
     /// Writes the text of `bytes` to `target`, which has room for as many units as there are bytes,
     /// and returns how many units it is. A pair cut at the end gives the default character.
     qsizetype Decode(QByteArrayView bytes, char16_t* target) const;
-    void AppendDecoded(QString& text, QByteArrayView bytes) const;
 
 private:
     CodePage() = default;

@@ -180,15 +180,12 @@ private:
     bool TakeMonthName(int count)
     {
         const auto& names = count == 3 ? m_locale.shortMonthNames : m_locale.monthNames;
-        // Backwards, so that an eleventh month is not taken for a first where both begin alike.
-        for (std::size_t i = names.size(); i-- > 0;) {
-            if (!names.at(i).isEmpty() && m_text.startsWith(names.at(i))) {
-                m_month = static_cast<int>(i) + 1;
-                m_text = m_text.mid(names.at(i).size());
-                return true;
-            }
+        m_month = MonthAtStart(m_text, names, Qt::CaseSensitive);
+        if (m_month == 0) {
+            return false;
         }
-        return false;
+        m_text = m_text.mid(names.at(static_cast<std::size_t>(m_month - 1)).size());
+        return true;
     }
 
     QStringView m_text;
@@ -229,13 +226,6 @@ void AppendDateText(std::u16string& line, QDate date, const LocaleProfile& local
     });
 }
 
-QString DateText(QDate date, const LocaleProfile& locale)
-{
-    std::u16string text;
-    AppendDateText(text, date, locale);
-    return QStringView(text).toString();
-}
-
 std::optional<QDate> ReadDateByPicture(
     QStringView text, QStringView picture, DigitCount digits, const LocaleProfile& locale)
 {
@@ -243,6 +233,20 @@ std::optional<QDate> ReadDateByPicture(
     const bool isMatch
         = VisitPicture(picture, [&match](const PictureToken& token) { return match.Take(token); });
     return isMatch ? match.Result() : std::nullopt;
+}
+
+int MonthAtStart(
+    QStringView text, const std::array<QString, 12>& names, Qt::CaseSensitivity sensitivity)
+{
+    int month = 0;
+    qsizetype length = 0;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (names.at(i).size() > length && text.startsWith(names.at(i), sensitivity)) {
+            month = static_cast<int>(i) + 1;
+            length = names.at(i).size();
+        }
+    }
+    return month;
 }
 
 } // namespace Quillory

@@ -123,12 +123,12 @@ private:
 
     bool TakeMonth(const std::array<QString, 12>& names)
     {
-        for (std::size_t i = 0; i < names.size(); ++i) {
-            if (TakeWord(names.at(i))) {
-                return AddField(static_cast<int>(i) + 1, true);
-            }
+        const int month = MonthAtStart(m_text.mid(m_at), names, Qt::CaseInsensitive);
+        if (month == 0) {
+            return false;
         }
-        return false;
+        m_at += names.at(static_cast<std::size_t>(month - 1)).size();
+        return AddField(month, true);
     }
 
     bool TakeHalfDay()

@@ -3,9 +3,11 @@
 #include <QList>
 #include <QMutex>
 
+#include <fcntl.h>
 #include <sqlite3.h>
 #include <xxhash.h>
 
+#include <cerrno>
 #include <cstring>
 
 namespace Quillory {
@@ -174,12 +176,45 @@ constexpr sqlite3_io_methods kFileMethods {
     .xUnfetch = nullptr,
 };
 
+using OpenCall = int (*)(const char* path, int flags, int mode);
+/// How SQLite opened files before it was taught to keep why it could not make one.
+OpenCall& OriginalOpen()
+{
+    static OpenCall original = nullptr;
+    return original;
+}
+
+/// Why this thread's latest attempt to make a file failed. SQLite tries again without making it
+/// and so would only tell that there is none.
+int& CreateError()
+{
+    thread_local int error = 0;
+    return error;
+}
+
+int OpenKeepingError(const char* path, int flags, int mode)
+{
+    const int descriptor = OriginalOpen()(path, flags, mode);
+    if (descriptor < 0 && (flags & O_CREAT) != 0)
+        CreateError() = errno;
+    return descriptor;
+}
+
+void KeepCreateErrors(sqlite3_vfs* real)
+{
+    OriginalOpen() = reinterpret_cast<OpenCall>(real->xGetSystemCall(real, "open"));
+    real->xSetSystemCall(real, "open", reinterpret_cast<sqlite3_syscall_ptr>(&OpenKeepingError));
+}
+
 int VfsOpen(sqlite3_vfs* vfs, const char* path, sqlite3_file* file, int flags, int* outFlags)
 {
     file->pMethods = nullptr;
     if (!MayOpen(path, flags))
         return SQLITE_CANTOPEN;
+    CreateError() = 0;
     const int code = RealVfs(vfs)->xOpen(RealVfs(vfs), path, RealFile(file), flags, outFlags);
+    if (code != SQLITE_OK && CreateError() != 0)
+        errno = CreateError();
     if (RealFile(file)->pMethods != nullptr) {
         reinterpret_cast<ConfinedFile*>(file)->hasChecksums = (flags & SQLITE_OPEN_MAIN_DB) != 0;
         file->pMethods = &kFileMethods;
@@ -230,6 +265,7 @@ int VfsGetLastError(sqlite3_vfs* vfs, int size, char* text)
 sqlite3_vfs* RegisterVfs()
 {
     sqlite3_vfs* real = sqlite3_vfs_find(nullptr);
+    KeepCreateErrors(real);
     static sqlite3_vfs vfs {};
     vfs.iVersion = 1;
     vfs.szOsFile = static_cast<int>(sizeof(ConfinedFile)) + real->szOsFile;

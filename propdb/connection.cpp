@@ -16,8 +16,12 @@ namespace {
 
 /// Another program that reads the file makes a write wait so long before it is refused.
 constexpr int kBusyTimeoutMs = 5000;
-/// More than a hostile file may make SQLite ask for; far more than an honest one needs.
-constexpr sqlite3_int64 kHeapLimitBytes = 192 << 20;
+/// No value, and no record, may be larger.
+constexpr int kMaxRecordBytes = 60 << 20;
+/// More than a hostile file may make SQLite ask for; far more than an honest one needs. Changing
+/// the key of a record of that size among its likes takes seven times the size, and some pages;
+/// showing them in order four times, and a hundred megabytes of pages.
+constexpr sqlite3_int64 kHeapLimitBytes = 448 << 20;
 
 struct Limit
 {
@@ -26,7 +30,7 @@ struct Limit
 };
 
 constexpr std::array kLimits {
-    Limit { SQLITE_LIMIT_LENGTH, 128 << 20 },
+    Limit { SQLITE_LIMIT_LENGTH, kMaxRecordBytes },
     Limit { SQLITE_LIMIT_SQL_LENGTH, 64 << 10 },
     Limit { SQLITE_LIMIT_COLUMN, 512 },
     Limit { SQLITE_LIMIT_EXPR_DEPTH, 64 },
@@ -83,6 +87,7 @@ int Authorize(void* /*context*/, int action, const char* /*first*/, const char* 
     case SQLITE_UPDATE:
     case SQLITE_DELETE:
     case SQLITE_TRANSACTION:
+    case SQLITE_SAVEPOINT:
     case SQLITE_PRAGMA:
     case SQLITE_FUNCTION:
     case SQLITE_CREATE_TABLE:

@@ -73,15 +73,34 @@ Result<bool> Cursor::ReadKey(ObjectId oid)
     return step;
 }
 
+Result<void> Cursor::FindRecord()
+{
+    if (m_standing == Standing::First) {
+        const auto first = First();
+        Suspend();
+        return first.Error();
+    }
+    if (m_standing != Standing::Doubtful)
+        return {};
+    const auto isThere = ReadKey(m_oid);
+    if (isThere)
+        m_standing = *isThere ? Standing::There : Standing::Gone;
+    return isThere.Error();
+}
+
 Result<void> Cursor::WalkFromPlace()
 {
+    if (m_oid != kNoObject && m_standing == Standing::There) {
+        const auto isThere = ReadKey(m_oid);
+        if (!isThere)
+            return isThere.Error();
+        // One that another program deleted has left no place.
+        if (!*isThere)
+            Settle(kNoObject);
+    }
     if (m_oid == kNoObject)
         return m_direction == WalkDirection::Forward ? ErrorNumber::None
                                                      : EnterPart(FirstPart()).Error();
-    if (!m_isGone) {
-        if (const auto read = ReadKey(m_oid); !read)
-            return read.Error();
-    }
     m_part = m_key.IsMissing() ? Part::Keyless : Part::Keyed;
     auto statement = Statement::Prepare(m_connection, PartSql(m_part, m_direction, true));
     if (!statement)
@@ -99,7 +118,7 @@ Result<ObjectId> Cursor::Advance()
     while (m_isWalking) {
         if (m_walk.Next()) {
             m_oid = m_walk.Oid(0);
-            m_isGone = false;
+            m_standing = Standing::There;
             return m_oid;
         }
         if (m_walk.Error() != ErrorNumber::None) {
@@ -120,7 +139,7 @@ void Cursor::Settle(ObjectId oid)
 {
     Suspend();
     m_oid = oid;
-    m_isGone = false;
+    m_standing = Standing::There;
 }
 
 void Cursor::Suspend()
@@ -128,6 +147,13 @@ void Cursor::Suspend()
     if (m_isWalking)
         m_walk.Reset();
     m_isWalking = false;
+}
+
+Result<ObjectId> Cursor::Current()
+{
+    if (const auto found = FindRecord(); !found)
+        return found.Error();
+    return m_standing == Standing::Gone ? kNoObject : m_oid;
 }
 
 Result<ObjectId> Cursor::First()
@@ -143,6 +169,8 @@ Result<ObjectId> Cursor::Step(WalkDirection direction)
 {
     if (!m_isWalking || direction != m_direction) {
         Suspend();
+        if (const auto found = FindRecord(); !found)
+            return found.Error();
         m_direction = direction;
         if (const auto started = WalkFromPlace(); !started)
             return started.Error();
@@ -160,14 +188,33 @@ Result<ObjectId> Cursor::SeekTo(ObjectId oid)
     return m_oid;
 }
 
+void Cursor::DoubtRecord()
+{
+    Suspend();
+    if (m_oid == kNoObject)
+        return;
+    if (m_standing == Standing::There) {
+        const auto isThere = ReadKey(m_oid);
+        if (!isThere || !*isThere)
+            return;
+    }
+    m_standing = Standing::Doubtful;
+}
+
 Result<void> Cursor::LeaveRecord(ObjectId oid)
 {
     Suspend();
-    if (oid != m_oid || m_isGone)
+    if (const auto found = FindRecord(); !found)
+        return found;
+    if (oid != m_oid || m_standing == Standing::Gone)
         return {};
-    const auto isThere = ReadKey(oid);
-    m_isGone = true;
-    return isThere.Error();
+    return ReadKey(oid).Error();
+}
+
+void Cursor::LoseRecord(ObjectId oid)
+{
+    if (oid == m_oid)
+        m_standing = Standing::Gone;
 }
 
 Result<std::vector<ObjectId>> Cursor::List()

@@ -60,11 +60,6 @@ ObjectId Database::Oid() const
     return m_state->schema->oid;
 }
 
-const SortOrder& Database::Order() const
-{
-    return m_state->order;
-}
-
 Result<qint64> Database::RecordCount()
 {
     auto count = Statement::Prepare(m_state->volume.connection.get(),
@@ -124,10 +119,12 @@ Result<Record> Database::ReadAll()
 
 Result<Record> Database::Read(std::span<const PropertyId> ids)
 {
-    const ObjectId current = m_state->cursor.Current();
-    if (current == kNoObject)
+    const auto current = m_state->cursor.Current();
+    if (!current)
+        return current.Error();
+    if (*current == kNoObject)
         return ErrorNumber::NotFound;
-    return m_state->ReadRecord(current, ids);
+    return m_state->ReadRecord(*current, ids);
 }
 
 Result<ObjectId> Database::Write(ObjectId oid, std::span<const PropertyValue> values)
@@ -164,6 +161,8 @@ Result<void> Database::DeleteRecord(ObjectId oid)
             remove->Bind(1, oid);
             const auto step = remove->Step();
             const bool isGone = step && *step;
+            if (isGone)
+                m_state->cursor.LoseRecord(oid);
             done = isGone || !step ? step.Error() : ErrorNumber::NotFound;
         }
     }

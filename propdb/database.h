@@ -23,8 +23,10 @@ enum class ScanOrder
 
 /// An open database: a position among its records, and reads and writes of them.
 ///
-/// The position stays on its record whatever is written. A record deleted from under it leaves it
-/// where the record was: reads fail, and a seek goes on from there.
+/// The position is at the first record when the database is opened; that record is looked for when
+/// the position is first used. It stays on its record whatever is written. A record deleted from
+/// under it, or undone with its transaction, leaves it where the record was: reads fail, and a seek
+/// goes on from there.
 class Database
 {
 public:
@@ -34,7 +36,6 @@ public:
     Database& operator=(const Database&) = delete;
 
     [[nodiscard]] ObjectId Oid() const;
-    [[nodiscard]] const SortOrder& Order() const;
     [[nodiscard]] Result<qint64> RecordCount();
     /// The declared properties in the order of their declaration.
     [[nodiscard]] std::vector<PropertySpec> Properties() const;
@@ -42,6 +43,8 @@ public:
     /// kNoObject, as a value, where there is no record at that place; a seek that finds none leaves
     /// the position at the end.
     [[nodiscard]] Result<ObjectId> SeekFirst();
+    /// Goes `n` records on, back where `n` is negative, and nowhere where it is 0. From the end the
+    /// last record is one back.
     [[nodiscard]] Result<ObjectId> SeekNext(int n);
     [[nodiscard]] Result<ObjectId> SeekTo(ObjectId oid);
 
@@ -52,9 +55,11 @@ public:
 
     /// Adds a record (kNoObject) or changes the listed properties of one, and gives its identifier.
     /// A property new to the database is taken in with it. NotFound if there is no such record,
-    /// InvalidParameter for no values, AlreadyExists for a property listed twice. Strings are kept
-    /// up to their first NUL.
+    /// InvalidParameter for no values, an unknown type or a value that is not of its type,
+    /// AlreadyExists for a property listed twice, BadLength if the record would be larger than
+    /// 60 MB. Strings are kept up to their first NUL.
     [[nodiscard]] Result<ObjectId> Write(ObjectId oid, std::span<const PropertyValue> values);
+    /// NotFound if there is no such record.
     [[nodiscard]] Result<void> DeleteRecord(ObjectId oid);
 
     /// Every record in the order of the handle, by one scan of its index. Kept, at four bytes a

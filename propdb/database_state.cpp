@@ -94,8 +94,9 @@ Result<void> DatabaseState::AddMissingColumns(std::span<const PropertyValue> val
             return ErrorNumber::InvalidParameter;
         const QString name = u"property %1"_s.arg(PropertyNumber(value.id));
         PropertyColumn column = MakeColumn(*schema, { value.id, name }, false);
-        volume.isSchemaChanged = true;
-        const auto added = AddPropertyColumn(volume.connection.get(), *schema, column);
+        Result<void> added = volume.BeginSchemaChange();
+        if (added)
+            added = AddPropertyColumn(volume.connection.get(), *schema, column);
         if (!added)
             return added;
         schema->properties.push_back(std::move(column));

@@ -36,7 +36,6 @@ enum class ErrorNumber : quint32
     AlreadyExists = 183,
     NameTooLong = 206,
     FileTooLarge = 223,
-    UnrecognisedVolume = 1005,
     NoUnicodeTranslation = 1113,
     IoDevice = 1117,
     NotFound = 1168,

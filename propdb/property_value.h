@@ -103,7 +103,8 @@ struct PropertySpec
 };
 
 /// The one key by which a database keeps its records: ascending by 16-bit unit for strings and by
-/// value otherwise, equal keys by object identifier, records without the key last.
+/// value otherwise (file times from 2^63 on, which are no dates, before all others), equal keys by
+/// object identifier, records without the key last.
 struct SortOrder
 {
     PropertyId key {};

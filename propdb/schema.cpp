@@ -268,7 +268,11 @@ PropertyColumn MakeColumn(const DatabaseSchema& schema, const PropertySpec& spec
 
 QString MakeTableName(const QString& databaseName, ObjectId oid)
 {
-    return u"%1 (%2)"_s.arg(PlainName(databaseName)).arg(static_cast<quint32>(oid));
+    const QString plain = PlainName(databaseName);
+    // SQLite keeps such names for itself.
+    const bool isReserved = plain.startsWith(u"sqlite_"_s, Qt::CaseInsensitive);
+    const QString number = QString::number(static_cast<quint32>(oid));
+    return (isReserved ? u"_"_s : QString()) + plain + u" ("_s + number + u')';
 }
 
 Result<void> CreateVolumeSchema(sqlite3* connection)
@@ -346,6 +350,12 @@ Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schem
 
 Result<VolumeSchema> LoadVolumeSchema(sqlite3* connection)
 {
+    // While a row is being read no other program's write comes between one table and the next.
+    auto hold = Statement::Prepare(connection, u"SELECT 1 FROM sqlite_schema"_s);
+    if (!hold)
+        return hold.Error();
+    if (const auto held = hold->Step(); !held)
+        return held.Error();
     const auto actual = ActualObjects(connection);
     if (!actual)
         return actual.Error();

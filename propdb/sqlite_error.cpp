@@ -10,13 +10,14 @@ namespace {
 
 ErrorNumber ErrorFromIo(int code, sqlite3* connection)
 {
-    if (connection != nullptr && sqlite3_system_errno(connection) == ENOSPC)
+    // The confined VFS reports a page whose checksum does not fit by the first of these. No system
+    // call has failed then, and errno is an older one's.
+    if (code == SQLITE_IOERR_DATA || code == SQLITE_IOERR_CORRUPTFS)
+        return ErrorNumber::FileCorrupt;
+    const int systemError = connection == nullptr ? 0 : sqlite3_system_errno(connection);
+    if (systemError == ENOSPC || systemError == EDQUOT)
         return ErrorNumber::DiskFull;
     switch (code) {
-    // The confined VFS reports a page whose checksum does not fit by this code.
-    case SQLITE_IOERR_DATA:
-    case SQLITE_IOERR_CORRUPTFS:
-        return ErrorNumber::FileCorrupt;
     case SQLITE_IOERR_READ:
     case SQLITE_IOERR_SHORT_READ:
         return ErrorNumber::ReadFault;

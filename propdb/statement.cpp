@@ -211,11 +211,6 @@ void Statement::Reset()
     sqlite3_reset(m_statement);
 }
 
-bool Statement::IsNull(int column) const
-{
-    return sqlite3_column_type(m_statement, column) == SQLITE_NULL;
-}
-
 qint64 Statement::Int64(int column) const
 {
     return sqlite3_column_int64(m_statement, column);

@@ -49,7 +49,6 @@ public:
     [[nodiscard]] Result<void> Run();
     void Reset();
 
-    [[nodiscard]] bool IsNull(int column) const;
     [[nodiscard]] qint64 Int64(int column) const;
     [[nodiscard]] ObjectId Oid(int column) const { return static_cast<ObjectId>(Int64(column)); }
     [[nodiscard]] QString Text(int column) const;

@@ -123,13 +123,15 @@ Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
 {
     if (const ErrorNumber error = CheckSpecs(specs, sortOrders); error != ErrorNumber::None)
         return error;
+    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
+        return refreshed.Error();
     if (m_state->schema.Find(name) != nullptr)
         return ErrorNumber::DuplicateName;
     if (const auto begun = m_state->BeginWrite(); !begun)
         return begun.Error();
     const auto oid = m_state->AllocateOid();
     auto schema = std::make_shared<DatabaseSchema>();
-    Result<void> done = oid.Error();
+    Result<void> done = oid ? m_state->BeginSchemaChange() : oid.Error();
     if (done) {
         schema->oid = *oid;
         schema->name = name;
@@ -139,7 +141,6 @@ Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
         for (const PropertySpec& spec : specs)
             schema->properties.push_back(MakeColumn(*schema, spec, true));
         m_state->schema.databases.push_back(schema);
-        m_state->isSchemaChanged = true;
         done = CreateDatabaseSchema(m_state->connection.get(), *schema);
     }
     if (const auto ended = m_state->EndWrite(done); !ended)
@@ -156,6 +157,8 @@ bool Volume::IsOpen(ObjectId database) const
 
 Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseType type)
 {
+    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
+        return refreshed;
     const auto schema = m_state->schema.Find(oid);
     if (schema == nullptr)
         return ErrorNumber::NotFound;
@@ -166,14 +169,19 @@ Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseT
         return ErrorNumber::SharingViolation;
     if (const auto begun = m_state->BeginWrite(); !begun)
         return begun;
-    m_state->isSchemaChanged = true;
-    schema->name = name;
-    schema->type = type;
-    return m_state->EndWrite(RenameDatabaseSchema(m_state->connection.get(), *schema));
+    Result<void> done = m_state->BeginSchemaChange();
+    if (done) {
+        schema->name = name;
+        schema->type = type;
+        done = RenameDatabaseSchema(m_state->connection.get(), *schema);
+    }
+    return m_state->EndWrite(done);
 }
 
 Result<void> Volume::DeleteDatabase(ObjectId oid)
 {
+    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
+        return refreshed;
     const auto schema = m_state->schema.Find(oid);
     if (schema == nullptr)
         return ErrorNumber::NotFound;
@@ -181,9 +189,12 @@ Result<void> Volume::DeleteDatabase(ObjectId oid)
         return ErrorNumber::SharingViolation;
     if (const auto begun = m_state->BeginWrite(); !begun)
         return begun;
-    m_state->isSchemaChanged = true;
-    std::erase(m_state->schema.databases, schema);
-    return m_state->EndWrite(DropDatabaseSchema(m_state->connection.get(), *schema));
+    Result<void> done = m_state->BeginSchemaChange();
+    if (done) {
+        std::erase(m_state->schema.databases, schema);
+        done = DropDatabaseSchema(m_state->connection.get(), *schema);
+    }
+    return m_state->EndWrite(done);
 }
 
 Result<std::unique_ptr<Database>> Volume::OpenDatabase(
@@ -218,11 +229,6 @@ Result<void> Volume::EndTransaction(bool commit)
         return m_state->Commit();
     m_state->Rollback();
     return {};
-}
-
-bool Volume::IsInTransaction() const
-{
-    return m_state->isInTransaction;
 }
 
 bool Volume::HasChanged() const

@@ -22,7 +22,7 @@ enum class VolumeAccess
 {
     /// Reads and writes; refused while another process has the volume for itself.
     Exclusive,
-    /// Reads beside another process. Every write fails.
+    /// Reads beside another process. Every write fails with AccessDenied.
     ReadOnly,
 };
 
@@ -34,9 +34,11 @@ enum class VolumeAccess
 class Volume
 {
 public:
-    /// Opens the file at `path`. Failures: FileNotFound, PathNotFound, AccessDenied,
-    /// WriteProtected, SharingViolation (another process has it), BadFormat (not a volume),
-    /// NotSupported (made by a newer program), FileCorrupt, and those of the operating system.
+    /// Opens the file at `path`. Failures: InvalidName (no path, or one that ends in a slash),
+    /// FileNotFound, PathNotFound, AccessDenied (also for a folder and for a file with a second
+    /// hard link), WriteProtected, SharingViolation (another process has it, or this one has it
+    /// already), BadFormat (not a volume), NotSupported (made by a newer program), FileCorrupt, and
+    /// those of the operating system.
     [[nodiscard]] static Result<std::unique_ptr<Volume>> Mount(
         const QString& path, Disposition disposition, VolumeAccess access);
 
@@ -60,22 +62,28 @@ public:
     /// Gives a database another name and type; its identifier and records stay. NotFound,
     /// DuplicateName if another is so named, SharingViolation if it is open.
     [[nodiscard]] Result<void> RenameDatabase(ObjectId oid, const QString& name, DatabaseType type);
-    /// Deletes a database and all its records. One that is open is refused with SharingViolation.
+    /// Deletes a database and all its records. NotFound, SharingViolation if it is open.
     [[nodiscard]] Result<void> DeleteDatabase(ObjectId oid);
     /// Opens a database by its name and one of its sort orders. It must be closed (destroyed)
-    /// before the volume is.
+    /// before the volume is. FileNotFound if none is so named, InvalidParameter if it does not have
+    /// this order.
     [[nodiscard]] Result<std::unique_ptr<Database>> OpenDatabase(
         const QString& name, const SortOrder& sortOrder);
 
     /// Until the end of a transaction nothing of what is written is durable, and all of it is
-    /// undone if the transaction ends without a commit. AlreadyExists if one is running.
+    /// undone if the transaction ends without a commit. A call that fails leaves nothing of itself
+    /// behind, and the transaction goes on without it. AlreadyExists if one is running.
     [[nodiscard]] Result<void> BeginTransaction();
+    /// InvalidHandle if none is running, and for a commit after a failure that has undone it all
+    /// (of the medium, or for want of memory). No transaction is running afterwards, whatever this
+    /// gives. Of one whose commit failed nothing is kept, unless the medium does not answer any
+    /// more: then either all or nothing is.
     [[nodiscard]] Result<void> EndTransaction(bool commit);
-    [[nodiscard]] bool IsInTransaction() const;
-    /// Whether anything was written since the volume was mounted.
+    /// Whether anything was committed since the volume was mounted, be it an empty transaction.
     [[nodiscard]] bool HasChanged() const;
     /// Whether the path still leads to the file that was opened: FileNotFound if it leads nowhere,
-    /// SharingViolation if another file was put there. The opened one can be read all the same.
+    /// PathNotFound if its folder is gone too, SharingViolation if another file was put there. The
+    /// opened one can be read all the same.
     [[nodiscard]] Result<void> VerifyInPlace() const;
 
     /// Reads the whole file and tells what is wrong with it, a line each; empty if nothing is.

@@ -281,8 +281,11 @@ Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
     bool isRenamed
         = renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0;
     // File systems of memory cards know neither this kind of rename nor links.
-    if (!isRenamed && (errno == EINVAL || errno == ENOSYS) && access(to.constData(), F_OK) != 0)
+    if (!isRenamed && (errno == EINVAL || errno == ENOSYS)) {
+        if (access(to.constData(), F_OK) == 0)
+            return ErrorNumber::FileExists;
         isRenamed = rename(from.constData(), to.constData()) == 0;
+    }
     if (!isRenamed)
         return ErrorFromErrno(errno);
     return SyncFolderOf(to);

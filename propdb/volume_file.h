@@ -20,8 +20,9 @@ constexpr int kFormatVersion = 1;
 /// NotSupported (made by a newer program) or FileCorrupt.
 [[nodiscard]] ErrorNumber VerifyVolumeHeader(std::span<const char> header);
 
-/// The real, absolute path of a file that may not exist yet; its folder must. PathNotFound if the
-/// folder is missing or the last step is a link to nothing.
+/// The real, absolute path of a file that may not exist yet; its folder must. InvalidName for an
+/// empty path, one that ends in a slash or holds a NUL; PathNotFound if the folder is missing or
+/// the last step is a link to nothing.
 [[nodiscard]] Result<QByteArray> ResolveVolumePath(const QString& path);
 
 /// The operating system's file behind a volume: looked at before SQLite sees it, locked against a
@@ -40,8 +41,8 @@ public:
     /// Opens an existing volume: a regular file with one link, a header of ours, nobody else's.
     [[nodiscard]] static Result<VolumeFile> Open(const QByteArray& path, VolumeAccess access);
 
-    /// Whether the path still leads to the file that was opened: FileNotFound or SharingViolation
-    /// if it was removed or replaced.
+    /// Whether the path still leads to the file that was opened: FileNotFound, or PathNotFound with
+    /// its folder, if it was removed, SharingViolation if it was replaced.
     [[nodiscard]] Result<void> VerifyInPlace() const;
     /// How often the file was changed, as its header counts; for telling whether it was since.
     [[nodiscard]] Result<quint32> ChangeCounter() const;

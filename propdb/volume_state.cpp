@@ -6,13 +6,10 @@
 
 #include <sqlite3.h>
 
-#include <array>
 #include <limits>
 #include <utility>
 
 namespace Quillory {
-
-using namespace Qt::StringLiterals;
 
 VolumeState::VolumeState(VolumeFile volumeFile, QByteArray volumePath, VolumeAccess volumeAccess)
     : file(std::move(volumeFile))
@@ -32,25 +29,21 @@ Result<void> VolumeState::Connect()
     // The file that was looked at and locked must be the one that SQLite has opened.
     if (const auto inPlace = file.VerifyInPlace(); !inPlace)
         return inPlace;
-    auto loaded = LoadVolumeSchema(connection.get());
-    if (!loaded)
-        return loaded.Error();
-    schema = std::move(*loaded);
-
-    const std::array<std::pair<Statement*, QString>, 6> kept { {
-        { &readNextOid, u"SELECT next_oid FROM object_counter"_s },
-        { &begin, u"BEGIN IMMEDIATE"_s },
-        { &commit, u"COMMIT"_s },
-        { &rollback, u"ROLLBACK"_s },
-        { &storeNextOid, u"UPDATE object_counter SET next_oid = ?1"_s },
-        { &readDataVersion, u"PRAGMA data_version"_s },
-    } };
-    for (const auto& [statement, sql] : kept) {
-        auto prepared = Statement::Prepare(connection.get(), sql, true);
-        if (!prepared)
-            return prepared.Error();
-        *statement = std::move(*prepared);
-    }
+    // The tables must prove to be ours before a statement names them.
+    if (const auto prepared = PrepareStatements({ { &readDataVersion, "PRAGMA data_version" } });
+        !prepared)
+        return prepared;
+    if (const auto loaded = LoadSchema(); !loaded)
+        return loaded;
+    if (const auto prepared = PrepareStatements({
+            { &readNextOid, "SELECT next_oid FROM object_counter" },
+            { &begin, "BEGIN IMMEDIATE" },
+            { &commit, "COMMIT" },
+            { &rollback, "ROLLBACK" },
+            { &storeNextOid, "UPDATE object_counter SET next_oid = ?1" },
+        });
+        !prepared)
+        return prepared;
     const auto step = readNextOid.Step();
     if (!step)
         return step.Error();
@@ -64,14 +57,47 @@ Result<void> VolumeState::Connect()
     return changes.Error();
 }
 
-Result<VolumeState::OrderVersion> VolumeState::ReadOrderVersion()
+Result<qint64> VolumeState::ReadFileVersion()
 {
     const auto step = readDataVersion.Step();
     if (!step)
         return step.Error();
-    const OrderVersion version { orderChanges, readDataVersion.Int64(0) };
+    const qint64 version = readDataVersion.Int64(0);
     readDataVersion.Reset();
     return version;
+}
+
+Result<void> VolumeState::PrepareStatements(
+    std::initializer_list<std::pair<Statement*, const char*>> statements)
+{
+    for (const auto& [statement, sql] : statements) {
+        auto prepared = Statement::Prepare(connection.get(), QString::fromLatin1(sql), true);
+        if (!prepared)
+            return prepared.Error();
+        *statement = std::move(*prepared);
+    }
+    return {};
+}
+
+Result<VolumeState::OrderVersion> VolumeState::ReadOrderVersion()
+{
+    const auto version = ReadFileVersion();
+    if (!version)
+        return version.Error();
+    return OrderVersion { orderChanges, *version };
+}
+
+Result<void> VolumeState::LoadSchema()
+{
+    const auto version = ReadFileVersion();
+    if (!version)
+        return version.Error();
+    auto loaded = LoadVolumeSchema(connection.get());
+    if (!loaded)
+        return loaded.Error();
+    schema = std::move(*loaded);
+    schemaVersion = *version;
+    return {};
 }
 
 Result<ObjectId> VolumeState::AllocateOid()
@@ -94,10 +120,39 @@ Result<void> VolumeState::BeginWrite()
     return {};
 }
 
+Result<void> VolumeState::BeginSchemaChange()
+{
+    isSchemaChanged = true;
+    if (!isInTransaction || isChangingSchema)
+        return {};
+    const auto marked = Execute(connection.get(), "SAVEPOINT schema_change");
+    isChangingSchema = marked.IsOk();
+    return marked;
+}
+
+Result<void> VolumeState::EndSchemaChange(const Result<void>& outcome)
+{
+    isChangingSchema = false;
+    // A failure can have ended the transaction underneath, and with it the change.
+    if (sqlite3_get_autocommit(connection.get()) != 0)
+        return outcome;
+    Result<void> ended;
+    if (!outcome)
+        ended = Execute(connection.get(), "ROLLBACK TO schema_change");
+    if (ended)
+        ended = Execute(connection.get(), "RELEASE schema_change");
+    if (ended && !outcome)
+        ended = ReloadSchema();
+    if (ended)
+        return outcome;
+    Rollback();
+    return outcome ? ended : outcome;
+}
+
 Result<void> VolumeState::EndWrite(const Result<void>& outcome)
 {
     if (isInTransaction)
-        return outcome;
+        return isChangingSchema ? EndSchemaChange(outcome) : outcome;
     if (outcome)
         return Commit();
     Rollback();
@@ -161,7 +216,7 @@ void VolumeState::Rollback()
 {
     ++orderChanges;
     for (DatabaseState* database : openDatabases)
-        database->cursor.Suspend();
+        database->cursor.DoubtRecord();
     // Some failures have rolled back already.
     if (sqlite3_get_autocommit(connection.get()) == 0)
         static_cast<void>(rollback.Run().IsOk());
@@ -199,13 +254,26 @@ Result<bool> VolumeState::SettleDoubt()
 
 Result<void> VolumeState::RefreshSchema()
 {
-    if (!isSchemaChanged || sqlite3_get_autocommit(connection.get()) == 0)
+    if (sqlite3_get_autocommit(connection.get()) == 0)
         return {};
-    auto loaded = LoadVolumeSchema(connection.get());
-    if (!loaded)
-        return loaded.Error();
-    isSchemaChanged = false;
-    schema = std::move(*loaded);
+    if (!isSchemaChanged) {
+        // One that has the file for itself need not ask.
+        if (access == VolumeAccess::Exclusive)
+            return {};
+        const auto version = ReadFileVersion();
+        if (!version || *version == schemaVersion)
+            return version.Error();
+    }
+    const auto loaded = ReloadSchema();
+    if (loaded)
+        isSchemaChanged = false;
+    return loaded;
+}
+
+Result<void> VolumeState::ReloadSchema()
+{
+    if (const auto loaded = LoadSchema(); !loaded)
+        return loaded;
     for (DatabaseState* database : openDatabases) {
         // Open databases go on sharing their layout with the volume.
         for (auto& current : schema.databases) {
@@ -214,6 +282,8 @@ Result<void> VolumeState::RefreshSchema()
             *database->schema = *current;
             current = database->schema;
         }
+        database->inserts.Clear();
+        database->updates.Clear();
         database->selects.Clear();
     }
     return {};

@@ -6,8 +6,10 @@
 #include "propdb/statement.h"
 #include "propdb/volume_file.h"
 
+#include <initializer_list>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 struct sqlite3;
@@ -52,6 +54,10 @@ struct VolumeState
     bool isInTransaction = false;
     /// `schema` is not what the file held when the transaction began.
     bool isSchemaChanged = false;
+    /// The write that runs changes the schema within a transaction.
+    bool isChangingSchema = false;
+    /// What `readDataVersion` gave when `schema` was read, or before.
+    qint64 schemaVersion = 0;
     bool hasCommitted = false;
     /// Counts what may have changed the order of a database's records.
     quint64 orderChanges = 0;
@@ -78,8 +84,11 @@ struct VolumeState
     /// Starts a write of its own, or joins the transaction that runs. Refused on a file that is
     /// not the one that was opened.
     [[nodiscard]] Result<void> BeginWrite();
-    /// Makes a write of its own durable, or undoes it when `outcome` is a failure; within a
-    /// transaction only passes `outcome` on.
+    /// Must come, within a write, before the schema is changed.
+    [[nodiscard]] Result<void> BeginSchemaChange();
+    /// Makes a write of its own durable, or undoes it when `outcome` is a failure. Within a
+    /// transaction passes `outcome` on, a failed change of the schema being undone: the transaction
+    /// ends if it cannot be.
     [[nodiscard]] Result<void> EndWrite(const Result<void>& outcome);
 
     /// SharingViolation if something else has written into the file since the last commit: what
@@ -91,11 +100,20 @@ struct VolumeState
     [[nodiscard]] Result<void> Commit();
     /// Undoes everything since Begin and reads the schema anew if it had changed.
     void Rollback();
-    /// Reads the schema again if it is not the file's: where an earlier attempt failed, or within
-    /// a transaction that a failure has ended underneath.
+    /// Reads the schema again if it is not the file's: where an earlier attempt failed, within a
+    /// transaction that a failure has ended underneath, or beside another program that writes.
     [[nodiscard]] Result<void> RefreshSchema();
 
 private:
+    [[nodiscard]] Result<void> PrepareStatements(
+        std::initializer_list<std::pair<Statement*, const char*>> statements);
+    /// The number of the file's state: another program's commit changes it, this one's do not.
+    [[nodiscard]] Result<qint64> ReadFileVersion();
+    /// Reads the schema and the number of the state that it is at least as new as.
+    [[nodiscard]] Result<void> LoadSchema();
+    /// The same where databases may be open: they learn their layout anew.
+    [[nodiscard]] Result<void> ReloadSchema();
+    [[nodiscard]] Result<void> EndSchemaChange(const Result<void>& outcome);
     [[nodiscard]] Result<void> FindOutcome(ErrorNumber commitError);
     /// Whether the commit in doubt was done; false too if none is.
     [[nodiscard]] Result<bool> SettleDoubt();

@@ -14,6 +14,13 @@ Clock ClockOfYear(int year)
     return [year] { return LocalTime { QDate(year, 6, 15), QTime(12, 0) }; };
 }
 
+QString DateText(QDate date, const LocaleProfile& locale)
+{
+    std::u16string text;
+    AppendDateText(text, date, locale);
+    return QString::fromStdU16String(text);
+}
+
 /// A text and the day it is read as in 2026; no day where it is refused.
 struct DateCase
 {
@@ -161,6 +168,8 @@ constexpr DateCase kDateCases[] = {
     { "ja_JP", u"2024.1.31", "" },
     { "ja_JP", u"2024年1月31日", "2024-01-31" },
     { "ja_JP", u"H16/1/2", "" },
+    { "vi_VN", u"5 Tháng 1 2024", "2024-01-05" },
+    { "vi_VN", u"5 tháng 12 2024", "2024-12-05" },
 };
 
 } // namespace

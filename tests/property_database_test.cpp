@@ -81,24 +81,42 @@ class PropertyDatabaseTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void anyNameWillDo();
     void valuesComeBackAsTheyWereWritten_data();
     void valuesComeBackAsTheyWereWritten();
     void textMayBeginWithAByteOrderMark();
+    void aTextIsTooLongOnceAndForAll();
     void recordsAreSortedByUnitWithMissingKeysLast();
     void equalKeysKeepTheOrderOfTheirIdentifiers();
     void aWalkSurvivesWritesUnderIt();
     void aWalkGoesBothWays();
     void aDeletedRecordCannotBeReadButIsSteppedFrom();
+    void anOpeningStandsAtTheFirstRecord();
+    void aRollbackKeepsThePosition();
     void writingSomePropertiesLeavesTheOthers();
     void readFlagsWhatIsMissing();
     void undeclaredPropertiesAreKeptButNotDeclared();
     void identifiersAreNeverUsedAgain();
     void aRolledBackTransactionLeavesNothing();
+    void aFailureInATransactionLeavesNothingOfItself();
     void aCommittedTransactionIsDurable();
     void refusals();
     void scansGiveEveryRecordOnce();
     void aListingFollowsEveryWrite();
 };
+
+void PropertyDatabaseTest::anyNameWillDo()
+{
+    Rows rows;
+    for (const QString& name : { u"sqlite_sequence"_s, u" SQLite_x"_s, u"\"; DROP"_s, u""_s,
+             u"oid"_s, QString(300, u'n') }) {
+        const std::vector<PropertySpec> specs { { kName, name } };
+        Take(rows.volume->CreateDatabase(name, kType, specs, kByName));
+        rows.Reopen();
+        const auto other = Take(rows.volume->OpenDatabase(name, kByName.front()));
+        QCOMPARE(other->Properties().front().name, name);
+    }
+}
 
 void PropertyDatabaseTest::valuesComeBackAsTheyWereWritten_data()
 {
@@ -147,6 +165,32 @@ void PropertyDatabaseTest::textMayBeginWithAByteOrderMark()
         const ObjectId oid = rows.Add({ Text(text) });
         QCOMPARE(std::get<QString>(rows.Value(oid, kName)), text);
     }
+}
+
+void PropertyDatabaseTest::aTextIsTooLongOnceAndForAll()
+{
+    // What is taken in can be shown in order, changed and deleted again, in spite of its index.
+    constexpr qsizetype kMostUnits = (30 << 20) - 2048;
+    Rows rows;
+    const QString most(kMostUnits, u'n');
+    // In a transaction that nobody commits, which spares the medium much of it.
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    const ObjectId oid = rows.Add({ Text(most) });
+    for (const qsizetype units : { kMostUnits + 4096, 3 * kMostUnits }) {
+        const std::vector tooLong { Text(QString(units, u'n')) };
+        QCOMPARE(rows.rows->Write(kNoObject, tooLong).Error(), ErrorNumber::BadLength);
+        QCOMPARE(rows.rows->Write(oid, tooLong).Error(), ErrorNumber::BadLength);
+    }
+    int visits = 0;
+    const std::vector ids { kName };
+    const auto done = rows.rows->Scan(ids, ScanOrder::Sorted, [&](ObjectId, auto values) {
+        visits += std::get<QString>(values[0].value) == most ? 1 : 0;
+        return true;
+    });
+    QVERIFY(done.IsOk());
+    QCOMPARE(visits, 1);
+    Take(rows.rows->Write(oid, std::vector { Count(1) }));
+    QVERIFY(rows.rows->DeleteRecord(oid).IsOk());
 }
 
 void PropertyDatabaseTest::recordsAreSortedByUnitWithMissingKeysLast()
@@ -224,6 +268,49 @@ void PropertyDatabaseTest::aDeletedRecordCannotBeReadButIsSteppedFrom()
     QCOMPARE(rows.rows->DeleteRecord(middle).Error(), ErrorNumber::NotFound);
 }
 
+void PropertyDatabaseTest::anOpeningStandsAtTheFirstRecord()
+{
+    Rows rows;
+    QCOMPARE(Take(rows.rows->SeekNext(0)), kNoObject);
+    QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+    const ObjectId b = rows.Add({ Text(u"b"_s) });
+    const ObjectId a = rows.Add({ Text(u"a"_s) });
+    rows.Open();
+    QCOMPARE(Take(rows.rows->ReadAll()).oid, a);
+    QCOMPARE(Take(rows.rows->SeekNext(1)), b);
+    rows.Open();
+    QCOMPARE(Take(rows.rows->SeekNext(1)), b);
+    rows.Open();
+    QCOMPARE(Take(rows.rows->SeekNext(-1)), kNoObject);
+    rows.Open();
+    QVERIFY(rows.rows->DeleteRecord(a).IsOk());
+    QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+    QCOMPARE(Take(rows.rows->SeekNext(1)), b);
+}
+
+void PropertyDatabaseTest::aRollbackKeepsThePosition()
+{
+    Rows rows;
+    const ObjectId b = rows.Add({ Text(u"b"_s) });
+    const ObjectId c = rows.Add({ Text(u"c"_s) });
+    const ObjectId d = rows.Add({ Text(u"d"_s) });
+    // On one that was deleted.
+    Take(rows.rows->SeekTo(c));
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    QVERIFY(rows.rows->DeleteRecord(c).IsOk());
+    QVERIFY(rows.volume->EndTransaction(false).IsOk());
+    QCOMPARE(Take(rows.rows->ReadAll()).oid, c);
+    QCOMPARE(Take(rows.rows->SeekNext(1)), d);
+    // On one that was added, first and last.
+    for (const auto& [name, next] : { std::pair(u"a"_s, b), std::pair(u"e"_s, kNoObject) }) {
+        QVERIFY(rows.volume->BeginTransaction().IsOk());
+        Take(rows.rows->SeekTo(rows.Add({ Text(name) })));
+        QVERIFY(rows.volume->EndTransaction(false).IsOk());
+        QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+        QCOMPARE(Take(rows.rows->SeekNext(1)), next);
+    }
+}
+
 void PropertyDatabaseTest::writingSomePropertiesLeavesTheOthers()
 {
     Rows rows;
@@ -281,10 +368,54 @@ void PropertyDatabaseTest::aRolledBackTransactionLeavesNothing()
     QVERIFY(rows.volume->EndTransaction(false).IsOk());
     QCOMPARE(Take(rows.rows->RecordCount()), 0);
     QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
+    // Two properties of one number get their columns in the order in which they come.
+    constexpr PropertyId kSigned = MakePropertyId(500, CEVT_I4);
+    constexpr PropertyId kUnsigned = MakePropertyId(500, CEVT_UI4);
+    const PropertyValue negative { kSigned, 0, -44 };
+    const PropertyValue positive { kUnsigned, 0, 44U };
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    for (const PropertyValue& value : { negative, positive })
+        rows.Add({ value });
+    Take(rows.rows->Write(rows.Add({ negative }), std::vector { positive }));
+    QVERIFY(rows.volume->EndTransaction(false).IsOk());
+    rows.Add({ positive });
+    const ObjectId both = rows.Add({ positive, negative });
+    rows.Add({ negative });
+    Take(rows.rows->Write(both, std::vector { positive }));
+    QCOMPARE(std::get<qint32>(rows.Value(both, kSigned)), -44);
+    QCOMPARE(std::get<quint32>(rows.Value(both, kUnsigned)), 44U);
     // The column that went with the transaction comes back with the next write.
     const ObjectId oid = rows.Add({ { kUndeclared, 0, QByteArray("c") } });
     rows.Reopen();
     QCOMPARE(std::get<QByteArray>(rows.Value(oid, kUndeclared)), QByteArray("c"));
+    QVERIFY(Take(rows.volume->Check()).empty());
+}
+
+void PropertyDatabaseTest::aFailureInATransactionLeavesNothingOfItself()
+{
+    Rows rows;
+    QVERIFY(rows.volume->BeginTransaction().IsOk());
+    rows.Add({ Text(u"a"_s) });
+    std::vector<PropertySpec> tooMany;
+    for (quint16 i = 0; i < 600; ++i)
+        tooMany.push_back({ MakePropertyId(i, CEVT_I4), u"n"_s });
+    QVERIFY(!rows.volume->CreateDatabase(u"wide"_s, kType, tooMany, {}).IsOk());
+    QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
+    const std::vector wrongType { Text(u"c"_s), PropertyValue { kUndeclared, 0, u"text"_s } };
+    QCOMPARE(rows.rows->Write(kNoObject, wrongType).Error(), ErrorNumber::InvalidParameter);
+    // As many columns as a table takes, and one more.
+    ErrorNumber error = ErrorNumber::None;
+    for (quint16 i = 0; error == ErrorNumber::None && i < 600; ++i) {
+        const PropertyValue value { MakePropertyId(i, CEVT_UI4), 0, 1U };
+        error = rows.rows->Write(kNoObject, std::vector { value }).Error();
+    }
+    QCOMPARE(error, ErrorNumber::GeneralFailure);
+    const qint64 count = Take(rows.rows->RecordCount());
+    rows.Add({ Text(u"b"_s) });
+    QVERIFY(rows.volume->EndTransaction(true).IsOk());
+    rows.Reopen();
+    QCOMPARE(Take(rows.rows->RecordCount()), count + 1);
+    QVERIFY(rows.Names().startsWith(u"a b -"_s));
     QVERIFY(Take(rows.volume->Check()).empty());
 }
 
@@ -322,7 +453,11 @@ void PropertyDatabaseTest::refusals()
     QCOMPARE(write(kNoObject, {}), ErrorNumber::InvalidParameter);
     QCOMPARE(write(kNoObject, { Count(1), Count(2) }), ErrorNumber::AlreadyExists);
     QCOMPARE(write(kNoObject, { { kCount, 0, u"text"_s } }), ErrorNumber::InvalidParameter);
+    QCOMPARE(write(kNoObject, { { MakePropertyId(1, 99), 0, 1 } }), ErrorNumber::InvalidParameter);
     QCOMPARE(write(static_cast<ObjectId>(9999), { Count(1) }), ErrorNumber::NotFound);
+    QCOMPARE(
+        rows.volume->OpenDatabase(u"rows"_s, { kCount }).Error(), ErrorNumber::InvalidParameter);
+    QCOMPARE(rows.volume->EndTransaction(true).Error(), ErrorNumber::InvalidHandle);
     QCOMPARE(rows.volume->DeleteDatabase(rows.oid).Error(), ErrorNumber::SharingViolation);
     QCOMPARE(
         rows.volume->DeleteDatabase(static_cast<ObjectId>(9999)).Error(), ErrorNumber::NotFound);

@@ -1,6 +1,7 @@
 #include "tests/volume_fixture.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QtEndian>
@@ -102,8 +103,10 @@ private Q_SLOTS:
     void refusedFilesAreLeftAsTheyWere_data();
     void refusedFilesAreLeftAsTheyWere();
     void missingFilesAndFoldersAreTold();
+    void aFolderThatTakesNoFileIsTold();
     void aNewFileIsWholeFromTheStart();
     void onlyOneProgramWritesButOthersMayRead();
+    void aReaderSeesWhatAWriterMakes();
     void noFlippedBitGoesUnnoticed();
     void aFileCutShortIsRefused();
     void whatAnotherProgramWroteIsNoticed();
@@ -160,6 +163,7 @@ void VolumeFileTest::missingFilesAndFoldersAreTold()
     QCOMPARE(mount(u"none/a.idb"_s, Disposition::OpenExisting), 3U);
     QCOMPARE(mount(u"none/a.idb"_s, Disposition::OpenAlways), 3U);
     QCOMPARE(mount(u"."_s, Disposition::OpenAlways), 5U);
+    QCOMPARE(mount(u"a.idb/"_s, Disposition::OpenAlways), 123U);
     QCOMPARE(mount(QString(300, u'n'), Disposition::OpenAlways), 206U);
     QVERIFY(QFile::link(u"/nowhere/at/all"_s, fixture.Path(u"link.idb"_s)));
     QCOMPARE(mount(u"link.idb"_s, Disposition::OpenAlways), 3U);
@@ -171,6 +175,27 @@ void VolumeFileTest::missingFilesAndFoldersAreTold()
         0);
     QCOMPARE(mount(u"two.idb"_s, Disposition::OpenExisting), 5U);
     QVERIFY(!QFile::exists(fixture.Path(u"a.idb"_s)));
+}
+
+void VolumeFileTest::aFolderThatTakesNoFileIsTold()
+{
+    const VolumeFixture fixture;
+    const QByteArray folder = QFile::encodeName(fixture.Folder());
+    QCOMPARE(chmod(folder.constData(), 0555), 0);
+    const pid_t process = fork();
+    if (process == 0) {
+        // Nothing is forbidden to root.
+        constexpr uid_t kNobody = 65534;
+        if (geteuid() == 0 && setresuid(kNobody, kNobody, kNobody) != 0)
+            _exit(127);
+        const auto made
+            = Volume::Mount(fixture.Path(), Disposition::OpenAlways, VolumeAccess::Exclusive);
+        _exit(static_cast<int>(made.Error()));
+    }
+    int status = 0;
+    waitpid(process, &status, 0);
+    QCOMPARE(chmod(folder.constData(), 0755), 0);
+    QCOMPARE(WEXITSTATUS(status), 5);
 }
 
 void VolumeFileTest::aNewFileIsWholeFromTheStart()
@@ -214,6 +239,21 @@ void VolumeFileTest::onlyOneProgramWritesButOthersMayRead()
         = Take(Volume::Mount(fixture.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly));
     QCOMPARE(
         reader->CreateDatabase(u"x"_s, kType, kSpecs, kByName).Error(), ErrorNumber::AccessDenied);
+}
+
+void VolumeFileTest::aReaderSeesWhatAWriterMakes()
+{
+    VolumeFixture fixture;
+    fixture.Mount();
+    fixture.volume.reset();
+    const auto reader
+        = Take(Volume::Mount(fixture.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly));
+    QCOMPARE(reader->OpenDatabase(u"rows"_s, kByName.front()).Error(), ErrorNumber::FileNotFound);
+    QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(),
+                 { u"--mount"_s, u"make"_s, fixture.Path() }),
+        0);
+    QCOMPARE(Take(reader->Databases()).size(), size_t { 1 });
+    QVERIFY(reader->OpenDatabase(u"rows"_s, kByName.front()).IsOk());
 }
 
 void VolumeFileTest::noFlippedBitGoesUnnoticed()
@@ -326,6 +366,8 @@ int main(int argc, char** argv)
             = QByteArrayView(argv[2]) == "read" ? VolumeAccess::ReadOnly : VolumeAccess::Exclusive;
         const auto volume
             = Volume::Mount(QFile::decodeName(argv[3]), Disposition::OpenExisting, access);
+        if (volume && QByteArrayView(argv[2]) == "make")
+            Take((*volume)->CreateDatabase(u"rows"_s, kType, kSpecs, kByName));
         return static_cast<int>(volume.Error());
     }
     QCoreApplication application(argc, argv);

@@ -80,9 +80,9 @@ QString FormatText(const PropertyValue* value, PropertyId column, const ValueCon
         break;
     case ColumnType::Date:
         if (const auto* const time = Held<FileTime>(value)) {
-            if (const auto date = FileTimeToDate(*time)) {
-                text = DateText(*date, context.systemLocale);
-            }
+            std::u16string date;
+            AppendDate(date, *time, context);
+            text = QStringView(date).toString();
         }
         break;
     case ColumnType::String:
