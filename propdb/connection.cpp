@@ -16,12 +16,12 @@ namespace {
 
 /// Another program that reads the file makes a write wait so long before it is refused.
 constexpr int kBusyTimeoutMs = 5000;
-/// No value, and no record, may be larger.
-constexpr int kMaxRecordBytes = 60 << 20;
+/// No value, and no record, may be larger: ten times what an import or the window can make.
+constexpr int kMaxRecordBytes = 20 << 20;
 /// More than a hostile file may make SQLite ask for; far more than an honest one needs. Changing
 /// the key of a record of that size among its likes takes seven times the size, and some pages;
 /// showing them in order four times, and a hundred megabytes of pages.
-constexpr sqlite3_int64 kHeapLimitBytes = 448 << 20;
+constexpr sqlite3_int64 kHeapLimitBytes = 192 << 20;
 
 struct Limit
 {

@@ -57,7 +57,7 @@ public:
     /// A property new to the database is taken in with it. NotFound if there is no such record,
     /// InvalidParameter for no values, an unknown type or a value that is not of its type,
     /// AlreadyExists for a property listed twice, BadLength if the record would be larger than
-    /// 60 MB. Strings are kept up to their first NUL.
+    /// 20 MB. Strings are kept up to their first NUL.
     [[nodiscard]] Result<ObjectId> Write(ObjectId oid, std::span<const PropertyValue> values);
     /// NotFound if there is no such record.
     [[nodiscard]] Result<void> DeleteRecord(ObjectId oid);

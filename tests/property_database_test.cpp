@@ -170,7 +170,7 @@ void PropertyDatabaseTest::textMayBeginWithAByteOrderMark()
 void PropertyDatabaseTest::aTextIsTooLongOnceAndForAll()
 {
     // What is taken in can be shown in order, changed and deleted again, in spite of its index.
-    constexpr qsizetype kMostUnits = (30 << 20) - 2048;
+    constexpr qsizetype kMostUnits = (10 << 20) - 2048;
     Rows rows;
     const QString most(kMostUnits, u'n');
     // In a transaction that nobody commits, which spares the medium much of it.
