@@ -85,8 +85,7 @@ private:
 
 void RowEditorTest::init()
 {
-    m_file = std::make_unique<ListFixture>();
-    m_file->MakeFullList(u"Pantry"_s);
+    m_file = std::make_unique<ListFixture>(u"Pantry"_s);
     m_file->Add(
         { u"rice"_s, u"2"_s, u"top"_s, u"Checked"_s, u"1234.5"_s, u"7"_s, u"3/1/2026"_s, u""_s });
     m_result.reset();
