@@ -1,4 +1,5 @@
 #include "app/command_line.h"
+#include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "tests/page_damage.h"
 
@@ -353,13 +354,10 @@ void CommandLineTest::aDryRunStoresNothing()
 {
     Shell shell;
     shell.MakePantry();
-    QFile file(shell.Path());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray before = file.readAll();
+    const QByteArray before = FileBytes(shell.Path());
     QCOMPARE(shell.Output({ u"import"_s, u"Pantry"_s, u"-"_s, u"--dry-run"_s }, "a\r\n\t\r\nb\r\n"),
         "2\n"_ba);
-    QVERIFY(file.seek(0));
-    QCOMPARE(file.readAll(), before);
+    QCOMPARE(FileBytes(shell.Path()), before);
 }
 
 void CommandLineTest::writersAreRefusedWhileTheWindowHasTheFile()
@@ -441,9 +439,7 @@ void CommandLineTest::aBackupIsTheSameData()
     QCOMPARE(shell.Output(show + QStringList { u"--data"_s, copy }), shell.Output(show));
     const QString text = shell.Path(u"out.txt"_s);
     QCOMPARE(shell.Output({ u"export"_s, u"Pantry"_s, text }), ""_ba);
-    QFile file(text);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), shell.Output({ u"export"_s, u"Pantry"_s, u"-"_s }));
+    QCOMPARE(FileBytes(text), shell.Output({ u"export"_s, u"Pantry"_s, u"-"_s }));
 }
 
 void CommandLineTest::whatARunChangedIsKeptAndRestored()
@@ -483,16 +479,13 @@ void CommandLineTest::whatIsLeftOfADamagedFileIsSaved()
     Shell shell;
     shell.MakePantry();
     DamagePage(shell.Path(), kTableLeaf, u"Tea"_s);
-    QFile file(shell.Path());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = FileBytes(shell.Path());
     const QString saved = shell.Path(u"saved.idb"_s);
     const Call call = shell.Run({ u"restore"_s, saved, u"--salvage"_s });
     QVERIFY(call.code == ExitCode::Done);
     QCOMPARE(call.output, "Pantry\t0\t3 lost\n"_ba);
     QCOMPARE(shell.Output({ u"lists"_s, u"--data"_s, saved }), "Pantry\t0\n"_ba);
-    QVERIFY(file.seek(0));
-    QCOMPARE(file.readAll(), bytes);
+    QCOMPARE(FileBytes(shell.Path()), bytes);
 }
 
 void CommandLineTest::damagedRowsAreNoRows_data()

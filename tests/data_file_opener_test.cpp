@@ -1,5 +1,6 @@
 #include "app/data_file_opener.h"
-#include "tests/volume_fixture.h"
+#include "tests/file_bytes.h"
+#include "tests/list_fixture.h"
 
 #include <QQueue>
 #include <QTest>
@@ -16,12 +17,6 @@ class Start
 {
 public:
     QString Path(const QString& name = u"data.idb"_s) const { return m_folder.filePath(name); }
-    void WriteFile(const QString& name, const QByteArray& content) const
-    {
-        QFile file(Path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
     void Run()
     {
         DataFileOpener opener(
@@ -111,23 +106,11 @@ void DataFileOpenerTest::anExistingFileChosenAtTheFirstStartIsOpenedAsItIs()
 {
     Start start;
     start.chosen = start.Path();
-    {
-        DataVolume volume;
-        QCOMPARE(volume.Mount(start.Path(), Disposition::OpenAlways), ErrorNumber::None);
-        ListCatalogue catalogue(volume);
-        QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
-        InventoryList list = NewInventoryList();
-        list.Name = u"Pantry"_s;
-        QVERIFY(catalogue.CreateList(list).isCommitted);
-    }
+    MakeLists(start.Path(), { u"Pantry"_s });
     start.Run();
     QCOMPARE(start.outcome, Outcome::Opened);
     start.End();
-    DataVolume volume;
-    QCOMPARE(volume.Mount(start.Path(), Disposition::OpenExisting), ErrorNumber::None);
-    ListCatalogue catalogue(volume);
-    QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
-    QVERIFY(catalogue.FindList(u"Pantry"_s) != kNoObject);
+    QCOMPARE(ListsIn(start.Path()), u"Pantry 0"_s);
 }
 
 void DataFileOpenerTest::choosingNothingEndsTheProgram()
@@ -142,7 +125,7 @@ void DataFileOpenerTest::aFileThatIsNoDataFileIsRefusedAndForgotten()
 {
     Start start;
     const QByteArray content(5000, 'x');
-    start.WriteFile(u"letter.txt"_s, content);
+    WriteFileBytes(start.Path(u"letter.txt"_s), content);
     start.chosen = start.Path(u"letter.txt"_s);
     start.Run();
     QCOMPARE(start.shown.last(), kFailure);
@@ -153,9 +136,7 @@ void DataFileOpenerTest::aFileThatIsNoDataFileIsRefusedAndForgotten()
     start.settings.DbPath = start.chosen;
     start.Run();
     QCOMPARE(start.settings.DbPath, start.chosen);
-    QFile file(start.chosen);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), content);
+    QCOMPARE(FileBytes(start.chosen), content);
 }
 
 void DataFileOpenerTest::aPathTooLongToBeRememberedIsRefused()

@@ -31,7 +31,6 @@ private Q_SLOTS:
     void creatingWithoutPropertiesAnswers87AndCreatesNothing();
     void openingATypeThatIsOpenOpensNothingElse();
     void notificationRequestsAreAccepted();
-    void aWalkReadsEveryRecord();
     void theDestructorRollsBackWhatWasNotCommitted();
 
 private:
@@ -174,22 +173,6 @@ void DataVolumeTest::notificationRequestsAreAccepted()
     QVERIFY(m_volume->Open(u"x"_s, kType, kByName.front(), 0, &request));
     QCOMPARE(m_volume->PropertyCount(kType), 1);
     QCOMPARE(m_volume->PropertySpecs(kType, 5).size(), size_t { 1 });
-}
-
-void DataVolumeTest::aWalkReadsEveryRecord()
-{
-    Remount();
-    m_volume->Create(u"x"_s, kType, kSpecs, kByName);
-    QVERIFY(m_volume->Open(u"x"_s, kType, kByName.front()));
-    QCOMPARE(m_volume->SeekFirst(kType), kNoObject);
-    for (const QString& name : { u"b"_s, u"a"_s })
-        m_volume->Write(kType, kNoObject, std::vector { PropertyValue { kName, 0, name } });
-    QString names;
-    for (ObjectId oid = m_volume->SeekFirst(kType); oid != kNoObject;
-         oid = m_volume->SeekNext(kType))
-        names += std::get<QString>(m_volume->ReadAll(kType).values.front().value);
-    QCOMPARE(names, u"ab"_s);
-    QCOMPARE(m_volume->RecordCount(kType), 2);
 }
 
 void DataVolumeTest::theDestructorRollsBackWhatWasNotCommitted()

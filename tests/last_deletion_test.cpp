@@ -1,7 +1,7 @@
 #include "store/last_deletion.h"
+#include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Quillory;
@@ -133,13 +133,10 @@ void LastDeletionTest::whatIsForgottenIsGoneFromTheFile()
 {
     QFETCH(const int, deletion);
     const auto fileHolds = [this](QStringView text) {
-        QFile file(m_lists->Path());
-        if (!file.open(QIODevice::ReadOnly))
-            return false;
         QByteArray bytes;
         for (const QChar unit : text)
             bytes += QByteArray::fromRawData("\0", 1) + unit.toLatin1();
-        return file.readAll().contains(bytes);
+        return FileBytes(m_lists->Path()).contains(bytes);
     };
     if (deletion == 0)
         QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));

@@ -1,7 +1,7 @@
+#include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "values/column_type.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Quillory;
@@ -31,8 +31,6 @@ class ListCatalogueTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aFreshFileHasAnEmptyCatalogue();
-    void listsStandInTheOrderOfTheirUnits();
     void aListComesBackAsItWasMade();
     void aColumnOrderThatWasNeverWrittenReadsEmpty();
     void optionsAndNameAreWrittenApart();
@@ -42,25 +40,6 @@ private Q_SLOTS:
     void aListWithoutItsRowsCannotBeDeletedOrOpened();
     void emptyingAListKeepsItsColumns();
 };
-
-void ListCatalogueTest::aFreshFileHasAnEmptyCatalogue()
-{
-    ListFixture file;
-    QVERIFY(file.catalogue->FillHomeList().empty());
-    QVERIFY(file.data->Exists(ListCatalogue::kCatalogueType));
-    QVERIFY(!file.data->Exists(ListCatalogue::kRowsType));
-}
-
-void ListCatalogueTest::listsStandInTheOrderOfTheirUnits()
-{
-    ListFixture file;
-    for (const QString& name : { u"cherry"_s, u"apple"_s, u"Banana"_s, u"\u00c4pfel"_s }) {
-        InventoryList list = Named(name);
-        QVERIFY(file.catalogue->CreateList(list).isCommitted);
-    }
-    file.Restart();
-    QCOMPARE(HomeList(*file.catalogue), u"Banana apple cherry \u00c4pfel"_s);
-}
 
 void ListCatalogueTest::aListComesBackAsItWasMade()
 {
@@ -170,16 +149,12 @@ void ListCatalogueTest::listsThatCannotBeReadAreToldOf()
     QCOMPARE(file.catalogue->HomeListError(), ErrorNumber::None);
     file.catalogue.reset();
     file.data.reset();
-    QFile onDisk(file.Path());
-    QVERIFY(onDisk.open(QIODevice::ReadWrite));
-    const QByteArray whole = onDisk.readAll();
+    const QByteArray whole = FileBytes(file.Path());
     int told = 0;
     for (qsizetype place = kPage + 100; place < whole.size(); place += kPage) {
         QByteArray damaged = whole;
         damaged[place] = static_cast<char>(damaged[place] ^ 1);
-        onDisk.seek(0);
-        onDisk.write(damaged);
-        onDisk.flush();
+        WriteFileBytes(file.Path(), damaged);
         DataVolume data;
         ListCatalogue catalogue(data);
         if (data.Mount(file.Path(), Disposition::OpenExisting) != ErrorNumber::None
@@ -213,12 +188,8 @@ void ListCatalogueTest::emptyingAListKeepsItsColumns()
     file.Add({ u"row"_s, u"1"_s });
     QCOMPARE(file.catalogue->DeleteAllRows(oid), ListCatalogue::EmptyOutcome::Done);
     file.Restart();
-    file.OpenList(oid);
     QVERIFY(file.rows->FillRows().empty());
-    QCOMPARE(file.list.columns.size(), columns.size());
-    for (size_t i = 0; i < columns.size(); ++i)
-        QVERIFY(file.list.columns[i].id == columns[i].id
-            && file.list.columns[i].name == columns[i].name);
+    QCOMPARE(file.list.columns, columns);
 }
 
 QTEST_GUILESS_MAIN(ListCatalogueTest)

@@ -19,6 +19,42 @@ inline ValueContext TestContext(const QString& locale = QStringLiteral("en_US"))
         QStringLiteral("Unchecked") };
 }
 
+/// Makes a data file if there is none, and lists of the built-in columns in it.
+inline void MakeLists(const QString& path, const QStringList& names)
+{
+    DataVolume volume;
+    ListCatalogue catalogue(volume);
+    if (volume.Mount(path, Disposition::OpenAlways) != ErrorNumber::None
+        || catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
+        qFatal("the data file cannot be opened");
+    for (const QString& name : names) {
+        InventoryList list = NewInventoryList();
+        list.Name = name;
+        if (!catalogue.CreateList(list).isCommitted)
+            qFatal("the list cannot be made");
+    }
+}
+
+/// The lists of a data file that no program has open, each with its number of rows, such as
+/// "Pantry 3, Tools 0"; "unreadable" if it cannot be opened.
+inline QString ListsIn(const QString& path)
+{
+    DataVolume volume;
+    ListCatalogue catalogue(volume);
+    if (volume.Mount(path, Disposition::OpenExisting, VolumeAccess::ReadOnly) != ErrorNumber::None
+        || catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
+        return QStringLiteral("unreadable");
+    QStringList lists;
+    for (const auto& entry : catalogue.FillHomeList()) {
+        InventoryList list;
+        const bool isOpen = catalogue.OpenList(entry.oid, list);
+        lists << entry.name + u' '
+                + (isOpen ? QString::number(volume.RecordCount(ListCatalogue::kRowsType))
+                          : QStringLiteral("unreadable"));
+    }
+    return lists.join(QStringLiteral(", "));
+}
+
 /// The columns of the list that ListFixture makes.
 enum FullListColumn
 {
@@ -37,16 +73,26 @@ class ListFixture
 {
 public:
     ListFixture() { Start(); }
+    /// Makes and opens a list of this name as MakeFullList does.
+    explicit ListFixture(const QString& fullList)
+        : ListFixture()
+    {
+        MakeFullList(fullList);
+    }
 
     QString Path() const { return QDir(m_folder.path()).filePath(QStringLiteral("data.idb")); }
 
-    /// Ends and starts the program, as far as data goes.
+    /// Ends and starts the program, as far as data goes, and opens the list again that was open if
+    /// it is still there.
     void Restart()
     {
+        const ObjectId open = rows == nullptr ? kNoObject : m_open;
         rows.reset();
         catalogue.reset();
         data.reset();
         Start();
+        if (open != kNoObject && catalogue->OpenList(open, list))
+            rows = std::make_unique<RowStore>(*data, list, context);
     }
     /// Makes a list of the built-in columns and one column of each type, and opens it.
     ObjectId MakeFullList(const QString& name)
@@ -70,6 +116,7 @@ public:
     {
         if (!catalogue->OpenList(oid, list))
             qFatal("the list cannot be opened");
+        m_open = oid;
         rows = std::make_unique<RowStore>(*data, list, context);
     }
     ObjectId Add(const QStringList& texts) const
@@ -94,6 +141,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    ObjectId m_open = kNoObject;
 
     void Start()
     {

@@ -2,12 +2,12 @@
 
 #include "app/home_list.h"
 #include "app/main_frame.h"
+#include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
@@ -25,19 +25,18 @@ class FrameErrand
     QTemporaryDir m_folder;
 
 public:
+    FrameErrand() = default;
+    /// Started on a data file with these lists.
+    explicit FrameErrand(const QStringList& lists)
+    {
+        MakeLists(lists);
+        Start();
+    }
     QString DataPath() const { return m_folder.filePath(u"Quillory.idb"_s); }
     QString CopiesFolder() const { return m_folder.filePath(u"copies"_s); }
     void MakeLists(const QStringList& names)
     {
-        DataVolume volume;
-        QCOMPARE(volume.Mount(DataPath(), Disposition::OpenAlways), ErrorNumber::None);
-        ListCatalogue catalogue(volume);
-        QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
-        for (const QString& name : names) {
-            InventoryList list = NewInventoryList();
-            list.Name = name;
-            QVERIFY(catalogue.CreateList(list).isCommitted);
-        }
+        Quillory::MakeLists(DataPath(), names);
         WriteSettings(Conf(), { DataPath(), {}, kLandscapeRightHanded, {}, {}, {} });
     }
     void Start(const QString& listName = {})
@@ -92,11 +91,9 @@ public:
     /// Chooses a file of this content for import, up to the order of its columns.
     void Import(const QByteArray& content)
     {
-        QFile file(m_folder.filePath(u"in.txt"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        ChooseFileFor(Command::Import, file.fileName());
+        const QString path = m_folder.filePath(QStringLiteral("in.txt"));
+        WriteFileBytes(path, content);
+        ChooseFileFor(Command::Import, path);
     }
     void ChooseFileFor(Command command, const QString& path) const
     {

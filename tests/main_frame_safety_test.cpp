@@ -42,30 +42,14 @@ void Replace(const FrameErrand& errand, const QString& by)
 QString NewestCopy(const FrameErrand& errand)
 {
     const auto copies = ListKeptCopies(errand.DataPath(), errand.CopiesFolder());
-    DataVolume volume;
-    ListCatalogue catalogue(volume);
-    if (copies.empty()
-        || volume.Mount(copies.front().path, Disposition::OpenExisting, VolumeAccess::ReadOnly)
-            != ErrorNumber::None
-        || catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
-        return u"no copy"_s;
-    QStringList lists;
-    for (const auto& entry : catalogue.FillHomeList()) {
-        InventoryList list;
-        if (catalogue.OpenList(entry.oid, list))
-            lists << list.Name + u' '
-                    + QString::number(volume.RecordCount(ListCatalogue::kRowsType));
-    }
-    return lists.join(u", "_s);
+    return copies.empty() ? u"no copy"_s : ListsIn(copies.front().path);
 }
 
 } // namespace
 
 void MainFrameSafetyTest::closingAsksBeforeInputIsLost()
 {
-    FrameErrand errand;
-    errand.MakeLists({});
-    errand.Start();
+    FrameErrand errand(QStringList {});
     errand.Choose(Command::New);
     QTest::keyClicks(errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s), u"Pantry"_s);
     QVERIFY(!errand.frame->close());
@@ -78,9 +62,7 @@ void MainFrameSafetyTest::closingAsksBeforeInputIsLost()
 
 void MainFrameSafetyTest::aDeletedListComesBack()
 {
-    FrameErrand errand;
-    errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
-    errand.Start();
+    FrameErrand errand({ u"Attic"_s, u"Pantry"_s });
     errand.Choose(Command::Delete);
     errand.Answer(QMessageBox::Yes);
     auto* bar = errand.home->findChild<QWidget*>(u"undoBar"_s);
@@ -99,9 +81,7 @@ void MainFrameSafetyTest::aDeletedListComesBack()
 
 void MainFrameSafetyTest::aDeletedRowComesBack()
 {
-    FrameErrand errand;
-    errand.MakeLists({ u"Pantry"_s });
-    errand.Start();
+    FrameErrand errand({ u"Pantry"_s });
     errand.Import("Tea\t3\r\nSalt\t5\r\n");
     errand.pages->Top()->End(PageResult::Ok);
     Page* rows = errand.pages->Top();
@@ -125,9 +105,7 @@ void MainFrameSafetyTest::aDeletedRowComesBack()
 
 void MainFrameSafetyTest::aFailedWriteIsToldOnceAndWorkGoesOn()
 {
-    FrameErrand errand;
-    errand.MakeLists({ u"Attic"_s });
-    errand.Start();
+    FrameErrand errand({ u"Attic"_s });
     const QString away = errand.DataPath() + u".away"_s;
     // As when the card is pulled out, and put back.
     QVERIFY(QFile::rename(errand.DataPath(), away));
@@ -149,9 +127,7 @@ void MainFrameSafetyTest::aFailedWriteIsToldOnceAndWorkGoesOn()
 
 void MainFrameSafetyTest::whatCouldNotBeStoredIsTypedOnlyOnce()
 {
-    FrameErrand errand;
-    errand.MakeLists({ u"Pantry"_s });
-    errand.Start();
+    FrameErrand errand({ u"Pantry"_s });
     errand.Tap(0);
     Page* rows = errand.pages->Top();
     rows->Trigger(Command::New);
@@ -226,9 +202,7 @@ void MainFrameSafetyTest::aFileReplacedBeforeTheEndIsTold()
 
 void MainFrameSafetyTest::aFileRemovedBeforeTheEndIsTold()
 {
-    FrameErrand errand;
-    errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
-    errand.Start();
+    FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
     errand.Choose(Command::Delete);
     errand.Answer(QMessageBox::Yes);
     QVERIFY(QFile::remove(errand.DataPath()));
@@ -241,9 +215,7 @@ void MainFrameSafetyTest::aFileRemovedBeforeTheEndIsTold()
 
 void MainFrameSafetyTest::aFolderRemovedBeforeTheEndIsTold()
 {
-    FrameErrand errand;
-    errand.MakeLists({ u"Attic"_s });
-    errand.Start();
+    FrameErrand errand({ u"Attic"_s });
     errand.Choose(Command::Delete);
     errand.Answer(QMessageBox::Yes);
     // With the card it lies on.
@@ -256,18 +228,12 @@ void MainFrameSafetyTest::aFolderRemovedBeforeTheEndIsTold()
 
 void MainFrameSafetyTest::aDamagedFileIsReplacedByItsCopy()
 {
-    FrameErrand errand;
-    errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
-    errand.Start();
+    FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
     errand.Choose(Command::Delete);
     errand.Answer(QMessageBox::Yes);
     QVERIFY(errand.frame->close());
     errand.frame.reset();
-    QFile damaged(errand.DataPath());
-    QVERIFY(damaged.open(QIODevice::ReadWrite));
-    damaged.seek(40);
-    damaged.write("xxxxxxxx");
-    damaged.close();
+    WriteFileBytes(errand.DataPath(), FileBytes(errand.DataPath()).replace(40, 8, "xxxxxxxx"));
 
     errand.chosenPath = errand.DataPath() + u".new.idb"_s;
     errand.Start();

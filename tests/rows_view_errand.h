@@ -18,8 +18,6 @@ namespace Quillory {
 class RowsErrand
 {
 public:
-    RowsErrand() { file.MakeFullList(QStringLiteral("Pantry")); }
-
     void Open(const RowsViewOptions& options = {})
     {
         page = nullptr;
@@ -102,7 +100,7 @@ public:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    ListFixture file;
+    ListFixture file { QStringLiteral("Pantry") };
     std::unique_ptr<PageStack> stack;
     RowsView* page = nullptr;
 };

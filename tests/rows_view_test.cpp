@@ -70,7 +70,7 @@ void RowsViewTest::aNewRowIsEnteredByKeyboard()
     m_errand->TypeInEditor(u"barley"_s, Qt::Key_Return);
     m_errand->TypeInEditor(u"7"_s, Qt::Key_Return);
     for (int field = Shelf; field < Expiry; ++field)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
     m_errand->TypeInEditor(u"1/5/2027"_s, Qt::Key_Return);
     QCOMPARE(Stack().Top(), Page());
     // At the end, until the list is opened again.

@@ -1,9 +1,9 @@
 #include "propdb/confined_vfs.h"
 #include "store/salvage.h"
+#include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "tests/page_damage.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Quillory;
@@ -14,12 +14,6 @@ namespace {
 constexpr int kRows = 400;
 /// The first byte of a page.
 constexpr char kTableInner = 0x05;
-
-QByteArray Contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
 
 QString NameOfRow(int row)
 {
@@ -39,7 +33,7 @@ public:
         file.data->Unmount();
         if (!QFile::copy(file.Path(), Path()))
             qFatal("the data file cannot be copied");
-        bytes = Contents(Path());
+        bytes = FileBytes(Path());
     }
 
     QString Path() const { return m_folder.filePath(u"damaged.idb"_s); }
@@ -70,12 +64,7 @@ public:
         byte = static_cast<char>(byte ^ 4);
         Write();
     }
-    void Write() const
-    {
-        QFile file(Path());
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("the file cannot be damaged");
-    }
+    void Write() const { WriteFileBytes(Path(), bytes); }
 
     QByteArray bytes;
 
@@ -181,7 +170,7 @@ void SalvageTest::whatCanBeReadIsSaved()
     QVERIFY(report);
     QCOMPARE(report->mayListsBeLost, areListsLost);
     QCOMPARE(Saved(file.Target()), saved);
-    QCOMPARE(Contents(file.Path()), file.bytes);
+    QCOMPARE(FileBytes(file.Path()), file.bytes);
     const auto examined = ExamineLists(file.Path());
     QVERIFY(examined);
     QCOMPARE(examined->lists.size(), size_t { 2 });
@@ -212,7 +201,7 @@ void SalvageTest::aCutFileLosesItsEnd()
             QCOMPARE(pantry.rows + pantry.lostRows, kRows + 1);
         QVERIFY2(Saved(file.Target()).startsWith(u"Pantry %1"_s.arg(pantry.rows)),
             qPrintable(Saved(file.Target())));
-        QCOMPARE(Contents(file.Path()), file.bytes);
+        QCOMPARE(FileBytes(file.Path()), file.bytes);
     }
 }
 
@@ -279,33 +268,35 @@ void SalvageTest::whereNothingIsLeftNothingIsMade()
     QCOMPARE(int(SalvageLists(file.Path(), file.Target()).Error()), error);
     QVERIFY(!QFile::exists(file.Target()));
     QCOMPARE(QDir(QFileInfo(file.Path()).path()).entryList(QDir::Files).size(), 1);
-    QCOMPARE(Contents(file.Path()), bytes);
+    QCOMPARE(FileBytes(file.Path()), bytes);
 }
 
 void SalvageTest::anyBitMayFlip()
 {
     Damage file;
     const QByteArray sound = file.bytes;
+    qsizetype lost = 0;
     for (qsizetype page = 1; page < sound.size() / kPageSize; ++page) {
         file.bytes = sound;
         file.FlipBit(page);
         const auto report = SalvageLists(file.Path(), file.Target());
-        if (!report)
+        if (!report) {
+            ++lost;
             continue;
-        QVERIFY2(!Saved(file.Target()).contains(u"wrong"_s), qPrintable(QString::number(page)));
+        }
+        QVERIFY2(Saved(file.Target()).startsWith(u"Pantry"_s), qPrintable(QString::number(page)));
         QVERIFY(QFile::remove(file.Target()));
     }
+    // Without the pages that know every list's rows and columns there is nothing to save.
+    QVERIFY2(lost <= 2, qPrintable(QString::number(lost)));
 }
 
 void SalvageTest::anExistingFileIsNotReplaced()
 {
     Damage file;
-    QFile target(file.Target());
-    QVERIFY(target.open(QIODevice::WriteOnly));
-    target.write("mine");
-    target.close();
+    WriteFileBytes(file.Target(), "mine");
     QCOMPARE(SalvageLists(file.Path(), file.Target()).Error(), ErrorNumber::FileExists);
-    QCOMPARE(Contents(file.Target()), "mine"_ba);
+    QCOMPARE(FileBytes(file.Target()), "mine"_ba);
 }
 
 QTEST_GUILESS_MAIN(SalvageTest)

@@ -1,10 +1,8 @@
 #include "app/settings.h"
+#include "tests/file_bytes.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <stdexcept>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -20,8 +18,6 @@ private Q_SLOTS:
     void damagedAndForeignValuesReadAsDefaults_data();
     void damagedAndForeignValuesReadAsDefaults();
     void withoutAFileTheOptionsInMemoryStay();
-    void anUnwritablePlaceIsLeftAlone();
-    void anOptionBeyondTheLastBitThrows();
 
 private:
     QTemporaryDir m_folder;
@@ -45,9 +41,7 @@ void SettingsTest::whatIsWrittenIsReadAgain()
     QCOMPARE(read.Options, written.Options);
     QCOMPARE(read.ListOrientation, written.ListOrientation);
     QCOMPARE(read.windowGeometry, written.windowGeometry);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(file.readAll().contains("Version=100\n"));
+    QVERIFY(FileBytes(path).contains("Version=100\n"));
 }
 
 void SettingsTest::damagedAndForeignValuesReadAsDefaults_data()
@@ -78,11 +72,7 @@ void SettingsTest::damagedAndForeignValuesReadAsDefaults()
 {
     QFETCH(QByteArray, content);
     const QString path = Path(u"damaged.conf"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
-
+    WriteFileBytes(path, content);
     Settings settings;
     settings.Options.set(kLandscapeOption);
     ReadSettings(path, settings);
@@ -99,21 +89,6 @@ void SettingsTest::withoutAFileTheOptionsInMemoryStay()
     ReadSettings(Path(u"none.conf"_s), settings);
     QVERIFY(settings.Options.test(kAlternateColourOption));
     QCOMPARE(settings.DbPath, QString());
-}
-
-void SettingsTest::anUnwritablePlaceIsLeftAlone()
-{
-    WriteSettings(m_folder.path(), {});
-    WriteSettings(u"/dev/null/quillory.conf"_s, {});
-    Settings settings;
-    ReadSettings(m_folder.path(), settings);
-    QCOMPARE(settings.DbPath, QString());
-}
-
-void SettingsTest::anOptionBeyondTheLastBitThrows()
-{
-    const AppOptions options;
-    QVERIFY_THROWS_EXCEPTION(std::out_of_range, static_cast<void>(options.test(32)));
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "transfer/list_file.h"
 #include "transfer/text_export.h"
@@ -87,8 +88,7 @@ private Q_SLOTS:
 
 void TextExportTest::anEmptyListIsAByteOrderMark()
 {
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     QBuffer target;
     target.open(QIODevice::WriteOnly);
     QCOMPARE(Export(file, target).rows, 0);
@@ -97,8 +97,7 @@ void TextExportTest::anEmptyListIsAByteOrderMark()
 
 void TextExportTest::everyTypeHasItsText()
 {
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     file.Add({ u"Tea"_s, u"-3"_s, u"A"_s, u"Unchecked"_s, u"1234.5"_s, u"7"_s, u"6/1/2026"_s,
         u"1/31/2027"_s });
     file.Add({ u"Wax"_s, u"0"_s, u""_s, u"Checked"_s, u"-0.5"_s, u"0"_s, u"6/1/2026"_s,
@@ -110,8 +109,7 @@ void TextExportTest::everyTypeHasItsText()
 
 void TextExportTest::rowsComeInTheOrderOfNames()
 {
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     file.list.columnOrder = { 0 };
     for (const QString& name : { u"b"_s, u"a"_s, u"C"_s })
         file.Add({ name });
@@ -121,8 +119,7 @@ void TextExportTest::rowsComeInTheOrderOfNames()
 
 void TextExportTest::aMissingValueRepeatsTheFieldBefore()
 {
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     AddPartial(file, { { 0, u"Tea"_s }, { 5, 7 } });
     AddPartial(file, { { 1, 4 }, { 3, true } });
     QCOMPARE(ExportedText(file),
@@ -150,8 +147,7 @@ void TextExportTest::theColumnOrderRules_data()
 void TextExportTest::theColumnOrderRules()
 {
     QFETCH(QList<quint32>, order);
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     file.list.columnOrder.assign(order.begin(), order.end());
     AddPartial(file, { { 0, u"Tea"_s }, { 1, 4 }, { 2, u"A"_s }, { 5, 9 } });
     AddPartial(file, { { 0, u"Wax"_s }, { 5, 8 } });
@@ -160,8 +156,7 @@ void TextExportTest::theColumnOrderRules()
 
 void TextExportTest::textsGoOutAsTheyStand()
 {
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     file.list.columnOrder = { 2, 0 };
     const QString shelf = u"a\tb\r\nc"_s + QChar(0xD800) + u"\"ü"_s;
     AddPartial(file, { { 0, u"N"_s }, { 2, shelf } });
@@ -170,8 +165,7 @@ void TextExportTest::textsGoOutAsTheyStand()
 
 void TextExportTest::aFailedWriteIsToldAndTheRestStillOffered()
 {
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     file.list.columnOrder = { 0 };
     QVERIFY(file.data->BeginTransaction());
     for (int i = 0; i < 20; ++i)
@@ -196,11 +190,9 @@ void TextExportTest::theDataFileIsNeverATarget()
     QCOMPARE(QFile(file.Path()).size(), size);
 
     const QString target = alias + u".2"_s;
-    QFile old(target);
-    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("longer than before") > 0);
-    old.close();
+    WriteFileBytes(target, "longer than before");
     QVERIFY(CreateListFile(target, file.Path()).file != nullptr);
-    QCOMPARE(old.size(), 0);
+    QCOMPARE(QFile(target).size(), 0);
     QVERIFY(!CreateListFile(u"/no/such/folder/x"_s, file.Path()).failure.isEmpty());
 }
 

@@ -211,8 +211,7 @@ void TextImportTest::aLineTooLongIsPassedOverAndTold()
 
 void TextImportTest::exportedRowsComeBack()
 {
-    ListFixture file;
-    file.MakeFullList(u"From"_s);
+    ListFixture file(u"From"_s);
     for (int i = 0; i < 50; ++i)
         file.Add({ u"Name %1"_s.arg(i * 37 % 50), QString::number(i - 25), u"shelf ü"_s,
             i % 2 == 0 ? u"Checked"_s : u"Unchecked"_s, u"%1.25"_s.arg(i), u"7"_s, u"6/1/2026"_s,
@@ -236,8 +235,7 @@ void TextImportTest::exportedRowsComeBack()
 
 void TextImportTest::rowsAreAddedInBatches()
 {
-    ListFixture file;
-    const ObjectId oid = file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     file.Add({ u"there before"_s });
     QByteArray bytes;
     for (int i = 7000; i > 0; --i)
@@ -246,7 +244,6 @@ void TextImportTest::rowsAreAddedInBatches()
     QVERIFY(outcome.result == ImportResult::Done);
     QCOMPARE(outcome.rows, 7000);
     file.Restart();
-    file.OpenList(oid);
     const auto rows = file.rows->FillRows();
     QCOMPARE(rows.size(), size_t { 7001 });
     // Rows of one name stand in the order of the file, across batches too.
@@ -261,8 +258,7 @@ void TextImportTest::rowsAreAddedInBatches()
 void TextImportTest::longNamesAreSortedAcrossBatches()
 {
     // Names and lines around the size of what is held of a batch in the temporary file.
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     QStringList names;
     QString text;
     for (int i = 0; i < 60; ++i) {
@@ -282,8 +278,7 @@ void TextImportTest::longNamesAreSortedAcrossBatches()
 
 void TextImportTest::cancellingKeepsTheRowsSoFar()
 {
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     const QByteArray bytes = QByteArray("a\t1\r\n").repeated(5000);
     ImportProgress last;
     const ImportOutcome outcome = Import(file, bytes,
@@ -313,8 +308,7 @@ void TextImportTest::anUnreadableFileKeepsTheRowsBefore()
             return count == 0 ? -1 : count;
         }
     };
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     BrokenDevice source("a\r\nb\r\n", 4);
     const ImportOutcome outcome
         = ImportRows(*file.data, std::vector { PropName }, file.context, source);
@@ -325,8 +319,7 @@ void TextImportTest::anUnreadableFileKeepsTheRowsBefore()
 
 void TextImportTest::aRowTheStoreRefusesIsPassedOver()
 {
-    ListFixture file;
-    file.MakeFullList(u"L"_s);
+    ListFixture file(u"L"_s);
     Trickle source("a\tx\r\nb\r\n", 100);
     const ImportOutcome outcome
         = ImportRows(*file.data, std::vector { PropName, PropName }, file.context, source);

@@ -1,6 +1,6 @@
 #include "app/turned_output.h"
+#include "tests/file_bytes.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -84,10 +84,7 @@ void TurnedOutputTest::anythingButAWholeNoteIsNone_data()
 void TurnedOutputTest::anythingButAWholeNoteIsNone()
 {
     QFETCH(const QByteArray, content);
-    QFile file(Path());
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(content);
-    file.close();
+    WriteFileBytes(Path(), content);
     QVERIFY(!ReadTurnedOutput(Path()));
 }
 

@@ -1,4 +1,3 @@
-#include "tests/column_order.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
 #include "values/value_text.h"
@@ -61,8 +60,6 @@ private Q_SLOTS:
     void typedTextsAndImportedFieldsBecomeValues_data();
     void typedTextsAndImportedFieldsBecomeValues();
     void textsEndAtTheFirstNul();
-    void valuesSortByType_data();
-    void valuesSortByType();
     void columnTypesAreStoredAsPropertyTypes();
 };
 
@@ -238,50 +235,6 @@ void ValueTextTest::textsEndAtTheFirstNul()
     QVERIFY(stored && stored->value == PropertyVariant(u"N"_s));
     const auto box = ParseImportText(kCheckbox, text, Context());
     QVERIFY(box && box->value == PropertyVariant(false));
-}
-
-void ValueTextTest::valuesSortByType_data()
-{
-    QTest::addColumn<PropertyId>("column");
-    QTest::addColumn<PropertyVariant>("a");
-    QTest::addColumn<PropertyVariant>("b");
-    QTest::addColumn<int>("order");
-    const auto add = [](const char* name, PropertyId column, const PropertyVariant& a,
-                         const PropertyVariant& b,
-                         int order) { QTest::newRow(name) << column << a << b << order; };
-    const PropertyVariant missing;
-    const FileTime dayZero = Day(1899, 12, 30);
-    add("capitals come first", kText, u"Zebra"_s, u"apple"_s, -1);
-    add("units count, not characters", kText, u"\uFFFD"_s, u"\U00010000"_s, 1);
-    add("a missing text is empty", kText, missing, QString(), 0);
-    add("numbers", kInteger, std::numeric_limits<qint32>::min(), qint32(1), -1);
-    add("a missing number is 0", kInteger, missing, qint32(-1), 1);
-    add("prices", kPrice, 0.1, 0.2, -1);
-    add("no number is equal to all", kPrice, std::numeric_limits<double>::quiet_NaN(), 1.0, 0);
-    add("unchecked comes first", kCheckbox, false, true, -1);
-    add("missing is unchecked", kCheckbox, missing, false, 0);
-    add("dates", kDate, Day(2024, 1, 5), Day(2023, 12, 31), 1);
-    add("a second counts", kDate, dayZero, FileTime { dayZero.ticks + 10'000'000 }, -1);
-    add("a millisecond does not", kDate, dayZero, FileTime { dayZero.ticks + 10'000 }, 0);
-    add("a missing date is day zero", kDate, missing, dayZero, 0);
-}
-
-void ValueTextTest::valuesSortByType()
-{
-    QFETCH(const PropertyId, column);
-    QFETCH(const PropertyVariant, a);
-    QFETCH(const PropertyVariant, b);
-    QFETCH(const int, order);
-    const auto property = [&](const PropertyVariant& value) -> std::optional<PropertyValue> {
-        const bool isMissing = std::holds_alternative<std::monostate>(value);
-        return isMissing ? std::nullopt : std::optional(Value(column, value));
-    };
-    const auto first = property(a);
-    const auto second = property(b);
-    const auto* const left = first ? &*first : nullptr;
-    const auto* const right = second ? &*second : nullptr;
-    QCOMPARE(CompareColumnValues(left, right, column), order);
-    QCOMPARE(CompareColumnValues(right, left, column), -order);
 }
 
 void ValueTextTest::columnTypesAreStoredAsPropertyTypes()

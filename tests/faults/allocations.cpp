@@ -8,9 +8,8 @@ using namespace Qt::StringLiterals;
 
 void ExhaustAllocations(FaultRun& run, const AllocationCounter& countIn, const Exhauster& exhaust)
 {
-    constexpr size_t kScriptLength = 40;
     std::mt19937 random(run.Seed());
-    const Script script = MakeScript(run.Seed(), kScriptLength);
+    const Script script = MakeScript(run.Seed());
     const std::vector<Files> stages = MakeStages(run, script);
     std::vector<int> counts;
     for (size_t step = 0; step < script.steps.size(); ++step) {

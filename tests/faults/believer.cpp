@@ -30,8 +30,7 @@ bool Believer::Start()
     const ErrorNumber error = m_session->Start(m_dataFile);
     if (error == ErrorNumber::None)
         return true;
-    // The reason must be one that a person can be told.
-    if (QByteArrayView(ErrorPhrase(error)) == "general failure")
+    if (HasNoReason(error))
         m_wrong = u"the start failed for no known reason"_s;
     return false;
 }
@@ -55,7 +54,7 @@ void Believer::Do(const Step& step)
         return;
     }
     ++m_failedSteps;
-    if (QByteArrayView(ErrorPhrase(m_session->LastError())) == "general failure")
+    if (HasNoReason(m_session->LastError()))
         m_wrong = u"a step failed for no known reason"_s;
     const auto importedRows = static_cast<size_t>(outcome.importedRows);
     NoteFailure(step, importedRows);
@@ -73,37 +72,23 @@ void Believer::NoteFailure(const Step& step, size_t importedRows)
     m_doubtful.push_back(model.Contents());
 }
 
-QString Believer::JudgeContents(bool isDoubtAllowed) const
+QString Believer::Judge(bool isDoubtAllowed) const
 {
     if (!m_wrong.isEmpty())
         return m_wrong;
     const Reading reading = ReadDataFile(m_dataFile);
     if (reading.error != ErrorNumber::None)
         return Told("afterwards the file cannot be used", reading.error);
-    const bool isDoubt = isDoubtAllowed
-        && std::find(m_doubtful.begin(), m_doubtful.end(), reading.contents) != m_doubtful.end();
-    if (reading.contents != m_believed.Contents() && !isDoubt) {
-        const bool isDone
-            = std::find(m_doubtful.begin(), m_doubtful.end(), reading.contents) != m_doubtful.end();
+    const bool isDone
+        = std::find(m_doubtful.begin(), m_doubtful.end(), reading.contents) != m_doubtful.end();
+    if (reading.contents != m_believed.Contents() && !(isDone && isDoubtAllowed))
         return isDone ? u"a step that was told to have failed was done"_s
                       : u"the file holds something else than was told"_s;
-    }
     Session session;
     if (const ErrorNumber error = session.Start(m_dataFile); error != ErrorNumber::None)
         return Told("the file cannot be opened again", error);
-    Step step { Action::AddList, u"Afterwards"_s, {}, 0, {}, 0 };
-    return session.Run(step).isDone ? QString()
-                                    : Told("no change can be made", session.LastError());
-}
-
-QString Believer::Judge() const
-{
-    return JudgeContents(false);
-}
-
-QString Believer::JudgeWithDoubt() const
-{
-    return JudgeContents(true);
+    return session.Run(AnotherList()).isDone ? QString()
+                                             : Told("no change can be made", session.LastError());
 }
 
 } // namespace Quillory

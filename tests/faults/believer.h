@@ -22,10 +22,9 @@ public:
     [[nodiscard]] int FailedSteps() const { return m_failedSteps; }
 
     /// Starts the program anew, with nothing going wrong any more. Empty if the file holds exactly
-    /// what was believed, passes the check and takes another change; else what is wrong.
-    [[nodiscard]] QString Judge() const;
-    /// The same, but a step that was told to have failed may have been done, once.
-    [[nodiscard]] QString JudgeWithDoubt() const;
+    /// what was believed, passes the check and takes another change; else what is wrong. Where
+    /// doubt is allowed, a step that was told to have failed may have been done, once.
+    [[nodiscard]] QString Judge(bool isDoubtAllowed = false) const;
 
 private:
     QByteArray m_dataFile;
@@ -41,7 +40,6 @@ private:
     [[nodiscard]] bool Start();
     void Do(const Step& step);
     void NoteFailure(const Step& step, size_t importedRows);
-    [[nodiscard]] QString JudgeContents(bool isDoubtAllowed) const;
 };
 
 } // namespace Quillory

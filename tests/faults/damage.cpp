@@ -116,9 +116,7 @@ QString JudgeDamaged(const FaultRun& run, const SampleFile& sample)
     Session session;
     const ErrorNumber error = session.Start(run.DataFile());
     if (error != ErrorNumber::None)
-        return QByteArrayView(ErrorPhrase(error)) == "general failure"
-            ? u"refused for no known reason"_s
-            : QString();
+        return HasNoReason(error) ? u"refused for no known reason"_s : QString();
     const ErrorNumber checked = session.Check();
     const auto lists = session.ReadLists();
     const QString original = QString::fromUtf8(sample.contents);

@@ -21,11 +21,6 @@ bool IsAboutNames(CallKind kind)
 
 } // namespace
 
-std::optional<CallFault> Recorder::BeforeCall(const SystemCall& /*call*/)
-{
-    return std::nullopt;
-}
-
 void Recorder::AfterCall(const SystemCall& call)
 {
     if (!call.IsMutating())

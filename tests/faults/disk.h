@@ -21,7 +21,6 @@ public:
         size_t acknowledged = 0;
     };
 
-    std::optional<CallFault> BeforeCall(const SystemCall& call) override;
     void AfterCall(const SystemCall& call) override;
     void Acknowledge() { ++m_acknowledged; }
 

@@ -12,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr size_t kScriptLength = 40;
 /// Steps that are tried with the space that there is.
 constexpr size_t kSteps = 10;
 constexpr qint64 kMaxSpace = 200'000;
@@ -77,7 +76,7 @@ void FillDiskThrough(FaultRun& run, const Script& script, int runs)
 
 void FillDisk(FaultRun& run)
 {
-    FillDiskThrough(run, MakeScript(run.Seed(), kScriptLength), run.Runs());
+    FillDiskThrough(run, MakeScript(run.Seed()), run.Runs());
 }
 
 } // namespace Quillory

@@ -11,7 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr size_t kScriptLength = 40;
 /// Steps that run after the one that the fault is meant for.
 constexpr size_t kStepsAfter = 4;
 
@@ -94,7 +93,7 @@ void FailAt(FaultRun& run, const Script& script, size_t step, const Files& files
     }
     run.Count();
     const Files left = run.Taken();
-    const QString wrong = failure.isForGood ? believer.JudgeWithDoubt() : believer.Judge();
+    const QString wrong = believer.Judge(failure.isForGood);
     if (!wrong.isEmpty())
         run.Blame(u"step %1, call %2 (kind %3) %4: "_s.arg(step + 1)
                       .arg(call)
@@ -118,9 +117,9 @@ void LetCallsFailThrough(FaultRun& run, const Script& script, int runs)
 
 void LetCallsFail(FaultRun& run)
 {
-    for (quint32 round = 0; run.CountSoFar() < run.Runs(); ++round)
-        LetCallsFailThrough(
-            run, MakeScript(run.Seed() + round, kScriptLength), run.Runs() - run.CountSoFar());
+    OnScripts(run, [&run](const Script& script) {
+        LetCallsFailThrough(run, script, run.Runs() - run.CountSoFar());
+    });
 }
 
 } // namespace Quillory

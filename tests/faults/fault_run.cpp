@@ -1,7 +1,8 @@
 #include "tests/faults/fault_run.h"
 
+#include "tests/file_bytes.h"
+
 #include <QDir>
-#include <QFile>
 
 #include <cstdio>
 
@@ -23,12 +24,8 @@ QString ScratchTemplate()
 
 void WriteFiles(const QString& folder, const Files& files)
 {
-    for (const auto& [name, bytes] : files) {
-        QFile file(folder + u'/' + QFile::decodeName(name));
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-            || file.write(bytes) != bytes.size())
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-    }
+    for (const auto& [name, bytes] : files)
+        WriteFileBytes(folder + u'/' + QFile::decodeName(name), bytes);
 }
 
 QString JudgeBackups(const FaultRun& run, const Script& script)
@@ -88,11 +85,8 @@ Files FaultRun::Taken() const
 {
     Files files;
     const QDir folder(m_folder.path());
-    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden)) {
-        QFile file(folder.filePath(name));
-        if (file.open(QIODevice::ReadOnly))
-            files[QFile::encodeName(name)] = file.readAll();
-    }
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden))
+        files[QFile::encodeName(name)] = FileBytes(folder.filePath(name));
     return files;
 }
 
@@ -132,6 +126,12 @@ std::vector<Files> MakeStages(const FaultRun& run, const Script& script)
     }
     run.Clear();
     return stages;
+}
+
+void OnScripts(FaultRun& run, const std::function<void(const Script& script)>& work)
+{
+    for (quint32 round = 0; run.CountSoFar() < run.Runs(); ++round)
+        work(MakeScript(run.Seed() + round));
 }
 
 void ForEachCall(FaultRun& run, const Script& script, int runs,

@@ -59,6 +59,9 @@ private:
 /// there are none. The scratch folder is empty afterwards.
 [[nodiscard]] std::vector<Files> MakeStages(const FaultRun& run, const Script& script);
 
+/// Works on one script after another until the run has made its faults.
+void OnScripts(FaultRun& run, const std::function<void(const Script& script)>& work);
+
 /// Visits each call that each step of the script makes, as `countCalls` finds when it runs the step
 /// on the files before it, until the run has made `runs` more faults.
 void ForEachCall(FaultRun& run, const Script& script, int runs,

@@ -95,7 +95,7 @@ void Refuse(FaultRun& run, const QString& what, const Files& files)
     run.Count();
     if (error == ErrorNumber::None)
         run.Blame(what + u": it is opened"_s, files);
-    else if (QByteArrayView(ErrorPhrase(error)) == "general failure")
+    else if (HasNoReason(error))
         run.Blame(what + u": it is refused for no known reason"_s, files);
     else if (run.Taken() != files)
         run.Blame(what + u": it is refused and changed"_s, files);
@@ -139,7 +139,7 @@ void LayJournal(FaultRun& run, const SampleFile& sample, const QByteArray& journ
         run.Blame(u"a journal changed the size of the file"_s, files);
     if (reading.error == ErrorNumber::None && reading.contents != sample.contents)
         run.Blame(u"a journal altered rows"_s, files);
-    if (QByteArrayView(ErrorPhrase(reading.error)) == "general failure")
+    if (HasNoReason(reading.error))
         run.Blame(u"a journal is refused for no known reason"_s, files);
 }
 

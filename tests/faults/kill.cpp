@@ -11,22 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr size_t kScriptLength = 40;
-
-class CallCounter : public CallWatcher
-{
-public:
-    std::optional<CallFault> BeforeCall(const SystemCall& call) override
-    {
-        m_count += call.IsMutating() ? 1 : 0;
-        return std::nullopt;
-    }
-    [[nodiscard]] int Count() const { return m_count; }
-
-private:
-    int m_count = 0;
-};
-
 enum class KillMoment
 {
     BeforeTheCall,
@@ -34,7 +18,8 @@ enum class KillMoment
     MidCall,
 };
 
-/// Ends the process, as the system does when it runs out of memory, at one of its mutating calls.
+/// Ends the process, as the system does when it runs out of memory, at one of its mutating calls;
+/// call 0 only counts them.
 class Killer : public CallWatcher
 {
 public:
@@ -59,6 +44,7 @@ public:
         if (m_isDue)
             raise(SIGKILL);
     }
+    [[nodiscard]] int Count() const { return m_count; }
 
 private:
     int m_callNumber;
@@ -69,7 +55,7 @@ private:
 
 int CountCalls(const FaultRun& run, const Script& script, size_t step)
 {
-    CallCounter counter;
+    Killer counter(0, KillMoment::BeforeTheCall);
     const WatchScope watch(run.Folder(), counter);
     Session session;
     if (session.Start(run.DataFile()) != ErrorNumber::None
@@ -110,9 +96,8 @@ void KillThrough(FaultRun& run, const Script& script, int runs)
 
 void KillAtEveryCall(FaultRun& run)
 {
-    for (quint32 round = 0; run.CountSoFar() < run.Runs(); ++round)
-        KillThrough(
-            run, MakeScript(run.Seed() + round, kScriptLength), run.Runs() - run.CountSoFar());
+    OnScripts(run,
+        [&run](const Script& script) { KillThrough(run, script, run.Runs() - run.CountSoFar()); });
 }
 
 } // namespace Quillory

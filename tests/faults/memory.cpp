@@ -62,9 +62,8 @@ Verdict ExhaustAt(
     believer->Run(kStepsAfter);
     believer->End();
     TheMemory().allocations = {};
-    return [believer, isDoubtAllowed = failing.isForGood] {
-        return isDoubtAllowed ? believer->JudgeWithDoubt() : believer->Judge();
-    };
+    return
+        [believer, isDoubtAllowed = failing.isForGood] { return believer->Judge(isDoubtAllowed); };
 }
 
 } // namespace

@@ -9,17 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString RowText(const ModelRow& row)
-{
-    const QString price
-        = u"%1.%2"_s.arg(row.hundredths / 100).arg(row.hundredths % 100, 2, 10, QLatin1Char('0'));
-    const QString expiry
-        = u"%1/%2/%3"_s.arg(row.expiry.month()).arg(row.expiry.day()).arg(row.expiry.year());
-    return QStringList { row.name, QString::number(row.count), QString(row.isTicked ? u'Y' : u'N'),
-        price, expiry }
-        .join(u'\t');
-}
-
 /// Draws the steps of a workload, keeping a model so that each step means something that is there.
 class ScriptWriter
 {
@@ -108,6 +97,23 @@ private:
 };
 
 } // namespace
+
+std::array<QString, 5> RowTexts(const ModelRow& row)
+{
+    return { row.name, QString::number(row.count), row.isTicked ? u"Y"_s : u"N"_s,
+        QString::number(row.hundredths / 100.0, 'f', 2), row.expiry.toString(u"M/d/yyyy"_s) };
+}
+
+QString LineOf(const ModelRow& row)
+{
+    const auto texts = RowTexts(row);
+    return QStringList(texts.begin(), texts.end()).join(u'\t') + u"\r\n"_s;
+}
+
+Step AnotherList()
+{
+    return { Action::AddList, u"Afterwards"_s, {}, 0, {}, 0 };
+}
 
 const Model::List* Model::Find(const QString& name) const
 {
@@ -243,7 +249,7 @@ QByteArray Model::Contents() const
     for (const List* list : sorted) {
         text += u"%1 %2\r\n"_s.arg(list->name).arg(list->options);
         for (const NumberedRow& row : list->rows)
-            text += RowText(row.row) + u"\r\n"_s;
+            text += LineOf(row.row);
     }
     return text.toUtf8();
 }

@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QString>
 
+#include <array>
 #include <random>
 #include <vector>
 
@@ -40,6 +41,10 @@ struct ModelRow
     QDate expiry;
 };
 
+/// A row as an export writes it and an import reads it, by columns and as a line.
+[[nodiscard]] std::array<QString, 5> RowTexts(const ModelRow& row);
+[[nodiscard]] QString LineOf(const ModelRow& row);
+
 /// One step of a workload. Which fields matter depends on the action.
 struct Step
 {
@@ -53,6 +58,9 @@ struct Step
     /// The number of an option, or of a backup.
     qint32 number = 0;
 };
+
+/// Makes a list that no script makes.
+[[nodiscard]] Step AnotherList();
 
 /// What a data file should hold, kept beside it by the simplest means.
 class Model
@@ -106,7 +114,7 @@ struct Script
 };
 
 /// Steps drawn from every action, at least `length` of them; the same for the same seed.
-[[nodiscard]] Script MakeScript(quint32 seed, size_t length);
+[[nodiscard]] Script MakeScript(quint32 seed, size_t length = 40);
 /// One list and one import of so many rows.
 [[nodiscard]] Script MakeImportScript(quint32 seed, size_t rowCount);
 

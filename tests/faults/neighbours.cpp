@@ -78,12 +78,6 @@ bool RunAsShell(const QByteArray& path, const char* sql)
     return sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
-const Step& AnotherList()
-{
-    static const Step step { Action::AddList, u"Afterwards"_s, {}, 0, {}, 0 };
-    return step;
-}
-
 QString SecondProgramIsRefused(const FaultRun& run, const Script& script)
 {
     Neighbour second([&] {

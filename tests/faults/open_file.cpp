@@ -1,24 +1,21 @@
 #include "tests/faults/believer.h"
 #include "tests/faults/fault_run.h"
 #include "tests/faults/system_calls.h"
+#include "tests/file_bytes.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
-#include <cerrno>
-#include <cstdio>
 
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr size_t kScriptLength = 40;
 
 /// What somebody else does to a data file that the program has open.
 struct Mischief
@@ -32,19 +29,34 @@ struct Mischief
     bool isRefused;
 };
 
+constexpr QByteArrayView kLetter = "a letter to somebody\n";
+
 QByteArray Aside(const QByteArray& path)
 {
     return path + ".aside";
 }
 
-void Spill(const QByteArray& path, const QByteArray& bytes)
+/// Another data file that lies beside it.
+QByteArray Other(const QByteArray& path)
 {
-    std::FILE* file = std::fopen(path.constData(), "wb");
-    if (file == nullptr
-        || std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), file)
-            != static_cast<size_t>(bytes.size())
-        || std::fclose(file) != 0)
-        qFatal("cannot write %s", path.constData());
+    return path + ".other";
+}
+
+void Write(const QByteArray& path, const QByteArray& bytes)
+{
+    WriteFileBytes(QFile::decodeName(path), bytes);
+}
+
+QByteArray Read(const QByteArray& path)
+{
+    return FileBytes(QFile::decodeName(path));
+}
+
+/// For what a call of the system returned.
+void MustBeZero(int result)
+{
+    if (result != 0)
+        qFatal("no mischief can be done");
 }
 
 void MoveAside(const QByteArray& path)
@@ -60,45 +72,19 @@ void MoveBack(const QByteArray& path)
 void ReplaceByText(const QByteArray& path)
 {
     MoveAside(path);
-    Spill(path, "a letter to somebody\n");
-}
-
-/// Another data file that lies beside it.
-QByteArray Other(const QByteArray& path)
-{
-    return path + ".other";
+    Write(path, kLetter.toByteArray());
 }
 
 /// As programs do that keep folders alike on several machines.
 void ReplaceByOther(const QByteArray& path)
 {
-    if (rename(Other(path).constData(), path.constData()) != 0)
-        qFatal("cannot replace");
-}
-
-QByteArray Slurp(const QByteArray& path)
-{
-    QFile file(QFile::decodeName(path));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void OverwriteByOther(const QByteArray& path)
-{
-    Spill(path, Slurp(Other(path)));
-}
-
-void ReplaceByLink(const QByteArray& path)
-{
-    MoveAside(path);
-    if (symlink("/nowhere", path.constData()) != 0)
-        qFatal("no link");
+    MustBeZero(rename(Other(path).constData(), path.constData()));
 }
 
 void ReplaceByFolder(const QByteArray& path)
 {
     MoveAside(path);
-    if (mkdir(path.constData(), 0700) != 0)
-        qFatal("no folder");
+    MustBeZero(mkdir(path.constData(), 0700));
 }
 
 void RemoveFolder(const QByteArray& path)
@@ -107,15 +93,16 @@ void RemoveFolder(const QByteArray& path)
     MoveBack(path);
 }
 
+void ReplaceByLink(const QByteArray& path)
+{
+    MoveAside(path);
+    MustBeZero(symlink("/nowhere", path.constData()));
+}
+
 void ReplaceByEmpty(const QByteArray& path)
 {
     MoveAside(path);
-    Spill(path, {});
-}
-
-void Remove(const QByteArray& path)
-{
-    unlink(path.constData());
+    Write(path, {});
 }
 
 void Touch(const QByteArray& path)
@@ -123,44 +110,29 @@ void Touch(const QByteArray& path)
     utimensat(AT_FDCWD, path.constData(), nullptr, 0);
 }
 
-void LinkAgain(const QByteArray& path)
-{
-    if (link(path.constData(), Aside(path).constData()) != 0)
-        qFatal("no second name");
-}
-
-void RemoveSecondName(const QByteArray& path)
-{
-    unlink(Aside(path).constData());
-}
-
 void CutShort(const QByteArray& path)
 {
-    struct stat status
-    { };
-    if (stat(path.constData(), &status) != 0 || truncate(path.constData(), status.st_size / 2) != 0)
-        qFatal("cannot cut");
-}
-
-void Empty(const QByteArray& path)
-{
-    if (truncate(path.constData(), 0) != 0)
-        qFatal("cannot empty");
+    MustBeZero(truncate(path.constData(), QFileInfo(QFile::decodeName(path)).size() / 2));
 }
 
 constexpr std::array kMischiefs {
-    Mischief { "is removed", &Remove, nullptr, true },
+    Mischief {
+        "is removed", [](const QByteArray& path) { unlink(path.constData()); }, nullptr, true },
     Mischief { "is moved away", &MoveAside, &MoveBack, true },
     Mischief { "is replaced by a text", &ReplaceByText, &MoveBack, true },
     Mischief { "is replaced by an empty file", &ReplaceByEmpty, &MoveBack, true },
     Mischief { "is replaced by another data file", &ReplaceByOther, nullptr, true },
-    Mischief { "is overwritten by another data file", &OverwriteByOther, nullptr, true },
+    Mischief { "is overwritten by another data file",
+        [](const QByteArray& path) { Write(path, Read(Other(path))); }, nullptr, true },
     Mischief { "is replaced by a link to nothing", &ReplaceByLink, &MoveBack, true },
     Mischief { "is replaced by a folder", &ReplaceByFolder, &RemoveFolder, true },
-    Mischief { "gets a second name", &LinkAgain, &RemoveSecondName, false },
+    Mischief { "gets a second name",
+        [](const QByteArray& path) { MustBeZero(link(path.constData(), Aside(path).constData())); },
+        [](const QByteArray& path) { unlink(Aside(path).constData()); }, false },
     Mischief { "is touched", &Touch, &Touch, false },
     Mischief { "is cut to half its size", &CutShort, nullptr, true },
-    Mischief { "is emptied", &Empty, nullptr, true },
+    Mischief { "is emptied",
+        [](const QByteArray& path) { MustBeZero(truncate(path.constData(), 0)); }, nullptr, true },
 };
 
 /// The bytes at the path that are not the program's own, to see that they stay.
@@ -173,7 +145,7 @@ QByteArray BytesAt(const Files& files)
 /// Between two operations.
 QString ActBetween(const FaultRun& run, const Mischief& mischief)
 {
-    const Step step { Action::AddList, u"Afterwards"_s, {}, 0, {}, 0 };
+    const Step step = AnotherList();
     Session session;
     if (session.Start(run.DataFile()) != ErrorNumber::None)
         qFatal("the workload cannot start");
@@ -184,7 +156,7 @@ QString ActBetween(const FaultRun& run, const Mischief& mischief)
         return u"a change was told to be done"_s;
     if (mischief.isRefused && BytesAt(run.Taken()) != BytesAt(before))
         return u"somebody else's file was written into"_s;
-    if (mischief.isRefused && QByteArrayView(ErrorPhrase(session.LastError())) == "general failure")
+    if (mischief.isRefused && HasNoReason(session.LastError()))
         return u"the change failed for no known reason"_s;
     if (mischief.makeGood == nullptr)
         return {};
@@ -230,7 +202,7 @@ private:
 QString ActWithin(
     const FaultRun& run, const Mischief& mischief, const Script& script, size_t step, int call)
 {
-    const QByteArray other = Slurp(Other(run.DataFile()));
+    const QByteArray other = Read(Other(run.DataFile()));
     {
         Session session;
         if (session.Start(run.DataFile()) != ErrorNumber::None)
@@ -243,22 +215,20 @@ QString ActWithin(
         }
         actor.ActAtLast();
     }
-    if (mischief.act == &ReplaceByText && BytesAt(run.Taken()) != "a letter to somebody\n")
+    if (mischief.act == &ReplaceByText && BytesAt(run.Taken()) != kLetter)
         return u"somebody else's file was written into"_s;
     Session next;
     const ErrorNumber error = next.Start(run.DataFile());
     if (mischief.act == &ReplaceByOther && BytesAt(run.Taken()) != other)
         return u"the other data file was written into"_s;
-    return QByteArrayView(ErrorPhrase(error)) == "general failure"
-        ? u"the next start fails for no known reason"_s
-        : QString();
+    return HasNoReason(error) ? u"the next start fails for no known reason"_s : QString();
 }
 
 } // namespace
 
 void MeddleWithOpenFile(FaultRun& run)
 {
-    const Script script = MakeScript(run.Seed(), kScriptLength);
+    const Script script = MakeScript(run.Seed());
     const std::vector<Files> stages = MakeStages(run, script);
     const auto note = [&](const Mischief& mischief, const QString& wrong) {
         run.Count();

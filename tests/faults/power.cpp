@@ -10,7 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr size_t kScriptLength = 40;
 /// Of so many images that need recovery one has its recovery cut too.
 constexpr quint32 kRecoveryShare = 40;
 /// The first hundreds show the first start, which is never weakened.
@@ -76,13 +75,6 @@ QString JudgeImage(
     return {};
 }
 
-/// How well changes were kept: for tests that must find faults.
-struct Weakening
-{
-    /// A value of PRAGMA synchronous; null leaves what the program sets.
-    const char* synchronous = nullptr;
-};
-
 /// The connection that was opened last.
 sqlite3*& LatestConnection()
 {
@@ -97,23 +89,24 @@ int NoteConnection(sqlite3* connection, char** /*message*/, const void* /*routin
 }
 
 /// Makes the connection of the session that was just started less careful.
-void Weaken(const Weakening& weakening)
+void Weaken(const char* synchronous)
 {
-    const QByteArray sql = QByteArray("PRAGMA synchronous = ") + weakening.synchronous;
+    const QByteArray sql = QByteArray("PRAGMA synchronous = ") + synchronous;
     if (sqlite3_exec(LatestConnection(), sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
         qFatal("the medium cannot be weakened");
 }
 
-void Record(
-    const FaultRun& run, const Script& script, const Weakening& weakening, Recorder& recorder)
+/// `synchronous` is a value of that pragma, for tests that must find faults; null leaves what the
+/// program sets.
+void Record(const FaultRun& run, const Script& script, const char* synchronous, Recorder& recorder)
 {
     run.Clear();
     const WatchScope watch(run.Folder(), recorder);
     Session session;
     if (session.Start(run.DataFile()) != ErrorNumber::None)
         qFatal("the workload cannot start");
-    if (weakening.synchronous != nullptr)
-        Weaken(weakening);
+    if (synchronous != nullptr)
+        Weaken(synchronous);
     RunScript(session, script, [&](size_t) { recorder.Acknowledge(); });
 }
 
@@ -158,21 +151,20 @@ void CutEverywhere(FaultRun& run, const Script& script, const Recorder& recorder
     }
 }
 
-void CutPower(FaultRun& run, const Weakening& weakening)
+void CutPower(FaultRun& run, const char* synchronous)
 {
-    for (quint32 round = 0; run.CountSoFar() < run.Runs(); ++round) {
-        const Script script = MakeScript(run.Seed() + round, kScriptLength);
+    OnScripts(run, [&](const Script& script) {
         Recorder recorder;
-        Record(run, script, weakening, recorder);
+        Record(run, script, synchronous, recorder);
         CutEverywhere(run, script, recorder);
-    }
+    });
 }
 
 } // namespace
 
 void CutPowerEverywhere(FaultRun& run)
 {
-    CutPower(run, {});
+    CutPower(run, nullptr);
 }
 
 void CutPowerOfCarelessFiles(FaultRun& run)
@@ -182,7 +174,7 @@ void CutPowerOfCarelessFiles(FaultRun& run)
     for (const char* synchronous : { "OFF", "NORMAL", "FULL" }) {
         FaultRun careless(std::max(run.Runs(), kFewestCarelessImages), run.Seed());
         careless.KeepQuiet();
-        CutPower(careless, { synchronous });
+        CutPower(careless, synchronous);
         for (int i = 0; i < careless.CountSoFar(); ++i)
             run.Count();
         std::printf("  synchronous=%s: %d of %d images guilty\n", synchronous, careless.Blames(),

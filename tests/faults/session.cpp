@@ -24,15 +24,12 @@ constexpr PropertyId kTicked = MakePropertyId(1, CEVT_BOOL);
 constexpr PropertyId kPrice = MakePropertyId(2, CEVT_R8);
 constexpr size_t kTickedColumn = 2;
 
-QString DateText(const QDate& date)
+/// As they are typed.
+std::array<QString, 5> TypedTexts(const ModelRow& row)
 {
-    return u"%1/%2/%3"_s.arg(date.month()).arg(date.day()).arg(date.year());
-}
-
-std::array<QString, 5> RowTexts(const ModelRow& row)
-{
-    return { row.name, QString::number(row.count), row.isTicked ? u"Checked"_s : u"Unchecked"_s,
-        QString::number(row.hundredths / 100.0, 'f', 2), DateText(row.expiry) };
+    auto texts = RowTexts(row);
+    texts[kTickedColumn] = row.isTicked ? u"Checked"_s : u"Unchecked"_s;
+    return texts;
 }
 
 QString Utf16Text(const QByteArray& bytes)
@@ -45,11 +42,8 @@ QString Utf16Text(const QByteArray& bytes)
 QByteArray ImportText(const std::vector<ModelRow>& rows)
 {
     QString text(QChar::ByteOrderMark);
-    for (const ModelRow& row : rows) {
-        auto texts = RowTexts(row);
-        texts[kTickedColumn] = row.isTicked ? u"Y"_s : u"N"_s;
-        text += QStringList(texts.begin(), texts.end()).join(u'\t') + u"\r\n"_s;
-    }
+    for (const ModelRow& row : rows)
+        text += LineOf(row);
     QByteArray bytes(text.size() * 2, Qt::Uninitialized);
     qToLittleEndian<quint16>(text.utf16(), text.size(), bytes.data());
     return bytes;
@@ -116,7 +110,7 @@ bool Session::RunOnRow(const Step& step)
     const ObjectId row = order[step.row % order.size()];
     switch (step.action) {
     case Action::ChangeRow:
-        return rows.ModifyRow(row, RowTexts(step.rows.front()));
+        return rows.ModifyRow(row, TypedTexts(step.rows.front()));
     case Action::AddOne:
         return rows.AdjustCount(row, 1).has_value();
     case Action::CopyRow:
@@ -153,7 +147,7 @@ bool Session::RunOnList(const Step& step, ObjectId list)
     }
     if (step.action == Action::AddRow) {
         RowStore rows(m_volume, m_list, m_context);
-        return rows.WriteNewRow(RowTexts(step.rows.front())) != kNoObject;
+        return rows.WriteNewRow(TypedTexts(step.rows.front())) != kNoObject;
     }
     return RunOnRow(step);
 }
@@ -216,6 +210,11 @@ ErrorNumber Session::Check()
 QByteArray BackupPath(const QByteArray& dataFile, int number)
 {
     return dataFile + ".backup-" + QByteArray::number(number);
+}
+
+bool HasNoReason(ErrorNumber error)
+{
+    return QByteArrayView(ErrorPhrase(error)) == "general failure";
 }
 
 Reading ReadDataFile(const QByteArray& path)

@@ -59,6 +59,9 @@ private:
 /// Where a workload on a data file puts a backup.
 [[nodiscard]] QByteArray BackupPath(const QByteArray& dataFile, int number);
 
+/// Whether nothing can be told but that something failed.
+[[nodiscard]] bool HasNoReason(ErrorNumber error);
+
 /// What a file holds for somebody who starts the program on it.
 struct Reading
 {

@@ -62,7 +62,10 @@ public:
     CallWatcher& operator=(const CallWatcher&) = delete;
 
     /// Asked before each call. Calls that it makes itself are not watched.
-    [[nodiscard]] virtual std::optional<CallFault> BeforeCall(const SystemCall& call) = 0;
+    [[nodiscard]] virtual std::optional<CallFault> BeforeCall(const SystemCall& /*call*/)
+    {
+        return std::nullopt;
+    }
     /// Told of each call that succeeded, `size` being what it really read or wrote.
     virtual void AfterCall(const SystemCall& /*call*/) { }
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "values/column_type.h"
-#include "values/value_text.h"
+#include "tests/list_fixture.h"
 
 #include <algorithm>
 #include <array>
@@ -26,17 +25,9 @@ constexpr std::array kFuzzedColumns { PropName, PropCount, MakePropertyId(1, CEV
 /// once. It is always the same day.
 inline const ValueContext& FuzzedContext(size_t number)
 {
-    static const auto contexts = [] {
-        std::array<ValueContext, 4> made;
-        const std::array names { "en_US", "de_DE", "ja_JP", "th_TH" };
-        for (size_t i = 0; i < made.size(); ++i) {
-            const LocaleProfile locale = LocaleProfile::For(QString::fromLatin1(names[i]));
-            const auto now = [] { return LocalTime { QDate(2026, 6, 15), QTime(12, 30) }; };
-            made[i]
-                = { locale, locale, now, QStringLiteral("Checked"), QStringLiteral("Unchecked") };
-        }
-        return made;
-    }();
+    static const std::array contexts { TestContext(QStringLiteral("en_US")),
+        TestContext(QStringLiteral("de_DE")), TestContext(QStringLiteral("ja_JP")),
+        TestContext(QStringLiteral("th_TH")) };
     return contexts[number % contexts.size()];
 }
 
