@@ -2,6 +2,8 @@
 
 #include <QElapsedTimer>
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -75,6 +77,8 @@ void PrintHeading()
 
 double MeasureMs(const std::function<void()>& work)
 {
+    // What an earlier run left to be written to the disk would be written during this one.
+    sync();
     QElapsedTimer timer;
     timer.start();
     work();

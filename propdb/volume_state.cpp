@@ -68,7 +68,7 @@ Result<qint64> VolumeState::ReadFileVersion()
 }
 
 Result<void> VolumeState::PrepareStatements(
-    std::initializer_list<std::pair<Statement*, const char*>> statements)
+    std::initializer_list<std::pair<Statement*, const char*>> statements) const
 {
     for (const auto& [statement, sql] : statements) {
         auto prepared = Statement::Prepare(connection.get(), QString::fromLatin1(sql), true);
