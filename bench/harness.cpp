@@ -7,24 +7,24 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <limits>
+#include <iterator>
+#include <malloc.h>
 
 namespace Quillory {
 
 namespace {
 
-/// The least of what each side took: what else the machine did only adds to it.
-struct BestTiming
-{
-    double oursMs = std::numeric_limits<double>::infinity();
-    double floorMs = std::numeric_limits<double>::infinity();
+/// The runs of a case with one number of rows.
+using Runs = std::vector<Timing>;
 
-    void Take(const Timing& timing)
-    {
-        oursMs = std::min(oursMs, timing.oursMs);
-        floorMs = std::min(floorMs, timing.floorMs);
-    }
-};
+/// The least of what each side took: what else the machine did only adds to it.
+Timing Best(const Runs& runs)
+{
+    Timing best = runs.front();
+    for (const Timing& run : runs)
+        best = { std::min(best.oursMs, run.oursMs), std::min(best.floorMs, run.floorMs) };
+    return best;
+}
 
 /// How much longer a case took with ten times the rows.
 struct Growth
@@ -33,26 +33,38 @@ struct Growth
     double floor = 0;
 };
 
+/// The median of what a run took in times of the one with fewer rows beside it. The best of both
+/// would not do: a short run finds a moment without disturbance more easily than a long one.
+double MedianGrowth(const Runs& fewer, const Runs& more, double Timing::*side)
+{
+    std::vector<double> growths;
+    for (size_t i = 0; i < more.size(); ++i)
+        growths.push_back(more[i].*side / fewer[i].*side);
+    const auto middle = growths.begin() + std::ssize(growths) / 2;
+    std::nth_element(growths.begin(), middle, growths.end());
+    return *middle;
+}
+
 /// Sizes take turns, so that a slow spell of the machine falls on all of them. A case that is soon
 /// over is run more often: the shorter it is the more anything else shows in it.
-std::vector<BestTiming> BestRuns(const BenchCase& bench, const BenchOptions& options)
+std::vector<Runs> RunAll(const BenchCase& bench, const BenchOptions& options)
 {
     constexpr qint64 kShortMs = 3000;
     constexpr int kMostTimes = 4;
-    std::vector<BestTiming> best(options.sizes.size());
+    std::vector<Runs> runs(options.sizes.size());
     QElapsedTimer timer;
     timer.start();
     for (int i = 0;
          i < options.repeat || (i < kMostTimes * options.repeat && timer.elapsed() < kShortMs);
          ++i) {
-        for (size_t size = 0; size < best.size(); ++size)
-            best[size].Take(bench.run(options.sizes[size]));
+        for (size_t size = 0; size < runs.size(); ++size)
+            runs[size].push_back(bench.run(options.sizes[size]));
     }
-    return best;
+    return runs;
 }
 
 void PrintLine(
-    const BenchCase& bench, int rows, const BestTiming& timing, const std::optional<Growth>& growth)
+    const BenchCase& bench, int rows, const Timing& timing, const std::optional<Growth>& growth)
 {
     const double ratio = timing.oursMs / timing.floorMs;
     const bool isSlow = bench.limitMs > 0 && timing.oursMs > bench.limitMs;
@@ -77,8 +89,10 @@ void PrintHeading()
 
 double MeasureMs(const std::function<void()>& work)
 {
-    // What an earlier run left to be written to the disk would be written during this one.
+    // What an earlier run left to be written to the disk would be written during this one, and only
+    // one of two sides would find memory at hand that the other had given back.
     sync();
+    malloc_trim(0);
     QElapsedTimer timer;
     timer.start();
     work();
@@ -96,13 +110,13 @@ void RunCases(const std::vector<BenchCase>& cases, const BenchOptions& options)
     for (const BenchCase& bench : cases) {
         if (!bench.name.contains(options.nameFilter))
             continue;
-        const auto best = BestRuns(bench, options);
-        for (size_t i = 0; i < best.size(); ++i) {
+        const auto runs = RunAll(bench, options);
+        for (size_t i = 0; i < runs.size(); ++i) {
             std::optional<Growth> growth;
             if (i > 0 && options.sizes[i] == 10 * options.sizes[i - 1])
-                growth = { best[i].oursMs / best[i - 1].oursMs,
-                    best[i].floorMs / best[i - 1].floorMs };
-            PrintLine(bench, options.sizes[i], best[i], growth);
+                growth = Growth { MedianGrowth(runs[i - 1], runs[i], &Timing::oursMs),
+                    MedianGrowth(runs[i - 1], runs[i], &Timing::floorMs) };
+            PrintLine(bench, options.sizes[i], Best(runs[i]), growth);
         }
     }
 }
