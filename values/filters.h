@@ -57,9 +57,8 @@ class FilterTest
 public:
     FilterTest(const FilterEntry& entry, const ValueContext& context);
 
-    [[nodiscard]] PropertyId Column() const { return m_column; }
-    /// Whether a row matches, given its record with Column() at `place`. One without a value there
-    /// never does.
+    /// Whether a row matches, given its record with the filter's column at `place`. One without a
+    /// value there never does.
     [[nodiscard]] bool Matches(const ScannedRecord& row, size_t place) const;
 
 private:
