@@ -29,7 +29,9 @@ qsizetype SizeOf(quint64 kind)
 /// A whole number of up to eight bytes, the first of which holds its sign.
 qint64 SignedNumber(QByteArrayView bytes)
 {
-    quint64 number = !bytes.isEmpty() && bytes.front() < 0 ? ~quint64 {} : 0;
+    // Not every machine's char has a sign.
+    const bool isNegative = !bytes.isEmpty() && static_cast<qint8>(bytes.front()) < 0;
+    quint64 number = isNegative ? ~quint64 {} : 0;
     for (const char byte : bytes)
         number = number << 8 | static_cast<quint8>(byte);
     return static_cast<qint64>(number);
