@@ -4,8 +4,10 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
 #include <array>
 #include <limits>
+#include <optional>
 
 namespace Quillory {
 

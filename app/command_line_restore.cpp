@@ -2,6 +2,8 @@
 #include "store/kept_copies.h"
 #include "store/salvage.h"
 
+#include <optional>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

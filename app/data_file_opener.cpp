@@ -6,6 +6,8 @@
 
 #include <QLocale>
 
+#include <utility>
+
 namespace Quillory {
 
 DataFileOpener::DataFileOpener(ListCatalogue& catalogue, Settings& settings, QString copiesFolder,

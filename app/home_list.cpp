@@ -14,6 +14,9 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <utility>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

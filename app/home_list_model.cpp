@@ -4,6 +4,7 @@
 #include "widgets/icon_set.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Quillory {
 

@@ -4,6 +4,8 @@
 
 #include <QSize>
 
+#include <optional>
+
 class QWidget;
 
 namespace Quillory {

@@ -19,6 +19,8 @@
 #include <QCloseEvent>
 #include <QShortcut>
 
+#include <utility>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

@@ -9,6 +9,9 @@
 
 #include <QApplication>
 
+#include <functional>
+#include <memory>
+
 namespace Quillory {
 
 StartAnswer MainFrame::OpenNamedList(const QString& name)

@@ -2,6 +2,8 @@
 
 #include "app/turned_output.h"
 
+#include <optional>
+
 namespace Quillory {
 
 /// Turns an output of the X server, and turns it back at the latest when the object goes. A note in

@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <optional>
 #include <string_view>
 
 namespace Quillory {

@@ -2,6 +2,8 @@
 
 #include "app/turned_output.h"
 
+#include <optional>
+
 namespace Quillory {
 
 /// How the output so named stands. None where the program's windows are on no X server with

@@ -3,6 +3,7 @@
 #include "platform/date_picture.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 #include <string_view>
 

@@ -193,8 +193,10 @@ const LocaleRow* FindLocaleRow(const LocaleName& name)
 
 std::optional<std::array<QString, 12>> ShortMonthNames(QStringView language)
 {
-    const auto* const row = std::find_if(kMonthRows.begin(), kMonthRows.end(),
-        [language](const MonthRow& candidate) { return candidate.language == language; });
+    const auto* const row
+        = std::find_if(kMonthRows.begin(), kMonthRows.end(), [language](const MonthRow& candidate) {
+              return QStringView(candidate.language) == language;
+          });
     if (row == kMonthRows.end()) {
         return std::nullopt;
     }
@@ -213,7 +215,7 @@ int CodePageNumber(const LocaleName& name)
     constexpr int kWestern = 1252;
     const auto* const row = std::find_if(kCodePageRows.begin(), kCodePageRows.end(),
         [language = QStringView(name.language)](
-            const CodePageRow& candidate) { return candidate.language == language; });
+            const CodePageRow& candidate) { return QStringView(candidate.language) == language; });
     return row == kCodePageRows.end() ? kWestern : row->codePage;
 }
 

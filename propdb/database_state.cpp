@@ -1,6 +1,7 @@
 #include "propdb/database_state.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Quillory {
 

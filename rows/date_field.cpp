@@ -11,6 +11,9 @@
 #include <QScreen>
 #include <QToolButton>
 
+#include <algorithm>
+#include <utility>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

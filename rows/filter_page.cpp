@@ -11,8 +11,10 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 #include <tuple>
+#include <utility>
 
 namespace Quillory {
 

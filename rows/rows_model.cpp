@@ -3,6 +3,8 @@
 #include "values/column_type.h"
 #include "values/file_date.h"
 
+#include <utility>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

@@ -4,6 +4,7 @@
 #include "store/row_store.h"
 #include "widgets/page.h"
 
+#include <functional>
 #include <optional>
 
 namespace Quillory {

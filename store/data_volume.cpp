@@ -3,6 +3,7 @@
 #include "store/list_catalogue.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Quillory {
 

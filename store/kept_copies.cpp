@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStorageInfo>
+#include <QTimeZone>
 
 #include <algorithm>
 
@@ -22,21 +23,23 @@ constexpr auto kOriginName = "copy-of.txt"_L1;
 constexpr QFileDevice::Permissions kOwnerOnly
     = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 /// A copy's name is its time; the order of the names is that of the times.
-QString TimeFormat()
-{
-    return u"yyyyMMdd'T'HHmmsszzz'Z'"_s;
-}
+constexpr QStringView kDateFormat = u"yyyyMMdd";
+constexpr QStringView kTimeFormat = u"'T'HHmmsszzz'Z'";
 
 QString NameAt(const QDateTime& time)
 {
-    return time.toUTC().toString(TimeFormat()) + kSuffix;
+    const QDateTime utc = time.toUTC();
+    return utc.date().toString(kDateFormat) + utc.time().toString(kTimeFormat) + kSuffix;
 }
 
+/// Invalid for a name that is none of a copy.
 QDateTime TimeOf(const QString& name)
 {
-    QDateTime time = QDateTime::fromString(name.chopped(kSuffix.size()), TimeFormat());
-    time.setTimeSpec(Qt::UTC);
-    return time;
+    // Read together, date and time are local time at first, which leaves out an hour each spring.
+    const QString digits = name.chopped(kSuffix.size());
+    const QDate date = QDate::fromString(digits.left(kDateFormat.size()), kDateFormat);
+    const QTime time = QTime::fromString(digits.mid(kDateFormat.size()), kTimeFormat);
+    return time.isValid() ? QDateTime(date, time, QTimeZone::utc()).toUTC() : QDateTime();
 }
 
 /// The folder for the copies of one data file; empty if its path leads nowhere.

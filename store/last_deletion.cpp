@@ -1,5 +1,7 @@
 #include "store/last_deletion.h"
 
+#include <utility>
+
 namespace Quillory {
 
 LastDeletion::LastDeletion(ListCatalogue& catalogue)

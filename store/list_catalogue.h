@@ -4,6 +4,7 @@
 #include "store/inventory_list.h"
 
 #include <functional>
+#include <optional>
 
 namespace Quillory {
 

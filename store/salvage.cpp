@@ -10,6 +10,8 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace Quillory {
 

@@ -9,6 +9,8 @@
 #include <QJsonObject>
 #include <QTest>
 
+#include <utility>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

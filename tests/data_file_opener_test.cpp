@@ -5,6 +5,9 @@
 #include <QQueue>
 #include <QTest>
 
+#include <functional>
+#include <optional>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

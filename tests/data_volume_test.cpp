@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include <functional>
+#include <memory>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

@@ -11,6 +11,10 @@
 #include <QTableView>
 #include <QTest>
 
+#include <memory>
+#include <optional>
+#include <utility>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

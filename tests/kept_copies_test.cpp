@@ -3,6 +3,7 @@
 #include "tests/list_fixture.h"
 
 #include <QTest>
+#include <QTimeZone>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -39,7 +40,7 @@ public:
     }
 
     ListFixture file;
-    QDateTime now { QDate(2026, 6, 15), QTime(12, 0), Qt::UTC };
+    QDateTime now { QDate(2026, 6, 15), QTime(12, 0), QTimeZone::utc() };
 
 private:
     QTemporaryDir m_folder;
@@ -54,6 +55,7 @@ class KeptCopiesTest : public QObject
 private Q_SLOTS:
     void theLastThreeAreKept();
     void theLastThreeAreKeptWhenTheClockGoesBack();
+    void aCopyIsKeptInTheHourThatSpringLeavesOut();
     void aRunThatChangedNothingKeepsNothing();
     void aFolderThatCannotBeWrittenIsNoFailure();
     void whatAnInterruptedRunLeftIsRemoved();
@@ -89,6 +91,22 @@ void KeptCopiesTest::theLastThreeAreKeptWhenTheClockGoesBack()
         QVERIFY(ListsIn(runs.Copies().front().path).endsWith(name + u" 0"_s));
     }
     QCOMPARE(ListsIn(runs.Copies().back().path), u"a 0, b 0, c 0"_s);
+}
+
+void KeptCopiesTest::aCopyIsKeptInTheHourThatSpringLeavesOut()
+{
+    const QByteArray zone = qgetenv("TZ");
+    qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+    Runs runs;
+    runs.now = QDateTime(QDate(2026, 3, 29), QTime(2, 30), QTimeZone::utc());
+    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+    const auto copies = runs.Copies();
+    if (zone.isNull())
+        qunsetenv("TZ");
+    else
+        qputenv("TZ", zone);
+    QCOMPARE(copies.size(), size_t { 1 });
+    QCOMPARE(copies.front().time, runs.now);
 }
 
 void KeptCopiesTest::aRunThatChangedNothingKeepsNothing()

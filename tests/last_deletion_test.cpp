@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+#include <memory>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

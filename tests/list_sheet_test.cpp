@@ -13,6 +13,8 @@
 #include <QTableView>
 #include <QTest>
 
+#include <memory>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

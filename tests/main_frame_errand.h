@@ -15,6 +15,8 @@
 #include <QTest>
 #include <QTreeView>
 
+#include <memory>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

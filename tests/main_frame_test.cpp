@@ -20,6 +20,8 @@
 
 #include <sys/stat.h>
 
+#include <utility>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

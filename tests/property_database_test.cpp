@@ -2,8 +2,12 @@
 
 #include <QTest>
 
+#include <array>
 #include <cmath>
+#include <limits>
+#include <memory>
 #include <set>
+#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

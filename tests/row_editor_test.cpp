@@ -9,6 +9,9 @@
 #include <QTableView>
 #include <QTest>
 
+#include <memory>
+#include <optional>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

@@ -7,8 +7,10 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <algorithm>
 #include <limits>
 #include <map>
+#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

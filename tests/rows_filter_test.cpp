@@ -3,6 +3,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include <memory>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

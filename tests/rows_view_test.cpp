@@ -5,6 +5,8 @@
 #include <QPointingDevice>
 #include <QScrollBar>
 
+#include <memory>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

@@ -14,8 +14,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <functional>
 #include <grp.h>
+#include <memory>
+#include <optional>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

@@ -6,6 +6,9 @@
 #include <QBuffer>
 #include <QTest>
 
+#include <algorithm>
+#include <utility>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

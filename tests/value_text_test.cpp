@@ -5,6 +5,8 @@
 #include <QTest>
 
 #include <limits>
+#include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 

@@ -3,6 +3,7 @@
 #include "transfer/list_file.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Quillory {
 

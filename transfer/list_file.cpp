@@ -2,6 +2,8 @@
 
 #include <sys/stat.h>
 
+#include <utility>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

@@ -4,6 +4,8 @@
 #include "values/file_date.h"
 #include "values/value_text.h"
 
+#include <optional>
+
 namespace Quillory {
 
 namespace {

@@ -8,6 +8,8 @@
 #include <QStyle>
 #include <QStyleFactory>
 
+#include <memory>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

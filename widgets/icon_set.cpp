@@ -10,6 +10,7 @@
 
 #include <array>
 #include <functional>
+#include <utility>
 
 // Resources of a static library are not found unless somebody asks for them by name.
 static void LoadIconResources()

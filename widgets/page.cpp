@@ -14,6 +14,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

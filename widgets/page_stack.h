@@ -4,6 +4,8 @@
 
 #include <QStackedWidget>
 
+#include <functional>
+
 namespace Quillory {
 
 /// The pages of the one window, the topmost shown. There are no nested event loops: whoever opens a

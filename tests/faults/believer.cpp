@@ -1,6 +1,7 @@
 #include "tests/faults/believer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Quillory {
 

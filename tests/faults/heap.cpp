@@ -1,6 +1,7 @@
 #include "tests/faults/allocations.h"
 #include "tests/faults/doomed_process.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <new>

@@ -11,6 +11,7 @@
 #include <QtEndian>
 
 #include <array>
+#include <utility>
 
 namespace Quillory {
 

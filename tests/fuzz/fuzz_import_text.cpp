@@ -5,7 +5,10 @@
 
 #include <QtEndian>
 
+#include <algorithm>
+#include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace Quillory;
