@@ -7,10 +7,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStorageInfo>
 #include <QTimeZone>
 
+#include <sys/statvfs.h>
+
 #include <algorithm>
+#include <optional>
 
 namespace Quillory {
 
@@ -71,12 +73,23 @@ bool WriteOrigin(const QDir& set, const QString& path)
         && file.write(QFileInfo(path).absoluteFilePath().toUtf8() + '\n') > 0 && file.commit();
 }
 
+/// The bytes that this user may still fill where the folder lies; none if the system does not tell.
+std::optional<quint64> FreeRoom(const QString& folder)
+{
+    // Of the folder itself: the list of what is mounted can be missing, or lack the folder's part.
+    struct statvfs status
+    { };
+    if (statvfs(QFile::encodeName(folder).constData(), &status) != 0 || status.f_blocks == 0)
+        return std::nullopt;
+    return quint64 { status.f_bavail } * status.f_frsize;
+}
+
 bool HasRoom(const QString& folder, const QString& path)
 {
     // A copy must not take the last of a medium that the data file may share.
     constexpr qint64 kLeastLeft = 16 << 20;
-    const QStorageInfo storage(folder);
-    return storage.isValid() && storage.bytesAvailable() >= QFileInfo(path).size() + kLeastLeft;
+    const auto wanted = static_cast<quint64>(QFileInfo(path).size() + kLeastLeft);
+    return FreeRoom(folder).value_or(wanted) >= wanted;
 }
 
 std::vector<KeptCopy> CopiesIn(const QDir& set)

@@ -5,6 +5,8 @@
 #include <QTest>
 #include <QTimeZone>
 
+#include <filesystem>
+
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 
@@ -58,6 +60,7 @@ private Q_SLOTS:
     void aCopyIsKeptInTheHourThatSpringLeavesOut();
     void aRunThatChangedNothingKeepsNothing();
     void aFolderThatCannotBeWrittenIsNoFailure();
+    void aCopyLeavesTheDiskSomeRoom();
     void whatAnInterruptedRunLeftIsRemoved();
     void dataFilesHaveCopiesOfTheirOwn();
 };
@@ -135,6 +138,24 @@ void KeptCopiesTest::aFolderThatCannotBeWrittenIsNoFailure()
     QCOMPARE(KeepCopy(*runs.file.data, runs.Path(), QString(), runs.now), KeepOutcome::NotKept);
     // The run goes on.
     QVERIFY(runs.file.Add({ u"row"_s }) != kNoObject);
+}
+
+void KeptCopiesTest::aCopyLeavesTheDiskSomeRoom()
+{
+    Runs runs;
+    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+    runs.file.Restart();
+    runs.file.MakeFullList(u"b"_s);
+    // A file as long as there is room, hardly any of which is on the disk.
+    const std::filesystem::path path(runs.Path().toStdString());
+    const auto size = std::filesystem::file_size(path);
+    std::error_code error;
+    std::filesystem::resize_file(path, std::filesystem::space(path).available, error);
+    if (error)
+        QSKIP("there is more room than a file may be long");
+    QCOMPARE(runs.Keep(), KeepOutcome::NotKept);
+    std::filesystem::resize_file(path, size);
+    QCOMPARE(runs.Keep(), KeepOutcome::Kept);
 }
 
 void KeptCopiesTest::whatAnInterruptedRunLeftIsRemoved()
