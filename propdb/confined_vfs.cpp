@@ -7,6 +7,8 @@
 #include <sqlite3.h>
 #include <xxhash.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <utility>
@@ -87,13 +89,46 @@ int FileClose(sqlite3_file* file)
     return RealFile(file)->pMethods->xClose(RealFile(file));
 }
 
+int ReadPage(sqlite3_file* file, void* page, sqlite3_int64 offset)
+{
+    const int code = RealFile(file)->pMethods->xRead(RealFile(file), page, kPageSize, offset);
+    if (code != SQLITE_OK)
+        return code;
+    return HasRightChecksum(page, PageNumber(offset)) ? SQLITE_OK : SQLITE_IOERR_DATA;
+}
+
+/// Reads a part of a page, or of several: SQLite takes long texts from the file like that, past its
+/// page cache. Each page is read whole and verified; one that the end of the file cuts short cannot
+/// be, and makes a short read even where the part itself is there.
+int ReadPart(sqlite3_file* file, char* buffer, int amount, sqlite3_int64 offset)
+{
+    std::array<char, kPageSize> page;
+    int outcome = SQLITE_OK;
+    for (int done = 0; done < amount;) {
+        const auto begin = static_cast<int>((offset + done) % kPageSize);
+        const int code = ReadPage(file, page.data(), offset + done - begin);
+        if (code != SQLITE_OK && code != SQLITE_IOERR_SHORT_READ)
+            return code;
+        if (code != SQLITE_OK)
+            outcome = code;
+        const int size = std::min(amount - done, kPageSize - begin);
+        std::memcpy(buffer + done, page.data() + begin, static_cast<size_t>(size));
+        done += size;
+    }
+    return outcome;
+}
+
 int FileRead(sqlite3_file* file, void* buffer, int amount, sqlite3_int64 offset)
 {
-    const int code = RealFile(file)->pMethods->xRead(RealFile(file), buffer, amount, offset);
-    if (code != SQLITE_OK || !reinterpret_cast<ConfinedFile*>(file)->hasChecksums
-        || !IsWholePage(amount, offset))
-        return code;
-    return HasRightChecksum(buffer, PageNumber(offset)) ? SQLITE_OK : SQLITE_IOERR_DATA;
+    // SQLite reads the header by itself before it plays a journal back, when the first page may
+    // still be torn, and its change counter to see whether the page cache still holds. It shows
+    // nothing of either: for that it reads the page.
+    constexpr int kHeaderSize = 100;
+    if (!reinterpret_cast<ConfinedFile*>(file)->hasChecksums || offset + amount <= kHeaderSize)
+        return RealFile(file)->pMethods->xRead(RealFile(file), buffer, amount, offset);
+    if (IsWholePage(amount, offset))
+        return ReadPage(file, buffer, offset);
+    return ReadPart(file, static_cast<char*>(buffer), amount, offset);
 }
 
 int FileWrite(sqlite3_file* file, const void* buffer, int amount, sqlite3_int64 offset)

@@ -16,8 +16,8 @@ constexpr int kPageReserve = 8;
 ///
 /// It reaches the permitted volumes, their journals and nameless temporary files, and nothing else,
 /// whatever a file's content asks for. Every page of a volume is written with a checksum of its
-/// content and its number, and verified when it is read: altered content fails the read with
-/// SQLITE_IOERR_DATA.
+/// content and its number, and verified when any of it but the file's header is read: altered
+/// content fails the read with SQLITE_IOERR_DATA.
 class ConfinedVfs
 {
 public:
