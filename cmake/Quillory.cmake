@@ -36,6 +36,10 @@ if(QUILLORY_FUZZ)
     target_link_options(quillory_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(QUILLORY_SANITIZE OR QUILLORY_FUZZ)
+    target_compile_definitions(quillory_options INTERFACE QUILLORY_SANITIZED)
+endif()
+
 # quillory_add_library(NAME SOURCES file... LINKS target... [PRIVATE_LINKS target...])
 # One static library for one folder; its target is quillory_NAME.
 function(quillory_add_library name)

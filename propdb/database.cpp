@@ -194,6 +194,9 @@ Result<void> Database::ScanInPlace(
     VolumeState& volume = m_state->volume;
     sqlite3* connection = volume.connection.get();
     const bool isVisited = ids.size() <= RecordVisit::kMaxProperties;
+    std::vector<ValueClasses> classes;
+    for (const PropertyId id : ids)
+        classes.push_back(ClassesOfDeclaration(DeclaredType(id)));
     const QString columns = u"oid"_s + m_state->ColumnList(ids);
     const QString select = u"SELECT "_s
         + (isVisited ? u"%1(%2)"_s.arg(QLatin1StringView(RecordVisit::kFunctionName), columns)
@@ -208,7 +211,8 @@ Result<void> Database::ScanInPlace(
         auto statement = Statement::Prepare(connection, sql);
         if (!statement)
             return statement.Error();
-        return isVisited ? volume.visit.Run(*statement, visit) : statement->VisitRows(visit);
+        return isVisited ? volume.visit.Run(*statement, classes, visit)
+                         : statement->VisitRows(visit);
     };
     if (order == ScanOrder::Any)
         return run(select);

@@ -4,6 +4,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace Quillory {
@@ -66,8 +67,17 @@ Result<void> RecordVisit::Register(sqlite3* connection)
 void RecordVisit::Visit(sqlite3_context* context, int /*count*/, sqlite3_value** values)
 {
     auto* visit = static_cast<RecordVisit*>(sqlite3_user_data(context));
-    if (!visit->Visit(ArgumentRecord(values)))
+    if (!visit->HoldsWhatIsDeclared(values + 1))
+        sqlite3_result_error_code(context, SQLITE_CORRUPT);
+    else if (!visit->Visit(ArgumentRecord(values)))
         sqlite3_result_error_code(context, SQLITE_ABORT);
+}
+
+bool RecordVisit::HoldsWhatIsDeclared(sqlite3_value** properties) const
+{
+    return std::ranges::all_of(m_call.classes, [&properties](ValueClasses classes) {
+        return IsAmong(sqlite3_value_type(*properties++), classes);
+    });
 }
 
 bool RecordVisit::Visit(const ScannedRecord& record)
@@ -82,9 +92,10 @@ bool RecordVisit::Visit(const ScannedRecord& record)
     return !m_call.isStopped;
 }
 
-Result<void> RecordVisit::Run(Statement& statement, const Database::RecordVisitor& visitor)
+Result<void> RecordVisit::Run(Statement& statement, std::span<const ValueClasses> classes,
+    const Database::RecordVisitor& visitor)
 {
-    Call outer = std::exchange(m_call, { &visitor, false, {} });
+    Call outer = std::exchange(m_call, { classes, &visitor, false, {} });
     const auto done = statement.Run();
     const Call call = std::exchange(m_call, std::move(outer));
     if (call.thrown)

@@ -4,6 +4,7 @@
 #include "propdb/statement.h"
 
 #include <exception>
+#include <span>
 
 struct sqlite3;
 struct sqlite3_context;
@@ -27,13 +28,16 @@ public:
 
     /// Makes the function known; it serves this object, which outlives the connection's statements.
     [[nodiscard]] Result<void> Register(sqlite3* connection);
-    /// Runs a statement that calls the function. Ends early, without a failure, when the visitor
-    /// gives false. What it throws comes through. A visitor may itself scan.
-    [[nodiscard]] Result<void> Run(Statement& statement, const Database::RecordVisitor& visitor);
+    /// Runs a statement that calls the function on values of these classes; FileCorrupt at the
+    /// first record with one of another class, which is not visited. Ends early, without a failure,
+    /// when the visitor gives false. What it throws comes through. A visitor may itself scan.
+    [[nodiscard]] Result<void> Run(Statement& statement, std::span<const ValueClasses> classes,
+        const Database::RecordVisitor& visitor);
 
 private:
     struct Call
     {
+        std::span<const ValueClasses> classes;
         const Database::RecordVisitor* visitor = nullptr;
         bool isStopped = false;
         std::exception_ptr thrown;
@@ -42,6 +46,7 @@ private:
     Call m_call;
 
     static void Visit(sqlite3_context* context, int count, sqlite3_value** values);
+    [[nodiscard]] bool HoldsWhatIsDeclared(sqlite3_value** properties) const;
     [[nodiscard]] bool Visit(const ScannedRecord& record);
 };
 

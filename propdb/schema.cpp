@@ -38,24 +38,9 @@ constexpr std::array kSystemTables {
 
 constexpr qsizetype kMaxNameLength = 64;
 
-QString SqlType(PropertyId id)
-{
-    switch (PropertyType(id)) {
-    case CEVT_R8:
-        // A column of type REAL would store -0.0 as 0.
-        return u"ANY"_s;
-    case CEVT_LPWSTR:
-        return u"TEXT"_s;
-    case CEVT_BLOB:
-        return u"BLOB"_s;
-    default:
-        return u"INTEGER"_s;
-    }
-}
-
 QString ColumnSql(const PropertyColumn& column)
 {
-    return QuotedName(column.columnName) + u' ' + SqlType(column.id);
+    return QuotedName(column.columnName) + u' ' + QLatin1StringView(DeclaredType(column.id));
 }
 
 QString TableSql(const DatabaseSchema& schema)
@@ -230,6 +215,21 @@ QString QuotedName(const QString& name)
 QString IndexName(const DatabaseSchema& schema, const PropertyColumn& key)
 {
     return schema.tableName + u" by "_s + key.columnName;
+}
+
+const char* DeclaredType(PropertyId id)
+{
+    switch (PropertyType(id)) {
+    case CEVT_R8:
+        // A column of type REAL would store -0.0 as 0.
+        return "ANY";
+    case CEVT_LPWSTR:
+        return "TEXT";
+    case CEVT_BLOB:
+        return "BLOB";
+    default:
+        return "INTEGER";
+    }
 }
 
 bool IsStorableType(quint16 type)

@@ -50,6 +50,8 @@ struct VolumeSchema
 [[nodiscard]] QString IndexName(const DatabaseSchema& schema, const PropertyColumn& key);
 
 /// Whether a property of this type can be stored.
+/// The type that the column of a property is declared to hold.
+[[nodiscard]] const char* DeclaredType(PropertyId id);
 [[nodiscard]] bool IsStorableType(quint16 type);
 
 /// A column for a property of `schema`, under a name that no other column of the table has.

@@ -63,6 +63,7 @@ Statement::~Statement()
 
 Statement::Statement(Statement&& other) noexcept
     : m_statement(std::exchange(other.m_statement, nullptr))
+    , m_classes(std::move(other.m_classes))
     , m_bindCode(other.m_bindCode)
     , m_error(other.m_error)
 { }
@@ -70,6 +71,7 @@ Statement::Statement(Statement&& other) noexcept
 Statement& Statement::operator=(Statement&& other) noexcept
 {
     std::swap(m_statement, other.m_statement);
+    m_classes = std::move(other.m_classes);
     m_bindCode = other.m_bindCode;
     m_error = other.m_error;
     return *this;
@@ -84,6 +86,10 @@ Result<Statement> Statement::Prepare(sqlite3* connection, const QString& sql, bo
         static_cast<int>(utf8.size()) + 1, flags, &statement.m_statement, nullptr);
     if (code != SQLITE_OK)
         return ErrorFromSqlite(sqlite3_extended_errcode(connection), connection);
+    const int columns = sqlite3_column_count(statement.m_statement);
+    for (int i = 0; i < columns; ++i)
+        statement.m_classes.push_back(
+            ClassesOfDeclaration(sqlite3_column_decltype(statement.m_statement, i)));
     return statement;
 }
 
@@ -178,10 +184,19 @@ bool Statement::Next()
 {
     const int code = m_bindCode == SQLITE_OK ? sqlite3_step(m_statement)
                                              : std::exchange(m_bindCode, SQLITE_OK);
-    if (code == SQLITE_ROW)
+    if (code == SQLITE_ROW && HoldsWhatIsDeclared())
         return true;
-    Finish(code);
+    Finish(code == SQLITE_ROW ? SQLITE_CORRUPT : code);
     return false;
+}
+
+bool Statement::HoldsWhatIsDeclared() const
+{
+    for (int column = 0; const ValueClasses classes : m_classes) {
+        if (!IsAmong(sqlite3_column_type(m_statement, column++), classes))
+            return false;
+    }
+    return true;
 }
 
 void Statement::Finish(int code)

@@ -3,10 +3,12 @@
 #include "propdb/property_value.h"
 #include "propdb/result.h"
 #include "propdb/scanned_record.h"
+#include "propdb/value_class.h"
 
 #include <QStringView>
 
 #include <functional>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -39,7 +41,8 @@ public:
     [[nodiscard]] bool Bind(int parameter, const PropertyValue& value);
 
     /// True while there is a row. At the end and on failure it resets itself and gives false;
-    /// Error() tells the two apart.
+    /// Error() tells the two apart. A row with a value of another class than its column is declared
+    /// to hold is damage: FileCorrupt.
     [[nodiscard]] bool Next();
     /// Why Next() found no row; ErrorNumber::None at the end of the rows.
     [[nodiscard]] ErrorNumber Error() const { return m_error; }
@@ -64,11 +67,14 @@ public:
 
 private:
     sqlite3_stmt* m_statement = nullptr;
+    /// Of each column.
+    std::vector<ValueClasses> m_classes;
     /// The code of a value that could not be bound; the statement must not run without it.
     int m_bindCode = 0;
     ErrorNumber m_error = ErrorNumber::None;
 
     void NoteBinding(int code);
+    [[nodiscard]] bool HoldsWhatIsDeclared() const;
     void Finish(int code);
 };
 

@@ -1,0 +1,153 @@
+#include "propdb/confined_vfs.h"
+#include "tests/volume_fixture.h"
+
+#include <QTest>
+
+#include <sqlite3.h>
+
+#include <vector>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr PropertyId kName = MakePropertyId(1, CEVT_LPWSTR);
+constexpr PropertyId kCount = MakePropertyId(2, CEVT_I4);
+constexpr PropertyId kPrice = MakePropertyId(3, CEVT_R8);
+constexpr PropertyId kPicture = MakePropertyId(4, CEVT_BLOB);
+const std::vector<PropertyId> kIds { kName, kCount, kPrice, kPicture };
+const std::vector<SortOrder> kByName { { kName } };
+
+/// Changes a data file by SQL, as somebody does who knows of the checksums and lets no column
+/// refuse a value.
+void Forge(const QString& path, const QByteArray& change)
+{
+    const ConfinedVfs::Permit permit(QFile::encodeName(path));
+    sqlite3* connection = nullptr;
+    const QByteArray sql = "PRAGMA temp_store = MEMORY; PRAGMA writable_schema = ON;"
+                           "CREATE TEMP TABLE honest AS SELECT name, sql FROM sqlite_schema;"
+                           "UPDATE sqlite_schema SET sql = replace(replace(replace(sql,"
+                           "' TEXT', ' ANY'), ' BLOB', ' ANY'), '\" INTEGER', '\" ANY');"
+                           "PRAGMA writable_schema = RESET;"
+        + change
+        + "; PRAGMA writable_schema = ON;"
+          "UPDATE sqlite_schema AS forged SET sql = honest.sql FROM honest "
+          "WHERE honest.name = forged.name";
+    if (sqlite3_open_v2(QFile::encodeName(path).constData(), &connection, SQLITE_OPEN_READWRITE,
+            ConfinedVfs::Name())
+            != SQLITE_OK
+        || sqlite3_exec(connection, sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        qFatal("the file cannot be forged: %s", sqlite3_errmsg(connection));
+    sqlite3_close(connection);
+}
+
+/// A closed data file with some rows, the second of which is then changed.
+void MakeForgedRows(VolumeFixture& fixture, const QByteArray& assignment)
+{
+    fixture.Mount();
+    const std::vector<PropertySpec> specs { { kName, u"Name"_s }, { kCount, u"Count"_s },
+        { kPrice, u"Price"_s }, { kPicture, u"Picture"_s } };
+    Take(fixture.volume->CreateDatabase(u"rows"_s, DatabaseType { 1 }, specs, kByName));
+    {
+        const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByName.front()));
+        for (int i = 0; i < 3; ++i) {
+            const std::vector<PropertyValue> values { { kName, 0, u"name"_s }, { kCount, 0, i },
+                { kPrice, 0, 0.5 }, { kPicture, 0, QByteArray("picture") } };
+            Take(rows->Write(kNoObject, values));
+        }
+    }
+    fixture.volume.reset();
+    Forge(fixture.Path(), "UPDATE \"rows (1)\" SET " + assignment + " WHERE \"Count\" = 1");
+}
+
+/// Reads what all records hold, one by one.
+ErrorNumber Walk(Database& rows)
+{
+    auto at = rows.SeekFirst();
+    for (; at && *at != kNoObject; at = rows.SeekNext(1)) {
+        if (const auto record = rows.Read(kIds); !record)
+            return record.Error();
+    }
+    return at.Error();
+}
+
+ErrorNumber Scan(Database& rows, const std::vector<PropertyId>& ids, ScanOrder order)
+{
+    const auto done = rows.Scan(ids, order, [](ObjectId, auto) { return true; });
+    return done.Error();
+}
+
+} // namespace
+
+class ForgedValuesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aValueOfAnotherClassIsDamage_data();
+    void aValueOfAnotherClassIsDamage();
+    void aForgedCatalogueIsRefused_data();
+    void aForgedCatalogueIsRefused();
+};
+
+void ForgedValuesTest::aValueOfAnotherClassIsDamage_data()
+{
+    QTest::addColumn<QByteArray>("assignment");
+    QTest::addColumn<ErrorNumber>("error");
+    const auto damage = [](const char* name, const QByteArray& assignment) {
+        QTest::newRow(name) << assignment << ErrorNumber::FileCorrupt;
+    };
+    damage("a whole number for a text", "\"Name\" = 5");
+    damage("a fraction for a text", "\"Name\" = 2.5");
+    damage("bytes for a text", "\"Name\" = x'414243'");
+    damage("a text for a whole number", "\"Count\" = 'five'");
+    damage("a fraction for a whole number", "\"Count\" = 2.5");
+    damage("a text for a fraction", "\"Price\" = '2.5'");
+    damage("a whole number for bytes", "\"Picture\" = 5");
+    damage("a text for bytes", "\"Picture\" = 'abc'");
+    QTest::newRow("nothing for anything")
+        << QByteArray("\"Name\" = NULL, \"Price\" = NULL, \"Picture\" = NULL") << ErrorNumber::None;
+}
+
+void ForgedValuesTest::aValueOfAnotherClassIsDamage()
+{
+    QFETCH(QByteArray, assignment);
+    QFETCH(ErrorNumber, error);
+    VolumeFixture fixture;
+    MakeForgedRows(fixture, assignment);
+    fixture.Mount(Disposition::OpenExisting);
+    const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByName.front()));
+    QCOMPARE(Walk(*rows), error);
+    // More columns than the quick way through the records takes.
+    std::vector<PropertyId> many;
+    while (many.size() < 100)
+        many.insert(many.end(), kIds.begin(), kIds.end());
+    for (const ScanOrder order : { ScanOrder::Any, ScanOrder::Sorted }) {
+        QCOMPARE(Scan(*rows, kIds, order), error);
+        QCOMPARE(Scan(*rows, many, order), error);
+    }
+}
+
+void ForgedValuesTest::aForgedCatalogueIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("change");
+    QTest::newRow("a database's name") << QByteArray("UPDATE property_database SET name = 5");
+    QTest::newRow("a table's name") << QByteArray("UPDATE property_database SET table_name = 5");
+    QTest::newRow("a property's name") << QByteArray("UPDATE property SET name = x'414243'");
+    QTest::newRow("a column's name") << QByteArray("UPDATE property SET column_name = 2.5");
+}
+
+void ForgedValuesTest::aForgedCatalogueIsRefused()
+{
+    QFETCH(QByteArray, change);
+    VolumeFixture fixture;
+    MakeForgedRows(fixture, "\"Count\" = 1");
+    Forge(fixture.Path(), change);
+    const auto volume
+        = Volume::Mount(fixture.Path(), Disposition::OpenExisting, VolumeAccess::Exclusive);
+    QCOMPARE(volume.Error(), ErrorNumber::FileCorrupt);
+}
+
+QTEST_GUILESS_MAIN(ForgedValuesTest)
+#include "forged_values_test.moc"
