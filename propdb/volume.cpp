@@ -79,8 +79,13 @@ Volume::Volume(std::unique_ptr<VolumeState> state)
 
 Volume::~Volume()
 {
-    if (m_state->isInTransaction)
+    if (!m_state->isInTransaction)
+        return;
+    try {
         m_state->Rollback();
+    } catch (...) {
+        // Most likely for want of memory: the connection's end undoes what was not committed.
+    }
 }
 
 Result<std::unique_ptr<Volume>> Volume::Mount(

@@ -10,7 +10,11 @@ LastDeletion::LastDeletion(ListCatalogue& catalogue)
 
 LastDeletion::~LastDeletion()
 {
-    Forget();
+    try {
+        Forget();
+    } catch (...) {
+        // What could not be ended now is at the next deletion.
+    }
 }
 
 bool LastDeletion::DeleteList(ObjectId list)
