@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A file larger than this was not written here and is not read.
-constexpr qint64 kMaxFileSize = 4096;
+constexpr qint64 kMaxNoteSize = 4096;
 constexpr auto kFirstLine = "quillory turned output 1"_L1;
 
 /// Display, output, and the two rotations, a line each after the first one; the last line is empty.
@@ -59,7 +59,7 @@ std::optional<TurnedOutput> ReadTurnedOutput(const QString& path)
     const QFileInfo info(path);
     QFile file(path);
     // A pipe in the file's place would hold the start up for ever.
-    if (!info.isFile() || info.size() > kMaxFileSize || !file.open(QIODevice::ReadOnly))
+    if (!info.isFile() || info.size() > kMaxNoteSize || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
     if (lines.size() != kLineCount || lines[0] != kFirstLine || !lines[5].isEmpty())

@@ -60,6 +60,12 @@ std::vector<int> OrderOfComing(const InventoryList& list, int rows)
 
 } // namespace
 
+const ValueContext& BenchContext()
+{
+    static const ValueContext context = ValueContext::FromEnvironment();
+    return context;
+}
+
 std::vector<PropertyValue> BenchRow(const InventoryList& list, int index)
 {
     const quint64 seed = Mix(static_cast<quint64>(index) + 1);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/list_catalogue.h"
+#include "values/value_text.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -46,6 +47,9 @@ private:
 
     void Fill();
 };
+
+/// What texts depend on in all cases: the environment's locales; made once.
+[[nodiscard]] const ValueContext& BenchContext();
 
 /// The values of row `index` of a benchmark's list.
 [[nodiscard]] std::vector<PropertyValue> BenchRow(const InventoryList& list, int index);

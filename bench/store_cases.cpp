@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr DatabaseType kRows = ListCatalogue::kRowsType;
 enum Column
 {
     Name,
@@ -28,12 +27,6 @@ enum Column
 };
 /// Changes made one after the other in the durable case.
 constexpr int kChanges = 100;
-
-const ValueContext& Context()
-{
-    static const ValueContext context = ValueContext::FromEnvironment();
-    return context;
-}
 
 double IndexScanMs(const BenchList& list)
 {
@@ -55,7 +48,7 @@ Timing ListInOrder(int rows)
     BenchList& list = BenchList::OfSize(rows);
     Timing timing;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
-        RowStore store(data, definition, Context());
+        RowStore store(data, definition, BenchContext());
         size_t found = 0;
         timing.oursMs = MeasureMs([&] { found = store.FillRows().size(); });
         Require(std::cmp_equal(found, rows), "rows are missing");
@@ -71,7 +64,8 @@ Timing WalkInOrder(int rows)
     list.WithList([&](DataVolume& data, const InventoryList&) {
         std::vector<ObjectId> found;
         timing.oursMs = MeasureMs([&] {
-            for (ObjectId oid = data.SeekFirst(kRows); oid != kNoObject; oid = data.SeekNext(kRows))
+            for (ObjectId oid = data.SeekFirst(ListCatalogue::kRowsType); oid != kNoObject;
+                 oid = data.SeekNext(ListCatalogue::kRowsType))
                 found.push_back(oid);
         });
         Require(std::cmp_equal(found.size(), rows), "rows are missing");
@@ -110,11 +104,12 @@ Timing ReadColumn(int rows, Column column)
         const std::vector ids { definition.columns[column].id };
         int found = 0;
         timing.oursMs = MeasureMs([&] {
-            const auto done = data.OpenDatabase(kRows)->Scan(
-                ids, ScanOrder::Any, [&](ObjectId, std::span<const PropertyValue> values) {
-                    found += values.front().IsMissing() ? 0 : 1;
-                    return true;
-                });
+            const auto done = data.OpenDatabase(ListCatalogue::kRowsType)
+                                  ->Scan(ids, ScanOrder::Any,
+                                      [&](ObjectId, std::span<const PropertyValue> values) {
+                                          found += values.front().IsMissing() ? 0 : 1;
+                                          return true;
+                                      });
             Require(done.IsOk(), "the scan failed");
         });
         Require(found == rows, "values are missing");
@@ -129,7 +124,7 @@ Timing FilterColumn(int rows, FilterCondition condition)
     BenchList& list = BenchList::OfSize(rows);
     Timing timing;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
-        RowStore store(data, definition, Context());
+        RowStore store(data, definition, BenchContext());
         FilterSet filters;
         AddFilter(filters, definition.columns[Price].id, condition, u"10"_s);
         Require(std::cmp_equal(store.FillRows().size(), rows), "rows are missing");
@@ -168,7 +163,7 @@ Timing SortByColumnOf(int rows, Column column)
     BenchList& list = BenchList::OfSize(rows);
     Timing timing;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
-        RowStore store(data, definition, Context());
+        RowStore store(data, definition, BenchContext());
         auto listed = store.FillRows();
         timing.oursMs = MeasureMs(
             [&] { listed = store.SortRows(std::move(listed), definition.columns[column].id); });
@@ -184,11 +179,12 @@ Timing Summarise(int rows)
     BenchList& list = BenchList::OfSize(rows);
     Timing timing;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
-        Require(std::cmp_equal(data.OpenDatabase(kRows)->ListRecords()->size(), rows),
+        Require(std::cmp_equal(
+                    data.OpenDatabase(ListCatalogue::kRowsType)->ListRecords()->size(), rows),
             "rows are missing");
         timing.oursMs = MeasureMs([&] {
-            Require(
-                ComputeTotals(data, definition, nullptr, Context()).lines.size() == 2, "no totals");
+            Require(ComputeTotals(data, definition, nullptr, BenchContext()).lines.size() == 2,
+                "no totals");
         });
     });
     list.WithSqlite([&](sqlite3* connection) {
@@ -207,7 +203,7 @@ Timing AddOne(int rows)
     BenchList& list = BenchList::OfSize(rows);
     Timing timing;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
-        RowStore store(data, definition, Context());
+        RowStore store(data, definition, BenchContext());
         const ObjectId row = store.FillRows().front();
         timing.oursMs = MeasureMs([&] {
             for (int i = 0; i < kChanges; ++i)

@@ -24,16 +24,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr DatabaseType kRows = ListCatalogue::kRowsType;
 /// As many rows as the import puts into one transaction.
 constexpr int kFloorBatch = 200000;
 constexpr double kMaxMegabytes = 64;
-
-const ValueContext& Context()
-{
-    static const ValueContext context = ValueContext::FromEnvironment();
-    return context;
-}
 
 /// The rows of the benchmark's list as a text file, in no order; made once.
 QString TextFile(int rows)
@@ -48,7 +41,7 @@ QString TextFile(int rows)
     for (int i = 0; i < rows; ++i) {
         QStringList fields;
         for (const PropertyValue& value : BenchRow(list.Definition(), i))
-            fields += FormatExportText(value, Context());
+            fields += FormatExportText(value, BenchContext());
         const QString line = fields.join(u'\t') + u"\r\n"_s;
         file.write(reinterpret_cast<const char*>(line.utf16()), line.size() * 2);
     }
@@ -65,7 +58,10 @@ Timing ExportList(int rows)
         QFile file(path);
         Require(file.open(QIODevice::WriteOnly), "cannot make the text file");
         timing.oursMs = MeasureMs([&] {
-            Require(ExportRows(*data.OpenDatabase(kRows), definition, Context(), file).rows == rows,
+            Require(ExportRows(*data.OpenDatabase(ListCatalogue::kRowsType), definition,
+                        BenchContext(), file)
+                        .rows
+                    == rows,
                 "the export missed rows");
             file.close();
         });
@@ -171,8 +167,8 @@ Timing ImportList(int rows)
         for (const ColumnDefinition& column : definition.columns)
             columns.push_back(column.id);
         timing.oursMs = MeasureMs([&] {
-            Require(
-                ImportRows(data, columns, Context(), file).rows == rows, "the import missed rows");
+            Require(ImportRows(data, columns, BenchContext(), file).rows == rows,
+                "the import missed rows");
         });
     });
     const auto bound = BoundRows(list);
@@ -202,8 +198,8 @@ double PeakMegabytes(const QStringList& command)
     malloc_trim(0);
     const pid_t process = fork();
     if (process == 0) {
-        freopen("/dev/null", "w", stdout);
-        execv(arguments[0], arguments.data());
+        if (freopen("/dev/null", "w", stdout))
+            execv(arguments[0], arguments.data());
         _exit(127);
     }
     int status = 0;

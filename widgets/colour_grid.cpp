@@ -17,9 +17,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kColumnLength = 6;
-constexpr QRgb kOutline = qRgb(192, 192, 192);
-constexpr int kInset = 3;
-constexpr qreal kRound = 4;
+constexpr QRgb kSwatchOutline = qRgb(192, 192, 192);
+constexpr int kSwatchInset = 3;
 
 /// One colour of the grid.
 class Swatch : public QAbstractButton
@@ -34,7 +33,7 @@ public:
         setCheckable(true);
         setChecked(isSelected);
         setFocusPolicy(Qt::StrongFocus);
-        const int size = std::min(CurrentMeasures().lineHeight + 2 * kInset, kMinTouchTarget);
+        const int size = std::min(CurrentMeasures().lineHeight + 2 * kSwatchInset, kMinTouchTarget);
         setFixedSize(size, size);
     }
     void enterEvent(QEnterEvent* /*event*/) override { setFocus(); }
@@ -45,18 +44,20 @@ public:
         if (hasFocus() || isChecked()) {
             painter.setPen(Qt::NoPen);
             painter.setBrush(palette().color(QPalette::Highlight));
-            painter.drawRoundedRect(rect(), kRound + kInset, kRound + kInset);
+            painter.drawRoundedRect(
+                rect(), kCornerRadius + kSwatchInset, kCornerRadius + kSwatchInset);
         }
         if (isChecked() && !hasFocus()) {
             painter.setBrush(palette().color(QPalette::Base));
-            painter.drawRoundedRect(rect().adjusted(2, 2, -2, -2), kRound + 1, kRound + 1);
+            painter.drawRoundedRect(
+                rect().adjusted(2, 2, -2, -2), kCornerRadius + 1, kCornerRadius + 1);
         }
         const bool isAutomatic = m_index == kAutomaticColour;
-        painter.setPen(QColor(kOutline));
+        painter.setPen(QColor(kSwatchOutline));
         painter.setBrush(isAutomatic ? palette().color(QPalette::Text) : PaletteColour(m_index));
-        painter.drawRoundedRect(
-            QRectF(rect()).adjusted(kInset + .5, kInset + .5, -kInset - .5, -kInset - .5), kRound,
-            kRound);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(kSwatchInset + .5, kSwatchInset + .5,
+                                    -kSwatchInset - .5, -kSwatchInset - .5),
+            kCornerRadius, kCornerRadius);
         if (isAutomatic) {
             painter.setPen(palette().color(QPalette::Base));
             painter.drawText(rect(), Qt::AlignCenter, u"A"_s);

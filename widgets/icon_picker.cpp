@@ -20,7 +20,6 @@ namespace {
 
 constexpr int kTriangleWidth = 12;
 constexpr int kTriangleHeight = 6;
-constexpr qreal kRound = 4;
 
 enum class Face
 {
@@ -53,7 +52,8 @@ public:
         const QColor ink = palette().color(isDown() ? QPalette::Base : QPalette::Text);
         painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
         painter.setBrush(palette().color(isDown() ? QPalette::Text : QPalette::Base));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), kRound, kRound);
+        painter.drawRoundedRect(
+            QRectF(rect()).adjusted(.5, .5, -.5, -.5), kCornerRadius, kCornerRadius);
         painter.setPen(ink);
         if (m_face == Face::Dots) {
             painter.drawText(rect(), Qt::AlignCenter, u"..."_s);
@@ -172,7 +172,7 @@ void IconPicker::paintEvent(QPaintEvent* /*event*/)
     face.setRight(firstButton->x() - 3);
     painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
     painter.setBrush(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Base));
-    painter.drawRoundedRect(QRectF(face).adjusted(.5, .5, -.5, -.5), kRound, kRound);
+    painter.drawRoundedRect(QRectF(face).adjusted(.5, .5, -.5, -.5), kCornerRadius, kCornerRadius);
     if (m_icon < 0)
         return;
     const int size = face.height() - kGrid;

@@ -16,6 +16,8 @@ constexpr Measures kMouseMeasures { 40, 44, 28, 16 };
 
 constexpr int kGrid = 8;
 constexpr int kPageMargin = 16;
+/// Of what is drawn with round corners: swatches, faces of pickers.
+constexpr double kCornerRadius = 4;
 /// The margin of pages narrower than kNarrowPage.
 constexpr int kNarrowMargin = 8;
 constexpr int kNarrowPage = 300;

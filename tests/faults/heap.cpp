@@ -11,18 +11,18 @@ namespace Quillory {
 namespace {
 
 /// Steps among whose allocations the failing one is.
-constexpr size_t kSteps = 3;
+constexpr size_t kStepsAtOnce = 3;
 
 /// Those of `operator new`.
 Allocations theHeap;
 
-int CountAllocations(const FaultRun& run, const Script& script, size_t step)
+int CountHeapAllocations(const FaultRun& run, const Script& script, size_t step)
 {
     theHeap = {};
     Session session;
     if (session.Start(run.DataFile()) != ErrorNumber::None)
         qFatal("the workload cannot start");
-    for (size_t i = step; i < std::min(step + kSteps, script.steps.size()); ++i) {
+    for (size_t i = step; i < std::min(step + kStepsAtOnce, script.steps.size()); ++i) {
         if (!session.Run(script.steps[i]).isDone)
             qFatal("the workload cannot run");
     }
@@ -31,7 +31,7 @@ int CountAllocations(const FaultRun& run, const Script& script, size_t step)
 
 /// Ends as the command line does: what is open is closed while the exception passes by. Where it
 /// cannot pass, and where Qt does not survive it, the program dies, which is as if it were killed.
-Verdict ExhaustAt(
+Verdict ExhaustHeapAt(
     const FaultRun& run, const Script& script, size_t step, const Allocations& failing)
 {
     const Doom doom = RunDoomed(run, script, step, [&](const auto& work) {
@@ -56,9 +56,10 @@ void ExhaustHeap(FaultRun& run)
 {
     ExhaustAllocations(
         run,
-        [&run](const Script& script, size_t step) { return CountAllocations(run, script, step); },
+        [&run](
+            const Script& script, size_t step) { return CountHeapAllocations(run, script, step); },
         [&run](const Script& script, size_t step, const Allocations& failing) {
-            return ExhaustAt(run, script, step, failing);
+            return ExhaustHeapAt(run, script, step, failing);
         });
 }
 

@@ -54,7 +54,7 @@ private:
     bool m_isDue = false;
 };
 
-int CountCalls(const FaultRun& run, const Script& script, size_t step)
+int CountKillPoints(const FaultRun& run, const Script& script, size_t step)
 {
     Killer counter(0, KillMoment::BeforeTheCall);
     const WatchScope watch(run.Folder(), counter);
@@ -86,7 +86,7 @@ void KillAt(FaultRun& run, const Script& script, size_t step, int callNumber, Ki
 void KillThrough(FaultRun& run, const Script& script, int runs)
 {
     ForEachCall(
-        run, script, runs, [&](size_t step) { return CountCalls(run, script, step); },
+        run, script, runs, [&](size_t step) { return CountKillPoints(run, script, step); },
         [&](size_t step, const Files& before, int call) {
             for (const KillMoment moment : { KillMoment::BeforeTheCall, KillMoment::MidCall }) {
                 run.Place(before);

@@ -9,7 +9,7 @@ namespace Quillory {
 
 namespace {
 
-constexpr size_t kStepsAfter = 3;
+constexpr size_t kStepsAfterwards = 3;
 
 /// SQLite's memory.
 struct Memory
@@ -59,7 +59,7 @@ Verdict ExhaustAt(
 {
     const auto believer = std::make_shared<Believer>(run.DataFile(), script, step);
     TheMemory().allocations = failing;
-    believer->Run(kStepsAfter);
+    believer->Run(kStepsAfterwards);
     believer->End();
     TheMemory().allocations = {};
     return

@@ -100,7 +100,8 @@ void Weaken(const char* synchronous)
 
 /// `synchronous` is a value of that pragma, for tests that must find faults; null leaves what the
 /// program sets.
-void Record(const FaultRun& run, const Script& script, const char* synchronous, Recorder& recorder)
+void RecordCalls(
+    const FaultRun& run, const Script& script, const char* synchronous, Recorder& recorder)
 {
     run.Clear();
     const WatchScope watch(run.Folder(), recorder);
@@ -157,7 +158,7 @@ void CutPower(FaultRun& run, const char* synchronous)
 {
     OnScripts(run, [&](const Script& script) {
         Recorder recorder;
-        Record(run, script, synchronous, recorder);
+        RecordCalls(run, script, synchronous, recorder);
         CutEverywhere(run, script, recorder);
     });
 }
