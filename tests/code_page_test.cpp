@@ -1,7 +1,6 @@
 #include "platform/code_page.h"
 #include "platform/locale_profile.h"
-
-#include <QTest>
+#include "tests/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -159,5 +158,5 @@ void CodePageTest::theEnvironmentChoosesByCategory()
 
 } // namespace Quillory
 
-QTEST_APPLESS_MAIN(Quillory::CodePageTest)
+QUILLORY_TEST(QCoreApplication, Quillory::CodePageTest)
 #include "code_page_test.moc"

@@ -2,12 +2,12 @@
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "tests/page_damage.h"
+#include "tests/test_program.h"
 
 #include <QBuffer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTest>
 
 #include <utility>
 
@@ -547,5 +547,5 @@ void CommandLineTest::theWindowKeepsItsArguments()
     QVERIFY(call.errors.startsWith("quillory: there is no command “shwo”\nusage: quillory"));
 }
 
-QTEST_GUILESS_MAIN(CommandLineTest)
+QUILLORY_TEST(QCoreApplication, CommandLineTest)
 #include "command_line_test.moc"

@@ -1,8 +1,7 @@
 #include "propdb/confined_vfs.h"
 #include "tests/file_bytes.h"
+#include "tests/test_program.h"
 #include "tests/volume_fixture.h"
-
-#include <QTest>
 
 #include <sqlite3.h>
 
@@ -111,5 +110,5 @@ void ConfinedVfsTest::noPieceOfADamagedPageIsRead()
         QCOMPARE(bytes, file.mid(offset, amount).leftJustified(amount, '\0'));
 }
 
-QTEST_GUILESS_MAIN(ConfinedVfsTest)
+QUILLORY_TEST(QCoreApplication, ConfinedVfsTest)
 #include "confined_vfs_test.moc"

@@ -1,9 +1,9 @@
 #include "app/data_file_opener.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
+#include "tests/test_program.h"
 
 #include <QQueue>
-#include <QTest>
 
 #include <functional>
 #include <optional>
@@ -209,6 +209,6 @@ void DataFileOpenerTest::aMissingFolderIsLookedForAgain()
 
 } // namespace
 
-QTEST_GUILESS_MAIN(DataFileOpenerTest)
+QUILLORY_TEST(QCoreApplication, DataFileOpenerTest)
 
 #include "data_file_opener_test.moc"

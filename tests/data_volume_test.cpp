@@ -1,7 +1,7 @@
 #include "store/data_volume.h"
+#include "tests/test_program.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <functional>
 #include <memory>
@@ -190,5 +190,5 @@ void DataVolumeTest::theDestructorRollsBackWhatWasNotCommitted()
     QVERIFY(!m_volume->Open(u"lost"_s, kType, kByName.front()));
 }
 
-QTEST_GUILESS_MAIN(DataVolumeTest)
+QUILLORY_TEST(QCoreApplication, DataVolumeTest)
 #include "data_volume_test.moc"

@@ -1,7 +1,6 @@
 #include "platform/date_picture.h"
 #include "platform/date_reader.h"
-
-#include <QTest>
+#include "tests/test_program.h"
 
 using namespace Qt::StringLiterals;
 
@@ -210,5 +209,5 @@ void DateReaderTest::datesBefore1601HaveNoShortForm()
 
 } // namespace Quillory
 
-QTEST_APPLESS_MAIN(Quillory::DateReaderTest)
+QUILLORY_TEST(QCoreApplication, Quillory::DateReaderTest)
 #include "date_reader_test.moc"

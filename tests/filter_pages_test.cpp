@@ -2,6 +2,7 @@
 #include "rows/filter_page.h"
 #include "rows/filters_page.h"
 #include "tests/list_fixture.h"
+#include "tests/test_program.h"
 #include "widgets/page_stack.h"
 
 #include <QApplication>
@@ -9,7 +10,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTableView>
-#include <QTest>
 
 #include <memory>
 #include <optional>
@@ -315,5 +315,5 @@ void FilterPagesTest::addThenCancelAddsTheFreshEntry()
     QVERIFY(m_result.has_value());
 }
 
-QTEST_MAIN(FilterPagesTest)
+QUILLORY_TEST(QApplication, FilterPagesTest)
 #include "filter_pages_test.moc"

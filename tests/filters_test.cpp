@@ -1,7 +1,6 @@
 #include "tests/list_fixture.h"
+#include "tests/test_program.h"
 #include "values/file_date.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -124,5 +123,5 @@ void FiltersTest::conditionsAreOfferedByType()
 
 } // namespace Quillory
 
-QTEST_GUILESS_MAIN(Quillory::FiltersTest)
+QUILLORY_TEST(QCoreApplication, Quillory::FiltersTest)
 #include "filters_test.moc"

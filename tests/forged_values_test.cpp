@@ -1,7 +1,6 @@
 #include "propdb/confined_vfs.h"
+#include "tests/test_program.h"
 #include "tests/volume_fixture.h"
-
-#include <QTest>
 
 #include <sqlite3.h>
 
@@ -149,5 +148,5 @@ void ForgedValuesTest::aForgedCatalogueIsRefused()
     QCOMPARE(volume.Error(), ErrorNumber::FileCorrupt);
 }
 
-QTEST_GUILESS_MAIN(ForgedValuesTest)
+QUILLORY_TEST(QCoreApplication, ForgedValuesTest)
 #include "forged_values_test.moc"

@@ -1,8 +1,8 @@
 #include "store/kept_copies.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
+#include "tests/test_program.h"
 
-#include <QTest>
 #include <QTimeZone>
 
 #include <filesystem>
@@ -181,5 +181,5 @@ void KeptCopiesTest::dataFilesHaveCopiesOfTheirOwn()
     QCOMPARE(ListKeptCopies(roundabout, runs.Folder()).size(), size_t { 1 });
 }
 
-QTEST_GUILESS_MAIN(KeptCopiesTest)
+QUILLORY_TEST(QCoreApplication, KeptCopiesTest)
 #include "kept_copies_test.moc"

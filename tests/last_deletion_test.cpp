@@ -1,8 +1,7 @@
 #include "store/last_deletion.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
-
-#include <QTest>
+#include "tests/test_program.h"
 
 #include <memory>
 
@@ -151,5 +150,5 @@ void LastDeletionTest::whatIsForgottenIsGoneFromTheFile()
     QVERIFY(!fileHolds(u"Uncommonly-green-tea"));
 }
 
-QTEST_GUILESS_MAIN(LastDeletionTest)
+QUILLORY_TEST(QCoreApplication, LastDeletionTest)
 #include "last_deletion_test.moc"

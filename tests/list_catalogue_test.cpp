@@ -1,8 +1,7 @@
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
+#include "tests/test_program.h"
 #include "values/column_type.h"
-
-#include <QTest>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -192,5 +191,5 @@ void ListCatalogueTest::emptyingAListKeepsItsColumns()
     QCOMPARE(file.list.columns, columns);
 }
 
-QTEST_GUILESS_MAIN(ListCatalogueTest)
+QUILLORY_TEST(QCoreApplication, ListCatalogueTest)
 #include "list_catalogue_test.moc"

@@ -1,6 +1,7 @@
 #include "listdef/column_definition_page.h"
 #include "listdef/column_table_model.h"
 #include "listdef/list_sheet.h"
+#include "tests/test_program.h"
 #include "values/column_type.h"
 #include "widgets/colour_button.h"
 #include "widgets/icon_grid.h"
@@ -11,7 +12,6 @@
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTableView>
-#include <QTest>
 
 #include <memory>
 
@@ -340,5 +340,5 @@ void ListSheetTest::anExistingListKeepsItsColumnsAndAName()
     QCOMPARE(m_page->Result().columns, list.columns);
 }
 
-QTEST_MAIN(ListSheetTest)
+QUILLORY_TEST(QApplication, ListSheetTest)
 #include "list_sheet_test.moc"

@@ -1,5 +1,6 @@
 #include "store/kept_copies.h"
 #include "tests/main_frame_errand.h"
+#include "tests/test_program.h"
 
 #include <QApplication>
 #include <QFile>
@@ -7,7 +8,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
-#include <QTest>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -245,5 +245,5 @@ void MainFrameSafetyTest::aDamagedFileIsReplacedByItsCopy()
     QCOMPARE(errand.Lines(), u"Zoo"_s);
 }
 
-QTEST_MAIN(MainFrameSafetyTest)
+QUILLORY_TEST(QApplication, MainFrameSafetyTest)
 #include "main_frame_safety_test.moc"

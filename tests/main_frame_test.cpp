@@ -1,5 +1,6 @@
 #include "listdef/display_options_page.h"
 #include "tests/main_frame_errand.h"
+#include "tests/test_program.h"
 #include "widgets/icon_picker.h"
 
 #include <QAction>
@@ -14,7 +15,6 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTableView>
-#include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -333,5 +333,5 @@ void MainFrameTest::helpOpensAtThePageItWasAskedFrom()
     QTRY_VERIFY(text->verticalScrollBar()->value() > 0);
 }
 
-QTEST_MAIN(MainFrameTest)
+QUILLORY_TEST(QApplication, MainFrameTest)
 #include "main_frame_test.moc"

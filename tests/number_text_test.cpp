@@ -1,7 +1,6 @@
 #include "platform/leading_number.h"
 #include "platform/number_text.h"
-
-#include <QTest>
+#include "tests/test_program.h"
 
 #include <limits>
 
@@ -235,5 +234,5 @@ void NumberTextTest::numbersGoThroughTheCodePage()
 
 } // namespace Quillory
 
-QTEST_APPLESS_MAIN(Quillory::NumberTextTest)
+QUILLORY_TEST(QCoreApplication, Quillory::NumberTextTest)
 #include "number_text_test.moc"

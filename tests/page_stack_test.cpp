@@ -1,7 +1,7 @@
+#include "tests/test_program.h"
 #include "widgets/page_stack.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -83,5 +83,5 @@ void PageStackTest::commandsOfSoftKeysMenusAndShortcutsAreOne()
     QCOMPARE(chosen, (QList<int> { 32780, 32777 }));
 }
 
-QTEST_MAIN(PageStackTest)
+QUILLORY_TEST(QApplication, PageStackTest)
 #include "page_stack_test.moc"

@@ -1,5 +1,6 @@
 #include "listdef/display_options_page.h"
 #include "listdef/import_order_page.h"
+#include "tests/test_program.h"
 #include "values/column_type.h"
 #include "widgets/colour_button.h"
 #include "widgets/colour_grid.h"
@@ -13,7 +14,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <utility>
 
@@ -200,5 +200,5 @@ void PickersTest::importColumnsAreMovedNotLeftOut()
     QCOMPARE(page.findChild<QListWidget*>()->item(1)->text(), u"Name"_s);
 }
 
-QTEST_MAIN(PickersTest)
+QUILLORY_TEST(QApplication, PickersTest)
 #include "pickers_test.moc"

@@ -1,6 +1,5 @@
+#include "tests/test_program.h"
 #include "tests/volume_fixture.h"
-
-#include <QTest>
 
 #include <array>
 #include <cmath>
@@ -14,25 +13,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr PropertyId kName = MakePropertyId(10001, CEVT_LPWSTR);
-constexpr PropertyId kCount = MakePropertyId(10002, CEVT_I4);
-constexpr PropertyId kPrice = MakePropertyId(77, CEVT_R8);
+constexpr PropertyId kRowName = MakePropertyId(10001, CEVT_LPWSTR);
+constexpr PropertyId kRowQuantity = MakePropertyId(10002, CEVT_I4);
+constexpr PropertyId kRowPrice = MakePropertyId(77, CEVT_R8);
 constexpr PropertyId kUndeclared = MakePropertyId(11008, CEVT_BLOB);
-constexpr DatabaseType kType { 71990002 };
-const std::vector<SortOrder> kByName { { kName } };
-const std::vector<PropertySpec> kSpecs {
-    { kName, u"Name"_s },
-    { kCount, u"Quantity"_s },
-    { kPrice, u"name"_s },
+constexpr DatabaseType kRowsType { 71990002 };
+const std::vector<SortOrder> kByRowName { { kRowName } };
+const std::vector<PropertySpec> kRowSpecs {
+    { kRowName, u"Name"_s },
+    { kRowQuantity, u"Quantity"_s },
+    { kRowPrice, u"name"_s },
 };
 
 PropertyValue Text(const QString& text)
 {
-    return { kName, 0, text };
+    return { kRowName, 0, text };
 }
-PropertyValue Count(qint32 count)
+PropertyValue Quantity(qint32 count)
 {
-    return { kCount, 0, count };
+    return { kRowQuantity, 0, count };
 }
 
 /// A volume with one database of rows, and verbs on it.
@@ -42,10 +41,10 @@ public:
     Rows()
     {
         Mount();
-        oid = Take(volume->CreateDatabase(u"rows"_s, kType, kSpecs, kByName));
+        oid = Take(volume->CreateDatabase(u"rows"_s, kRowsType, kRowSpecs, kByRowName));
         Open();
     }
-    void Open() { rows = Take(volume->OpenDatabase(u"rows"_s, kByName.front())); }
+    void Open() { rows = Take(volume->OpenDatabase(u"rows"_s, kByRowName.front())); }
     void Reopen()
     {
         rows.reset();
@@ -62,7 +61,7 @@ public:
         QStringList names;
         for (ObjectId at = Take(rows->SeekFirst()); at != kNoObject; at = Take(rows->SeekNext(1))) {
             const Record record = Take(rows->ReadAll());
-            const PropertyValue* name = FindProperty(record.values, kName);
+            const PropertyValue* name = FindProperty(record.values, kRowName);
             names << (name == nullptr ? u"-"_s : std::get<QString>(name->value));
         }
         return names.join(u' ');
@@ -111,10 +110,10 @@ void PropertyDatabaseTest::anyNameWillDo()
     Rows rows;
     for (const QString& name : { u"sqlite_sequence"_s, u" SQLite_x"_s, u"\"; DROP"_s, u""_s,
              u"oid"_s, QString(300, u'n') }) {
-        const std::vector<PropertySpec> specs { { kName, name } };
-        Take(rows.volume->CreateDatabase(name, kType, specs, kByName));
+        const std::vector<PropertySpec> specs { { kRowName, name } };
+        Take(rows.volume->CreateDatabase(name, kRowsType, specs, kByRowName));
         rows.Reopen();
-        const auto other = Take(rows.volume->OpenDatabase(name, kByName.front()));
+        const auto other = Take(rows.volume->OpenDatabase(name, kByRowName.front()));
         QCOMPARE(other->Properties().front().name, name);
     }
 }
@@ -157,7 +156,7 @@ void PropertyDatabaseTest::textMayBeginWithAByteOrderMark()
     for (const QString& text : { QString(mark), mark + u"rice"_s, turned + u"rice"_s,
              QString(mark) + mark, turned + u""_s + mark, u"rice"_s + mark }) {
         const ObjectId oid = rows.Add({ Text(text) });
-        QCOMPARE(std::get<QString>(rows.Value(oid, kName)), text);
+        QCOMPARE(std::get<QString>(rows.Value(oid, kRowName)), text);
     }
 }
 
@@ -176,14 +175,14 @@ void PropertyDatabaseTest::aTextIsTooLongOnceAndForAll()
         QCOMPARE(rows.rows->Write(oid, tooLong).Error(), ErrorNumber::BadLength);
     }
     int visits = 0;
-    const std::vector ids { kName };
+    const std::vector ids { kRowName };
     const auto done = rows.rows->Scan(ids, ScanOrder::Sorted, [&](ObjectId, auto values) {
         visits += std::get<QString>(values[0].value) == most ? 1 : 0;
         return true;
     });
     QVERIFY(done.IsOk());
     QCOMPARE(visits, 1);
-    Take(rows.rows->Write(oid, std::vector { Count(1) }));
+    Take(rows.rows->Write(oid, std::vector { Quantity(1) }));
     QVERIFY(rows.rows->DeleteRecord(oid).IsOk());
 }
 
@@ -192,7 +191,7 @@ void PropertyDatabaseTest::recordsAreSortedByUnitWithMissingKeysLast()
     Rows rows;
     // By unit a private-use character stands behind one beyond the first plane.
     const QString beyond = u"\U00010000"_s;
-    rows.Add({ Count(1) });
+    rows.Add({ Quantity(1) });
     for (const QString& name : { u"pear"_s, u"\uFFFD"_s, beyond, u"Pear"_s, u""_s, u"pea"_s })
         rows.Add({ Text(name) });
     rows.Reopen();
@@ -204,17 +203,17 @@ void PropertyDatabaseTest::aWalkSurvivesWritesUnderIt()
     Rows rows;
     for (const QString& name : { u"a"_s, u"b"_s, u"d"_s })
         rows.Add({ Text(name) });
-    const ObjectId keyless = rows.Add({ Count(0) });
+    const ObjectId keyless = rows.Add({ Quantity(0) });
     QStringList seen;
     for (ObjectId at = Take(rows.rows->SeekFirst()); at != kNoObject;
          at = Take(rows.rows->SeekNext(1))) {
         const Record record = Take(rows.rows->ReadAll());
-        const PropertyValue* name = FindProperty(record.values, kName);
+        const PropertyValue* name = FindProperty(record.values, kRowName);
         seen << (name == nullptr ? u"-"_s : std::get<QString>(name->value));
         if (seen.last() == u"b"_s)
             rows.Add({ Text(u"c"_s) });
         if (seen.last() == u"d"_s)
-            Take(rows.rows->Write(keyless, std::vector { Count(1) }));
+            Take(rows.rows->Write(keyless, std::vector { Quantity(1) }));
     }
     QCOMPARE(seen.join(u' '), u"a b c d -"_s);
 }
@@ -225,7 +224,7 @@ void PropertyDatabaseTest::aWalkGoesBothWays()
     std::vector<ObjectId> in;
     for (const QString& name : { u"a"_s, u"b"_s, u"c"_s })
         in.push_back(rows.Add({ Text(name) }));
-    in.push_back(rows.Add({ Count(1) }));
+    in.push_back(rows.Add({ Quantity(1) }));
     Database& database = *rows.rows;
     QCOMPARE(Take(database.SeekFirst()), in[0]);
     QCOMPARE(Take(database.SeekNext(3)), in[3]);
@@ -298,13 +297,13 @@ void PropertyDatabaseTest::aRollbackKeepsThePosition()
 void PropertyDatabaseTest::writingSomePropertiesLeavesTheOthers()
 {
     Rows rows;
-    const ObjectId oid = rows.Add({ Text(u"nails"_s), Count(7), { kPrice, 0, 2.5 } });
-    QCOMPARE(Take(rows.rows->Write(oid, std::vector { Count(8) })), oid);
-    Take(rows.rows->Write(oid, std::vector { PropertyValue { kPrice, CEDB_PROPDELETE, {} } }));
+    const ObjectId oid = rows.Add({ Text(u"nails"_s), Quantity(7), { kRowPrice, 0, 2.5 } });
+    QCOMPARE(Take(rows.rows->Write(oid, std::vector { Quantity(8) })), oid);
+    Take(rows.rows->Write(oid, std::vector { PropertyValue { kRowPrice, CEDB_PROPDELETE, {} } }));
     rows.Reopen();
-    QCOMPARE(std::get<QString>(rows.Value(oid, kName)), u"nails"_s);
-    QCOMPARE(std::get<qint32>(rows.Value(oid, kCount)), 8);
-    QVERIFY(std::holds_alternative<std::monostate>(rows.Value(oid, kPrice)));
+    QCOMPARE(std::get<QString>(rows.Value(oid, kRowName)), u"nails"_s);
+    QCOMPARE(std::get<qint32>(rows.Value(oid, kRowQuantity)), 8);
+    QVERIFY(std::holds_alternative<std::monostate>(rows.Value(oid, kRowPrice)));
 }
 
 void PropertyDatabaseTest::readFlagsWhatIsMissing()
@@ -312,7 +311,7 @@ void PropertyDatabaseTest::readFlagsWhatIsMissing()
     Rows rows;
     rows.Add({ Text(u"x"_s) });
     Take(rows.rows->SeekFirst());
-    const std::vector ids { kCount, kName, kUndeclared };
+    const std::vector ids { kRowQuantity, kRowName, kUndeclared };
     const Record record = Take(rows.rows->Read(ids));
     QCOMPARE(record.values.size(), size_t { 3 });
     QVERIFY(record.values[0].IsMissing() && record.values[2].IsMissing());
@@ -326,7 +325,7 @@ void PropertyDatabaseTest::undeclaredPropertiesAreKeptButNotDeclared()
     const ObjectId oid = rows.Add({ Text(u"x"_s), { kUndeclared, 0, QByteArray("\1\2", 2) } });
     rows.Reopen();
     QCOMPARE(std::get<QByteArray>(rows.Value(oid, kUndeclared)), QByteArray("\1\2", 2));
-    QCOMPARE(rows.rows->Properties().size(), kSpecs.size());
+    QCOMPARE(rows.rows->Properties().size(), kRowSpecs.size());
     QCOMPARE(rows.rows->Properties()[2].name, u"name"_s);
 }
 
@@ -348,7 +347,7 @@ void PropertyDatabaseTest::aRolledBackTransactionLeavesNothing()
     QVERIFY(rows.volume->BeginTransaction().IsOk());
     QCOMPARE(rows.volume->BeginTransaction().Error(), ErrorNumber::AlreadyExists);
     rows.Add({ Text(u"x"_s), { kUndeclared, 0, QByteArray("b") } });
-    Take(rows.volume->CreateDatabase(u"other"_s, kType, kSpecs, kByName));
+    Take(rows.volume->CreateDatabase(u"other"_s, kRowsType, kRowSpecs, kByRowName));
     QVERIFY(rows.volume->EndTransaction(false).IsOk());
     QCOMPARE(Take(rows.rows->RecordCount()), 0);
     QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
@@ -383,7 +382,7 @@ void PropertyDatabaseTest::aFailureInATransactionLeavesNothingOfItself()
     std::vector<PropertySpec> tooMany;
     for (quint16 i = 0; i < 600; ++i)
         tooMany.push_back({ MakePropertyId(i, CEVT_I4), u"n"_s });
-    QVERIFY(!rows.volume->CreateDatabase(u"wide"_s, kType, tooMany, {}).IsOk());
+    QVERIFY(!rows.volume->CreateDatabase(u"wide"_s, kRowsType, tooMany, {}).IsOk());
     QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
     const std::vector wrongType { Text(u"c"_s), PropertyValue { kUndeclared, 0, u"text"_s } };
     QCOMPARE(rows.rows->Write(kNoObject, wrongType).Error(), ErrorNumber::InvalidParameter);
@@ -408,23 +407,24 @@ void PropertyDatabaseTest::refusals()
     Rows rows;
     const auto create = [&](const QString& name, const std::vector<PropertySpec>& specs,
                             const std::vector<SortOrder>& orders) {
-        return rows.volume->CreateDatabase(name, kType, specs, orders).Error();
+        return rows.volume->CreateDatabase(name, kRowsType, specs, orders).Error();
     };
-    QCOMPARE(create(u"rows"_s, kSpecs, kByName), ErrorNumber::DuplicateName);
-    QCOMPARE(
-        create(u"x"_s, { { kName, u"a"_s }, { kName, u"b"_s } }, {}), ErrorNumber::AlreadyExists);
+    QCOMPARE(create(u"rows"_s, kRowSpecs, kByRowName), ErrorNumber::DuplicateName);
+    QCOMPARE(create(u"x"_s, { { kRowName, u"a"_s }, { kRowName, u"b"_s } }, {}),
+        ErrorNumber::AlreadyExists);
     QCOMPARE(create(u"x"_s, {}, {}), ErrorNumber::InvalidParameter);
-    QCOMPARE(create(u"x"_s, { { kCount, u"a"_s } }, kByName), ErrorNumber::InvalidParameter);
+    QCOMPARE(
+        create(u"x"_s, { { kRowQuantity, u"a"_s } }, kByRowName), ErrorNumber::InvalidParameter);
     const auto write = [&](ObjectId oid, const std::vector<PropertyValue>& values) {
         return rows.rows->Write(oid, values).Error();
     };
     QCOMPARE(write(kNoObject, {}), ErrorNumber::InvalidParameter);
-    QCOMPARE(write(kNoObject, { Count(1), Count(2) }), ErrorNumber::AlreadyExists);
-    QCOMPARE(write(kNoObject, { { kCount, 0, u"text"_s } }), ErrorNumber::InvalidParameter);
+    QCOMPARE(write(kNoObject, { Quantity(1), Quantity(2) }), ErrorNumber::AlreadyExists);
+    QCOMPARE(write(kNoObject, { { kRowQuantity, 0, u"text"_s } }), ErrorNumber::InvalidParameter);
     QCOMPARE(write(kNoObject, { { MakePropertyId(1, 99), 0, 1 } }), ErrorNumber::InvalidParameter);
-    QCOMPARE(write(static_cast<ObjectId>(9999), { Count(1) }), ErrorNumber::NotFound);
-    QCOMPARE(
-        rows.volume->OpenDatabase(u"rows"_s, { kCount }).Error(), ErrorNumber::InvalidParameter);
+    QCOMPARE(write(static_cast<ObjectId>(9999), { Quantity(1) }), ErrorNumber::NotFound);
+    QCOMPARE(rows.volume->OpenDatabase(u"rows"_s, { kRowQuantity }).Error(),
+        ErrorNumber::InvalidParameter);
     QCOMPARE(rows.volume->EndTransaction(true).Error(), ErrorNumber::InvalidHandle);
     QCOMPARE(rows.volume->DeleteDatabase(rows.oid).Error(), ErrorNumber::SharingViolation);
     QCOMPARE(
@@ -432,17 +432,17 @@ void PropertyDatabaseTest::refusals()
     QCOMPARE(Take(rows.rows->RecordCount()), 0);
     rows.rows.reset();
     QVERIFY(rows.volume->DeleteDatabase(rows.oid).IsOk());
-    QCOMPARE(
-        rows.volume->OpenDatabase(u"rows"_s, kByName.front()).Error(), ErrorNumber::FileNotFound);
+    QCOMPARE(rows.volume->OpenDatabase(u"rows"_s, kByRowName.front()).Error(),
+        ErrorNumber::FileNotFound);
 }
 
 void PropertyDatabaseTest::scansGiveEveryRecordOnce()
 {
     Rows rows;
-    rows.Add({ Text(u"b"_s), Count(2) });
-    rows.Add({ Count(3) });
+    rows.Add({ Text(u"b"_s), Quantity(2) });
+    rows.Add({ Quantity(3) });
     rows.Add({ Text(u"a"_s) });
-    const std::vector ids { kCount, kUndeclared };
+    const std::vector ids { kRowQuantity, kUndeclared };
     const auto counts = [&](ScanOrder order) {
         QStringList texts;
         const auto done = rows.rows->Scan(ids, order, [&](ObjectId, auto values) {
@@ -487,16 +487,16 @@ void PropertyDatabaseTest::aListingFollowsEveryWrite()
         QString text;
         for (const ObjectId oid : Take(rows.rows->ListRecords())) {
             const auto found = rows.rows->SeekTo(oid);
-            const auto record = rows.rows->Read(std::array { kName });
+            const auto record = rows.rows->Read(std::array { kRowName });
             text += found && record ? std::get<QString>(record->values.front().value) : u"?"_s;
         }
         return text;
     };
-    const ObjectId b = rows.Add({ Text(u"b"_s), Count(1) });
+    const ObjectId b = rows.Add({ Text(u"b"_s), Quantity(1) });
     QCOMPARE(names(), u"b"_s);
     const ObjectId a = rows.Add({ Text(u"a"_s) });
     QCOMPARE(names(), u"ab"_s);
-    QVERIFY(rows.rows->Write(b, std::array { Count(2) }).IsOk());
+    QVERIFY(rows.rows->Write(b, std::array { Quantity(2) }).IsOk());
     QCOMPARE(names(), u"ab"_s);
     QVERIFY(rows.volume->BeginTransaction().IsOk());
     QVERIFY(rows.rows->Write(a, std::array { Text(u"c"_s) }).IsOk());
@@ -507,5 +507,5 @@ void PropertyDatabaseTest::aListingFollowsEveryWrite()
     QCOMPARE(names(), u"b"_s);
 }
 
-QTEST_GUILESS_MAIN(PropertyDatabaseTest)
+QUILLORY_TEST(QCoreApplication, PropertyDatabaseTest)
 #include "property_database_test.moc"

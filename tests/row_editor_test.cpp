@@ -1,5 +1,6 @@
 #include "rows/row_editor.h"
 #include "tests/list_fixture.h"
+#include "tests/test_program.h"
 #include "widgets/page_stack.h"
 
 #include <QApplication>
@@ -7,7 +8,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTableView>
-#include <QTest>
 
 #include <memory>
 #include <optional>
@@ -301,5 +301,5 @@ void RowEditorTest::theControlStaysInViewWhenThePageShrinks()
     QVERIFY(View()->visualRect(View()->model()->index(Expiry, 1)).contains(place()));
 }
 
-QTEST_MAIN(RowEditorTest)
+QUILLORY_TEST(QApplication, RowEditorTest)
 #include "row_editor_test.moc"

@@ -1,11 +1,11 @@
 #include "store/totals.h"
 #include "tests/list_fixture.h"
 #include "tests/page_damage.h"
+#include "tests/test_program.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <algorithm>
 #include <limits>
@@ -245,5 +245,5 @@ void RowStoreTest::totalsAreAddedInTheOrderOfNamesWhereItShows()
     QVERIFY(Totals(file).contains(u"1.#"_s));
 }
 
-QTEST_GUILESS_MAIN(RowStoreTest)
+QUILLORY_TEST(QCoreApplication, RowStoreTest)
 #include "row_store_test.moc"

@@ -1,4 +1,5 @@
 #include "tests/rows_view_errand.h"
+#include "tests/test_program.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -212,5 +213,5 @@ void RowsFilterTest::findWithoutAMatchSaysSo()
     QCOMPARE(m_errand->Lines(), u"Rice beans rice flour"_s);
 }
 
-QTEST_MAIN(RowsFilterTest)
+QUILLORY_TEST(QApplication, RowsFilterTest)
 #include "rows_filter_test.moc"

@@ -1,5 +1,6 @@
 #include "rows/row_look.h"
 #include "tests/rows_view_errand.h"
+#include "tests/test_program.h"
 #include "values/file_date.h"
 
 #include <QPointingDevice>
@@ -427,5 +428,5 @@ void RowsViewTest::looksFollowWarnings()
     QVERIFY(!off.isItalic);
 }
 
-QTEST_MAIN(RowsViewTest)
+QUILLORY_TEST(QApplication, RowsViewTest)
 #include "rows_view_test.moc"

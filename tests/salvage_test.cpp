@@ -3,8 +3,7 @@
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "tests/page_damage.h"
-
-#include <QTest>
+#include "tests/test_program.h"
 
 #include <algorithm>
 
@@ -301,5 +300,5 @@ void SalvageTest::anExistingFileIsNotReplaced()
     QCOMPARE(FileBytes(file.Target()), "mine"_ba);
 }
 
-QTEST_GUILESS_MAIN(SalvageTest)
+QUILLORY_TEST(QCoreApplication, SalvageTest)
 #include "salvage_test.moc"

@@ -1,8 +1,8 @@
 #include "app/settings.h"
 #include "tests/file_bytes.h"
+#include "tests/test_program.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -93,6 +93,6 @@ void SettingsTest::withoutAFileTheOptionsInMemoryStay()
 
 } // namespace
 
-QTEST_GUILESS_MAIN(SettingsTest)
+QUILLORY_TEST(QCoreApplication, SettingsTest)
 
 #include "settings_test.moc"

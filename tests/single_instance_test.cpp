@@ -1,9 +1,9 @@
 #include "app/single_instance.h"
+#include "tests/test_program.h"
 
 #include <QFile>
 #include <QLocalSocket>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -352,6 +352,6 @@ void SingleInstanceTest::theFolderIsThisUsersAlone()
 
 } // namespace
 
-QTEST_GUILESS_MAIN(SingleInstanceTest)
+QUILLORY_TEST(QCoreApplication, SingleInstanceTest)
 
 #include "single_instance_test.moc"

@@ -1,10 +1,10 @@
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
+#include "tests/test_program.h"
 #include "transfer/list_file.h"
 #include "transfer/text_export.h"
 
 #include <QBuffer>
-#include <QTest>
 
 #include <algorithm>
 #include <utility>
@@ -199,5 +199,5 @@ void TextExportTest::theDataFileIsNeverATarget()
     QVERIFY(!CreateListFile(u"/no/such/folder/x"_s, file.Path()).failure.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TextExportTest)
+QUILLORY_TEST(QCoreApplication, TextExportTest)
 #include "text_export_test.moc"

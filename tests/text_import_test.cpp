@@ -1,11 +1,11 @@
 #include "tests/list_fixture.h"
+#include "tests/test_program.h"
 #include "tests/trickle.h"
 #include "transfer/import_rows.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
 
 #include <QBuffer>
-#include <QTest>
 
 #include <algorithm>
 #include <utility>
@@ -351,5 +351,5 @@ void TextImportTest::readOnlyDataEndsTheImport()
     QCOMPARE(outcome.rows, 0);
 }
 
-QTEST_GUILESS_MAIN(TextImportTest)
+QUILLORY_TEST(QCoreApplication, TextImportTest)
 #include "text_import_test.moc"

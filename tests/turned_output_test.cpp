@@ -1,8 +1,8 @@
 #include "app/turned_output.h"
 #include "tests/file_bytes.h"
+#include "tests/test_program.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -90,5 +90,5 @@ void TurnedOutputTest::anythingButAWholeNoteIsNone()
 
 } // namespace
 
-QTEST_GUILESS_MAIN(TurnedOutputTest)
+QUILLORY_TEST(QCoreApplication, TurnedOutputTest)
 #include "turned_output_test.moc"

@@ -1,8 +1,7 @@
+#include "tests/test_program.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
 #include "values/value_text.h"
-
-#include <QTest>
 
 #include <limits>
 #include <optional>
@@ -36,7 +35,7 @@ PropertyValue Value(PropertyId id, PropertyVariant value)
     return { id, 0, std::move(value) };
 }
 
-FileTime Day(int year, int month, int day)
+FileTime DayTime(int year, int month, int day)
 {
     return DateToFileTime(QDate(year, month, day)).value();
 }
@@ -145,7 +144,8 @@ void ValueTextTest::everyDestinationHasItsText_data()
         u"1.#J"_s, u"1.#J"_s);
     add("a checked box", Value(kCheckbox, true), QString(), u"Checked"_s, u"Y"_s);
     add("an unchecked box", Value(kCheckbox, false), QString(), u"Unchecked"_s, u"N"_s);
-    add("a date", Value(kDate, Day(2024, 1, 5)), u"05.01.2024"_s, u"05.01.2024"_s, u"05.01.2024"_s);
+    add("a date", Value(kDate, DayTime(2024, 1, 5)), u"05.01.2024"_s, u"05.01.2024"_s,
+        u"05.01.2024"_s);
     add("a file time without a day", Value(kDate, kEndOfFileTimes), QString(), QString(),
         QString());
 }
@@ -207,8 +207,8 @@ void ValueTextTest::typedTextsAndImportedFieldsBecomeValues_data()
     add("N counts where imported", kCheckbox, u"N"_s, true, false);
     addBoth("n is checked", kCheckbox, u"n"_s, true);
     addBoth("no text is checked", kCheckbox, QString(), true);
-    addBoth("a date in the user's locale", kDate, u"2/1/2024"_s, Day(2024, 2, 1));
-    addBoth("a time alone is day zero", kDate, u"10:30"_s, Day(1899, 12, 30));
+    addBoth("a date in the user's locale", kDate, u"2/1/2024"_s, DayTime(2024, 2, 1));
+    addBoth("a time alone is day zero", kDate, u"10:30"_s, DayTime(1899, 12, 30));
     addBoth("30 February is nothing", kDate, u"2/30/2024"_s, {});
     addBoth("a day before 1601 is nothing", kDate, u"12/31/1600"_s, {});
     addBoth("no date is nothing", kDate, QString(), {});
@@ -253,5 +253,5 @@ void ValueTextTest::columnTypesAreStoredAsPropertyTypes()
 
 } // namespace Quillory
 
-QTEST_APPLESS_MAIN(Quillory::ValueTextTest)
+QUILLORY_TEST(QCoreApplication, Quillory::ValueTextTest)
 #include "value_text_test.moc"

@@ -1,9 +1,9 @@
 #include "tests/file_bytes.h"
+#include "tests/test_program.h"
 #include "tests/volume_fixture.h"
 
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -15,22 +15,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr PropertyId kName = MakePropertyId(10001, CEVT_LPWSTR);
-constexpr DatabaseType kType { 71990002 };
-const std::vector<PropertySpec> kSpecs { { kName, u"Name"_s } };
-const std::vector<SortOrder> kByName { { kName } };
+constexpr PropertyId kTitle = MakePropertyId(10001, CEVT_LPWSTR);
+constexpr DatabaseType kTitlesType { 71990002 };
+const std::vector<PropertySpec> kTitleSpecs { { kTitle, u"Name"_s } };
+const std::vector<SortOrder> kByTitle { { kTitle } };
 
 /// A whole data file with some rows, closed.
 QByteArray SampleFile()
 {
     VolumeFixture fixture;
     fixture.Mount();
-    Take(fixture.volume->CreateDatabase(u"rows"_s, kType, kSpecs, kByName));
+    Take(fixture.volume->CreateDatabase(u"rows"_s, kTitlesType, kTitleSpecs, kByTitle));
     {
-        const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByName.front()));
+        const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByTitle.front()));
         for (int i = 0; i < 200; ++i) {
             const QString name = QString::number(i).repeated(20);
-            Take(rows->Write(kNoObject, std::vector { PropertyValue { kName, 0, name } }));
+            Take(rows->Write(kNoObject, std::vector { PropertyValue { kTitle, 0, name } }));
         }
     }
     fixture.volume.reset();
@@ -50,10 +50,10 @@ ErrorNumber ReadThrough(const QString& path)
     if (!volume)
         return volume.Error();
     for (const auto& info : Take((*volume)->Databases())) {
-        const auto rows = (*volume)->OpenDatabase(info.name, kByName.front());
+        const auto rows = (*volume)->OpenDatabase(info.name, kByTitle.front());
         if (!rows)
             return rows.Error();
-        const std::vector ids { kName };
+        const std::vector ids { kTitle };
         for (const ScanOrder order : { ScanOrder::Sorted, ScanOrder::Any }) {
             const auto done = (*rows)->Scan(ids, order, [](ObjectId, auto) { return true; });
             if (!done)
@@ -181,12 +181,12 @@ void VolumeFileTest::aReaderSeesWhatAWriterMakes()
     fixture.volume.reset();
     const auto reader
         = Take(Volume::Mount(fixture.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly));
-    QCOMPARE(reader->OpenDatabase(u"rows"_s, kByName.front()).Error(), ErrorNumber::FileNotFound);
-    QCOMPARE(
-        QProcess::execute(QCoreApplication::applicationFilePath(), { u"--make"_s, fixture.Path() }),
+    QCOMPARE(reader->OpenDatabase(u"rows"_s, kByTitle.front()).Error(), ErrorNumber::FileNotFound);
+    QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(),
+                 { u"volume_file_test"_s, u"--make"_s, fixture.Path() }),
         0);
     QCOMPARE(Take(reader->Databases()).size(), size_t { 1 });
-    QVERIFY(reader->OpenDatabase(u"rows"_s, kByName.front()).IsOk());
+    QVERIFY(reader->OpenDatabase(u"rows"_s, kByTitle.front()).IsOk());
 }
 
 void VolumeFileTest::noFlippedBitGoesUnnoticed()
@@ -236,17 +236,17 @@ void VolumeFileTest::aReplacedFileIsNotWrittenInto()
     VolumeFixture fixture;
     fixture.Mount();
     QVERIFY(QFile::rename(fixture.Path(), fixture.Path(u"moved.idb"_s)));
-    QCOMPARE(fixture.volume->CreateDatabase(u"x"_s, kType, kSpecs, kByName).Error(),
+    QCOMPARE(fixture.volume->CreateDatabase(u"x"_s, kTitlesType, kTitleSpecs, kByTitle).Error(),
         ErrorNumber::FileNotFound);
     const QByteArray sample = SampleFile();
     WriteFileBytes(fixture.Path(), sample);
-    QCOMPARE(fixture.volume->CreateDatabase(u"x"_s, kType, kSpecs, kByName).Error(),
+    QCOMPARE(fixture.volume->CreateDatabase(u"x"_s, kTitlesType, kTitleSpecs, kByTitle).Error(),
         ErrorNumber::SharingViolation);
     QCOMPARE(FileBytes(fixture.Path()), sample);
     // Back at its place it is written again.
     QVERIFY(QFile::remove(fixture.Path()));
     QVERIFY(QFile::rename(fixture.Path(u"moved.idb"_s), fixture.Path()));
-    Take(fixture.volume->CreateDatabase(u"x"_s, kType, kSpecs, kByName));
+    Take(fixture.volume->CreateDatabase(u"x"_s, kTitlesType, kTitleSpecs, kByTitle));
 }
 
 void VolumeFileTest::aBackupIsAWholeVolumeAndReplacesNothing()
@@ -264,19 +264,16 @@ void VolumeFileTest::aBackupIsAWholeVolumeAndReplacesNothing()
 }
 
 /// Started with --make it is the second program of a test.
-// A test program may end by an exception. NOLINTNEXTLINE(bugprone-exception-escape)
-int main(int argc, char** argv)
+static int RunOrMake(int argc, char** argv)
 {
-    if (argc == 3 && QByteArrayView(argv[1]) == "--make") {
-        const auto volume = Volume::Mount(
-            QFile::decodeName(argv[2]), Disposition::OpenExisting, VolumeAccess::Exclusive);
-        if (volume)
-            Take((*volume)->CreateDatabase(u"rows"_s, kType, kSpecs, kByName));
-        return static_cast<int>(volume.Error());
-    }
-    QCoreApplication application(argc, argv);
-    VolumeFileTest test;
-    return QTest::qExec(&test, argc, argv);
+    if (argc != 3 || QByteArrayView(argv[1]) != "--make")
+        return RunTest<QCoreApplication, VolumeFileTest>(argc, argv);
+    const auto volume = Volume::Mount(
+        QFile::decodeName(argv[2]), Disposition::OpenExisting, VolumeAccess::Exclusive);
+    if (volume)
+        Take((*volume)->CreateDatabase(u"rows"_s, kTitlesType, kTitleSpecs, kByTitle));
+    return static_cast<int>(volume.Error());
 }
 
+static const TestProgram kTest(__FILE__, RunOrMake);
 #include "volume_file_test.moc"
