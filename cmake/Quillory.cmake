@@ -37,8 +37,16 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     target_compile_options(quillory_options INTERFACE -Wno-ambiguous-reversed-operator)
 endif()
 
-# What Debian hardens its own packages by. Sanitizers have checks of their own in these places.
-if(NOT QUILLORY_SANITIZE AND NOT QUILLORY_FUZZ)
+if(QUILLORY_SANITIZE)
+    # With what libFuzzer needs, so that its targets share the libraries. On phones `char` has no sign;
+    # here every check runs the other way too.
+    target_compile_options(quillory_options INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+        -fno-omit-frame-pointer -funsigned-char)
+    target_compile_definitions(quillory_options INTERFACE QUILLORY_SANITIZED)
+    target_link_options(quillory_options INTERFACE -fsanitize=address,undefined)
+else()
+    # What Debian hardens its own packages by; the sanitizers have checks of their own there.
     target_compile_options(quillory_options INTERFACE
         -fstack-protector-strong -fstack-clash-protection -Wformat -Werror=format-security
         $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE>
@@ -49,22 +57,6 @@ if(NOT QUILLORY_SANITIZE AND NOT QUILLORY_FUZZ)
         target_compile_options(quillory_options INTERFACE -mbranch-protection=standard)
     endif()
     target_link_options(quillory_options INTERFACE LINKER:-z,relro LINKER:-z,now)
-endif()
-if(QUILLORY_SANITIZE)
-    # On phones `char` has no sign; here every check runs the other way too.
-    target_compile_options(quillory_options INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1
-        -funsigned-char)
-    target_link_options(quillory_options INTERFACE -fsanitize=address,undefined)
-endif()
-if(QUILLORY_FUZZ)
-    target_compile_options(quillory_options INTERFACE
-        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
-    target_link_options(quillory_options INTERFACE -fsanitize=address,undefined)
-endif()
-
-if(QUILLORY_SANITIZE OR QUILLORY_FUZZ)
-    target_compile_definitions(quillory_options INTERFACE QUILLORY_SANITIZED)
 endif()
 
 # Each layer has one set of precompiled headers, those that most of its sources include.
