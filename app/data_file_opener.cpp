@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/data_file_opener.h"
 
 #include "res/string_table.h"

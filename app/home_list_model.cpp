@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/home_list_model.h"
 
 #include "res/string_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/landscape_shape.h"
 
 #include <QScreen>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/home_list.h"
 #include "app/main_frame.h"
 #include "listdef/list_sheet.h"

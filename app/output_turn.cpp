@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/output_turn.h"
 
 #include "app/x11_outputs.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/plain_pages.h"
 
 #include "res/dialog_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/settings.h"
 
 #include "platform/code_page.h"

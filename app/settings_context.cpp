@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/settings_context.h"
 
 namespace Quillory {

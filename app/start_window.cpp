@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/start_window.h"
 
 #include "app/main_frame.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/transfer_progress.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/turned_output.h"
 
 #include "app/settings.h"

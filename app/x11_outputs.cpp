@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/x11_outputs.h"
 
 #include <QGuiApplication>

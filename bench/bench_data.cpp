@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/bench_data.h"
 
 #include "bench/harness.h"

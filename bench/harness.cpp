@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/harness.h"
 
 #include <QElapsedTimer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/harness.h"
 #include "bench/rows_cases.h"
 #include "bench/start_cases.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/rows_cases.h"
 
 #include "bench/bench_data.h"

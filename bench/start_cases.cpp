@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/start_cases.h"
 
 #include "app/home_list.h"

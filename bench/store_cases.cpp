@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/store_cases.h"
 
 #include "bench/bench_data.h"

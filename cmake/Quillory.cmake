@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What every target of the project shares, and one-line helpers to declare them.
 
 include(GNUInstallDirs)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/column_definition_page.h"
 
 #include "res/dialog_table.h"

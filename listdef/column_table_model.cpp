@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/column_table_model.h"
 
 #include "res/string_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/columns_panel.h"
 
 #include "listdef/column_definition_page.h"

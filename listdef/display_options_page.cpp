@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/display_options_page.h"
 
 #include "res/dialog_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/general_panel.h"
 
 #include "res/string_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/import_order_page.h"
 
 #include "res/dialog_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/list_sheet.h"
 
 #include "listdef/columns_panel.h"

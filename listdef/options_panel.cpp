@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/options_panel.h"
 
 #include "listdef/threshold_edit.h"

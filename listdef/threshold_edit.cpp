@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/threshold_edit.h"
 
 #include "res/dialog_table.h"

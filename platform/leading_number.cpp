@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/leading_number.h"
 
 #include "platform/code_page.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/locale_tables.h"
 
 #include <QStringList>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/cursor.h"
 
 #include <utility>

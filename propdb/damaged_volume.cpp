@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/damaged_volume.h"
 
 #include "propdb/page_tree.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/database.h"
 
 #include "propdb/database_state.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/error_number.h"
 
 #include <algorithm>

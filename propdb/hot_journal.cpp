@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/hot_journal.h"
 
 #include "propdb/confined_vfs.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/page_file.h"
 
 #include "propdb/volume_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/page_tree.h"
 
 #include "propdb/stored_record.h"

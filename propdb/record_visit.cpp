@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/record_visit.h"
 
 #include "propdb/sqlite_error.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/schema.h"
 
 #include "propdb/statement.h"

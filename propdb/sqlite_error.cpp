@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/sqlite_error.h"
 
 #include <sqlite3.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/statement.h"
 
 #include "propdb/sqlite_error.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/stored_record.h"
 
 #include <QtEndian>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/value_class.h"
 
 #include <sqlite3.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/volume.h"
 
 #include "propdb/database.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/volume_file.h"
 
 #include "propdb/confined_vfs.h"

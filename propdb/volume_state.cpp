@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/volume_state.h"
 
 #include "propdb/database_state.h"

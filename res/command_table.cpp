@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "res/command_table.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/column_layout.h"
 
 #include "platform/leading_number.h"

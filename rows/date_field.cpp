@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/date_field.h"
 
 #include "values/column_type.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/field_control.h"
 
 #include "rows/date_field.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/filter_page.h"
 
 #include "res/dialog_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/row_delegate.h"
 
 #include "rows/rows_model.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/row_editor.h"
 
 #include "res/dialog_table.h"

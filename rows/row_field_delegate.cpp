@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/row_field_delegate.h"
 
 #include <QPainter>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/row_look.h"
 
 #include "widgets/colour_palette.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/row_painter.h"
 
 #include "widgets/icon_set.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/rows_model.h"
 
 #include "values/column_type.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/rows_table.h"
 
 #include "rows/row_delegate.h"

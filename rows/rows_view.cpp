@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/rows_view.h"
 
 #include "res/dialog_table.h"

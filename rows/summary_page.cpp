@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/summary_page.h"
 
 #include "res/dialog_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/column_scan.h"
 
 #include <algorithm>

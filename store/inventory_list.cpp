@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/inventory_list.h"
 
 #include "res/string_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/kept_copies.h"
 
 #include "propdb/volume_file.h"

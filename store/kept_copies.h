@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "store/data_volume.h"
@@ -34,8 +35,8 @@ enum class KeepOutcome
 [[nodiscard]] QString DefaultCopiesFolder();
 
 /// Keeps a copy of the mounted data file at `path` in a folder of its own below `folder`, which is
-/// made if it is missing, and removes the oldest copies beyond kKeptCopies. Where the system does not
-/// tell how much room is left the copy is tried all the same. To be called at the end of a run,
+/// made if it is missing, and removes the oldest copies beyond kKeptCopies. Where the system does
+/// not tell how much room is left the copy is tried all the same. To be called at the end of a run,
 /// outside a transaction; whatever happens, the data file and its mount are untouched.
 KeepOutcome KeepCopy(
     DataVolume& data, const QString& path, const QString& folder, const QDateTime& now);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/last_deletion.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/list_catalogue.h"
 
 #include "values/column_type.h"

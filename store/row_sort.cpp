@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/row_sort.h"
 
 #include "store/column_scan.h"

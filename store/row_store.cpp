@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/row_store.h"
 
 #include "store/column_scan.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/salvage.h"
 
 #include "propdb/damaged_volume.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/totals.h"
 
 #include "platform/number_text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/code_page.h"
 #include "platform/locale_profile.h"
 #include "tests/test_program.h"

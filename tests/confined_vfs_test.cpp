@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/confined_vfs.h"
 #include "tests/file_bytes.h"
 #include "tests/test_program.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/data_file_opener.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"

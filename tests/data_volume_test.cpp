@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/data_volume.h"
 #include "tests/test_program.h"
 

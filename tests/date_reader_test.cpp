@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/date_picture.h"
 #include "platform/date_reader.h"
 #include "tests/test_program.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/date_field.h"
 #include "rows/filter_page.h"
 #include "rows/filters_page.h"

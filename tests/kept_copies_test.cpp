@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/kept_copies.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"

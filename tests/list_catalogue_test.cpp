@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "tests/test_program.h"

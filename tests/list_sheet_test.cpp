@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/column_definition_page.h"
 #include "listdef/column_table_model.h"
 #include "listdef/list_sheet.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/kept_copies.h"
 #include "tests/main_frame_errand.h"
 #include "tests/test_program.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "listdef/display_options_page.h"
 #include "tests/main_frame_errand.h"
 #include "tests/test_program.h"

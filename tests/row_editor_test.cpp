@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rows/row_editor.h"
 #include "tests/list_fixture.h"
 #include "tests/test_program.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/totals.h"
 #include "tests/list_fixture.h"
 #include "tests/page_damage.h"

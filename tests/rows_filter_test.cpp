@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/rows_view_errand.h"
 #include "tests/test_program.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/single_instance.h"
 #include "tests/test_program.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/list_fixture.h"
 #include "tests/test_program.h"
 #include "tests/trickle.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/turned_output.h"
 #include "tests/file_bytes.h"
 #include "tests/test_program.h"

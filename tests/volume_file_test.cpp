@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/file_bytes.h"
 #include "tests/test_program.h"
 #include "tests/volume_fixture.h"

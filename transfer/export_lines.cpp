@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/export_lines.h"
 
 #include "transfer/list_file.h"

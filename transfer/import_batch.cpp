@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/import_batch.h"
 
 #include "transfer/list_file.h"

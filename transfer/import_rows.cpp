@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/import_rows.h"
 
 #include "transfer/list_file.h"

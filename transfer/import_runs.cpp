@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/import_runs.h"
 
 #include <algorithm>

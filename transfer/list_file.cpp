@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/list_file.h"
 
 #include <sys/stat.h>

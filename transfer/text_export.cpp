@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/text_export.h"
 
 #include "transfer/export_lines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/text_import.h"
 
 #include "store/list_catalogue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "transfer/text_lines.h"
 
 #include "transfer/list_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "values/column_type.h"
 
 namespace Quillory {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "values/file_date.h"
 
 #include "platform/date_reader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "values/filters.h"
 
 #include "platform/leading_number.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/date_reader.h"
 #include "platform/leading_number.h"
 #include "values/column_type.h"

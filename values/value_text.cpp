@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "values/value_text.h"
 
 #include "platform/date_picture.h"

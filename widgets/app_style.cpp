@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/app_style.h"
 
 #include "widgets/icon_set.h"

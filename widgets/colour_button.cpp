@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/colour_button.h"
 
 #include "widgets/colour_grid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/colour_grid.h"
 
 #include "widgets/colour_palette.h"

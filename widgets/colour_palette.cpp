@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/colour_palette.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/desktop_look.h"
 
 #include <QApplication>

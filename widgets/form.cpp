@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/form.h"
 
 #include "widgets/measures.h"

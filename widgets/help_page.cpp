@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/help_page.h"
 
 #include "widgets/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/icon_grid_page.h"
 
 #include "widgets/icon_grid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/icon_set.h"
 
 #include "widgets/colour_palette.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/line_delegate.h"
 
 #include "widgets/measures.h"

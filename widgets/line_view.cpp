@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/line_view.h"
 
 #include "widgets/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/message_box.h"
 
 #include "res/string_table.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/page.h"
 
 #include "widgets/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "widgets/undo_bar.h"
 
 #include "widgets/measures.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/doomed_process.h"
 
 #include <sys/wait.h>

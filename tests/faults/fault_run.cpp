@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/fault_run.h"
 
 #include "tests/file_bytes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "propdb/confined_vfs.h"
 #include "tests/faults/fault_run.h"
 #include "tests/faults/sealed_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/doomed_process.h"
 #include "tests/faults/system_calls.h"
 

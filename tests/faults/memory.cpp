@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/allocations.h"
 #include "tests/faults/believer.h"
 

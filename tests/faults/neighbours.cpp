@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/believer.h"
 #include "tests/faults/fault_run.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/sealed_file.h"
 
 #include "propdb/confined_vfs.h"

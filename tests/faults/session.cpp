@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/session.h"
 
 #include "store/row_store.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/list_catalogue.h"
 #include "tests/fuzz/fuzz_context.h"
 #include "transfer/text_export.h"

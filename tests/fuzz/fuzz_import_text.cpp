@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/fuzz/fuzz_context.h"
 #include "tests/trickle.h"
 #include "transfer/export_lines.h"

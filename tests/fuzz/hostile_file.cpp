@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/fuzz/hostile_file.h"
 
 #include "propdb/confined_vfs.h"
