@@ -113,6 +113,12 @@ if(IS_DIRECTORY /dev/shm)
     list(APPEND QUILLORY_TEST_ENVIRONMENT TMPDIR=/dev/shm)
 endif()
 
+# From 6.8 on the toolkit's own macros for waiting narrow a number of milliseconds.
+add_library(quillory_test_options INTERFACE)
+if(Qt6_VERSION VERSION_GREATER_EQUAL 6.8)
+    target_compile_options(quillory_test_options INTERFACE -Wno-conversion)
+endif()
+
 # quillory_add_test(NAME COMMAND argument...) is a line of ctest's.
 function(quillory_add_test name)
     add_test(NAME ${name} ${ARGN})
@@ -127,7 +133,8 @@ function(quillory_add_tests program layer)
     cmake_parse_arguments(arg "" "" "TESTS;LINKS" ${ARGN})
     list(TRANSFORM arg_TESTS APPEND .cpp OUTPUT_VARIABLE sources)
     add_executable(${program} test_program.cpp ${sources})
-    target_link_libraries(${program} PRIVATE quillory_options Qt6::Test ${arg_LINKS})
+    target_link_libraries(${program} PRIVATE
+        quillory_options quillory_test_options Qt6::Test ${arg_LINKS})
     target_precompile_headers(${program} PRIVATE ${${layer}_headers} <QTest>)
     set_target_properties(${program} PROPERTIES AUTOMOC ON)
     foreach(test ${arg_TESTS})

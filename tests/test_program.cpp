@@ -2,8 +2,10 @@
 #include "tests/test_program.h"
 
 #include <cstdio>
+#include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 
 namespace Quillory {
 
