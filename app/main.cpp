@@ -2,8 +2,30 @@
 #include "app/command_line.h"
 #include "app/start_window.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdlib>
+
+namespace {
+
+/// A file that is opened takes the lowest free number: with a standard stream closed, the data file
+/// would become that stream, and what is printed would go into it. So a closed stream is held by a
+/// file that fails when it is used.
+void HoldStandardStreams()
+{
+    for (const int stream : { STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO }) {
+        const int unusable = stream == STDIN_FILENO ? O_WRONLY : O_RDONLY;
+        if (fcntl(stream, F_GETFD) == -1 && open("/dev/null", unusable) != stream)
+            std::_Exit(EXIT_FAILURE);
+    }
+}
+
+} // namespace
+
 int main(int argumentCount, char** argumentValues)
 {
+    HoldStandardStreams();
     QStringList arguments;
     for (int i = 1; i < argumentCount; ++i)
         arguments << QString::fromLocal8Bit(argumentValues[i]);
