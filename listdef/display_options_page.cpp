@@ -54,7 +54,6 @@ DisplayOptionsPage::DisplayOptionsPage(const DisplayOptions& options, QWidget* p
     enable(options.isLandscape);
 
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
-    connect(this, &Page::CommandChosen, this, [this] { RequestEnd(PageResult::Cancel); });
     setFocusProxy(m_landscape);
 }
 

@@ -54,7 +54,6 @@ ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, Q
     UpdateButtons();
 
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
-    connect(this, &Page::CommandChosen, this, [this] { RequestEnd(PageResult::Cancel); });
     setFocusProxy(m_list);
 }
 

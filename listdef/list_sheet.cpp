@@ -54,10 +54,6 @@ ListSheet::ListSheet(SheetMode mode, const InventoryList& list, QWidget* parent)
     connect(new QShortcut(QKeySequence::NextChild, this), &QShortcut::activated, this,
         [this] { m_tabs->setCurrentIndex((m_tabs->currentIndex() + 1) % m_tabs->count()); });
     connect(m_general, &GeneralPanel::Entered, this, [this] { RequestEnd(PageResult::Ok); });
-    connect(this, &Page::CommandChosen, this, [this](Command command) {
-        if (command == Command::Cancel)
-            RequestEnd(PageResult::Cancel);
-    });
     ShowPanel(0);
     m_before = Result();
 }

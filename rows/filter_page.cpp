@@ -59,10 +59,6 @@ FilterPage::FilterPage(FilterDialogState state, const InventoryList& list,
     form.AddLine(LoadText(Text::Value), m_value);
     Body()->addStretch(1);
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
-    connect(this, &Page::CommandChosen, this, [this](Command command) {
-        if (command == Command::Cancel)
-            RequestEnd(PageResult::Cancel);
-    });
     for (const QLineEdit* edit : { m_text, m_date->Edit() })
         connect(edit, &QLineEdit::returnPressed, this, [this] { RequestEnd(PageResult::Ok); });
     setFocusProxy(m_field);

@@ -72,10 +72,6 @@ RowEditor::RowEditor(
     BuildTable();
     BuildControl();
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
-    connect(this, &Page::CommandChosen, this, [this](Command command) {
-        if (command == Command::Cancel)
-            RequestEnd(PageResult::CancelKey);
-    });
     Edit(0);
 }
 

@@ -21,7 +21,6 @@ IconGridPage::IconGridPage(int selected, QWidget* parent)
     Body()->setContentsMargins(kGrid, kGrid, 0, 0);
     Body()->addWidget(grid, 1);
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
-    connect(this, &Page::CommandChosen, this, [this] { RequestEnd(PageResult::Cancel); });
     connect(grid, &IconGrid::IconTapped, this, [this](int index) {
         m_icon = index;
         End(PageResult::Ok);

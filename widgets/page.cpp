@@ -165,7 +165,12 @@ QAction* Page::ActionOf(Command command)
     auto* action = new QAction(this);
     action->setObjectName(name);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(action, &QAction::triggered, this, [this, command] { Q_EMIT CommandChosen(command); });
+    connect(action, &QAction::triggered, this, [this, command] {
+        if (command == Command::Cancel)
+            RequestEnd(PageResult::Cancel);
+        else
+            Q_EMIT CommandChosen(command);
+    });
     addAction(action);
     return action;
 }
