@@ -147,6 +147,12 @@ void ListSheetTest::sixteenColumnsAreTheLimit()
     QVERIFY(IsEnabled(Command::Insert) && IsEnabled(Command::AddExpiryDateColumn));
     Define(u"again"_s, 0);
     QVERIFY(!IsEnabled(Command::Insert) && !IsEnabled(Command::AddExpiryDateColumn));
+    // The tab makes its soft keys anew.
+    ShowTab(u"General"_s);
+    ShowTab(u"Columns"_s);
+    QTest::mouseClick(Find<QWidget>(u"leftKey"_s), Qt::LeftButton);
+    QCOMPARE(m_stack->Top(), m_page);
+    QVERIFY(!Find<QWidget>(u"leftKey"_s)->isEnabled());
 }
 
 void ListSheetTest::menuEntriesFollowTheSelection()

@@ -217,6 +217,7 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
     action->setText(entry.Text());
     const auto follow = [button, action] { button->setEnabled(action->isEnabled()); };
     connect(action, &QAction::changed, button, follow);
+    follow();
     connect(button, &QToolButton::clicked, action, &QAction::trigger);
     return button;
 }
