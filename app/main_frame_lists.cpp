@@ -155,10 +155,10 @@ void MainFrame::OfferUndo(const QString& text)
 
 void MainFrame::UndoDeletion()
 {
-    // Elsewhere nobody could see what comes back.
-    const bool isHome = m_pages->Top() == m_home;
-    const bool isRows = qobject_cast<RowsView*>(m_pages->Top()) != nullptr;
-    if (!isHome && !(isRows && m_deletion.CanUndoIn(m_openList)))
+    // Elsewhere nobody could see what comes back, and a list that is only read stays as it is.
+    const auto* rows = qobject_cast<RowsView*>(m_pages->Top());
+    const bool isRows = rows != nullptr && rows->MayShowRestored();
+    if (m_pages->Top() != m_home && !(isRows && m_deletion.CanUndoIn(m_openList)))
         return;
     m_pages->Top()->WithdrawUndo();
     if (const auto restored = m_deletion.Undo())

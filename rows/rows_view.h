@@ -37,6 +37,12 @@ public:
     using RowDeleter = std::function<bool(ObjectId row)>;
     /// Who deletes rows; the store itself unless told otherwise.
     void SetRowDeleter(RowDeleter deleter);
+    /// Whether rows may come back into this view: neither into one that is only read, nor among the
+    /// results of a Find.
+    [[nodiscard]] bool MayShowRestored() const
+    {
+        return !m_options.isReadOnly && !m_options.foundBy;
+    }
     /// Adds a line for a row that came back, and selects it.
     void ShowRestored(ObjectId row);
     /// Shows the rows that meet the criteria, the selected one selected again if it is among them,

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void closingAsksBeforeInputIsLost();
     void aDeletedListComesBack();
     void aDeletedRowComesBack();
+    void nothingComesBackIntoAListThatIsOnlyRead();
     void aFailedWriteIsToldOnceAndWorkGoesOn();
     void whatCouldNotBeStoredIsTypedOnlyOnce();
     void aFileReplacedUnderAnEditorTakesWhatIsTyped();
@@ -102,6 +103,30 @@ void MainFrameSafetyTest::aDeletedRowComesBack()
     QCOMPARE(table->model()->rowCount(), 0);
     QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(table->model()->rowCount(), 2);
+}
+
+void MainFrameSafetyTest::nothingComesBackIntoAListThatIsOnlyRead()
+{
+    FrameErrand errand({ u"Pantry"_s });
+    errand.Import("Tea\t3\r\nSalt\t5\r\n");
+    errand.pages->Top()->End(PageResult::Ok);
+    errand.pages->Top()->Trigger(Command::Delete);
+    errand.Answer(QMessageBox::Yes);
+    errand.ComeBack();
+    QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(errand.pages->Top(), errand.home);
+    errand.Choose(Command::OpenReadOnly);
+    errand.Tap(0);
+    const auto* model = errand.pages->Top()->findChild<QTableView*>()->model();
+    QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(model->rowCount(), 1);
+    // It does once the list may be written again.
+    QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Escape);
+    errand.Choose(Command::OpenReadOnly);
+    errand.Tap(0);
+    model = errand.pages->Top()->findChild<QTableView*>()->model();
+    QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(model->rowCount(), 2);
 }
 
 void MainFrameSafetyTest::aFailedWriteIsToldOnceAndWorkGoesOn()
