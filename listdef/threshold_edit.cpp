@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kMaxCharacters = 16;
-constexpr int kMaxStep = 32767;
+constexpr qint64 kMaxStep = 32767;
 
 } // namespace
 
@@ -64,7 +64,8 @@ qint32 ThresholdEdit::Value() const
 
 void ThresholdEdit::Step(int by)
 {
-    m_edit->setText(QString::number(std::clamp(Value() + by, -kMaxStep, kMaxStep)));
+    const qint64 stepped = qint64 { Value() } + by;
+    m_edit->setText(QString::number(std::clamp(stepped, -kMaxStep, kMaxStep)));
 }
 
 void ThresholdEdit::keyPressEvent(QKeyEvent* event)

@@ -61,7 +61,8 @@ FilterPage::FilterPage(FilterDialogState state, const InventoryList& list,
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
     for (const QLineEdit* edit : { m_text, m_date->Edit() })
         connect(edit, &QLineEdit::returnPressed, this, [this] { RequestEnd(PageResult::Ok); });
-    setFocusProxy(m_field);
+    // What is looked for is typed at once, mostly in the field that comes first.
+    setFocusProxy(m_state.mode == FilterMode::Find ? static_cast<QWidget*>(m_value) : m_field);
 }
 
 void FilterPage::NameControls()

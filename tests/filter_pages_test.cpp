@@ -42,6 +42,7 @@ private Q_SLOTS:
     void init();
     void aFreshPageOpensByTheTypeOfTheFirstField_data();
     void aFreshPageOpensByTheTypeOfTheFirstField();
+    void whatIsLookedForCanBeTypedAtOnce();
     void anotherFieldChangesConditionsAndValue();
     void okGivesWhatWasChosen();
     void aStoredEntryIsShown();
@@ -159,6 +160,15 @@ void FilterPagesTest::aFreshPageOpensByTheTypeOfTheFirstField()
     QCOMPARE(m_state.entry.column, first);
     QTEST(static_cast<int>(m_state.entry.condition), "code");
     QTEST(m_state.entry.value, "text");
+}
+
+void FilterPagesTest::whatIsLookedForCanBeTypedAtOnce()
+{
+    m_list = ListBeginningWith(PropName);
+    Show(new FilterPage({ .mode = FilterMode::Find, .entry = {} }, m_list, m_context));
+    for (const Qt::Key key : { Qt::Key_T, Qt::Key_E, Qt::Key_A })
+        QTest::keyClick(m_stack->windowHandle(), key);
+    QCOMPARE(Find<QLineEdit>("valueEdit")->text(), u"tea"_s);
 }
 
 void FilterPagesTest::anotherFieldChangesConditionsAndValue()

@@ -14,7 +14,9 @@
 #include <QTabBar>
 #include <QTableView>
 
+#include <initializer_list>
 #include <memory>
+#include <tuple>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -39,6 +41,7 @@ private Q_SLOTS:
     void warningsAreEnabledByTheirBoxes();
     void thresholdsAreReadAsNumbers_data();
     void thresholdsAreReadAsNumbers();
+    void stepsOfAThresholdStopAtTheirLimits();
     void anExistingListKeepsItsColumnsAndAName();
 
 private:
@@ -327,6 +330,21 @@ void ListSheetTest::thresholdsAreReadAsNumbers()
     edit->clear();
     QTest::keyClicks(edit, typed);
     QTEST(m_page->Result().TableWarnStart, "threshold");
+}
+
+void ListSheetTest::stepsOfAThresholdStopAtTheirLimits()
+{
+    ShowTab(u"Options"_s);
+    Find<QCheckBox>(u"warnOnCount"_s)->click();
+    auto* edit = Find<QLineEdit>(u"threshold"_s);
+    for (const auto& [typed, key, stepped] : std::initializer_list<std::tuple<int, Qt::Key, int>> {
+             { 32766, Qt::Key_Up, 32767 }, { 32767, Qt::Key_Up, 32767 },
+             { 2147483647, Qt::Key_Up, 32767 }, { -2147483647 - 1, Qt::Key_Down, -32767 } }) {
+        edit->clear();
+        QTest::keyClicks(edit, QString::number(typed));
+        QTest::keyClick(edit, key);
+        QCOMPARE(edit->text(), QString::number(stepped));
+    }
 }
 
 void ListSheetTest::anExistingListKeepsItsColumnsAndAName()
