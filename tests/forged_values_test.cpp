@@ -12,12 +12,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr PropertyId kName = MakePropertyId(1, CEVT_LPWSTR);
-constexpr PropertyId kCount = MakePropertyId(2, CEVT_I4);
-constexpr PropertyId kPrice = MakePropertyId(3, CEVT_R8);
+constexpr PropertyId kForgedText = MakePropertyId(1, CEVT_LPWSTR);
+constexpr PropertyId kForgedNumber = MakePropertyId(2, CEVT_I4);
+constexpr PropertyId kForgedFraction = MakePropertyId(3, CEVT_R8);
 constexpr PropertyId kPicture = MakePropertyId(4, CEVT_BLOB);
-const std::vector<PropertyId> kIds { kName, kCount, kPrice, kPicture };
-const std::vector<SortOrder> kByName { { kName } };
+const std::vector<PropertyId> kIds { kForgedText, kForgedNumber, kForgedFraction, kPicture };
+const std::vector<SortOrder> kByForgedText { { kForgedText } };
 
 /// Changes a data file by SQL, as somebody does who knows of the checksums and lets no column
 /// refuse a value.
@@ -46,14 +46,16 @@ void Forge(const QString& path, const QByteArray& change)
 void MakeForgedRows(VolumeFixture& fixture, const QByteArray& assignment)
 {
     fixture.Mount();
-    const std::vector<PropertySpec> specs { { kName, u"Name"_s }, { kCount, u"Count"_s },
-        { kPrice, u"Price"_s }, { kPicture, u"Picture"_s } };
-    Take(fixture.volume->CreateDatabase(u"rows"_s, DatabaseType { 1 }, specs, kByName));
+    const std::vector<PropertySpec> specs { { kForgedText, u"Name"_s },
+        { kForgedNumber, u"Count"_s }, { kForgedFraction, u"Price"_s },
+        { kPicture, u"Picture"_s } };
+    Take(fixture.volume->CreateDatabase(u"rows"_s, DatabaseType { 1 }, specs, kByForgedText));
     {
-        const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByName.front()));
+        const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByForgedText.front()));
         for (int i = 0; i < 3; ++i) {
-            const std::vector<PropertyValue> values { { kName, 0, u"name"_s }, { kCount, 0, i },
-                { kPrice, 0, 0.5 }, { kPicture, 0, QByteArray("picture") } };
+            const std::vector<PropertyValue> values { { kForgedText, 0, u"name"_s },
+                { kForgedNumber, 0, i }, { kForgedFraction, 0, 0.5 },
+                { kPicture, 0, QByteArray("picture") } };
             Take(rows->Write(kNoObject, values));
         }
     }
@@ -117,7 +119,7 @@ void ForgedValuesTest::aValueOfAnotherClassIsDamage()
     VolumeFixture fixture;
     MakeForgedRows(fixture, assignment);
     fixture.Mount(Disposition::OpenExisting);
-    const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByName.front()));
+    const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByForgedText.front()));
     QCOMPARE(Walk(*rows), error);
     // More columns than the quick way through the records takes.
     std::vector<PropertyId> many;
