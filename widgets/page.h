@@ -73,8 +73,8 @@ public:
 
 Q_SIGNALS:
     void Ended(Quillory::PageResult result);
-    /// A command was chosen that the page must carry out. Cancel is not among them: it asks the page
-    /// to end.
+    /// A command was chosen that the page must carry out. Cancel is not among them: it asks the
+    /// page to end.
     void CommandChosen(Quillory::Command command);
     /// A menu is about to open: the last chance to set what is enabled.
     void MenuAboutToOpen();
