@@ -2,6 +2,7 @@
 #include "app/file_dialog.h"
 
 #include "widgets/measures.h"
+#include "widgets/questions.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -70,12 +71,11 @@ void CloseSuggestions(QFileDialog& dialog)
     }
 }
 
-} // namespace
-
-void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
+/// The dialog that ChooseFile() opens.
+QDialog* MakeFileDialog(QWidget* window, FileUse use, const FileKind& kind,
     const std::function<void(const QString& path)>& then)
 {
-    auto* dialog = new QFileDialog(parent, QString(), FirstFolder());
+    auto* dialog = new QFileDialog(window, QString(), FirstFolder());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setObjectName(u"FileDialog"_s);
     dialog->setAcceptMode(use == FileUse::Read ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
@@ -85,13 +85,23 @@ void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
     dialog->setOption(QFileDialog::DontConfirmOverwrite, use == FileUse::MakeOrOpen);
     if (!kind.suggestion.isEmpty())
         dialog->selectFile(kind.suggestion);
-    QObject::connect(dialog, &QDialog::finished, parent, [dialog, then](int result) {
+    QObject::connect(dialog, &QDialog::finished, window, [dialog, then](int result) {
         CloseSuggestions(*dialog);
         then(result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString());
     });
     FitToScreen(*dialog);
     FitToFingers(*dialog);
-    dialog->open();
+    return dialog;
+}
+
+} // namespace
+
+void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
+    const std::function<void(const QString& path)>& then)
+{
+    Questions::Of(parent).Ask([window = parent->window(), use, kind, then] {
+        return MakeFileDialog(window, use, kind, then);
+    });
 }
 
 } // namespace Quillory

@@ -27,8 +27,9 @@ struct FileKind
     QString suggestion;
 };
 
-/// Opens the desktop's file dialog over the window of `parent` and returns at once; `then` is
-/// called with the path, or with an empty one if none was chosen.
+/// Opens the desktop's file dialog over the window of `parent`, as soon as what was asked there
+/// before is answered, and returns at once; `then` is called with the path, or with an empty one if
+/// none was chosen.
 void ChooseFile(QWidget* parent, FileUse use, const FileKind& kind,
     const std::function<void(const QString& path)>& then);
 

@@ -11,7 +11,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QShortcut>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -117,11 +116,6 @@ void HomeList::BuildHint()
 void HomeList::ConnectView()
 {
     connect(m_view, &QTreeView::clicked, this, [this] { Q_EMIT ListChosen(); });
-    for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
-        auto* shortcut = new QShortcut(key, m_view);
-        shortcut->setContext(Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, &HomeList::ListChosen);
-    }
     connect(m_view->header(), &QHeaderView::sectionClicked, this, &HomeList::FlipDirection);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &HomeList::SelectionChanged);

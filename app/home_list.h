@@ -36,15 +36,15 @@ public:
     /// Gives the lines the keyboard.
     void FocusLines();
 
-    /// The first page is never left.
-    void RequestEnd(PageResult /*result*/) override { }
-
 Q_SIGNALS:
     /// The selected list is to be opened.
     void ListChosen();
     void SelectionChanged();
 
 protected:
+    /// The first page is never left.
+    [[nodiscard]] bool PrepareEnd(PageResult /*result*/) override { return false; }
+    void TakeReturn() override { Q_EMIT ListChosen(); }
     void changeEvent(QEvent* event) override;
 
 private:

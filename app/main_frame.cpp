@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/main_frame.h"
 
-#include "app/file_dialog.h"
 #include "app/home_list.h"
 #include "app/plain_pages.h"
 #include "app/settings_context.h"
@@ -9,7 +8,6 @@
 #include "res/dialog_table.h"
 #include "res/string_table.h"
 #include "rows/rows_view.h"
-#include "store/kept_copies.h"
 #include "widgets/help_page.h"
 #include "widgets/message_box.h"
 #include "widgets/wait_cursor.h"
@@ -18,6 +16,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
+#include <QScopedValueRollback>
 #include <QShortcut>
 
 #include <utility>
@@ -67,30 +67,24 @@ MainFrame::MainFrame(Settings settings, Places places, QWidget* parent)
     , m_settings(std::move(settings))
     , m_context(ContextOf(m_settings))
     , m_pages(new PageStack(this))
+    , m_questions(Questions::Of(this))
     , m_home(new HomeList)
+    , m_deletions(m_session.Catalogue(), *m_pages, *m_home)
+    , m_definitions(m_session, *m_pages, *m_home)
     , m_landscape(*this, m_places.turnedOutput)
 {
-    // A data file that is there already is opened, so there is nothing to warn of.
-    m_chooser = [this](const auto& then) {
-        ChooseFile(this, FileUse::MakeOrOpen,
-            { LoadText(Text::InventoryDatabase), u"idb"_s, u"Quillory.idb"_s }, then);
-    };
-
-    m_volume.SetWriteFailureListener([this](ErrorNumber error) {
-        if (m_writeFailure != ErrorNumber::None)
-            return;
-        m_writeFailure = error;
-        // Not from inside the operation that failed.
-        QMetaObject::invokeMethod(this, &MainFrame::TellWriteFailure, Qt::QueuedConnection);
-    });
     setCentralWidget(m_pages);
     ApplyWindowStyle(this);
     BuildHome();
     RestoreWindow();
+    connect(&m_session, &DataFileSession::Opened, this, &MainFrame::ShowLists);
+    // Not from inside the question whose answer this is.
+    connect(&m_session, &DataFileSession::NotOpened, this, &QWidget::close, Qt::QueuedConnection);
+    connect(&m_session, &DataFileSession::RetryChosen, this, &MainFrame::ReopenDataFile);
     // On every page, not on the home list alone.
     connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
-        &MainFrame::UndoDeletion);
+        [this] { m_deletions.Undo(); });
 }
 
 MainFrame::~MainFrame()
@@ -105,8 +99,9 @@ void MainFrame::BuildHome()
     connect(m_home, &HomeList::SelectionChanged, this, &MainFrame::UpdateCommands);
     connect(m_home, &HomeList::MenuAboutToOpen, this, &MainFrame::UpdateCommands);
     connect(m_home, &HomeList::CommandChosen, this, &MainFrame::RunCommand);
-    m_home->SetRenamer(
-        [this](ObjectId oid, const QString& name) { return m_catalogue.RenameList(oid, name); });
+    m_home->SetRenamer([this](ObjectId oid, const QString& name) {
+        return m_session.Catalogue().RenameList(oid, name);
+    });
     for (const CommandEntry& entry : kCommands) {
         if (entry.shortcut != QKeyCombination())
             m_home->SetShortcut(entry.command, entry.shortcut);
@@ -137,74 +132,90 @@ void MainFrame::UpdateCommands()
 {
     const bool hasList = m_home->SelectedList() != kNoObject;
     for (const CommandEntry& entry : kCommands) {
-        const bool isReady = m_isDataFileOpen && (entry.needs == Needs::DataFile || hasList);
+        const bool isReady = m_session.IsOpen() && (entry.needs == Needs::DataFile || hasList);
         m_home->SetCommandEnabled(entry.command, isReady);
     }
     m_home->SetCommandChecked(Command::OpenReadOnly, m_settings.Options.test(kReadOnlyOption));
 }
 
-void MainFrame::SetFileChooser(FileChooser chooser)
+void MainFrame::SetFileChooser(DataFileSession::FileChooser chooser)
 {
-    m_chooser = std::move(chooser);
+    m_session.SetFileChooser(std::move(chooser));
 }
 
 void MainFrame::OpenDataFile(const QString& listName)
 {
     m_wantedList = listName;
-    m_opener = std::make_unique<DataFileOpener>(m_catalogue, m_settings, m_places.copies,
-        OpenerPrompts(), [this](DataFileOpener::Outcome outcome) { EndOpening(outcome); });
-    m_opener->Start();
+    m_session.Open();
 }
 
-DataFileOpener::Prompts MainFrame::OpenerPrompts()
+void MainFrame::ShowLists()
 {
-    return {
-        [this](
-            const auto& then) { m_pages->Push(new WelcomePage, [then](PageResult) { then(); }); },
-        [this](const auto& then) { m_chooser(then); },
-        [this](const QString& text, MessageIcon icon, MessageButtons buttons, const auto& then) {
-            ShowMessage(this, text, icon, buttons, then);
-        },
-    };
-}
-
-void MainFrame::EndOpening(DataFileOpener::Outcome outcome)
-{
-    m_savesSettings = outcome != DataFileOpener::Outcome::NothingChosen;
-    m_isDataFileOpen = outcome == DataFileOpener::Outcome::Opened;
-    if (!m_isDataFileOpen) {
-        // Not from inside the question whose answer this is.
-        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
-        return;
-    }
     FillHome();
     m_home->FocusLines();
     UpdateCommands();
     // What a program that was killed had kept aside; once the lists are on the screen.
     QMetaObject::invokeMethod(
-        this, [this] { m_deletion.Forget(); }, Qt::QueuedConnection);
-    if (!m_wantedList.isEmpty() && OpenNamedList(m_wantedList) == StartAnswer::UnknownList)
+        this, [this] { m_deletions.Forget(); }, Qt::QueuedConnection);
+    if (!m_wantedList.isEmpty()
+        && TakeStartRequest({ m_wantedList, {} }) == StartAnswer::UnknownList)
         NoteUnknownList(m_wantedList);
-}
-
-StartAnswer MainFrame::TakeStartRequest(const StartRequest& request)
-{
-    BringToFront(request.activationToken);
-    if (request.listName.isEmpty())
-        return StartAnswer::Done;
-    if (!m_isDataFileOpen) {
-        m_wantedList = request.listName;
-        return StartAnswer::Done;
-    }
-    return OpenNamedList(request.listName);
 }
 
 void MainFrame::FillHome()
 {
-    m_home->Fill(m_catalogue.FillHomeList());
-    const ErrorNumber error = m_catalogue.HomeListError();
+    m_home->Fill(m_session.Catalogue().FillHomeList());
+    const ErrorNumber error = m_session.Catalogue().HomeListError();
     if (error != ErrorNumber::None)
-        TellStop(tr("Some lists cannot be read. Error: %1").arg(static_cast<quint32>(error)));
+        ShowMessage(this,
+            tr("Some lists cannot be read. Error: %1").arg(static_cast<quint32>(error)),
+            MessageIcon::Stop);
+}
+
+Front MainFrame::WhatIsInFront() const
+{
+    if (!m_questions.IsIdle())
+        return m_questions.Shown() == nullptr ? Front::Work : Front::Question;
+    if (QApplication::activePopupWidget() != nullptr)
+        return Front::Popup;
+    return HasUnsavedInput() ? Front::Input : Front::Pages;
+}
+
+bool MainFrame::HasUnsavedInput() const
+{
+    return m_pages->Top()->HasUnsavedInput();
+}
+
+void MainFrame::Meet(Interruption what, const std::function<void()>& act)
+{
+    switch (ResponseTo(what, WhatIsInFront())) {
+    case Response::ComeForward:
+        return act();
+    case Response::EndPages:
+        return m_pages->CloseAll(act);
+    case Response::Wait:
+        return m_questions.WhenIdle([this, what, act] { Meet(what, act); });
+    }
+}
+
+StartAnswer MainFrame::TakeStartRequest(const StartRequest& request)
+{
+    Meet(Interruption::Start, [this, token = request.activationToken] { BringToFront(token); });
+    if (request.listName.isEmpty())
+        return StartAnswer::Done;
+    if (!m_session.IsOpen()) {
+        m_wantedList = request.listName;
+        return StartAnswer::Done;
+    }
+    const ObjectId oid = m_session.Catalogue().FindList(request.listName);
+    if (oid == kNoObject)
+        return StartAnswer::UnknownList;
+    if (oid != m_openList)
+        Meet(Interruption::StartWithList, [this, oid] {
+            m_home->Select(oid);
+            OpenList(oid);
+        });
+    return StartAnswer::Done;
 }
 
 void MainFrame::BringToFront(const QString& activationToken)
@@ -216,140 +227,61 @@ void MainFrame::BringToFront(const QString& activationToken)
         setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
-    activateWindow();
-}
-
-bool MainFrame::CloseAllPages()
-{
-    int depth = 0;
-    do {
-        if (m_pages->Top()->HasUnsavedInput())
-            return false;
-        depth = m_pages->Depth();
-        if (m_pages->CloseTopmost())
-            return true;
-    } while (m_pages->Depth() < depth);
-    return false;
-}
-
-void MainFrame::AskToDiscardInput()
-{
-    ShowMessage(this, tr("Do you want to discard what you have entered?"), MessageIcon::Exclamation,
-        MessageButtons::YesNo, [this](MessageAnswer answer) {
-            if (answer != MessageAnswer::Yes)
-                return;
-            static_cast<void>(m_pages->CloseTopmost());
-            close();
-        });
-}
-
-bool MainFrame::EndDataFile()
-{
-    const WaitCursor wait;
-    m_deletion.Forget();
-    const KeepOutcome outcome
-        = KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
-    if (PlaceError() == ErrorNumber::None)
-        return true;
-    TellStop(outcome == KeepOutcome::Kept
-            ? tr("The data file is no longer in its place. What it held is kept as a copy; "
-                 "\"quillory restore\" lists the copies.")
-            : tr("The data file is no longer in its place. No copy could be kept of it."),
-        [this] {
-            m_isDataFileOpen = false;
-            close();
-        });
-    return false;
+    QWidget* front
+        = m_questions.Shown() == nullptr ? static_cast<QWidget*>(this) : m_questions.Shown();
+    front->raise();
+    front->activateWindow();
 }
 
 void MainFrame::closeEvent(QCloseEvent* event)
 {
-    // Before the data file is open there is nothing to lose. Later, work that shows its progress,
-    // questions, and pages that ask first are not left behind.
-    if (m_isDataFileOpen) {
-        if (QApplication::activeModalWidget() != nullptr)
-            return event->ignore();
-        if (PlaceError() == ErrorNumber::SharingViolation) {
-            // Whoever closes the window should know of it as well as whoever changes something.
-            ReopenDataFile();
-            return event->ignore();
-        }
-        if (!CloseAllPages()) {
-            if (m_pages->Top()->HasUnsavedInput())
-                AskToDiscardInput();
-            return event->ignore();
-        }
-        if (!EndDataFile())
-            return event->ignore();
+    const QScopedValueRollback inside(m_isInCloseEvent, true);
+    // Before the data file is open there is nothing to lose, whatever is being asked.
+    if (!m_session.IsOpen()) {
+        m_questions.Drop();
+        m_mayClose = true;
     }
-    if (m_savesSettings) {
-        m_settings.windowGeometry = saveGeometry();
-        WriteSettings(m_places.settings, m_settings);
-    }
-    event->accept();
-}
-
-void MainFrame::TellWriteFailure()
-{
-    if (m_writeFailure == ErrorNumber::None)
+    if (!m_mayClose)
+        Meet(Interruption::End, [this] { EndRun(); });
+    event->setAccepted(m_mayClose);
+    if (!m_mayClose || !m_session.HasSettings())
         return;
-    ShowMessage(this,
-        tr("The change could not be saved. Error: %1\n\nTap Retry to open the data file again.")
-            .arg(static_cast<quint32>(m_writeFailure)),
-        MessageIcon::Stop, MessageButtons::RetryCancel, [this](MessageAnswer answer) {
-            m_writeFailure = ErrorNumber::None;
-            if (answer == MessageAnswer::Retry)
-                ReopenDataFile();
+    m_settings.windowGeometry = saveGeometry();
+    WriteSettings(m_places.settings, m_settings);
+}
+
+void MainFrame::EndRun()
+{
+    m_deletions.Forget();
+    m_session.End([this] {
+        // A window that is gone must leave nothing to be answered.
+        m_questions.WhenIdle([this] {
+            m_mayClose = true;
+            if (!m_isInCloseEvent)
+                close();
         });
-}
-
-ErrorNumber MainFrame::PlaceError()
-{
-    const Volume* volume = m_volume.MountedVolume();
-    return volume != nullptr && volume->HasChanged() ? volume->VerifyInPlace().Error()
-                                                     : ErrorNumber::None;
-}
-
-void MainFrame::KeepReplacedFile()
-{
-    const KeepOutcome outcome
-        = KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
-    TellStop(outcome == KeepOutcome::Kept
-            ? tr("Another file was put in the place of the data file. The old one is kept as a "
-                 "copy; \"quillory restore\" lists the copies.")
-            : tr("Another file was put in the place of the data file. No copy could be kept of "
-                 "the old one."));
-}
-
-bool MainFrame::RemountUnderPages()
-{
-    m_volume.Unmount();
-    if (m_volume.Mount(m_settings.DbPath, Disposition::OpenExisting) != ErrorNumber::None
-        || m_catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
-        return false;
-    // What was deleted from another file must not come back in this one.
-    m_deletion.Forget();
-    m_home->WithdrawUndo();
-    // Nor need the identifier be that of the same list.
-    InventoryList reopened;
-    return m_openList == kNoObject
-        || (m_catalogue.OpenList(m_openList, reopened) && reopened.columns == m_list.columns);
+    });
 }
 
 void MainFrame::ReopenDataFile()
 {
-    if (PlaceError() == ErrorNumber::SharingViolation)
-        KeepReplacedFile();
-    if (RemountUnderPages())
-        return RefreshPages();
+    if (m_session.Reopen()) {
+        // What was deleted from another file must not come back in this one.
+        m_deletions.Forget();
+        // Nor need the identifier be that of the same list.
+        InventoryList reopened;
+        if (m_openList == kNoObject
+            || (m_session.Catalogue().OpenList(m_openList, reopened)
+                && reopened.columns == m_list.columns))
+            return RefreshPages();
+    }
     // The pages are not those of the file that is there now: nothing of theirs may get into it.
-    m_volume.Unmount();
-    // What is entered on them can only be kept as long as they stay.
-    if (!CloseAllPages())
-        return AskToDiscardInput();
-    m_isDataFileOpen = false;
-    UpdateCommands();
-    OpenDataFile({});
+    // What is entered on them can be kept as long as they stay.
+    m_session.Abandon();
+    m_pages->CloseAll([this] {
+        OpenDataFile({});
+        UpdateCommands();
+    });
 }
 
 void MainFrame::RefreshPages()
@@ -358,10 +290,62 @@ void MainFrame::RefreshPages()
     FillHome();
     m_home->Select(selected);
     // Something else may stand in the file now.
-    for (RowsView* view : m_pages->findChildren<RowsView*>()) {
-        view->WithdrawUndo();
+    for (RowsView* view : m_pages->findChildren<RowsView*>())
         view->Fill();
-    }
+}
+
+void MainFrame::OpenSelectedList()
+{
+    const ObjectId oid = m_home->SelectedList();
+    if (oid != kNoObject)
+        OpenList(oid);
+}
+
+void MainFrame::OpenList(ObjectId oid)
+{
+    const WaitCursor wait;
+    m_list = {};
+    if (!m_session.Catalogue().OpenList(oid, m_list))
+        return;
+    m_openList = oid;
+    m_deletions.SetOpenList(oid);
+    m_rows = std::make_unique<RowStore>(m_session.Volume(), m_list, m_context);
+    if (m_settings.Options.test(kLandscapeOption))
+        m_landscape.Enter(m_settings.ListOrientation);
+    const RowsViewOptions options { m_settings.Options.test(kReadOnlyOption),
+        m_settings.Options.test(kAlternateColourOption) };
+    auto* view = new RowsView(*m_rows, m_list, m_context, options);
+    view->SetRowDeleter([this](ObjectId row) { return m_deletions.DeleteRow(*m_rows, row); });
+    m_pages->Push(view, [this](PageResult) { CloseList(); });
+}
+
+void MainFrame::CloseList()
+{
+    // The rows stay behind: the page that is leaving still refers to them.
+    m_session.Catalogue().UpdateListOptions(m_openList, m_list);
+    m_session.Catalogue().CloseRows();
+    m_session.Volume().Flush();
+    m_openList = kNoObject;
+    m_deletions.SetOpenList(kNoObject);
+    if (m_settings.Options.test(kLandscapeOption))
+        m_landscape.Leave();
+    m_home->FocusLines();
+}
+
+void MainFrame::RenameList()
+{
+    m_home->BeginRename();
+}
+
+void MainFrame::ImportList()
+{
+    const ObjectId oid = m_home->SelectedList();
+    m_transfer.Import(oid, [this, oid] { OpenList(oid); });
+}
+
+void MainFrame::ExportList()
+{
+    m_transfer.Export(m_home->SelectedList());
 }
 
 void MainFrame::ToggleReadOnly()

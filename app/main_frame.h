@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/data_file_opener.h"
+#include "app/data_file_session.h"
+#include "app/deletions.h"
+#include "app/interruptions.h"
 #include "app/landscape_shape.h"
+#include "app/list_definitions.h"
+#include "app/list_transfer.h"
 #include "app/settings.h"
 #include "app/single_instance.h"
-#include "store/last_deletion.h"
-#include "transfer/text_import.h"
-#include "values/value_text.h"
+#include "store/row_store.h"
 #include "widgets/page_stack.h"
+#include "widgets/questions.h"
 
 #include <QMainWindow>
 
-#include <functional>
 #include <memory>
 
 namespace Quillory {
@@ -39,19 +41,21 @@ public:
     MainFrame(Settings settings, Places places, QWidget* parent = nullptr);
     ~MainFrame() override;
 
-    /// Asks for a place for the data file; calls `then` with an empty path if none was chosen.
-    using FileChooser = std::function<void(std::function<void(const QString&)> then)>;
     /// Replaces the file dialog of the first start.
-    void SetFileChooser(FileChooser chooser);
+    void SetFileChooser(DataFileSession::FileChooser chooser);
 
     /// Opens the data file, asking where need be, and then the list so named unless it is empty.
     /// A failure closes the window.
     void OpenDataFile(const QString& listName);
 
-    /// Comes to the front and opens the list that a later start names.
+    /// Comes to the front, and opens the list that a later start names as soon as that can be.
     StartAnswer TakeStartRequest(const StartRequest& request);
 
+    /// Whether ending the program now would lose what is entered.
+    [[nodiscard]] bool HasUnsavedInput() const;
+
 protected:
+    /// Accepts only once nothing is asked, typed or running any more; until then the window stays.
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -62,77 +66,52 @@ private:
     Places m_places;
     Settings m_settings;
     ValueContext m_context;
-    DataVolume m_volume;
-    ListCatalogue m_catalogue { m_volume };
-    LastDeletion m_deletion { m_catalogue };
-    FileChooser m_chooser;
-    std::unique_ptr<DataFileOpener> m_opener;
+    PageStack* m_pages;
+    Questions& m_questions;
+    HomeList* m_home;
+    DataFileSession m_session { m_settings, m_places.copies, *m_pages };
+    Deletions m_deletions;
+    ListDefinitions m_definitions;
+    ListTransfer m_transfer { m_session, *m_pages, m_context };
+    LandscapeShape m_landscape;
     /// The list to open once the data file is.
     QString m_wantedList;
-    bool m_isDataFileOpen = false;
-    /// A failed write that the person has not been told of yet.
-    ErrorNumber m_writeFailure = ErrorNumber::None;
-    bool m_savesSettings = false;
+    bool m_mayClose = false;
+    bool m_isInCloseEvent = false;
 
     /// The list that is open, and its rows.
     ObjectId m_openList = kNoObject;
     InventoryList m_list;
     std::unique_ptr<RowStore> m_rows;
 
-    PageStack* m_pages;
-    HomeList* m_home;
-    LandscapeShape m_landscape;
-
     void BuildHome();
     void RestoreWindow();
     void RunCommand(Command command);
     void UpdateCommands();
-
-    [[nodiscard]] DataFileOpener::Prompts OpenerPrompts();
-    void EndOpening(DataFileOpener::Outcome outcome);
+    void ShowLists();
     void FillHome();
     void BringToFront(const QString& activationToken);
-    /// Ends the pages from the top. False where one has input that would be lost, or stays.
-    [[nodiscard]] bool CloseAllPages();
-    void AskToDiscardInput();
-    /// False if it is gone from its place, which is told before the window closes.
-    [[nodiscard]] bool EndDataFile();
     void ShowHelp(const QString& anchor);
 
-    [[nodiscard]] StartAnswer OpenNamedList(const QString& name);
+    [[nodiscard]] Front WhatIsInFront() const;
+    /// Has `act` follow on an interruption, when and as that is met.
+    void Meet(Interruption what, const std::function<void()>& act);
+    void EndRun();
+    void ReopenDataFile();
+    void RefreshPages();
+
     void OpenSelectedList();
     void OpenList(ObjectId oid);
     void CloseList();
-
-    void NewList();
-    void StoreNewList(InventoryList list);
-    void ShowProperties();
-    void StoreProperties(ObjectId oid, const InventoryList& list);
+    void NewList() { m_definitions.MakeList(); }
+    void ShowProperties() { m_definitions.ShowProperties(); }
     void RenameList();
-    void DeleteList();
-    void DeleteAllRecords();
-    [[nodiscard]] bool DeleteRow(ObjectId row);
-    void OfferUndo(const QString& text);
-    void UndoDeletion();
-    void ShowRestored(const LastDeletion::Restored& restored);
-    void ShowOptions();
+    void DeleteList() { m_deletions.AskToDeleteList(); }
+    void DeleteAllRecords() { m_deletions.AskToDeleteAllRows(); }
     void ImportList();
-    void ChooseImportOrder(const QString& path);
-    void ImportFrom(const QString& path, const std::vector<PropertyId>& order);
-    void EndImport(const ImportOutcome& outcome);
     void ExportList();
-    void ExportTo(const QString& path);
-    void TellWriteFailure();
-    /// As Volume::VerifyInPlace() tells of the data file, if it holds changes of this run.
-    [[nodiscard]] ErrorNumber PlaceError();
-    /// Keeps what would go with the old file, and tells of it.
-    void KeepReplacedFile();
-    void ReopenDataFile();
-    /// Opens the data file and the open list anew. False if they are not what the pages show.
-    [[nodiscard]] bool RemountUnderPages();
-    void RefreshPages();
-    void TellStop(const QString& text, const std::function<void()>& then = {});
     void ToggleReadOnly();
+    void ShowOptions();
     void ShowAbout();
 };
 

@@ -15,7 +15,8 @@ constexpr int kSteps = 1000;
 } // namespace
 
 TransferProgress::TransferProgress(QWidget* parent, const QString& title)
-    : m_dialog(parent)
+    : m_work(Questions::Of(parent))
+    , m_dialog(parent)
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     m_dialog.setObjectName(QStringLiteral("TransferProgress"));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "widgets/questions.h"
+
 #include <QProgressDialog>
 
 namespace Quillory {
@@ -19,6 +21,7 @@ public:
     [[nodiscard]] bool Show(qint64 done, qint64 total);
 
 private:
+    Questions::Work m_work;
     QProgressDialog m_dialog;
 };
 

@@ -9,7 +9,6 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace Quillory {
@@ -32,11 +31,6 @@ ColumnDefinitionPage::ColumnDefinitionPage(QWidget* parent)
     form.AddLine(LoadString(StringId::Type), m_type);
     Body()->addStretch(1);
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
-    connect(m_name, &QLineEdit::returnPressed, this, [this] { RequestEnd(PageResult::Ok); });
-    for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
-        auto* shortcut = new QShortcut(key, m_type, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, [this] { RequestEnd(PageResult::Ok); });
-    }
     setFocusProxy(m_name);
 }
 
@@ -48,6 +42,11 @@ QString ColumnDefinitionPage::Name() const
 int ColumnDefinitionPage::TypeIndex() const
 {
     return m_type->currentIndex();
+}
+
+bool ColumnDefinitionPage::HasUnsavedInput() const
+{
+    return !Name().isEmpty() || TypeIndex() != 0;
 }
 
 } // namespace Quillory

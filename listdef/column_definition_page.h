@@ -20,6 +20,8 @@ public:
     /// The index of the type, 0 to 4.
     [[nodiscard]] int TypeIndex() const;
 
+    [[nodiscard]] bool HasUnsavedInput() const override;
+
 private:
     QLineEdit* m_name;
     QComboBox* m_type;

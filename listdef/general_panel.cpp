@@ -28,7 +28,6 @@ GeneralPanel::GeneralPanel(const InventoryList& list, QWidget* parent)
     form.AddLine(LoadString(StringId::Name), m_name);
     form.AddLine(tr("Icon"), m_icon);
     body->addStretch(1);
-    connect(m_name, &QLineEdit::returnPressed, this, &GeneralPanel::Entered);
     setFocusProxy(m_name);
 }
 

@@ -21,10 +21,6 @@ public:
     /// Puts what is entered into `list`, an empty name too.
     void Apply(InventoryList& list) const;
 
-Q_SIGNALS:
-    /// Return was pressed in the name.
-    void Entered();
-
 private:
     QLineEdit* m_name;
     IconPicker* m_icon;

@@ -21,15 +21,17 @@ namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
-ListSheet::ListSheet(SheetMode mode, const InventoryList& list, QWidget* parent)
+ListSheet::ListSheet(
+    SheetMode mode, const InventoryList& before, const InventoryList& entered, QWidget* parent)
     : Page(LoadString(mode == SheetMode::NewList ? StringId::NewInventoryList
                                                  : StringId::InventoryListOptions),
         parent)
-    , m_list(list)
+    , m_list(entered)
     , m_tabs(new QTabBar(this))
     , m_panels(new QStackedWidget(this))
-    , m_general(new GeneralPanel(list, this))
-    , m_options(new OptionsPanel(list, this))
+    , m_general(new GeneralPanel(entered, this))
+    , m_options(new OptionsPanel(entered, this))
+    , m_before(before)
 {
     setObjectName(u"listSheet"_s);
     SetHelpAnchor(QString::fromLatin1(kHelpNewList));
@@ -46,16 +48,14 @@ ListSheet::ListSheet(SheetMode mode, const InventoryList& list, QWidget* parent)
     Body()->addWidget(m_panels, 1);
     AddPanel(DialogTitle(Dialog::General), m_general);
     if (mode == SheetMode::NewList) {
-        m_columns = new ColumnsPanel(list.columns, *this);
+        m_columns = new ColumnsPanel(entered.columns, *this);
         AddPanel(DialogTitle(Dialog::Columns), m_columns);
     }
     AddPanel(DialogTitle(Dialog::ListOptions), m_options);
     connect(m_tabs, &QTabBar::currentChanged, this, &ListSheet::ShowPanel);
     connect(new QShortcut(QKeySequence::NextChild, this), &QShortcut::activated, this,
         [this] { m_tabs->setCurrentIndex((m_tabs->currentIndex() + 1) % m_tabs->count()); });
-    connect(m_general, &GeneralPanel::Entered, this, [this] { RequestEnd(PageResult::Ok); });
     ShowPanel(0);
-    m_before = Result();
 }
 
 void ListSheet::AddPanel(const QString& title, QWidget* panel)

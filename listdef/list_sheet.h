@@ -26,7 +26,10 @@ class ListSheet : public Page
     Q_OBJECT
 
 public:
-    ListSheet(SheetMode mode, const InventoryList& list, QWidget* parent = nullptr);
+    /// Shows `entered`, which is `before` with what was entered on a sheet that could not be
+    /// stored.
+    ListSheet(SheetMode mode, const InventoryList& before, const InventoryList& entered,
+        QWidget* parent = nullptr);
 
     /// The list as it is entered now. The columns of a new one have no numbers of their own yet;
     /// an empty name means that there is to be no list.

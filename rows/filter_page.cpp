@@ -59,8 +59,6 @@ FilterPage::FilterPage(FilterDialogState state, const InventoryList& list,
     form.AddLine(LoadText(Text::Value), m_value);
     Body()->addStretch(1);
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
-    for (const QLineEdit* edit : { m_text, m_date->Edit() })
-        connect(edit, &QLineEdit::returnPressed, this, [this] { RequestEnd(PageResult::Ok); });
     // What is looked for is typed at once, mostly in the field that comes first.
     setFocusProxy(m_state.mode == FilterMode::Find ? static_cast<QWidget*>(m_value) : m_field);
 }
@@ -166,11 +164,11 @@ bool FilterPage::HasUnsavedInput() const
         != std::tie(m_startEntry.column, m_startEntry.condition, m_startEntry.value);
 }
 
-void FilterPage::RequestEnd(PageResult result)
+bool FilterPage::PrepareEnd(PageResult result)
 {
     if (result == PageResult::Ok)
         m_state.entry = ChosenEntry();
-    End(result);
+    return true;
 }
 
 } // namespace Quillory

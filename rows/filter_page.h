@@ -43,8 +43,10 @@ public:
     /// no condition chosen that is FilterCondition::None.
     [[nodiscard]] const FilterDialogState& State() const { return m_state; }
 
-    void RequestEnd(PageResult result) override;
     [[nodiscard]] bool HasUnsavedInput() const override;
+
+protected:
+    [[nodiscard]] bool PrepareEnd(PageResult result) override;
 
 private:
     FilterDialogState m_state;

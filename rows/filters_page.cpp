@@ -108,7 +108,9 @@ void FiltersPage::Add()
 {
     auto* page = new FilterPage({}, m_list, m_context);
     // A cancelled page gives its fresh state, and that is added too: a filter that no row passes.
-    PageStack::Of(this).Push(page, [this, page](PageResult) {
+    PageStack::Of(this).Push(page, [this, page](PageResult result) {
+        if (result == PageResult::Closing)
+            return;
         const FilterEntry& entry = page->State().entry;
         AddFilter(m_filters, entry.column, entry.condition, entry.value);
         AddLine(m_filters.entries.back());

@@ -174,11 +174,11 @@ void RowEditor::KeepInView()
     PlaceControl();
 }
 
-void RowEditor::RequestEnd(PageResult result)
+bool RowEditor::PrepareEnd(PageResult result)
 {
     if (result == PageResult::Ok)
         Commit();
-    End(result == PageResult::Ok ? PageResult::Ok : PageResult::CancelKey);
+    return true;
 }
 
 bool RowEditor::eventFilter(QObject* watched, QEvent* event)

@@ -15,7 +15,7 @@ namespace Quillory {
 class FieldControl;
 
 /// The fields of one row, a line each, edited in their places one at a time. Ends with Ok, or with
-/// CancelKey and nothing to be written.
+/// Cancel and nothing to be written.
 class RowEditor : public Page
 {
     Q_OBJECT
@@ -31,9 +31,11 @@ public:
     /// Shows texts that were typed before and could not be stored.
     void SetTexts(const std::vector<QString>& texts);
 
-    void RequestEnd(PageResult result) override;
     [[nodiscard]] bool HasUnsavedInput() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    [[nodiscard]] bool PrepareEnd(PageResult result) override;
 
 private:
     const InventoryList& m_list;

@@ -43,13 +43,11 @@ ObjectId RowsModel::RowAt(int line) const
     return m_rows[static_cast<size_t>(line)];
 }
 
-int RowsModel::Append(ObjectId row)
+void RowsModel::Insert(int line, ObjectId row)
 {
-    const int line = rowCount();
     beginInsertRows({}, line, line);
-    m_rows.push_back(row);
+    m_rows.insert(m_rows.begin() + line, row);
     endInsertRows();
-    return line;
 }
 
 void RowsModel::Remove(int line)

@@ -26,8 +26,8 @@ public:
     void SetRows(std::vector<ObjectId> rows);
     [[nodiscard]] const std::vector<ObjectId>& Rows() const { return m_rows; }
     [[nodiscard]] ObjectId RowAt(int line) const;
-    /// Adds a line at the end; its place.
-    int Append(ObjectId row);
+    /// Adds a line before the one at `line`, or at the end.
+    void Insert(int line, ObjectId row);
     void Remove(int line);
     /// The row was changed in the store.
     void Refresh(int line);

@@ -28,6 +28,42 @@ namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// What must be there before a command can be chosen.
+enum class NeedsOfRows
+{
+    Nothing,
+    /// A list that is not only read.
+    Writing,
+    /// Such a list, and a selected row.
+    Row,
+    Filters,
+};
+
+} // namespace
+
+struct RowsView::CommandEntry
+{
+    Command command;
+    QKeyCombination shortcut;
+    NeedsOfRows needs;
+    void (RowsView::*run)();
+};
+
+const RowsView::CommandEntry RowsView::kCommands[] {
+    { Command::New, Qt::CTRL | Qt::Key_N, NeedsOfRows::Writing, &RowsView::NewRow },
+    { Command::Modify, {}, NeedsOfRows::Row, &RowsView::ModifyRow },
+    { Command::CreateCopy, {}, NeedsOfRows::Row, &RowsView::CopyRow },
+    { Command::Delete, Qt::Key_Delete, NeedsOfRows::Row, &RowsView::DeleteRow },
+    { Command::AddOne, Qt::Key_Plus, NeedsOfRows::Row, &RowsView::AddOne },
+    { Command::SubtractOne, Qt::Key_Minus, NeedsOfRows::Row, &RowsView::SubtractOne },
+    { Command::ViewSummary, {}, NeedsOfRows::Nothing, &RowsView::ShowSummary },
+    { Command::Find, Qt::CTRL | Qt::Key_F, NeedsOfRows::Nothing, &RowsView::FindRows },
+    { Command::SetFilters, {}, NeedsOfRows::Nothing, &RowsView::SetFilters },
+    { Command::ClearFilters, {}, NeedsOfRows::Filters, &RowsView::ClearFilters },
+};
+
 RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& context,
     const RowsViewOptions& options, QWidget* parent)
     : Page(list.Name, parent)
@@ -75,14 +111,12 @@ void RowsView::BuildTable()
 void RowsView::BuildCommands()
 {
     SetHelpAnchor(QLatin1StringView(kHelpEditList));
-    ActionOf(Command::Modify)->setShortcuts({ Qt::Key_Return, Qt::Key_Enter });
     if (!m_options.foundBy) {
         SetSoftKeys(SoftKeysOf(MenuBar::Rows), MenuEntries(MenuId::Rows));
-        SetShortcut(Command::New, QKeySequence::New);
-        SetShortcut(Command::Delete, Qt::Key_Delete);
-        SetShortcut(Command::AddOne, Qt::Key_Plus);
-        SetShortcut(Command::SubtractOne, Qt::Key_Minus);
-        SetShortcut(Command::Find, QKeySequence::Find);
+        for (const CommandEntry& entry : kCommands) {
+            if (entry.shortcut != QKeyCombination())
+                SetShortcut(entry.command, entry.shortcut);
+        }
     }
     connect(this, &Page::CommandChosen, this, &RowsView::Run);
     connect(this, &Page::MenuAboutToOpen, this, &RowsView::UpdateCommands);
@@ -91,13 +125,19 @@ void RowsView::BuildCommands()
     connect(m_model, &QAbstractItemModel::modelReset, this, &RowsView::UpdateCommands);
 }
 
+std::vector<ObjectId> RowsView::Listing()
+{
+    return m_filters ? m_store.FillFilteredRows(*m_filters) : m_store.FillRows();
+}
+
 void RowsView::Fill()
 {
     const WaitCursor wait;
     const ObjectId selected = SelectedRow();
-    m_model->SetRows(m_filters ? m_store.FillFilteredRows(*m_filters) : m_store.FillRows());
-    if (!SelectRow(selected) && m_model->rowCount() > 0)
-        Select(0);
+    m_model->SetRows(Listing());
+    m_sortColumn.reset();
+    if (m_model->rowCount() > 0)
+        Select(std::max(LineOf(selected), 0));
 }
 
 void RowsView::TellNothingFound()
@@ -109,10 +149,10 @@ void RowsView::TellNothingFound()
         });
 }
 
-void RowsView::RequestEnd(PageResult /*result*/)
+bool RowsView::PrepareEnd(PageResult /*result*/)
 {
     StoreColumnLayout(*m_view->horizontalHeader(), m_list);
-    End(PageResult::Ok);
+    return true;
 }
 
 int RowsView::SelectedLine() const
@@ -127,14 +167,11 @@ ObjectId RowsView::SelectedRow() const
     return line < 0 ? kNoObject : m_model->RowAt(line);
 }
 
-bool RowsView::SelectRow(ObjectId row)
+int RowsView::LineOf(ObjectId row) const
 {
     const auto& rows = m_model->Rows();
     const auto found = std::find(rows.begin(), rows.end(), row);
-    if (found == rows.end())
-        return false;
-    Select(static_cast<int>(found - rows.begin()));
-    return true;
+    return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
 }
 
 void RowsView::Select(int line)
@@ -147,39 +184,28 @@ void RowsView::Select(int line)
 void RowsView::UpdateCommands()
 {
     const bool mayWrite = !m_options.isReadOnly;
-    const bool mayChange = mayWrite && SelectedLine() >= 0;
-    SetCommandEnabled(Command::New, mayWrite);
-    for (const Command command : { Command::Modify, Command::CreateCopy, Command::Delete,
-             Command::AddOne, Command::SubtractOne })
-        SetCommandEnabled(command, mayChange);
-    SetCommandEnabled(Command::ClearFilters, m_filters.has_value());
+    const auto isMet = [&](NeedsOfRows needs) {
+        switch (needs) {
+        case NeedsOfRows::Nothing:
+            return true;
+        case NeedsOfRows::Writing:
+            return mayWrite;
+        case NeedsOfRows::Row:
+            return mayWrite && SelectedLine() >= 0;
+        case NeedsOfRows::Filters:
+            return m_filters.has_value();
+        }
+        return false;
+    };
+    for (const CommandEntry& entry : kCommands)
+        SetCommandEnabled(entry.command, isMet(entry.needs));
 }
 
 void RowsView::Run(Command command)
 {
-    switch (command) {
-    case Command::New:
-        return NewRow();
-    case Command::Modify:
-        return ModifyRow();
-    case Command::CreateCopy:
-        return CopyRow();
-    case Command::Delete:
-        return DeleteRow();
-    case Command::AddOne:
-        return AdjustCount(1);
-    case Command::SubtractOne:
-        return AdjustCount(-1);
-    case Command::ViewSummary:
-        return ShowSummary();
-    case Command::SetFilters:
-        return SetFilters();
-    case Command::ClearFilters:
-        return ClearFilters();
-    case Command::Find:
-        return FindRows();
-    default:
-        return;
+    for (const CommandEntry& entry : kCommands) {
+        if (entry.command == command)
+            return (this->*entry.run)();
     }
 }
 
@@ -212,7 +238,7 @@ void RowsView::NewRow()
     OpenEditor(std::nullopt, [this](const std::vector<QString>& texts) {
         const ObjectId row = m_store.WriteNewRow(texts);
         if (row != kNoObject)
-            m_model->Append(row);
+            m_model->Insert(m_model->rowCount(), row);
         return row != kNoObject;
     });
 }
@@ -237,17 +263,18 @@ void RowsView::CopyRow()
     const ObjectId copy = m_store.CopyRow(m_model->RowAt(SelectedLine()));
     if (copy == kNoObject)
         return;
-    Select(m_model->Append(copy));
+    m_model->Insert(m_model->rowCount(), copy);
+    Select(m_model->rowCount() - 1);
     ModifyRow();
 }
 
 void RowsView::DeleteRow()
 {
-    const int line = SelectedLine();
     ShowMessage(this, LoadString(StringId::DeleteRowQuestion), MessageIcon::Exclamation,
-        MessageButtons::YesNo, [page = QPointer(this), line](MessageAnswer answer) {
-            if (page != nullptr && answer == MessageAnswer::Yes
-                && page->m_deleter(page->m_model->RowAt(line)))
+        MessageButtons::YesNo, [page = QPointer(this), row = SelectedRow()](MessageAnswer answer) {
+            if (page == nullptr || answer != MessageAnswer::Yes || !page->m_deleter(row))
+                return;
+            if (const int line = page->LineOf(row); line >= 0)
                 page->m_model->Remove(line);
         });
 }
@@ -259,7 +286,20 @@ void RowsView::SetRowDeleter(RowDeleter deleter)
 
 void RowsView::ShowRestored(ObjectId row)
 {
-    Select(m_model->Append(row));
+    const WaitCursor wait;
+    std::vector<ObjectId> order = Listing();
+    if (m_sortColumn)
+        order = m_store.SortRows(std::move(order), *m_sortColumn);
+    const auto place = std::find(order.begin(), order.end(), row);
+    if (place == order.end())
+        return;
+    // Behind the nearest of those before it; rows that were added since they were put in order
+    // stand at the end.
+    int line = -1;
+    for (auto before = place; line < 0 && before != order.begin();)
+        line = LineOf(*--before);
+    m_model->Insert(line + 1, row);
+    Select(line + 1);
 }
 
 void RowsView::AdjustCount(qint32 step)
@@ -273,9 +313,10 @@ void RowsView::SortByColumn(int column)
 {
     const WaitCursor wait;
     const ObjectId selected = SelectedRow();
-    m_model->SetRows(
-        m_store.SortRows(m_model->Rows(), m_list.columns[static_cast<size_t>(column)].id));
-    SelectRow(selected);
+    m_sortColumn = m_list.columns[static_cast<size_t>(column)].id;
+    m_model->SetRows(m_store.SortRows(m_model->Rows(), *m_sortColumn));
+    if (const int line = LineOf(selected); line >= 0)
+        Select(line);
 }
 
 void RowsView::TapCell(const QModelIndex& index)
@@ -325,9 +366,10 @@ void RowsView::SetFilters()
     if (!m_filters)
         m_filters.emplace();
     auto* page = new FiltersPage(*m_filters, m_list, m_context);
-    Push(page, [this, page](PageResult) {
+    Push(page, [this, page](PageResult result) {
         m_filters = page->Filters();
-        Fill();
+        if (result != PageResult::Closing)
+            Fill();
     });
 }
 
@@ -341,7 +383,10 @@ void RowsView::FindRows()
 {
     auto* page = new FilterPage({ FilterMode::Find, {} }, m_list, m_context);
     // A cancelled page gives its fresh state, a condition that no row meets: that is told.
-    Push(page, [this, page](PageResult) { ShowFound(page->State().entry); });
+    Push(page, [this, page](PageResult result) {
+        if (result != PageResult::Closing)
+            ShowFound(page->State().entry);
+    });
 }
 
 void RowsView::ShowFound(const FilterEntry& condition)

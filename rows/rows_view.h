@@ -43,16 +43,25 @@ public:
     {
         return !m_options.isReadOnly && !m_options.foundBy;
     }
-    /// Adds a line for a row that came back, and selects it.
+    /// Adds a line for a row that came back where it belongs in the order shown, and selects it;
+    /// not if it does not meet the criteria.
     void ShowRestored(ObjectId row);
     /// Shows the rows that meet the criteria, the selected one selected again if it is among them,
     /// else the first.
     void Fill();
 
-    void RequestEnd(PageResult result) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+protected:
+    [[nodiscard]] bool PrepareEnd(PageResult result) override;
+    /// Edits the selected row.
+    void TakeReturn() override { Trigger(Command::Modify); }
+
 private:
+    /// One line of the table of commands.
+    struct CommandEntry;
+    static const CommandEntry kCommands[];
+
     RowStore& m_store;
     InventoryList& m_list;
     const ValueContext& m_context;
@@ -62,6 +71,8 @@ private:
     RowsTable* m_view;
     /// The criteria of the rows shown; none once filters were cleared, as at first.
     std::optional<FilterSet> m_filters;
+    /// The column by which the lines were sorted since they were filled.
+    std::optional<PropertyId> m_sortColumn;
     std::vector<int> m_checkboxColumns;
     /// Where the latest tap went down, in the view's coordinates.
     QPoint m_tapPosition;
@@ -78,14 +89,17 @@ private:
     /// kNoObject if none is selected.
     [[nodiscard]] ObjectId SelectedRow() const;
     void Select(int line);
-    /// False if the row is not shown.
-    bool SelectRow(ObjectId row);
+    /// -1 if the row is not shown.
+    [[nodiscard]] int LineOf(ObjectId row) const;
+    [[nodiscard]] std::vector<ObjectId> Listing();
     void Push(Page* page, std::function<void(PageResult)> then);
 
     void NewRow();
     void ModifyRow();
     void CopyRow();
     void DeleteRow();
+    void AddOne() { AdjustCount(1); }
+    void SubtractOne() { AdjustCount(-1); }
     void AdjustCount(qint32 step);
     void SortByColumn(int column);
     void TapCell(const QModelIndex& index);

@@ -27,6 +27,11 @@ public:
     bool DeleteRow(ObjectId list, RowStore& rows, ObjectId row);
 
     [[nodiscard]] bool CanUndo() const { return m_what != What::Nothing; }
+    /// Whether what comes back is seen outside any list: a list, or all rows of one.
+    [[nodiscard]] bool CanUndoOutside() const
+    {
+        return m_what == What::AllRows || m_what == What::List;
+    }
     /// Whether it was a row of this list that was deleted, or all of them.
     [[nodiscard]] bool CanUndoIn(ObjectId list) const;
 

@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -61,12 +62,44 @@ public:
         frame.reset();
         Start();
     }
-    /// What a soft key, a menu entry or a shortcut does; fails where a person could not.
+    /// Taps the left soft key of the topmost page if that is the command's, else its entry in the
+    /// menu of the right one.
     void Choose(Command command) const
     {
-        QVERIFY(home->ActionOf(command)->isEnabled());
-        home->Trigger(command);
+        QVERIFY(pages->Top()->ActionOf(command)->isEnabled());
+        if (command == Command::New)
+            return Press(u"leftKey"_s);
+        Press(u"rightKey"_s);
+        TapEntry(command);
+        if (QApplication::activeModalWidget() == nullptr)
+            ComeBack();
     }
+    /// Taps an entry of the menu that is open.
+    void TapEntry(Command command) const
+    {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu != nullptr);
+        for (const MenuId id :
+            { MenuId::Main, MenuId::Rows, MenuId::ListContext, MenuId::RowContext }) {
+            for (const MenuEntry& entry : MenuEntries(id)) {
+                for (QAction* action : menu->actions()) {
+                    if (entry.command == command && action->text() == entry.Text())
+                        return QTest::mouseClick(
+                            menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+                }
+            }
+        }
+        QFAIL("no such entry");
+    }
+    /// Taps a button of the topmost page.
+    void Press(const QString& button) const
+    {
+        auto* found = pages->Top()->findChild<QWidget*>(button);
+        QVERIFY(found != nullptr);
+        QTest::mouseClick(found, Qt::LeftButton);
+    }
+    void PressOk() const { Press(u"ok"_s); }
+    void PressCancel() const { Press(u"leftKey"_s); }
     void Answer(QMessageBox::StandardButton button)
     {
         QTRY_VERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr);
@@ -106,7 +139,7 @@ public:
         dialog->selectFile(path);
         static_cast<QDialog*>(dialog)->accept();
     }
-    /// As a window manager does once a question is answered.
+    /// As a window manager does once a question is answered or a menu gone.
     void ComeBack() const
     {
         frame->activateWindow();

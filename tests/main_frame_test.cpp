@@ -57,7 +57,7 @@ void MainFrameTest::theFirstStartMakesTheDataFile()
     errand.Start();
     QCOMPARE(errand.pages->Top()->Title(), u"Welcome to Quillory"_s);
     QVERIFY(!QFile::exists(errand.DataPath()));
-    errand.pages->Top()->End(PageResult::Ok);
+    errand.PressOk();
     QVERIFY(QFile::exists(errand.DataPath()));
     QCOMPARE(errand.pages->Top(), errand.home);
     errand.Restart();
@@ -71,12 +71,12 @@ void MainFrameTest::aNewListIsThereAfterARestart()
     auto* name = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
     QVERIFY(name != nullptr);
     QTest::keyClicks(name, u"Pantry"_s);
-    errand.pages->Top()->End(PageResult::Ok);
+    errand.PressOk();
     QCOMPARE(errand.Lines(), u"Attic, Pantry, Zoo"_s);
     QCOMPARE(errand.home->SelectedName(), u"Pantry"_s);
 
     errand.Choose(Command::New);
-    errand.pages->Top()->End(PageResult::Cancel);
+    errand.PressCancel();
     errand.Restart();
     QCOMPARE(errand.Lines(), u"Attic, Pantry, Zoo"_s);
     QCOMPARE(errand.home->SelectedName(), u"Attic"_s);
@@ -95,7 +95,7 @@ void MainFrameTest::recordsAreDeletedOnlyOnYes()
 {
     FrameErrand errand({ u"Pantry"_s });
     errand.Import("Tea\t3\r\n");
-    errand.pages->Top()->End(PageResult::Ok);
+    errand.PressOk();
     errand.frame.reset();
     for (const auto& [answer, lists] :
         { std::pair(QMessageBox::No, u"Pantry 1"_s), std::pair(QMessageBox::Yes, u"Pantry 0"_s) }) {
@@ -175,7 +175,7 @@ void MainFrameTest::aTapOpensAListAndComingBackKeepsItSelected()
     errand.Tap(1);
     QTRY_COMPARE(errand.pages->Depth(), 2);
     QCOMPARE(errand.pages->Top()->Title(), u"Pantry"_s);
-    errand.pages->Top()->End(PageResult::Ok);
+    errand.PressOk();
     QCOMPARE(errand.pages->Top(), errand.home);
     QCOMPARE(errand.home->SelectedName(), u"Pantry"_s);
     QTest::keyClick(errand.view, Qt::Key_Return);
@@ -224,7 +224,7 @@ void MainFrameTest::propertiesChangeNameIconAndPlace()
         QCOMPARE(sheet->Title(), u"Inventory List Options"_s);
         sheet->findChild<QLineEdit*>(u"listName"_s)->setText(u"Zoo"_s);
         QTest::mouseClick(sheet->findChild<QWidget*>(u"nextIcon"_s), Qt::LeftButton);
-        sheet->End(result);
+        result == PageResult::Ok ? errand.PressOk() : errand.PressCancel();
         QCOMPARE(errand.Lines(), result == PageResult::Ok ? u"Pantry, Zoo"_s : u"Attic, Pantry"_s);
     }
     QCOMPARE(errand.home->SelectedName(), u"Zoo"_s);
@@ -241,10 +241,10 @@ void MainFrameTest::optionsSurviveARestart()
     errand.Choose(Command::Options);
     errand.pages->Top()->findChild<QCheckBox*>(u"landscape"_s)->click();
     errand.pages->Top()->findChild<QRadioButton*>(u"landscapeLeft"_s)->click();
-    errand.pages->Top()->End(PageResult::Ok);
+    errand.PressOk();
     errand.Choose(Command::Options);
     errand.pages->Top()->findChild<QCheckBox*>(u"alternateColour"_s)->click();
-    errand.pages->Top()->End(PageResult::Cancel);
+    errand.PressCancel();
     errand.Restart();
     errand.Choose(Command::Options);
     const auto* page = qobject_cast<DisplayOptionsPage*>(errand.pages->Top());
@@ -258,11 +258,11 @@ void MainFrameTest::landscapeLastsAsLongAsTheListIsShown()
     errand.frame->resize(300, 500);
     errand.Choose(Command::Options);
     errand.pages->Top()->findChild<QCheckBox*>(u"landscape"_s)->click();
-    errand.pages->Top()->End(PageResult::Ok);
+    errand.PressOk();
     QCOMPARE(errand.frame->size(), QSize(300, 500));
     errand.Tap(0);
     QCOMPARE(errand.frame->size(), QSize(500, 300));
-    errand.pages->Top()->RequestEnd(PageResult::Ok);
+    errand.PressOk();
     QCOMPARE(errand.frame->size(), QSize(300, 500));
 }
 
@@ -275,7 +275,7 @@ void MainFrameTest::anImportAsksForTheOrderAndShowsTheRows()
         auto* order = errand.pages->Top();
         QCOMPARE(order->Title(), u"Import Column Order"_s);
         QTest::mouseClick(order->findChild<QWidget*>(u"moveDown"_s), Qt::LeftButton);
-        order->End(result);
+        result == PageResult::Ok ? errand.PressOk() : errand.PressCancel();
         QCOMPARE(errand.pages->Top() == errand.home, result == PageResult::Cancel);
     }
     const auto* model = errand.pages->Top()->findChild<QTableView*>()->model();
@@ -290,7 +290,7 @@ void MainFrameTest::aFailedImportIsToldAndTheListOpened()
     FrameErrand errand({ u"Pantry"_s });
     // Nothing but a byte-order mark.
     errand.Import(QByteArray::fromHex("fffe0000"));
-    errand.pages->Top()->End(PageResult::Ok);
+    errand.PressOk();
     errand.Answer(QMessageBox::Ok);
     QCOMPARE(
         errand.question, u"Import is completed with errors. Data may not be imported properly."_s);
@@ -313,7 +313,7 @@ void MainFrameTest::aPipeIsNoTextFile()
     QTRY_VERIFY(errand.frame->findChild<QFileDialog*>() == nullptr);
     QCOMPARE(errand.pages->Top(), errand.home);
     errand.ChooseFileFor(Command::Import, pipe);
-    errand.pages->Top()->End(PageResult::Ok);
+    errand.PressOk();
     errand.Answer(QMessageBox::Ok);
     QCOMPARE(
         errand.question, u"Import is completed with errors. Data may not be imported properly."_s);
@@ -326,7 +326,7 @@ void MainFrameTest::helpOpensAtThePageItWasAskedFrom()
     auto* text = errand.pages->Top()->findChild<QTextBrowser*>();
     QVERIFY(text != nullptr);
     QCOMPARE(text->source().fragment(), u"Main_Contents"_s);
-    errand.pages->Top()->End(PageResult::Ok);
+    errand.PressOk();
     errand.Choose(Command::New);
     QTest::mouseClick(errand.pages->Top()->findChild<QWidget*>(u"help"_s), Qt::LeftButton);
     text = errand.pages->Top()->findChild<QTextBrowser*>();

@@ -32,7 +32,7 @@ struct PageCase
 constexpr std::array kPagesWithCancel {
     PageCase { "list sheet",
         [](const Subject& subject) -> Page* {
-            return new ListSheet(SheetMode::NewList, subject.list);
+            return new ListSheet(SheetMode::NewList, subject.list, subject.list);
         } },
     PageCase {
         "column definition", [](const Subject&) -> Page* { return new ColumnDefinitionPage(); } },

@@ -27,7 +27,6 @@ private Q_SLOTS:
     void onlyALatchedShiftTurnsTabRound();
     void anOpenDropDownKeepsItsKeys();
     void okWritesTheFields();
-    void theCancelKeyAndEscapeCancel();
     void dateTextsAreCommittedIfTheyNameADay_data();
     void dateTextsAreCommittedIfTheyNameADay();
     void aPickedDateIsCommitted();
@@ -185,21 +184,6 @@ void RowEditorTest::okWritesTheFields()
     QCOMPARE(m_file->Cells(rows, Bought), u"3/1/2026"_s);
     QCOMPARE(FindProperty(row.values, m_file->Column(Bio))->value, PropertyVariant(false));
     QCOMPARE(FindProperty(row.values, m_file->Column(Expiry)), nullptr);
-}
-
-void RowEditorTest::theCancelKeyAndEscapeCancel()
-{
-    for (const bool isKey : { true, false }) {
-        m_result.reset();
-        Open(m_file->rows->FillRows().front());
-        Type(u"salt"_s);
-        QTest::keyClick(Focus(), Qt::Key_Down);
-        if (isKey)
-            QTest::mouseClick(m_page->findChild<QWidget*>(u"leftKey"_s), Qt::LeftButton);
-        else
-            QTest::keyClick(Focus(), Qt::Key_Escape);
-        QCOMPARE(m_result, PageResult::CancelKey);
-    }
 }
 
 void RowEditorTest::dateTextsAreCommittedIfTheyNameADay_data()

@@ -23,7 +23,7 @@ IconGridPage::IconGridPage(int selected, QWidget* parent)
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
     connect(grid, &IconGrid::IconTapped, this, [this](int index) {
         m_icon = index;
-        End(PageResult::Ok);
+        RequestEnd(PageResult::Ok);
     });
     setFocusProxy(grid);
 }

@@ -137,7 +137,10 @@ void IconPicker::PreviousIcon()
 void IconPicker::OpenGrid()
 {
     auto* page = new IconGridPage(m_icon);
-    PageStack::Of(this).Push(page, [this, page](PageResult) { Choose(page->Icon()); });
+    PageStack::Of(this).Push(page, [this, page](PageResult result) {
+        if (result != PageResult::Closing)
+            Choose(page->Icon());
+    });
 }
 
 void IconPicker::keyPressEvent(QKeyEvent* event)

@@ -3,6 +3,7 @@
 
 #include "res/string_table.h"
 #include "widgets/measures.h"
+#include "widgets/questions.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -111,20 +112,29 @@ private:
 void ShowMessage(QWidget* parent, const QString& text, MessageIcon icon, MessageButtons buttons,
     std::function<void(MessageAnswer)> then)
 {
+    Questions::Of(parent).Ask(
+        [window = parent->window(), text, icon, buttons, then = std::move(then)] {
+            return MakeMessageBox(window, text, icon, buttons, then);
+        });
+}
+
+QDialog* MakeMessageBox(QWidget* window, const QString& text, MessageIcon icon,
+    MessageButtons buttons, const std::function<void(MessageAnswer)>& then)
+{
     const BoxButtons boxButtons = ButtonsOf(buttons);
-    auto* box = new FittingBox(BoxIcon(icon), LoadText(Text::Caption), text, boxButtons.buttons,
-        parent == nullptr ? nullptr : parent->window());
+    auto* box
+        = new FittingBox(BoxIcon(icon), LoadText(Text::Caption), text, boxButtons.buttons, window);
     box->setObjectName(QStringLiteral("messageBox"));
     box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(boxButtons.standard);
     box->setEscapeButton(boxButtons.escape);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::WindowModal);
-    QObject::connect(box, &QMessageBox::finished, box, [then = std::move(then)](int button) {
+    QObject::connect(box, &QMessageBox::finished, box, [then](int button) {
         if (then)
             then(AnswerOf(button));
     });
-    box->open();
+    return box;
 }
 
 } // namespace Quillory

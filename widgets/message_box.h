@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QDialog;
 class QWidget;
 
 namespace Quillory {
@@ -34,9 +35,14 @@ enum class MessageAnswer
     Retry,
 };
 
-/// Shows a message captioned "Quillory" over the window of `parent` and returns at once; `then` is
-/// called with the answer. Escape answers with the last button.
+/// Asks in a message captioned "Quillory" over the window of `parent`, as soon as what was asked
+/// there before is answered, and returns at once; `then` is called with the answer. Escape answers
+/// with the last button.
 void ShowMessage(QWidget* parent, const QString& text, MessageIcon icon,
     MessageButtons buttons = MessageButtons::Ok, std::function<void(MessageAnswer)> then = {});
+
+/// Such a message for whoever decides only when its turn comes; see Questions::Ask().
+[[nodiscard]] QDialog* MakeMessageBox(QWidget* window, const QString& text, MessageIcon icon,
+    MessageButtons buttons, const std::function<void(MessageAnswer)>& then);
 
 } // namespace Quillory

@@ -2,8 +2,10 @@
 #include "widgets/page.h"
 
 #include "widgets/measures.h"
+#include "widgets/message_box.h"
 #include "widgets/undo_bar.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -11,7 +13,9 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QPushButton>
+#include <QTabBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -165,14 +169,23 @@ QAction* Page::ActionOf(Command command)
     auto* action = new QAction(this);
     action->setObjectName(name);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(action, &QAction::triggered, this, [this, command] {
-        if (command == Command::Cancel)
-            RequestEnd(PageResult::Cancel);
-        else
-            Q_EMIT CommandChosen(command);
-    });
+    connect(action, &QAction::triggered, this, [this, command] { Carry(command); });
     addAction(action);
     return action;
+}
+
+void Page::Carry(Command command)
+{
+    if (!isVisible())
+        return;
+    if (command == Command::Cancel)
+        return RequestEnd(PageResult::Cancel);
+    // What a command finds is what was typed before it.
+    CommitInPlace();
+    if (command == Command::Done)
+        RequestEnd(PageResult::Ok);
+    else
+        Q_EMIT CommandChosen(command);
 }
 
 void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
@@ -214,7 +227,6 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
         return button;
     }
     QAction* action = ActionOf(entry.command);
-    action->setText(entry.Text());
     const auto follow = [button, action] { button->setEnabled(action->isEnabled()); };
     connect(action, &QAction::changed, button, follow);
     follow();
@@ -230,8 +242,19 @@ void Page::FillMenu(QMenu* menu, std::span<const MenuEntry> entries)
             continue;
         }
         QAction* action = ActionOf(entry.command);
-        action->setText(entry.Text());
-        menu->addAction(action);
+        // Assistive technology finds an action in one menu only, so each entry is one of its own.
+        // Its shortcut is there to be read.
+        QAction* own = menu->addAction(entry.Text());
+        own->setShortcutContext(Qt::WidgetShortcut);
+        own->setShortcut(action->shortcut());
+        const auto follow = [own, action] {
+            own->setEnabled(action->isEnabled());
+            own->setCheckable(action->isCheckable());
+            own->setChecked(action->isChecked());
+        };
+        connect(action, &QAction::changed, own, follow);
+        follow();
+        connect(own, &QAction::triggered, action, &QAction::trigger);
     }
 }
 
@@ -277,14 +300,33 @@ void Page::WithdrawUndo()
     m_undoBar->hide();
 }
 
-void Page::End(PageResult result)
-{
-    Q_EMIT Ended(result);
-}
-
 void Page::RequestEnd(PageResult result)
 {
-    End(result);
+    if (result == PageResult::Ok)
+        CommitInPlace();
+    if (PrepareEnd(result))
+        Q_EMIT Ended(result);
+}
+
+void Page::AskToDiscard(const std::function<void()>& then)
+{
+    ShowMessage(this, tr("Do you want to discard what you have entered?"), MessageIcon::Exclamation,
+        MessageButtons::YesNo, [page = QPointer(this), then](MessageAnswer answer) {
+            if (page != nullptr && answer == MessageAnswer::Yes)
+                then();
+        });
+}
+
+void Page::CommitInPlace()
+{
+    QWidget* editor = focusWidget();
+    for (QWidget* widget = editor; widget != nullptr && widget != this;
+         widget = widget->parentWidget()) {
+        auto* view = qobject_cast<QAbstractItemView*>(widget);
+        // A view that never takes the keyboard has no editors of its own.
+        if (view != nullptr && view != editor && view->focusPolicy() != Qt::NoFocus)
+            return view->setFocus();
+    }
 }
 
 bool Page::focusNextPrevChild(bool next)
@@ -299,12 +341,29 @@ bool Page::focusNextPrevChild(bool next)
 
 void Page::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape)
-        RequestEnd(PageResult::Cancel);
-    else if (event->key() == Qt::Key_F1)
+    QWidget* focused = focusWidget();
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        if (HasUnsavedInput())
+            AskToDiscard([this] { RequestEnd(PageResult::Cancel); });
+        else
+            RequestEnd(PageResult::Cancel);
+        return;
+    case Qt::Key_F1:
         Q_EMIT HelpRequested(m_helpAnchor);
-    else
+        return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (qobject_cast<QPushButton*>(focused) != nullptr
+            || qobject_cast<QToolButton*>(focused) != nullptr)
+            qobject_cast<QAbstractButton*>(focused)->click();
+        else if (qobject_cast<QTabBar*>(focused) == nullptr)
+            // A tab that has the keyboard is chosen already.
+            TakeReturn();
+        return;
+    default:
         QWidget::keyPressEvent(event);
+    }
 }
 
 } // namespace Quillory

@@ -23,12 +23,17 @@ enum class PageResult
 {
     Ok = 1,
     Cancel = 2,
-    /// The Cancel soft key of pages that tell it from other ends.
-    CancelKey = 59281,
+    /// The window closes, or goes on to something else: nothing was decided. Whoever opened the
+    /// page tidies up, and opens nothing.
+    Closing,
 };
 
 /// A full-screen page: a header with the title, OK and help, the page's own body, and the soft-key
 /// bar. It writes nothing to the store; its opener does, in the continuation on its result.
+///
+/// OK, Done and Return end it with Ok, the Cancel key with Cancel. So does Escape, which asks first
+/// where input would be lost. Return presses the button that has the keyboard, where one has it.
+/// Nothing of this works while another page covers it.
 class Page : public QWidget
 {
     Q_OBJECT
@@ -52,29 +57,28 @@ public:
     void SetShortcut(Command command, const QKeySequence& shortcut);
     /// Runs a command as its soft key or menu entry would; nothing if it is disabled.
     void Trigger(Command command);
-    /// The action behind a command; made at the first call. Context menus and soft keys share it.
+    /// The action behind a command; made at the first call. Soft keys and menu entries follow it.
     [[nodiscard]] QAction* ActionOf(Command command);
-    /// Opens a menu of these entries at a place on the screen; the actions are those of the page.
+    /// Opens a menu of these entries at a place on the screen.
     void OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& globalPosition);
 
     /// Says at the bottom what was deleted and offers to undo it, for some seconds.
     void OfferUndo(const QString& text, std::function<void()> undo);
     void WithdrawUndo();
 
-    /// Ends the page with a result: the stack takes it away and calls the opener back.
-    void End(PageResult result);
-
-    /// What a result asked for from outside does: closing the window and Escape come as Cancel. The
-    /// page may end, ask first, or commit what is being edited.
-    virtual void RequestEnd(PageResult result);
-    /// Whether something was typed or chosen that a cancelled end would lose: then closing the
-    /// window asks first.
+    /// Ends the page with a result, unless it has a reason to stay: the stack takes it away and
+    /// calls the opener back.
+    void RequestEnd(PageResult result);
+    /// Asks whether what was entered may be lost; `then` is called if so.
+    void AskToDiscard(const std::function<void()>& then);
+    /// Takes over what is typed in the place of a line's text, as a tap elsewhere does.
+    void CommitInPlace();
+    /// Whether something was typed or chosen that would be lost without an Ok.
     [[nodiscard]] virtual bool HasUnsavedInput() const { return false; }
 
 Q_SIGNALS:
     void Ended(Quillory::PageResult result);
-    /// A command was chosen that the page must carry out. Cancel is not among them: it asks the
-    /// page to end.
+    /// A command was chosen that the page must carry out. Done and Cancel are not among them.
     void CommandChosen(Quillory::Command command);
     /// A menu is about to open: the last chance to set what is enabled.
     void MenuAboutToOpen();
@@ -84,6 +88,11 @@ Q_SIGNALS:
 protected:
     /// The page's own content goes here, between header and soft keys.
     [[nodiscard]] QVBoxLayout* Body() const { return m_body; }
+    /// Takes over what is being edited before the page ends. False keeps the page, which has told
+    /// why; not if the result is Closing.
+    [[nodiscard]] virtual bool PrepareEnd(PageResult /*result*/) { return true; }
+    /// What Return does where no button has the keyboard: it is OK.
+    virtual void TakeReturn() { RequestEnd(PageResult::Ok); }
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -100,6 +109,7 @@ private:
     void BuildHeader(const QString& title);
     [[nodiscard]] QWidget* MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu);
     void FillMenu(QMenu* menu, std::span<const MenuEntry> entries);
+    void Carry(Command command);
 };
 
 } // namespace Quillory

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/page_stack.h"
 
+#include "widgets/questions.h"
+
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QPointer>
@@ -37,6 +39,9 @@ void PageStack::FitAboveKeyboard()
 
 void PageStack::Push(Page* page, std::function<void(PageResult)> then)
 {
+    ClosePopups();
+    if (Top() != nullptr)
+        Top()->CommitInPlace();
     QWidget* const below = Top() == nullptr ? nullptr : Top()->focusWidget();
     addWidget(page);
     setCurrentWidget(page);
@@ -58,14 +63,21 @@ Page* PageStack::Top() const
     return qobject_cast<Page*>(currentWidget());
 }
 
-// It ends pages, if not by a member of its own.
-// NOLINTNEXTLINE(readability-make-member-function-const)
-bool PageStack::CloseTopmost()
+void PageStack::CloseAll(const std::function<void()>& then)
 {
+    ClosePopups();
+    Page* top = Top();
+    top->CommitInPlace();
     if (Depth() <= 1)
-        return true;
-    Top()->RequestEnd(PageResult::Cancel);
-    return Depth() <= 1;
+        return then();
+    const auto goOn = [this, top, then] {
+        top->RequestEnd(PageResult::Closing);
+        CloseAll(then);
+    };
+    if (top->HasUnsavedInput())
+        top->AskToDiscard(goOn);
+    else
+        goOn();
 }
 
 } // namespace Quillory

@@ -21,15 +21,15 @@ public:
     /// The stack that a widget stands in, however deep; one must be there.
     [[nodiscard]] static PageStack& Of(const QWidget* widget);
 
-    /// Shows `page` on top and takes it over. `then` is called with its result once it is gone
-    /// from the screen, before it is deleted; it may read from the page.
+    /// Shows `page` on top and takes it over; menus and pop-ups close. `then` is called with its
+    /// result once it is gone from the screen, before it is deleted; it may read from the page.
     void Push(Page* page, std::function<void(PageResult)> then = {});
     [[nodiscard]] Page* Top() const;
     [[nodiscard]] int Depth() const { return count(); }
 
-    /// Asks the topmost page but the first to end as if cancelled. True when only the first is
-    /// left, so that the window may close.
-    [[nodiscard]] bool CloseTopmost();
+    /// Ends the pages above the first from the top, each with Closing, asking first where input
+    /// would be lost. `then` is called once the first is left alone; not if an answer keeps a page.
+    void CloseAll(const std::function<void()>& then);
 
 Q_SIGNALS:
     /// A page asks for help at this anchor; empty for help on the whole program.

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "app/interruptions.h"
+
+#include <array>
+
+namespace Quillory {
+
+namespace {
+
+using enum Response;
+
+constexpr std::array<std::array<Response, 5>, 3> kResponses { {
+    // Pages, Input, Popup, Question, Work
+    { EndPages, EndPages, EndPages, Wait, Wait }, // End
+    { ComeForward, ComeForward, ComeForward, ComeForward, ComeForward }, // Start
+    { EndPages, EndPages, EndPages, Wait, Wait }, // StartWithList
+} };
+
+} // namespace
+
+Response ResponseTo(Interruption what, Front front)
+{
+    return kResponses.at(static_cast<size_t>(what)).at(static_cast<size_t>(front));
+}
+
+} // namespace Quillory
