@@ -5,10 +5,16 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
+
+#include <sys/resource.h>
+
+#include <csignal>
+#include <optional>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -24,6 +30,10 @@ private Q_SLOTS:
     void nothingComesBackIntoAListThatIsOnlyRead();
     void aFailedWriteIsToldOnceAndWorkGoesOn();
     void whatCouldNotBeStoredIsTypedOnlyOnce();
+    void aSheetThatCouldNotBeStoredComesBack_data();
+    void aSheetThatCouldNotBeStoredComesBack();
+    void closingIsNotHeldUpByAFailingWrite_data();
+    void closingIsNotHeldUpByAFailingWrite();
     void aFileReplacedUnderAnEditorTakesWhatIsTyped();
     void aFileReplacedBeforeTheEndIsTold();
     void aFileRemovedBeforeTheEndIsTold();
@@ -39,6 +49,25 @@ void Replace(const FrameErrand& errand, const QString& by)
     QVERIFY(QFile::remove(errand.DataPath()));
     QVERIFY(QFile::rename(by, errand.DataPath()));
 }
+
+/// No file grows while it lives, as on a full disk.
+class NoRoom
+{
+public:
+    NoRoom()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit none { 512, m_before.rlim_max };
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~NoRoom() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    NoRoom(const NoRoom&) = delete;
+    NoRoom& operator=(const NoRoom&) = delete;
+
+private:
+    rlimit m_before {};
+};
 
 /// The lists of the newest kept copy and how many rows each has.
 QString NewestCopy(const FrameErrand& errand)
@@ -169,6 +198,74 @@ void MainFrameSafetyTest::whatCouldNotBeStoredIsTypedOnlyOnce()
     const auto* model = rows->findChild<QTableView*>()->model();
     QCOMPARE(model->rowCount(), 1);
     QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
+}
+
+void MainFrameSafetyTest::aSheetThatCouldNotBeStoredComesBack_data()
+{
+    QTest::addColumn<Command>("command");
+    QTest::addColumn<QString>("lists");
+    QTest::newRow("a new list") << Command::New << u"Attic 0, Pantry 0"_s;
+    QTest::newRow("properties") << Command::ListProperties << u"Pantry 0"_s;
+}
+
+void MainFrameSafetyTest::aSheetThatCouldNotBeStoredComesBack()
+{
+    QFETCH(const Command, command);
+    QFETCH(const QString, lists);
+    FrameErrand errand({ u"Attic"_s });
+    errand.Choose(command);
+    auto* field = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
+    field->selectAll();
+    QTest::keyClicks(field, u"Pantry"_s);
+    QStringList told;
+    {
+        const NoRoom full;
+        errand.PressOk();
+        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
+        while (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            // One at a time, and the one that is seen has the keyboard.
+            QVERIFY(box->isAncestorOf(QApplication::focusWidget()));
+            told << box->text().left(10);
+            QTest::keyClick(box, Qt::Key_Escape);
+            QCoreApplication::processEvents();
+        }
+    }
+    QCOMPARE(told.last(), u"The change"_s);
+    QCOMPARE(told.count(u"The change"_s), 1);
+    field = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
+    QVERIFY(field != nullptr);
+    QCOMPARE(field->text(), u"Pantry"_s);
+    errand.ComeBack();
+    errand.PressOk();
+    QVERIFY(errand.frame->close());
+    errand.frame.reset();
+    QCOMPARE(ListsIn(errand.DataPath()), lists);
+}
+
+void MainFrameSafetyTest::closingIsNotHeldUpByAFailingWrite_data()
+{
+    QTest::addColumn<bool>("isGone");
+    QTest::newRow("the file is gone") << true;
+    QTest::newRow("there is no room") << false;
+}
+
+void MainFrameSafetyTest::closingIsNotHeldUpByAFailingWrite()
+{
+    QFETCH(const bool, isGone);
+    FrameErrand errand({ u"Attic"_s });
+    errand.Tap(0);
+    auto* header = errand.pages->Top()->findChild<QTableView*>()->horizontalHeader();
+    header->resizeSection(0, header->sectionSize(0) + 10);
+    std::optional<NoRoom> full;
+    if (isGone)
+        QVERIFY(QFile::remove(errand.DataPath()));
+    else
+        full.emplace();
+    QVERIFY(!errand.frame->close());
+    errand.Answer(QMessageBox::Cancel);
+    QVERIFY(errand.question.contains(u"could not be saved"_s));
+    QTRY_VERIFY(!errand.frame->isVisible());
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
 }
 
 void MainFrameSafetyTest::aFileReplacedUnderAnEditorTakesWhatIsTyped()

@@ -45,8 +45,8 @@ struct PageCase
 {
     const char* name;
     MakePage make;
-    /// What there is besides Escape and closing: "ok" and "leftKey" for the buttons, "enter" for Return
-    /// where it is OK.
+    /// What there is besides Escape and closing: "ok" and "leftKey" for the buttons, "enter" for
+    /// Return where it is OK.
     QStringList ways;
     /// Whether a letter typed first, or Space, is input that could be lost.
     bool takesInput;
@@ -114,8 +114,7 @@ void Show(Subject& subject, const PageCase& page)
     subject.stack.resize(360, 640);
     subject.stack.Push(new Page(QString()));
     subject.page = page.make(subject);
-    subject.stack.Push(
-        subject.page, [&subject](PageResult result) { subject.results << result; });
+    subject.stack.Push(subject.page, [&subject](PageResult result) { subject.results << result; });
     subject.stack.show();
     QVERIFY(QTest::qWaitForWindowActive(&subject.stack));
 }
@@ -128,7 +127,7 @@ void Leave(Subject& subject, const QString& way)
     else if (way == u"enter")
         QTest::keyClick(window, Qt::Key_Return);
     else if (way == u"closing")
-        subject.stack.CloseAll([] { });
+        subject.stack.CloseAll([] {});
     else
         QTest::mouseClick(subject.page->findChild<QWidget*>(way), Qt::LeftButton);
 }
