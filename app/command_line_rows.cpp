@@ -155,8 +155,10 @@ void PrintSorted(CommandData& data, const FilterSet& filters, PropertyId column,
             rows.push_back(oid);
             return true;
         }).Error());
-    rows = RowStore(data.volume, data.list, context).SortRows(std::move(rows), column);
-    for (const ObjectId row : rows) {
+    const Listing sorted
+        = RowStore(data.volume, data.list, context).SortRows(std::move(rows), column);
+    CheckRead(sorted.error);
+    for (const ObjectId row : sorted.rows) {
         CheckRead(database.SeekTo(row).Error());
         const auto record = database.Read(printer.Ids());
         CheckRead(record.Error());
@@ -260,7 +262,7 @@ void RunSummary(const CommandRun& run)
     data->OpenList(run.operands.front());
     const FilterSet filters = ReadConditions(run.parser.values(u"where"_s), data->list, context);
     const ListTotals totals = ComputeTotals(data->volume, data->list, &filters, context);
-    CheckRead(totals.readError);
+    CheckRead(totals.error);
     std::optional<JsonArrayWriter> json;
     if (run.IsJson())
         json.emplace(run.output);

@@ -29,10 +29,10 @@ void Complain(QIODevice& errors, const QString& message)
     errors.write("quillory: " + message.toUtf8() + '\n');
 }
 
-void FailIfListsAreMissing(const ListCatalogue& catalogue)
+void FailIfListsAreMissing(const ListCatalogue::HomeListing& listing)
 {
-    if (catalogue.HomeListError() != ErrorNumber::None)
-        Fail(u"some lists cannot be read: %1"_s.arg(ErrorText(catalogue.HomeListError())));
+    if (listing.error != ErrorNumber::None)
+        Fail(u"some lists cannot be read: %1"_s.arg(ErrorText(listing.error)));
 }
 
 qint32 ReadInteger(
@@ -71,7 +71,7 @@ ObjectId CommandData::OpenList(const QString& name)
 {
     const ObjectId oid = catalogue.FindList(name);
     if (oid == kNoObject) {
-        FailIfListsAreMissing(catalogue);
+        FailIfListsAreMissing(catalogue.FillHomeList());
         Fail(u"there is no list named “%1”"_s.arg(name));
     }
     OpenList(oid);
@@ -124,7 +124,8 @@ void CommandRun::VisitLists(
     CommandData& data, const ListVisitor& visit, const std::function<void()>& end) const
 {
     bool isWhole = true;
-    for (const ListCatalogue::HomeListEntry& entry : data.catalogue.FillHomeList()) {
+    const auto listing = data.catalogue.FillHomeList();
+    for (const ListCatalogue::HomeListEntry& entry : listing.lists) {
         try {
             data.OpenList(entry.oid);
             visit(entry);
@@ -134,7 +135,7 @@ void CommandRun::VisitLists(
         }
     }
     end();
-    FailIfListsAreMissing(data.catalogue);
+    FailIfListsAreMissing(listing);
     if (!isWhole)
         Fail(u"not every list could be read"_s);
 }

@@ -32,8 +32,8 @@ private:
 [[noreturn]] void FailUsage(const QString& message);
 /// Writes a message as a line of its own to standard error.
 void Complain(QIODevice& errors, const QString& message);
-/// Fails if the latest listing of the catalogue ended before its end. What could be read was shown.
-void FailIfListsAreMissing(const ListCatalogue& catalogue);
+/// Fails if a listing of the catalogue lacks lists. What could be read was shown.
+void FailIfListsAreMissing(const ListCatalogue::HomeListing& listing);
 /// The value of an option as a whole number; one outside the limits ends the command.
 [[nodiscard]] qint32 ReadInteger(
     const QCommandLineParser& parser, const QString& option, qint32 least, qint32 most);

@@ -201,10 +201,10 @@ StartAnswer MainFrame::TakeStartRequest(const StartRequest& request)
 
 void MainFrame::FillHome()
 {
-    m_home->Fill(m_catalogue.FillHomeList());
-    const ErrorNumber error = m_catalogue.HomeListError();
-    if (error != ErrorNumber::None)
-        TellStop(tr("Some lists cannot be read. Error: %1").arg(static_cast<quint32>(error)));
+    const auto home = m_catalogue.FillHomeList();
+    m_home->Fill(home.lists);
+    if (home.error != ErrorNumber::None)
+        TellStop(tr("Some lists cannot be read. Error: %1").arg(static_cast<quint32>(home.error)));
 }
 
 void MainFrame::BringToFront(const QString& activationToken)

@@ -95,7 +95,7 @@ void RowsView::Fill()
 {
     const WaitCursor wait;
     const ObjectId selected = SelectedRow();
-    m_model->SetRows(m_filters ? m_store.FillFilteredRows(*m_filters) : m_store.FillRows());
+    m_model->SetRows((m_filters ? m_store.FillFilteredRows(*m_filters) : m_store.FillRows()).rows);
     if (!SelectRow(selected) && m_model->rowCount() > 0)
         Select(0);
 }
@@ -274,7 +274,7 @@ void RowsView::SortByColumn(int column)
     const WaitCursor wait;
     const ObjectId selected = SelectedRow();
     m_model->SetRows(
-        m_store.SortRows(m_model->Rows(), m_list.columns[static_cast<size_t>(column)].id));
+        m_store.SortRows(m_model->Rows(), m_list.columns[static_cast<size_t>(column)].id).rows);
     SelectRow(selected);
 }
 
@@ -317,7 +317,7 @@ void RowsView::ToggleByKey()
 void RowsView::ShowSummary()
 {
     const WaitCursor wait;
-    Push(new SummaryPage(m_store.Totals(m_filters ? &*m_filters : nullptr)), {});
+    Push(new SummaryPage(m_store.Totals(m_filters ? &*m_filters : nullptr).lines), {});
 }
 
 void RowsView::SetFilters()

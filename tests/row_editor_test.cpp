@@ -111,7 +111,7 @@ void RowEditorTest::aNewRowStartsWithItsDefaults()
 
 void RowEditorTest::keysGoFromFieldToField()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     QTest::keyClick(Focus(), Qt::Key_Up);
     QCOMPARE(Current(), int { Name });
     QStringList controls;
@@ -153,7 +153,7 @@ void RowEditorTest::onlyALatchedShiftTurnsTabRound()
 
 void RowEditorTest::anOpenDropDownKeepsItsKeys()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     GoTo(Bio);
     auto* box = qobject_cast<QComboBox*>(Focus());
     QVERIFY(box != nullptr);
@@ -170,7 +170,7 @@ void RowEditorTest::anOpenDropDownKeepsItsKeys()
 
 void RowEditorTest::okWritesTheFields()
 {
-    const auto rows = m_file->rows->FillRows();
+    const auto rows = m_file->rows->FillRows().rows;
     Open(rows.front());
     // Every comma is read as a point, also one that parts thousands.
     QCOMPARE(Shown(Price), u"1,234.50"_s);
@@ -191,7 +191,7 @@ void RowEditorTest::theCancelKeyAndEscapeCancel()
 {
     for (const bool isKey : { true, false }) {
         m_result.reset();
-        Open(m_file->rows->FillRows().front());
+        Open(m_file->rows->FillRows().rows.front());
         Type(u"salt"_s);
         QTest::keyClick(Focus(), Qt::Key_Down);
         if (isKey)
@@ -220,7 +220,7 @@ void RowEditorTest::dateTextsAreCommittedIfTheyNameADay()
     QFETCH(int, field);
     QFETCH(QString, typed);
     QFETCH(QString, shown);
-    const auto rows = m_file->rows->FillRows();
+    const auto rows = m_file->rows->FillRows().rows;
     Open(rows.front());
     GoTo(field);
     Type(typed);
@@ -264,7 +264,7 @@ void RowEditorTest::aDateOfANewRowCanBeTakenBack()
 
 void RowEditorTest::losingTheKeyboardCommits()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     Type(u"salt"_s);
     QFocusEvent deactivated(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
     QApplication::sendEvent(Focus(), &deactivated);
@@ -276,7 +276,7 @@ void RowEditorTest::losingTheKeyboardCommits()
 
 void RowEditorTest::tapsChooseTheField()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     Type(u"salt"_s);
     GoTo(Size);
     QCOMPARE(Current(), int { Size });
@@ -291,7 +291,7 @@ void RowEditorTest::tapsChooseTheField()
 
 void RowEditorTest::theControlStaysInViewWhenThePageShrinks()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     GoTo(Expiry);
     m_stack->resize(360, 240);
     const auto place = [this] {
