@@ -32,7 +32,16 @@ void Complain(QIODevice& errors, const QString& message)
 void FailIfListsAreMissing(const ListCatalogue::HomeListing& listing)
 {
     if (listing.error != ErrorNumber::None)
-        Fail(u"some lists cannot be read: %1"_s.arg(ErrorText(listing.error)));
+        Fail(u"some lists cannot be read: %1"_s.arg(ReadErrorText(listing.error)));
+}
+
+void FailIfRowsAreMissing(const Database::VisitOutcome& outcome)
+{
+    if (outcome.passedOver > 0)
+        Fail(u"rows that cannot be read were passed over, %1 of them: %2"_s.arg(
+            QString::number(outcome.passedOver), ReadErrorText(outcome.error)));
+    if (outcome.error != ErrorNumber::None)
+        Fail(u"the list was read only in part: %1"_s.arg(ReadErrorText(outcome.error)));
 }
 
 qint32 ReadInteger(
@@ -51,6 +60,14 @@ QString ErrorText(ErrorNumber error)
         QLatin1StringView(ErrorPhrase(error)), QString::number(static_cast<quint32>(error)));
 }
 
+QString ReadErrorText(ErrorNumber error)
+{
+    const QString text = ErrorText(error);
+    return error != ErrorNumber::FileCorrupt
+        ? text
+        : u"%1; “quillory restore” lists copies and what can be saved"_s.arg(text);
+}
+
 CommandData::CommandData(const QString& path, VolumeAccess access, Disposition disposition)
     : catalogue(volume)
     , m_path(path)
@@ -59,12 +76,12 @@ CommandData::CommandData(const QString& path, VolumeAccess access, Disposition d
     if (error == ErrorNumber::SharingViolation)
         Fail(u"%1 is open in Quillory; close it first"_s.arg(path));
     if (error != ErrorNumber::None)
-        Fail(u"cannot open %1: %2"_s.arg(path, ErrorText(error)));
+        Fail(u"cannot open %1: %2"_s.arg(path, ReadErrorText(error)));
     // A reader makes no table for the lists that are not there yet.
     if (access == VolumeAccess::ReadOnly && catalogue.IsWithoutTables())
         return;
     if (catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
-        Fail(u"cannot open the lists of %1: %2"_s.arg(path, ErrorText(volume.LastError())));
+        Fail(u"cannot open the lists of %1: %2"_s.arg(path, ReadErrorText(volume.LastError())));
 }
 
 ObjectId CommandData::OpenList(const QString& name)
@@ -81,7 +98,7 @@ ObjectId CommandData::OpenList(const QString& name)
 void CommandData::OpenList(ObjectId oid)
 {
     if (!catalogue.OpenList(oid, list))
-        Fail(u"cannot open the list: %1"_s.arg(ErrorText(volume.LastError())));
+        Fail(u"cannot open the list: %1"_s.arg(ReadErrorText(volume.LastError())));
 }
 
 Database& CommandData::Rows()

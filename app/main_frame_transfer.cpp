@@ -110,9 +110,11 @@ void MainFrame::ExportTo(const QString& path)
     if (target.file != nullptr && rows != nullptr) {
         const qint64 total = m_volume.RecordCount(ListCatalogue::kRowsType);
         TransferProgress progress(this, list.Name);
-        // The file tells of its own failure by what is missing in it; there is no message.
-        static_cast<void>(ExportRows(*rows, list, m_context, *target.file,
-            [&progress, total](qint64 done) { return progress.Show(done, total); }));
+        const ExportOutcome outcome = ExportRows(*rows, list, m_context, *target.file,
+            [&progress, total](qint64 done) { return progress.Show(done, total); });
+        // There is no message: what could not be written or was cancelled leaves what was there.
+        if (!outcome.isCancelled)
+            static_cast<void>(target.Commit());
     }
     m_catalogue.CloseRows();
 }
