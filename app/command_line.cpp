@@ -240,12 +240,12 @@ void Dispatch(const QStringList& arguments, const SubCommand* command,
 
 ExitCode Finish(TextOutput& output, const CommandEnvironment& environment)
 {
-    if (output.Flush())
+    const QString failure = output.Flush();
+    if (failure.isEmpty())
         return ExitCode::Done;
     // Whoever closed the other end of a pipe knows.
-    if (environment.output.errorString() != qt_error_string(EPIPE))
-        Complain(environment.errors,
-            u"cannot write to standard output: %1"_s.arg(environment.output.errorString()));
+    if (failure != qt_error_string(EPIPE))
+        Complain(environment.errors, u"cannot write to standard output: %1"_s.arg(failure));
     return ExitCode::Failed;
 }
 

@@ -18,14 +18,14 @@ bool IsStream(const QString& path)
     return path == u"-";
 }
 
-void CheckExport(const ExportOutcome& outcome, const QString& target)
+/// Writes what can be read of the list. Nothing waits for whoever reads the target.
+[[nodiscard]] Database::VisitOutcome ExportTo(const CommandRun& run, TextOutput& target)
 {
-    if (!outcome.writeFailure.isEmpty())
-        Fail(u"cannot write to %1: %2; %3 rows were written"_s.arg(
-            target, outcome.writeFailure, QString::number(outcome.rows)));
-    if (outcome.readError != ErrorNumber::None)
-        Fail(u"cannot read the rows: %1; %2 rows were written"_s.arg(
-            ErrorText(outcome.readError), QString::number(outcome.rows)));
+    const auto data = run.OpenForReading();
+    data->OpenList(run.operands.front());
+    const ExportOutcome outcome
+        = ExportRows(data->Rows(), data->list, run.environment.context, target);
+    return { outcome.passedOver, outcome.readError };
 }
 
 /// Runs an import from a file or the standard input.
@@ -63,19 +63,20 @@ std::vector<PropertyId> ColumnOrder(const CommandRun& run, const InventoryList& 
 
 void RunExport(const CommandRun& run)
 {
-    const auto data = run.OpenForReading();
-    data->OpenList(run.operands.front());
-    const ValueContext& context = run.environment.context;
     const QString path = run.operands.value(1, u"-"_s);
-    if (IsStream(path)) {
-        CheckExport(ExportRows(data->Rows(), data->list, context, run.environment.output),
-            u"standard output"_s);
-        return;
-    }
-    const ListFile target = CreateListFile(path, data->Path());
+    if (IsStream(path))
+        return FailIfRowsAreMissing(ExportTo(run, run.output));
+    const ListFile target = CreateListFile(path, run.DataFile());
     if (target.file == nullptr)
         Fail(u"cannot make %1: %2"_s.arg(path, target.failure));
-    CheckExport(ExportRows(data->Rows(), data->list, context, *target.file), path);
+    TextOutput text(*target.file);
+    const auto missing = ExportTo(run, text);
+    QString failure = text.Flush();
+    if (failure.isEmpty())
+        failure = target.Commit();
+    if (!failure.isEmpty())
+        Fail(u"cannot write %1: %2"_s.arg(path, failure));
+    FailIfRowsAreMissing(missing);
 }
 
 void RunImport(const CommandRun& run)

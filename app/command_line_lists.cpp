@@ -4,6 +4,7 @@
 #include "values/column_type.h"
 
 #include <QJsonArray>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <array>
@@ -113,7 +114,7 @@ void RunLists(const CommandRun& run)
     const auto print = [&](const ListCatalogue::HomeListEntry& entry) {
         const auto count = data->Rows().RecordCount();
         if (!count)
-            Fail(u"cannot count the rows: %1"_s.arg(ErrorText(count.Error())));
+            Fail(u"cannot count the rows: %1"_s.arg(ReadErrorText(count.Error())));
         if (json)
             json->Add({ { u"name"_s, entry.name }, { u"rows"_s, *count }, { u"icon"_s, entry.icon },
                 { u"columns"_s, JsonColumns(data->list) } });

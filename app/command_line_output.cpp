@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/command_line_output.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -9,14 +10,21 @@ namespace Quillory {
 
 namespace {
 
-constexpr qsizetype kBufferSize = 65'536;
+constexpr qsizetype kBufferSize = 262'144;
+
+/// A value as it stands in an array of its own.
+QByteArray JsonText(const QJsonValue& value)
+{
+    const QByteArray array = QJsonDocument(QJsonArray { value }).toJson(QJsonDocument::Compact);
+    return array.sliced(1, array.size() - 2);
+}
 
 } // namespace
 
-TextOutput::TextOutput(QIODevice& device)
-    : m_device(device)
+TextOutput::TextOutput(QIODevice& target)
+    : m_target(target)
 {
-    m_buffer.reserve(2 * kBufferSize);
+    open(QIODevice::WriteOnly | QIODevice::Unbuffered);
 }
 
 void TextOutput::WriteLine(QStringView line)
@@ -42,25 +50,66 @@ void TextOutput::WriteFields(const QStringList& fields)
 
 void TextOutput::WriteRaw(QByteArrayView bytes)
 {
-    if (m_hasFailed)
+    if (HasFailed())
         return;
     m_buffer.append(bytes);
     if (m_buffer.size() >= kBufferSize)
-        static_cast<void>(Flush());
+        PutAside();
 }
 
-bool TextOutput::Flush()
+QString TextOutput::Flush()
 {
-    const char* next = m_buffer.constData();
-    qint64 left = m_buffer.size();
-    while (!m_hasFailed && left > 0) {
-        const qint64 written = m_device.write(next, left);
-        m_hasFailed = written <= 0;
-        next += written;
-        left -= written;
+    if (m_file != nullptr && !HasFailed()) {
+        const bool isAtStart = m_file->seek(0);
+        while (isAtStart && !HasFailed() && !m_file->atEnd()) {
+            const QByteArray part = m_file->read(kBufferSize);
+            if (part.isEmpty())
+                break;
+            WriteTo(m_target, part);
+        }
+        if (!isAtStart || m_file->error() != QFileDevice::NoError)
+            m_failure = m_file->errorString();
     }
+    if (!HasFailed())
+        WriteTo(m_target, m_buffer);
+    m_buffer.clear();
+    m_file.reset();
+    return m_failure;
+}
+
+qint64 TextOutput::readData(char* /*bytes*/, qint64 /*size*/)
+{
+    return -1;
+}
+
+qint64 TextOutput::writeData(const char* bytes, qint64 size)
+{
+    WriteRaw({ bytes, static_cast<qsizetype>(size) });
+    setErrorString(m_failure);
+    return HasFailed() ? -1 : size;
+}
+
+void TextOutput::PutAside()
+{
+    if (m_file == nullptr) {
+        m_file = std::make_unique<QTemporaryFile>();
+        if (!m_file->open())
+            m_failure = m_file->errorString();
+    }
+    if (!HasFailed())
+        WriteTo(*m_file, m_buffer);
     m_buffer.resize(0);
-    return !m_hasFailed;
+}
+
+void TextOutput::WriteTo(QIODevice& target, QByteArrayView bytes)
+{
+    while (!HasFailed() && !bytes.isEmpty()) {
+        const qint64 written = target.write(bytes.data(), bytes.size());
+        if (written <= 0)
+            m_failure = target.errorString();
+        else
+            bytes = bytes.sliced(written);
+    }
 }
 
 JsonArrayWriter::JsonArrayWriter(TextOutput& output)
@@ -69,10 +118,15 @@ JsonArrayWriter::JsonArrayWriter(TextOutput& output)
     m_output.WriteRaw("[");
 }
 
-void JsonArrayWriter::Add(const QJsonObject& object)
+void JsonArrayWriter::Add(const JsonMembers& members)
 {
-    m_output.WriteRaw(m_isEmpty ? "\n" : ",\n");
-    m_output.WriteRaw(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    m_output.WriteRaw(m_isEmpty ? "\n{" : ",\n{");
+    for (const auto& [key, value] : members) {
+        if (&key != &members.front().first)
+            m_output.WriteRaw(",");
+        m_output.WriteRaw(JsonText(key) + ':' + JsonText(value));
+    }
+    m_output.WriteRaw("}");
     m_isEmpty = false;
 }
 

@@ -2,17 +2,25 @@
 #pragma once
 
 #include <QIODevice>
-#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
 #include <QStringList>
+#include <QTemporaryFile>
+
+#include <memory>
+#include <utility>
 
 namespace Quillory {
 
-/// Buffered UTF-8 text on a stream. A lone surrogate becomes a question mark. After a
-/// failed write everything is dropped, and Flush() tells.
-class TextOutput
+/// What a command prints, as UTF-8 text or as whatever bytes are written to it as a device. A lone
+/// surrogate becomes a question mark.
+///
+/// All of it is kept until Flush(), in an unnamed temporary file if it is much: whoever reads the
+/// output may stand still, and a data file that is being read meanwhile could not be written.
+class TextOutput : public QIODevice
 {
 public:
-    explicit TextOutput(QIODevice& device);
+    explicit TextOutput(QIODevice& target);
 
     void WriteLine(QStringView line);
     /// A line of fields with a TAB between two. Control characters in them become blanks, so that
@@ -20,15 +28,29 @@ public:
     void WriteFields(const QStringList& fields);
     void WriteRaw(QByteArrayView bytes);
 
-    [[nodiscard]] bool HasFailed() const { return m_hasFailed; }
-    /// Hands everything to the device; false if this or an earlier write failed.
-    [[nodiscard]] bool Flush();
+    /// Nothing can be kept any more, and what comes is dropped.
+    [[nodiscard]] bool HasFailed() const { return !m_failure.isEmpty(); }
+    /// Hands everything to the target. The first failure, of the target or while it was kept, for a
+    /// person to read; empty if there was none.
+    [[nodiscard]] QString Flush();
+
+protected:
+    qint64 readData(char* bytes, qint64 size) override;
+    qint64 writeData(const char* bytes, qint64 size) override;
 
 private:
-    QIODevice& m_device;
+    QIODevice& m_target;
     QByteArray m_buffer;
-    bool m_hasFailed = false;
+    /// What came before the buffer; null if nothing did.
+    std::unique_ptr<QTemporaryFile> m_file;
+    QString m_failure;
+
+    void PutAside();
+    void WriteTo(QIODevice& target, QByteArrayView bytes);
 };
+
+/// The members of a JSON object in the order in which they are written.
+using JsonMembers = QList<std::pair<QString, QJsonValue>>;
 
 /// Writes a JSON array of objects one by one, an object per line.
 class JsonArrayWriter
@@ -36,7 +58,7 @@ class JsonArrayWriter
 public:
     explicit JsonArrayWriter(TextOutput& output);
 
-    void Add(const QJsonObject& object);
+    void Add(const JsonMembers& members);
     void End();
 
 private:

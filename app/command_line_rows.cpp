@@ -65,6 +65,14 @@ QJsonValue JsonOf(const PropertyValue& value)
     return {};
 }
 
+/// Null for a total that is no finite number.
+QJsonValue JsonTotal(const QString& text)
+{
+    bool isNumber = false;
+    const double total = text.toDouble(&isNumber);
+    return isNumber ? QJsonValue(total) : QJsonValue();
+}
+
 /// Writes rows as they come, as lines or as JSON.
 class RowPrinter
 {
@@ -75,6 +83,7 @@ public:
         QStringList names;
         for (const ColumnDefinition& column : columns) {
             m_ids.push_back(column.id);
+            m_values.push_back({ column.id, 0, {} });
             names << column.name;
         }
         if (run.IsJson()) {
@@ -87,17 +96,19 @@ public:
 
     [[nodiscard]] const std::vector<PropertyId>& Ids() const { return m_ids; }
 
-    /// False when nobody reads any more.
-    bool Print(std::span<const PropertyValue> values)
+    /// False when no more can be printed.
+    bool Print(const ScannedRecord& row)
     {
+        for (size_t i = 0; i < m_values.size(); ++i)
+            row.Read(i, m_values[i]);
         if (m_json) {
-            QJsonObject object;
+            JsonMembers members;
             for (qsizetype i = 0; i < m_keys.size(); ++i)
-                object.insert(m_keys[i], JsonOf(values[static_cast<size_t>(i)]));
-            m_json->Add(object);
+                members.append({ m_keys[i], JsonOf(m_values[static_cast<size_t>(i)]) });
+            m_json->Add(members);
         } else {
             QStringList fields;
-            for (const PropertyValue& value : values)
+            for (const PropertyValue& value : m_values)
                 fields << CellText(value, m_run.environment.context);
             m_run.output.WriteFields(fields);
         }
@@ -112,6 +123,8 @@ public:
 private:
     const CommandRun& m_run;
     std::vector<PropertyId> m_ids;
+    /// The row that is printed.
+    std::vector<PropertyValue> m_values;
     QStringList m_keys;
     std::optional<JsonArrayWriter> m_json;
 
@@ -129,40 +142,29 @@ private:
     }
 };
 
-void CheckRead(ErrorNumber error)
-{
-    if (error != ErrorNumber::None)
-        Fail(u"cannot read the rows: %1"_s.arg(ErrorText(error)));
-}
-
-void PrintByName(
+[[nodiscard]] Database::VisitOutcome PrintByName(
     CommandData& data, const FilterSet& filters, const ValueContext& context, RowPrinter& printer)
 {
-    CheckRead(ScanFiltered(data.Rows(), printer.Ids(), &filters, context, ScanOrder::Sorted,
-        [&printer](ObjectId, std::span<const PropertyValue> values) {
-            return printer.Print(values);
-        }).Error());
+    return ScanPastDamage(data.Rows(), printer.Ids(), &filters, context,
+        [&printer](const ScannedRecord& row) { return printer.Print(row); });
 }
 
 /// Holds the identifiers of the rows, not the rows.
-void PrintSorted(CommandData& data, const FilterSet& filters, PropertyId column,
-    const ValueContext& context, RowPrinter& printer)
+[[nodiscard]] Database::VisitOutcome PrintSorted(CommandData& data, const FilterSet& filters,
+    PropertyId column, const ValueContext& context, RowPrinter& printer)
 {
-    Database& database = data.Rows();
     std::vector<ObjectId> rows;
-    CheckRead(ScanFiltered(database, {}, &filters, context, ScanOrder::Sorted,
-        [&rows](ObjectId oid, std::span<const PropertyValue>) {
-            rows.push_back(oid);
-            return true;
-        }).Error());
-    rows = RowStore(data.volume, data.list, context).SortRows(std::move(rows), column);
-    for (const ObjectId row : rows) {
-        CheckRead(database.SeekTo(row).Error());
-        const auto record = database.Read(printer.Ids());
-        CheckRead(record.Error());
-        if (!printer.Print(record->values))
-            return;
-    }
+    const auto listed
+        = ScanPastDamage(data.Rows(), {}, &filters, context, [&rows](const ScannedRecord& row) {
+              rows.push_back(row.Oid());
+              return true;
+          });
+    const Listing sorted
+        = RowStore(data.volume, data.list, context).SortRows(std::move(rows), column);
+    const auto printed = data.Rows().VisitEach(sorted.rows, printer.Ids(),
+        [&printer](const ScannedRecord& row) { return printer.Print(row); });
+    // Rows that cannot be read cannot be sorted either: the others are in the order of names then.
+    return listed.error != ErrorNumber::None ? listed : printed;
 }
 
 /// Prints what is due in one list after another.
@@ -185,13 +187,16 @@ public:
         const InventoryList& list = data.list;
         if ((list.TableOption & (kWarnOnCount | kWarnOnExpiry)) == 0)
             return;
-        CheckRead(data.Rows()
-                      .Scan(kIds, ScanOrder::Sorted,
-                          [&](ObjectId, std::span<const PropertyValue> values) {
-                              PrintRow(list, values);
-                              return !m_run.output.HasFailed();
-                          })
-                      .Error());
+        std::array<PropertyValue, kIds.size()> values;
+        for (size_t i = 0; i < kIds.size(); ++i)
+            values[i].id = kIds[i];
+        FailIfRowsAreMissing(ScanPastDamage(
+            data.Rows(), kIds, nullptr, m_run.environment.context, [&](const ScannedRecord& row) {
+                for (size_t i = 0; i < kIds.size(); ++i)
+                    row.Read(i, values[i]);
+                PrintRow(list, values);
+                return !m_run.output.HasFailed();
+            }));
     }
     void End()
     {
@@ -246,11 +251,10 @@ void RunShow(const CommandRun& run)
     if (run.parser.isSet(u"sort"_s))
         sortColumn = FindColumn(run.parser.value(u"sort"_s), data->list).id;
     RowPrinter printer(run, ShownColumns(data->list));
-    if (sortColumn)
-        PrintSorted(*data, filters, *sortColumn, context, printer);
-    else
-        PrintByName(*data, filters, context, printer);
+    const auto printed = sortColumn ? PrintSorted(*data, filters, *sortColumn, context, printer)
+                                    : PrintByName(*data, filters, context, printer);
     printer.End();
+    FailIfRowsAreMissing(printed);
 }
 
 void RunSummary(const CommandRun& run)
@@ -260,13 +264,14 @@ void RunSummary(const CommandRun& run)
     data->OpenList(run.operands.front());
     const FilterSet filters = ReadConditions(run.parser.values(u"where"_s), data->list, context);
     const ListTotals totals = ComputeTotals(data->volume, data->list, &filters, context);
-    CheckRead(totals.readError);
+    if (totals.error != ErrorNumber::None)
+        Fail(u"the rows cannot be totalled: %1"_s.arg(ReadErrorText(totals.error)));
     std::optional<JsonArrayWriter> json;
     if (run.IsJson())
         json.emplace(run.output);
     for (const ColumnTotal& total : totals.lines) {
         if (json)
-            json->Add({ { u"name"_s, total.name }, { u"total"_s, total.text } });
+            json->Add({ { u"name"_s, total.name }, { u"total"_s, JsonTotal(total.text) } });
         else
             run.output.WriteFields({ total.name, total.text });
     }

@@ -29,10 +29,19 @@ void Complain(QIODevice& errors, const QString& message)
     errors.write("quillory: " + message.toUtf8() + '\n');
 }
 
-void FailIfListsAreMissing(const ListCatalogue& catalogue)
+void FailIfListsAreMissing(const ListCatalogue::HomeListing& listing)
 {
-    if (catalogue.HomeListError() != ErrorNumber::None)
-        Fail(u"some lists cannot be read: %1"_s.arg(ErrorText(catalogue.HomeListError())));
+    if (listing.error != ErrorNumber::None)
+        Fail(u"some lists cannot be read: %1"_s.arg(ReadErrorText(listing.error)));
+}
+
+void FailIfRowsAreMissing(const Database::VisitOutcome& outcome)
+{
+    if (outcome.passedOver > 0)
+        Fail(u"rows that cannot be read were passed over, %1 of them: %2"_s.arg(
+            QString::number(outcome.passedOver), ReadErrorText(outcome.error)));
+    if (outcome.error != ErrorNumber::None)
+        Fail(u"the list was read only in part: %1"_s.arg(ReadErrorText(outcome.error)));
 }
 
 qint32 ReadInteger(
@@ -51,6 +60,14 @@ QString ErrorText(ErrorNumber error)
         QLatin1StringView(ErrorPhrase(error)), QString::number(static_cast<quint32>(error)));
 }
 
+QString ReadErrorText(ErrorNumber error)
+{
+    const QString text = ErrorText(error);
+    return error != ErrorNumber::FileCorrupt
+        ? text
+        : u"%1; “quillory restore” lists copies and what can be saved"_s.arg(text);
+}
+
 CommandData::CommandData(const QString& path, VolumeAccess access, Disposition disposition)
     : catalogue(volume)
     , m_path(path)
@@ -59,19 +76,19 @@ CommandData::CommandData(const QString& path, VolumeAccess access, Disposition d
     if (error == ErrorNumber::SharingViolation)
         Fail(u"%1 is open in Quillory; close it first"_s.arg(path));
     if (error != ErrorNumber::None)
-        Fail(u"cannot open %1: %2"_s.arg(path, ErrorText(error)));
+        Fail(u"cannot open %1: %2"_s.arg(path, ReadErrorText(error)));
     // A reader makes no table for the lists that are not there yet.
     if (access == VolumeAccess::ReadOnly && catalogue.IsWithoutTables())
         return;
     if (catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
-        Fail(u"cannot open the lists of %1: %2"_s.arg(path, ErrorText(volume.LastError())));
+        Fail(u"cannot open the lists of %1: %2"_s.arg(path, ReadErrorText(volume.LastError())));
 }
 
 ObjectId CommandData::OpenList(const QString& name)
 {
     const ObjectId oid = catalogue.FindList(name);
     if (oid == kNoObject) {
-        FailIfListsAreMissing(catalogue);
+        FailIfListsAreMissing(catalogue.FillHomeList());
         Fail(u"there is no list named “%1”"_s.arg(name));
     }
     OpenList(oid);
@@ -81,7 +98,7 @@ ObjectId CommandData::OpenList(const QString& name)
 void CommandData::OpenList(ObjectId oid)
 {
     if (!catalogue.OpenList(oid, list))
-        Fail(u"cannot open the list: %1"_s.arg(ErrorText(volume.LastError())));
+        Fail(u"cannot open the list: %1"_s.arg(ReadErrorText(volume.LastError())));
 }
 
 Database& CommandData::Rows()
@@ -124,7 +141,8 @@ void CommandRun::VisitLists(
     CommandData& data, const ListVisitor& visit, const std::function<void()>& end) const
 {
     bool isWhole = true;
-    for (const ListCatalogue::HomeListEntry& entry : data.catalogue.FillHomeList()) {
+    const auto listing = data.catalogue.FillHomeList();
+    for (const ListCatalogue::HomeListEntry& entry : listing.lists) {
         try {
             data.OpenList(entry.oid);
             visit(entry);
@@ -134,7 +152,7 @@ void CommandRun::VisitLists(
         }
     }
     end();
-    FailIfListsAreMissing(data.catalogue);
+    FailIfListsAreMissing(listing);
     if (!isWhole)
         Fail(u"not every list could be read"_s);
 }

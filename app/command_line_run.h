@@ -32,13 +32,17 @@ private:
 [[noreturn]] void FailUsage(const QString& message);
 /// Writes a message as a line of its own to standard error.
 void Complain(QIODevice& errors, const QString& message);
-/// Fails if the latest listing of the catalogue ended before its end. What could be read was shown.
-void FailIfListsAreMissing(const ListCatalogue& catalogue);
+/// Fails if a listing of the catalogue lacks lists. What could be read was shown.
+void FailIfListsAreMissing(const ListCatalogue::HomeListing& listing);
+/// Fails if rows could not be read; what could was printed.
+void FailIfRowsAreMissing(const Database::VisitOutcome& outcome);
 /// The value of an option as a whole number; one outside the limits ends the command.
 [[nodiscard]] qint32 ReadInteger(
     const QCommandLineParser& parser, const QString& option, qint32 least, qint32 most);
 /// A phrase and the number of an error, such as "no space left (error 112)".
 [[nodiscard]] QString ErrorText(ErrorNumber error);
+/// The same of an error in reading the data file; of damage with what can be done.
+[[nodiscard]] QString ReadErrorText(ErrorNumber error);
 
 /// A data file with its catalogue open. Every way not to get there ends the command.
 class CommandData

@@ -7,7 +7,6 @@
 #include "listdef/import_order_page.h"
 #include "res/string_table.h"
 #include "transfer/list_file.h"
-#include "transfer/text_export.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 
@@ -111,16 +110,36 @@ void ListTransfer::ExportTo(ObjectId list, const QString& path)
     InventoryList definition;
     if (!m_session.Catalogue().OpenList(list, definition))
         return;
-    const ListFile target = IsPlainFile(path) ? CreateListFile(path, m_session.Path()) : ListFile();
+    const ListFile target = IsPlainFile(path) ? CreateListFile(path, m_session.Path())
+                                              : ListFile { nullptr, tr("It is no plain file.") };
     Database* rows = m_session.Volume().OpenDatabase(ListCatalogue::kRowsType);
+    ExportOutcome outcome;
+    outcome.writeFailure = target.failure;
     if (target.file != nullptr && rows != nullptr) {
         const qint64 total = m_session.Volume().RecordCount(ListCatalogue::kRowsType);
         TransferProgress progress(m_pages.window(), definition.Name);
-        // The file tells of its own failure by what is missing in it; there is no message.
-        static_cast<void>(ExportRows(*rows, definition, m_context, *target.file,
-            [&progress, total](qint64 done) { return progress.Show(done, total); }));
+        outcome = ExportRows(*rows, definition, m_context, *target.file,
+            [&progress, total](qint64 done) { return progress.Show(done, total); });
+        if (outcome.writeFailure.isEmpty() && !outcome.isCancelled)
+            outcome.writeFailure = target.Commit();
     }
     m_session.Catalogue().CloseRows();
+    TellExport(outcome);
+}
+
+void ListTransfer::TellExport(const ExportOutcome& outcome)
+{
+    if (outcome.isCancelled)
+        return;
+    if (!outcome.writeFailure.isEmpty())
+        ShowMessage(&m_pages, tr("The file could not be written: %1").arg(outcome.writeFailure),
+            MessageIcon::Stop);
+    else if (outcome.readError != ErrorNumber::None)
+        ShowMessage(&m_pages,
+            tr("This list can be read only in part: %n row(s) are in the file. "
+               "\"quillory restore\" lists copies, and what can be saved.",
+                nullptr, static_cast<int>(outcome.rows)),
+            MessageIcon::Exclamation);
 }
 
 } // namespace Quillory

@@ -164,11 +164,11 @@ void MainFrame::ShowLists()
 
 void MainFrame::FillHome()
 {
-    m_home->Fill(m_session.Catalogue().FillHomeList());
-    const ErrorNumber error = m_session.Catalogue().HomeListError();
-    if (error != ErrorNumber::None)
+    const auto home = m_session.Catalogue().FillHomeList();
+    m_home->Fill(home.lists);
+    if (home.error != ErrorNumber::None)
         ShowMessage(this,
-            tr("Some lists cannot be read. Error: %1").arg(static_cast<quint32>(error)),
+            tr("Some lists cannot be read. Error: %1").arg(static_cast<quint32>(home.error)),
             MessageIcon::Stop);
 }
 

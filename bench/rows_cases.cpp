@@ -208,7 +208,7 @@ double HeapOfOpenView(BenchList& list)
         // The pages that the database keeps are not the view's.
         const ValueContext context = ValueContext::FromEnvironment();
         RowStore store(data, definition, context);
-        const auto rows = store.FillRows();
+        const auto rows = store.FillRows().rows;
         Require(std::cmp_equal(rows.size(), list.Rows()), "rows are missing");
         for (const ObjectId row : std::span(rows).first(std::min(rows.size(), kScreenful)))
             Require(static_cast<bool>(store.ReadRow(row)), "a row cannot be read");

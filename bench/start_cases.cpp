@@ -53,7 +53,7 @@ void MakeLists(const QString& path, int count)
 double FillHome(ListCatalogue& catalogue)
 {
     HomeList home;
-    const double spent = MeasureMs([&] { home.Fill(catalogue.FillHomeList()); });
+    const double spent = MeasureMs([&] { home.Fill(catalogue.FillHomeList().lists); });
     Require(home.SelectedList() != kNoObject, "the home list is empty");
     return spent;
 }

@@ -51,7 +51,7 @@ Timing ListInOrder(int rows)
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
         RowStore store(data, definition, BenchContext());
         size_t found = 0;
-        timing.oursMs = MeasureMs([&] { found = store.FillRows().size(); });
+        timing.oursMs = MeasureMs([&] { found = store.FillRows().rows.size(); });
         Require(std::cmp_equal(found, rows), "rows are missing");
     });
     timing.floorMs = IndexScanMs(list);
@@ -128,9 +128,9 @@ Timing FilterColumn(int rows, FilterCondition condition)
         RowStore store(data, definition, BenchContext());
         FilterSet filters;
         AddFilter(filters, definition.columns[Price].id, condition, u"10"_s);
-        Require(std::cmp_equal(store.FillRows().size(), rows), "rows are missing");
+        Require(std::cmp_equal(store.FillRows().rows.size(), rows), "rows are missing");
         timing.oursMs = MeasureMs(
-            [&] { Require(!store.FillFilteredRows(filters).empty(), "nothing passed"); });
+            [&] { Require(!store.FillFilteredRows(filters).rows.empty(), "nothing passed"); });
     });
     timing.floorMs = ColumnScanMs(list, Price);
     return timing;
@@ -165,9 +165,10 @@ Timing SortByColumnOf(int rows, Column column)
     Timing timing;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
         RowStore store(data, definition, BenchContext());
-        auto listed = store.FillRows();
-        timing.oursMs = MeasureMs(
-            [&] { listed = store.SortRows(std::move(listed), definition.columns[column].id); });
+        auto listed = store.FillRows().rows;
+        timing.oursMs = MeasureMs([&] {
+            listed = store.SortRows(std::move(listed), definition.columns[column].id).rows;
+        });
         Require(std::cmp_equal(listed.size(), rows), "rows are missing");
     });
     timing.floorMs = SortedScanMs(list, column);
@@ -205,7 +206,7 @@ Timing AddOne(int rows)
     Timing timing;
     list.WithList([&](DataVolume& data, const InventoryList& definition) {
         RowStore store(data, definition, BenchContext());
-        const ObjectId row = store.FillRows().front();
+        const ObjectId row = store.FillRows().rows.front();
         timing.oursMs = MeasureMs([&] {
             for (int i = 0; i < kChanges; ++i)
                 Require(store.AdjustCount(row, 1).has_value(), "the count did not change");

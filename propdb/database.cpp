@@ -36,6 +36,53 @@ private:
     sqlite3* m_connection;
 };
 
+/// Reads properties of records by SQL and has them visited.
+class RecordSelect
+{
+public:
+    RecordSelect(const DatabaseState& state, std::span<const PropertyId> ids,
+        const Database::RecordVisitor& visitor)
+        : m_state(state)
+        , m_isVisited(ids.size() <= RecordVisit::kMaxProperties)
+        , m_visitor([this, &visitor](const ScannedRecord& record) {
+            m_isStopped = !visitor(record);
+            return !m_isStopped;
+        })
+    {
+        for (const PropertyId id : ids)
+            m_classes.push_back(ClassesOfDeclaration(DeclaredType(id)));
+        QString columns = u"oid"_s + state.ColumnList(ids);
+        if (m_isVisited)
+            columns = u"%1(%2)"_s.arg(QLatin1StringView(RecordVisit::kFunctionName), columns);
+        m_select = u"SELECT %1 FROM %2"_s.arg(columns, QuotedName(state.schema->tableName));
+    }
+    RecordSelect(const RecordSelect&) = delete;
+    RecordSelect& operator=(const RecordSelect&) = delete;
+
+    [[nodiscard]] Result<Statement> Prepare(const QString& clauses) const
+    {
+        return Statement::Prepare(m_state.volume.connection.get(), m_select + clauses);
+    }
+    [[nodiscard]] Result<void> Run(Statement& statement)
+    {
+        if (m_isVisited)
+            return m_state.volume.visit.Run(statement, m_classes, m_visitor);
+        const auto done = statement.VisitRows(m_visitor);
+        statement.Reset();
+        return done;
+    }
+    /// Whether the visitor wants no more.
+    [[nodiscard]] bool IsStopped() const { return m_isStopped; }
+
+private:
+    const DatabaseState& m_state;
+    bool m_isVisited;
+    bool m_isStopped = false;
+    Database::RecordVisitor m_visitor;
+    std::vector<ValueClasses> m_classes;
+    QString m_select;
+};
+
 ErrorNumber CheckValues(std::span<const PropertyValue> values)
 {
     if (values.empty())
@@ -192,43 +239,48 @@ Result<void> Database::Scan(
 Result<void> Database::ScanInPlace(
     std::span<const PropertyId> ids, ScanOrder order, const RecordVisitor& visitor)
 {
-    VolumeState& volume = m_state->volume;
-    sqlite3* connection = volume.connection.get();
-    const bool isVisited = ids.size() <= RecordVisit::kMaxProperties;
-    std::vector<ValueClasses> classes;
-    for (const PropertyId id : ids)
-        classes.push_back(ClassesOfDeclaration(DeclaredType(id)));
-    const QString columns = u"oid"_s + m_state->ColumnList(ids);
-    const QString select = u"SELECT "_s
-        + (isVisited ? u"%1(%2)"_s.arg(QLatin1StringView(RecordVisit::kFunctionName), columns)
-                     : columns)
-        + u" FROM "_s + QuotedName(m_state->schema->tableName);
-    bool isGoingOn = true;
-    const RecordVisitor visit = [&](const ScannedRecord& record) {
-        isGoingOn = visitor(record);
-        return isGoingOn;
+    sqlite3* connection = m_state->volume.connection.get();
+    RecordSelect select(*m_state, ids, visitor);
+    const auto run = [&](const QString& clauses) -> Result<void> {
+        auto statement = select.Prepare(clauses);
+        return statement ? select.Run(*statement) : statement.Error();
     };
-    const auto run = [&](const QString& sql) -> Result<void> {
-        auto statement = Statement::Prepare(connection, sql);
-        if (!statement)
-            return statement.Error();
-        return isVisited ? volume.visit.Run(*statement, classes, visit)
-                         : statement->VisitRows(visit);
-    };
-    if (order == ScanOrder::Any)
-        return run(select);
+    if (order != ScanOrder::Sorted)
+        return run(order == ScanOrder::Stored ? u" NOT INDEXED"_s : QString());
     const PropertyColumn& keyColumn = *m_state->schema->Find(m_state->order.key);
     const QString key = QuotedName(keyColumn.columnName);
     // A record is visited when it is read, not once it would be sorted: the index has to lead.
-    const QString byIndex = select
-        + u" INDEXED BY %1 WHERE %2"_s.arg(QuotedName(IndexName(*m_state->schema, keyColumn)), key);
+    const QString byIndex
+        = u" INDEXED BY %1 WHERE %2"_s.arg(QuotedName(IndexName(*m_state->schema, keyColumn)), key);
     const RoomyCache roomyCache(connection);
     for (const QString& part :
         { u" IS NOT NULL ORDER BY %1, oid"_s.arg(key), u" IS NULL ORDER BY oid"_s }) {
-        if (const auto done = run(byIndex + part); !done || !isGoingOn)
+        if (const auto done = run(byIndex + part); !done || select.IsStopped())
             return done;
     }
     return {};
+}
+
+Database::VisitOutcome Database::VisitEach(
+    std::span<const ObjectId> oids, std::span<const PropertyId> ids, const RecordVisitor& visitor)
+{
+    VisitOutcome outcome;
+    RecordSelect select(*m_state, ids, visitor);
+    auto statement = select.Prepare(u" WHERE oid = ?1"_s);
+    if (!statement) {
+        outcome.error = statement.Error();
+        return outcome;
+    }
+    const RoomyCache roomyCache(m_state->volume.connection.get());
+    for (const ObjectId oid : oids) {
+        statement->Bind(1, oid);
+        const auto done = select.Run(*statement);
+        if (select.IsStopped())
+            break;
+        if (!done && outcome.passedOver++ == 0)
+            outcome.error = done.Error();
+    }
+    return outcome;
 }
 
 } // namespace Quillory

@@ -20,6 +20,8 @@ enum class ScanOrder
     Sorted,
     /// Whichever order reads them quickest.
     Any,
+    /// The order in which they are stored; reads no index, which may be damaged.
+    Stored,
 };
 
 /// An open database: a position among its records, and reads and writes of them.
@@ -76,6 +78,18 @@ public:
     /// As above for visitors that look at little of a record: nothing is copied.
     [[nodiscard]] Result<void> ScanInPlace(
         std::span<const PropertyId> ids, ScanOrder order, const RecordVisitor& visitor);
+
+    struct VisitOutcome
+    {
+        /// Records that could not be read and were passed over.
+        qint64 passedOver = 0;
+        /// Why the first of them could not, or why there was no visit at all; None if neither.
+        ErrorNumber error = ErrorNumber::None;
+    };
+    /// Visits the records so listed, in that order. One that cannot be read is passed over; one
+    /// that is no more is left out.
+    [[nodiscard]] VisitOutcome VisitEach(std::span<const ObjectId> oids,
+        std::span<const PropertyId> ids, const RecordVisitor& visitor);
 
 private:
     std::unique_ptr<DatabaseState> m_state;

@@ -107,6 +107,13 @@ Result<QByteArray> ResolveVolumePath(const QString& path)
     return target;
 }
 
+bool IsJournalOf(const QString& path, const QString& volume)
+{
+    const auto real = ResolveVolumePath(path);
+    const auto realVolume = ResolveVolumePath(volume);
+    return real && realVolume && *real == *realVolume + "-journal";
+}
+
 VolumeFile::~VolumeFile()
 {
     if (m_descriptor < 0)

@@ -26,6 +26,9 @@ constexpr int kFormatVersion = 1;
 /// the last step is a link to nothing.
 [[nodiscard]] Result<QByteArray> ResolveVolumePath(const QString& path);
 
+/// Whether `path` is where SQLite keeps the journal of the volume at `volume`, or would.
+[[nodiscard]] bool IsJournalOf(const QString& path, const QString& volume);
+
 /// The operating system's file behind a volume: looked at before SQLite sees it, locked against a
 /// second program, and watched for being replaced while it is open.
 class VolumeFile

@@ -125,16 +125,35 @@ void RowsView::BuildCommands()
     connect(m_model, &QAbstractItemModel::modelReset, this, &RowsView::UpdateCommands);
 }
 
-std::vector<ObjectId> RowsView::Listing()
+std::vector<ObjectId> RowsView::ReadRows()
 {
-    return m_filters ? m_store.FillFilteredRows(*m_filters) : m_store.FillRows();
+    Listing listing = m_filters ? m_store.FillFilteredRows(*m_filters) : m_store.FillRows();
+    TellPartlyRead(listing.error);
+    return std::move(listing.rows);
+}
+
+void RowsView::TellPartlyRead(ErrorNumber error)
+{
+    if (error == ErrorNumber::None || std::exchange(m_isPartlyReadTold, true))
+        return;
+    // Once the rows are on the screen.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            ShowMessage(this,
+                tr("This list can be read only in part: %n row(s) are shown. \"quillory restore\" "
+                   "lists copies, and what can be saved.",
+                    nullptr, m_model->rowCount()),
+                MessageIcon::Exclamation);
+        },
+        Qt::QueuedConnection);
 }
 
 void RowsView::Fill()
 {
     const WaitCursor wait;
     const ObjectId selected = SelectedRow();
-    m_model->SetRows(Listing());
+    m_model->SetRows(ReadRows());
     m_sortColumn.reset();
     if (m_model->rowCount() > 0)
         Select(std::max(LineOf(selected), 0));
@@ -287,9 +306,9 @@ void RowsView::SetRowDeleter(RowDeleter deleter)
 void RowsView::ShowRestored(ObjectId row)
 {
     const WaitCursor wait;
-    std::vector<ObjectId> order = Listing();
+    std::vector<ObjectId> order = ReadRows();
     if (m_sortColumn)
-        order = m_store.SortRows(std::move(order), *m_sortColumn);
+        order = m_store.SortRows(std::move(order), *m_sortColumn).rows;
     const auto place = std::find(order.begin(), order.end(), row);
     if (place == order.end())
         return;
@@ -314,7 +333,7 @@ void RowsView::SortByColumn(int column)
     const WaitCursor wait;
     const ObjectId selected = SelectedRow();
     m_sortColumn = m_list.columns[static_cast<size_t>(column)].id;
-    m_model->SetRows(m_store.SortRows(m_model->Rows(), *m_sortColumn));
+    m_model->SetRows(m_store.SortRows(m_model->Rows(), *m_sortColumn).rows);
     if (const int line = LineOf(selected); line >= 0)
         Select(line);
 }
@@ -358,7 +377,13 @@ void RowsView::ToggleByKey()
 void RowsView::ShowSummary()
 {
     const WaitCursor wait;
-    Push(new SummaryPage(m_store.Totals(m_filters ? &*m_filters : nullptr)), {});
+    const ListTotals totals = m_store.Totals(m_filters ? &*m_filters : nullptr);
+    Push(new SummaryPage(totals.lines), {});
+    if (totals.error != ErrorNumber::None)
+        ShowMessage(this,
+            tr("This list can be read only in part, so nothing is summed up. \"quillory restore\" "
+               "lists copies, and what can be saved."),
+            MessageIcon::Exclamation);
 }
 
 void RowsView::SetFilters()

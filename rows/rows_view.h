@@ -71,6 +71,7 @@ private:
     RowsTable* m_view;
     /// The criteria of the rows shown; none once filters were cleared, as at first.
     std::optional<FilterSet> m_filters;
+    bool m_isPartlyReadTold = false;
     /// The column by which the lines were sorted since they were filled.
     std::optional<PropertyId> m_sortColumn;
     std::vector<int> m_checkboxColumns;
@@ -91,7 +92,10 @@ private:
     void Select(int line);
     /// -1 if the row is not shown.
     [[nodiscard]] int LineOf(ObjectId row) const;
-    [[nodiscard]] std::vector<ObjectId> Listing();
+    /// The rows to be shown, in the order of names.
+    [[nodiscard]] std::vector<ObjectId> ReadRows();
+    /// Says that the list can be read only in part, once for what is shown of it now.
+    void TellPartlyRead(ErrorNumber error);
     void Push(Page* page, std::function<void(PageResult)> then);
 
     void NewRow();

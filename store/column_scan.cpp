@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/column_scan.h"
 
+#include "store/row_sort.h"
+
 #include <algorithm>
 
 namespace Quillory {
@@ -32,37 +34,70 @@ bool RowSet::Contains(ObjectId row) const
     return place < m_dense.size() && m_dense[place];
 }
 
+namespace {
+
+/// A visitor that has the rows that pass visited.
+class FilteredVisit
+{
+public:
+    FilteredVisit(std::span<const PropertyId> columns, const FilterSet* filters,
+        const ValueContext& context, const Database::RecordVisitor& visitor)
+        : m_firstTested(columns.size())
+        , m_visitor(visitor)
+        , m_ids(columns.begin(), columns.end())
+    {
+        if (filters == nullptr)
+            return;
+        for (const FilterEntry& entry : filters->entries) {
+            m_tests.emplace_back(entry, context);
+            m_ids.push_back(entry.column);
+        }
+    }
+
+    /// What is to be read: `columns`, then what the filters test.
+    [[nodiscard]] std::span<const PropertyId> Ids() const { return m_ids; }
+    bool operator()(const ScannedRecord& record) const
+    {
+        return !RowPassesFilters(m_tests, record, m_firstTested) || m_visitor(record);
+    }
+
+private:
+    size_t m_firstTested;
+    const Database::RecordVisitor& m_visitor;
+    std::vector<PropertyId> m_ids;
+    std::vector<FilterTest> m_tests;
+};
+
+} // namespace
+
 Result<void> ScanFilteredInPlace(Database& rows, std::span<const PropertyId> columns,
     const FilterSet* filters, const ValueContext& context, ScanOrder order,
     const Database::RecordVisitor& visitor)
 {
-    std::vector<PropertyId> ids(columns.begin(), columns.end());
-    std::vector<FilterTest> tests;
-    if (filters != nullptr) {
-        for (const FilterEntry& entry : filters->entries) {
-            tests.emplace_back(entry, context);
-            ids.push_back(entry.column);
-        }
-    }
-    const size_t firstTested = columns.size();
-    return rows.ScanInPlace(ids, order, [&](const ScannedRecord& record) {
-        return !RowPassesFilters(tests, record, firstTested) || visitor(record);
-    });
+    const FilteredVisit visit(columns, filters, context, visitor);
+    return rows.ScanInPlace(visit.Ids(), order, std::cref(visit));
 }
 
-Result<void> ScanFiltered(Database& rows, std::span<const PropertyId> columns,
-    const FilterSet* filters, const ValueContext& context, ScanOrder order,
-    const Database::Visitor& visitor)
+Database::VisitOutcome ScanPastDamage(Database& rows, std::span<const PropertyId> columns,
+    const FilterSet* filters, const ValueContext& context, const Database::RecordVisitor& visitor)
 {
-    std::vector<PropertyValue> values(columns.size());
-    for (size_t i = 0; i < columns.size(); ++i)
-        values[i].id = columns[i];
-    return ScanFilteredInPlace(
-        rows, columns, filters, context, order, [&](const ScannedRecord& record) {
-            for (size_t i = 0; i < values.size(); ++i)
-                record.Read(i, values[i]);
-            return visitor(record.Oid(), values);
-        });
+    const FilteredVisit visit(columns, filters, context, visitor);
+    size_t visited = 0;
+    const auto done
+        = rows.ScanInPlace(visit.Ids(), ScanOrder::Sorted, [&](const ScannedRecord& record) {
+              ++visited;
+              return visit(record);
+          });
+    if (done)
+        return {};
+    auto rest = rows.ListRecords();
+    if (!rest)
+        rest = ListWithoutIndex(rows);
+    if (!rest)
+        return { 0, done.Error() };
+    // The scan went along the same order.
+    return rows.VisitEach(
+        std::span(*rest).subspan(std::min(visited, rest->size())), visit.Ids(), std::cref(visit));
 }
 
 } // namespace Quillory

@@ -85,9 +85,11 @@ private:
 [[nodiscard]] Result<void> ScanFilteredInPlace(Database& rows, std::span<const PropertyId> columns,
     const FilterSet* filters, const ValueContext& context, ScanOrder order,
     const Database::RecordVisitor& visitor);
-/// As above for visitors that want the values of `columns`.
-[[nodiscard]] Result<void> ScanFiltered(Database& rows, std::span<const PropertyId> columns,
-    const FilterSet* filters, const ValueContext& context, ScanOrder order,
-    const Database::Visitor& visitor);
 
+/// Visits every row that passes, in the order of names, as above. One that cannot be read is passed
+/// over; an index that cannot be read is done without. Rows are missing without being counted only
+/// where the outcome has an error but no row that was passed over.
+[[nodiscard]] Database::VisitOutcome ScanPastDamage(Database& rows,
+    std::span<const PropertyId> columns, const FilterSet* filters, const ValueContext& context,
+    const Database::RecordVisitor& visitor);
 } // namespace Quillory

@@ -193,34 +193,33 @@ bool ListCatalogue::CreateCatalogue()
         != kNoObject;
 }
 
-std::vector<ListCatalogue::HomeListEntry> ListCatalogue::FillHomeList()
+ListCatalogue::HomeListing ListCatalogue::FillHomeList()
 {
-    std::vector<HomeListEntry> entries;
+    HomeListing listing;
     Database* catalogue = m_volume.OpenDatabase(kCatalogueType);
     if (catalogue == nullptr) {
-        m_homeListError = IsWithoutTables() ? ErrorNumber::None : ErrorNumber::InvalidHandle;
-        return entries;
+        listing.error = IsWithoutTables() ? ErrorNumber::None : ErrorNumber::InvalidHandle;
+        return listing;
     }
     constexpr std::array kIds { kName, kTableIcon };
-    // A record that cannot be read ends the list; those before it are shown.
-    m_homeListError = catalogue
-                          ->Scan(kIds, ScanOrder::Sorted,
-                              [&entries](ObjectId oid, std::span<const PropertyValue> values) {
-                                  HomeListEntry entry { oid, {}, 0 };
-                                  if (const auto* name = std::get_if<QString>(&values[0].value))
-                                      entry.name = *name;
-                                  if (const auto* icon = std::get_if<qint16>(&values[1].value))
-                                      entry.icon = *icon;
-                                  entries.push_back(std::move(entry));
-                                  return true;
-                              })
-                          .Error();
-    return entries;
+    listing.error = catalogue
+                        ->Scan(kIds, ScanOrder::Sorted,
+                            [&listing](ObjectId oid, std::span<const PropertyValue> values) {
+                                HomeListEntry entry { oid, {}, 0 };
+                                if (const auto* name = std::get_if<QString>(&values[0].value))
+                                    entry.name = *name;
+                                if (const auto* icon = std::get_if<qint16>(&values[1].value))
+                                    entry.icon = *icon;
+                                listing.lists.push_back(std::move(entry));
+                                return true;
+                            })
+                        .Error();
+    return listing;
 }
 
 ObjectId ListCatalogue::FindList(const QString& name)
 {
-    const auto entries = FillHomeList();
+    const auto entries = FillHomeList().lists;
     const auto found = std::find_if(entries.begin(), entries.end(),
         [&name](const HomeListEntry& entry) { return entry.name == name; });
     return found == entries.end() ? kNoObject : found->oid;

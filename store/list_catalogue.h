@@ -39,10 +39,15 @@ public:
         QString name;
         qint16 icon = 0;
     };
-    /// Every list, in the order of their names by 16-bit unit.
-    [[nodiscard]] std::vector<HomeListEntry> FillHomeList();
-    /// Why lists were missing from the latest FillHomeList; None if none were.
-    [[nodiscard]] ErrorNumber HomeListError() const { return m_homeListError; }
+    struct HomeListing
+    {
+        std::vector<HomeListEntry> lists;
+        /// Why lists are missing; None if none are.
+        ErrorNumber error = ErrorNumber::None;
+    };
+    /// Every list, in the order of their names by 16-bit unit. One that cannot be read ends the
+    /// listing: those before it are there.
+    [[nodiscard]] HomeListing FillHomeList();
     /// The record of the first list so named; kNoObject if there is none.
     [[nodiscard]] ObjectId FindList(const QString& name);
 
@@ -119,7 +124,6 @@ public:
 
 private:
     DataVolume& m_volume;
-    ErrorNumber m_homeListError = ErrorNumber::None;
 
     bool CreateCatalogue();
     bool CreateRowDatabase(InventoryList& definition);

@@ -198,16 +198,16 @@ Entries EntriesOf(const std::vector<ObjectId>& rows, const KeyOfRow& keyOf)
 }
 
 Result<Entries> SortNumbers(
-    Database& database, const std::vector<ObjectId>& rows, PropertyId column)
+    Database& database, const std::vector<ObjectId>& rows, PropertyId column, ScanOrder order)
 {
     const ColumnType type = ColumnTypeOf(column);
     const bool isFraction = type == ColumnType::Price || type == ColumnType::Date;
     RecordMap<quint64> keys(rows, isFraction ? KeyOf(0.0) : KeyOf(qint64 { 0 }));
-    const auto read = database.ScanInPlace(
-        std::span(&column, 1), ScanOrder::Any, [&](const ScannedRecord& record) {
-            keys.Set(record.Oid(), KeyOf(record, type));
-            return true;
-        });
+    const auto read
+        = database.ScanInPlace(std::span(&column, 1), order, [&](const ScannedRecord& record) {
+              keys.Set(record.Oid(), KeyOf(record, type));
+              return true;
+          });
     if (!read)
         return read.Error();
     Entries entries = EntriesOf(rows, [&keys](ObjectId row) { return keys.Find(row); });
@@ -216,7 +216,8 @@ Result<Entries> SortNumbers(
     return entries;
 }
 
-Result<Entries> SortTexts(Database& database, const std::vector<ObjectId>& rows, PropertyId column)
+Result<Entries> SortTexts(
+    Database& database, const std::vector<ObjectId>& rows, PropertyId column, ScanOrder order)
 {
     constexpr quint32 kNowhere = std::numeric_limits<quint32>::max();
     Entries entries = EntriesOf(rows, [](ObjectId) { return quint64 { 0 }; });
@@ -224,13 +225,13 @@ Result<Entries> SortTexts(Database& database, const std::vector<ObjectId>& rows,
     for (const SortEntry& entry : entries)
         positions.Set(rows[entry.position], entry.position);
     ColumnTexts texts(rows.size());
-    const auto read = database.ScanInPlace(
-        std::span(&column, 1), ScanOrder::Any, [&](const ScannedRecord& record) {
-            const quint32 position = positions.Find(record.Oid());
-            if (position != kNowhere)
-                texts.Add(position, record.Bytes(0));
-            return true;
-        });
+    const auto read
+        = database.ScanInPlace(std::span(&column, 1), order, [&](const ScannedRecord& record) {
+              const quint32 position = positions.Find(record.Oid());
+              if (position != kNowhere)
+                  texts.Add(position, record.Bytes(0));
+              return true;
+          });
     if (!read)
         return read.Error();
     texts.Sort(entries);
@@ -240,10 +241,10 @@ Result<Entries> SortTexts(Database& database, const std::vector<ObjectId>& rows,
 } // namespace
 
 Result<std::vector<ObjectId>> SortByColumn(
-    Database& database, const std::vector<ObjectId>& rows, PropertyId column)
+    Database& database, const std::vector<ObjectId>& rows, PropertyId column, ScanOrder order)
 {
     const bool isText = ColumnTypeOf(column) == ColumnType::String;
-    const auto entries = (isText ? SortTexts : SortNumbers)(database, rows, column);
+    const auto entries = (isText ? SortTexts : SortNumbers)(database, rows, column, order);
     if (!entries)
         return entries.Error();
     std::vector<ObjectId> sorted;
@@ -251,6 +252,24 @@ Result<std::vector<ObjectId>> SortByColumn(
     for (const SortEntry& entry : *entries)
         sorted.push_back(rows[entry.position]);
     return sorted;
+}
+
+Result<std::vector<ObjectId>> ListWithoutIndex(Database& database)
+{
+    constexpr PropertyId kName = PropName;
+    std::vector<ObjectId> named;
+    std::vector<ObjectId> nameless;
+    const auto read = database.ScanInPlace(
+        std::span(&kName, 1), ScanOrder::Stored, [&](const ScannedRecord& record) {
+            (record.IsMissing(0) ? nameless : named).push_back(record.Oid());
+            return true;
+        });
+    if (!read)
+        return read.Error();
+    auto rows = SortByColumn(database, named, kName, ScanOrder::Stored);
+    if (rows)
+        rows->insert(rows->end(), nameless.begin(), nameless.end());
+    return rows;
 }
 
 } // namespace Quillory

@@ -8,9 +8,13 @@
 namespace Quillory {
 
 /// `rows` ordered by a column, ascending; rows equal in it keep their order, and a missing value
-/// counts as 0, unchecked or the empty text. Reads the column once, in the order of the file. Needs
-/// some 40 bytes a row, and the texts of a column of text.
-[[nodiscard]] Result<std::vector<ObjectId>> SortByColumn(
-    Database& database, const std::vector<ObjectId>& rows, PropertyId column);
+/// counts as 0, unchecked or the empty text. Reads the column once, in the order given. Needs some
+/// 40 bytes a row, and the texts of a column of text.
+[[nodiscard]] Result<std::vector<ObjectId>> SortByColumn(Database& database,
+    const std::vector<ObjectId>& rows, PropertyId column, ScanOrder order = ScanOrder::Any);
+
+/// Every row in the order of names, read past the index of names, which may be damaged. Costs and
+/// needs as much as SortByColumn().
+[[nodiscard]] Result<std::vector<ObjectId>> ListWithoutIndex(Database& database);
 
 } // namespace Quillory

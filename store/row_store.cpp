@@ -19,16 +19,15 @@ namespace {
 constexpr DatabaseType kRows = ListCatalogue::kRowsType;
 
 /// The rows that pass in the order of names, up to the first one that cannot be read.
-std::vector<ObjectId> RowsUpToDamage(
-    Database& database, const FilterSet* filters, const ValueContext& context)
+Listing RowsUpToDamage(Database& database, const FilterSet* filters, const ValueContext& context)
 {
-    std::vector<ObjectId> rows;
-    static_cast<void>(ScanFilteredInPlace(
-        database, {}, filters, context, ScanOrder::Sorted, [&rows](const ScannedRecord& record) {
-            rows.push_back(record.Oid());
+    Listing listing;
+    listing.error = ScanFilteredInPlace(
+        database, {}, filters, context, ScanOrder::Sorted, [&listing](const ScannedRecord& record) {
+            listing.rows.push_back(record.Oid());
             return true;
-        }).IsOk());
-    return rows;
+        }).Error();
+    return listing;
 }
 
 } // namespace
@@ -39,16 +38,20 @@ RowStore::RowStore(DataVolume& volume, const InventoryList& list, const ValueCon
     , m_context(context)
 { }
 
-std::vector<ObjectId> RowStore::FillRows()
+Listing RowStore::FillRows()
 {
     Database* database = m_volume.OpenDatabase(kRows);
     if (database == nullptr)
-        return {};
+        return { {}, m_volume.LastError() };
     auto rows = database->ListRecords();
-    return rows ? std::move(*rows) : RowsUpToDamage(*database, nullptr, m_context);
+    if (rows)
+        return { std::move(*rows), ErrorNumber::None };
+    Listing listing = RowsUpToDamage(*database, nullptr, m_context);
+    listing.error = rows.Error();
+    return listing;
 }
 
-std::vector<ObjectId> RowStore::FillFilteredRows(const FilterSet& filters)
+Listing RowStore::FillFilteredRows(const FilterSet& filters)
 {
     Database* database = m_volume.OpenDatabase(kRows);
     if (database == nullptr || filters.entries.empty())
@@ -59,25 +62,28 @@ std::vector<ObjectId> RowStore::FillFilteredRows(const FilterSet& filters)
             passing.push_back(record.Oid());
             return true;
         });
-    if (!scanned)
-        return RowsUpToDamage(*database, &filters, m_context);
+    if (!scanned) {
+        Listing listing = RowsUpToDamage(*database, &filters, m_context);
+        listing.error = scanned.Error();
+        return listing;
+    }
     if (passing.empty())
-        return passing;
+        return {};
     const RowSet passingRows(passing);
-    std::vector<ObjectId> rows = FillRows();
-    std::erase_if(rows, [&](ObjectId oid) { return !passingRows.Contains(oid); });
-    return rows;
+    Listing listing = FillRows();
+    std::erase_if(listing.rows, [&](ObjectId oid) { return !passingRows.Contains(oid); });
+    return listing;
 }
 
-std::vector<ObjectId> RowStore::SortRows(std::vector<ObjectId> rows, PropertyId column)
+Listing RowStore::SortRows(std::vector<ObjectId> rows, PropertyId column)
 {
     Database* database = m_volume.OpenDatabase(kRows);
     if (database == nullptr)
-        return rows;
+        return { std::move(rows), m_volume.LastError() };
     auto sorted = SortByColumn(*database, rows, column);
     if (sorted)
-        return std::move(*sorted);
-    return rows;
+        return { std::move(*sorted), ErrorNumber::None };
+    return { std::move(rows), sorted.Error() };
 }
 
 std::vector<PropertyValue> RowStore::ParseTexts(std::span<const QString> texts) const
@@ -142,9 +148,9 @@ Record RowStore::ReadRow(ObjectId row)
     return m_volume.SeekTo(kRows, row) == kNoObject ? Record {} : m_volume.ReadAll(kRows);
 }
 
-std::vector<ColumnTotal> RowStore::Totals(const FilterSet* filters)
+ListTotals RowStore::Totals(const FilterSet* filters)
 {
-    return ComputeTotals(m_volume, m_list, filters, m_context).lines;
+    return ComputeTotals(m_volume, m_list, filters, m_context);
 }
 
 QString RowStore::FormatCellText(PropertyId column, ObjectId row)

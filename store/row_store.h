@@ -8,13 +8,23 @@
 #include "values/value_text.h"
 
 #include <optional>
+#include <vector>
 
 namespace Quillory {
 
+/// Rows by their identifiers, in the order in which they are shown.
+struct Listing
+{
+    std::vector<ObjectId> rows;
+    /// Why rows may be missing, or stand in another order than was asked for; None if that is not
+    /// so.
+    ErrorNumber error = ErrorNumber::None;
+};
+
 /// The rows of the list whose row database is open (ListCatalogue::OpenList).
 ///
-/// Rows are known by the identifiers of their records. A listing is a sequence of identifiers; the
-/// texts are asked for one by one when they are shown.
+/// Rows are known by the identifiers of their records; the texts are asked for one by one when they
+/// are shown.
 class RowStore
 {
 public:
@@ -22,15 +32,15 @@ public:
     RowStore(DataVolume& volume, const InventoryList& list, const ValueContext& context);
 
     /// Every row in the order of names. One that cannot be had ends the listing: those before it
-    /// are there. Empty also where no list is open.
-    [[nodiscard]] std::vector<ObjectId> FillRows();
+    /// are there.
+    [[nodiscard]] Listing FillRows();
     /// The rows that pass, in the order of names; a row that cannot be read ends the listing, as
     /// above.
-    [[nodiscard]] std::vector<ObjectId> FillFilteredRows(const FilterSet& filters);
+    [[nodiscard]] Listing FillFilteredRows(const FilterSet& filters);
     /// `rows` ordered by a column, ascending; rows equal in it keep their order. A missing value
     /// counts as 0, unchecked or the empty text. Reads the column once, not row by row. Where it
     /// cannot be read, `rows` as they were.
-    [[nodiscard]] std::vector<ObjectId> SortRows(std::vector<ObjectId> rows, PropertyId column);
+    [[nodiscard]] Listing SortRows(std::vector<ObjectId> rows, PropertyId column);
 
     /// One text per column, in column order. A date that cannot be read gets no value. The new
     /// row, or kNoObject.
@@ -50,9 +60,8 @@ public:
 
     /// Every property of a row; false in a condition if it cannot be found.
     [[nodiscard]] Record ReadRow(ObjectId row);
-    /// The totals of the list over all rows or, unless `filters` is null, those that pass. Where a
-    /// row cannot be read every total is "0".
-    [[nodiscard]] std::vector<ColumnTotal> Totals(const FilterSet* filters);
+    /// As ComputeTotals().
+    [[nodiscard]] ListTotals Totals(const FilterSet* filters);
     /// The text of one cell as the rows view shows it; "<Err>" if the row cannot be found.
     [[nodiscard]] QString FormatCellText(PropertyId column, ObjectId row);
 

@@ -149,11 +149,11 @@ ListTotals ComputeTotals(DataVolume& volume, const InventoryList& list, const Fi
     }
     Database* rows = volume.OpenDatabase(ListCatalogue::kRowsType);
     if (rows == nullptr)
-        totals.readError = volume.LastError();
+        totals.error = volume.LastError();
     if (rows == nullptr || columns.empty())
         return totals;
     const auto sums = Sum(*rows, columns, filters, context);
-    totals.readError = sums.Error();
+    totals.error = sums.Error();
     for (size_t i = 0; sums && i < columns.size(); ++i)
         totals.lines[i].text = TotalText(columns[i], (*sums)[i]);
     return totals;

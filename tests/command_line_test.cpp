@@ -6,10 +6,13 @@
 #include "tests/test_program.h"
 
 #include <QBuffer>
+#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <cstdio>
 #include <utility>
 
 using namespace Quillory;
@@ -70,6 +73,16 @@ public:
             "3\n"_ba);
     }
 
+    /// A list "L" of so many rows of low quantities, on more than one page.
+    void MakeLongList(int rows)
+    {
+        QByteArray text;
+        for (int i = 0; i < rows; ++i)
+            text += "row " + QByteArray::number(i) + '\t' + QByteArray::number(i % 97) + "\r\n";
+        QCOMPARE(Output({ u"new"_s, u"L"_s, u"--create"_s, u"--warn-count=99"_s }), ""_ba);
+        QCOMPARE(Output({ u"import"_s, u"L"_s, u"-"_s }, text), QByteArray::number(rows) + '\n');
+    }
+
     ValueContext context = TestContext();
 
 private:
@@ -107,6 +120,10 @@ private Q_SLOTS:
     void whatIsLeftOfADamagedFileIsSaved();
     void damagedRowsAreNoRows_data();
     void damagedRowsAreNoRows();
+    void rowsBesideDamageArePrinted_data();
+    void rowsBesideDamageArePrinted();
+    void aReaderThatStandsStillHoldsNoLock_data();
+    void aReaderThatStandsStillHoldsNoLock();
     void theWindowKeepsItsArguments();
 };
 
@@ -506,11 +523,11 @@ void CommandLineTest::damagedRowsAreNoRows_data()
     // One list that cannot be read does not hide the next.
     add("lists", kIndexLeaf, { u"lists"_s }, "Tools\t1\n");
     add("lists as JSON", kIndexLeaf, { u"lists"_s, u"--json"_s },
-        "[\n{\"columns\":[{\"name\":\"Name\",\"type\":\"string\"},{\"name\":\"Quantity\","
-        "\"type\":\"integer\"}],\"icon\":0,\"name\":\"Tools\",\"rows\":1}\n]\n");
-    add("what is due", kIndexLeaf, { u"due"_s }, "Tools\tSaw\tlow\n");
-    add("what is due as JSON", kIndexLeaf, { u"due"_s, u"--json"_s },
-        "[\n{\"count\":1,\"list\":\"Tools\",\"row\":\"Saw\",\"state\":\"low\"}\n]\n");
+        "[\n{\"name\":\"Tools\",\"rows\":1,\"icon\":0,\"columns\":[{\"name\":\"Name\",\"type\":"
+        "\"string\"},{\"name\":\"Quantity\",\"type\":\"integer\"}]}\n]\n");
+    add("what is due", kTableLeaf, { u"due"_s }, "Tools\tSaw\tlow\n");
+    add("what is due as JSON", kTableLeaf, { u"due"_s, u"--json"_s },
+        "[\n{\"list\":\"Tools\",\"row\":\"Saw\",\"state\":\"low\",\"count\":1}\n]\n");
 }
 
 void CommandLineTest::damagedRowsAreNoRows()
@@ -525,7 +542,75 @@ void CommandLineTest::damagedRowsAreNoRows()
     const Call call = shell.Run(arguments);
     QCOMPARE(call.code, ExitCode::Failed);
     QTEST(call.output, "output");
-    QVERIFY(call.errors.contains("the file is damaged (error 1392)\n"));
+    QVERIFY(call.errors.contains("the file is damaged (error 1392); “quillory restore” lists"));
+}
+
+void CommandLineTest::rowsBesideDamageArePrinted_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("export") << QStringList { u"export"_s, u"L"_s };
+    QTest::newRow("show") << QStringList { u"show"_s, u"L"_s };
+    QTest::newRow("JSON") << QStringList { u"show"_s, u"L"_s, u"--json"_s };
+    QTest::newRow("sorted") << QStringList { u"show"_s, u"L"_s, u"--sort"_s, u"Quantity"_s };
+    QTest::newRow("filtered") << QStringList { u"show"_s, u"L"_s, u"--where=Quantity < 90"_s };
+    QTest::newRow("due") << QStringList { u"due"_s };
+}
+
+void CommandLineTest::rowsBesideDamageArePrinted()
+{
+    QFETCH(QStringList, arguments);
+    Shell shell;
+    shell.MakeLongList(1000);
+    const QList<QByteArray> whole = shell.Output(arguments).split('\n');
+    const QByteArray bytes = FileBytes(shell.Path());
+
+    // An index can be done without.
+    DamagePage(shell.Path(), kIndexLeaf, u"row 500"_s);
+    QCOMPARE(shell.Output(arguments).split('\n'), whole);
+
+    WriteFileBytes(shell.Path(), bytes);
+    DamagePage(shell.Path(), kTableLeaf, u"row 500"_s);
+    const Call call = shell.Run(arguments);
+    QCOMPARE(call.code, ExitCode::Failed);
+    const QList<QByteArray> lines = call.output.split('\n');
+    QVERIFY(lines.size() > 700 && lines.size() < whole.size());
+    QVERIFY(std::all_of(
+        lines.begin(), lines.end(), [&whole](auto line) { return whole.contains(line); }));
+    const auto passedOver = QByteArray::number(whole.size() - lines.size());
+    // Which rows pass a filter is not known of those that cannot be read.
+    if (!arguments.last().startsWith(u"--where"))
+        QVERIFY2(call.errors.contains("passed over, " + passedOver + " of them"),
+            call.errors.constData());
+}
+
+void CommandLineTest::aReaderThatStandsStillHoldsNoLock_data()
+{
+    QTest::addColumn<QString>("arguments");
+    for (const char* arguments : { "show L", "show L --sort Quantity", "show L --json", "export L",
+             "export L /dev/stdout", "due" })
+        QTest::newRow(arguments) << QString::fromLatin1(arguments);
+}
+
+void CommandLineTest::aReaderThatStandsStillHoldsNoLock()
+{
+    QFETCH(QString, arguments);
+    Shell shell;
+    constexpr int kRows = 10'000;
+    shell.MakeLongList(kRows);
+    // Emulators of other processors know this call, not the one by which QProcess starts a program.
+    FILE* reader = popen(qPrintable(u"'%1' command_line_test --run --data '%2' %3"_s.arg(
+                             QCoreApplication::applicationFilePath(), shell.Path(), arguments)),
+        "r");
+    QVERIFY(reader != nullptr && fgetc(reader) != EOF);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(shell.Output({ u"import"_s, u"L"_s, u"-"_s }, "x\r\n"), "1\n"_ba);
+    QVERIFY(timer.elapsed() < 4000);
+    qsizetype lines = 0;
+    for (int byte = fgetc(reader); byte != EOF; byte = fgetc(reader))
+        lines += byte == '\n' ? 1 : 0;
+    QCOMPARE(pclose(reader), 0);
+    QVERIFY(lines >= kRows);
 }
 
 void CommandLineTest::theWindowKeepsItsArguments()
@@ -548,5 +633,16 @@ void CommandLineTest::theWindowKeepsItsArguments()
     QVERIFY(call.errors.startsWith("quillory: there is no command “shwo”\nusage: quillory"));
 }
 
-QUILLORY_TEST(QCoreApplication, CommandLineTest)
+/// Started with --run it is the program itself.
+static int RunOrTest(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 2; i < argc; ++i)
+        arguments << QFile::decodeName(argv[i]);
+    if (argc > 1 && QByteArrayView(argv[1]) == "--run")
+        return RunCommandLine(arguments);
+    return RunTest<QCoreApplication, CommandLineTest>(argc, argv);
+}
+
+static const TestProgram kCommandLineTest(__FILE__, RunOrTest);
 #include "command_line_test.moc"

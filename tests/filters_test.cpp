@@ -91,7 +91,7 @@ void FiltersTest::conditionsMatchByType()
     for (int code = -1; code <= 6; ++code) {
         FilterSet filters;
         AddFilter(filters, file.Column(column), static_cast<FilterCondition>(code), text);
-        if (!file.rows->FillFilteredRows(filters).empty())
+        if (!file.rows->FillFilteredRows(filters).rows.empty())
             matching << QString::number(code);
     }
     QTEST(matching.join(u' '), "codes");

@@ -42,8 +42,8 @@ void TypeInto(FrameErrand& errand, const QString& text)
 const std::array kFronts {
     FrontCase { "the lists", [](FrameErrand&) {}, Before::Nothing },
     FrontCase { "a list", [](FrameErrand& errand) { errand.Tap(0); }, Before::Nothing },
-    FrontCase { "a page", [](FrameErrand& errand) { errand.Choose(Command::Options); },
-        Before::Nothing },
+    FrontCase {
+        "a page", [](FrameErrand& errand) { errand.Choose(Command::Options); }, Before::Nothing },
     FrontCase { "a page with input",
         [](FrameErrand& errand) {
             errand.Choose(Command::New);
@@ -63,8 +63,8 @@ const std::array kFronts {
             TypeInto(errand, u"X"_s);
         },
         Before::Nothing },
-    FrontCase { "a menu", [](FrameErrand& errand) { errand.Press(u"rightKey"_s); },
-        Before::Nothing },
+    FrontCase {
+        "a menu", [](FrameErrand& errand) { errand.Press(u"rightKey"_s); }, Before::Nothing },
     FrontCase { "a menu of a list",
         [](FrameErrand& errand) {
             errand.Tap(0);
@@ -74,8 +74,8 @@ const std::array kFronts {
     FrontCase { "a context menu",
         [](FrameErrand& errand) {
             const QPoint place = errand.view->visualRect(errand.view->currentIndex()).center();
-            QContextMenuEvent event(QContextMenuEvent::Mouse, place,
-                errand.view->viewport()->mapToGlobal(place));
+            QContextMenuEvent event(
+                QContextMenuEvent::Mouse, place, errand.view->viewport()->mapToGlobal(place));
             QApplication::sendEvent(errand.view->viewport(), &event);
         },
         Before::Nothing },
@@ -103,8 +103,8 @@ const std::array kFronts {
             errand.pages->Top()->findChild<QComboBox*>(u"fieldBox"_s)->showPopup();
         },
         Before::Nothing },
-    FrontCase { "a question", [](FrameErrand& errand) { errand.Choose(Command::Delete); },
-        Before::Answer },
+    FrontCase {
+        "a question", [](FrameErrand& errand) { errand.Choose(Command::Delete); }, Before::Answer },
     FrontCase { "the file dialog", [](FrameErrand& errand) { errand.Choose(Command::Export); },
         Before::Answer },
 };
@@ -137,12 +137,15 @@ bool IsVisible(const FrameErrand& errand)
 }
 
 const std::array kInterruptions {
-    InterruptionCase { "closing", [](FrameErrand& errand) { errand.frame->close(); }, true, IsGone },
-    InterruptionCase { "a start",
-        [](FrameErrand& errand) { errand.frame->TakeStartRequest({}); }, false, IsVisible },
+    InterruptionCase {
+        "closing", [](FrameErrand& errand) { errand.frame->close(); }, true, IsGone },
+    InterruptionCase { "a start", [](FrameErrand& errand) { errand.frame->TakeStartRequest({}); },
+        false, IsVisible },
     InterruptionCase { "a start with a list",
-        [](FrameErrand& errand) { errand.frame->TakeStartRequest({ u"Zoo"_s, {} }); }, true,
-        IsZooOpen },
+        [](FrameErrand& errand) {
+            errand.frame->TakeStartRequest({ u"Zoo"_s, {} });
+        },
+        true, IsZooOpen },
     InterruptionCase { "other colours and letters",
         [](FrameErrand&) {
             QApplication::setPalette(QPalette(Qt::black));

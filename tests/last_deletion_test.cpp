@@ -35,9 +35,9 @@ private:
         m_deletion.reset();
         m_lists->Restart();
         QStringList lists;
-        for (const auto& entry : m_lists->catalogue->FillHomeList()) {
+        for (const auto& entry : m_lists->catalogue->FillHomeList().lists) {
             m_lists->OpenList(entry.oid);
-            lists << entry.name + u": "_s + m_lists->Cells(m_lists->rows->FillRows());
+            lists << entry.name + u": "_s + m_lists->Cells(m_lists->rows->FillRows().rows);
         }
         m_lists->catalogue->CloseRows();
         return lists.join(u"; "_s);
@@ -72,7 +72,7 @@ void LastDeletionTest::aRowComesBackWithEveryValue()
 {
     const QString before = Values(m_tea);
     QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
-    QCOMPARE(m_lists->Cells(m_lists->rows->FillRows()), u"Salt"_s);
+    QCOMPARE(m_lists->Cells(m_lists->rows->FillRows().rows), u"Salt"_s);
     QVERIFY(m_deletion->CanUndoIn(m_list));
     const auto restored = m_deletion->Undo();
     QVERIFY(restored.has_value());
@@ -94,7 +94,7 @@ void LastDeletionTest::allRowsComeBackBesideNewOnes()
 {
     QCOMPARE(m_deletion->DeleteAllRows(m_list), ListCatalogue::EmptyOutcome::Done);
     m_lists->OpenList(m_list);
-    QVERIFY(m_lists->rows->FillRows().empty());
+    QVERIFY(m_lists->rows->FillRows().rows.empty());
     m_lists->Add({ u"Oats"_s, u"2"_s });
     m_lists->Add({ u"Bread"_s, u"1"_s });
     QVERIFY(m_deletion->Undo());
@@ -104,7 +104,7 @@ void LastDeletionTest::allRowsComeBackBesideNewOnes()
 void LastDeletionTest::aListComesBackWithItsRows()
 {
     QVERIFY(m_deletion->DeleteList(m_list));
-    QVERIFY(m_lists->catalogue->FillHomeList().empty());
+    QVERIFY(m_lists->catalogue->FillHomeList().lists.empty());
     QVERIFY(!m_deletion->CanUndoIn(m_list));
     const auto restored = m_deletion->Undo();
     QVERIFY(restored.has_value());

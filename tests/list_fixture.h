@@ -47,7 +47,7 @@ inline QString ListsIn(const QString& path)
         || catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
         return QStringLiteral("unreadable");
     QStringList lists;
-    for (const auto& entry : catalogue.FillHomeList()) {
+    for (const auto& entry : catalogue.FillHomeList().lists) {
         InventoryList list;
         const bool isOpen = catalogue.OpenList(entry.oid, list);
         lists << entry.name + u' '

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/kept_copies.h"
 #include "tests/main_frame_errand.h"
+#include "tests/page_damage.h"
 #include "tests/test_program.h"
 
 #include <QApplication>
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void aFileRemovedBeforeTheEndIsTold();
     void aFolderRemovedBeforeTheEndIsTold();
     void aDamagedFileIsReplacedByItsCopy();
+    void aListReadInPartSaysSo_data();
+    void aListReadInPartSaysSo();
 };
 
 namespace {
@@ -362,6 +365,59 @@ void MainFrameSafetyTest::aDamagedFileIsReplacedByItsCopy()
     QTRY_COMPARE(errand.Lines(), u"Zoo"_s);
     errand.Restart();
     QCOMPARE(errand.Lines(), u"Zoo"_s);
+}
+
+void MainFrameSafetyTest::aListReadInPartSaysSo_data()
+{
+    QTest::addColumn<char>("page");
+    QTest::addColumn<QStringList>("told");
+    // Where the order of names is lost, the rows can be exported all the same.
+    QTest::newRow("a page of the index")
+        << kIndexLeaf << QStringList { u"are shown"_s, u"are shown"_s };
+    QTest::newRow("a page of rows")
+        << kTableLeaf << QStringList { u"summed up"_s, u"are in the file"_s };
+}
+
+void MainFrameSafetyTest::aListReadInPartSaysSo()
+{
+    QFETCH(const char, page);
+    QFETCH(const QStringList, told);
+    FrameErrand errand({ u"Pantry"_s });
+    QByteArray rows;
+    for (int i = 0; i < 1000; ++i)
+        rows += "Row " + QByteArray::number(10'000 + i) + "\t1\r\n";
+    errand.Import(rows);
+    errand.PressOk();
+    errand.Restart();
+    errand.frame.reset();
+    DamagePage(errand.DataPath(), page, u"Row 10500"_s);
+    errand.Start();
+    QStringList heard;
+    const auto hear = [&] {
+        QCoreApplication::processEvents();
+        while (QApplication::activeModalWidget() != nullptr) {
+            errand.Answer(QMessageBox::Ok);
+            if (errand.question.contains(u"in part"_s))
+                heard << errand.question;
+        }
+        errand.ComeBack();
+    };
+    errand.Tap(0);
+    hear();
+    errand.Choose(Command::ViewSummary);
+    hear();
+    errand.PressOk();
+    errand.Choose(Command::Find);
+    QTest::keyClicks(QApplication::focusWidget(), u"Row"_s);
+    QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Return);
+    hear();
+    while (errand.pages->Depth() > 1)
+        errand.PressOk();
+    errand.ChooseFileFor(Command::Export, errand.DataPath() + u".txt"_s);
+    hear();
+    QCOMPARE(heard.size(), told.size());
+    for (qsizetype i = 0; i < told.size(); ++i)
+        QVERIFY2(heard.at(i).contains(told.at(i)), qPrintable(heard.at(i)));
 }
 
 QUILLORY_TEST(QApplication, MainFrameSafetyTest)

@@ -30,7 +30,7 @@ struct MenuCase
 Page* NewHome(const ListFixture& file, InventoryList& /*list*/)
 {
     auto* home = new HomeList;
-    home->Fill(file.catalogue->FillHomeList());
+    home->Fill(file.catalogue->FillHomeList().lists);
     return home;
 }
 

@@ -110,7 +110,7 @@ void RowEditorTest::aNewRowStartsWithItsDefaults()
 
 void RowEditorTest::keysGoFromFieldToField()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     QTest::keyClick(Focus(), Qt::Key_Up);
     QCOMPARE(Current(), int { Name });
     QStringList controls;
@@ -152,7 +152,7 @@ void RowEditorTest::onlyALatchedShiftTurnsTabRound()
 
 void RowEditorTest::anOpenDropDownKeepsItsKeys()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     GoTo(Bio);
     auto* box = qobject_cast<QComboBox*>(Focus());
     QVERIFY(box != nullptr);
@@ -169,7 +169,7 @@ void RowEditorTest::anOpenDropDownKeepsItsKeys()
 
 void RowEditorTest::okWritesTheFields()
 {
-    const auto rows = m_file->rows->FillRows();
+    const auto rows = m_file->rows->FillRows().rows;
     Open(rows.front());
     // Every comma is read as a point, also one that parts thousands.
     QCOMPARE(Shown(Price), u"1,234.50"_s);
@@ -204,7 +204,7 @@ void RowEditorTest::dateTextsAreCommittedIfTheyNameADay()
     QFETCH(int, field);
     QFETCH(QString, typed);
     QFETCH(QString, shown);
-    const auto rows = m_file->rows->FillRows();
+    const auto rows = m_file->rows->FillRows().rows;
     Open(rows.front());
     GoTo(field);
     Type(typed);
@@ -248,7 +248,7 @@ void RowEditorTest::aDateOfANewRowCanBeTakenBack()
 
 void RowEditorTest::losingTheKeyboardCommits()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     Type(u"salt"_s);
     QFocusEvent deactivated(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
     QApplication::sendEvent(Focus(), &deactivated);
@@ -260,7 +260,7 @@ void RowEditorTest::losingTheKeyboardCommits()
 
 void RowEditorTest::tapsChooseTheField()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     Type(u"salt"_s);
     GoTo(Size);
     QCOMPARE(Current(), int { Size });
@@ -275,7 +275,7 @@ void RowEditorTest::tapsChooseTheField()
 
 void RowEditorTest::theControlStaysInViewWhenThePageShrinks()
 {
-    Open(m_file->rows->FillRows().front());
+    Open(m_file->rows->FillRows().rows.front());
     GoTo(Expiry);
     m_stack->resize(360, 240);
     const auto place = [this] {

@@ -28,7 +28,7 @@ FilterSet Where(PropertyId column, FilterCondition condition, const QString& val
 QString Totals(ListFixture& file, const FilterSet* filters = nullptr)
 {
     QStringList texts;
-    for (const ColumnTotal& total : file.rows->Totals(filters))
+    for (const ColumnTotal& total : file.rows->Totals(filters).lines)
         texts << total.name + u'=' + total.text;
     return texts.join(u' ');
 }
@@ -137,15 +137,15 @@ void RowStoreTest::filtersKeepTheOrderOfNames()
         file.Add({ u"r%1"_s.arg(i), QString::number(i), i % 2 == 0 ? u"even"_s : u"odd"_s });
     FilterSet filters = Where(file.Column(Count), FilterCondition::Greater, u"2"_s);
     AddFilter(filters, file.Column(Count), FilterCondition::Less, u"7"_s);
-    QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters)), u"r3 r4 r5 r6"_s);
+    QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters).rows), u"r3 r4 r5 r6"_s);
     AddFilter(filters, file.Column(Shelf), FilterCondition::Contains, u"ve"_s);
-    QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters)), u"r4 r6"_s);
+    QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters).rows), u"r4 r6"_s);
     QCOMPARE(Totals(file, &filters), u"Quantity=10 Price=0.00 Size=0"_s);
     AddFilter(filters, PropertyId {}, FilterCondition::Contains, QString());
-    QVERIFY(file.rows->FillFilteredRows(filters).empty());
+    QVERIFY(file.rows->FillFilteredRows(filters).rows.empty());
     const auto zeros = Where(file.Column(Size), FilterCondition::Equals, u"0"_s);
-    QVERIFY(file.rows->FillFilteredRows(zeros).empty());
-    QCOMPARE(file.rows->FillFilteredRows({}).size(), size_t { 10 });
+    QVERIFY(file.rows->FillFilteredRows(zeros).rows.empty());
+    QCOMPARE(file.rows->FillFilteredRows({}).rows.size(), size_t { 10 });
 }
 
 void RowStoreTest::aDamagedPageEndsTheListing_data()
@@ -172,14 +172,22 @@ void RowStoreTest::aDamagedPageEndsTheListing()
 
     file.Restart();
     file.OpenList(list);
-    const auto rows = file.rows->FillRows();
+    const auto [rows, error] = file.rows->FillRows();
+    QCOMPARE(error, page == kIndexLeaf ? ErrorNumber::FileCorrupt : ErrorNumber::None);
     QVERIFY2(rows.size() > 300, qPrintable(QString::number(rows.size())));
     // No row is missing before the last one.
     QCOMPARE(file.Cells({ rows.front(), rows[300] }), name(0) + u' ' + name(300));
-    const auto odd
+    const auto [odd, oddError]
         = file.rows->FillFilteredRows(Where(file.Column(Count), FilterCondition::Equals, u"1"_s));
+    QCOMPARE(oddError, ErrorNumber::FileCorrupt);
     QVERIFY(odd.size() > 150 && odd.size() < 300);
     QCOMPARE(file.Cells({ odd[0], odd[150] }), name(1) + u' ' + name(301));
+    // The column of a damaged row cannot be sorted by, nor totalled: the index is not asked.
+    const bool isRowDamaged = page == kTableLeaf;
+    const auto [sorted, sortError] = file.rows->SortRows(rows, file.Column(Count));
+    QCOMPARE(sortError, isRowDamaged ? ErrorNumber::FileCorrupt : ErrorNumber::None);
+    QCOMPARE(sorted == rows, isRowDamaged);
+    QCOMPARE(file.rows->Totals(nullptr).error, sortError);
 }
 
 void RowStoreTest::sortingManyRowsAgreesWithComparingThem()
@@ -206,7 +214,7 @@ void RowStoreTest::sortingManyRowsAgreesWithComparingThem()
     }
     QVERIFY(file.data->EndTransaction(true));
 
-    std::vector<ObjectId> rows = file.rows->FillRows();
+    std::vector<ObjectId> rows = file.rows->FillRows().rows;
     std::reverse(rows.begin(), rows.end());
     for (const int column : { Shelf, Bio, Price, Size, Bought }) {
         const PropertyId id = file.Column(column);
@@ -216,7 +224,7 @@ void RowStoreTest::sortingManyRowsAgreesWithComparingThem()
         std::vector<ObjectId> expected = rows;
         std::stable_sort(expected.begin(), expected.end(),
             [&keys](ObjectId a, ObjectId b) { return keys[a] < keys[b]; });
-        QVERIFY2(file.rows->SortRows(rows, id) == expected,
+        QVERIFY2(file.rows->SortRows(rows, id).rows == expected,
             qPrintable(file.list.columns[static_cast<size_t>(column)].name));
     }
 }

@@ -48,7 +48,10 @@ public:
         return texts.join(u' ');
     }
     /// A column of the stored rows, in the order of names.
-    QString Stored(int column = Name) const { return file.Cells(file.rows->FillRows(), column); }
+    QString Stored(int column = Name) const
+    {
+        return file.Cells(file.rows->FillRows().rows, column);
+    }
     bool IsTicked(int line, int column = Bio) const
     {
         const QModelIndex cell = View()->model()->index(line, column);

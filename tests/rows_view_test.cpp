@@ -235,7 +235,7 @@ void RowsViewTest::aTapOnTheHeaderSorts_data()
 void RowsViewTest::aTapOnTheHeaderSorts()
 {
     QFETCH(int, column);
-    for (const ObjectId row : File().rows->FillRows())
+    for (const ObjectId row : File().rows->FillRows().rows)
         File().rows->DeleteRow(row);
     File().Add({ u"a"_s, u"9"_s, u"b"_s, u"Unchecked"_s, u"10"_s, u""_s, u"1/2/2026"_s });
     File().Add({ u"b"_s, u"-3"_s, u"Z"_s, u"Unchecked"_s, u"9"_s, u""_s, u""_s });
@@ -366,7 +366,7 @@ void RowsViewTest::widthsAndOrderAreKept()
 void RowsViewTest::aVanishedRowShowsErr()
 {
     m_errand->Open();
-    const ObjectId row = File().rows->FillRows().front();
+    const ObjectId row = File().rows->FillRows().rows.front();
     QVERIFY(File().rows->DeleteRow(row));
     QTest::keyClick(View(), Qt::Key_Plus);
     m_errand->Open();

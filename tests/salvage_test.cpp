@@ -102,12 +102,12 @@ QString Saved(const QString& path)
         return u"unreadable"_s;
     QStringList lists;
     const ValueContext context = TestContext();
-    for (const auto& entry : catalogue.FillHomeList()) {
+    for (const auto& entry : catalogue.FillHomeList().lists) {
         InventoryList list;
         if (!catalogue.OpenList(entry.oid, list) || list.columns.size() != 8)
             return u"unreadable"_s;
         RowStore store(data, list, context);
-        const auto rows = store.FillRows();
+        const auto rows = store.FillRows().rows;
         for (const ObjectId row : rows) {
             QStringList texts;
             for (const ColumnDefinition& column : list.columns)
@@ -238,7 +238,7 @@ void SalvageTest::aListWithoutItsColumnOfNamesIsSaved()
     QCOMPARE(list.columns.size(), size_t { 2 });
     const ValueContext context = TestContext();
     RowStore store(data, list, context);
-    const ObjectId row = store.FillRows().at(0);
+    const ObjectId row = store.FillRows().rows.at(0);
     QCOMPARE(store.FormatCellText(PropName, row), QString());
     QCOMPARE(store.FormatCellText(PropCount, row), u"7"_s);
 }

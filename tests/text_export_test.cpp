@@ -88,6 +88,7 @@ private Q_SLOTS:
     void textsGoOutAsTheyStand();
     void aFailedWriteIsToldAndTheRestStillOffered();
     void theDataFileIsNeverATarget();
+    void aFileIsReplacedOnceAllIsWritten();
 };
 
 void TextExportTest::anEmptyListIsAByteOrderMark()
@@ -189,15 +190,30 @@ void TextExportTest::theDataFileIsNeverATarget()
     const QString alias = file.Path() + u".txt"_s;
     QVERIFY(QFile::link(file.Path(), alias));
     const qint64 size = QFile(file.Path()).size();
-    QVERIFY(CreateListFile(alias, file.Path()).file == nullptr);
+    for (const QString& name : { alias, file.Path() + u"-journal"_s })
+        QVERIFY(CreateListFile(name, file.Path()).file == nullptr);
     QVERIFY(OpenListFile(file.Path(), alias).file == nullptr);
     QCOMPARE(QFile(file.Path()).size(), size);
 
-    const QString target = alias + u".2"_s;
-    WriteFileBytes(target, "longer than before");
-    QVERIFY(CreateListFile(target, file.Path()).file != nullptr);
-    QCOMPARE(QFile(target).size(), 0);
     QVERIFY(!CreateListFile(u"/no/such/folder/x"_s, file.Path()).failure.isEmpty());
+}
+
+void TextExportTest::aFileIsReplacedOnceAllIsWritten()
+{
+    const ListFixture file;
+    const QString target = file.Path() + u".txt"_s;
+    WriteFileBytes(target, "longer than before");
+    QVERIFY(QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner));
+    const auto permissions = QFile::permissions(target);
+    for (const bool isCommitted : { false, true }) {
+        const ListFile made = CreateListFile(target, file.Path());
+        QVERIFY(made.file != nullptr && made.file->write("new") == 3);
+        if (isCommitted)
+            QCOMPARE(made.Commit(), QString());
+        QCOMPARE(FileBytes(target), isCommitted ? "new"_ba : "longer than before"_ba);
+    }
+    QCOMPARE(QFile::permissions(target), permissions);
+    QCOMPARE(QDir(QFileInfo(target).path()).entryList(QDir::Files).size(), 2);
 }
 
 QUILLORY_TEST(QCoreApplication, TextExportTest)

@@ -248,7 +248,7 @@ void TextImportTest::rowsAreAddedInBatches()
     QVERIFY(outcome.result == ImportResult::Done);
     QCOMPARE(outcome.rows, 7000);
     file.Restart();
-    const auto rows = file.rows->FillRows();
+    const auto rows = file.rows->FillRows().rows;
     QCOMPARE(rows.size(), size_t { 7001 });
     // Rows of one name stand in the order of the file, across batches too.
     const std::vector<ObjectId> zeros(rows.begin(), rows.begin() + 70);
@@ -274,7 +274,7 @@ void TextImportTest::longNamesAreSortedAcrossBatches()
         std::vector { file.Column(Shelf), PropName }, file.context, source, {}, { 4, 10'000'000 });
     QVERIFY(outcome.result == ImportResult::Done);
     names.sort();
-    const auto rows = file.rows->FillRows();
+    const auto rows = file.rows->FillRows().rows;
     QCOMPARE(file.Cells(rows), names.join(u' '));
     // They were stored in that order.
     QVERIFY(std::is_sorted(rows.begin(), rows.end()));
@@ -318,7 +318,7 @@ void TextImportTest::anUnreadableFileKeepsTheRowsBefore()
         = ImportRows(*file.data, std::vector { PropName }, file.context, source);
     QVERIFY(outcome.result == ImportResult::Failed);
     QCOMPARE(outcome.rows, 2);
-    QCOMPARE(file.Cells(file.rows->FillRows()), u"a b"_s);
+    QCOMPARE(file.Cells(file.rows->FillRows().rows), u"a b"_s);
 }
 
 void TextImportTest::aRowTheStoreRefusesIsPassedOver()
@@ -329,7 +329,7 @@ void TextImportTest::aRowTheStoreRefusesIsPassedOver()
         = ImportRows(*file.data, std::vector { PropName, PropName }, file.context, source);
     QVERIFY(outcome.result == ImportResult::Done);
     QCOMPARE(outcome.rows, 1);
-    QCOMPARE(file.Cells(file.rows->FillRows()), u"b"_s);
+    QCOMPARE(file.Cells(file.rows->FillRows().rows), u"b"_s);
 }
 
 void TextImportTest::readOnlyDataEndsTheImport()

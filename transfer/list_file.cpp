@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "transfer/list_file.h"
 
+#include "propdb/volume_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
 #include <sys/stat.h>
 
 #include <utility>
@@ -23,11 +29,13 @@ bool IsSameFile(const QString& path, const QString& other)
         && a.st_ino == b.st_ino;
 }
 
-ListFile Open(const QString& path, const QString& dataFile, QIODevice::OpenMode mode)
+ListFile Open(std::unique_ptr<QFileDevice> file, const QString& dataFile, QIODevice::OpenMode mode)
 {
+    const QString path = file->fileName();
     if (IsSameFile(path, dataFile))
         return { nullptr, u"it is the data file itself"_s };
-    auto file = std::make_unique<QFile>(path);
+    if (IsJournalOf(path, dataFile))
+        return { nullptr, u"it is the name of the data file's journal"_s };
     if (!file->open(mode | QIODevice::Unbuffered))
         return { nullptr, file->errorString() };
     return { std::move(file), {} };
@@ -35,14 +43,28 @@ ListFile Open(const QString& path, const QString& dataFile, QIODevice::OpenMode 
 
 } // namespace
 
+QString ListFile::Commit() const
+{
+    auto* unfinished = qobject_cast<QSaveFile*>(file.get());
+    if (unfinished == nullptr || unfinished->commit())
+        return {};
+    return unfinished->errorString();
+}
+
 ListFile CreateListFile(const QString& path, const QString& dataFile)
 {
-    return Open(path, dataFile, QIODevice::WriteOnly | QIODevice::Truncate);
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        return Open(std::make_unique<QFile>(path), dataFile, QIODevice::WriteOnly);
+    auto file = std::make_unique<QSaveFile>(path);
+    // A file may be writable where its folder is not.
+    file->setDirectWriteFallback(true);
+    return Open(std::move(file), dataFile, QIODevice::WriteOnly);
 }
 
 ListFile OpenListFile(const QString& path, const QString& dataFile)
 {
-    return Open(path, dataFile, QIODevice::ReadOnly);
+    return Open(std::make_unique<QFile>(path), dataFile, QIODevice::ReadOnly);
 }
 
 } // namespace Quillory

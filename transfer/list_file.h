@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFile>
+#include <QFileDevice>
 #include <QString>
 
 #include <memory>
@@ -19,15 +19,20 @@ constexpr char16_t kLineEnd = u'\r';
 struct ListFile
 {
     /// Null on failure.
-    std::unique_ptr<QFile> file;
+    std::unique_ptr<QFileDevice> file;
     /// For a person to read; empty on success.
     QString failure;
+
+    /// Ends what was written; to be called once all of it was. Why it failed, empty if it did not.
+    [[nodiscard]] QString Commit() const;
 };
 
-/// Opens a text file for export: an existing one is emptied, a missing one made. The data file at
-/// `dataFile`, by whatever name, is refused and left alone.
+/// Opens a text file for export. What is written takes the place of an existing file, with its
+/// permissions, or makes a new one, when it is committed; without that, or if it fails, there is
+/// what there was. What is no plain file is written to as it is. The data file at `dataFile`, by
+/// whatever name, and its journal are refused and left alone.
 [[nodiscard]] ListFile CreateListFile(const QString& path, const QString& dataFile);
-/// Opens a text file for import, for reading only. The data file is refused as above.
+/// Opens a text file for import, for reading only. Refuses what is refused above.
 [[nodiscard]] ListFile OpenListFile(const QString& path, const QString& dataFile);
 
 } // namespace Quillory

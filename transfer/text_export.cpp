@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "transfer/text_export.h"
 
+#include "store/column_scan.h"
 #include "transfer/export_lines.h"
 
 #include <QtEndian>
@@ -81,7 +82,7 @@ ExportOutcome ExportRows(Database& rows, const InventoryList& list, const ValueC
     ExportLineBuilder builder(list, context);
     qint64 count = 0;
     const auto scanned
-        = rows.ScanInPlace(builder.Columns(), ScanOrder::Sorted, [&](const ScannedRecord& row) {
+        = ScanPastDamage(rows, builder.Columns(), nullptr, context, [&](const ScannedRecord& row) {
               builder.AppendLine(writer.Text(), row);
               writer.EndRow();
               ++count;
@@ -91,7 +92,8 @@ ExportOutcome ExportRows(Database& rows, const InventoryList& list, const ValueC
           });
     writer.Flush();
     outcome.rows = writer.WrittenRows();
-    outcome.readError = scanned.Error();
+    outcome.passedOver = scanned.passedOver;
+    outcome.readError = scanned.error;
     outcome.writeFailure = writer.Failure();
     return outcome;
 }

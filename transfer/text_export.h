@@ -15,7 +15,10 @@ struct ExportOutcome
 {
     /// Rows whose bytes were all taken.
     qint64 rows = 0;
-    /// Why rows are missing that could not be read; None if all could.
+    /// Rows that could not be read and are missing.
+    qint64 passedOver = 0;
+    /// Why rows are missing; None if none are. Where none were passed over, all behind those that
+    /// were written are missing.
     ErrorNumber readError = ErrorNumber::None;
     /// The first failed write, for a person to read; empty if there was none. The rows after it
     /// were still offered.

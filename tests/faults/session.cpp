@@ -106,7 +106,7 @@ bool Session::Backup(int number)
 bool Session::RunOnRow(const Step& step)
 {
     RowStore rows(m_volume, m_list, m_context);
-    const auto order = rows.FillRows();
+    const auto order = rows.FillRows().rows;
     if (order.empty())
         return false;
     const ObjectId row = order[step.row % order.size()];
@@ -171,7 +171,7 @@ Session::Outcome Session::Run(const Step& step)
 std::vector<Session::ListText> Session::ReadLists()
 {
     std::vector<ListText> texts;
-    for (const auto& entry : m_catalogue.FillHomeList()) {
+    for (const auto& entry : m_catalogue.FillHomeList().lists) {
         InventoryList list;
         ListText text { entry.name, {}, ErrorNumber::None };
         if (m_catalogue.OpenList(entry.oid, list)) {
