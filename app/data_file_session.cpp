@@ -7,7 +7,6 @@
 #include "store/kept_copies.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
-#include "widgets/questions.h"
 #include "widgets/wait_cursor.h"
 
 #include <utility>
@@ -72,13 +71,14 @@ void DataFileSession::NoteFailure(ErrorNumber error)
     QMetaObject::invokeMethod(
         this,
         [this] {
-            Questions::Of(&m_pages).Ask(
-                [this] { return m_failure == ErrorNumber::None ? nullptr : MakeFailureBox({}); });
+            Questions::Of(&m_pages).Ask([this] {
+                return m_failure == ErrorNumber::None ? Question() : MakeFailureBox({});
+            });
         },
         Qt::QueuedConnection);
 }
 
-QDialog* DataFileSession::MakeFailureBox(const std::function<void()>& otherwise)
+Question DataFileSession::MakeFailureBox(const std::function<void()>& otherwise)
 {
     return MakeMessageBox(m_pages.window(),
         tr("The change could not be saved. Error: %1\n\nTap Retry to open the data file again.")

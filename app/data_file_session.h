@@ -4,6 +4,7 @@
 #include "app/data_file_opener.h"
 #include "app/settings.h"
 #include "store/list_catalogue.h"
+#include "widgets/questions.h"
 
 #include <QObject>
 
@@ -72,7 +73,7 @@ private:
     [[nodiscard]] DataFileOpener::Prompts Prompts();
     void EndOpening(DataFileOpener::Outcome outcome);
     void NoteFailure(ErrorNumber error);
-    [[nodiscard]] QDialog* MakeFailureBox(const std::function<void()>& otherwise);
+    [[nodiscard]] Question MakeFailureBox(const std::function<void()>& otherwise);
     /// As Volume::VerifyInPlace() tells of the data file, if it holds changes of this run.
     [[nodiscard]] ErrorNumber PlaceError();
     /// Keeps what would go with a file that is no longer in its place, and says so.

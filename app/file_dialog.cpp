@@ -72,7 +72,7 @@ void CloseSuggestions(QFileDialog& dialog)
 }
 
 /// The dialog that ChooseFile() opens.
-QDialog* MakeFileDialog(QWidget* window, FileUse use, const FileKind& kind,
+Question MakeFileDialog(QWidget* window, FileUse use, const FileKind& kind,
     const std::function<void(const QString& path)>& then)
 {
     auto* dialog = new QFileDialog(window, QString(), FirstFolder());
@@ -85,13 +85,12 @@ QDialog* MakeFileDialog(QWidget* window, FileUse use, const FileKind& kind,
     dialog->setOption(QFileDialog::DontConfirmOverwrite, use == FileUse::MakeOrOpen);
     if (!kind.suggestion.isEmpty())
         dialog->selectFile(kind.suggestion);
-    QObject::connect(dialog, &QDialog::finished, window, [dialog, then](int result) {
-        CloseSuggestions(*dialog);
-        then(result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString());
-    });
     FitToScreen(*dialog);
     FitToFingers(*dialog);
-    return dialog;
+    return { dialog, [dialog, then](int result) {
+                CloseSuggestions(*dialog);
+                then(result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString());
+            } };
 }
 
 } // namespace

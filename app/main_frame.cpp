@@ -181,6 +181,11 @@ Front MainFrame::WhatIsInFront() const
     return HasUnsavedInput() ? Front::Input : Front::Pages;
 }
 
+void MainFrame::TellOutOfMemory()
+{
+    ShowMessage(this, LoadText(Text::OutOfMemory), MessageIcon::Stop);
+}
+
 bool MainFrame::HasUnsavedInput() const
 {
     return m_pages->Top()->HasUnsavedInput();
@@ -307,15 +312,16 @@ void MainFrame::OpenList(ObjectId oid)
     m_list = {};
     if (!m_session.Catalogue().OpenList(oid, m_list))
         return;
-    m_openList = oid;
-    m_deletions.SetOpenList(oid);
     m_rows = std::make_unique<RowStore>(m_session.Volume(), m_list, m_context);
-    if (m_settings.Options.test(kLandscapeOption))
-        m_landscape.Enter(m_settings.ListOrientation);
     const RowsViewOptions options { m_settings.Options.test(kReadOnlyOption),
         m_settings.Options.test(kAlternateColourOption) };
     auto* view = new RowsView(*m_rows, m_list, m_context, options);
     view->SetRowDeleter([this](ObjectId row) { return m_deletions.DeleteRow(*m_rows, row); });
+    // Not before all that needs much memory is there.
+    m_openList = oid;
+    m_deletions.SetOpenList(oid);
+    if (m_settings.Options.test(kLandscapeOption))
+        m_landscape.Enter(m_settings.ListOrientation);
     m_pages->Push(view, [this](PageResult) { CloseList(); });
 }
 

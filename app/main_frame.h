@@ -51,6 +51,9 @@ public:
     /// Comes to the front, and opens the list that a later start names as soon as that can be.
     StartAnswer TakeStartRequest(const StartRequest& request);
 
+    /// A command ended for want of memory.
+    void TellOutOfMemory();
+
     /// Whether ending the program now would lose what is entered.
     [[nodiscard]] bool HasUnsavedInput() const;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/start_window.h"
 
+#include "app/application.h"
 #include "app/main_frame.h"
 #include "app/output_turn.h"
 #include "app/settings.h"
@@ -11,6 +12,7 @@
 #include "widgets/icon_set.h"
 
 #include <QApplication>
+#include <QSessionManager>
 #include <QSocketNotifier>
 
 #include <sys/signalfd.h>
@@ -99,7 +101,7 @@ std::optional<ColourScheme> FixedScheme(const Settings& settings)
     return std::nullopt;
 }
 
-int RunFrame(SingleInstance& instance, const QString& listName, int endRequests)
+int RunFrame(Application& app, SingleInstance& instance, const QString& listName, int endRequests)
 {
     Settings settings;
     ReadSettings(SettingsPath(), settings);
@@ -116,6 +118,14 @@ int RunFrame(SingleInstance& instance, const QString& listName, int endRequests)
         signalfd_siginfo endRequest;
         while (read(endRequests, &endRequest, sizeof(endRequest)) > 0)
             frame.close();
+    });
+    QObject::connect(&app, &Application::MemoryRanOut, &frame, &MainFrame::TellOutOfMemory);
+    // What would be lost keeps the session from ending until its user has answered.
+    QObject::connect(&app, &QGuiApplication::commitDataRequest, &frame, [&frame](auto& session) {
+        if (frame.HasUnsavedInput() && session.allowsInteraction()) {
+            session.cancel();
+            frame.close();
+        }
     });
     frame.show();
     // After the window is on the screen.
@@ -137,7 +147,7 @@ int RunWindow(int argumentCount, char** argumentValues)
     }
     const QString token = ActivationToken();
     const QtMessageHandler ownHandler = qInstallMessageHandler(EndWithoutDisplay);
-    const QApplication app(argumentCount, argumentValues);
+    Application app(argumentCount, argumentValues);
     qInstallMessageHandler(ownHandler);
     QApplication::setStyle(new AppStyle);
     QApplication::setApplicationName(u"quillory"_s);
@@ -158,7 +168,7 @@ int RunWindow(int argumentCount, char** argumentValues)
     if (outcome != SingleInstance::Outcome::Alone)
         return ExitCodeOf(outcome, request.listName);
 
-    return RunFrame(instance, request.listName, endRequests);
+    return RunFrame(app, instance, request.listName, endRequests);
 }
 
 } // namespace Quillory

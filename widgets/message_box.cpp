@@ -118,7 +118,7 @@ void ShowMessage(QWidget* parent, const QString& text, MessageIcon icon, Message
         });
 }
 
-QDialog* MakeMessageBox(QWidget* window, const QString& text, MessageIcon icon,
+Question MakeMessageBox(QWidget* window, const QString& text, MessageIcon icon,
     MessageButtons buttons, const std::function<void(MessageAnswer)>& then)
 {
     const BoxButtons boxButtons = ButtonsOf(buttons);
@@ -130,11 +130,10 @@ QDialog* MakeMessageBox(QWidget* window, const QString& text, MessageIcon icon,
     box->setEscapeButton(boxButtons.escape);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::WindowModal);
-    QObject::connect(box, &QMessageBox::finished, box, [then](int button) {
-        if (then)
-            then(AnswerOf(button));
-    });
-    return box;
+    return { box, [then](int button) {
+                if (then)
+                    then(AnswerOf(button));
+            } };
 }
 
 } // namespace Quillory

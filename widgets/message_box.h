@@ -5,10 +5,11 @@
 
 #include <functional>
 
-class QDialog;
 class QWidget;
 
 namespace Quillory {
+
+struct Question;
 
 enum class MessageIcon
 {
@@ -41,8 +42,8 @@ enum class MessageAnswer
 void ShowMessage(QWidget* parent, const QString& text, MessageIcon icon,
     MessageButtons buttons = MessageButtons::Ok, std::function<void(MessageAnswer)> then = {});
 
-/// Such a message for whoever decides only when its turn comes; see Questions::Ask().
-[[nodiscard]] QDialog* MakeMessageBox(QWidget* window, const QString& text, MessageIcon icon,
+/// Such a message for whoever decides only when its turn comes.
+[[nodiscard]] Question MakeMessageBox(QWidget* window, const QString& text, MessageIcon icon,
     MessageButtons buttons, const std::function<void(MessageAnswer)>& then);
 
 } // namespace Quillory

@@ -43,9 +43,6 @@ void PageStack::Push(Page* page, std::function<void(PageResult)> then)
     if (Top() != nullptr)
         Top()->CommitInPlace();
     QWidget* const below = Top() == nullptr ? nullptr : Top()->focusWidget();
-    addWidget(page);
-    setCurrentWidget(page);
-    page->setFocus();
     connect(page, &Page::HelpRequested, this, &PageStack::HelpRequested);
     connect(page, &Page::Ended, this,
         [this, page, below = QPointer<QWidget>(below), then = std::move(then)](PageResult result) {
@@ -56,6 +53,9 @@ void PageStack::Push(Page* page, std::function<void(PageResult)> then)
                 then(result);
             page->deleteLater();
         });
+    addWidget(page);
+    setCurrentWidget(page);
+    page->setFocus();
 }
 
 Page* PageStack::Top() const

@@ -26,9 +26,9 @@ Questions& Questions::Of(const QWidget* widget)
     return questions == nullptr ? *new Questions(window) : *questions;
 }
 
-void Questions::Ask(DialogMaker make)
+void Questions::Ask(Asker asker)
 {
-    m_waiting.push_back(std::move(make));
+    m_waiting.push_back(std::move(asker));
     ShowNext();
 }
 
@@ -47,24 +47,33 @@ void Questions::WhenIdle(std::function<void()> then)
 void Questions::ShowNext()
 {
     while (m_shown == nullptr && m_work == 0 && !m_waiting.empty()) {
-        const DialogMaker make = std::move(m_waiting.front());
+        const Asker asker = std::move(m_waiting.front());
         m_waiting.pop_front();
-        QDialog* dialog = make();
-        if (dialog == nullptr)
+        const Question question = asker();
+        if (question.dialog == nullptr)
             continue;
-        m_shown = dialog;
-        // Whoever asked hears the answer first, and what he asks next waits for its turn.
-        connect(dialog, &QDialog::finished, this, [this, dialog] {
-            if (m_shown == dialog)
-                m_shown = nullptr;
-            ShowNext();
-        });
+        m_shown = question.dialog;
+        connect(m_shown, &QDialog::finished, this,
+            [this, question](int result) { TakeAnswer(question, result); });
         ClosePopups();
-        dialog->open();
+        m_shown->open();
     }
     // Not from inside the answer.
     if (IsIdle() && !m_whenIdle.empty())
         QMetaObject::invokeMethod(this, &Questions::TellIdle, Qt::QueuedConnection);
+}
+
+void Questions::TakeAnswer(const Question& question, int result)
+{
+    // Whoever asked hears the answer first, and what he asks next waits for its turn.
+    try {
+        question.answer(result);
+    } catch (...) {
+        m_shown = nullptr;
+        throw;
+    }
+    m_shown = nullptr;
+    ShowNext();
 }
 
 void Questions::TellIdle()

@@ -16,6 +16,14 @@ namespace Quillory {
 /// Closes every menu and pop-up of the program: what comes to the front is not covered by them.
 void ClosePopups();
 
+struct Question
+{
+    /// Over the window; deletes itself once it is closed. Null if there is nothing to ask any more.
+    QDialog* dialog = nullptr;
+    /// Called with the result of the dialog, which is still there.
+    std::function<void(int result)> answer;
+};
+
 /// What one window asks of its user: one dialog at a time, in the order in which they were asked
 /// for. The dialog that is shown has the keyboard, and the window behind it takes nothing.
 class Questions : public QObject
@@ -26,11 +34,9 @@ public:
     /// Those of the window that `widget` stands in; they live as long as it does.
     [[nodiscard]] static Questions& Of(const QWidget* widget);
 
-    /// Makes a dialog over the window, which deletes itself once it is closed; null if there is
-    /// nothing to ask any more.
-    using DialogMaker = std::function<QDialog*()>;
-    /// Opens the dialog as soon as those before it are answered.
-    void Ask(DialogMaker make);
+    using Asker = std::function<Question()>;
+    /// Opens the dialog that `asker` makes as soon as those before it are answered.
+    void Ask(Asker asker);
     /// Whether nothing is asked, nothing waits to be, and no work holds the window up.
     [[nodiscard]] bool IsIdle() const;
     /// Calls `then` once IsIdle(), at once if it is so already.
@@ -54,13 +60,14 @@ public:
     };
 
 private:
-    std::deque<DialogMaker> m_waiting;
+    std::deque<Asker> m_waiting;
     std::vector<std::function<void()>> m_whenIdle;
     QPointer<QDialog> m_shown;
     int m_work = 0;
 
     explicit Questions(QWidget* window);
     void ShowNext();
+    void TakeAnswer(const Question& question, int result);
     void TellIdle();
 };
 

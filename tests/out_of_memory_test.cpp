@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "app/application.h"
+#include "tests/main_frame_errand.h"
+#include "tests/test_program.h"
+
+#include <QFile>
+#include <QTableView>
+
+#include <sys/resource.h>
+
+#include <malloc.h>
+
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Leaves the process this much more address space than it has now.
+class LittleMemory
+{
+public:
+    explicit LittleMemory(quint64 bytes)
+    {
+        malloc_trim(0);
+        QFile status(u"/proc/self/statm"_s);
+        const quint64 pages = status.open(QIODevice::ReadOnly)
+            ? status.readAll().split(' ').value(0).toULongLong()
+            : 0;
+        getrlimit(RLIMIT_AS, &m_before);
+        constexpr quint64 kPage = 4096;
+        const rlimit limit { pages * kPage + bytes, m_before.rlim_max };
+        setrlimit(RLIMIT_AS, &limit);
+    }
+    ~LittleMemory() { setrlimit(RLIMIT_AS, &m_before); }
+    LittleMemory(const LittleMemory&) = delete;
+    LittleMemory& operator=(const LittleMemory&) = delete;
+
+private:
+    rlimit m_before {};
+};
+
+} // namespace
+
+class OutOfMemoryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aCommandThatNeedsMoreEndsAndTheRestGoesOn();
+};
+
+void OutOfMemoryTest::aCommandThatNeedsMoreEndsAndTheRestGoesOn()
+{
+    constexpr int kRows = 200'000;
+    FrameErrand errand({ u"Pantry"_s });
+    auto* app = qobject_cast<Application*>(QCoreApplication::instance());
+    connect(app, &Application::MemoryRanOut, errand.frame.get(), &MainFrame::TellOutOfMemory);
+    errand.Import(QByteArray("Tea\t3\r\n").repeated(kRows));
+    errand.PressOk();
+    errand.PressOk();
+    int told = 0;
+    for (quint64 kilobytes = 0; kilobytes < 4096; kilobytes += 128) {
+        {
+            const LittleMemory little(kilobytes * 1024);
+            errand.Tap(0);
+        }
+        QCoreApplication::processEvents();
+        while (QApplication::activeModalWidget() != nullptr) {
+            errand.Answer(QMessageBox::Ok);
+            told += errand.question == u"Out of memory!" ? 1 : 0;
+        }
+        errand.ComeBack();
+        while (errand.pages->Depth() > 1)
+            errand.PressOk();
+    }
+    QVERIFY(told > 0);
+    errand.Tap(0);
+    QCOMPARE(errand.pages->Top()->findChild<QTableView*>()->model()->rowCount(), kRows);
+    QVERIFY(errand.frame->close());
+    errand.frame.reset();
+    QCOMPARE(ListsIn(errand.DataPath()), u"Pantry %1"_s.arg(kRows));
+}
+
+QUILLORY_TEST(Quillory::Application, OutOfMemoryTest)
+#include "out_of_memory_test.moc"
