@@ -5,8 +5,8 @@
 
 namespace Quillory {
 
-/// The application object of the window. Where memory runs out, the command ends that needed it, not
-/// the program.
+/// The application object of the window. Where memory runs out, the command ends that needed it,
+/// not the program.
 class Application : public QApplication
 {
     Q_OBJECT

@@ -134,10 +134,11 @@ public:
     void ChooseFileFor(Command command, const QString& path) const
     {
         Choose(command);
-        auto* dialog = frame->findChild<QFileDialog*>();
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         QVERIFY(dialog != nullptr);
         dialog->selectFile(path);
-        static_cast<QDialog*>(dialog)->accept();
+        // A file that is read is looked for in what the dialog has gathered of its folder by then.
+        static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
     }
     /// As a window manager does once a question is answered or a menu gone.
     void ComeBack() const
