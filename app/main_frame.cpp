@@ -247,8 +247,8 @@ bool MainFrame::EndDataFile()
 {
     const WaitCursor wait;
     m_deletion.Forget();
-    const KeepOutcome outcome
-        = KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
+    const KeepOutcome outcome = KeepCopy(m_volume, m_settings.DbPath, m_places.copies,
+        QDateTime::currentDateTimeUtc(), m_settings.keptCopies);
     if (PlaceError() == ErrorNumber::None)
         return true;
     TellStop(outcome == KeepOutcome::Kept
@@ -312,8 +312,8 @@ ErrorNumber MainFrame::PlaceError()
 
 void MainFrame::KeepReplacedFile()
 {
-    const KeepOutcome outcome
-        = KeepCopy(m_volume, m_settings.DbPath, m_places.copies, QDateTime::currentDateTimeUtc());
+    const KeepOutcome outcome = KeepCopy(m_volume, m_settings.DbPath, m_places.copies,
+        QDateTime::currentDateTimeUtc(), m_settings.keptCopies);
     TellStop(outcome == KeepOutcome::Kept
             ? tr("Another file was put in the place of the data file. The old one is kept as a "
                  "copy; \"quillory restore\" lists the copies.")
