@@ -19,8 +19,7 @@ TextEncoding ReadEncoding(const QString& name, const ValueContext& context)
         return encoding;
     const QString word = name.toLower();
     if (word == u"utf-8" || word == u"utf-16") {
-        encoding.unicode
-            = word == u"utf-8" ? QStringConverter::Utf8 : QStringConverter::Utf16LE;
+        encoding.unicode = word == u"utf-8" ? QStringConverter::Utf8 : QStringConverter::Utf16LE;
         return encoding;
     }
     bool isNumber = false;

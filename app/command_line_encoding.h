@@ -20,8 +20,8 @@ struct TextEncoding
     ValueContext context;
 };
 
-/// Reads the name of an encoding: utf-8, utf-16 (low byte first unless a mark says otherwise), a code page's number, or empty for none. Ends the
-/// command if it is no such name.
+/// Reads the name of an encoding: utf-8, utf-16 (low byte first unless a mark says otherwise), a
+/// code page's number, or empty for none. Ends the command if it is no such name.
 [[nodiscard]] TextEncoding ReadEncoding(const QString& name, const ValueContext& context);
 
 /// A Unicode text as UTF-16 behind a byte-order mark, low byte first, as text files of lists are.

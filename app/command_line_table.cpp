@@ -67,7 +67,8 @@ constexpr const char* kImportHelp
       "  --columns \"A,B\"      the columns that the fields of a line fill; those not named "
       "follow\n"
       "                       in the list's order, which is also what holds without this option\n"
-      "  --encoding NAME      what the file is in: utf-8, utf-16, or the number of a code page such\n"
+      "  --encoding NAME      what the file is in: utf-8, utf-16, or the number of a code page "
+      "such\n"
       "                       as 1252\n"
       "  --dry-run            stores nothing, prints how many rows would come in\n";
 
@@ -92,7 +93,8 @@ constexpr const char* kBackupHelp
     = "Writes a consistent copy of the data file, also while it is in use. FILE must not exist.\n";
 
 constexpr const char* kRestoreHelp
-    = "After each run that changed lists or rows of the configured data file a copy of it is kept,\n"
+    = "After each run that changed lists or rows of the configured data file a copy of it is "
+      "kept,\n"
       "the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90\n"
       "days after the file is found to be gone.\n"
       "\n"
@@ -142,7 +144,8 @@ size_t Distance(QStringView a, QLatin1StringView b)
         for (qsizetype j = 0; j < b.size(); ++j) {
             const auto k = static_cast<size_t>(j) + 1;
             const bool isSame = a[i] == b[j];
-            current[k] = std::min({ last[k] + 1, current[k - 1] + 1, last[k - 1] + (isSame ? 0 : 1) });
+            current[k]
+                = std::min({ last[k] + 1, current[k - 1] + 1, last[k - 1] + (isSame ? 0 : 1) });
             if (i > 0 && j > 0 && a[i] == b[j - 1] && a[i - 1] == b[j])
                 current[k] = std::min(current[k], beforeLast[k - 2] + 1);
         }
@@ -164,7 +167,8 @@ QByteArray FormsText(const CommandEnvironment& environment)
         = u"  --data FILE          works on another data file than the configured one (%1)\n"
           "\n"
           "Here dates are written %2 and numbers %3, but in text files with a point and no\n"
-          "groups. Text files are written in UTF-16 behind a byte-order mark, and read in code page\n"
+          "groups. Text files are written in UTF-16 behind a byte-order mark, and read in code "
+          "page\n"
           "%4 where there is none.\n"_s.arg(file, environment.context.systemLocale.shortDatePicture,
               FormatNumber(u"1234.5", locale).value_or(QString()),
               QString::number(locale.codePage));

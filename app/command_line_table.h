@@ -43,7 +43,6 @@ void RunRestore(const CommandRun& run);
 /// One or two lines; of the program if `command` is null.
 [[nodiscard]] QByteArray UsageText(const SubCommand* command);
 [[nodiscard]] QByteArray HelpText(const CommandEnvironment& environment);
-[[nodiscard]] QByteArray HelpText(
-    const SubCommand& command, const CommandEnvironment& environment);
+[[nodiscard]] QByteArray HelpText(const SubCommand& command, const CommandEnvironment& environment);
 
 } // namespace Quillory
