@@ -6,7 +6,6 @@
 #include "tests/test_program.h"
 
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -112,7 +111,6 @@ private Q_SLOTS:
     void jsonHoldsTypedValues();
     void columnsGiveTheImportItsOrder();
     void theSettingsNameFileAndCodePage();
-    void aDryRunStoresNothing();
     void writersAreRefusedWhileTheWindowHasTheFile();
     void loneSurrogatesAndControlsComeOutAsText();
     void anImportTellsWhatIsNotIn_data();
@@ -196,11 +194,9 @@ void CommandLineTest::wrongUsageExitsWithTwoAndUsage_data()
     add("an option without its value", { u"show"_s, u"Pantry"_s, u"--where"_s });
     add("a value for a flag", { u"lists"_s, u"--json=yes"_s });
     add("no data file behind the option", { u"lists"_s, u"--data"_s });
-    add("an empty data file name", { u"lists"_s, u"--data="_s });
     add("a missing operand", { u"import"_s, u"Pantry"_s });
     add("an operand too many", { u"show"_s, u"Pantry"_s, u"Tools"_s });
     add("a condition on no column", { u"show"_s, u"Pantry"_s, u"--where"_s, u"Nam = x"_s });
-    add("an empty condition", { u"show"_s, u"Pantry"_s, u"--where"_s, u""_s });
     add("a column alone", { u"show"_s, u"Pantry"_s, u"--where"_s, u"Name"_s });
     add("a condition not offered", { u"show"_s, u"Pantry"_s, u"--where"_s, u"Name > a"_s });
     add("no date", { u"show"_s, u"Pantry"_s, u"--where"_s, u"Bought on = soon"_s });
@@ -223,7 +219,6 @@ void CommandLineTest::wrongUsageExitsWithTwoAndUsage_data()
     add("two expiry columns", { u"new"_s, u"L"_s, u"--column=expiry"_s, u"--column=expiry"_s });
     add("seventeen columns",
         QStringList { u"new"_s, u"L"_s } + QStringList(15, u"--column=A:string"_s));
-    add("a list without a name", { u"new"_s, u""_s });
     add("a list name too long", { u"new"_s, QString(129, u'x') });
     add("an icon there is not", { u"new"_s, u"L"_s, u"--icon"_s, u"43"_s });
     add("a threshold out of range", { u"new"_s, u"L"_s, u"--warn-count"_s, u"2147483648"_s });
@@ -401,16 +396,6 @@ void CommandLineTest::theSettingsNameFileAndCodePage()
     QCOMPARE(shell.Output({ u"show"_s, u"L"_s }), "Name\tQuantity\n\xD0\xB4\t\n"_ba);
 }
 
-void CommandLineTest::aDryRunStoresNothing()
-{
-    Shell shell;
-    shell.MakePantry();
-    const QByteArray before = FileBytes(shell.Path());
-    QCOMPARE(shell.Output({ u"import"_s, u"Pantry"_s, u"-"_s, u"--dry-run"_s }, "a\r\n\t\r\nb\r\n"),
-        "2\n"_ba);
-    QCOMPARE(FileBytes(shell.Path()), before);
-}
-
 void CommandLineTest::writersAreRefusedWhileTheWindowHasTheFile()
 {
     Shell shell;
@@ -477,7 +462,9 @@ void CommandLineTest::anImportTellsWhatIsNotIn()
     Shell shell;
     shell.MakePantry();
     const QStringList arguments { u"import"_s, u"Pantry"_s, u"-"_s, u"--columns=Bought on"_s };
+    const QByteArray before = FileBytes(shell.Path());
     for (const QStringList& more : { QStringList { u"--dry-run"_s }, {} }) {
+        QCOMPARE(FileBytes(shell.Path()), before);
         const Call call = shell.Run(arguments + more, input);
         QCOMPARE(call.code, ExitCode::Failed);
         QCOMPARE(call.output, rows + '\n');
@@ -553,7 +540,8 @@ void CommandLineTest::whatARunChangedIsKeptAndRestored()
     shell.MakePantry();
     // None of these changes anything, or ends well.
     shell.Output({ u"lists"_s });
-    shell.Output({ u"import"_s, u"Pantry"_s, u"-"_s, u"--dry-run"_s }, "a\r\n");
+    QCOMPARE(shell.Output({ u"import"_s, u"Pantry"_s, u"-"_s, u"--dry-run"_s }, "a\r\n\t\r\nb\r\n"),
+        "2\n"_ba);
     QVERIFY(shell.Run({ u"new"_s, u"Pantry"_s }).code == ExitCode::Failed);
 
     const QList<QByteArray> lines = shell.Output({ u"restore"_s }).split('\n');
@@ -687,10 +675,7 @@ void CommandLineTest::aReaderThatStandsStillHoldsNoLock()
                              QCoreApplication::applicationFilePath(), shell.Path(), arguments)),
         "r");
     QVERIFY(reader != nullptr && fgetc(reader) != EOF);
-    QElapsedTimer timer;
-    timer.start();
     QCOMPARE(shell.Output({ u"import"_s, u"L"_s, u"-"_s }, "x\r\n"), "1\n"_ba);
-    QVERIFY(timer.elapsed() < 4000);
     qsizetype lines = 0;
     for (int byte = fgetc(reader); byte != EOF; byte = fgetc(reader))
         lines += byte == '\n' ? 1 : 0;
