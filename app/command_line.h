@@ -6,6 +6,8 @@
 #include <QIODevice>
 #include <QStringList>
 
+#include <functional>
+
 namespace Quillory {
 
 /// Exit codes of the command line; scripts rely on them.
@@ -27,10 +29,15 @@ struct CommandEnvironment
     QString dataFile;
     /// Where copies of data files are kept; empty if none are.
     QString copiesFolder;
+    int keptCopies = 3;
 };
 
-/// Whether the program's arguments (without its own name) are a command, not a call of the window.
-[[nodiscard]] bool IsCommandLine(const QStringList& arguments);
+/// Whether the configured data file has a list of this name.
+[[nodiscard]] bool IsListOfConfiguredFile(const QString& name);
+/// Whether the program's arguments (without its own name) are a command, right or wrong, not a call
+/// of the window. A word near a command's name is one unless it is a list's.
+[[nodiscard]] bool IsCommandLine(const QStringList& arguments,
+    const std::function<bool(const QString& name)>& isList = IsListOfConfiguredFile);
 
 /// Runs a command with the process's own streams, locale and settings; the process's exit code.
 /// Ignores SIGPIPE and SIGXFSZ from here on. Needs no display and no application object.

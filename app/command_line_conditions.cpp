@@ -2,6 +2,7 @@
 #include "app/command_line_conditions.h"
 
 #include "app/command_line_run.h"
+#include "platform/number_text.h"
 #include "res/string_table.h"
 #include "values/column_type.h"
 
@@ -81,6 +82,22 @@ QString OfferedConditions(PropertyId column)
     return offered.join(u", "_s);
 }
 
+/// A number as it is shown becomes one as a filter reads it.
+QString NumberValue(PropertyId column, const QString& value, const ValueContext& context)
+{
+    const LocaleProfile& locale = context.userLocale;
+    const auto plain = PlainNumber(value, locale);
+    bool isWhole = false;
+    if (plain)
+        plain->toInt(&isWhole);
+    if (ColumnTypeOf(column) == ColumnType::Integer && !isWhole)
+        FailUsage(u"“%1” is no whole number that the column can hold"_s.arg(value));
+    if (!plain)
+        FailUsage(u"“%1” is no number; here they are written as %2"_s.arg(
+            value, FormatNumber(u"-1234.5", locale).value_or(QString())));
+    return *plain;
+}
+
 /// The value as a filter holds it.
 QString FilterValue(PropertyId column, const QString& value, const ValueContext& context)
 {
@@ -96,9 +113,10 @@ QString FilterValue(PropertyId column, const QString& value, const ValueContext&
         if (!ParseDateText(value, context))
             FailUsage(u"“%1” is no date"_s.arg(value));
         return value;
-    case ColumnType::String:
     case ColumnType::Price:
     case ColumnType::Integer:
+        return NumberValue(column, value, context);
+    case ColumnType::String:
         return value;
     }
     return value;

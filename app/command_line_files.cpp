@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/command_line_conditions.h"
+#include "app/command_line_encoding.h"
 #include "app/command_line_run.h"
 #include "res/string_table.h"
 #include "transfer/list_file.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
+
+#include <optional>
 
 namespace Quillory {
 
@@ -30,14 +33,17 @@ bool IsStream(const QString& path)
 
 /// Runs an import from a file or the standard input.
 template <typename Import>
-ImportOutcome ImportFrom(const CommandRun& run, const QString& path, const Import& import)
+ImportOutcome ImportFrom(const CommandRun& run, const QString& path,
+    const std::optional<QStringConverter::Encoding>& unicode, const Import& import)
 {
-    if (IsStream(path))
-        return import(run.environment.input);
-    const ListFile source = OpenListFile(path, run.DataFile());
-    if (source.file == nullptr)
-        Fail(u"cannot open %1: %2"_s.arg(path, source.failure));
-    return import(*source.file);
+    const ListFile file = IsStream(path) ? ListFile() : OpenListFile(path, run.DataFile());
+    if (!file.failure.isEmpty())
+        Fail(u"cannot open %1: %2"_s.arg(path, file.failure));
+    QIODevice& source = file.file == nullptr ? run.environment.input : *file.file;
+    if (!unicode)
+        return import(source);
+    RecodedText text(source, *unicode);
+    return import(text);
 }
 
 void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
@@ -48,10 +54,11 @@ void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
     if (outcome.result == ImportResult::Failed)
         Fail(LoadString(StringId::ImportErrors));
     if (outcome.lines == 0)
-        Complain(run.environment.errors,
-            u"there is no line to import that ends with a carriage return and a line feed"_s);
-    else if (outcome.rows == 0)
-        Complain(run.environment.errors, u"no line gives a value"_s);
+        Fail(u"there is no line to import that ends with a carriage return and a line feed"_s);
+    if (outcome.isLastLineOpen)
+        Fail(u"the last line is not in: it does not end with a carriage return and a line feed"_s);
+    if (outcome.rows == 0)
+        Fail(u"no line gives a value"_s);
 }
 
 std::vector<PropertyId> ColumnOrder(const CommandRun& run, const InventoryList& list)
@@ -81,21 +88,23 @@ void RunExport(const CommandRun& run)
 
 void RunImport(const CommandRun& run)
 {
-    const ValueContext& context = run.environment.context;
+    const auto [unicode, context]
+        = ReadEncoding(run.parser.value(u"encoding"_s), run.environment.context);
     const bool isDryRun = run.parser.isSet(u"dry-run"_s);
     const auto data = isDryRun ? run.OpenForReading() : run.OpenForWriting();
     const ObjectId oid = data->OpenList(run.operands[0]);
     const auto columns = ColumnOrder(run, data->list);
-    const ImportOutcome outcome
-        = ImportFrom(run, run.operands[1], [&](QIODevice& source) -> ImportOutcome {
-              if (isDryRun)
-                  return CountImportRows(columns, context, source);
-              return ImportRows(data->volume, columns, context, source);
-          });
-    if (!isDryRun && outcome.writeError == ErrorNumber::None)
+    const ImportOutcome outcome = ImportFrom(
+        run, run.operands[1], unicode, [&, &rules = context](QIODevice& source) -> ImportOutcome {
+            if (isDryRun)
+                return CountImportRows(columns, rules, source);
+            return ImportRows(data->volume, columns, rules, source);
+        });
+    if (!isDryRun && outcome.writeError == ErrorNumber::None) {
         data->StoreColumnOrder(oid);
+        run.KeepCopyOf(*data);
+    }
     ReportImport(run, outcome);
-    run.KeepCopyOf(*data);
 }
 
 void RunCheck(const CommandRun& run)
@@ -116,6 +125,7 @@ void RunBackup(const CommandRun& run)
     const QString path = run.operands.front();
     if (IsStream(path))
         FailUsage(u"a backup is a file, not a stream"_s);
+    run.RefuseJournal(path);
     const auto data = run.OpenForReading();
     const auto done = data->volume.MountedVolume()->Backup(path);
     if (!done)

@@ -89,8 +89,7 @@ void ListChoices(const CommandRun& run)
 void RestoreFrom(const CommandRun& run, const QString& target)
 {
     const QString path = run.DataFile();
-    const auto number = static_cast<size_t>(
-        ReadInteger(run.parser, u"from"_s, 1, static_cast<qint32>(kKeptCopies)));
+    const auto number = static_cast<size_t>(ReadInteger(run.parser, u"from"_s, 1, kMostKeptCopies));
     const auto copies = ListKeptCopies(path, run.environment.copiesFolder);
     if (number > copies.size())
         Fail(u"there is no copy %1 of %2"_s.arg(QString::number(number), path));
@@ -127,10 +126,11 @@ void RunRestore(const CommandRun& run)
         return ListChoices(run);
     }
     const QString target = run.operands.value(0);
-    if (target.isEmpty())
+    if (run.operands.isEmpty())
         FailUsage(u"an argument is missing"_s);
     if (target == u"-")
         FailUsage(u"a data file is a file, not a stream"_s);
+    run.RefuseJournal(target);
     if (isFrom)
         RestoreFrom(run, target);
     else

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/command_line_run.h"
 
+#include "propdb/volume_file.h"
 #include "store/kept_copies.h"
 
 #include <utility>
@@ -157,9 +158,20 @@ void CommandRun::VisitLists(
         Fail(u"not every list could be read"_s);
 }
 
+void CommandRun::RefuseJournal(const QString& path) const
+{
+    if (IsJournalOf(path, DataFile()))
+        Fail(u"cannot make %1: it is the name of the data file's journal"_s.arg(path));
+}
+
 void CommandRun::KeepCopyOf(CommandData& data) const
 {
-    KeepCopy(data.volume, data.Path(), environment.copiesFolder, QDateTime::currentDateTimeUtc());
+    // Other files are tried out, sent and mended; what they hold is not this program's to keep.
+    const auto configured = ResolveVolumePath(environment.dataFile);
+    const auto changed = ResolveVolumePath(data.Path());
+    if (configured && changed && *configured == *changed)
+        KeepCopy(data.volume, data.Path(), environment.copiesFolder,
+            QDateTime::currentDateTimeUtc(), environment.keptCopies);
 }
 
 bool CommandRun::IsJson() const

@@ -87,35 +87,11 @@ struct CommandRun
     /// standard error and the next one follows; after `end` the command fails.
     void VisitLists(
         CommandData& data, const ListVisitor& visit, const std::function<void()>& end) const;
+    /// Ends the command if a file to be made would be taken for the data file's journal.
+    void RefuseJournal(const QString& path) const;
     /// Keeps a copy of a data file that the command has changed; to be called at its good end.
     void KeepCopyOf(CommandData& data) const;
     [[nodiscard]] bool IsJson() const;
 };
-
-/// A sub-command as the table of them holds it.
-struct SubCommand
-{
-    const char* name;
-    /// Operands and options, as in a line of usage.
-    const char* usage;
-    /// What it does, for its help; lines end in a line feed.
-    const char* help;
-    qsizetype minOperands;
-    qsizetype maxOperands;
-    std::span<const char* const> flags;
-    std::span<const char* const> valueOptions;
-    void (*run)(const CommandRun&);
-};
-
-void RunLists(const CommandRun& run);
-void RunNew(const CommandRun& run);
-void RunShow(const CommandRun& run);
-void RunExport(const CommandRun& run);
-void RunImport(const CommandRun& run);
-void RunSummary(const CommandRun& run);
-void RunDue(const CommandRun& run);
-void RunCheck(const CommandRun& run);
-void RunBackup(const CommandRun& run);
-void RunRestore(const CommandRun& run);
 
 } // namespace Quillory

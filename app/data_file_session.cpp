@@ -101,8 +101,8 @@ ErrorNumber DataFileSession::PlaceError()
 
 QString DataFileSession::KeepLostFile(ErrorNumber placeError)
 {
-    const bool isKept
-        = KeepCopy(m_volume, m_settings.DbPath, m_copiesFolder, QDateTime::currentDateTimeUtc())
+    const bool isKept = KeepCopy(m_volume, m_settings.DbPath, m_copiesFolder,
+                            QDateTime::currentDateTimeUtc(), m_settings.keptCopies)
         == KeepOutcome::Kept;
     if (placeError == ErrorNumber::SharingViolation) {
         return isKept
@@ -143,7 +143,8 @@ void DataFileSession::End(const std::function<void()>& then)
             [then](MessageAnswer) { then(); });
     }
     const auto finish = [this, then] {
-        KeepCopy(m_volume, m_settings.DbPath, m_copiesFolder, QDateTime::currentDateTimeUtc());
+        KeepCopy(m_volume, m_settings.DbPath, m_copiesFolder, QDateTime::currentDateTimeUtc(),
+            m_settings.keptCopies);
         then();
     };
     if (m_failure == ErrorNumber::None)

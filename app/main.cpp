@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 
 namespace {
@@ -27,8 +28,14 @@ int main(int argumentCount, char** argumentValues)
 {
     HoldStandardStreams();
     QStringList arguments;
-    for (int i = 1; i < argumentCount; ++i)
-        arguments << QString::fromLocal8Bit(argumentValues[i]);
+    for (int i = 1; i < argumentCount; ++i) {
+        // Decoded all the same, such a name would be another file's or list's.
+        if (!QUtf8StringView(argumentValues[i]).isValidUtf8()) {
+            std::fputs("quillory: an argument is not UTF-8\n", stderr);
+            return static_cast<int>(Quillory::ExitCode::WrongUsage);
+        }
+        arguments << QString::fromUtf8(argumentValues[i]);
+    }
     if (Quillory::IsCommandLine(arguments))
         return Quillory::RunCommandLine(arguments);
     return Quillory::RunWindow(argumentCount, argumentValues);

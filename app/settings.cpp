@@ -24,6 +24,7 @@ constexpr auto kOptionsKey = "Options"_L1;
 constexpr auto kOrientationKey = "ListOrientation"_L1;
 constexpr auto kGeometryKey = "WindowGeometry"_L1;
 constexpr auto kCodePageKey = "CodePage"_L1;
+constexpr auto kKeptCopiesKey = "KeptCopies"_L1;
 constexpr auto kColourSchemeKey = "ColourScheme"_L1;
 
 quint32 ReadNumber(const QSettings& file, QLatin1StringView key, quint32 fallback)
@@ -38,6 +39,14 @@ QString ReadPath(const QSettings& file)
     const QString path = file.value(kPathKey).toString();
     const bool isPath = path.size() <= kMaxDataFilePathLength && !path.contains(QChar(u'\0'));
     return isPath ? path : QString();
+}
+
+int ReadKeptCopies(const QSettings& file)
+{
+    constexpr quint32 kMost = 9;
+    const int usual = Settings().keptCopies;
+    const quint32 count = ReadNumber(file, kKeptCopiesKey, static_cast<quint32>(usual));
+    return count <= kMost ? static_cast<int>(count) : usual;
 }
 
 std::optional<int> ReadCodePage(const QSettings& file)
@@ -73,6 +82,7 @@ void ReadSettings(const QString& path, Settings& settings)
     settings.ListOrientation = ReadNumber(file, kOrientationKey, kLandscapeRightHanded);
     settings.windowGeometry = file.value(kGeometryKey).toByteArray();
     settings.codePage = ReadCodePage(file);
+    settings.keptCopies = ReadKeptCopies(file);
     settings.colourScheme = file.value(kColourSchemeKey).toString().toLower();
 }
 

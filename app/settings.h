@@ -37,6 +37,8 @@ struct Settings
     std::optional<int> codePage;
     /// "light" or "dark" overrides the desktop's colours; set by hand in the file.
     QString colourScheme;
+    /// How many copies of the data file are kept, 0 to 9; set by hand in the file.
+    int keptCopies = 3;
 };
 
 /// quillory/quillory.conf in the user's folder of settings.
@@ -46,8 +48,8 @@ struct Settings
 /// default; where there is no file at all, `settings.Options` stays as it is.
 void ReadSettings(const QString& path, Settings& settings);
 
-/// Writes everything but code page and colour scheme, which are the user's own lines. A file that
-/// cannot be written stays as it is.
+/// Writes everything but code page, kept copies and colour scheme, which are the user's own lines.
+/// A file that cannot be written stays as it is.
 void WriteSettings(const QString& path, const Settings& settings);
 
 } // namespace Quillory

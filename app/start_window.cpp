@@ -32,7 +32,6 @@ namespace {
 
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
-constexpr int kWrongUsage = 2;
 
 constexpr char kNoDisplay[]
     = "quillory: there is no display to open a window on; \"quillory --help\" "
@@ -158,10 +157,6 @@ int RunWindow(int argumentCount, char** argumentValues)
 
     QStringList operands = QApplication::arguments().mid(1);
     operands.removeOne(u"--"_s);
-    if (operands.size() > 1) {
-        std::fputs("quillory: one list can be named at most\n", stderr);
-        return kWrongUsage;
-    }
     const StartRequest request { operands.value(0), token };
     SingleInstance instance(SingleInstance::Folder());
     const SingleInstance::Outcome outcome = instance.Start(request);

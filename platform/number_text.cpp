@@ -211,4 +211,32 @@ std::optional<QString> FormatNumber(
     return text.size() <= maxLength ? std::optional(text) : std::nullopt;
 }
 
+std::optional<QString> PlainNumber(QStringView text, const LocaleProfile& locale)
+{
+    constexpr int kMinusInFront = 1;
+    QString number = text.toString();
+    QString minus;
+    for (const int form : { locale.negativeForm, kMinusInFront }) {
+        const QStringList around = WithSign(u"0"_s, form).split(u'0');
+        const bool isNegative = number.size() > around[0].size() + around[1].size()
+            && number.startsWith(around[0]) && number.endsWith(around[1]);
+        if (isNegative && minus.isEmpty()) {
+            number = number.mid(around[0].size()).chopped(around[1].size());
+            minus = u"-"_s;
+        }
+    }
+    // No keyboard has the blanks that some locales write.
+    if (locale.groupSeparator.isSpace())
+        number.replace(u' ', locale.groupSeparator);
+    const qsizetype mark = number.indexOf(locale.decimalSeparator);
+    const QString written = number.left(mark < 0 ? number.size() : mark);
+    const QString decimals = mark < 0 ? QString() : number.mid(mark + 1);
+    QString whole = written;
+    whole.remove(locale.groupSeparator);
+    const bool isWritten = written == whole || written == Grouped(whole, locale);
+    if (!isWritten || whole.isEmpty() || !IsAllDigits(whole) || !IsAllDigits(decimals))
+        return std::nullopt;
+    return minus + whole + (decimals.isEmpty() ? QString() : u'.' + decimals);
+}
+
 } // namespace Quillory

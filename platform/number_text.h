@@ -25,4 +25,8 @@ void AppendTwoDecimals(std::u16string& line, double value);
 [[nodiscard]] std::optional<QString> FormatNumber(
     QStringView plain, const LocaleProfile& locale, qsizetype maxLength = kMaxNumberTextLength);
 
+/// The plain number of a text in the locale's form: digits, alone or in groups, any number of
+/// decimals, a minus in front or where the locale has it. Nothing if it is no such text.
+[[nodiscard]] std::optional<QString> PlainNumber(QStringView text, const LocaleProfile& locale);
+
 } // namespace Quillory

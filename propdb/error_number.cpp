@@ -83,6 +83,7 @@ constexpr std::array kPhrases {
     Phrase { ErrorNumber::FileTooLarge, "file too large" },
     Phrase { ErrorNumber::NoUnicodeTranslation, "text that cannot be converted" },
     Phrase { ErrorNumber::IoDevice, "input or output error" },
+    Phrase { ErrorNumber::TooManyLinks, "the file has a second name, by a hard link" },
     Phrase { ErrorNumber::NotFound, "not found" },
     Phrase { ErrorNumber::Cancelled, "cancelled" },
     Phrase { ErrorNumber::FileCorrupt, "the file is damaged" },

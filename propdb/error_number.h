@@ -39,6 +39,7 @@ enum class ErrorNumber : quint32
     FileTooLarge = 223,
     NoUnicodeTranslation = 1113,
     IoDevice = 1117,
+    TooManyLinks = 1142,
     NotFound = 1168,
     Cancelled = 1223,
     FileCorrupt = 1392,

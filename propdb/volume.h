@@ -36,8 +36,8 @@ class Volume
 {
 public:
     /// Opens the file at `path`. Failures: InvalidName (no path, or one that ends in a slash),
-    /// FileNotFound, PathNotFound, AccessDenied (also for a folder and for a file with a second
-    /// hard link), WriteProtected, SharingViolation (another process has it, or this one has it
+    /// FileNotFound, PathNotFound, AccessDenied (also for a folder), TooManyLinks (its file has
+    /// a second name), WriteProtected, SharingViolation (another process has it, or this one has it
     /// already), BadFormat (not a volume), NotSupported (made by a newer program), FileCorrupt, and
     /// those of the operating system.
     [[nodiscard]] static Result<std::unique_ptr<Volume>> Mount(

@@ -177,8 +177,10 @@ Result<void> VolumeFile::OpenDescriptor(VolumeAccess access)
     OpenFiles().insert({ m_device, m_inode });
     if (!S_ISREG(status.st_mode))
         return ErrorNumber::BadFormat;
-    if (status.st_nlink != 1)
-        return ErrorNumber::AccessDenied;
+    if (status.st_nlink > 1)
+        return ErrorNumber::TooManyLinks;
+    if (status.st_nlink == 0)
+        return ErrorNumber::FileNotFound;
     return status.st_size > kMaxFileSize ? ErrorNumber::FileTooLarge : ErrorNumber::None;
 }
 

@@ -47,6 +47,7 @@ template <typename T> bool DataVolume::Note(const Result<T>& result)
 template <typename T> bool DataVolume::NoteWrite(const Result<T>& result)
 {
     const bool isDone = Note(result);
+    m_hasChangedContent = m_hasChangedContent || isDone;
     if (!isDone && m_writeFailureListener && LiesWithMedium(result.Error()))
         m_writeFailureListener(result.Error());
     return isDone;
@@ -83,6 +84,7 @@ bool DataVolume::Unmount()
     Close(ListCatalogue::kCatalogueType);
     m_open.clear();
     m_hasSession = false;
+    m_hasChangedContent = false;
     m_volume.reset();
     return true;
 }
@@ -238,6 +240,14 @@ ObjectId DataVolume::Write(DatabaseType type, ObjectId oid, std::span<const Prop
         return kNoObject;
     const auto written = database->Write(oid, values);
     return NoteWrite(written) ? *written : kNoObject;
+}
+
+bool DataVolume::WriteLayout(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values)
+{
+    const bool hadChanged = m_hasChangedContent;
+    const bool isWritten = Write(type, oid, values) == oid;
+    m_hasChangedContent = hadChanged;
+    return isWritten;
 }
 
 bool DataVolume::DeleteRecord(DatabaseType type, ObjectId oid)

@@ -79,6 +79,10 @@ public:
     /// Adds a record (kNoObject) or replaces the listed properties of one. Its identifier, or
     /// kNoObject on failure.
     ObjectId Write(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values);
+    /// As Write(), for what says only how a list is laid out on the screen.
+    bool WriteLayout(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values);
+    /// Whether anything but layout was written since the volume was mounted.
+    [[nodiscard]] bool HasChangedContent() const { return m_hasChangedContent; }
     bool DeleteRecord(DatabaseType type, ObjectId oid);
     /// Empty if there is no such database, or on failure.
     [[nodiscard]] QString DatabaseName(ObjectId oid);
@@ -114,6 +118,7 @@ private:
     std::unique_ptr<Volume> m_volume;
     std::map<DatabaseType, OpenEntry> m_open;
     bool m_hasSession = false;
+    bool m_hasChangedContent = false;
     ErrorNumber m_lastError = ErrorNumber::None;
     WriteFailureListener m_writeFailureListener;
 

@@ -23,6 +23,7 @@ namespace {
 
 constexpr auto kSuffix = ".idb"_L1;
 constexpr auto kOriginName = "copy-of.txt"_L1;
+constexpr auto kGoneName = "gone-since.txt"_L1;
 constexpr QFileDevice::Permissions kOwnerOnly
     = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 /// A copy's name is its time; the order of the names is that of the times.
@@ -66,12 +67,24 @@ bool MakeFolder(const QString& folder)
     return QDir().mkpath(folder) && QFile::setPermissions(folder, kOwnerOnly);
 }
 
+bool WriteLine(const QString& path, const QString& line)
+{
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(line.toUtf8() + '\n') > 0 && file.commit();
+}
+
+/// Without its end; empty if there is none.
+QString ReadLine(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readLine()).chopped(1)
+                                          : QString();
+}
+
 /// Says in words whose copies these are, for whoever looks into the folder.
 bool WriteOrigin(const QDir& set, const QString& path)
 {
-    QSaveFile file(set.filePath(kOriginName));
-    return file.open(QIODevice::WriteOnly)
-        && file.write(QFileInfo(path).absoluteFilePath().toUtf8() + '\n') > 0 && file.commit();
+    return WriteLine(set.filePath(kOriginName), QFileInfo(path).absoluteFilePath());
 }
 
 /// The bytes that this user may still fill where the folder lies; none if the system does not tell.
@@ -107,13 +120,42 @@ std::vector<KeptCopy> CopiesIn(const QDir& set)
 }
 
 /// Removes copies beyond the number that is kept, and what an interrupted run left unfinished.
-void Prune(QDir& set)
+void Prune(QDir& set, int count)
 {
     const auto copies = CopiesIn(set);
-    for (size_t i = kKeptCopies; i < copies.size(); ++i)
+    for (auto i = static_cast<size_t>(count); i < copies.size(); ++i)
         QFile::remove(copies[i].path);
     for (const QString& name : set.entryList({ u'*' + kSuffix + u".new-*"_s }, QDir::Files))
         set.remove(name);
+}
+
+/// Drops the copies of files that have been gone for long. A medium may be out for a while.
+void DropMissing(const QString& folder, const QDateTime& now)
+{
+    const QDate today = now.toUTC().date();
+    for (const QFileInfo& info : QDir(folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QDir set(info.filePath());
+        const QString origin = ReadLine(set.filePath(kOriginName));
+        if (origin.isEmpty() || QFileInfo::exists(origin)) {
+            set.remove(kGoneName);
+            continue;
+        }
+        const QDate since = QDate::fromString(ReadLine(set.filePath(kGoneName)), Qt::ISODate);
+        if (!since.isValid()) {
+            static_cast<void>(WriteLine(set.filePath(kGoneName), today.toString(Qt::ISODate)));
+        } else if (since.daysTo(today) >= kDaysKeptOfMissing) {
+            Prune(set, 0);
+            set.remove(kOriginName);
+            set.remove(kGoneName);
+            set.rmdir(set.path());
+        }
+    }
+}
+
+/// Whether the run has left something to keep.
+bool IsWorthACopy(const DataVolume& data, const Volume& volume)
+{
+    return volume.HasChanged() && (data.HasChangedContent() || !volume.VerifyInPlace());
 }
 
 /// The name of the next copy. Behind those there are, also where the clock was once ahead: the copy
@@ -135,20 +177,21 @@ QString DefaultCopiesFolder()
 }
 
 KeepOutcome KeepCopy(
-    DataVolume& data, const QString& path, const QString& folder, const QDateTime& now)
+    DataVolume& data, const QString& path, const QString& folder, const QDateTime& now, int count)
 {
     Volume* volume = data.MountedVolume();
-    if (volume == nullptr || !volume->HasChanged())
+    if (volume == nullptr || !IsWorthACopy(data, *volume))
         return KeepOutcome::Unchanged;
+    DropMissing(folder, now);
     const QString setFolder = SetFolder(path, folder);
     if (setFolder.isEmpty() || !MakeFolder(setFolder))
         return KeepOutcome::NotKept;
     QDir set(setFolder);
-    Prune(set);
-    if (!HasRoom(setFolder, path) || !WriteOrigin(set, path)
+    Prune(set, count);
+    if (count == 0 || !HasRoom(setFolder, path) || !WriteOrigin(set, path)
         || !volume->Backup(set.filePath(NextName(set, now))))
         return KeepOutcome::NotKept;
-    Prune(set);
+    Prune(set, count);
     return KeepOutcome::Kept;
 }
 

@@ -11,8 +11,10 @@
 namespace Quillory {
 
 /// Copies of a data file as it was at the end of earlier runs: a folder per data file, told by a
-/// hash of its path, with a text file that names it and at most kKeptCopies copies.
-constexpr size_t kKeptCopies = 3;
+/// hash of its path, with a text file that names it and the copies.
+constexpr int kMostKeptCopies = 9;
+/// The copies of a file are kept for so many days after it is first found to be gone.
+constexpr int kDaysKeptOfMissing = 90;
 
 struct KeptCopy
 {
@@ -25,9 +27,10 @@ struct KeptCopy
 enum class KeepOutcome
 {
     Kept,
-    /// Nothing was written since the data file was mounted.
+    /// No list and no row was written since the data file was mounted.
     Unchanged,
-    /// No copy was made: there is no room, the folder cannot be written, or no folder is given.
+    /// No copy was made: none is wanted, there is no room, the folder cannot be written, or no
+    /// folder is given.
     NotKept,
 };
 
@@ -35,11 +38,13 @@ enum class KeepOutcome
 [[nodiscard]] QString DefaultCopiesFolder();
 
 /// Keeps a copy of the mounted data file at `path` in a folder of its own below `folder`, which is
-/// made if it is missing, and removes the oldest copies beyond kKeptCopies. Where the system does
-/// not tell how much room is left the copy is tried all the same. To be called at the end of a run,
-/// outside a transaction; whatever happens, the data file and its mount are untouched.
+/// made if it is missing, and removes the oldest beyond `count`. What only changed a list's layout
+/// is not worth a copy, unless the file is no longer in its place. Drops the copies of files that
+/// have been gone for kDaysKeptOfMissing. Where the system does not tell how much room is left the
+/// copy is tried all the same. To be called at the end of a run, outside a transaction; whatever
+/// happens, the data file and its mount are untouched.
 KeepOutcome KeepCopy(
-    DataVolume& data, const QString& path, const QString& folder, const QDateTime& now);
+    DataVolume& data, const QString& path, const QString& folder, const QDateTime& now, int count);
 
 /// The copies of the data file at `path`, newest first. The file itself need not exist.
 [[nodiscard]] std::vector<KeptCopy> ListKeptCopies(const QString& path, const QString& folder);

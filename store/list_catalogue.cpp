@@ -141,6 +141,12 @@ std::vector<PropertySpec> SpecsOf(const InventoryList& definition)
     return specs;
 }
 
+bool HasSameWarnings(const InventoryList& a, const InventoryList& b)
+{
+    return a.TableOption == b.TableOption && a.TableWarnStart == b.TableWarnStart
+        && a.TableWarnColour == b.TableWarnColour && a.TableExpiryColour == b.TableExpiryColour;
+}
+
 /// The name under which the rows of a list are kept aside. Map names end in a digit.
 QString DeletedName(const QString& mapName)
 {
@@ -298,7 +304,11 @@ bool ListCatalogue::RenameList(ObjectId oid, const QString& name)
 
 bool ListCatalogue::UpdateListOptions(ObjectId oid, const InventoryList& definition)
 {
-    return WriteOnto(m_volume, oid, OptionValues(definition));
+    const std::vector<PropertyValue> values = OptionValues(definition);
+    InventoryList stored;
+    if (oid != kNoObject && ReadListHeader(oid, stored) && HasSameWarnings(stored, definition))
+        return m_volume.WriteLayout(kCatalogueType, oid, values);
+    return WriteOnto(m_volume, oid, values);
 }
 
 bool ListCatalogue::UpdateList(ObjectId oid, const InventoryList& definition)

@@ -30,9 +30,7 @@ private Q_SLOTS:
     void everyFailureLeavesItsNumber();
     void aWriteThatTheFileIsNotToBlameForIsNotTold_data();
     void aWriteThatTheFileIsNotToBlameForIsNotTold();
-    void creatingWithoutPropertiesAnswers87AndCreatesNothing();
     void openingATypeThatIsOpenOpensNothingElse();
-    void notificationRequestsAreAccepted();
     void theDestructorRollsBackWhatWasNotCommitted();
 
 private:
@@ -146,35 +144,23 @@ void DataVolumeTest::aWriteThatTheFileIsNotToBlameForIsNotTold()
     QTEST(told, "told");
 }
 
-void DataVolumeTest::creatingWithoutPropertiesAnswers87AndCreatesNothing()
-{
-    Remount();
-    QCOMPARE(static_cast<quint32>(m_volume->Create(u"x"_s, kType, {}, {})), 87U);
-    QVERIFY(!m_volume->Exists(kType));
-}
-
 void DataVolumeTest::openingATypeThatIsOpenOpensNothingElse()
 {
     Remount();
+    QCOMPARE(static_cast<quint32>(m_volume->Create(u"none"_s, kType, {}, {})), 87U);
+    QVERIFY(!m_volume->Exists(kType));
     const ObjectId first = m_volume->Create(u"first"_s, kType, kSpecs, kByName);
     m_volume->Create(u"second"_s, kType, kSpecs, kByName);
-    QVERIFY(m_volume->Open(u"first"_s, kType, kByName.front()));
+    const NotifyRequest request {};
+    QVERIFY(m_volume->Open(u"first"_s, kType, kByName.front(), 0, &request));
+    QCOMPARE(m_volume->PropertyCount(kType), 1);
+    QCOMPARE(m_volume->PropertySpecs(kType, 5).size(), size_t { 1 });
     QVERIFY(m_volume->Open(u"second"_s, kType, kByName.front()));
     QVERIFY(m_volume->Open(u"third"_s, kType, kByName.front()));
     QCOMPARE(m_volume->DatabaseOid(kType), first);
     m_volume->Close(kType);
     QVERIFY(!m_volume->Open(u"third"_s, kType, kByName.front()));
     QVERIFY(m_volume->Exists(kType));
-}
-
-void DataVolumeTest::notificationRequestsAreAccepted()
-{
-    Remount();
-    m_volume->Create(u"x"_s, kType, kSpecs, kByName);
-    const NotifyRequest request {};
-    QVERIFY(m_volume->Open(u"x"_s, kType, kByName.front(), 0, &request));
-    QCOMPARE(m_volume->PropertyCount(kType), 1);
-    QCOMPARE(m_volume->PropertySpecs(kType, 5).size(), size_t { 1 });
 }
 
 void DataVolumeTest::theDestructorRollsBackWhatWasNotCommitted()

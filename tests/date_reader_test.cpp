@@ -35,7 +35,8 @@ constexpr DateCase kDateCases[] = {
     { "en_US", "1970-01-13", u"13-1-1970|1970-1-13" },
     { "en_US", "2011-06-30", u"6/30/2011 01:20:34|6/30/2011 01:20:34 PM|6/30/2011\u30001:20:34" },
     { "en_US", "2013-05-14", u"2013-05-14 02:04:12" },
-    { "en_US", "2026-01-02", u"1 2|Jan 2|2 Jan|1//2" },
+    { "en_US", "2026-01-02",
+        u"1 2|Jan 2|2 Jan|1//2|10:30 1/2|10:30:15 1/2|1/2 10:30|10am 1/2|1/2 10 PM" },
     { "en_US", "2026-01-14", u"14 1|1 14" },
     { "en_US", "1930-02-01", u"30 2|2 30" },
     { "en_US", "1935-01-01", u"Jan 35|35/Jan" },
@@ -53,17 +54,22 @@ constexpr DateCase kDateCases[] = {
     { "en_US", "2029-02-01", u"29 Feb 01|29Feb01" },
     { "en_US", "2024-01-31", u"2024-01-31|2024-31-01" },
     { "en_US", "2024-01-02",
-        u" 1 / 2 / 2024 |1,2,2024|January 2, 2024|JAN 2 2024|1/2/2024 10:30|10:30 1/2/2024" },
+        u" 1 / 2 / 2024 |1,2,2024|January 2, 2024|JAN 2 2024|1/2/2024 10:30|10:30 "
+        u"1/2/2024|1,,2,,2024|"
+        u"10:30:15 1/2/2024|10am 1/2/2024|1/2/2024 10p" },
     { "en_US", "2024-02-29", u"2/29/2024" },
     { "en_US", "2024-01-01", u"1/2024|Jan 2024" },
     { "en_US", "2005-01-24", u"5 Jan 24" },
-    { "en_US", "1899-12-30", u"10:30|1.2.24|1 am|12a" },
-    { "en_US", "9999-12-31", u"12/31/9999" },
+    { "en_US", "2024-01-05", u"24 5 Jan" },
+    { "en_US", "1899-12-30", u"10:30|1.2.24|1 am|12a|12p|13 pm|23:59:59" },
+    { "en_US", "9999-12-31", u"12/31/9999|31 Dec 9999" },
     { "en_US", "",
         u"2013-05-14 02:04:12.017000000|02.01.1970|32 49|0 49|1 2 3 4|1;2;3|True|0|2/29/2023|"
         u"2/30/2024|2/30/24|13/13/2024|13/2024|Sept 5 2024|1/2/2024 25:30|1/2/2024 10|31.01.2024|"
         u"12abc|a|20240131|1/2/3/4|1/2/|-1/2/2024|1/2/10000|2024-01-31T10:30:00|"
-        u"Monday, January 1, 2024||  |\u0661/\u0662/2024" },
+        u"Monday, January 1, 2024||  |\u0661/\u0662/2024|1//2/3|4294967297/2/2024|/1/2|,1 2|"
+        u"10:30 a|1 am pm|am 1|1/2 10:30:15|10:30 1 2am|1 10:30 2|1:2:3:4|10: |1 2 10: |24:00|0:60|"
+        u"0:0:60|Jan:5|Jan 32 5|5 32 Jan|Jan 2 Feb" },
     { "en_GB", "2024-02-01", u"1/2/2024" },
     { "en_GB", "2024-01-13", u"1/13/2024" },
     { "en_GB", "1930-12-31", u"31/12/30" },
@@ -72,6 +78,9 @@ constexpr DateCase kDateCases[] = {
     { "en_GB", "2029-02-01", u"29 Feb 01" },
     { "en_GB", "2024-12-01", u"12/2024" },
     { "en_GB", "2003-12-24", u"24 12 3" },
+    { "en_GB", "2026-02-01", u"1 2" },
+    { "en_GB", "2005-01-13", u"1 13 5" },
+    { "en_GB", "2024-05-13", u"24 13 5" },
     { "en_GB", "2024-01-31", u"2024-01-31" },
     { "en_GB", "", u"31/4/2024|1.2.2024" },
     { "de_DE", "1970-01-02", u"02.01.1970|02.01.1970 00:00:00" },
@@ -95,10 +104,17 @@ constexpr DateCase kDateCases[] = {
     { "sv_SE", "2024-01-02", u"1/2/2024|2 jan 2024" },
     { "sv_SE", "2026-01-02", u"1-2" },
     { "sv_SE", "2024-01-13", u"2024-13-01" },
+    { "sv_SE", "2005-01-13", u"1 13 5" },
+    { "sv_SE", "2005-01-24", u"5 jan 24" },
     { "sv_SE", "", u"den 2 januari 2024|2023-02-29" },
     { "ja_JP", "2024-01-31", u"2024/01/31|31/1/2024|2024年1月31日" },
     { "ja_JP", "2010-11-12", u"10/11/12" },
-    { "ja_JP", "", u"2024.1.31|H16/1/2" },
+    { "ja_JP", "2024-01-05", u"2024年01月05日" },
+    { "ja_JP", "", u"2024.1.31|H16/1/2|2024年001月5日" },
+    { "hu_HU", "", u"2024. 1. 5.|02024. 01. 05." },
+    // The Buddhist year of a day that has a short form; else the year is as it stands.
+    { "th_TH", "9999-12-31", u"31/12/10542" },
+    { "th_TH", "2100-01-05", u"5/1/2100" },
     { "vi_VN", "2024-01-05", u"5 Tháng 1 2024" },
     { "vi_VN", "2024-12-05", u"5 tháng 12 2024" },
 };
@@ -116,6 +132,8 @@ private Q_SLOTS:
     void theClockIsNotAskedWhereTheYearIsThere();
     void everyLocaleReadsItsOwnShortForm_data();
     void everyLocaleReadsItsOwnShortForm();
+    void picturesOfUnknownLocalesAreFollowed_data();
+    void picturesOfUnknownLocalesAreFollowed();
     void datesBefore1601HaveNoShortForm();
 };
 
@@ -198,6 +216,32 @@ void DateReaderTest::everyLocaleReadsItsOwnShortForm()
     for (QDate each(1601, 1, 1); each.year() < 9000; each = each.addDays(1009)) {
         QCOMPARE(ReadDate(DateText(each, locale), locale, ClockOfYear(2026)), each);
     }
+}
+
+void DateReaderTest::picturesOfUnknownLocalesAreFollowed_data()
+{
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<QString>("refused");
+    QTest::newRow("d 'de' MMM yyyy") << u"5 de Jan 2024"_s << u"5 de jan 2024"_s;
+    QTest::newRow("dd' day 'MMMM yyyy") << u"05 day January 2024"_s << u"05 day Jan 2024"_s;
+    QTest::newRow("d''M''yyyy") << u"5'1'2024"_s << u"5''1''2024"_s;
+    // The century would be a guess.
+    QTest::newRow("d.M.yy") << u"5.1.24"_s << u"5.1.2024"_s;
+}
+
+void DateReaderTest::picturesOfUnknownLocalesAreFollowed()
+{
+    QFETCH(const QString, written);
+    QFETCH(const QString, refused);
+    LocaleProfile locale = LocaleProfile::For(u"en_US"_s);
+    locale.shortDatePicture = QString::fromUtf8(QTest::currentDataTag());
+    const QDate day(2024, 1, 5);
+    QCOMPARE(DateText(day, locale), written);
+    const auto read = [&locale](const QString& text) {
+        return ReadDateByPicture(text, locale.shortDatePicture, DigitCount::AsWritten, locale);
+    };
+    QCOMPARE(read(written).value_or(QDate()), written.endsWith(u"2024") ? day : QDate());
+    QVERIFY(!read(refused));
 }
 
 void DateReaderTest::datesBefore1601HaveNoShortForm()

@@ -6,6 +6,7 @@
 
 #include <QTimeZone>
 
+#include <algorithm>
 #include <filesystem>
 
 using namespace Quillory;
@@ -30,7 +31,7 @@ public:
     KeepOutcome Keep()
     {
         now = now.addSecs(100);
-        return KeepCopy(*file.data, Path(), Folder(), now);
+        return KeepCopy(*file.data, Path(), Folder(), now, keptCopies);
     }
     std::vector<KeptCopy> Copies() const { return ListKeptCopies(Path(), Folder()); }
     /// Every file below the folder.
@@ -43,6 +44,7 @@ public:
     }
 
     ListFixture file;
+    int keptCopies = 3;
     QDateTime now { QDate(2026, 6, 15), QTime(12, 0), QTimeZone::utc() };
 
 private:
@@ -60,6 +62,8 @@ private Q_SLOTS:
     void theLastThreeAreKeptWhenTheClockGoesBack();
     void aCopyIsKeptInTheHourThatSpringLeavesOut();
     void aRunThatChangedNothingKeepsNothing();
+    void theUserSaysHowManyAreKept();
+    void copiesOfAFileThatIsGoneAreDropped();
     void aFolderThatCannotBeWrittenIsNoFailure();
     void aCopyLeavesTheDiskSomeRoom();
     void whatAnInterruptedRunLeftIsRemoved();
@@ -72,7 +76,7 @@ void KeptCopiesTest::theLastThreeAreKept()
     for (const QString& name : { u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s })
         QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
     const auto copies = runs.Copies();
-    QCOMPARE(copies.size(), kKeptCopies);
+    QCOMPARE(copies.size(), size_t { 3 });
     QCOMPARE(ListsIn(copies[0].path), u"a 0, b 0, c 0, d 0, e 0"_s);
     QCOMPARE(ListsIn(copies[2].path), u"a 0, b 0, c 0"_s);
     QCOMPARE(copies[0].time, runs.now);
@@ -125,7 +129,57 @@ void KeptCopiesTest::aRunThatChangedNothingKeepsNothing()
     QVERIFY(runs.file.catalogue->AddList(list) != kNoObject);
     QVERIFY(runs.file.data->EndTransaction(false));
     QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
+    // Nor are widths.
+    runs.file.Restart();
+    runs.file.list.TableColSizes = u"100,"_s;
+    QVERIFY(runs.file.catalogue->UpdateListOptions(
+        runs.file.catalogue->FindList(u"a"_s), runs.file.list));
+    QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
     QCOMPARE(runs.Copies().size(), size_t { 1 });
+    runs.file.list.TableWarnStart = 4;
+    QVERIFY(runs.file.catalogue->UpdateListOptions(
+        runs.file.catalogue->FindList(u"a"_s), runs.file.list));
+    QCOMPARE(runs.Keep(), KeepOutcome::Kept);
+}
+
+void KeptCopiesTest::theUserSaysHowManyAreKept()
+{
+    Runs runs;
+    for (const int count : { 2, 2, 2, 1, 0, 3 }) {
+        runs.keptCopies = count;
+        const auto before = static_cast<int>(runs.Copies().size());
+        QCOMPARE(runs.MakeList(QString::number(runs.now.toSecsSinceEpoch())),
+            count == 0 ? KeepOutcome::NotKept : KeepOutcome::Kept);
+        QCOMPARE(static_cast<int>(runs.Copies().size()), std::min(before + 1, count));
+    }
+}
+
+void KeptCopiesTest::copiesOfAFileThatIsGoneAreDropped()
+{
+    Runs runs;
+    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+    Runs others;
+    const auto runAfter = [&](int days) {
+        others.now = others.now.addDays(days);
+        others.file.Restart();
+        others.file.MakeFullList(QString::number(others.now.toSecsSinceEpoch()));
+        return KeepCopy(*others.file.data, others.Path(), runs.Folder(), others.now, 3);
+    };
+    const QString aside = runs.Path() + u".aside"_s;
+    QVERIFY(QFile::rename(runs.Path(), aside));
+    // The days count from when it was missed, and anew once it was back.
+    QCOMPARE(runAfter(400), KeepOutcome::Kept);
+    QVERIFY(QFile::rename(aside, runs.Path()));
+    QCOMPARE(runAfter(80), KeepOutcome::Kept);
+    QVERIFY(QFile::rename(runs.Path(), aside));
+    QCOMPARE(runAfter(80), KeepOutcome::Kept);
+    QCOMPARE(runAfter(89), KeepOutcome::Kept);
+    QCOMPARE(runs.Copies().size(), size_t { 1 });
+    QCOMPARE(runAfter(1), KeepOutcome::Kept);
+    QVERIFY(runs.Copies().empty());
+    // Nothing else is.
+    QCOMPARE(QDir(runs.Folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+    QCOMPARE(ListKeptCopies(others.Path(), runs.Folder()).size(), size_t { 3 });
 }
 
 void KeptCopiesTest::aFolderThatCannotBeWrittenIsNoFailure()
@@ -136,7 +190,7 @@ void KeptCopiesTest::aFolderThatCannotBeWrittenIsNoFailure()
     WriteFileBytes(runs.Folder(), {});
     QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::NotKept);
     QVERIFY(runs.Copies().empty());
-    QCOMPARE(KeepCopy(*runs.file.data, runs.Path(), QString(), runs.now), KeepOutcome::NotKept);
+    QCOMPARE(KeepCopy(*runs.file.data, runs.Path(), QString(), runs.now, 3), KeepOutcome::NotKept);
     // The run goes on.
     QVERIFY(runs.file.Add({ u"row"_s }) != kNoObject);
 }

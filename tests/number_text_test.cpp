@@ -25,6 +25,8 @@ private Q_SLOTS:
     void twoDecimalsAgreeWithExactArithmetic();
     void numbersTakeTheFormOfTheLocale_data();
     void numbersTakeTheFormOfTheLocale();
+    void numbersAreReadInTheFormOfTheLocale_data();
+    void numbersAreReadInTheFormOfTheLocale();
     void aFormLongerThanItsRoomIsRefused_data();
     void aFormLongerThanItsRoomIsRefused();
     void wholeNumbersAreReadFromTheStart_data();
@@ -127,7 +129,35 @@ void NumberTextTest::numbersTakeTheFormOfTheLocale()
     QFETCH(const QString, locale);
     QFETCH(const QString, plain);
     QFETCH(const QString, text);
-    QCOMPARE(FormatNumber(plain, LocaleProfile::For(locale)).value_or(QString()), text);
+    const LocaleProfile profile = LocaleProfile::For(locale);
+    QCOMPARE(FormatNumber(plain, profile).value_or(QString()), text);
+    // What is written is read again as the same number.
+    if (!text.isEmpty())
+        QCOMPARE(FormatNumber(PlainNumber(text, profile).value_or(QString()), profile), text);
+}
+
+void NumberTextTest::numbersAreReadInTheFormOfTheLocale_data()
+{
+    QTest::addColumn<QString>("plain");
+    const auto add = [](const char* plain, const QStringList& texts) {
+        for (const QString& text : texts)
+            QTest::newRow(qPrintable(text)) << QString::fromLatin1(plain);
+    };
+    // After the locale.
+    add("1234.5", { u"en_US 1234.5"_s, u"en_US 1,234.5"_s, u"de_DE 1234,5"_s, u"fr_FR 1 234,5"_s });
+    add("-1234", { u"en_US -1234"_s, u"ar_EG 1,234-"_s, u"ar_EG -1,234"_s, u"hr_HR - 1.234"_s });
+    add("",
+        { u"en_US 12,34"_s, u"en_US 1234,5"_s, u"de_DE 1234.5"_s, u"en_US 1.2.3"_s, u"en_US -"_s,
+            u"en_US --1"_s, u"en_US 3 Eggs"_s, u"en_US .5"_s, u"en_US ,234"_s, u"en_US 1e3"_s,
+            u"ar_EG -1-"_s, u"en_US "_s });
+}
+
+void NumberTextTest::numbersAreReadInTheFormOfTheLocale()
+{
+    QFETCH(const QString, plain);
+    const QString text = QString::fromUtf8(QTest::currentDataTag());
+    const LocaleProfile profile = LocaleProfile::For(text.section(u' ', 0, 0));
+    QCOMPARE(PlainNumber(text.section(u' ', 1), profile).value_or(QString()), plain);
 }
 
 void NumberTextTest::aFormLongerThanItsRoomIsRefused_data()

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void damagedAndForeignValuesReadAsDefaults_data();
     void damagedAndForeignValuesReadAsDefaults();
     void withoutAFileTheOptionsInMemoryStay();
+    void noughtToNineCopiesAreKept();
 
 private:
     QTemporaryDir m_folder;
@@ -90,6 +91,18 @@ void SettingsTest::withoutAFileTheOptionsInMemoryStay()
     ReadSettings(Path(u"none.conf"_s), settings);
     QVERIFY(settings.Options.test(kAlternateColourOption));
     QCOMPARE(settings.DbPath, QString());
+}
+
+void SettingsTest::noughtToNineCopiesAreKept()
+{
+    for (const auto& [text, count] :
+        { std::pair { "0", 0 }, { "9", 9 }, { "10", 3 }, { "-1", 3 } }) {
+        const QString path = Path(QString::fromLatin1(text));
+        WriteFileBytes(path, QByteArray("[General]\nKeptCopies=") + text);
+        Settings settings;
+        ReadSettings(path, settings);
+        QCOMPARE(settings.keptCopies, count);
+    }
 }
 
 } // namespace

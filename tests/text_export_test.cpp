@@ -4,6 +4,7 @@
 #include "tests/test_program.h"
 #include "transfer/list_file.h"
 #include "transfer/text_export.h"
+#include "values/file_date.h"
 
 #include <QBuffer>
 
@@ -63,8 +64,10 @@ QString ExportedText(ListFixture& file)
     return QString(reinterpret_cast<const QChar*>(text.constData()), text.size() / 2);
 }
 
-/// Writes a row of the given values in the list's columns; null texts are left out.
-void AddPartial(ListFixture& file, const QList<std::pair<int, PropertyVariant>>& cells)
+using Cells = QList<std::pair<int, PropertyVariant>>;
+
+/// Writes a row of the given values in the list's columns.
+void AddPartial(ListFixture& file, const Cells& cells)
 {
     std::vector<PropertyValue> values;
     for (const auto& [column, value] : cells)
@@ -79,93 +82,61 @@ class TextExportTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void anEmptyListIsAByteOrderMark();
-    void everyTypeHasItsText();
-    void rowsComeInTheOrderOfNames();
-    void aMissingValueRepeatsTheFieldBefore();
-    void theColumnOrderRules_data();
-    void theColumnOrderRules();
-    void textsGoOutAsTheyStand();
+    void rowsBecomeText_data();
+    void rowsBecomeText();
     void aFailedWriteIsToldAndTheRestStillOffered();
     void theDataFileIsNeverATarget();
     void aFileIsReplacedOnceAllIsWritten();
 };
 
-void TextExportTest::anEmptyListIsAByteOrderMark()
-{
-    ListFixture file(u"L"_s);
-    QBuffer target;
-    target.open(QIODevice::WriteOnly);
-    QCOMPARE(Export(file, target).rows, 0);
-    QCOMPARE(target.data(), "\xFF\xFE"_ba);
-}
-
-void TextExportTest::everyTypeHasItsText()
-{
-    ListFixture file(u"L"_s);
-    file.Add({ u"Tea"_s, u"-3"_s, u"A"_s, u"Unchecked"_s, u"1234.5"_s, u"7"_s, u"6/1/2026"_s,
-        u"1/31/2027"_s });
-    file.Add({ u"Wax"_s, u"0"_s, u""_s, u"Checked"_s, u"-0.5"_s, u"0"_s, u"6/1/2026"_s,
-        u"1/31/2027"_s });
-    QCOMPARE(ExportedText(file),
-        u"Tea\t-3\tA\tN\t1234.50\t7\t6/1/2026\t1/31/2027\r\n"
-        "Wax\t0\t\tY\t-0.50\t0\t6/1/2026\t1/31/2027\r\n"_s);
-}
-
-void TextExportTest::rowsComeInTheOrderOfNames()
-{
-    ListFixture file(u"L"_s);
-    file.list.columnOrder = { 0 };
-    for (const QString& name : { u"b"_s, u"a"_s, u"C"_s })
-        file.Add({ name });
-    AddPartial(file, { { 1, 5 } });
-    QCOMPARE(ExportedText(file), u"C\r\na\r\nb\r\n\r\n"_s);
-}
-
-void TextExportTest::aMissingValueRepeatsTheFieldBefore()
-{
-    ListFixture file(u"L"_s);
-    AddPartial(file, { { 0, u"Tea"_s }, { 5, 7 } });
-    AddPartial(file, { { 1, 4 }, { 3, true } });
-    QCOMPARE(ExportedText(file),
-        u"Tea\tTea\tTea\tTea\tTea\t7\t7\t7\r\n"
-        "\t4\t4\tY\tY\tY\tY\tY\r\n"_s);
-}
-
-void TextExportTest::theColumnOrderRules_data()
+void TextExportTest::rowsBecomeText_data()
 {
     QTest::addColumn<QList<quint32>>("order");
+    QTest::addColumn<QList<Cells>>("rows");
     QTest::addColumn<QString>("text");
     using Order = QList<quint32>;
-    QTest::newRow("none leaves empty lines") << Order {} << u"\r\n\r\n"_s;
-    QTest::newRow("another order, once more") << Order { 5, 0, 1, 5, 0, 0, 0, 0 }
-                                              << u"9\tTea\t4\t9\tTea\tTea\tTea\tTea\r\n"
-                                                 "8\tWax\tWax\t8\tWax\tWax\tWax\tWax\r\n"_s;
-    QTest::newRow("unknown columns are passed over")
-        << Order { 99, 1, 8, 0, 0xFFFFFFFF } << u"4\tTea\r\n\tWax\r\n"_s;
-    // Tea holds Name, Count, Shelf, Size; Wax holds Name, Size.
-    QTest::newRow("the search ends with the length of the order")
-        << Order { 0, 5, 2 } << u"Tea\tTea\tA\r\nWax\t8\t8\r\n"_s;
-    QTest::newRow("a single column knows only the first value") << Order { 5 } << u"\r\n\r\n"_s;
+    const Order natural { 0, 1, 2, 3, 4, 5, 6, 7 };
+    const FileTime day = DateToFileTime(QDate(2026, 6, 1)).value();
+    const auto add = [](const char* name, const Order& order, const QList<Cells>& rows,
+                         const QString& text) { QTest::newRow(name) << order << rows << text; };
+    add("nothing but the mark", natural, {}, {});
+    add("every type", natural,
+        { { { 0, u"Tea"_s }, { 1, -3 }, { 2, u"A"_s }, { 3, false }, { 4, 1234.5 }, { 5, 7 },
+              { 6, day }, { 7, day } },
+            { { 0, u"Wax"_s }, { 1, 0 }, { 2, u""_s }, { 3, true }, { 4, -0.5 }, { 5, 0 },
+                { 6, day }, { 7, day } } },
+        u"Tea\t-3\tA\tN\t1234.50\t7\t6/1/2026\t6/1/2026\r\n"
+        "Wax\t0\t\tY\t-0.50\t0\t6/1/2026\t6/1/2026\r\n"_s);
+    add("the order of names", { 0 },
+        { { { 0, u"b"_s } }, { { 0, u"a"_s } }, { { 0, u"C"_s } }, { { 1, 5 } } },
+        u"C\r\na\r\nb\r\n\r\n"_s);
+    add("a missing value repeats the field before", natural,
+        { { { 0, u"Tea"_s }, { 5, 7 } }, { { 1, 4 }, { 3, true } } },
+        u"Tea\tTea\tTea\tTea\tTea\t7\t7\t7\r\n\t4\t4\tY\tY\tY\tY\tY\r\n"_s);
+    const QString shelf = u"a\tb\r\nc"_s + QChar(0xD800) + u"\"ü"_s;
+    add("texts as they stand", { 2, 0 }, { { { 0, u"N"_s }, { 2, shelf } } }, shelf + u"\tN\r\n"_s);
+
+    const QList<Cells> partial { { { 0, u"Tea"_s }, { 1, 4 }, { 2, u"A"_s }, { 5, 9 } },
+        { { 0, u"Wax"_s }, { 5, 8 } } };
+    add("no order leaves empty lines", {}, partial, u"\r\n\r\n"_s);
+    add("another order, once more", { 5, 0, 1, 5, 0, 0, 0, 0 }, partial,
+        u"9\tTea\t4\t9\tTea\tTea\tTea\tTea\r\n8\tWax\tWax\t8\tWax\tWax\tWax\tWax\r\n"_s);
+    add("unknown columns are passed over", { 99, 1, 8, 0, 0xFFFFFFFF }, partial,
+        u"4\tTea\r\n\tWax\r\n"_s);
+    add("the search ends with the length of the order", { 0, 5, 2 }, partial,
+        u"Tea\tTea\tA\r\nWax\t8\t8\r\n"_s);
+    add("a single column knows only the first value", { 5 }, partial, u"\r\n\r\n"_s);
 }
 
-void TextExportTest::theColumnOrderRules()
+void TextExportTest::rowsBecomeText()
 {
     QFETCH(QList<quint32>, order);
+    QFETCH(QList<Cells>, rows);
     ListFixture file(u"L"_s);
     file.list.columnOrder.assign(order.begin(), order.end());
-    AddPartial(file, { { 0, u"Tea"_s }, { 1, 4 }, { 2, u"A"_s }, { 5, 9 } });
-    AddPartial(file, { { 0, u"Wax"_s }, { 5, 8 } });
+    for (const Cells& cells : rows)
+        AddPartial(file, cells);
     QTEST(ExportedText(file), "text");
-}
-
-void TextExportTest::textsGoOutAsTheyStand()
-{
-    ListFixture file(u"L"_s);
-    file.list.columnOrder = { 2, 0 };
-    const QString shelf = u"a\tb\r\nc"_s + QChar(0xD800) + u"\"ü"_s;
-    AddPartial(file, { { 0, u"N"_s }, { 2, shelf } });
-    QCOMPARE(ExportedText(file), shelf + u"\tN\r\n"_s);
 }
 
 void TextExportTest::aFailedWriteIsToldAndTheRestStillOffered()

@@ -29,6 +29,8 @@ public:
 
     /// The file could not be read, had nothing behind its mark, or a line was passed over.
     [[nodiscard]] bool HasFailed() const { return m_isLineLost || m_lines.HasFailed(); }
+    /// As TextLineReader tells.
+    [[nodiscard]] bool HasOpenLine() const { return m_lines.HasOpenLine(); }
     [[nodiscard]] qint64 BytesRead() const { return m_lines.BytesRead(); }
     /// Lines without a field included.
     [[nodiscard]] qint64 LinesRead() const { return m_lines.LinesRead(); }

@@ -135,6 +135,7 @@ public:
             m_outcome.result = ImportResult::Failed;
         m_outcome.rows = m_writer.Rows();
         m_outcome.lines = m_reader.LinesRead();
+        m_outcome.isLastLineOpen = m_reader.HasOpenLine();
         if (m_writer.Error() != ErrorNumber::None)
             m_outcome.writeError = m_writer.Error();
         return m_outcome;
@@ -205,6 +206,7 @@ ImportOutcome CountImportRows(
         outcome.rows += values.empty() ? 0 : 1;
     }
     outcome.lines = reader.LinesRead();
+    outcome.isLastLineOpen = reader.HasOpenLine();
     if (reader.HasFailed())
         outcome.result = ImportResult::Failed;
     return outcome;

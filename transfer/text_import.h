@@ -29,6 +29,8 @@ struct ImportOutcome
     qint64 rows = 0;
     /// Lines that were read, those included that give no row.
     qint64 lines = 0;
+    /// The text ends with characters that no end of a line follows; they are in no row.
+    bool isLastLineOpen = false;
     /// Why storing ended early, such as DiskFull; None if it did not. A single row that the store
     /// does not take is passed over and is no such failure.
     ErrorNumber writeError = ErrorNumber::None;

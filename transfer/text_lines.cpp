@@ -132,12 +132,15 @@ template <typename Unit> bool TextLineReader::HoldNext()
         }
         const qsizetype end = IndexOf(units, kLineEnd);
         const auto part = end < 0 ? units : units.first(static_cast<size_t>(end));
-        if (IndexOf(part, u'\0') >= 0)
+        if (const qsizetype textEnd = IndexOf(part, u'\0'); textEnd >= 0) {
+            m_hasOpenLine = textEnd > 0 || !m_held.isEmpty();
             return false;
+        }
         Hold(part);
         m_isSkipping = m_isSkipping || end >= 0;
         m_window.Drop(std::ssize(std::as_bytes(units.first(part.size() + (end < 0 ? 0 : 1)))));
         m_linesRead += end >= 0 ? 1 : 0;
+        m_hasOpenLine = end < 0 && !m_held.isEmpty();
         if (end >= 0 || !isMore)
             return end >= 0;
         isMore = m_window.Fill();

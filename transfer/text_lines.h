@@ -70,6 +70,8 @@ public:
 
     /// True if there was nothing behind the byte-order mark or the file could not be read.
     [[nodiscard]] bool HasFailed() const { return m_isBlank || m_window.HasFailed(); }
+    /// Whether the text ended with characters behind the last line, once Next() gave false.
+    [[nodiscard]] bool HasOpenLine() const { return m_hasOpenLine; }
     [[nodiscard]] qint64 BytesRead() const { return m_window.BytesRead(); }
     /// How many lines were read in all, empty ones included.
     [[nodiscard]] qint64 LinesRead() const { return m_linesRead; }
@@ -86,6 +88,7 @@ private:
     bool m_isCut = false;
     bool m_isWide = false;
     bool m_isBlank = false;
+    bool m_hasOpenLine = false;
     /// The character after a CR is still to be dropped.
     bool m_isSkipping = false;
 

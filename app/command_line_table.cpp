@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: MIT
+#include "app/command_line_table.h"
+
+#include "platform/number_text.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array kJsonFlag { "json" };
+constexpr std::array kNewFlags { "create", "warn-expiry" };
+constexpr std::array kNewOptions { "column", "icon", "warn-count" };
+constexpr std::array kShowOptions { "sort", "where" };
+constexpr std::array kImportFlags { "dry-run" };
+constexpr std::array kImportOptions { "columns", "encoding" };
+constexpr std::array kSummaryOptions { "where" };
+constexpr std::array kDueOptions { "within" };
+constexpr std::array kRestoreFlags { "json", "salvage" };
+constexpr std::array kRestoreOptions { "from" };
+
+constexpr const char* kListsHelp
+    = "Prints a line per list, in the order of their names: name TAB number of rows.\n"
+      "\n"
+      "  --json               name, rows, icon and columns of each list\n";
+
+constexpr const char* kNewHelp
+    = "Makes a list and prints nothing. Its first columns are Name and Quantity.\n"
+      "\n"
+      "  --column NAME:TYPE   adds a column; TYPE is string, checkbox, price, integer, date or\n"
+      "                       expiry (which needs no NAME). May be given several times.\n"
+      "  --warn-count N       warns of rows whose quantity is N or less\n"
+      "  --warn-expiry        warns of rows whose expiry date is reached\n"
+      "  --icon N             icon 0 to 42\n"
+      "  --create             makes the data file if there is none\n";
+
+constexpr const char* kWhereHelp
+    = "  --where CONDITION    only rows that meet it: \"COLUMN CONDITION VALUE\", as in\n"
+      "                       \"Name contains tea\", \"Quantity < 3\", \"Opened = Checked\".\n"
+      "                       Conditions are those of the program's filters, by their words or\n"
+      "                       as = != > >= < <=. As there, != on text, numbers and prices finds\n"
+      "                       what = finds. Numbers are read as they are shown. May be given\n"
+      "                       several times: all must hold.\n";
+
+constexpr const char* kShowHelp
+    = "Prints a line of column names, then the rows in the order of names, with TAB between\n"
+      "fields. Control characters in texts are shown as blanks.\n"
+      "\n"
+      "  --sort COLUMN        in ascending order of a column\n"
+      "  --json               an object per row; dates as YYYY-MM-DD, missing values as null\n";
+
+constexpr const char* kExportHelp
+    = "Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each\n"
+      "row. Without FILE, or with -, to standard output. An existing FILE is replaced.\n";
+
+constexpr const char* kImportHelp
+    = "Adds a row for each line of a text file, as Import List does, and prints how many came in.\n"
+      "FILE - is standard input. Each line must end in CR LF, the last one too.\n"
+      "\n"
+      "  --columns \"A,B\"      the columns that the fields of a line fill; those not named "
+      "follow\n"
+      "                       in the list's order, which is also what holds without this option\n"
+      "  --encoding NAME      what the file is in: utf-8, utf-16, or the number of a code page "
+      "such\n"
+      "                       as 1252\n"
+      "  --dry-run            stores nothing, prints how many rows would come in\n";
+
+constexpr const char* kSummaryHelp
+    = "Prints a line per total of a number or price column: name TAB total, with a point before\n"
+      "decimals.\n"
+      "\n"
+      "  --json               name and total of each\n";
+
+constexpr const char* kDueHelp
+    = "Prints rows of lists whose warnings are on: list TAB row TAB \"low\", \"expired\" or the "
+      "date\n"
+      "on which the row expires.\n"
+      "\n"
+      "  --within DAYS        also rows that expire in so many days\n"
+      "  --json               list, row, state and count or date of each\n";
+
+constexpr const char* kCheckHelp
+    = "Reads the whole data file. Prints \"ok\", or what is wrong and exits with 1.\n";
+
+constexpr const char* kBackupHelp
+    = "Writes a consistent copy of the data file, also while it is in use. FILE must not exist.\n";
+
+constexpr const char* kRestoreHelp
+    = "After each run that changed lists or rows of the configured data file a copy of it is "
+      "kept,\n"
+      "the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90\n"
+      "days after the file is found to be gone.\n"
+      "\n"
+      "Without options prints a line per copy, the newest first: number TAB time TAB bytes, and\n"
+      "then a line per list that can be read from the data file itself, also if that is damaged:\n"
+      "salvage TAB list TAB rows TAB what is lost. Otherwise makes the new data file FILE, which\n"
+      "must not exist:\n"
+      "\n"
+      "  --from N             from copy N\n"
+      "  --salvage            from what can still be read of the data file, and prints what that\n"
+      "                       is; the data file is only read\n"
+      "  --json               an object per copy and per list\n";
+
+constexpr std::array kSubCommands {
+    SubCommand { "lists", "[--json]", kListsHelp, 0, 0, kJsonFlag, {}, &RunLists },
+    SubCommand { "new",
+        "LIST [--column NAME:TYPE]... [--warn-count N] [--warn-expiry] [--icon N] [--create]",
+        kNewHelp, 1, 1, kNewFlags, kNewOptions, &RunNew },
+    SubCommand { "show", "LIST [--where CONDITION]... [--sort COLUMN] [--json]", kShowHelp, 1, 1,
+        kJsonFlag, kShowOptions, &RunShow },
+    SubCommand { "export", "LIST [FILE]", kExportHelp, 1, 2, {}, {}, &RunExport },
+    SubCommand { "import", "LIST FILE [--columns \"A,B\"] [--encoding NAME] [--dry-run]",
+        kImportHelp, 2, 2, kImportFlags, kImportOptions, &RunImport },
+    SubCommand { "summary", "LIST [--where CONDITION]... [--json]", kSummaryHelp, 1, 1, kJsonFlag,
+        kSummaryOptions, &RunSummary },
+    SubCommand {
+        "due", "[--within DAYS] [--json]", kDueHelp, 0, 0, kJsonFlag, kDueOptions, &RunDue },
+    SubCommand { "check", "", kCheckHelp, 0, 0, {}, {}, &RunCheck },
+    SubCommand { "backup", "FILE", kBackupHelp, 1, 1, {}, {}, &RunBackup },
+    SubCommand { "restore", "[--json | FILE --from N | FILE --salvage]", kRestoreHelp, 0, 1,
+        kRestoreFlags, kRestoreOptions, &RunRestore },
+};
+
+/// The least number of characters left out, put in, replaced or swapped with the next that makes
+/// one word of the other.
+size_t Distance(QStringView a, QLatin1StringView b)
+{
+    const auto columns = static_cast<size_t>(b.size()) + 1;
+    std::vector<size_t> beforeLast(columns);
+    std::vector<size_t> last(columns);
+    std::vector<size_t> current(columns);
+    for (size_t k = 0; k < columns; ++k)
+        current[k] = k;
+    for (qsizetype i = 0; i < a.size(); ++i) {
+        beforeLast = std::exchange(last, current);
+        current[0] = static_cast<size_t>(i) + 1;
+        for (qsizetype j = 0; j < b.size(); ++j) {
+            const auto k = static_cast<size_t>(j) + 1;
+            const bool isSame = a[i] == b[j];
+            current[k]
+                = std::min({ last[k] + 1, current[k - 1] + 1, last[k - 1] + (isSame ? 0 : 1) });
+            if (i > 0 && j > 0 && a[i] == b[j - 1] && a[i - 1] == b[j])
+                current[k] = std::min(current[k], beforeLast[k - 2] + 1);
+        }
+    }
+    return current.back();
+}
+
+QByteArray Words(const SubCommand& command)
+{
+    return QByteArray(command.name) + (*command.usage == '\0' ? "" : " ") + command.usage;
+}
+
+/// What depends on the user's settings and locale.
+QByteArray FormsText(const CommandEnvironment& environment)
+{
+    const LocaleProfile& locale = environment.context.userLocale;
+    const QString file = environment.dataFile.isEmpty() ? u"none so far"_s : environment.dataFile;
+    const QString text
+        = u"  --data FILE          works on another data file than the configured one (%1)\n"
+          "\n"
+          "Here dates are written %2 and numbers %3, but in text files with a point and no\n"
+          "groups. Text files are written in UTF-16 behind a byte-order mark, and read in code "
+          "page\n"
+          "%4 where there is none.\n"_s.arg(file, environment.context.systemLocale.shortDatePicture,
+              FormatNumber(u"1234.5", locale).value_or(QString()),
+              QString::number(locale.codePage));
+    return text.toUtf8();
+}
+
+} // namespace
+
+const SubCommand* FindSubCommand(QStringView name)
+{
+    const auto found = std::find_if(kSubCommands.begin(), kSubCommands.end(),
+        [&name](const SubCommand& command) { return name == QLatin1StringView(command.name); });
+    return found == kSubCommands.end() ? nullptr : &*found;
+}
+
+const SubCommand* FindNearSubCommand(QStringView word)
+{
+    // Of a short word one character more would make another one.
+    constexpr qsizetype kLongWord = 5;
+    const SubCommand* nearest = nullptr;
+    size_t least = word.size() < kLongWord ? 1 : 2;
+    for (const SubCommand& command : kSubCommands) {
+        const size_t distance = Distance(word, QLatin1StringView(command.name));
+        if (distance < least || (distance == least && nearest == nullptr)) {
+            nearest = &command;
+            least = distance;
+        }
+    }
+    return nearest;
+}
+
+QByteArray UsageText(const SubCommand* command)
+{
+    if (command == nullptr)
+        return "usage: quillory [LIST]\n"
+               "       quillory COMMAND [--data FILE] [ARGUMENTS]\n";
+    return "usage: quillory " + Words(*command) + " [--data FILE]\n";
+}
+
+QByteArray HelpText(const CommandEnvironment& environment)
+{
+    QByteArray text = UsageText(nullptr);
+    text += "\nOpens the window, showing LIST if it is named. The commands work without it:\n\n";
+    for (const SubCommand& command : kSubCommands)
+        text += "  quillory " + Words(command) + '\n';
+    text += "\n  --help               help, on a command if one is named\n"
+            "  --version            the version\n";
+    text += FormsText(environment);
+    return text + "\nExit status: 0 done, 1 failed, 2 wrong usage.\n";
+}
+
+QByteArray HelpText(const SubCommand& command, const CommandEnvironment& environment)
+{
+    QByteArray text = UsageText(&command) + '\n' + command.help;
+    if (!text.contains("\n  --"))
+        text += '\n';
+    if (std::find(
+            command.valueOptions.begin(), command.valueOptions.end(), std::string_view("where"))
+        != command.valueOptions.end())
+        text += kWhereHelp;
+    return text + FormsText(environment);
+}
+
+} // namespace Quillory
