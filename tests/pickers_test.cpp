@@ -3,6 +3,7 @@
 #include "listdef/import_order_page.h"
 #include "tests/test_program.h"
 #include "values/column_type.h"
+#include "widgets/app_style.h"
 #include "widgets/colour_button.h"
 #include "widgets/colour_grid.h"
 #include "widgets/colour_palette.h"
@@ -11,6 +12,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -32,6 +34,8 @@ private Q_SLOTS:
     void aPlaceBelongsToACell();
     void arrowKeysWrapAsTheGridDoes_data();
     void arrowKeysWrapAsTheGridDoes();
+    void theFocusOfTheIconGridIsSeen_data();
+    void theFocusOfTheIconGridIsSeen();
     void everyIconHasADrawingAndANameOfItsOwn();
     void theGridOfColoursIsInOrderOfTheirValues();
     void arrowKeysGoThroughTheColoursInOrder();
@@ -104,6 +108,33 @@ void PickersTest::arrowKeysWrapAsTheGridDoes()
     QFETCH(const int, key);
     const IconGridLayout layout = IconGridLayout::For(43, 20, { 209, 100 }, 16);
     QTEST(layout.Step(from, static_cast<Qt::Key>(key)), "to");
+}
+
+void PickersTest::theFocusOfTheIconGridIsSeen_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("light") << QPalette(Qt::white);
+    QTest::newRow("dark") << QPalette(Qt::black);
+}
+
+void PickersTest::theFocusOfTheIconGridIsSeen()
+{
+    QFETCH(const QPalette, palette);
+    QApplication::setStyle(new AppStyle);
+    QWidget window;
+    auto* grid = new IconGrid(&window);
+    auto* other = new QLineEdit(&window);
+    window.setPalette(palette);
+    grid->resize(300, 300);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    grid->SelectIcon(3);
+    const QRect cell = grid->visualRect(grid->model()->index(3, 0));
+    const auto picture = [grid, cell] { return grid->viewport()->grab(cell).toImage(); };
+    grid->setFocus();
+    const QImage focused = picture();
+    other->setFocus();
+    QVERIFY(focused != picture());
 }
 
 void PickersTest::everyIconHasADrawingAndANameOfItsOwn()

@@ -4,7 +4,9 @@
 #include "tests/finger.h"
 #include "tests/rows_view_errand.h"
 #include "tests/test_program.h"
+#include "widgets/icon_grid_page.h"
 
+#include <QPointer>
 #include <QScrollBar>
 #include <QStyleHints>
 
@@ -30,6 +32,7 @@ private:
         Home,
         Rows,
         ImportOrder,
+        IconGrid,
     };
     enum class Gesture
     {
@@ -49,7 +52,7 @@ private:
 
     RowsErrand m_errand;
     Page* m_page = nullptr;
-    QAbstractItemView* m_view = nullptr;
+    QPointer<QAbstractItemView> m_view;
 
     void Open(List list);
     void Do(Gesture gesture) const;
@@ -79,14 +82,18 @@ void TouchTest::Open(List list)
             lists.push_back({ ObjectId(i + 1), u"list %1"_s.arg(1000 + i), 0 });
         home->Fill(lists);
         connect(home, &HomeList::ListChosen, this, [this] {
-            m_errand.stack->Push(new RowsView(
-                *m_errand.file.rows, m_errand.file.list, m_errand.file.context, {}));
+            m_errand.stack->Push(
+                new RowsView(*m_errand.file.rows, m_errand.file.list, m_errand.file.context, {}));
         });
         m_page = home;
     }
     if (list == List::ImportOrder)
         m_page = new ImportOrderPage(
             std::vector<ColumnDefinition>(kLines, { u"Column"_s, 0, PropName }));
+    if (list == List::IconGrid) {
+        m_page = new IconGridPage(0);
+        stack->resize(240, 320);
+    }
     if (m_page != m_errand.page)
         stack->Push(m_page);
     m_view = m_page->findChild<QAbstractItemView*>();
@@ -130,9 +137,11 @@ void TouchTest::Do(Gesture gesture) const
     }
 }
 
-/// The selected line and what else is to be told.
+/// The selected line and what else there is to tell.
 QString TouchTest::Seen() const
 {
+    if (m_view == nullptr)
+        return u"closed"_s;
     const int before = m_view->verticalScrollBar()->value();
     QStringList seen { QString::number(m_view->currentIndex().row()) };
     if (m_errand.stack->Top() != m_page)
@@ -173,6 +182,9 @@ void TouchTest::aFingerActsOnTheReleaseOfATap_data()
     add("slow swipe", Gesture::SlowSwipe, u"0 scrolled"_s, u"0 scrolled"_s, u"0 scrolled"_s);
     add("tap on a gliding list", Gesture::TapOnGliding, u"0 scrolled"_s, u"0 scrolled"_s,
         u"0 scrolled"_s);
+    QTest::newRow("icon grid: tap") << List::IconGrid << Gesture::Tap << u"closed"_s;
+    QTest::newRow("icon grid: slow swipe")
+        << List::IconGrid << Gesture::SlowSwipe << u"0 scrolled"_s;
     QTest::newRow("rows: two taps") << List::Rows << Gesture::TwoTaps << u"4"_s;
     QTest::newRow("rows: tap in a square") << List::Rows << Gesture::TapInSquare << u"4 ticked"_s;
     QTest::newRow("rows: double tap in a square")
