@@ -40,6 +40,9 @@ private Q_SLOTS:
     void theGridOfColoursIsInOrderOfTheirValues();
     void arrowKeysGoThroughTheColoursInOrder();
     void aColourIsPickedInTheGrid();
+    void arrowKeysGoTheirWayThroughTheGrid_data();
+    void arrowKeysGoTheirWayThroughTheGrid();
+    void aPointerPicksOnlyByWhatItDoesInTheGrid();
     void landscapeEnablesItsHands();
     void anOrientationThatIsNotRightHandedIsLeftHanded();
     void importColumnsAreMovedNotLeftOut();
@@ -192,6 +195,54 @@ void PickersTest::aColourIsPickedInTheGrid()
     }
     // The one that was shown already is told again.
     QCOMPARE(picked.count(), 2);
+}
+
+void PickersTest::arrowKeysGoTheirWayThroughTheGrid_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<size_t>("place");
+    // From the second one of the second column of six.
+    QTest::newRow("left") << int { Qt::Key_Left } << size_t { 1 };
+    QTest::newRow("right") << int { Qt::Key_Right } << size_t { 13 };
+    QTest::newRow("up") << int { Qt::Key_Up } << size_t { 6 };
+    QTest::newRow("down") << int { Qt::Key_Down } << size_t { 8 };
+}
+
+void PickersTest::arrowKeysGoTheirWayThroughTheGrid()
+{
+    QFETCH(const int, key);
+    QFETCH(const size_t, place);
+    ColourButton button;
+    button.SetColour(ColoursByValue().at(7));
+    button.show();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    auto* grid = button.findChild<ColourGrid*>();
+    QTest::keyClick(grid->focusWidget(), static_cast<Qt::Key>(key));
+    QTest::keyClick(grid->focusWidget(), Qt::Key_Return);
+    QCOMPARE(button.Colour(), ColoursByValue().at(place));
+}
+
+void PickersTest::aPointerPicksOnlyByWhatItDoesInTheGrid()
+{
+    ColourButton button;
+    const QSignalSpy picked(&button, &ColourButton::ColourPicked);
+    button.SetColour(22);
+    button.move(100, 100);
+    button.show();
+    const QPoint place = button.rect().center();
+    QCursor::setPos(button.mapToGlobal(place));
+    QTest::mouseClick(&button, Qt::LeftButton, {}, place);
+    QTest::qWait(20);
+    auto* grid = button.findChild<ColourGrid*>();
+    // It opened under the pointer, which takes no part in it by resting there.
+    QWidget* below = grid->childAt(grid->mapFromGlobal(button.mapToGlobal(place)));
+    QVERIFY(below != nullptr);
+    QCOMPARE(grid->focusWidget()->objectName(), u"colour22"_s);
+    QTest::mouseDClick(below, Qt::LeftButton);
+    QTest::mouseRelease(below, Qt::LeftButton);
+    QCOMPARE(picked.count(), 0);
+    QTest::mouseMove(below, { 1, 1 });
+    QCOMPARE(grid->focusWidget(), below);
 }
 
 void PickersTest::landscapeEnablesItsHands()

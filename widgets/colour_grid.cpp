@@ -5,8 +5,10 @@
 #include "widgets/measures.h"
 
 #include <QAbstractButton>
+#include <QCursor>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -34,10 +36,29 @@ public:
         setCheckable(true);
         setChecked(isSelected);
         setFocusPolicy(Qt::StrongFocus);
+        setMouseTracking(true);
         const int size = std::min(CurrentMeasures().lineHeight + 2 * kSwatchInset, kMinTouchTarget);
         setFixedSize(size, size);
     }
-    void enterEvent(QEnterEvent* /*event*/) override { setFocus(); }
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        // A pointer that rests where the grid opened leaves the keyboard its place.
+        if (event->globalPosition().toPoint() != m_restingPointer)
+            setFocus();
+        QAbstractButton::mouseMoveEvent(event);
+    }
+    void mouseDoubleClickEvent(QMouseEvent* /*event*/) override
+    {
+        // Its first click opened the grid.
+    }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        // A button's own arrows go from one to the next, whatever lies beside it.
+        if (event->key() == Qt::Key_Space)
+            QAbstractButton::keyPressEvent(event);
+        else
+            event->ignore();
+    }
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
@@ -67,6 +88,7 @@ public:
 
 private:
     quint32 m_index;
+    QPoint m_restingPointer = QCursor::pos();
 };
 
 } // namespace
