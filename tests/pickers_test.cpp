@@ -12,11 +12,13 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QWheelEvent>
 
 #include <utility>
 
@@ -43,6 +45,7 @@ private Q_SLOTS:
     void arrowKeysGoTheirWayThroughTheGrid_data();
     void arrowKeysGoTheirWayThroughTheGrid();
     void aPointerPicksOnlyByWhatItDoesInTheGrid();
+    void theWheelLeavesAClosedDropDownAlone();
     void landscapeEnablesItsHands();
     void anOrientationThatIsNotRightHandedIsLeftHanded();
     void importColumnsAreMovedNotLeftOut();
@@ -243,6 +246,22 @@ void PickersTest::aPointerPicksOnlyByWhatItDoesInTheGrid()
     QCOMPARE(picked.count(), 0);
     QTest::mouseMove(below, { 1, 1 });
     QCOMPARE(grid->focusWidget(), below);
+}
+
+void PickersTest::theWheelLeavesAClosedDropDownAlone()
+{
+    QApplication::setStyle(new AppStyle);
+    QWidget place;
+    auto* box = new QComboBox(&place);
+    box->addItems({ u"one"_s, u"two"_s });
+    place.show();
+    box->setFocus();
+    QWheelEvent wheel({ 5, 5 }, box->mapToGlobal(QPoint(5, 5)), {}, { 0, -120 }, Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(box, &wheel);
+    QCOMPARE(box->currentIndex(), 0);
+    // What it lies upon may scroll.
+    QVERIFY(!wheel.isAccepted());
 }
 
 void PickersTest::landscapeEnablesItsHands()

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void keysOpenTheMenuOfTheRow();
     void readOnlyLetsNothingChange();
     void columnsAreDraggedByTouch();
+    void aDoubleClickOnADividerFitsTheColumn_data();
+    void aDoubleClickOnADividerFitsTheColumn();
     void widthsAndOrderAreKept();
     void aVanishedRowShowsErr();
     void looksFollowWarnings_data();
@@ -339,6 +341,31 @@ void RowsViewTest::columnsAreDraggedByTouch()
     QTest::touchEvent(header->viewport(), screen.get()).release(0, to);
     QCOMPARE(header->visualIndex(Price), 0);
     QCOMPARE(m_errand->Lines(), u"rice salt"_s);
+}
+
+void RowsViewTest::aDoubleClickOnADividerFitsTheColumn_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("widest");
+    QTest::newRow("text") << int { Name } << u"a name that is far wider than its column"_s;
+    QTest::newRow("numbers") << int { Price } << u"1,234,567,890.00"_s;
+    QTest::newRow("narrower than its title") << int { Count } << u"Quantity"_s;
+}
+
+void RowsViewTest::aDoubleClickOnADividerFitsTheColumn()
+{
+    QFETCH(const int, column);
+    QFETCH(const QString, widest);
+    File().Add({ u"a name that is far wider than its column"_s, u"1"_s, u"top"_s, u"Unchecked"_s,
+        u"1234567890"_s });
+    m_errand->Open();
+    QHeaderView* header = View()->horizontalHeader();
+    header->resizeSection(column, 150);
+    const int end = header->sectionViewportPosition(column) + 150;
+    QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, { end - 1, header->height() / 2 });
+    const int text = View()->fontMetrics().horizontalAdvance(widest);
+    QVERIFY2(header->sectionSize(column) >= text, qPrintable(QString::number(text)));
+    QVERIFY(header->sectionSize(column) <= text + 40);
 }
 
 void RowsViewTest::widthsAndOrderAreKept()
