@@ -4,11 +4,18 @@
 #include "tests/finger.h"
 #include "tests/rows_view_errand.h"
 #include "tests/test_program.h"
+#include "widgets/colour_button.h"
+#include "widgets/form.h"
 #include "widgets/icon_grid_page.h"
+#include "widgets/measures.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QPointer>
 #include <QScrollBar>
 #include <QStyleHints>
+#include <QToolButton>
+#include <QVBoxLayout>
 
 #include <memory>
 #include <vector>
@@ -25,6 +32,8 @@ private Q_SLOTS:
     void aFingerActsOnTheReleaseOfATap_data();
     void aFingerActsOnTheReleaseOfATap();
     void aMouseSelectsOnItsPress();
+    void controlsOfAFormActOnATapAlone_data();
+    void controlsOfAFormActOnATapAlone();
 
 private:
     enum class List
@@ -225,6 +234,65 @@ void TouchTest::aMouseSelectsOnItsPress()
     QTest::mouseDClick(below, Qt::LeftButton, {}, line);
     QTest::mouseRelease(below, Qt::LeftButton, {}, line);
     QCOMPARE(rows->currentIndex().row(), 0);
+}
+
+void TouchTest::controlsOfAFormActOnATapAlone_data()
+{
+    QTest::addColumn<int>("control");
+    QTest::newRow("check box") << 0;
+    QTest::newRow("drop-down") << 1;
+    QTest::newRow("colour") << 2;
+    QTest::newRow("button") << 3;
+}
+
+void TouchTest::controlsOfAFormActOnATapAlone()
+{
+    QFETCH(const int, control);
+    SetIntervals(0, 10000);
+    QWidget window;
+    auto* content = new QWidget(&window);
+    auto* lines = new QVBoxLayout(content);
+    QCheckBox box;
+    QComboBox dropDown;
+    dropDown.addItems({ u"one"_s, u"two"_s });
+    ColourButton colour;
+    QToolButton button;
+    int clicks = 0;
+    connect(&button, &QToolButton::clicked, this, [&clicks] { ++clicks; });
+    const QList<QWidget*> controls { &box, &dropDown, &colour, &button };
+    for (QWidget* line : controls) {
+        line->setFixedSize(kMinTouchTarget, kMinTouchTarget);
+        lines->addWidget(line);
+    }
+    lines->insertSpacing(0, 80);
+    lines->addSpacing(800);
+    auto* area = MakeScrollable(content);
+    area->resize(200, 300);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    // A finger does not move along with what it scrolls.
+    const Finger finger(window);
+    const auto place = [&] { return controls.at(control)->mapTo(&window, QPoint(10, 22)); };
+    const auto hasActed = [&] {
+        QWidget* popup = QApplication::activePopupWidget();
+        if (popup != nullptr)
+            popup->close();
+        return popup != nullptr || box.isChecked() || clicks > 0;
+    };
+    // Slowly, so that it does not glide on.
+    finger.Swipe(place(), place() - QPoint(0, 60), 400);
+    QVERIFY(!hasActed());
+    QVERIFY(content->y() < 0);
+    finger.Tap(place());
+    QVERIFY(hasActed());
+    // A held one repeats.
+    button.setAutoRepeat(true);
+    button.setAutoRepeatDelay(1);
+    SetIntervals(0, 20);
+    finger.Press(button.mapTo(&window, QPoint(10, 22)));
+    QTRY_VERIFY(clicks > 2);
+    finger.Release(button.mapTo(&window, QPoint(10, 22)));
+    QVERIFY(!button.isDown());
 }
 
 QUILLORY_TEST(QApplication, TouchTest)

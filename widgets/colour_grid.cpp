@@ -5,7 +5,9 @@
 #include "widgets/measures.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCursor>
+#include <QElapsedTimer>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -37,6 +39,7 @@ public:
         setChecked(isSelected);
         setFocusPolicy(Qt::StrongFocus);
         setMouseTracking(true);
+        m_opened.start();
         const int size = std::min(CurrentMeasures().lineHeight + 2 * kSwatchInset, kMinTouchTarget);
         setFixedSize(size, size);
     }
@@ -47,9 +50,13 @@ public:
             setFocus();
         QAbstractButton::mouseMoveEvent(event);
     }
-    void mouseDoubleClickEvent(QMouseEvent* /*event*/) override
+    void mousePressEvent(QMouseEvent* event) override
     {
-        // Its first click opened the grid.
+        // The second one of a double click or tap falls where the first one opened the grid.
+        const QWidget* button = window()->parentWidget();
+        if (m_opened.elapsed() > QApplication::doubleClickInterval()
+            || !button->rect().contains(button->mapFromGlobal(event->globalPosition().toPoint())))
+            QAbstractButton::mousePressEvent(event);
     }
     void keyPressEvent(QKeyEvent* event) override
     {
@@ -89,6 +96,7 @@ public:
 private:
     quint32 m_index;
     QPoint m_restingPointer = QCursor::pos();
+    QElapsedTimer m_opened;
 };
 
 } // namespace

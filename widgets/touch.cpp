@@ -42,13 +42,25 @@ QPointer<QObject>& LatestPressed()
     return pressed;
 }
 
-void SendMouse(QWidget& widget, QEvent::Type type, const QPoint& place)
+void SendMouse(QWidget& widget, QEvent::Type type, const QPoint& globalPlace)
 {
-    const QPoint globalPlace = widget.mapToGlobal(place);
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     const auto buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, place, widget.window()->mapFromGlobal(globalPlace), globalPlace,
-        Qt::LeftButton, buttons, QGuiApplication::keyboardModifiers());
+    QMouseEvent event(type, widget.mapFromGlobal(globalPlace),
+        widget.window()->mapFromGlobal(globalPlace), globalPlace, button, buttons,
+        QGuiApplication::keyboardModifiers());
     QCoreApplication::sendEvent(&widget, &event);
+}
+
+/// Gives the keyboard to what a press of a mouse would give it to.
+void FocusByPress(QWidget* widget)
+{
+    while (!widget->isEnabled() || (widget->focusPolicy() & Qt::ClickFocus) == 0) {
+        if (widget->isWindow())
+            return;
+        widget = widget->parentWidget();
+    }
+    widget->setFocus(Qt::MouseFocusReason);
 }
 
 } // namespace
@@ -123,21 +135,24 @@ bool TouchBehaviour::TakeTouch(const QTouchEvent& touch)
     const QPointF place = touch.points().front().position();
     const auto time = static_cast<qint64>(touch.timestamp());
     if (touch.type() == QEvent::TouchBegin) {
-        // What lies upon the view, as a field that is being edited, is touched as by a mouse.
-        if (m_view->viewport()->childAt(place.toPoint()) != nullptr)
-            return false;
-        const bool isMoving = Scroller().state() == QScroller::Scrolling;
+        m_isTap = Scroller().state() != QScroller::Scrolling;
+        m_isDragging = false;
         Scroller().handleInput(QScroller::InputPress, place, time);
-        m_isTap = !isMoving;
         if (m_isTap)
-            Begin(place.toPoint(), touch.timestamp());
+            Begin(m_view->viewport()->childAt(place.toPoint()), place.toPoint(), touch.timestamp());
         return true;
     }
-    Follow(touch.pointCount() == 1 ? place.toPoint() : QPoint(-1, -1));
     const bool isEnd = touch.type() == QEvent::TouchEnd;
+    if (!m_isDragging)
+        Follow(touch.pointCount() == 1 ? place.toPoint() : QPoint(-1, -1));
+    else if (m_control != nullptr)
+        SendMouse(*m_control, isEnd ? QEvent::MouseButtonRelease : QEvent::MouseMove,
+            m_view->viewport()->mapToGlobal(place.toPoint()));
     Scroller().handleInput(isEnd ? QScroller::InputRelease : QScroller::InputMove, place, time);
     if (isEnd && m_isTap)
         Tap();
+    if (isEnd)
+        m_control = nullptr;
     return true;
 }
 
@@ -147,8 +162,9 @@ bool TouchBehaviour::TakeMouse(const QMouseEvent& mouse)
     case QEvent::MouseButtonPress:
         LatestPressed() = this;
         m_isClickSpent = false;
-        if (mouse.button() == Qt::LeftButton)
-            Begin(mouse.position().toPoint(), mouse.timestamp());
+        // What a control that is touched leaves to the view comes here as well.
+        if (mouse.button() == Qt::LeftButton && m_control == nullptr)
+            Begin(nullptr, mouse.position().toPoint(), mouse.timestamp());
         return false;
     case QEvent::MouseButtonDblClick:
         m_isClickSpent = LatestPressed() != this;
@@ -162,11 +178,12 @@ bool TouchBehaviour::TakeMouse(const QMouseEvent& mouse)
     }
 }
 
-void TouchBehaviour::Begin(const QPoint& position, quint64 timeMs)
+void TouchBehaviour::Begin(QWidget* control, const QPoint& position, quint64 timeMs)
 {
+    m_control = control;
     m_start = position;
     m_startTimeMs = timeMs;
-    if (HasMenu())
+    if (control != nullptr || HasMenu())
         m_holdTimer.start(QGuiApplication::styleHints()->mousePressAndHoldInterval());
 }
 
@@ -187,19 +204,24 @@ void TouchBehaviour::Tap()
 {
     m_isTap = false;
     m_holdTimer.stop();
-    const QPointer<QWidget> viewport = m_view->viewport();
-    const bool isSecond = IsSecondTap(viewport->mapToGlobal(m_start), m_startTimeMs);
-    SendMouse(
-        *viewport, isSecond ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, m_start);
-    if (viewport != nullptr)
-        SendMouse(*viewport, QEvent::MouseButtonRelease, m_start);
+    const QPoint place = m_view->viewport()->mapToGlobal(m_start);
+    const QPointer<QWidget> target = m_control != nullptr ? m_control.data() : m_view->viewport();
+    FocusByPress(target);
+    const bool isSecond = IsSecondTap(place, m_startTimeMs);
+    SendMouse(*target, isSecond ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, place);
+    if (target != nullptr)
+        SendMouse(*target, QEvent::MouseButtonRelease, place);
 }
 
 void TouchBehaviour::Hold()
 {
     m_isTap = false;
     Scroller().stop();
-    AskForMenu(m_start);
+    if (m_control == nullptr)
+        return AskForMenu(m_start);
+    m_isDragging = true;
+    FocusByPress(m_control);
+    SendMouse(*m_control, QEvent::MouseButtonPress, m_view->viewport()->mapToGlobal(m_start));
 }
 
 void TouchBehaviour::HoldCurrent()

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 #include <QTimer>
 
 class QAbstractScrollArea;
@@ -40,8 +41,12 @@ private:
     /// Where the finger or the button went down, and when.
     QPoint m_start;
     quint64 m_startTimeMs = 0;
+    /// What lies upon the view where the finger went down, if anything does.
+    QPointer<QWidget> m_control;
     /// The touch is neither a swipe nor a hold so far, and stopped nothing.
     bool m_isTap = false;
+    /// The finger was held on a control and is a mouse from there on.
+    bool m_isDragging = false;
     /// The click that is under way is nobody's.
     bool m_isClickSpent = false;
 
@@ -49,7 +54,7 @@ private:
     [[nodiscard]] QScroller& Scroller() const;
     bool TakeTouch(const QTouchEvent& touch);
     bool TakeMouse(const QMouseEvent& mouse);
-    void Begin(const QPoint& position, quint64 timeMs);
+    void Begin(QWidget* control, const QPoint& position, quint64 timeMs);
     void Follow(const QPoint& position);
     void Tap();
     void Hold();
