@@ -15,11 +15,13 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointingDevice>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
+#include <memory>
 #include <utility>
 
 using namespace Quillory;
@@ -198,6 +200,11 @@ void PickersTest::aColourIsPickedInTheGrid()
     }
     // The one that was shown already is told again.
     QCOMPARE(picked.count(), 2);
+    // All of them can be reached in the smallest window, where they are largest.
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    auto* grid = new ColourGrid(5, &button);
+    grid->Open({}, QRect(0, 0, 240, 320));
+    QVERIFY2(grid->width() <= 240, qPrintable(QString::number(grid->width())));
 }
 
 void PickersTest::arrowKeysGoTheirWayThroughTheGrid_data()
@@ -227,11 +234,12 @@ void PickersTest::arrowKeysGoTheirWayThroughTheGrid()
 
 void PickersTest::aPointerPicksOnlyByWhatItDoesInTheGrid()
 {
-    ColourButton button;
+    QWidget window;
+    window.setGeometry(100, 100, 360, 640);
+    ColourButton button(&window);
     const QSignalSpy picked(&button, &ColourButton::ColourPicked);
     button.SetColour(22);
-    button.move(100, 100);
-    button.show();
+    window.show();
     const QPoint place = button.rect().center();
     QCursor::setPos(button.mapToGlobal(place));
     QTest::mouseClick(&button, Qt::LeftButton, {}, place);

@@ -40,8 +40,6 @@ public:
         setFocusPolicy(Qt::StrongFocus);
         setMouseTracking(true);
         m_opened.start();
-        const int size = std::min(CurrentMeasures().lineHeight + 2 * kSwatchInset, kMinTouchTarget);
-        setFixedSize(size, size);
     }
     void mouseMoveEvent(QMouseEvent* event) override
     {
@@ -123,6 +121,14 @@ ColourGrid::ColourGrid(quint32 selected, QWidget* parent)
 
 void ColourGrid::Open(const QPoint& topLeft, const QRect& window)
 {
+    // Smaller ones where the window has no room for six.
+    const int room = window.width() - layout()->contentsMargins().left()
+        - layout()->contentsMargins().right() - (kColumnLength - 1) * layout()->spacing()
+        - 2 * frameWidth();
+    const int size = std::min(
+        { CurrentMeasures().lineHeight + 2 * kSwatchInset, kMinTouchTarget, room / kColumnLength });
+    for (auto* swatch : findChildren<QAbstractButton*>())
+        swatch->setFixedSize(size, size);
     adjustSize();
     const int right = std::max(window.left(), window.right() + 1 - width());
     const int bottom = std::max(window.top(), window.bottom() + 1 - height());
