@@ -28,7 +28,7 @@ class TouchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase() const;
     void aFingerActsOnTheReleaseOfATap_data();
     void aFingerActsOnTheReleaseOfATap();
     void aMouseSelectsOnItsPress();
@@ -74,7 +74,7 @@ private:
     [[nodiscard]] QString Seen() const;
 };
 
-void TouchTest::initTestCase()
+void TouchTest::initTestCase() const
 {
     for (int i = 0; i < kLines; ++i)
         m_errand.file.Add({ u"row"_s, u"1"_s, u"top"_s, u"Unchecked"_s, u"1"_s });
@@ -92,9 +92,9 @@ void TouchTest::Open(List list)
     m_page = m_errand.page;
     if (list == List::Home) {
         auto* home = new HomeList;
-        std::vector<ListCatalogue::HomeListEntry> lists;
-        for (int i = 0; i < kLines; ++i)
-            lists.push_back({ ObjectId(i + 1), u"list %1"_s.arg(1000 + i), 0 });
+        std::vector<ListCatalogue::HomeListEntry> lists(kLines);
+        for (quint32 i = 0; i < kLines; ++i)
+            lists[i] = { ObjectId(i + 1), u"list %1"_s.arg(1000 + i), 0 };
         home->Fill(lists);
         connect(home, &HomeList::ListChosen, this, [this] {
             m_errand.stack->Push(
