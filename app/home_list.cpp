@@ -79,7 +79,6 @@ void HomeList::BuildView()
     m_view->setUniformRowHeights(true);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_view->setTextElideMode(Qt::ElideRight);
     const int icon = CurrentMeasures().iconSize;
@@ -211,9 +210,6 @@ void HomeList::FlipDirection()
 
 void HomeList::OpenListMenu(const QPoint& position)
 {
-    const QModelIndex index = m_view->indexAt(position);
-    if (index.isValid())
-        m_view->setCurrentIndex(index);
     if (SelectedList() != kNoObject)
         OpenContextMenu(
             MenuEntries(MenuId::ListContext), m_view->viewport()->mapToGlobal(position));

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -49,6 +50,10 @@ ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, Q
     Body()->addLayout(buttons);
     connect(m_up, &QPushButton::clicked, this, [this] { Move(-1); });
     connect(m_down, &QPushButton::clicked, this, [this] { Move(1); });
+    for (const auto& [key, button] : { std::pair { Qt::CTRL | Qt::Key_Up, m_up },
+             std::pair { Qt::CTRL | Qt::Key_Down, m_down } })
+        connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
+            &QShortcut::activated, button, &QPushButton::click);
     connect(m_list, &QListWidget::itemSelectionChanged, this, &ImportOrderPage::UpdateButtons);
     m_list->setCurrentRow(0);
     UpdateButtons();
@@ -60,8 +65,13 @@ ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, Q
 void ImportOrderPage::UpdateButtons()
 {
     const int row = m_list->selectedItems().isEmpty() ? -1 : m_list->currentRow();
-    m_up->setEnabled(row > 0);
-    m_down->setEnabled(row >= 0 && row + 1 < m_list->count());
+    for (const auto& [button, canMove] : { std::pair { m_up, row > 0 },
+             std::pair { m_down, row >= 0 && row + 1 < m_list->count() } }) {
+        // Else the toolkit gives the keyboard to the next control, which may be Cancel.
+        if (!canMove && button->hasFocus())
+            m_list->setFocus();
+        button->setEnabled(canMove);
+    }
 }
 
 void ImportOrderPage::Move(int by)

@@ -34,9 +34,6 @@ QString SampleText(ColumnType type)
     return {};
 }
 
-/// Wider columns are no work of a person's hand.
-constexpr int kMaxWidth = 10000;
-
 bool IsPermutation(const std::vector<quint32>& order, size_t count)
 {
     std::vector<quint32> sorted = order;
@@ -63,7 +60,7 @@ void ApplyColumnLayout(QHeaderView& header, const InventoryList& list)
     for (int column = 0; column < std::min<int>(static_cast<int>(widths.size()), header.count());
          ++column) {
         const int width = LeadingInteger(widths[column]);
-        if (width > 0 && width <= kMaxWidth)
+        if (width > 0 && width <= kMaxColumnWidth)
             header.resizeSection(column, width);
     }
     if (!IsPermutation(list.columnOrder, list.columns.size()))

@@ -26,6 +26,11 @@ void RowDelegate::BeginFrame(const QFont& font, const QPalette& palette)
         m_painter = RowPainter(font);
 }
 
+int RowDelegate::WidthFor(const QModelIndex& index) const
+{
+    return m_painter.WidthFor(m_model.Text(index.row(), index.column()));
+}
+
 void RowDelegate::paint(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {

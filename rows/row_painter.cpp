@@ -44,6 +44,11 @@ int RowPainter::Face::AdvanceOf(QChar character) const
     return code < advances.size() ? advances[code] : metrics.horizontalAdvance(character);
 }
 
+int RowPainter::Face::EvenAdvanceOf(QChar character) const
+{
+    return IsFigure(character) ? figureWidth : AdvanceOf(character);
+}
+
 int RowPainter::Face::RoughWidth(const QString& text) const
 {
     int width = 0;
@@ -79,8 +84,15 @@ QRect RowPainter::CheckboxSquare(const QRect& cell)
 
 QRect RowPainter::TextRoom(const QRect& cell) const
 {
-    const int margin = m_upright.metrics.averageCharWidth();
-    return cell.adjusted(margin, 0, -margin, 0);
+    return cell.adjusted(Margin(), 0, -Margin(), 0);
+}
+
+int RowPainter::WidthFor(const QString& text) const
+{
+    int width = 2 * Margin();
+    for (const QChar character : text)
+        width += std::max(m_upright.EvenAdvanceOf(character), m_italic.EvenAdvanceOf(character));
+    return width;
 }
 
 QString RowPainter::Cut(const Face& face, const QString& text, int width)
@@ -113,12 +125,9 @@ void RowPainter::DrawNumber(
         painter.drawText(room.right() + 1 - face.RoughWidth(shown), base, shown);
         return;
     }
-    const auto widthOf = [&face](QChar character) {
-        return IsFigure(character) ? face.figureWidth : face.AdvanceOf(character);
-    };
     int x = room.right() + 1;
     for (auto character = shown.crbegin(); character != shown.crend(); ++character) {
-        const int width = widthOf(*character);
+        const int width = face.EvenAdvanceOf(*character);
         x -= width;
         painter.drawText(x + (width - face.AdvanceOf(*character)) / 2, base, QString(*character));
     }

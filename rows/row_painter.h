@@ -33,6 +33,9 @@ public:
     /// Marks the checkbox that the keyboard would tick.
     static void DrawFocus(QPainter& painter, const QRect& cell, const RowLook& look);
 
+    /// The width of a cell in which no text of DrawLabel or DrawNumber is cut.
+    [[nodiscard]] int WidthFor(const QString& text) const;
+
     /// The square of a checkbox within its cell: what a tap must hit.
     [[nodiscard]] static QRect CheckboxSquare(const QRect& cell);
 
@@ -51,6 +54,8 @@ private:
         bool hasEvenFigures = false;
 
         [[nodiscard]] int AdvanceOf(QChar character) const;
+        /// The same, all figures being of one width.
+        [[nodiscard]] int EvenAdvanceOf(QChar character) const;
         /// The sum of the characters' advances. Close to the width of the text, if not exact.
         [[nodiscard]] int RoughWidth(const QString& text) const;
         /// Where the base line of a line of text is that stands in the middle of `room`.
@@ -63,6 +68,7 @@ private:
     QIcon m_unchecked;
 
     [[nodiscard]] const Face& FaceOf(const RowLook& look) const;
+    [[nodiscard]] int Margin() const { return m_upright.metrics.averageCharWidth(); }
     [[nodiscard]] QRect TextRoom(const QRect& cell) const;
     [[nodiscard]] static QString Cut(const Face& face, const QString& text, int width);
 };

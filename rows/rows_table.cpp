@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rows/rows_table.h"
 
+#include "rows/column_layout.h"
 #include "rows/row_delegate.h"
 #include "rows/rows_model.h"
 #include "widgets/line_view.h"
@@ -173,6 +174,20 @@ void RowsTable::Arrange()
 int RowsTable::verticalOffset() const
 {
     return verticalScrollBar()->value();
+}
+
+int RowsTable::sizeHintForColumn(int column) const
+{
+    // Of a million rows those that the person may be looking for.
+    constexpr int kMaxLines = 500;
+    m_delegate->BeginFrame(font(), palette());
+    const int first
+        = std::clamp(verticalOffset() / LineHeight(), 0, std::max(0, LineCount() - kMaxLines));
+    const int end = std::min(first + kMaxLines, LineCount());
+    int width = 0;
+    for (int line = first; line < end; ++line)
+        width = std::max(width, m_delegate->WidthFor(model()->index(line, column)));
+    return std::min(width, kMaxColumnWidth);
 }
 
 QModelIndex RowsTable::moveCursor(CursorAction action, Qt::KeyboardModifiers /*modifiers*/)

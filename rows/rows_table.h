@@ -32,6 +32,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void updateGeometries() override;
     [[nodiscard]] int verticalOffset() const override;
+    /// The width that the texts of the lines shown, and of some more, need.
+    [[nodiscard]] int sizeHintForColumn(int column) const override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void setSelection(const QRect& area, QItemSelectionModel::SelectionFlags command) override;
     [[nodiscard]] QRegion visualRegionForSelection(const QItemSelection& selection) const override;

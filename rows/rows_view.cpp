@@ -350,6 +350,8 @@ void RowsView::DoubleTapCell(const QModelIndex& index)
 {
     if (m_options.isReadOnly)
         return;
+    // The click that ends a double one is no further tap, in no square.
+    m_tapPosition = { -1, -1 };
     if (m_checkboxColumns.size() == 1)
         ToggleCheckbox(index.row(), m_checkboxColumns.front());
     else
@@ -427,7 +429,7 @@ void RowsView::ShowFound(const FilterEntry& condition)
 
 bool RowsView::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress)
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
         m_tapPosition = static_cast<QMouseEvent*>(event)->position().toPoint();
     if (watched == m_view && event->type() == QEvent::KeyPress
         && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {

@@ -2,6 +2,7 @@
 #include "listdef/column_definition_page.h"
 #include "listdef/column_table_model.h"
 #include "listdef/list_sheet.h"
+#include "tests/finger.h"
 #include "tests/test_program.h"
 #include "values/column_type.h"
 #include "widgets/colour_button.h"
@@ -267,9 +268,10 @@ void ListSheetTest::theIconIsSteppedOrChosenInTheGrid()
         grid->visualRect(grid->model()->index(7, 0)).center());
     QCOMPARE(m_stack->Top(), m_page);
     QCOMPARE(icon(), 7);
-    // Cancelled, and after a tap on nothing, the old one stays.
-    QTest::mouseClick(Find<QWidget>(u"allIcons"_s), Qt::LeftButton);
+    // The picture opens the grid, too. Cancelled, and after a tap on nothing, the old one stays.
+    Finger(*Find<QWidget>(u"listIcon"_s)).Tap({ 20, 20 });
     grid = m_stack->Top()->findChild<IconGrid*>();
+    QVERIFY(grid != nullptr);
     const QRect last = grid->visualRect(grid->model()->index(42, 0));
     QTest::mouseClick(
         grid->viewport(), Qt::LeftButton, {}, last.center() + QPoint(last.width(), 0));

@@ -3,6 +3,7 @@
 #include "listdef/import_order_page.h"
 #include "tests/test_program.h"
 #include "values/column_type.h"
+#include "widgets/app_style.h"
 #include "widgets/colour_button.h"
 #include "widgets/colour_grid.h"
 #include "widgets/colour_palette.h"
@@ -11,11 +12,16 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPointingDevice>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QWheelEvent>
 
+#include <memory>
 #include <utility>
 
 using namespace Quillory;
@@ -32,10 +38,16 @@ private Q_SLOTS:
     void aPlaceBelongsToACell();
     void arrowKeysWrapAsTheGridDoes_data();
     void arrowKeysWrapAsTheGridDoes();
+    void theFocusOfTheIconGridIsSeen_data();
+    void theFocusOfTheIconGridIsSeen();
     void everyIconHasADrawingAndANameOfItsOwn();
     void theGridOfColoursIsInOrderOfTheirValues();
     void arrowKeysGoThroughTheColoursInOrder();
     void aColourIsPickedInTheGrid();
+    void arrowKeysGoTheirWayThroughTheGrid_data();
+    void arrowKeysGoTheirWayThroughTheGrid();
+    void aPointerPicksOnlyByWhatItDoesInTheGrid();
+    void theWheelLeavesAClosedDropDownAlone();
     void landscapeEnablesItsHands();
     void anOrientationThatIsNotRightHandedIsLeftHanded();
     void importColumnsAreMovedNotLeftOut();
@@ -106,6 +118,33 @@ void PickersTest::arrowKeysWrapAsTheGridDoes()
     QTEST(layout.Step(from, static_cast<Qt::Key>(key)), "to");
 }
 
+void PickersTest::theFocusOfTheIconGridIsSeen_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("light") << QPalette(Qt::white);
+    QTest::newRow("dark") << QPalette(Qt::black);
+}
+
+void PickersTest::theFocusOfTheIconGridIsSeen()
+{
+    QFETCH(const QPalette, palette);
+    QApplication::setStyle(new AppStyle);
+    QWidget window;
+    auto* grid = new IconGrid(&window);
+    auto* other = new QLineEdit(&window);
+    window.setPalette(palette);
+    grid->resize(300, 300);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    grid->SelectIcon(3);
+    const QRect cell = grid->visualRect(grid->model()->index(3, 0));
+    const auto picture = [grid, cell] { return grid->viewport()->grab(cell).toImage(); };
+    grid->setFocus();
+    const QImage focused = picture();
+    other->setFocus();
+    QVERIFY(focused != picture());
+}
+
 void PickersTest::everyIconHasADrawingAndANameOfItsOwn()
 {
     QSet<QByteArray> drawings;
@@ -161,6 +200,76 @@ void PickersTest::aColourIsPickedInTheGrid()
     }
     // The one that was shown already is told again.
     QCOMPARE(picked.count(), 2);
+    // All of them can be reached in the smallest window, where they are largest.
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    auto* grid = new ColourGrid(5, &button);
+    grid->Open({}, QRect(0, 0, 240, 320));
+    QVERIFY2(grid->width() <= 240, qPrintable(QString::number(grid->width())));
+}
+
+void PickersTest::arrowKeysGoTheirWayThroughTheGrid_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<size_t>("place");
+    // From the second one of the second column of six.
+    QTest::newRow("left") << int { Qt::Key_Left } << size_t { 1 };
+    QTest::newRow("right") << int { Qt::Key_Right } << size_t { 13 };
+    QTest::newRow("up") << int { Qt::Key_Up } << size_t { 6 };
+    QTest::newRow("down") << int { Qt::Key_Down } << size_t { 8 };
+}
+
+void PickersTest::arrowKeysGoTheirWayThroughTheGrid()
+{
+    QFETCH(const int, key);
+    QFETCH(const size_t, place);
+    ColourButton button;
+    button.SetColour(ColoursByValue().at(7));
+    button.show();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    auto* grid = button.findChild<ColourGrid*>();
+    QTest::keyClick(grid->focusWidget(), static_cast<Qt::Key>(key));
+    QTest::keyClick(grid->focusWidget(), Qt::Key_Return);
+    QCOMPARE(button.Colour(), ColoursByValue().at(place));
+}
+
+void PickersTest::aPointerPicksOnlyByWhatItDoesInTheGrid()
+{
+    QWidget window;
+    window.setGeometry(100, 100, 360, 640);
+    ColourButton button(&window);
+    const QSignalSpy picked(&button, &ColourButton::ColourPicked);
+    button.SetColour(22);
+    window.show();
+    const QPoint place = button.rect().center();
+    QCursor::setPos(button.mapToGlobal(place));
+    QTest::mouseClick(&button, Qt::LeftButton, {}, place);
+    QTest::qWait(20);
+    auto* grid = button.findChild<ColourGrid*>();
+    // It opened under the pointer, which takes no part in it by resting there.
+    QWidget* below = grid->childAt(grid->mapFromGlobal(button.mapToGlobal(place)));
+    QVERIFY(below != nullptr);
+    QCOMPARE(grid->focusWidget()->objectName(), u"colour22"_s);
+    QTest::mouseDClick(below, Qt::LeftButton);
+    QTest::mouseRelease(below, Qt::LeftButton);
+    QCOMPARE(picked.count(), 0);
+    QTest::mouseMove(below, { 1, 1 });
+    QCOMPARE(grid->focusWidget(), below);
+}
+
+void PickersTest::theWheelLeavesAClosedDropDownAlone()
+{
+    QApplication::setStyle(new AppStyle);
+    QWidget place;
+    auto* box = new QComboBox(&place);
+    box->addItems({ u"one"_s, u"two"_s });
+    place.show();
+    box->setFocus();
+    QWheelEvent wheel({ 5, 5 }, box->mapToGlobal(QPoint(5, 5)), {}, { 0, -120 }, Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(box, &wheel);
+    QCOMPARE(box->currentIndex(), 0);
+    // What it lies upon may scroll.
+    QVERIFY(!wheel.isAccepted());
 }
 
 void PickersTest::landscapeEnablesItsHands()
@@ -188,15 +297,22 @@ void PickersTest::importColumnsAreMovedNotLeftOut()
     const PropertyId price = MakePropertyId(77, CEVT_R8);
     ImportOrderPage page(
         { { u"Name"_s, 20, PropName }, { u"Count"_s, 21, PropCount }, { u"Price"_s, 2, price } });
-    auto* up = page.findChild<QPushButton*>(u"moveUp"_s);
+    const QSignalSpy ended(&page, &Page::Ended);
+    page.show();
+    QVERIFY(QTest::qWaitForWindowActive(&page));
+    const auto* up = page.findChild<QPushButton*>(u"moveUp"_s);
     auto* down = page.findChild<QPushButton*>(u"moveDown"_s);
-    QVERIFY(!up->isEnabled() && down->isEnabled());
-    down->click();
-    QVERIFY(up->isEnabled() && down->isEnabled());
-    down->click();
+    QVERIFY(!up->isEnabled());
+    down->setFocus();
+    // Once too often: what has the keyboard then does nothing.
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(page.focusWidget(), Qt::Key_Space);
     QVERIFY(!down->isEnabled());
+    QCOMPARE(ended.count(), 0);
     QCOMPARE(page.Order(), (std::vector { PropCount, price, PropName }));
-    up->click();
+    QTest::keyClick(page.focusWidget(), Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(page.focusWidget(), Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(page.focusWidget(), Qt::Key_Down, Qt::ControlModifier);
     QCOMPARE(page.Order(), (std::vector { PropCount, PropName, price }));
     QCOMPARE(page.findChild<QListWidget*>()->item(1)->text(), u"Name"_s);
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "rows/row_look.h"
+#include "tests/finger.h"
 #include "tests/rows_view_errand.h"
 #include "tests/test_program.h"
 #include "values/file_date.h"
 
-#include <QPointingDevice>
 #include <QScrollBar>
 
 #include <memory>
@@ -25,8 +25,7 @@ private Q_SLOTS:
     void countsGoToMinusOneAndBack();
     void deletingAsksWithNoAsDefault();
     void aCopyOpensInTheEditor();
-    void ticksAreTappedInTheirSquareAlone();
-    void aDoubleTapTicksTheOnlyCheckbox();
+    void spaceTicksTheOnlyCheckbox();
     void twoCheckboxesLeaveTheDoubleTapToTheEditor();
     void keysMoveThroughALongList_data();
     void keysMoveThroughALongList();
@@ -37,6 +36,8 @@ private Q_SLOTS:
     void keysOpenTheMenuOfTheRow();
     void readOnlyLetsNothingChange();
     void columnsAreDraggedByTouch();
+    void aDoubleClickOnADividerFitsTheColumn_data();
+    void aDoubleClickOnADividerFitsTheColumn();
     void widthsAndOrderAreKept();
     void aVanishedRowShowsErr();
     void looksFollowWarnings_data();
@@ -144,29 +145,13 @@ void RowsViewTest::aCopyOpensInTheEditor()
     QCOMPARE(View()->currentIndex().row(), 2);
 }
 
-void RowsViewTest::ticksAreTappedInTheirSquareAlone()
+void RowsViewTest::spaceTicksTheOnlyCheckbox()
 {
     m_errand->Open();
-    m_errand->Tap(0, Bio, { 30, 0 });
-    m_errand->Tap(0, Name);
-    QVERIFY(!m_errand->IsTicked(0));
-    m_errand->Tap(0, Bio);
-    QVERIFY(m_errand->IsTicked(0));
-    m_errand->Tap(0, Bio);
-    QVERIFY(!m_errand->IsTicked(0));
-}
-
-void RowsViewTest::aDoubleTapTicksTheOnlyCheckbox()
-{
-    m_errand->Open();
-    m_errand->DoubleTap(0, Shelf);
-    QVERIFY(m_errand->IsTicked(0));
-    QCOMPARE(Stack().Top(), Page());
-    // In the square it is two taps.
-    m_errand->DoubleTap(0, Bio);
-    QVERIFY(m_errand->IsTicked(0));
-    QTest::keyClick(View(), Qt::Key_Space);
-    QVERIFY(!m_errand->IsTicked(0));
+    for (const bool isTicked : { true, false }) {
+        QTest::keyClick(View(), Qt::Key_Space);
+        QCOMPARE(m_errand->IsTicked(0), isTicked);
+    }
 }
 
 void RowsViewTest::twoCheckboxesLeaveTheDoubleTapToTheEditor()
@@ -327,18 +312,38 @@ void RowsViewTest::readOnlyLetsNothingChange()
 
 void RowsViewTest::columnsAreDraggedByTouch()
 {
-    static const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
     m_errand->Open();
     QHeaderView* header = View()->horizontalHeader();
     const int y = header->height() / 2;
     const QPoint from(header->sectionViewportPosition(Price) + 10, y);
-    const QPoint to(10, y);
-    QTest::touchEvent(header->viewport(), screen.get()).press(0, from);
-    for (int step = 1; step <= 8; ++step)
-        QTest::touchEvent(header->viewport(), screen.get()).move(0, from + (to - from) * step / 8);
-    QTest::touchEvent(header->viewport(), screen.get()).release(0, to);
+    Finger(*header->viewport()).Swipe(from, { 10, y }, 100);
     QCOMPARE(header->visualIndex(Price), 0);
     QCOMPARE(m_errand->Lines(), u"rice salt"_s);
+}
+
+void RowsViewTest::aDoubleClickOnADividerFitsTheColumn_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("widest");
+    QTest::newRow("text") << int { Name } << u"a name that is far wider than its column"_s;
+    QTest::newRow("numbers") << int { Price } << u"1,234,567,890.00"_s;
+    QTest::newRow("narrower than its title") << int { Count } << u"Quantity"_s;
+}
+
+void RowsViewTest::aDoubleClickOnADividerFitsTheColumn()
+{
+    QFETCH(const int, column);
+    QFETCH(const QString, widest);
+    File().Add({ u"a name that is far wider than its column"_s, u"1"_s, u"top"_s, u"Unchecked"_s,
+        u"1234567890"_s });
+    m_errand->Open();
+    QHeaderView* header = View()->horizontalHeader();
+    header->resizeSection(column, 150);
+    const int end = header->sectionViewportPosition(column) + 150;
+    QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, { end - 1, header->height() / 2 });
+    const int text = View()->fontMetrics().horizontalAdvance(widest);
+    QVERIFY2(header->sectionSize(column) >= text, qPrintable(QString::number(text)));
+    QVERIFY(header->sectionSize(column) <= text + 40);
 }
 
 void RowsViewTest::widthsAndOrderAreKept()

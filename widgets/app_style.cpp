@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOption>
 #include <QStyledItemDelegate>
@@ -66,9 +67,19 @@ AppStyle::AppStyle()
 void AppStyle::polish(QWidget* widget)
 {
     auto* box = qobject_cast<QComboBox*>(widget);
+    if (box != nullptr)
+        box->installEventFilter(this);
     if (box != nullptr && dynamic_cast<ChoiceDelegate*>(box->itemDelegate()) == nullptr)
         box->setItemDelegate(new ChoiceDelegate(box));
     QProxyStyle::polish(widget);
+}
+
+bool AppStyle::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Wheel)
+        return QProxyStyle::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 int AppStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -6,7 +6,8 @@
 namespace Quillory {
 
 /// The toolkit's plain style with boxes and radio buttons as the lists draw them, legible on a dark
-/// ground too. The window's style sheet builds on it.
+/// ground too. The window's style sheet builds on it. The wheel turns what a drop-down lies upon,
+/// not its choice.
 class AppStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -20,6 +21,7 @@ public:
         QStyleHintReturn* returnData) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
         const QWidget* widget) const override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 } // namespace Quillory

@@ -5,8 +5,12 @@
 #include "widgets/measures.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QCursor>
+#include <QElapsedTimer>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -34,10 +38,32 @@ public:
         setCheckable(true);
         setChecked(isSelected);
         setFocusPolicy(Qt::StrongFocus);
-        const int size = std::min(CurrentMeasures().lineHeight + 2 * kSwatchInset, kMinTouchTarget);
-        setFixedSize(size, size);
+        setMouseTracking(true);
+        m_opened.start();
     }
-    void enterEvent(QEnterEvent* /*event*/) override { setFocus(); }
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        // A pointer that rests where the grid opened leaves the keyboard its place.
+        if (event->globalPosition().toPoint() != m_restingPointer)
+            setFocus();
+        QAbstractButton::mouseMoveEvent(event);
+    }
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        // The second one of a double click or tap falls where the first one opened the grid.
+        const QWidget* button = window()->parentWidget();
+        if (m_opened.elapsed() > QApplication::doubleClickInterval()
+            || !button->rect().contains(button->mapFromGlobal(event->globalPosition().toPoint())))
+            QAbstractButton::mousePressEvent(event);
+    }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        // A button's own arrows go from one to the next, whatever lies beside it.
+        if (event->key() == Qt::Key_Space)
+            QAbstractButton::keyPressEvent(event);
+        else
+            event->ignore();
+    }
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
@@ -67,6 +93,8 @@ public:
 
 private:
     quint32 m_index;
+    QPoint m_restingPointer = QCursor::pos();
+    QElapsedTimer m_opened;
 };
 
 } // namespace
@@ -93,6 +121,14 @@ ColourGrid::ColourGrid(quint32 selected, QWidget* parent)
 
 void ColourGrid::Open(const QPoint& topLeft, const QRect& window)
 {
+    // Smaller ones where the window has no room for six.
+    const int room = window.width() - layout()->contentsMargins().left()
+        - layout()->contentsMargins().right() - (kColumnLength - 1) * layout()->spacing()
+        - 2 * frameWidth();
+    const int size = std::min(
+        { CurrentMeasures().lineHeight + 2 * kSwatchInset, kMinTouchTarget, room / kColumnLength });
+    for (auto* swatch : findChildren<QAbstractButton*>())
+        swatch->setFixedSize(size, size);
     adjustSize();
     const int right = std::max(window.left(), window.right() + 1 - width());
     const int bottom = std::max(window.top(), window.bottom() + 1 - height());

@@ -2,13 +2,13 @@
 #include "widgets/form.h"
 
 #include "widgets/measures.h"
+#include "widgets/touch.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScrollArea>
-#include <QScroller>
 #include <QVBoxLayout>
 
 namespace Quillory {
@@ -85,7 +85,7 @@ QWidget* MakeScrollable(QWidget* content)
     content->setMaximumWidth(kMaxFormWidth);
     area->setWidget(content);
     area->setFocusPolicy(Qt::NoFocus);
-    QScroller::grabGesture(area->viewport(), QScroller::TouchGesture);
+    new TouchBehaviour(area);
     return area;
 }
 

@@ -2,8 +2,8 @@
 #include "widgets/help_page.h"
 
 #include "widgets/measures.h"
+#include "widgets/touch.h"
 
-#include <QScroller>
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QTimer>
@@ -30,7 +30,7 @@ HelpPage::HelpPage(const QString& anchor, QWidget* parent)
     text->setFrameShape(QFrame::NoFrame);
     text->setOpenExternalLinks(false);
     text->document()->setDocumentMargin(kPageMargin);
-    QScroller::grabGesture(text->viewport(), QScroller::TouchGesture);
+    new TouchBehaviour(text);
     Body()->addWidget(text, 1);
     setFocusProxy(text);
     const QUrl place(u"qrc:/help/Quillory.htm#"_s + anchor);

@@ -10,7 +10,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStandardItemModel>
-#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 
@@ -194,11 +193,8 @@ void IconGrid::DrawCell(QPainter& painter, int index) const
     else if (isSelected)
         painter.fillRect(cell, palette().color(QPalette::Highlight));
     if (isSelected && hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        focus.rect = cell;
-        focus.backgroundColor = palette().color(QPalette::Highlight);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+        painter.setPen(QPen(palette().color(QPalette::HighlightedText), kInset));
+        painter.drawRect(cell.adjusted(kInset, kInset, -kInset, -kInset));
     }
     ListIcon(index).paint(&painter, cell.adjusted(kInset, kInset, -kInset, -kInset),
         Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);

@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -141,6 +142,17 @@ void IconPicker::OpenGrid()
         if (result != PageResult::Closing)
             Choose(page->Icon());
     });
+}
+
+void IconPicker::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+}
+
+void IconPicker::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        OpenGrid();
 }
 
 void IconPicker::keyPressEvent(QKeyEvent* event)

@@ -5,8 +5,8 @@
 
 namespace Quillory {
 
-/// Shows the icon of a list, with buttons to step through all icons and one that opens the grid of
-/// them. Stands on a page of a page stack.
+/// Shows the icon of a list, with buttons to step through all icons. The picture opens the grid of
+/// them, and so does one more button. Stands on a page of a page stack.
 class IconPicker : public QWidget
 {
     Q_OBJECT
@@ -27,6 +27,8 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
