@@ -20,6 +20,7 @@ private Q_SLOTS:
     void init();
     void theFirstLineIsSelected();
     void aNewRowIsEnteredByKeyboard();
+    void whatComesBackStandsInItsPlace();
     void cancellingTheEditorWritesNothing();
     void modifyingKeepsWhatWasNotTouched();
     void countsGoToMinusOneAndBack();
@@ -70,7 +71,9 @@ void RowsViewTest::theFirstLineIsSelected()
 void RowsViewTest::aNewRowIsEnteredByKeyboard()
 {
     m_errand->Open();
-    QTest::keyClick(Page(), Qt::Key_N, Qt::ControlModifier);
+    // Return presses the key that has the keyboard; it edits the selected row only elsewhere.
+    m_errand->Find<QWidget>(QLatin1StringView("leftKey"))->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(Stack().windowHandle(), Qt::Key_Return);
     QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
     m_errand->TypeInEditor(u"barley"_s, Qt::Key_Return);
     m_errand->TypeInEditor(u"7"_s, Qt::Key_Return);
@@ -83,6 +86,22 @@ void RowsViewTest::aNewRowIsEnteredByKeyboard()
     QCOMPARE(m_errand->Text(2, Count), u"7"_s);
     QCOMPARE(m_errand->Text(2, Expiry), u"1/5/2027"_s);
     QCOMPARE(m_errand->Stored(), u"barley rice salt"_s);
+}
+
+void RowsViewTest::whatComesBackStandsInItsPlace()
+{
+    m_errand->Open();
+    const auto comesBack = [this](const QString& name, const QString& count) {
+        Page()->ShowRestored(File().Add({ name, count }));
+    };
+    const QString before = m_errand->Lines();
+    comesBack(u"aaa"_s, u"1"_s);
+    comesBack(u"zzz"_s, u"9"_s);
+    QCOMPARE(m_errand->Lines(), u"aaa "_s + before + u" zzz"_s);
+    m_errand->TapHeader(Count);
+    comesBack(u"mmm"_s, u"-5"_s);
+    QCOMPARE(m_errand->Text(0, Name), u"mmm"_s);
+    QCOMPARE(m_errand->View()->currentIndex().row(), 0);
 }
 
 void RowsViewTest::cancellingTheEditorWritesNothing()
