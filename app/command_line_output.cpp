@@ -8,6 +8,8 @@
 
 namespace Quillory {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype kBufferSize = 262'144;
@@ -94,10 +96,9 @@ void TextOutput::PutAside()
     if (m_file == nullptr) {
         m_file = std::make_unique<QTemporaryFile>();
         if (!m_file->open())
-            m_failure = m_file->errorString();
+            m_failure = u"there is no room to keep it in: "_s + m_file->errorString();
     }
-    if (!HasFailed())
-        WriteTo(*m_file, m_buffer);
+    WriteTo(*m_file, m_buffer);
     m_buffer.resize(0);
 }
 

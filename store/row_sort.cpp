@@ -256,17 +256,17 @@ Result<std::vector<ObjectId>> SortByColumn(
 
 Result<std::vector<ObjectId>> ListWithoutIndex(Database& database)
 {
-    constexpr PropertyId kName = PropName;
+    constexpr PropertyId kNameColumn = PropName;
     std::vector<ObjectId> named;
     std::vector<ObjectId> nameless;
     const auto read = database.ScanInPlace(
-        std::span(&kName, 1), ScanOrder::Stored, [&](const ScannedRecord& record) {
+        std::span(&kNameColumn, 1), ScanOrder::Stored, [&](const ScannedRecord& record) {
             (record.IsMissing(0) ? nameless : named).push_back(record.Oid());
             return true;
         });
     if (!read)
         return read.Error();
-    auto rows = SortByColumn(database, named, kName, ScanOrder::Stored);
+    auto rows = SortByColumn(database, named, kNameColumn, ScanOrder::Stored);
     if (rows)
         rows->insert(rows->end(), nameless.begin(), nameless.end());
     return rows;
