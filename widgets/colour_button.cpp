@@ -82,7 +82,8 @@ void ColourButton::keyPressEvent(QKeyEvent* event)
     else if (event->key() == Qt::Key_Down)
         Step(1);
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
+        // The page's, as from any field; some desktops would press the button.
+        event->ignore();
     else
         QAbstractButton::keyPressEvent(event);
 }

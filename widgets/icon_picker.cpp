@@ -47,6 +47,13 @@ public:
         const int side = std::max(CurrentMeasures().lineHeight - kGrid / 2, 4 * kGrid);
         return { side, side };
     }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            click();
+        else
+            QAbstractButton::keyPressEvent(event);
+    }
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);

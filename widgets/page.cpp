@@ -246,8 +246,8 @@ void Page::FillMenu(QMenu* menu, std::span<const MenuEntry> entries)
         // Its shortcut is there to be read.
         QAction* own = menu->addAction(entry.Text());
         own->setShortcutContext(Qt::WidgetShortcut);
-        own->setShortcut(action->shortcut());
         const auto follow = [own, action] {
+            own->setShortcut(action->shortcut());
             own->setEnabled(action->isEnabled());
             own->setCheckable(action->isCheckable());
             own->setChecked(action->isChecked());
