@@ -66,10 +66,14 @@ private:
 };
 
 /// Opens a menu upward from a soft key, within the window, wherever that stands. In a window that
-/// is too low for it the entries lie closer together.
+/// is too low for it the entries lie closer together; in one that is too narrow they tell no keys.
 void OpenFromKey(QMenu& menu, const QWidget& key)
 {
     menu.setStyleSheet(QString());
+    if (menu.sizeHint().width() > key.window()->width()) {
+        for (QAction* entry : menu.actions())
+            entry->setShortcut({});
+    }
     // The menu's own size hint never goes beyond the screen.
     const auto lines = static_cast<int>(menu.actions().size());
     if (lines * CurrentMeasures().lineHeight > key.window()->height())
@@ -220,10 +224,12 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
     if (entry.command == Command::Menu) {
         button->setShortcut(Qt::Key_F10);
         auto* popup = new QMenu(button);
-        FillMenu(popup, menu);
-        connect(popup, &QMenu::aboutToShow, this, &Page::MenuAboutToOpen);
-        connect(button, &QToolButton::clicked, popup,
-            [button, popup] { OpenFromKey(*popup, *button); });
+        connect(button, &QToolButton::clicked, popup, [this, button, popup, menu] {
+            Q_EMIT MenuAboutToOpen();
+            popup->clear();
+            FillMenu(popup, menu);
+            OpenFromKey(*popup, *button);
+        });
         return button;
     }
     QAction* action = ActionOf(entry.command);
@@ -246,14 +252,10 @@ void Page::FillMenu(QMenu* menu, std::span<const MenuEntry> entries)
         // Its shortcut is there to be read.
         QAction* own = menu->addAction(entry.Text());
         own->setShortcutContext(Qt::WidgetShortcut);
-        const auto follow = [own, action] {
-            own->setShortcut(action->shortcut());
-            own->setEnabled(action->isEnabled());
-            own->setCheckable(action->isCheckable());
-            own->setChecked(action->isChecked());
-        };
-        connect(action, &QAction::changed, own, follow);
-        follow();
+        own->setShortcut(action->shortcut());
+        own->setEnabled(action->isEnabled());
+        own->setCheckable(action->isCheckable());
+        own->setChecked(action->isChecked());
         connect(own, &QAction::triggered, action, &QAction::trigger);
     }
 }

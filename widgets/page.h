@@ -57,7 +57,8 @@ public:
     void SetShortcut(Command command, const QKeySequence& shortcut);
     /// Runs a command as its soft key or menu entry would; nothing if it is disabled.
     void Trigger(Command command);
-    /// The action behind a command; made at the first call. Soft keys and menu entries follow it.
+    /// The action behind a command; made at the first call. Soft keys follow it, and menus are made
+    /// anew from it each time they open.
     [[nodiscard]] QAction* ActionOf(Command command);
     /// Opens a menu of these entries at a place on the screen.
     void OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& globalPosition);
