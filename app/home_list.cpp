@@ -4,13 +4,13 @@
 #include "res/string_table.h"
 #include "widgets/line_delegate.h"
 #include "widgets/measures.h"
+#include "widgets/text_line.h"
 #include "widgets/touch.h"
 
 #include <QEvent>
 #include <QFontDatabase>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -47,8 +47,10 @@ public:
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
         editor->setObjectName(u"NameEditor"_s);
         editor->setAccessibleName(LoadString(StringId::Name));
-        if (auto* line = qobject_cast<QLineEdit*>(editor))
+        if (auto* line = qobject_cast<QLineEdit*>(editor)) {
             line->setMaxLength(kMaxListNameLength);
+            KeepToOneLine(line);
+        }
         return editor;
     }
 };

@@ -10,7 +10,9 @@
 #include "widgets/page_stack.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTableView>
@@ -183,11 +185,16 @@ void ListSheetTest::columnsAreRenamedInPlace()
     m_page->Trigger(Command::Rename);
     auto* editor = View()->viewport()->findChild<QLineEdit*>();
     QVERIFY(editor != nullptr);
-    editor->setText(u"Stock"_s);
+    // All of the old name is selected.
+    QGuiApplication::clipboard()->setText(u"in\tstock\r\nor not"_s);
+    QTest::keySequence(editor, QKeySequence::Paste);
+    QTest::keyClicks(editor, QString(32, u'x'));
+    const QString name = u"in stock or not"_s + QString(17, u'x');
+    QCOMPARE(editor->text(), name);
     QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_COMPARE(Names(), u"Name|Stock"_s);
+    QTRY_COMPARE(Names(), u"Name|"_s + name);
     QVERIFY(!View()->model()->setData(View()->model()->index(0, 0), QString(), Qt::EditRole));
-    QCOMPARE(Names(), u"Name|Stock"_s);
+    QCOMPARE(Names(), u"Name|"_s + name);
 }
 
 void ListSheetTest::keysChangeColumnsOnTheirPanelAlone()
