@@ -67,6 +67,8 @@ RowsTable::RowsTable(RowsModel& model, const InventoryList& list, const ValueCon
     findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)->hide();
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setSectionsClickable(true);
+    // The toolkit works out which part has changed from the header of the lines.
+    connect(&model, &QAbstractItemModel::dataChanged, viewport(), qOverload<>(&QWidget::update));
     connect(&model, &QAbstractItemModel::modelReset, this, &RowsTable::Rearrange);
     connect(&model, &QAbstractItemModel::rowsInserted, this, &RowsTable::Rearrange);
     connect(&model, &QAbstractItemModel::rowsRemoved, this, &RowsTable::Rearrange);
