@@ -220,8 +220,9 @@ bool RowEditor::eventFilter(QObject* watched, QEvent* event)
             Edit(0);
         }
         return true;
-    } else if (event->type() == QEvent::Resize) {
-        // Once the view has laid itself out: an on-screen keyboard may have taken half of it.
+    } else if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) {
+        // Once the view has laid itself out: an on-screen keyboard may have taken half of it, a
+        // larger font made its lines higher.
         QMetaObject::invokeMethod(this, &RowEditor::KeepInView, Qt::QueuedConnection);
     }
     return Page::eventFilter(watched, event);

@@ -62,6 +62,7 @@ RowsTable::RowsTable(RowsModel& model, const InventoryList& list, const ValueCon
     setVerticalHeader(new NoLineHeader(this));
     setModel(&model);
     setItemDelegate(m_delegate);
+    setFont(ListFont());
     DressLineView(this);
     // Its place is worked out together with the headers, which is done here.
     findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)->hide();
