@@ -3,14 +3,13 @@
 
 #include "res/string_table.h"
 #include "widgets/line_delegate.h"
+#include "widgets/line_view.h"
 #include "widgets/measures.h"
+#include "widgets/text_line.h"
 #include "widgets/touch.h"
 
-#include <QEvent>
-#include <QFontDatabase>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -47,8 +46,10 @@ public:
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
         editor->setObjectName(u"NameEditor"_s);
         editor->setAccessibleName(LoadString(StringId::Name));
-        if (auto* line = qobject_cast<QLineEdit*>(editor))
+        if (auto* line = qobject_cast<QLineEdit*>(editor)) {
             line->setMaxLength(kMaxListNameLength);
+            KeepToOneLine(line);
+        }
         return editor;
     }
 };
@@ -64,7 +65,6 @@ HomeList::HomeList(QWidget* parent)
     BuildView();
     BuildHint();
     ConnectView();
-    UpdateFont();
     SetSoftKeys(SoftKeysOf(MenuBar::Main), MenuEntries(MenuId::Main));
 }
 
@@ -74,6 +74,7 @@ void HomeList::BuildView()
     m_view->setAccessibleName(LoadString(StringId::InventoryList));
     m_view->setModel(m_model);
     m_view->setItemDelegate(new HomeLineDelegate(m_view));
+    m_view->setFont(ListFont());
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
@@ -213,21 +214,6 @@ void HomeList::OpenListMenu(const QPoint& position)
     if (SelectedList() != kNoObject)
         OpenContextMenu(
             MenuEntries(MenuId::ListContext), m_view->viewport()->mapToGlobal(position));
-}
-
-void HomeList::changeEvent(QEvent* event)
-{
-    Page::changeEvent(event);
-    if (event->type() == QEvent::ApplicationFontChange)
-        UpdateFont();
-}
-
-void HomeList::UpdateFont()
-{
-    QFont font;
-    if (QFontDatabase::hasFamily(u"Tahoma"_s))
-        font.setFamily(u"Tahoma"_s);
-    m_view->setFont(font);
 }
 
 } // namespace Quillory

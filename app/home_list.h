@@ -45,7 +45,6 @@ protected:
     /// The first page is never left.
     [[nodiscard]] bool PrepareEnd(PageResult /*result*/) override { return false; }
     void TakeReturn() override { Q_EMIT ListChosen(); }
-    void changeEvent(QEvent* event) override;
 
 private:
     HomeListModel* m_model;
@@ -59,7 +58,6 @@ private:
     void Sort();
     void FlipDirection();
     void OpenListMenu(const QPoint& position);
-    void UpdateFont();
 };
 
 } // namespace Quillory

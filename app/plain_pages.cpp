@@ -6,6 +6,8 @@
 #include "widgets/icon_set.h"
 #include "widgets/measures.h"
 
+#include <QEvent>
+#include <QFontInfo>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -66,15 +68,27 @@ AboutPage::AboutPage(QWidget* parent)
 {
     setObjectName(u"AboutPage"_s);
     SetHelpAnchor(QString::fromLatin1(kHelpMain));
-    QLabel* name = NewTextLabel(LoadText(Text::Caption));
-    QFont font = name->font();
-    font.setPointSizeF(font.pointSizeF() * 1.6);
-    font.setBold(true);
-    name->setFont(font);
+    m_name = NewTextLabel(LoadText(Text::Caption));
+    FitName();
     QLabel* version
         = NewTextLabel(LoadText(Text::Version) + u' ' + ControlText(Control::VersionText));
     version->setObjectName(u"VersionText"_s);
-    AddCentred(*Body(), { NewIconLabel(this), name, version });
+    AddCentred(*Body(), { NewIconLabel(this), m_name, version });
+}
+
+void AboutPage::FitName()
+{
+    QFont large = font();
+    large.setPointSizeF(QFontInfo(large).pointSizeF() * 1.6);
+    large.setBold(true);
+    m_name->setFont(large);
+}
+
+void AboutPage::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        FitName();
+    Page::changeEvent(event);
 }
 
 } // namespace Quillory

@@ -3,6 +3,8 @@
 
 #include "widgets/page.h"
 
+class QLabel;
+
 namespace Quillory {
 
 /// Asks for a place for the data file; ends with a tap on OK.
@@ -21,6 +23,14 @@ class AboutPage : public Page
 
 public:
     explicit AboutPage(QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QLabel* m_name;
+
+    void FitName();
 };
 
 } // namespace Quillory

@@ -6,9 +6,9 @@
 #include "store/inventory_list.h"
 #include "values/column_type.h"
 #include "widgets/form.h"
+#include "widgets/text_line.h"
 
 #include <QComboBox>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace Quillory {
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 ColumnDefinitionPage::ColumnDefinitionPage(QWidget* parent)
     : Page(DialogTitle(Dialog::ColumnDefinition), parent)
-    , m_name(new QLineEdit(this))
+    , m_name(new TextLine(this))
     , m_type(new QComboBox(this))
 {
     setObjectName(u"columnDefinition"_s);

@@ -4,9 +4,10 @@
 #include "widgets/page.h"
 
 class QComboBox;
-class QLineEdit;
 
 namespace Quillory {
+
+class TextLine;
 
 /// Name and type of a new column.
 class ColumnDefinitionPage : public Page
@@ -23,7 +24,7 @@ public:
     [[nodiscard]] bool HasUnsavedInput() const override;
 
 private:
-    QLineEdit* m_name;
+    TextLine* m_name;
     QComboBox* m_type;
 };
 

@@ -8,6 +8,7 @@
 #include "widgets/line_delegate.h"
 #include "widgets/line_view.h"
 #include "widgets/page_stack.h"
+#include "widgets/text_line.h"
 #include "widgets/touch.h"
 
 #include <QHeaderView>
@@ -22,7 +23,7 @@ namespace {
 
 constexpr int kTypeWidth = 112;
 
-/// Lines whose names can be edited in their place.
+/// Lines whose names can be edited in their place, no longer than a list keeps them.
 class ColumnDelegate : public LineDelegate
 {
 public:
@@ -33,6 +34,10 @@ public:
     {
         QWidget* editor = LineDelegate::createEditor(parent, option, index);
         editor->setAccessibleName(LoadString(StringId::Name));
+        if (auto* line = qobject_cast<QLineEdit*>(editor)) {
+            line->setMaxLength(kMaxColumnNameLength);
+            KeepToOneLine(line);
+        }
         return editor;
     }
 };

@@ -5,8 +5,8 @@
 #include "store/inventory_list.h"
 #include "widgets/form.h"
 #include "widgets/icon_picker.h"
+#include "widgets/text_line.h"
 
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace Quillory {
@@ -15,11 +15,12 @@ using namespace Qt::StringLiterals;
 
 GeneralPanel::GeneralPanel(const InventoryList& list, QWidget* parent)
     : QWidget(parent)
-    , m_name(new QLineEdit(list.Name, this))
+    , m_name(new TextLine(this))
     , m_icon(new IconPicker(this))
 {
     m_name->setObjectName(u"listName"_s);
     m_name->setMaxLength(kMaxListNameLength);
+    m_name->Give(list.Name);
     m_icon->setObjectName(u"listIcon"_s);
     m_icon->SetIcon(list.TableIcon);
     auto* body = new QVBoxLayout(this);
@@ -33,7 +34,7 @@ GeneralPanel::GeneralPanel(const InventoryList& list, QWidget* parent)
 
 void GeneralPanel::Apply(InventoryList& list) const
 {
-    list.Name = m_name->text();
+    list.Name = m_name->Entry();
     list.TableIcon = static_cast<qint16>(m_icon->Icon());
 }
 

@@ -3,11 +3,10 @@
 
 #include <QWidget>
 
-class QLineEdit;
-
 namespace Quillory {
 
 class IconPicker;
+class TextLine;
 struct InventoryList;
 
 /// Name and icon of a list.
@@ -22,7 +21,7 @@ public:
     void Apply(InventoryList& list) const;
 
 private:
-    QLineEdit* m_name;
+    TextLine* m_name;
     IconPicker* m_icon;
 };
 

@@ -22,6 +22,7 @@ OptionsPanel::OptionsPanel(const InventoryList& list, QWidget* parent)
     : QWidget(parent)
     , m_warnOnCount(new QCheckBox(this))
     , m_threshold(new ThresholdEdit(list.TableWarnStart, this))
+    , m_toColour(new QLabel(LoadText(Text::ToColour), this))
     , m_countColour(new ColourButton(this))
     , m_countLine(MakeCountLine())
     , m_warnOnExpiry(new QCheckBox(this))
@@ -62,11 +63,10 @@ void OptionsPanel::Build()
 
 QBoxLayout* OptionsPanel::MakeCountLine()
 {
-    auto* toColour = new QLabel(LoadText(Text::ToColour), this);
-    toColour->setWordWrap(true);
+    m_toColour->setWordWrap(true);
     auto* colour = new QHBoxLayout;
     colour->setSpacing(kGrid);
-    colour->addWidget(toColour, 1);
+    colour->addWidget(m_toColour, 1);
     colour->addWidget(m_countColour);
     auto* line = new QHBoxLayout;
     line->setContentsMargins(kCheckIndent, 0, 0, 0);
@@ -94,6 +94,7 @@ void OptionsPanel::UpdateEnabled()
 {
     const bool warnsOnCount = m_warnOnCount->isChecked();
     m_threshold->setEnabled(warnsOnCount);
+    m_toColour->setEnabled(warnsOnCount);
     m_countColour->setEnabled(warnsOnCount);
     m_warnOnExpiry->setEnabled(m_hasExpiryDate);
     m_expiryColour->setEnabled(m_hasExpiryDate && m_warnOnExpiry->isChecked());

@@ -5,6 +5,7 @@
 
 class QBoxLayout;
 class QCheckBox;
+class QLabel;
 
 namespace Quillory {
 
@@ -31,6 +32,7 @@ public:
 private:
     QCheckBox* m_warnOnCount;
     ThresholdEdit* m_threshold;
+    QLabel* m_toColour;
     ColourButton* m_countColour;
     /// The threshold and its colour: side by side where there is room.
     QBoxLayout* m_countLine;

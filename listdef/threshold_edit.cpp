@@ -32,7 +32,6 @@ ThresholdEdit::ThresholdEdit(qint32 value, QWidget* parent)
     m_edit->setAccessibleName(ControlText(Control::WarnOnCount));
     m_edit->setMaxLength(kMaxCharacters);
     m_edit->setInputMethodHints(Qt::ImhPreferNumbers);
-    m_edit->setMinimumWidth(m_edit->fontMetrics().horizontalAdvance(u"-000"_s) + 3 * kGrid);
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(kGrid / 2);
@@ -50,8 +49,23 @@ ThresholdEdit::ThresholdEdit(qint32 value, QWidget* parent)
     };
     add(u"\u2212"_s, tr("Less"), -1);
     add(u"+"_s, tr("More"), 1);
-    m_edit->setFixedHeight(line->itemAt(1)->widget()->height());
     setFocusProxy(m_edit);
+    FitToFont();
+}
+
+void ThresholdEdit::FitToFont()
+{
+    const QFontMetrics metrics = fontMetrics();
+    const int least = std::max(CurrentMeasures().lineHeight, 4 * kGrid);
+    m_edit->setMinimumWidth(metrics.horizontalAdvance(u"-000"_s) + 3 * kGrid);
+    m_edit->setFixedHeight(std::max(least, metrics.height() + kGrid));
+}
+
+void ThresholdEdit::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        FitToFont();
+    QWidget::changeEvent(event);
 }
 
 qint32 ThresholdEdit::Value() const

@@ -19,11 +19,13 @@ public:
     [[nodiscard]] qint32 Value() const;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QLineEdit* m_edit;
 
+    void FitToFont();
     void Step(int by);
 };
 

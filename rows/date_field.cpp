@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "rows/date_field.h"
 
+#include "platform/date_reader.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
 #include "widgets/measures.h"
+#include "widgets/message_box.h"
 
 #include <QCalendarWidget>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QToolButton>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace Quillory {
@@ -79,7 +83,8 @@ DateField::DateField(const ValueContext& context, QWidget* parent)
     line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(m_edit);
     setFocusProxy(m_edit);
-    SetDate(std::nullopt);
+    connect(m_edit, &QLineEdit::textEdited, this, [this] { MarkUnread(false); });
+    Open({}, {});
 }
 
 QString DateField::TextOf(QDate date) const
@@ -91,35 +96,70 @@ QString DateField::TextOf(QDate date) const
     return FormatCellText(&value, PropExpiryDate, m_context);
 }
 
-void DateField::SetDate(std::optional<QDate> date)
+void DateField::Open(const QString& stored, const QString& text)
 {
-    m_date = date;
-    m_dateText = date ? TextOf(*date) : QString();
-    m_edit->setText(m_dateText);
-    m_edit->setPlaceholderText(TextOf(m_context.clock().date));
+    m_stored = stored;
+    m_edit->setPlaceholderText(stored.isEmpty() ? tr("no date") : stored);
+    m_edit->setText(text);
+    MarkUnread(IsUnread());
 }
 
-std::optional<QDate> DateField::Date() const
+void DateField::Open(QDate date)
+{
+    Open(TextOf(date), TextOf(date));
+}
+
+QString DateField::Entry() const
 {
     const QString text = m_edit->text();
-    if (text == m_dateText)
-        return m_date;
-    if (text.trimmed().isEmpty())
-        return m_mayBeEmptied ? std::nullopt : m_date;
+    if (text == m_stored || text.trimmed().isEmpty())
+        return m_stored;
     const auto date = Read(text);
-    return date ? date : m_date;
+    return date ? TextOf(*date) : text;
 }
 
 std::optional<QDate> DateField::Read(const QString& text) const
 {
     const auto time = ParseDateText(text, m_context);
-    return time ? FileTimeToDate(*time) : std::nullopt;
+    const auto date = time ? FileTimeToDate(*time) : std::nullopt;
+    // That is also what a time alone is read as; the day itself needs its four figures.
+    static const QRegularExpression year(u"[0-9]{4}"_s);
+    if (date == QDate::fromJulianDay(kDayZeroJulian) && !text.contains(year))
+        return std::nullopt;
+    return date;
 }
 
-QString DateField::DateText() const
+bool DateField::IsUnread(const QString& stored, const QString& text) const
 {
-    const auto date = Date();
-    return date ? TextOf(*date) : QString();
+    return text != stored && !text.trimmed().isEmpty() && !Read(text);
+}
+
+bool DateField::IsUnread() const
+{
+    return IsUnread(m_stored, m_edit->text());
+}
+
+void DateField::MarkUnread(bool isUnread)
+{
+    QFont font;
+    font.setStrikeOut(isUnread);
+    m_edit->setFont(font);
+    const QString description = isUnread ? tr("not a date") : QString();
+    for (QWidget* widget : std::array<QWidget*, 2> { this, m_edit })
+        widget->setAccessibleDescription(description);
+}
+
+void DateField::TellUnread()
+{
+    constexpr int kQuoted = 40;
+    MarkUnread(true);
+    m_edit->setFocus();
+    m_edit->selectAll();
+    const QString today = TextOf(m_context.clock().date);
+    ShowMessage(this,
+        tr("\"%1\" is not a date. Type it as in %2, or pick it from the calendar.")
+            .arg(m_edit->text().left(kQuoted), today),
+        MessageIcon::Exclamation);
 }
 
 void DateField::OpenCalendar()
@@ -133,13 +173,14 @@ void DateField::OpenCalendar()
     calendar->setAccessibleName(accessibleName());
     DressCalendar(calendar);
     calendar->setMinimumDate(QDate(kFirstYear, 1, 1));
-    calendar->setSelectedDate(Date().value_or(m_context.clock().date));
+    calendar->setSelectedDate(Read(Entry()).value_or(m_context.clock().date));
     auto* layout = new QVBoxLayout(popup);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->addWidget(calendar);
     const auto pick = [this, popup](QDate date) {
         popup->close();
         m_edit->setText(TextOf(date));
+        MarkUnread(false);
     };
     connect(calendar, &QCalendarWidget::clicked, popup, pick);
     connect(calendar, &QCalendarWidget::activated, popup, pick);
@@ -167,6 +208,10 @@ bool DateField::eventFilter(QObject* watched, QEvent* event)
             OpenCalendar();
             return true;
         }
+    } else if (event->type() == QEvent::FocusOut) {
+        if (m_edit->text().trimmed().isEmpty())
+            m_edit->setText(m_stored);
+        MarkUnread(IsUnread());
     }
     return QWidget::eventFilter(watched, event);
 }

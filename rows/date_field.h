@@ -12,9 +12,9 @@ class QLineEdit;
 
 namespace Quillory {
 
-/// A date: typed in any form that the user's locale reads, or picked from a calendar. Without a
-/// date it shows today as a hint, and its calendar starts there, but it holds none until one is
-/// typed or picked.
+/// A date: typed in any form that the user's locale reads, or picked from a calendar, which starts
+/// at today where there is no date. A typed text that names no day stays, struck out once the field
+/// is left.
 class DateField : public QWidget
 {
     Q_OBJECT
@@ -23,17 +23,23 @@ public:
     /// `context` outlives the field.
     explicit DateField(const ValueContext& context, QWidget* parent = nullptr);
 
-    /// Shows a date, and takes it for what the field falls back on.
-    void SetDate(std::optional<QDate> date);
-    /// Whether an emptied field holds no date. Otherwise, as at first, emptying it changes nothing.
-    void SetMayBeEmptied(bool mayBeEmptied) { m_mayBeEmptied = mayBeEmptied; }
-    /// The date that was typed or picked; the one that was set where the text names none.
-    [[nodiscard]] std::optional<QDate> Date() const;
-    /// Date() as a list shows it; empty without one.
-    [[nodiscard]] QString DateText() const;
+    /// Shows `text`, typed over `stored`: that is what an emptied field holds, and shows again.
+    void Open(const QString& stored, const QString& text);
+    /// The same with a day and nothing typed.
+    void Open(QDate date);
+    /// What was given if nothing was typed or all of it was emptied; a day as lists show it; any
+    /// other text as it was typed.
+    [[nodiscard]] QString Entry() const;
 
-    /// The day that a text names; nothing if it names none that can be stored.
+    /// The day that a text names; nothing if it names none that can be stored. A time alone names
+    /// none.
     [[nodiscard]] std::optional<QDate> Read(const QString& text) const;
+    /// Whether something was typed over `stored` that names no day.
+    [[nodiscard]] bool IsUnread(const QString& stored, const QString& text) const;
+    /// The same of what stands in the field.
+    [[nodiscard]] bool IsUnread() const;
+    /// Says in a message that what was typed is no date, and puts the cursor there.
+    void TellUnread();
 
     /// Drops down the calendar; Alt+Down and F4 do the same.
     void OpenCalendar();
@@ -45,11 +51,10 @@ public:
 private:
     const ValueContext& m_context;
     QLineEdit* m_edit;
-    std::optional<QDate> m_date;
-    /// The text of m_date: as long as it stands there nothing was typed.
-    QString m_dateText;
-    bool m_mayBeEmptied = false;
+    /// What the field falls back on.
+    QString m_stored;
 
+    void MarkUnread(bool isUnread);
     [[nodiscard]] QString TextOf(QDate date) const;
 };
 

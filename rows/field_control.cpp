@@ -3,12 +3,12 @@
 
 #include "rows/date_field.h"
 #include "values/column_type.h"
+#include "widgets/text_line.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
-#include <QLineEdit>
 
 #include <array>
 
@@ -38,7 +38,7 @@ Qt::InputMethodHints HintsFor(PropertyId column)
 
 FieldControl::FieldControl(const ValueContext& context, QWidget* place)
     : QObject(place)
-    , m_edit(new QLineEdit(place))
+    , m_edit(new TextLine(place))
     , m_box(new QComboBox(place))
     , m_date(new DateField(context, place))
 {
@@ -52,9 +52,8 @@ FieldControl::FieldControl(const ValueContext& context, QWidget* place)
         typed->installEventFilter(this);
 }
 
-void FieldControl::Open(const ColumnDefinition& column, const QString& text, bool mayBeEmptied)
+void FieldControl::Open(const ColumnDefinition& column, const QString& stored, const QString& text)
 {
-    m_startText = text;
     for (QWidget* control : std::array<QWidget*, 4> { m_edit, m_box, m_date, m_date->Edit() })
         control->setAccessibleName(column.name);
     switch (ColumnTypeOf(column.id)) {
@@ -63,9 +62,7 @@ void FieldControl::Open(const ColumnDefinition& column, const QString& text, boo
         Show(m_box);
         return;
     case ColumnType::Date:
-        m_startDate = m_date->Read(text);
-        m_date->SetDate(m_startDate);
-        m_date->SetMayBeEmptied(mayBeEmptied);
+        m_date->Open(stored, text);
         Show(m_date);
         m_date->Edit()->selectAll();
         return;
@@ -73,8 +70,7 @@ void FieldControl::Open(const ColumnDefinition& column, const QString& text, boo
     case ColumnType::Price:
     case ColumnType::Integer:
         m_edit->setInputMethodHints(HintsFor(column.id));
-        m_edit->setText(text);
-        m_startLine = m_edit->text();
+        m_edit->Give(text);
         Show(m_edit);
         m_edit->selectAll();
         return;
@@ -101,8 +97,8 @@ QString FieldControl::Text() const
     if (m_shown == m_box)
         return m_box->currentText();
     if (m_shown == m_date)
-        return m_date->Date() == m_startDate ? m_startText : m_date->DateText();
-    return m_edit->text() == m_startLine ? m_startText : m_edit->text();
+        return m_date->Entry();
+    return m_edit->Entry();
 }
 
 bool FieldControl::IsLeft(Qt::FocusReason reason) const

@@ -6,15 +6,13 @@
 
 #include <QObject>
 
-#include <optional>
-
 class QComboBox;
 class QKeyEvent;
-class QLineEdit;
 
 namespace Quillory {
 
 class DateField;
+class TextLine;
 
 /// The control that edits one field of a row in its place: a line of text, the two states of a
 /// checkbox, or a date. One of the three is shown at a time.
@@ -26,15 +24,16 @@ public:
     /// The controls are children of `place`. `context` outlives this.
     FieldControl(const ValueContext& context, QWidget* place);
 
-    /// Shows the control that fits the column with the value `text`, and gives it the keyboard.
-    /// `mayBeEmptied` is about dates: whether one that was set can be taken back.
-    void Open(const ColumnDefinition& column, const QString& text, bool mayBeEmptied);
+    /// Shows the control that fits the column with the value `text`, and gives it the keyboard. An
+    /// emptied date falls back on `stored`.
+    void Open(const ColumnDefinition& column, const QString& stored, const QString& text);
     void Place(const QRect& rect);
     /// The control that is shown; null before the first Open.
     [[nodiscard]] QWidget* Shown() const { return m_shown; }
-    /// The value as it stands in the control. What nobody touched comes back as it was given; so
-    /// does a date whose typed text names no day.
+    /// The value as it stands in the control. What nobody touched comes back as it was given.
     [[nodiscard]] QString Text() const;
+    /// The field of a date.
+    [[nodiscard]] DateField* Date() const { return m_date; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -47,14 +46,10 @@ Q_SIGNALS:
     void Confirmed();
 
 private:
-    QLineEdit* m_edit;
+    TextLine* m_edit;
     QComboBox* m_box;
     DateField* m_date;
     QWidget* m_shown = nullptr;
-    QString m_startText;
-    /// What the line of text said when it was opened; a text longer than it holds is cut there.
-    QString m_startLine;
-    std::optional<QDate> m_startDate;
     /// Shift went down, and no other key since.
     bool m_isShiftAlone = false;
     /// Shift was pressed and let go by itself, as an on-screen keyboard does to latch it.

@@ -6,9 +6,9 @@
 #include "rows/date_field.h"
 #include "values/column_type.h"
 #include "widgets/form.h"
+#include "widgets/text_line.h"
 
 #include <QComboBox>
-#include <QLineEdit>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -37,7 +37,7 @@ FilterPage::FilterPage(FilterDialogState state, const InventoryList& list,
     , m_field(new QComboBox(this))
     , m_condition(new QComboBox(this))
     , m_value(new QStackedWidget(this))
-    , m_text(new QLineEdit(m_value))
+    , m_text(new TextLine(m_value))
     , m_checkbox(new QComboBox(m_value))
     , m_date(new DateField(context, m_value))
 {
@@ -130,8 +130,8 @@ void FilterPage::ShowStoredValue()
 {
     const QString& value = m_state.entry.value;
     m_checkbox->setCurrentIndex(value == u"T" ? 1 : 0);
-    m_text->setText(value);
-    m_date->SetDate(m_date->Read(value).value_or(m_context.clock().date));
+    m_text->Give(value);
+    m_date->Open(m_date->Read(value).value_or(m_context.clock().date));
 }
 
 QString FilterPage::ValueText() const
@@ -140,13 +140,13 @@ QString FilterPage::ValueText() const
     case ColumnType::Checkbox:
         return m_checkbox->currentIndex() == 0 ? u"F"_s : u"T"_s;
     case ColumnType::Date:
-        return m_date->DateText();
+        return m_date->Entry();
     case ColumnType::String:
     case ColumnType::Price:
     case ColumnType::Integer:
         break;
     }
-    return m_text->text();
+    return m_text->Entry();
 }
 
 FilterEntry FilterPage::ChosenEntry() const
@@ -166,8 +166,13 @@ bool FilterPage::HasUnsavedInput() const
 
 bool FilterPage::PrepareEnd(PageResult result)
 {
-    if (result == PageResult::Ok)
-        m_state.entry = ChosenEntry();
+    if (result != PageResult::Ok)
+        return true;
+    if (m_value->currentWidget() == m_date && m_date->IsUnread()) {
+        m_date->TellUnread();
+        return false;
+    }
+    m_state.entry = ChosenEntry();
     return true;
 }
 

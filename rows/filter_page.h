@@ -6,12 +6,12 @@
 #include "widgets/page.h"
 
 class QComboBox;
-class QLineEdit;
 class QStackedWidget;
 
 namespace Quillory {
 
 class DateField;
+class TextLine;
 
 enum class FilterMode
 {
@@ -57,7 +57,7 @@ private:
     QComboBox* m_condition;
     /// The three controls of the value lie in one place.
     QStackedWidget* m_value;
-    QLineEdit* m_text;
+    TextLine* m_text;
     QComboBox* m_checkbox;
     DateField* m_date;
 

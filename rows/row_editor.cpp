@@ -2,6 +2,7 @@
 #include "rows/row_editor.h"
 
 #include "res/dialog_table.h"
+#include "rows/date_field.h"
 #include "rows/field_control.h"
 #include "rows/row_field_delegate.h"
 #include "values/column_type.h"
@@ -132,7 +133,20 @@ bool RowEditor::HasUnsavedInput() const
 
 void RowEditor::Commit()
 {
-    m_lines->item(m_current, kValueColumn)->setText(m_control->Text());
+    QStandardItem* value = m_lines->item(m_current, kValueColumn);
+    value->setText(m_control->Text());
+    QFont font;
+    font.setStrikeOut(IsUnreadDate(m_current));
+    value->setFont(font);
+    value->setAccessibleDescription(font.strikeOut() ? DateField::tr("not a date") : QString());
+}
+
+bool RowEditor::IsUnreadDate(int field) const
+{
+    const auto place = static_cast<size_t>(field);
+    return ColumnTypeOf(m_list.columns[place].id) == ColumnType::Date
+        && m_control->Date()->IsUnread(
+            m_startTexts[place], m_lines->item(field, kValueColumn)->text());
 }
 
 void RowEditor::Edit(int field)
@@ -141,7 +155,7 @@ void RowEditor::Edit(int field)
     const auto place = static_cast<size_t>(field);
     const QModelIndex cell = m_lines->index(field, kValueColumn);
     m_view->setCurrentIndex(cell);
-    m_control->Open(m_list.columns[place], cell.data().toString(), m_startTexts[place].isEmpty());
+    m_control->Open(m_list.columns[place], m_startTexts[place], cell.data().toString());
     setFocusProxy(m_control->Shown());
     KeepInView();
 }
@@ -176,8 +190,16 @@ void RowEditor::KeepInView()
 
 bool RowEditor::PrepareEnd(PageResult result)
 {
-    if (result == PageResult::Ok)
-        Commit();
+    if (result != PageResult::Ok)
+        return true;
+    Commit();
+    for (int field = 0; field <= LastField(); ++field) {
+        if (IsUnreadDate(field)) {
+            Edit(field);
+            m_control->Date()->TellUnread();
+            return false;
+        }
+    }
     return true;
 }
 
@@ -187,13 +209,20 @@ bool RowEditor::eventFilter(QObject* watched, QEvent* event)
         const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
         return m_view->viewport()->rect().contains(place) && !m_view->indexAt(place).isValid();
     };
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
         m_isTapOffLines = isOffLines();
-    } else if (event->type() == QEvent::MouseButtonRelease && m_isTapOffLines && isOffLines()) {
-        Commit();
-        Edit(0);
-    } else if (event->type() == QEvent::Resize) {
-        // Once the view has laid itself out: an on-screen keyboard may have taken half of it.
+        // The view would take the selection from the current line.
+        if (m_isTapOffLines)
+            return true;
+    } else if (event->type() == QEvent::MouseButtonRelease && m_isTapOffLines) {
+        if (isOffLines()) {
+            Commit();
+            Edit(0);
+        }
+        return true;
+    } else if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) {
+        // Once the view has laid itself out: an on-screen keyboard may have taken half of it, a
+        // larger font made its lines higher.
         QMetaObject::invokeMethod(this, &RowEditor::KeepInView, Qt::QueuedConnection);
     }
     return Page::eventFilter(watched, event);

@@ -54,6 +54,8 @@ private:
     void Edit(int field);
     void Step(int by);
     void Confirm();
+    /// Whether something was typed into a date that names no day.
+    [[nodiscard]] bool IsUnreadDate(int field) const;
     void PlaceControl();
     void KeepInView();
     [[nodiscard]] int LastField() const;

@@ -29,7 +29,9 @@ void RowFieldDelegate::paint(
     painter->fillRect(option.rect, Mix(option.palette.color(QPalette::Highlight), ground, tint));
     DrawHairline(*painter, option);
     painter->setPen(index.column() == 0 ? Mix(text, ground, kQuiet) : text);
-    DrawLabel(*painter, option, TextRoom(option.rect, index.column()), index);
+    QStyleOptionViewItem marked = option;
+    marked.font.setStrikeOut(index.data(Qt::FontRole).value<QFont>().strikeOut());
+    DrawLabel(*painter, marked, TextRoom(option.rect, index.column()), index);
 }
 
 } // namespace Quillory

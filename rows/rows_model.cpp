@@ -4,6 +4,9 @@
 #include "values/column_type.h"
 #include "values/file_date.h"
 
+#include <QGuiApplication>
+
+#include <algorithm>
 #include <utility>
 
 namespace Quillory {
@@ -26,7 +29,25 @@ RowsModel::RowsModel(
     , m_list(list)
     , m_context(context)
     , m_shown(kShownRows)
-{ }
+    , m_day(context.clock().date)
+{
+    m_dayTimer.setSingleShot(true);
+    connect(&m_dayTimer, &QTimer::timeout, this, &RowsModel::FollowDay);
+    // A computer that slept through midnight wakes with its timers behind.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &RowsModel::FollowDay);
+    FollowDay();
+}
+
+void RowsModel::FollowDay()
+{
+    // The clock and its zone may be set at any time; nobody tells of that.
+    constexpr int kLongestMs = 60'000;
+    const LocalTime now = m_context.clock();
+    const int toMidnightMs = now.time.msecsTo(QTime(23, 59, 59, 999)) + 1;
+    m_dayTimer.start(std::min(toMidnightMs, kLongestMs));
+    if (std::exchange(m_day, now.date) != now.date && !m_rows.empty())
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
 
 void RowsModel::SetRows(std::vector<ObjectId> rows)
 {

@@ -6,13 +6,15 @@
 
 #include <QAbstractTableModel>
 #include <QCache>
+#include <QTimer>
 
 #include <vector>
 
 namespace Quillory {
 
 /// The lines of a rows view: identifiers only. What is shown is read from the store when it is
-/// asked for, and kept for the few rows that were asked for last.
+/// asked for, and kept for the few rows that were asked for last. When another day begins, or the
+/// clock is set to one, all of them change: what expires then is shown in other colours.
 class RowsModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -61,6 +63,10 @@ private:
     const ValueContext& m_context;
     std::vector<ObjectId> m_rows;
     mutable QCache<quint32, ShownRow> m_shown;
+    QDate m_day;
+    QTimer m_dayTimer;
+
+    void FollowDay();
 
     [[nodiscard]] const ShownRow& Shown(int line) const;
     [[nodiscard]] PropertyId ColumnId(int column) const;

@@ -62,11 +62,14 @@ RowsTable::RowsTable(RowsModel& model, const InventoryList& list, const ValueCon
     setVerticalHeader(new NoLineHeader(this));
     setModel(&model);
     setItemDelegate(m_delegate);
+    setFont(ListFont());
     DressLineView(this);
     // Its place is worked out together with the headers, which is done here.
     findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)->hide();
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setSectionsClickable(true);
+    // The toolkit works out which part has changed from the header of the lines.
+    connect(&model, &QAbstractItemModel::dataChanged, viewport(), qOverload<>(&QWidget::update));
     connect(&model, &QAbstractItemModel::modelReset, this, &RowsTable::Rearrange);
     connect(&model, &QAbstractItemModel::rowsInserted, this, &RowsTable::Rearrange);
     connect(&model, &QAbstractItemModel::rowsRemoved, this, &RowsTable::Rearrange);

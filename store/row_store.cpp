@@ -122,17 +122,22 @@ bool RowStore::DeleteRow(ObjectId row)
 std::optional<qint32> RowStore::AdjustCount(ObjectId row, qint32 step)
 {
     constexpr std::array kIds { PropCount };
-    if (m_volume.SeekTo(kRows, row) == kNoObject)
+    const auto isCount = [](const ColumnDefinition& column) { return column.id == PropCount; };
+    if (std::none_of(m_list.columns.begin(), m_list.columns.end(), isCount)
+        || m_volume.SeekTo(kRows, row) == kNoObject)
         return std::nullopt;
     Transaction transaction(m_volume);
     if (!transaction)
         return std::nullopt;
-    Record record = m_volume.Read(kRows, kIds);
-    if (!record || record.values.front().IsMissing())
+    const Record record = m_volume.Read(kRows, kIds);
+    if (!record)
         return std::nullopt;
-    auto& count = std::get<qint32>(record.values.front().value);
-    count = static_cast<qint32>(static_cast<quint32>(count) + static_cast<quint32>(step));
-    if (m_volume.Write(kRows, row, record.values) != row || !transaction.Commit())
+    const PropertyValue& stored = record.values.front();
+    const qint32 before = stored.IsMissing() ? 0 : std::get<qint32>(stored.value);
+    const auto count
+        = static_cast<qint32>(static_cast<quint32>(before) + static_cast<quint32>(step));
+    const std::array<PropertyValue, 1> values { { { PropCount, 0, count } } };
+    if (m_volume.Write(kRows, row, values) != row || !transaction.Commit())
         return std::nullopt;
     return count;
 }

@@ -52,8 +52,8 @@ public:
     ObjectId CopyRow(ObjectId row);
     /// False, and nothing deleted, if there is no such row or it cannot be deleted.
     bool DeleteRow(ObjectId row);
-    /// Adds `step` to the row's Count by 32-bit two's complement, all or nothing. The new count;
-    /// nothing on failure, also where the list or the row has no count.
+    /// Adds `step` to the row's Count, 0 where it has none, by 32-bit two's complement, all or
+    /// nothing. The new count; nothing on failure, also where the list has no such column.
     std::optional<qint32> AdjustCount(ObjectId row, qint32 step);
     /// False, and the row as it was, if there is no such row or it cannot be written.
     bool SetCheckboxValue(ObjectId row, PropertyId column, bool isChecked);

@@ -10,6 +10,7 @@
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTableView>
 
 #include <memory>
@@ -46,8 +47,8 @@ private Q_SLOTS:
     void anotherFieldChangesConditionsAndValue();
     void okGivesWhatWasChosen();
     void aStoredEntryIsShown();
-    void typedDatesAreReadAndOthersIgnored_data();
-    void typedDatesAreReadAndOthersIgnored();
+    void typedDatesAreReadOrKeepThePage_data();
+    void typedDatesAreReadOrKeepThePage();
     void aDateIsPickedFromTheCalendar();
     void cancelGivesTheStateBack();
     void linesShowTheFiltersInTheirOrder();
@@ -213,27 +214,35 @@ void FilterPagesTest::aStoredEntryIsShown()
     QCOMPARE(Find<QComboBox>("checkboxValueBox")->currentText(), u"Checked"_s);
 }
 
-void FilterPagesTest::typedDatesAreReadAndOthersIgnored_data()
+void FilterPagesTest::typedDatesAreReadOrKeepThePage_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("value");
     QTest::newRow("another form") << u"3 January 2027"_s << u"1/3/2027"_s;
-    QTest::newRow("no such day") << u"2/30/2026"_s << u"6/15/2026"_s;
-    QTest::newRow("before the first file time") << u"1/1/1600"_s << u"6/15/2026"_s;
+    QTest::newRow("no such day") << u"2/30/2026"_s << QString();
     QTest::newRow("emptied") << QString() << u"6/15/2026"_s;
 }
 
-void FilterPagesTest::typedDatesAreReadAndOthersIgnored()
+void FilterPagesTest::typedDatesAreReadOrKeepThePage()
 {
     QFETCH(QString, typed);
     m_list = ListBeginningWith(PropExpiryDate);
     ShowFilter();
+    QVERIFY(QTest::qWaitForWindowActive(m_stack.get()));
     auto* edit = Find<QLineEdit>("dateEdit");
     edit->selectAll();
     QTest::keyClick(edit, Qt::Key_Delete);
     QTest::keyClicks(edit, typed);
     Press("ok");
     QTEST(m_state.entry.value, "value");
+    if (m_result.has_value())
+        return;
+    auto* message = m_stack->findChild<QMessageBox*>();
+    QVERIFY(message != nullptr);
+    QTest::keyClick(message, Qt::Key_Return);
+    QTRY_COMPARE(QApplication::focusWidget(), edit);
+    QCOMPARE(edit->text(), typed);
+    QVERIFY(m_stack->Top()->HasUnsavedInput());
 }
 
 void FilterPagesTest::aDateIsPickedFromTheCalendar()

@@ -2,6 +2,7 @@
 #include "listdef/column_definition_page.h"
 #include "listdef/column_table_model.h"
 #include "listdef/list_sheet.h"
+#include "listdef/options_panel.h"
 #include "tests/finger.h"
 #include "tests/test_program.h"
 #include "values/column_type.h"
@@ -10,7 +11,10 @@
 #include "widgets/page_stack.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTableView>
@@ -183,11 +187,16 @@ void ListSheetTest::columnsAreRenamedInPlace()
     m_page->Trigger(Command::Rename);
     auto* editor = View()->viewport()->findChild<QLineEdit*>();
     QVERIFY(editor != nullptr);
-    editor->setText(u"Stock"_s);
+    // All of the old name is selected.
+    QGuiApplication::clipboard()->setText(u"in\tstock\r\nor not"_s);
+    QTest::keySequence(editor, QKeySequence::Paste);
+    QTest::keyClicks(editor, QString(32, u'x'));
+    const QString name = u"in stock or not"_s + QString(17, u'x');
+    QCOMPARE(editor->text(), name);
     QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_COMPARE(Names(), u"Name|Stock"_s);
+    QTRY_COMPARE(Names(), u"Name|"_s + name);
     QVERIFY(!View()->model()->setData(View()->model()->index(0, 0), QString(), Qt::EditRole));
-    QCOMPARE(Names(), u"Name|Stock"_s);
+    QCOMPARE(Names(), u"Name|"_s + name);
 }
 
 void ListSheetTest::keysChangeColumnsOnTheirPanelAlone()
@@ -283,6 +292,14 @@ void ListSheetTest::theIconIsSteppedOrChosenInTheGrid()
 void ListSheetTest::warningsAreEnabledByTheirBoxes()
 {
     ShowTab(u"Options"_s);
+    // Texts are as grey as what they belong to.
+    const auto greyTexts = [this] {
+        int count = 0;
+        for (const QLabel* label : m_page->findChild<OptionsPanel*>()->findChildren<QLabel*>())
+            count += label->isEnabled() ? 0 : 1;
+        return count;
+    };
+    QCOMPARE(greyTexts(), 2);
     auto* onCount = Find<QCheckBox>(u"warnOnCount"_s);
     auto* onExpiry = Find<QCheckBox>(u"warnOnExpiry"_s);
     auto* countColour = Find<ColourButton>(u"countColour"_s);
@@ -290,10 +307,12 @@ void ListSheetTest::warningsAreEnabledByTheirBoxes()
     QVERIFY(!onExpiry->isEnabled());
     onCount->click();
     QVERIFY(countColour->isEnabled() && Find<QWidget>(u"threshold"_s)->isEnabled());
+    QCOMPARE(greyTexts(), 1);
     ShowTab(u"Columns"_s);
     m_page->Trigger(Command::AddExpiryDateColumn);
     ShowTab(u"Options"_s);
     QVERIFY(onExpiry->isEnabled() && !Find<QWidget>(u"expiryColour"_s)->isEnabled());
+    QCOMPARE(greyTexts(), 0);
     onExpiry->click();
     QVERIFY(Find<QWidget>(u"expiryColour"_s)->isEnabled());
     countColour->SetColour(7);

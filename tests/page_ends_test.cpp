@@ -11,13 +11,18 @@
 #include "rows/summary_page.h"
 #include "tests/list_fixture.h"
 #include "tests/test_program.h"
+#include "widgets/app_style.h"
 #include "widgets/help_page.h"
 #include "widgets/icon_grid_page.h"
 #include "widgets/page_stack.h"
 #include "widgets/questions.h"
+#include "widgets/window_style.h"
 
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QTableView>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -139,6 +144,22 @@ PageResult ResultOf(const QString& way)
     return way == u"escape" || way == u"leftKey" ? PageResult::Cancel : PageResult::Ok;
 }
 
+/// Fonts and places of what is seen of a page.
+QStringList LookOf(const Page& page)
+{
+    QStringList lines;
+    for (const QWidget* widget : page.findChildren<QWidget*>()) {
+        if (!widget->isVisible())
+            continue;
+        const auto* table = qobject_cast<const QTableView*>(widget);
+        QDebug(&lines.emplace_back())
+            << widget->metaObject()->className() << widget->objectName()
+            << widget->font().toString() << widget->geometry()
+            << (table == nullptr ? 0 : table->verticalHeader()->defaultSectionSize());
+    }
+    return lines;
+}
+
 } // namespace
 
 class PageEndsTest : public QObject
@@ -152,6 +173,8 @@ private Q_SLOTS:
     void inputIsLostOnlyAfterAYes();
     void returnPressesTheButtonThatHasTheKeyboard_data();
     void returnPressesTheButtonThatHasTheKeyboard();
+    void anOpenPageFollowsTheFont_data();
+    void anOpenPageFollowsTheFont();
 };
 
 void PageEndsTest::everyPageEndsAsItsUserSays_data()
@@ -232,6 +255,34 @@ void PageEndsTest::returnPressesTheButtonThatHasTheKeyboard()
     focused->setFocus(Qt::TabFocusReason);
     QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Return);
     QCOMPARE(subject.results, QList<PageResult> { ResultOf(button) });
+}
+
+void PageEndsTest::anOpenPageFollowsTheFont_data()
+{
+    QTest::addColumn<int>("page");
+    for (int i = 0; const PageCase& page : kPages)
+        QTest::newRow(page.name) << i++;
+}
+
+void PageEndsTest::anOpenPageFollowsTheFont()
+{
+    QFETCH(const int, page);
+    const QFont before = QApplication::font();
+    const auto restore = qScopeGuard([&before] { QApplication::setFont(before); });
+    QFont larger = before;
+    larger.setPointSizeF(before.pointSizeF() * 1.5);
+    QApplication::setStyle(new AppStyle);
+    Subject open;
+    ApplyWindowStyle(&open.stack);
+    Show(open, kPages.at(static_cast<size_t>(page)));
+    // Also while something covers it.
+    open.stack.Push(new Page(QString()));
+    QApplication::setFont(larger);
+    open.stack.Top()->RequestEnd(PageResult::Ok);
+    Subject fresh;
+    ApplyWindowStyle(&fresh.stack);
+    Show(fresh, kPages.at(static_cast<size_t>(page)));
+    QTRY_COMPARE_WITH_TIMEOUT(LookOf(*open.page), LookOf(*fresh.page), 500);
 }
 
 QUILLORY_TEST(QApplication, PageEndsTest)

@@ -8,6 +8,7 @@
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTableView>
 
 #include <memory>
@@ -27,8 +28,8 @@ private Q_SLOTS:
     void onlyALatchedShiftTurnsTabRound();
     void anOpenDropDownKeepsItsKeys();
     void okWritesTheFields();
-    void dateTextsAreCommittedIfTheyNameADay_data();
-    void dateTextsAreCommittedIfTheyNameADay();
+    void typedDatesAreReadOrStayAndKeepThePage_data();
+    void typedDatesAreReadOrStayAndKeepThePage();
     void aPickedDateIsCommitted();
     void aDateOfANewRowCanBeTakenBack();
     void losingTheKeyboardCommits();
@@ -186,32 +187,64 @@ void RowEditorTest::okWritesTheFields()
     QCOMPARE(FindProperty(row.values, m_file->Column(Expiry)), nullptr);
 }
 
-void RowEditorTest::dateTextsAreCommittedIfTheyNameADay_data()
+void RowEditorTest::typedDatesAreReadOrStayAndKeepThePage_data()
 {
     QTest::addColumn<int>("field");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("a day over a day") << int { Bought } << u"2 April 2027"_s << u"4/2/2027"_s;
-    QTest::newRow("30 February over a day") << int { Bought } << u"2/30/2026"_s << u"3/1/2026"_s;
-    QTest::newRow("nothing over a day") << int { Bought } << u""_s << u"3/1/2026"_s;
-    QTest::newRow("a day over nothing") << int { Expiry } << u"4/2/2027"_s << u"4/2/2027"_s;
-    QTest::newRow("30 February over nothing") << int { Expiry } << u"2/30/2026"_s << u""_s;
-    QTest::newRow("nothing over nothing") << int { Expiry } << u""_s << u""_s;
+    QTest::addColumn<bool>("isDate");
+    const auto add = [](const char* name, int field, const char* typed, const char* shown) {
+        QTest::newRow(name) << field << QString::fromLatin1(typed) << QString::fromLatin1(shown)
+                            << (shown != typed);
+    };
+    const char* const none = "";
+    const char* const impossible = "2/30/2026";
+    const char* const time = "12:30";
+    const char* const early = "1/1/1600";
+    add("a day over a day", Bought, "2 April 2027", "4/2/2027");
+    add("day zero over a day", Bought, "30 December 1899", "12/30/1899");
+    add("30 February over a day", Bought, impossible, impossible);
+    add("a time over a day", Bought, time, time);
+    add("nothing over a day", Bought, none, "3/1/2026");
+    add("a day over nothing", Expiry, "2 April 2027", "4/2/2027");
+    add("30 February over nothing", Expiry, impossible, impossible);
+    add("a day before all file times over nothing", Expiry, early, early);
+    add("blanks over nothing", Expiry, "  ", none);
 }
 
-void RowEditorTest::dateTextsAreCommittedIfTheyNameADay()
+void RowEditorTest::typedDatesAreReadOrStayAndKeepThePage()
 {
-    QFETCH(int, field);
-    QFETCH(QString, typed);
-    QFETCH(QString, shown);
+    QFETCH(const int, field);
+    QFETCH(const QString, typed);
+    QFETCH(const QString, shown);
+    QFETCH(const bool, isDate);
     const auto rows = m_file->rows->FillRows().rows;
+    const QString before = m_file->Cells(rows, field);
     Open(rows.front());
     GoTo(field);
+    const auto* edit = m_page->findChild<QLineEdit*>(u"dateEdit"_s);
+    QCOMPARE(edit->placeholderText(), before.isEmpty() ? u"no date"_s : before);
     Type(typed);
+    m_page->findChild<QWidget*>(u"ok"_s)->setFocus();
+    QCOMPARE(edit->accessibleDescription(), isDate ? QString() : u"not a date"_s);
     GoTo(Name);
     QCOMPARE(Shown(field), shown);
     PressOk();
-    QCOMPARE(m_file->Cells(rows, field), shown);
+    QCOMPARE(m_result.has_value(), isDate);
+    if (isDate) {
+        QCOMPARE(m_file->Cells(rows, field), shown);
+        return;
+    }
+    auto* message = m_stack->findChild<QMessageBox*>();
+    QVERIFY(message != nullptr && message->text().contains(typed));
+    QTest::keyClick(message, Qt::Key_Return);
+    QTRY_COMPARE(Focus(), edit);
+    QCOMPARE(Current(), field);
+    QCOMPARE(edit->text(), typed);
+    QVERIFY(m_page->HasUnsavedInput());
+    QTest::keyClicks(Focus(), u"4/2/2027"_s);
+    PressOk();
+    QCOMPARE(m_file->Cells(rows, field), u"4/2/2027"_s);
 }
 
 void RowEditorTest::aPickedDateIsCommitted()
@@ -270,6 +303,7 @@ void RowEditorTest::tapsChooseTheField()
     QVERIFY(!View()->indexAt(belowLines).isValid());
     QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, belowLines);
     QCOMPARE(Current(), int { Name });
+    QVERIFY(View()->selectionModel()->isRowSelected(Name));
     QCOMPARE(Shown(Size), u"8"_s);
 }
 

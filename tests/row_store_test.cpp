@@ -62,7 +62,7 @@ private Q_SLOTS:
     void aCopyIsARowOfItsOwn();
     void deletedRowsShowErr();
     void countsGoBelowZeroAndWrapAround();
-    void aRowWithoutACountCannotBeCounted();
+    void aRowWithoutACountCountsFromZero();
     void filtersKeepTheOrderOfNames();
     void aDamagedPageEndsTheListing_data();
     void aDamagedPageEndsTheListing();
@@ -121,10 +121,13 @@ void RowStoreTest::countsGoBelowZeroAndWrapAround()
     QCOMPARE(file.Cells({ row }, Count), u"-2147483648"_s);
 }
 
-void RowStoreTest::aRowWithoutACountCannotBeCounted()
+void RowStoreTest::aRowWithoutACountCountsFromZero()
 {
     ListFixture file(u"l"_s);
     const ObjectId row = file.Add({ u"only a name"_s });
+    QCOMPARE(file.rows->AdjustCount(row, -1), -1);
+    QCOMPARE(file.rows->AdjustCount(row, -1), -2);
+    file.list.columns.erase(file.list.columns.begin() + Count);
     QVERIFY(!file.rows->AdjustCount(row, 1).has_value());
     // The failure left no transaction behind.
     QVERIFY(file.data->BeginTransaction() && file.data->EndTransaction(true));

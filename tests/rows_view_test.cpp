@@ -12,6 +12,25 @@
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
+    [[nodiscard]] int Count() const { return m_count; }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        m_count += event->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    int m_count = 0;
+};
+
+} // namespace
+
 class RowsViewTest : public QObject
 {
     Q_OBJECT
@@ -43,6 +62,8 @@ private Q_SLOTS:
     void aVanishedRowShowsErr();
     void looksFollowWarnings_data();
     void looksFollowWarnings();
+    void whatChangesIsPaintedAtOnce_data();
+    void whatChangesIsPaintedAtOnce();
 
 private:
     std::unique_ptr<RowsErrand> m_errand;
@@ -451,6 +472,39 @@ void RowsViewTest::looksFollowWarnings()
     const RowLook off = lookOf(list, false);
     QCOMPARE(off.text, isSelected ? QColor(Qt::yellow) : QColor(Qt::black));
     QVERIFY(!off.isItalic);
+}
+
+void RowsViewTest::whatChangesIsPaintedAtOnce_data()
+{
+    QTest::addColumn<QTime>("opened");
+    QTest::addColumn<QDate>("today");
+    QTest::addColumn<bool>("isAwoken");
+    QTest::newRow("midnight") << QTime(23, 59, 59, 900) << QDate(2026, 6, 16) << false;
+    QTest::newRow("the clock is set") << QTime(12, 30) << QDate(2026, 6, 2) << true;
+    QTest::newRow("a count") << QTime(12, 30) << QDate(2026, 6, 15) << false;
+}
+
+void RowsViewTest::whatChangesIsPaintedAtOnce()
+{
+    QFETCH(const QTime, opened);
+    QFETCH(const QDate, today);
+    QFETCH(const bool, isAwoken);
+    LocalTime now { QDate(2026, 6, 15), opened };
+    File().context.clock = [&now] { return now; };
+    File().list.TableOption = kWarnOnExpiry;
+    for (const auto& day : { u"6/10/2026"_s, u"6/16/2026"_s })
+        File().Add({ u"tea"_s, u"1"_s, u""_s, u""_s, u"1"_s, u"1"_s, u""_s, day });
+    m_errand->Open();
+    QTest::qWait(50);
+    const QImage before = View()->viewport()->grab().toImage();
+    const PaintCounter paints(View()->viewport());
+    now.date = today;
+    if (isAwoken)
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    else if (today == QDate(2026, 6, 15))
+        QTest::keyClick(View(), Qt::Key_Plus);
+    QTRY_VERIFY_WITH_TIMEOUT(paints.Count() > 0, 1000);
+    QVERIFY(View()->viewport()->grab().toImage() != before);
 }
 
 QUILLORY_TEST(QApplication, RowsViewTest)

@@ -15,7 +15,7 @@ namespace Quillory {
 
 namespace {
 
-/// The text of a checkbox, beside it: the box itself does not wrap its text.
+/// The text of a checkbox, beside it: the box itself does not wrap its text. Grey where that is.
 class CheckLabel : public QLabel
 {
 public:
@@ -25,6 +25,15 @@ public:
     {
         setWordWrap(true);
         setTextFormat(Qt::PlainText);
+        setEnabled(box.isEnabled());
+        box.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == &m_box && event->type() == QEvent::EnabledChange)
+            setEnabled(m_box.isEnabled());
+        return QLabel::eventFilter(watched, event);
     }
 
 protected:

@@ -28,7 +28,7 @@ private:
 };
 
 /// Adds a checkbox and its text, which wraps where it is longer than the page is wide; a tap on the
-/// text is one on the box.
+/// text is one on the box, and the text is as grey as the box.
 void AddCheckLine(QVBoxLayout& body, QCheckBox& box, const QString& text);
 
 /// `content` in an area that scrolls, by a finger too, where the page is not high enough for it.

@@ -3,10 +3,51 @@
 
 #include "widgets/measures.h"
 
+#include <QEvent>
+#include <QFontDatabase>
 #include <QHeaderView>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// One height for all lines: a list of a million is never measured line by line.
+class LineHeightKeeper : public QObject
+{
+public:
+    explicit LineHeightKeeper(QTableView* view)
+        : QObject(view)
+        , m_view(view)
+    {
+        view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        view->installEventFilter(this);
+        Fit();
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == m_view && event->type() == QEvent::FontChange)
+            Fit();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QTableView* m_view;
+
+    void Fit()
+    {
+        const int height
+            = std::max(CurrentMeasures().lineHeight, m_view->fontMetrics().height() + kGrid);
+        m_view->verticalHeader()->setMinimumSectionSize(height);
+        m_view->verticalHeader()->setDefaultSectionSize(height);
+    }
+};
+
+} // namespace
 
 void DressLineView(QTableView* view)
 {
@@ -18,15 +59,20 @@ void DressLineView(QTableView* view)
     view->setSelectionMode(QAbstractItemView::SingleSelection);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->setTabKeyNavigation(false);
-    QHeaderView* lines = view->verticalHeader();
-    lines->hide();
-    // One height for all: a list of a million lines is never measured line by line.
-    lines->setSectionResizeMode(QHeaderView::Fixed);
-    lines->setDefaultSectionSize(CurrentMeasures().lineHeight);
+    view->verticalHeader()->hide();
+    new LineHeightKeeper(view);
     QHeaderView* header = view->horizontalHeader();
     header->setHighlightSections(false);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setMinimumSectionSize(kMinTouchTarget / 2);
+}
+
+QFont ListFont()
+{
+    QFont font;
+    if (QFontDatabase::hasFamily(u"Tahoma"_s))
+        font.setFamily(u"Tahoma"_s);
+    return font;
 }
 
 } // namespace Quillory

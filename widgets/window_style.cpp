@@ -45,7 +45,8 @@ QString StyleSheet(const QWidget& window)
     return sheet;
 }
 
-/// Works the colours of the palette into the style again whenever they change.
+/// Works the colours of the palette into the style again whenever they change. So it does with the
+/// font: a style sheet holds on to the one that it was worked out with.
 class StyleKeeper : public QObject
 {
 public:
@@ -57,7 +58,9 @@ public:
     }
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (watched == m_window && event->type() == QEvent::ApplicationPaletteChange) {
+        if (watched == m_window
+            && (event->type() == QEvent::ApplicationPaletteChange
+                || event->type() == QEvent::ApplicationFontChange)) {
             m_window->setStyleSheet(QString());
             m_window->setStyleSheet(StyleSheet(*m_window));
         }
