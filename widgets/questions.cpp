@@ -2,7 +2,6 @@
 #include "widgets/questions.h"
 
 #include <QApplication>
-#include <QDialog>
 
 #include <utility>
 

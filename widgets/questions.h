@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDialog>
 #include <QObject>
 #include <QPointer>
 
 #include <deque>
 #include <functional>
 #include <vector>
-
-class QDialog;
-class QWidget;
 
 namespace Quillory {
 
