@@ -45,7 +45,6 @@ private Q_SLOTS:
     void aFreshPageOpensByTheTypeOfTheFirstField();
     void whatIsLookedForCanBeTypedAtOnce();
     void anotherFieldChangesConditionsAndValue();
-    void okGivesWhatWasChosen();
     void aStoredEntryIsShown();
     void typedDatesAreReadOrKeepThePage_data();
     void typedDatesAreReadOrKeepThePage();
@@ -187,19 +186,6 @@ void FilterPagesTest::anotherFieldChangesConditionsAndValue()
     field->setCurrentText(u"Text"_s);
     QCOMPARE(Conditions(), u"contains, equals to, not equals to"_s);
     QCOMPARE(ShownValue(), u"valueEdit"_s);
-}
-
-void FilterPagesTest::okGivesWhatWasChosen()
-{
-    ShowFilter();
-    Find<QComboBox>("fieldBox")->setCurrentText(u"Price"_s);
-    Find<QComboBox>("conditionBox")->setCurrentText(u"less than or equals to"_s);
-    QTest::keyClicks(Find<QWidget>("valueEdit"), u"0,10"_s);
-    QTest::keyClick(Find<QWidget>("valueEdit"), Qt::Key_Return);
-    QCOMPARE(m_result, PageResult::Ok);
-    QCOMPARE(m_state.entry.column, m_list.columns[3].id);
-    QCOMPARE(m_state.entry.condition, FilterCondition::LessOrEqual);
-    QCOMPARE(m_state.entry.value, u"0,10"_s);
 }
 
 void FilterPagesTest::aStoredEntryIsShown()
