@@ -53,8 +53,9 @@ struct ControlCase
 constexpr ControlCase kControls[] {
     { "listName", Qt::Key_X, [](InventoryList& list) { list.Name += u'x'; } },
     { "listIcon", Qt::Key_Up, [](InventoryList& list) { list.TableIcon = 1; } },
-    { "warnOnCount", Qt::Key_Space, [](InventoryList& list) { list.TableOption = kWarnOnExpiry; } },
-    { "warnOnExpiry", Qt::Key_Space, [](InventoryList& list) { list.TableOption = kWarnOnCount; } },
+    { "warnOnCount", Qt::Key_Space, [](InventoryList& list) { list.TableOption -= kWarnOnCount; } },
+    { "warnOnExpiry", Qt::Key_Space,
+        [](InventoryList& list) { list.TableOption -= kWarnOnExpiry; } },
     { "threshold", Qt::Key_Up, [](InventoryList& list) { list.TableWarnStart = 1; } },
     { "countColour", Qt::Key_Down, [](InventoryList& list) { list.TableWarnColour = 7; } },
     { "expiryColour", Qt::Key_Down, [](InventoryList& list) { list.TableExpiryColour = 7; } },
@@ -130,9 +131,11 @@ void FieldsTest::whatNobodyTouchesStays_data()
     }
     QTest::newRow("import order") << Opener([this] {
         auto* page = Open(new ImportOrderPage(m_list.columns));
-        const auto isOf = [](const ColumnDefinition& column, PropertyId id) { return column.id == id; };
+        const auto isOf
+            = [](const ColumnDefinition& column, PropertyId id) { return column.id == id; };
         const auto order = TapOk() ? page->Order() : std::vector<PropertyId>();
-        return std::equal(m_list.columns.begin(), m_list.columns.end(), order.begin(), order.end(), isOf);
+        return std::equal(
+            m_list.columns.begin(), m_list.columns.end(), order.begin(), order.end(), isOf);
     });
 }
 
@@ -157,7 +160,8 @@ void FieldsTest::anUntouchedRowKeepsItsTexts()
     const Record records[] {
         make({}),
         make({ kOddText, kRange.min(), u"\n"_s, true, -0.001, kRange.max(), day(1601), hour }),
-        make({ u" "_s, kRange.max(), u"Unchecked"_s, false, 123456789012345.678, -1, day(9999), day(9999) }),
+        make({ u" "_s, kRange.max(), u"Unchecked"_s, false, 123456789012345.678, -1, day(9999),
+            day(9999) }),
         make({ u""_s, 0, u"\t"_s, true, 1e300, 0, day(1899), day(2026) }),
         make({ u"€"_s, 0, u"1"_s, true, std::numeric_limits<double>::infinity(), 0, hour, hour }),
     };
@@ -167,8 +171,8 @@ void FieldsTest::anUntouchedRowKeepsItsTexts()
         for (const Record& record : records) {
             std::vector<QString> texts;
             for (const ColumnDefinition& column : columns)
-                texts.push_back(FormatEditText(
-                    FindProperty(record.values, column.id), column.id, m_context));
+                texts.push_back(
+                    FormatEditText(FindProperty(record.values, column.id), column.id, m_context));
             auto* page = Open(new RowEditor(m_list, &record, m_context));
             QVERIFY(QTest::qWaitForWindowActive(m_stack.get()));
             for (size_t field = 0; field < columns.size(); ++field)
@@ -192,7 +196,7 @@ void FieldsTest::aControlChangesItsSettingAlone()
     QFETCH(const size_t, control);
     const ControlCase& asked = kControls[control];
     m_list.Name = u"Pantry"_s;
-    m_list.TableOption = kWarnOnCount | kWarnOnExpiry;
+    m_list.TableOption = kWarnOnCount | kWarnOnExpiry | 0x80;
     m_list.TableWarnColour = m_list.TableExpiryColour = 5;
     auto* page = Open(new ListSheet(SheetMode::ExistingList, m_list, m_list));
     QTest::keyClick(page->findChild<QWidget*>(QLatin1StringView(asked.control)), asked.key);
@@ -211,8 +215,8 @@ void FieldsTest::everyConditionIsGivenAsChosen()
         int place = 0;
         for (const FilterCondition condition : ConditionsFor(column.id)) {
             auto* page = Open(new FilterPage({}, m_list, m_context));
-            page->findChild<QComboBox*>(u"fieldBox"_s)->setCurrentIndex(
-                static_cast<int>(&column - m_list.columns.data()));
+            page->findChild<QComboBox*>(u"fieldBox"_s)
+                ->setCurrentIndex(static_cast<int>(&column - m_list.columns.data()));
             page->findChild<QComboBox*>(u"conditionBox"_s)->setCurrentIndex(place++);
             QVERIFY(TapOk());
             QCOMPARE(page->State().entry.column, column.id);
@@ -226,10 +230,12 @@ void FieldsTest::pastedBreaksBecomeBlanks_data()
     using Opener = std::function<Page*()>;
     QTest::addColumn<Opener>("open");
     QTest::addColumn<QString>("field");
-    QTest::newRow("row") << Opener([this] { return Open(new RowEditor(m_list, nullptr, m_context)); })
-                         << u"valueEdit"_s;
-    QTest::newRow("filter") << Opener([this] { return Open(new FilterPage({}, m_list, m_context)); })
-                            << u"valueEdit"_s;
+    QTest::newRow("row") << Opener([this] {
+        return Open(new RowEditor(m_list, nullptr, m_context));
+    }) << u"valueEdit"_s;
+    QTest::newRow("filter") << Opener([this] {
+        return Open(new FilterPage({}, m_list, m_context));
+    }) << u"valueEdit"_s;
     QTest::newRow("list") << Opener([this] {
         return Open(new ListSheet(SheetMode::NewList, m_list, m_list));
     }) << u"listName"_s;

@@ -7,7 +7,6 @@
 #include "widgets/page_stack.h"
 
 #include <QApplication>
-#include <QCalendarWidget>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -48,7 +47,6 @@ private Q_SLOTS:
     void aStoredEntryIsShown();
     void typedDatesAreReadOrKeepThePage_data();
     void typedDatesAreReadOrKeepThePage();
-    void aDateIsPickedFromTheCalendar();
     void cancelGivesTheStateBack();
     void linesShowTheFiltersInTheirOrder();
     void removingTakesTheSelectedFilter();
@@ -229,21 +227,6 @@ void FilterPagesTest::typedDatesAreReadOrKeepThePage()
     QTRY_COMPARE(QApplication::focusWidget(), edit);
     QCOMPARE(edit->text(), typed);
     QVERIFY(m_stack->Top()->HasUnsavedInput());
-}
-
-void FilterPagesTest::aDateIsPickedFromTheCalendar()
-{
-    m_list = ListBeginningWith(PropExpiryDate);
-    Show(new FilterPage({}, m_list, m_context));
-    QTest::keyClick(Find<QLineEdit>("dateEdit"), Qt::Key_Down, Qt::AltModifier);
-    auto* calendar = Find<QCalendarWidget>("calendar");
-    QVERIFY(calendar != nullptr);
-    QCOMPARE(calendar->selectedDate(), QDate(2026, 6, 15));
-    QWidget* days = calendar->findChild<QTableView*>();
-    QTest::keyClick(days, Qt::Key_Right);
-    QTest::keyClick(days, Qt::Key_Return);
-    QVERIFY(QApplication::activePopupWidget() == nullptr);
-    QCOMPARE(Find<QLineEdit>("dateEdit")->text(), u"6/16/2026"_s);
 }
 
 void FilterPagesTest::cancelGivesTheStateBack()
