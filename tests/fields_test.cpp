@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "listdef/column_definition_page.h"
 #include "listdef/display_options_page.h"
-#include "listdef/import_order_page.h"
 #include "listdef/list_sheet.h"
 #include "rows/filter_page.h"
 #include "rows/row_editor.h"
@@ -16,8 +15,9 @@
 #include <QLineEdit>
 #include <QTabBar>
 
-#include <functional>
 #include <limits>
+#include <memory>
+#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -69,13 +69,10 @@ class FieldsTest : public QObject
 
 private Q_SLOTS:
     void init();
-    void whatNobodyTouchesStays_data();
     void whatNobodyTouchesStays();
     void anUntouchedRowKeepsItsTexts();
-    void aControlChangesItsSettingAlone_data();
     void aControlChangesItsSettingAlone();
     void everyConditionIsGivenAsChosen();
-    void pastedBreaksBecomeBlanks_data();
     void pastedBreaksBecomeBlanks();
 
 private:
@@ -109,40 +106,20 @@ void FieldsTest::init()
     m_list.columns.push_back({ u"Until"_s, 0, PropExpiryDate });
 }
 
-void FieldsTest::whatNobodyTouchesStays_data()
-{
-    using Opener = std::function<bool()>;
-    QTest::addColumn<Opener>("isKept");
-    for (const auto mode : { SheetMode::NewList, SheetMode::ExistingList }) {
-        QTest::addRow("list sheet %d", static_cast<int>(mode)) << Opener([this, mode] {
-            const InventoryList list = OddList();
-            auto* page = Open(new ListSheet(mode, list, list));
-            for (int tab = 0; tab < page->findChild<QTabBar*>()->count(); ++tab)
-                QTest::keyClick(page->findChild<QTabBar*>(), Qt::Key_Right);
-            return !page->HasUnsavedInput() && TapOk() && page->Result() == list;
-        });
-    }
-    for (int bits = 0; bits < 8; ++bits) {
-        QTest::addRow("options %d", bits) << Opener([this, bits] {
-            const DisplayOptions options { (bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0 };
-            auto* page = Open(new DisplayOptionsPage(options));
-            return !page->HasUnsavedInput() && TapOk() && page->Result() == options;
-        });
-    }
-    QTest::newRow("import order") << Opener([this] {
-        auto* page = Open(new ImportOrderPage(m_list.columns));
-        const auto isOf
-            = [](const ColumnDefinition& column, PropertyId id) { return column.id == id; };
-        const auto order = TapOk() ? page->Order() : std::vector<PropertyId>();
-        return std::equal(
-            m_list.columns.begin(), m_list.columns.end(), order.begin(), order.end(), isOf);
-    });
-}
-
 void FieldsTest::whatNobodyTouchesStays()
 {
-    QFETCH(const std::function<bool()>, isKept);
-    QVERIFY(isKept());
+    const InventoryList list = OddList();
+    for (const auto mode : { SheetMode::NewList, SheetMode::ExistingList }) {
+        auto* page = Open(new ListSheet(mode, list, list));
+        for (int tab = 0; tab < page->findChild<QTabBar*>()->count(); ++tab)
+            QTest::keyClick(page->findChild<QTabBar*>(), Qt::Key_Right);
+        QVERIFY(!page->HasUnsavedInput() && TapOk() && page->Result() == list);
+    }
+    for (int bits = 0; bits < 8; ++bits) {
+        const DisplayOptions options { (bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0 };
+        auto* page = Open(new DisplayOptionsPage(options));
+        QVERIFY(!page->HasUnsavedInput() && TapOk() && page->Result() == options);
+    }
 }
 
 void FieldsTest::anUntouchedRowKeepsItsTexts()
@@ -184,29 +161,18 @@ void FieldsTest::anUntouchedRowKeepsItsTexts()
     }
 }
 
-void FieldsTest::aControlChangesItsSettingAlone_data()
-{
-    QTest::addColumn<size_t>("control");
-    for (size_t i = 0; i < std::size(kControls); ++i)
-        QTest::newRow(kControls[i].control) << i;
-}
-
 void FieldsTest::aControlChangesItsSettingAlone()
 {
-    QFETCH(const size_t, control);
-    const ControlCase& asked = kControls[control];
     m_list.Name = u"Pantry"_s;
     m_list.TableOption = kWarnOnCount | kWarnOnExpiry | 0x80;
     m_list.TableWarnColour = m_list.TableExpiryColour = 5;
-    auto* page = Open(new ListSheet(SheetMode::ExistingList, m_list, m_list));
-    QTest::keyClick(page->findChild<QWidget*>(QLatin1StringView(asked.control)), asked.key);
-    asked.change(m_list);
-    QVERIFY(page->HasUnsavedInput());
-    QVERIFY(TapOk());
-    const InventoryList result = page->Result();
-    QCOMPARE(result.Name, m_list.Name);
-    QCOMPARE(result.TableOption, m_list.TableOption);
-    QVERIFY(result == m_list);
+    for (const ControlCase& asked : kControls) {
+        auto* page = Open(new ListSheet(SheetMode::ExistingList, m_list, m_list));
+        QTest::keyClick(page->findChild<QWidget*>(QLatin1StringView(asked.control)), asked.key);
+        InventoryList expected = m_list;
+        asked.change(expected);
+        QVERIFY2(TapOk() && page->HasUnsavedInput() && page->Result() == expected, asked.control);
+    }
 }
 
 void FieldsTest::everyConditionIsGivenAsChosen()
@@ -225,33 +191,21 @@ void FieldsTest::everyConditionIsGivenAsChosen()
     }
 }
 
-void FieldsTest::pastedBreaksBecomeBlanks_data()
-{
-    using Opener = std::function<Page*()>;
-    QTest::addColumn<Opener>("open");
-    QTest::addColumn<QString>("field");
-    QTest::newRow("row") << Opener([this] {
-        return Open(new RowEditor(m_list, nullptr, m_context));
-    }) << u"valueEdit"_s;
-    QTest::newRow("filter") << Opener([this] {
-        return Open(new FilterPage({}, m_list, m_context));
-    }) << u"valueEdit"_s;
-    QTest::newRow("list") << Opener([this] {
-        return Open(new ListSheet(SheetMode::NewList, m_list, m_list));
-    }) << u"listName"_s;
-    QTest::newRow("column") << Opener([this] { return Open(new ColumnDefinitionPage); })
-                            << u"columnName"_s;
-}
-
 void FieldsTest::pastedBreaksBecomeBlanks()
 {
-    QFETCH(const std::function<Page*()>, open);
-    QFETCH(const QString, field);
-    auto* edit = open()->findChild<QLineEdit*>(field);
     QGuiApplication::clipboard()->setText(u"a\tb\r\nc\nd"_s);
-    QTest::keySequence(edit, QKeySequence::Paste);
-    QTest::keyClick(edit, Qt::Key_E);
-    QCOMPARE(edit->text(), u"a b c de"_s);
+    const std::pair<Page*, QString> fields[] {
+        { new RowEditor(m_list, nullptr, m_context), u"valueEdit"_s },
+        { new FilterPage({}, m_list, m_context), u"valueEdit"_s },
+        { new ListSheet(SheetMode::NewList, m_list, m_list), u"listName"_s },
+        { new ColumnDefinitionPage, u"columnName"_s },
+    };
+    for (const auto& [page, field] : fields) {
+        auto* edit = Open(page)->findChild<QLineEdit*>(field);
+        QTest::keySequence(edit, QKeySequence::Paste);
+        QTest::keyClick(edit, Qt::Key_E);
+        QCOMPARE(edit->text(), u"a b c de"_s);
+    }
 }
 
 QUILLORY_TEST(QApplication, FieldsTest)
