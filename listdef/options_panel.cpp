@@ -6,6 +6,7 @@
 #include "res/string_table.h"
 #include "store/inventory_list.h"
 #include "widgets/colour_button.h"
+#include "widgets/colour_palette.h"
 #include "widgets/form.h"
 #include "widgets/measures.h"
 
@@ -103,8 +104,13 @@ void OptionsPanel::UpdateEnabled()
 void OptionsPanel::Apply(InventoryList& list) const
 {
     list.TableWarnStart = m_threshold->Value();
-    list.TableWarnColour = m_countColour->Colour();
-    list.TableExpiryColour = m_expiryColour->Colour();
+    // A colour that the program does not know is shown as the automatic one, and kept.
+    const auto take = [](quint32& stored, quint32 chosen) {
+        if (stored < kColourCount || chosen != kAutomaticColour)
+            stored = chosen;
+    };
+    take(list.TableWarnColour, m_countColour->Colour());
+    take(list.TableExpiryColour, m_expiryColour->Colour());
     list.TableOption &= ~(kWarnOnCount | kWarnOnExpiry);
     if (m_warnOnCount->isChecked())
         list.TableOption |= kWarnOnCount;

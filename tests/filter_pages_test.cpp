@@ -7,7 +7,6 @@
 #include "widgets/page_stack.h"
 
 #include <QApplication>
-#include <QCalendarWidget>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -45,11 +44,9 @@ private Q_SLOTS:
     void aFreshPageOpensByTheTypeOfTheFirstField();
     void whatIsLookedForCanBeTypedAtOnce();
     void anotherFieldChangesConditionsAndValue();
-    void okGivesWhatWasChosen();
     void aStoredEntryIsShown();
     void typedDatesAreReadOrKeepThePage_data();
     void typedDatesAreReadOrKeepThePage();
-    void aDateIsPickedFromTheCalendar();
     void cancelGivesTheStateBack();
     void linesShowTheFiltersInTheirOrder();
     void removingTakesTheSelectedFilter();
@@ -189,19 +186,6 @@ void FilterPagesTest::anotherFieldChangesConditionsAndValue()
     QCOMPARE(ShownValue(), u"valueEdit"_s);
 }
 
-void FilterPagesTest::okGivesWhatWasChosen()
-{
-    ShowFilter();
-    Find<QComboBox>("fieldBox")->setCurrentText(u"Price"_s);
-    Find<QComboBox>("conditionBox")->setCurrentText(u"less than or equals to"_s);
-    QTest::keyClicks(Find<QWidget>("valueEdit"), u"0,10"_s);
-    QTest::keyClick(Find<QWidget>("valueEdit"), Qt::Key_Return);
-    QCOMPARE(m_result, PageResult::Ok);
-    QCOMPARE(m_state.entry.column, m_list.columns[3].id);
-    QCOMPARE(m_state.entry.condition, FilterCondition::LessOrEqual);
-    QCOMPARE(m_state.entry.value, u"0,10"_s);
-}
-
 void FilterPagesTest::aStoredEntryIsShown()
 {
     ShowFilter({ .entry = { m_list.columns[4].id, FilterCondition::Equals, u"2/29/2024"_s } });
@@ -243,21 +227,6 @@ void FilterPagesTest::typedDatesAreReadOrKeepThePage()
     QTRY_COMPARE(QApplication::focusWidget(), edit);
     QCOMPARE(edit->text(), typed);
     QVERIFY(m_stack->Top()->HasUnsavedInput());
-}
-
-void FilterPagesTest::aDateIsPickedFromTheCalendar()
-{
-    m_list = ListBeginningWith(PropExpiryDate);
-    Show(new FilterPage({}, m_list, m_context));
-    QTest::keyClick(Find<QLineEdit>("dateEdit"), Qt::Key_Down, Qt::AltModifier);
-    auto* calendar = Find<QCalendarWidget>("calendar");
-    QVERIFY(calendar != nullptr);
-    QCOMPARE(calendar->selectedDate(), QDate(2026, 6, 15));
-    QWidget* days = calendar->findChild<QTableView*>();
-    QTest::keyClick(days, Qt::Key_Right);
-    QTest::keyClick(days, Qt::Key_Return);
-    QVERIFY(QApplication::activePopupWidget() == nullptr);
-    QCOMPARE(Find<QLineEdit>("dateEdit")->text(), u"6/16/2026"_s);
 }
 
 void FilterPagesTest::cancelGivesTheStateBack()

@@ -49,7 +49,6 @@ private Q_SLOTS:
     void aPointerPicksOnlyByWhatItDoesInTheGrid();
     void theWheelLeavesAClosedDropDownAlone();
     void landscapeEnablesItsHands();
-    void anOrientationThatIsNotRightHandedIsLeftHanded();
     void importColumnsAreMovedNotLeftOut();
 };
 
@@ -283,13 +282,6 @@ void PickersTest::landscapeEnablesItsHands()
     page.findChild<QCheckBox*>(u"alternateColour"_s)->click();
     QCOMPARE(page.Result(), (DisplayOptions { true, false, false }));
     QVERIFY(page.HasUnsavedInput());
-}
-
-void PickersTest::anOrientationThatIsNotRightHandedIsLeftHanded()
-{
-    const DisplayOptionsPage page({ true, false, false });
-    QVERIFY(page.findChild<QRadioButton*>(u"landscapeLeft"_s)->isChecked());
-    QVERIFY(!page.HasUnsavedInput());
 }
 
 void PickersTest::importColumnsAreMovedNotLeftOut()
