@@ -35,7 +35,7 @@ RowsModel::RowsModel(
     connect(&m_dayTimer, &QTimer::timeout, this, &RowsModel::FollowDay);
     // A computer that slept through midnight wakes with its timers behind.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &RowsModel::FollowDay);
-    FollowDay();
+    m_dayTimer.start(0);
 }
 
 void RowsModel::FollowDay()
