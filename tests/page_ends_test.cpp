@@ -16,6 +16,7 @@
 #include "widgets/page_stack.h"
 #include "widgets/questions.h"
 
+#include <QAccessible>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -152,6 +153,8 @@ private Q_SLOTS:
     void inputIsLostOnlyAfterAYes();
     void returnPressesTheButtonThatHasTheKeyboard_data();
     void returnPressesTheButtonThatHasTheKeyboard();
+    void everyControlHasAName_data();
+    void everyControlHasAName();
 };
 
 void PageEndsTest::everyPageEndsAsItsUserSays_data()
@@ -232,6 +235,25 @@ void PageEndsTest::returnPressesTheButtonThatHasTheKeyboard()
     focused->setFocus(Qt::TabFocusReason);
     QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Return);
     QCOMPARE(subject.results, QList<PageResult> { ResultOf(button) });
+}
+
+void PageEndsTest::everyControlHasAName_data()
+{
+    QTest::addColumn<int>("page");
+    for (int i = 0; const PageCase& page : kPages)
+        QTest::newRow(page.name) << i++;
+}
+
+void PageEndsTest::everyControlHasAName()
+{
+    QFETCH(const int, page);
+    Subject subject;
+    Show(subject, kPages.at(static_cast<size_t>(page)));
+    for (QWidget* control : subject.page->findChildren<QWidget*>()) {
+        const auto* heard = QAccessible::queryAccessibleInterface(control);
+        if (control->focusPolicy() != Qt::NoFocus)
+            QVERIFY2(!heard->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
+    }
 }
 
 QUILLORY_TEST(QApplication, PageEndsTest)
