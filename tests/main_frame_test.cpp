@@ -17,6 +17,7 @@
 #include <QScrollBar>
 #include <QTableView>
 #include <QTextBrowser>
+#include <QTimer>
 
 #include <sys/stat.h>
 
@@ -201,6 +202,13 @@ void MainFrameTest::aLaterStartOpensTheListItNames()
     QCOMPARE(errand.pages->Top()->Title(), u"Pantry"_s);
     QCOMPARE(errand.pages->Depth(), 2);
     QCOMPARE(errand.home->SelectedName(), u"Pantry"_s);
+    // One that comes while the data file is asked for waits for it.
+    FrameErrand first;
+    MakeLists(first.DataPath(), { u"Pantry"_s });
+    first.Start();
+    QCOMPARE(first.frame->TakeStartRequest({ u"Pantry"_s, {} }), StartAnswer::Done);
+    first.PressOk();
+    QCOMPARE(first.pages->Top()->Title(), u"Pantry"_s);
 }
 
 void MainFrameTest::theSelectedListIsExported()
@@ -211,8 +219,13 @@ void MainFrameTest::theSelectedListIsExported()
     QVERIFY(dialog != nullptr);
     dialog->setDirectory(QFileInfo(errand.DataPath()).path());
     dialog->selectFile(u"pantry"_s);
-    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
     const QString path = QFileInfo(errand.DataPath()).dir().filePath(u"pantry.txt"_s);
+    WriteFileBytes(path, "another's");
+    for (const auto answer : { QMessageBox::No, QMessageBox::Yes }) {
+        QCOMPARE(FileBytes(path), "another's"_ba);
+        QTimer::singleShot(0, dialog, [&errand, answer] { errand.Answer(answer); });
+        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    }
     QTRY_COMPARE(FileBytes(path), "\xff\xfe"_ba);
     // The list is free for other commands again.
     errand.Tap(0);
@@ -268,6 +281,11 @@ void MainFrameTest::landscapeLastsAsLongAsTheListIsShown()
     QCOMPARE(errand.frame->size(), QSize(500, 300));
     errand.PressOk();
     QCOMPARE(errand.frame->size(), QSize(300, 500));
+    // One that is wide already stays as it is.
+    errand.frame->resize(600, 400);
+    errand.Tap(0);
+    errand.PressOk();
+    QCOMPARE(errand.frame->size(), QSize(600, 400));
 }
 
 void MainFrameTest::anImportAsksForTheOrderAndShowsTheRows()

@@ -4,11 +4,13 @@
 #include "tests/test_program.h"
 
 #include <QFile>
+#include <QSignalSpy>
 #include <QTableView>
 
 #include <sys/resource.h>
 
 #include <malloc.h>
+#include <new>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -39,6 +41,13 @@ private:
     rlimit m_before {};
 };
 
+/// Needs more than there is for whatever it hears of.
+class Insatiable : public QObject
+{
+protected:
+    void customEvent(QEvent* /*event*/) override { throw std::bad_alloc(); }
+};
+
 } // namespace
 
 class OutOfMemoryTest : public QObject
@@ -47,6 +56,7 @@ class OutOfMemoryTest : public QObject
 
 private Q_SLOTS:
     void aCommandThatNeedsMoreEndsAndTheRestGoesOn();
+    void itIsToldEachTimeButOnceForAll();
 };
 
 void OutOfMemoryTest::aCommandThatNeedsMoreEndsAndTheRestGoesOn()
@@ -79,6 +89,20 @@ void OutOfMemoryTest::aCommandThatNeedsMoreEndsAndTheRestGoesOn()
     QVERIFY(errand.frame->close());
     errand.frame.reset();
     QCOMPARE(ListsIn(errand.DataPath()), u"Pantry %1"_s.arg(kRows));
+}
+
+void OutOfMemoryTest::itIsToldEachTimeButOnceForAll()
+{
+    Insatiable insatiable;
+    QEvent event(QEvent::User);
+    const QSignalSpy told(
+        qobject_cast<Application*>(QCoreApplication::instance()), &Application::MemoryRanOut);
+    for (int times = 1; times <= 2; ++times) {
+        QCoreApplication::sendEvent(&insatiable, &event);
+        QCoreApplication::sendEvent(&insatiable, &event);
+        QCoreApplication::processEvents();
+        QCOMPARE(told.count(), times);
+    }
 }
 
 QUILLORY_TEST(Quillory::Application, OutOfMemoryTest)

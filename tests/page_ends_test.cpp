@@ -18,6 +18,7 @@
 #include "widgets/questions.h"
 #include "widgets/window_style.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
@@ -175,6 +176,8 @@ private Q_SLOTS:
     void returnPressesTheButtonThatHasTheKeyboard();
     void anOpenPageFollowsTheFont_data();
     void anOpenPageFollowsTheFont();
+    void everyControlHasAName_data();
+    void everyControlHasAName();
 };
 
 void PageEndsTest::everyPageEndsAsItsUserSays_data()
@@ -283,6 +286,23 @@ void PageEndsTest::anOpenPageFollowsTheFont()
     ApplyWindowStyle(&fresh.stack);
     Show(fresh, kPages.at(static_cast<size_t>(page)));
     QTRY_COMPARE_WITH_TIMEOUT(LookOf(*open.page), LookOf(*fresh.page), 500);
+}
+
+void PageEndsTest::everyControlHasAName_data()
+{
+    anOpenPageFollowsTheFont_data();
+}
+
+void PageEndsTest::everyControlHasAName()
+{
+    QFETCH(const int, page);
+    Subject subject;
+    Show(subject, kPages.at(static_cast<size_t>(page)));
+    for (QWidget* control : subject.page->findChildren<QWidget*>()) {
+        const auto* heard = QAccessible::queryAccessibleInterface(control);
+        if (control->isVisible() && control->focusPolicy() != Qt::NoFocus)
+            QVERIFY2(!heard->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
+    }
 }
 
 QUILLORY_TEST(QApplication, PageEndsTest)

@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/test_program.h"
+#include "widgets/message_box.h"
 #include "widgets/page_stack.h"
+#include "widgets/questions.h"
 
+#include <QDialog>
+#include <QLineEdit>
 #include <QSignalSpy>
+
+#include <array>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -16,6 +22,7 @@ private Q_SLOTS:
     void theOpenerHearsTheResultOnce();
     void closingEndsPagesFromTheTop();
     void commandsOfSoftKeysMenusAndShortcutsAreOne();
+    void whoWaitsIsHeardOnceNothingIsAsked();
 };
 
 void PageStackTest::theOpenerHearsTheResultOnce_data()
@@ -34,6 +41,10 @@ void PageStackTest::theOpenerHearsTheResultOnce()
     PageStack stack;
     auto* first = new Page(QString());
     stack.Push(first);
+    std::array<QLineEdit*, 3> fields {};
+    for (QLineEdit*& field : fields)
+        field = new QLineEdit(first);
+    fields[1]->setFocus();
     auto* page = new Page(u"A page"_s);
     QList<int> heard;
     stack.Push(page, [&](PageResult ended) { heard << static_cast<int>(ended); });
@@ -47,6 +58,7 @@ void PageStackTest::theOpenerHearsTheResultOnce()
         QTest::keyClick(stack.focusWidget(), Qt::Key_Return);
     QCOMPARE(heard, QList<int> { result });
     QCOMPARE(stack.Top(), first);
+    QCOMPARE(stack.focusWidget(), fields[1]);
 }
 
 void PageStackTest::closingEndsPagesFromTheTop()
@@ -76,6 +88,23 @@ void PageStackTest::commandsOfSoftKeysMenusAndShortcutsAreOne()
     QVERIFY(!left->isEnabled());
     page.Trigger(Command::Insert);
     QCOMPARE(chosen, (QList<int> { 32780, 32777 }));
+}
+
+void PageStackTest::whoWaitsIsHeardOnceNothingIsAsked()
+{
+    PageStack stack;
+    Questions& questions = Questions::Of(&stack);
+    QString heard;
+    ShowMessage(&stack, u"one"_s, MessageIcon::Information);
+    questions.WhenIdle([&] {
+        heard += u"first "_s;
+        ShowMessage(&stack, u"two"_s, MessageIcon::Information);
+    });
+    questions.WhenIdle([&] { heard += u"second"_s; });
+    for (const QString& then : { u"first "_s, u"first second"_s }) {
+        QTest::keyClick(questions.Shown(), Qt::Key_Escape);
+        QTRY_COMPARE(heard, then);
+    }
 }
 
 QUILLORY_TEST(QApplication, PageStackTest)

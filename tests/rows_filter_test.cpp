@@ -137,6 +137,8 @@ void RowsFilterTest::theSummaryCountsTheShownRows()
     m_errand->page->Trigger(Command::ViewSummary);
     QCOMPARE(m_errand->Lines(0), u"Quantity Price Size"_s);
     QCOMPARE(m_errand->Lines(1), u"8 0.40 2"_s);
+    const QVariant side = m_errand->View()->model()->index(0, 1).data(Qt::TextAlignmentRole);
+    QVERIFY(side.value<Qt::Alignment>().testFlag(Qt::AlignRight));
 }
 
 void RowsFilterTest::clearIsOfferedWhileThereAreCriteria()

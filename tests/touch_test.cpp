@@ -49,6 +49,7 @@ private:
         DoubleTap,
         TwoTaps,
         Hold,
+        HoldTakenAway,
         Flick,
         SlowSwipe,
         TapOnGliding,
@@ -137,6 +138,13 @@ void TouchTest::Do(Gesture gesture) const
         finger.Press(line);
         QTest::qWait(200);
         return finger.Release(line);
+    case Gesture::HoldTakenAway: {
+        SetIntervals(0, 50);
+        finger.Press(line);
+        QTouchEvent cancel(QEvent::TouchCancel);
+        QApplication::sendEvent(m_view->viewport(), &cancel);
+        return QTest::qWait(200);
+    }
     case Gesture::Flick:
         return flick();
     case Gesture::SlowSwipe:
@@ -204,6 +212,7 @@ void TouchTest::aFingerActsOnTheReleaseOfATap_data()
     QTest::newRow("icon grid: tap") << List::IconGrid << Gesture::Tap << u"closed"_s;
     QTest::newRow("icon grid: slow swipe")
         << List::IconGrid << Gesture::SlowSwipe << u"0 scrolled"_s;
+    QTest::newRow("rows: hold taken away") << List::Rows << Gesture::HoldTakenAway << u"0"_s;
     QTest::newRow("rows: two taps") << List::Rows << Gesture::TwoTaps << u"4"_s;
     QTest::newRow("rows: tap in a square") << List::Rows << Gesture::TapInSquare << u"4 ticked"_s;
     QTest::newRow("rows: tap beside a square") << List::Rows << Gesture::TapBesideSquare << u"4"_s;
