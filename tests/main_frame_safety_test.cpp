@@ -131,6 +131,7 @@ void MainFrameSafetyTest::aDeletedRowComesBack()
     QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(table->model()->rowCount(), 2);
     QCOMPARE(table->currentIndex().data().toString(), u"Salt"_s);
+    QVERIFY(!rows->findChild<QWidget*>(u"undoBar"_s)->isVisible());
     // All of them, deleted from outside the list and brought back inside it.
     errand.PressOk();
     errand.Choose(Command::DeleteAllRecords);

@@ -262,7 +262,9 @@ void MainFrameTest::optionsSurviveARestart()
     errand.Choose(Command::Options);
     errand.pages->Top()->findChild<QCheckBox*>(u"alternateColour"_s)->click();
     errand.PressCancel();
+    errand.frame->resize(420, 500);
     errand.Restart();
+    QCOMPARE(errand.frame->size(), QSize(420, 500));
     errand.Choose(Command::Options);
     const auto* page = qobject_cast<DisplayOptionsPage*>(errand.pages->Top());
     QVERIFY(page != nullptr);

@@ -160,10 +160,12 @@ void RowsFilterTest::findShowsWhatMatches()
 {
     // A list narrowed by filters is searched whole.
     Filter(u"Bio"_s, u"equals to"_s, u"Unchecked"_s);
+    m_errand->View()->setColumnWidth(Count, 123);
     QTest::keyClick(m_errand->View(), Qt::Key_F, Qt::ControlModifier);
     Choose(u"Name"_s, u"contains"_s, u"i"_s);
     QVERIFY(m_errand->stack->Top() != m_errand->page);
     QCOMPARE(m_errand->Lines(), u"Rice rice flour"_s);
+    QCOMPARE(m_errand->View()->columnWidth(Count), 123);
     QCOMPARE(m_errand->View()->currentIndex().row(), 0);
     QVERIFY(!m_errand->Find<QWidget>(QLatin1StringView("softKeys"))->isVisible());
     for (const auto key : { Qt::Key_Delete, Qt::Key_Plus, Qt::Key_Minus })
