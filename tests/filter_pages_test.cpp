@@ -268,6 +268,9 @@ void FilterPagesTest::removingTakesTheSelectedFilter()
     QCOMPARE(Lines(), u"First|contains|a\nFirst|contains|c"_s);
     QCOMPARE(page->Filters().entries.size(), 2U);
     QCOMPARE(page->Filters().entries[1].value, u"c"_s);
+    Find<QTableView>("filterList")->selectRow(1);
+    QTest::keyClick(Find<QTableView>("filterList"), Qt::Key_Delete);
+    QCOMPARE(page->Filters().entries.back().value, u"a"_s);
 }
 
 void FilterPagesTest::clearingAsksForASelection()

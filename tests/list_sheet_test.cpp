@@ -355,7 +355,7 @@ void ListSheetTest::stepsOfAThresholdStopAtTheirLimits()
     Find<QCheckBox>(u"warnOnCount"_s)->click();
     auto* edit = Find<QLineEdit>(u"threshold"_s);
     for (const auto& [typed, key, stepped] : std::initializer_list<std::tuple<int, Qt::Key, int>> {
-             { 32766, Qt::Key_Up, 32767 }, { 32767, Qt::Key_Up, 32767 },
+             { 32766, Qt::Key_Up, 32767 }, { 32767, Qt::Key_Up, 32767 }, { 1, Qt::Key_Down, 0 },
              { 2147483647, Qt::Key_Up, 32767 }, { -2147483647 - 1, Qt::Key_Down, -32767 } }) {
         edit->clear();
         QTest::keyClicks(edit, QString::number(typed));

@@ -106,6 +106,7 @@ void PickersTest::arrowKeysWrapAsTheGridDoes_data()
     QTest::newRow("up") << 14 << int { Qt::Key_Up } << 4;
     QTest::newRow("up from the first row") << 3 << int { Qt::Key_Up } << 42;
     QTest::newRow("down") << 14 << int { Qt::Key_Down } << 24;
+    QTest::newRow("down to the last") << 32 << int { Qt::Key_Down } << 42;
     QTest::newRow("down past the last") << 33 << int { Qt::Key_Down } << 0;
 }
 
