@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/main_frame_errand.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
 #include "widgets/colour_grid.h"
 
@@ -177,94 +178,87 @@ class InterruptionsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void eachIsMetWhateverIsOpen_data();
-    void eachIsMetWhateverIsOpen();
-    void workIsDoneFirst_data();
-    void workIsDoneFirst();
-};
-
-void InterruptionsTest::eachIsMetWhateverIsOpen_data()
-{
-    QTest::addColumn<int>("interruption");
-    QTest::addColumn<int>("front");
-    constexpr std::array kOutcomes { "at once", "asks first", "after the answer" };
-    for (size_t i = 0; i < kInterruptions.size(); ++i) {
-        for (size_t j = 0; j < kFronts.size(); ++j) {
-            const char* outcome = kInterruptions[i].endsPages
-                ? kOutcomes.at(static_cast<size_t>(kFronts[j].before))
-                : "stays open";
-            QTest::addRow("%s over %s: %s", kInterruptions[i].name, kFronts[j].name, outcome)
-                << static_cast<int>(i) << static_cast<int>(j);
+    void eachIsMetWhateverIsOpen_data()
+    {
+        const Table<int, int> columns;
+        constexpr std::array kOutcomes { "at once", "asks first", "after the answer" };
+        for (size_t i = 0; i < kInterruptions.size(); ++i) {
+            for (size_t j = 0; j < kFronts.size(); ++j) {
+                const char* outcome = kInterruptions[i].endsPages
+                    ? kOutcomes.at(static_cast<size_t>(kFronts[j].before))
+                    : "stays open";
+                QTest::addRow("%s over %s: %s", kInterruptions[i].name, kFronts[j].name, outcome)
+                    << static_cast<int>(i) << static_cast<int>(j);
+            }
         }
     }
-}
 
-void InterruptionsTest::eachIsMetWhateverIsOpen()
-{
-    QFETCH(const int, interruption);
-    QFETCH(const int, front);
-    const InterruptionCase& what = kInterruptions.at(static_cast<size_t>(interruption));
-    const FrontCase& over = kFronts.at(static_cast<size_t>(front));
-    FrameErrand errand;
-    ListFixture full;
-    full.MakeFullList(u"Pantry"_s);
-    full.data->Unmount();
-    QVERIFY(QFile::copy(full.Path(), errand.DataPath()));
-    errand.MakeLists({ u"Zoo"_s });
-    errand.Start();
-    over.open(errand);
-    const QString seen = Seen(errand);
-    what.happen(errand);
-    if (!what.endsPages) {
-        QCoreApplication::processEvents();
-        QCOMPARE(Seen(errand), seen);
-        QVERIFY(what.isDone(errand));
-        return;
-    }
-    if (over.before == Before::Question) {
-        errand.Answer(QMessageBox::Yes);
-        QVERIFY(errand.question.contains(u"discard"_s));
-    } else if (over.before == Before::Answer) {
-        QCoreApplication::processEvents();
-        QVERIFY(!what.isDone(errand));
-        QCOMPARE(Seen(errand), seen);
-        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
-    }
-    QTRY_VERIFY(what.isDone(errand));
-}
-
-void InterruptionsTest::workIsDoneFirst_data()
-{
-    QTest::addColumn<int>("interruption");
-    for (const int i : { 0, 2 })
-        QTest::newRow(kInterruptions.at(static_cast<size_t>(i)).name) << i;
-}
-
-void InterruptionsTest::workIsDoneFirst()
-{
-    QFETCH(const int, interruption);
-    const InterruptionCase& what = kInterruptions.at(static_cast<size_t>(interruption));
-    FrameErrand errand({ u"Pantry"_s, u"Zoo"_s });
-    // Enough to last more than half a second.
-#ifdef QUILLORY_SANITIZED
-    constexpr int kRows = 100'000;
-#else
-    constexpr int kRows = 800'000;
-#endif
-    errand.Import(QByteArray("Tea\t3\r\n").repeated(kRows));
-    // Comes while the import shows how far it is.
-    bool isWithin = false;
-    QTimer::singleShot(0, errand.frame.get(), [&] {
-        isWithin = errand.frame->findChild<QWidget*>(u"TransferProgress"_s) != nullptr;
+    void eachIsMetWhateverIsOpen()
+    {
+        const auto [interruption, front] = Table<int, int>::Row();
+        const InterruptionCase& what = kInterruptions.at(static_cast<size_t>(interruption));
+        const FrontCase& over = kFronts.at(static_cast<size_t>(front));
+        FrameErrand errand;
+        ListFixture full;
+        full.MakeFullList(u"Pantry"_s);
+        full.data->Unmount();
+        QVERIFY(QFile::copy(full.Path(), errand.DataPath()));
+        errand.MakeLists({ u"Zoo"_s });
+        errand.Start();
+        over.open(errand);
+        const QString seen = Seen(errand);
         what.happen(errand);
-        QVERIFY(!what.isDone(errand));
-    });
-    errand.PressOk();
-    QVERIFY(isWithin);
-    QTRY_VERIFY(what.isDone(errand));
-    errand.frame.reset();
-    QCOMPARE(ListsIn(errand.DataPath()), u"Pantry %1, Zoo 0"_s.arg(kRows));
-}
+        if (!what.endsPages) {
+            QCoreApplication::processEvents();
+            QCOMPARE(Seen(errand), seen);
+            QVERIFY(what.isDone(errand));
+            return;
+        }
+        if (over.before == Before::Question) {
+            errand.Answer(QMessageBox::Yes);
+            QVERIFY(errand.question.contains(u"discard"_s));
+        } else if (over.before == Before::Answer) {
+            QCoreApplication::processEvents();
+            QVERIFY(!what.isDone(errand));
+            QCOMPARE(Seen(errand), seen);
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        }
+        QTRY_VERIFY(what.isDone(errand));
+    }
+
+    void workIsDoneFirst_data()
+    {
+        const Table<int> add;
+        for (const int i : { 0, 2 })
+            add(kInterruptions.at(static_cast<size_t>(i)).name, i);
+    }
+
+    void workIsDoneFirst()
+    {
+        const auto [interruption] = Table<int>::Row();
+        const InterruptionCase& what = kInterruptions.at(static_cast<size_t>(interruption));
+        FrameErrand errand({ u"Pantry"_s, u"Zoo"_s });
+        // Enough to last more than half a second.
+#ifdef QUILLORY_SANITIZED
+        constexpr int kRows = 100'000;
+#else
+        constexpr int kRows = 800'000;
+#endif
+        errand.Import(QByteArray("Tea\t3\r\n").repeated(kRows));
+        // Comes while the import shows how far it is.
+        bool isWithin = false;
+        QTimer::singleShot(0, errand.frame.get(), [&] {
+            isWithin = errand.frame->findChild<QWidget*>(u"TransferProgress"_s) != nullptr;
+            what.happen(errand);
+            QVERIFY(!what.isDone(errand));
+        });
+        errand.PressOk();
+        QVERIFY(isWithin);
+        QTRY_VERIFY(what.isDone(errand));
+        errand.frame.reset();
+        QCOMPARE(ListsIn(errand.DataPath()), u"Pantry %1, Zoo 0"_s.arg(kRows));
+    }
+};
 
 QUILLORY_TEST(QApplication, InterruptionsTest)
 #include "interruptions_test.moc"

@@ -10,6 +10,7 @@
 #include "rows/rows_view.h"
 #include "rows/summary_page.h"
 #include "tests/list_fixture.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
 #include "widgets/help_page.h"
 #include "widgets/icon_grid_page.h"
@@ -146,93 +147,80 @@ class PageEndsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyPageEndsAsItsUserSays_data();
-    void everyPageEndsAsItsUserSays();
-    void inputIsLostOnlyAfterAYes_data();
-    void inputIsLostOnlyAfterAYes();
-    void returnPressesTheButtonThatHasTheKeyboard_data();
-    void returnPressesTheButtonThatHasTheKeyboard();
+    void everyPageEndsAsItsUserSays_data()
+    {
+        const Table<int, QString> columns;
+        for (int i = 0; const PageCase& page : kPages) {
+            for (const QString& way : page.ways + QStringList { u"escape"_s, u"closing"_s })
+                QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
+            ++i;
+        }
+    }
+
+    void everyPageEndsAsItsUserSays()
+    {
+        const auto [page, way] = Table<int, QString>::Row();
+        Subject subject;
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        Leave(subject, way);
+        QCOMPARE(subject.results, QList<PageResult> { ResultOf(way) });
+        QCOMPARE(subject.stack.Depth(), 1);
+        QVERIFY(Questions::Of(&subject.stack).IsIdle());
+    }
+
+    void inputIsLostOnlyAfterAYes_data()
+    {
+        const Table<int, QString> columns;
+        for (int i = 0; const PageCase& page : kPages) {
+            for (const QString& way : { u"escape"_s, u"closing"_s }) {
+                if (page.takesInput)
+                    QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
+            }
+            ++i;
+        }
+    }
+
+    void inputIsLostOnlyAfterAYes()
+    {
+        const auto [page, way] = Table<int, QString>::Row();
+        Subject subject;
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        // Types into a text, ticks a checkbox.
+        QTest::keyClick(subject.stack.windowHandle(), Qt::Key_X);
+        QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Space);
+        Leave(subject, way);
+        QVERIFY(subject.Answer(QMessageBox::No) != nullptr);
+        QTest::mouseClick(subject.Answer(QMessageBox::No), Qt::LeftButton);
+        QCOMPARE(subject.stack.Top(), subject.page);
+        QVERIFY(subject.page->HasUnsavedInput());
+        Leave(subject, way);
+        QTest::mouseClick(subject.Answer(QMessageBox::Yes), Qt::LeftButton);
+        QCOMPARE(subject.results, QList<PageResult> { ResultOf(way) });
+    }
+
+    void returnPressesTheButtonThatHasTheKeyboard_data()
+    {
+        const Table<int, QString> columns;
+        for (int i = 0; const PageCase& page : kPages) {
+            for (const QString& way : page.ways) {
+                if (way != u"enter")
+                    QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
+            }
+            ++i;
+        }
+    }
+
+    void returnPressesTheButtonThatHasTheKeyboard()
+    {
+        const auto [page, button] = Table<int, QString>::Row();
+        Subject subject;
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        auto* focused = subject.page->findChild<QWidget*>(button);
+        focused->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Return);
+        QCOMPARE(subject.results, QList<PageResult> { ResultOf(button) });
+    }
 };
-
-void PageEndsTest::everyPageEndsAsItsUserSays_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("way");
-    for (int i = 0; const PageCase& page : kPages) {
-        for (const QString& way : page.ways + QStringList { u"escape"_s, u"closing"_s })
-            QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
-        ++i;
-    }
-}
-
-void PageEndsTest::everyPageEndsAsItsUserSays()
-{
-    QFETCH(const int, page);
-    QFETCH(const QString, way);
-    Subject subject;
-    Show(subject, kPages.at(static_cast<size_t>(page)));
-    Leave(subject, way);
-    QCOMPARE(subject.results, QList<PageResult> { ResultOf(way) });
-    QCOMPARE(subject.stack.Depth(), 1);
-    QVERIFY(Questions::Of(&subject.stack).IsIdle());
-}
-
-void PageEndsTest::inputIsLostOnlyAfterAYes_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("way");
-    for (int i = 0; const PageCase& page : kPages) {
-        for (const QString& way : { u"escape"_s, u"closing"_s }) {
-            if (page.takesInput)
-                QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
-        }
-        ++i;
-    }
-}
-
-void PageEndsTest::inputIsLostOnlyAfterAYes()
-{
-    QFETCH(const int, page);
-    QFETCH(const QString, way);
-    Subject subject;
-    Show(subject, kPages.at(static_cast<size_t>(page)));
-    // Types into a text, ticks a checkbox.
-    QTest::keyClick(subject.stack.windowHandle(), Qt::Key_X);
-    QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Space);
-    Leave(subject, way);
-    QVERIFY(subject.Answer(QMessageBox::No) != nullptr);
-    QTest::mouseClick(subject.Answer(QMessageBox::No), Qt::LeftButton);
-    QCOMPARE(subject.stack.Top(), subject.page);
-    QVERIFY(subject.page->HasUnsavedInput());
-    Leave(subject, way);
-    QTest::mouseClick(subject.Answer(QMessageBox::Yes), Qt::LeftButton);
-    QCOMPARE(subject.results, QList<PageResult> { ResultOf(way) });
-}
-
-void PageEndsTest::returnPressesTheButtonThatHasTheKeyboard_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("button");
-    for (int i = 0; const PageCase& page : kPages) {
-        for (const QString& way : page.ways) {
-            if (way != u"enter")
-                QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
-        }
-        ++i;
-    }
-}
-
-void PageEndsTest::returnPressesTheButtonThatHasTheKeyboard()
-{
-    QFETCH(const int, page);
-    QFETCH(const QString, button);
-    Subject subject;
-    Show(subject, kPages.at(static_cast<size_t>(page)));
-    auto* focused = subject.page->findChild<QWidget*>(button);
-    focused->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Return);
-    QCOMPARE(subject.results, QList<PageResult> { ResultOf(button) });
-}
 
 QUILLORY_TEST(QApplication, PageEndsTest)
 #include "page_ends_test.moc"
