@@ -3,8 +3,6 @@
 
 #include "tests/faults/fault_run.h"
 
-#include <functional>
-
 namespace Quillory {
 
 /// How far a process came that was not meant to live.

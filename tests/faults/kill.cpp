@@ -5,7 +5,6 @@
 #include <sys/wait.h>
 
 #include <csignal>
-#include <optional>
 
 namespace Quillory {
 

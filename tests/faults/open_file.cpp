@@ -11,8 +11,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
-#include <optional>
 #include <utility>
 
 namespace Quillory {
@@ -70,6 +68,8 @@ void MoveAside(const QByteArray& path)
 
 void MoveBack(const QByteArray& path)
 {
+    // What may be there is a folder.
+    rmdir(path.constData());
     rename(Aside(path).constData(), path.constData());
 }
 
@@ -91,12 +91,6 @@ void ReplaceByFolder(const QByteArray& path)
     MustBeZero(mkdir(path.constData(), 0700));
 }
 
-void RemoveFolder(const QByteArray& path)
-{
-    rmdir(path.constData());
-    MoveBack(path);
-}
-
 void ReplaceByLink(const QByteArray& path)
 {
     MoveAside(path);
@@ -109,6 +103,26 @@ void ReplaceByEmpty(const QByteArray& path)
     Write(path, {});
 }
 
+void OverwriteByOther(const QByteArray& path)
+{
+    Write(path, Read(Other(path)));
+}
+
+void Remove(const QByteArray& path)
+{
+    unlink(path.constData());
+}
+
+void AddName(const QByteArray& path)
+{
+    MustBeZero(link(path.constData(), Aside(path).constData()));
+}
+
+void RemoveName(const QByteArray& path)
+{
+    Remove(Aside(path));
+}
+
 void Touch(const QByteArray& path)
 {
     utimensat(AT_FDCWD, path.constData(), nullptr, 0);
@@ -119,24 +133,24 @@ void CutShort(const QByteArray& path)
     MustBeZero(truncate(path.constData(), QFileInfo(QFile::decodeName(path)).size() / 2));
 }
 
+void Empty(const QByteArray& path)
+{
+    MustBeZero(truncate(path.constData(), 0));
+}
+
 constexpr std::array kMischiefs {
-    Mischief {
-        "is removed", [](const QByteArray& path) { unlink(path.constData()); }, nullptr, true },
-    Mischief { "is moved away", &MoveAside, &MoveBack, true },
-    Mischief { "is replaced by a text", &ReplaceByText, &MoveBack, true },
-    Mischief { "is replaced by an empty file", &ReplaceByEmpty, &MoveBack, true },
-    Mischief { "is replaced by another data file", &ReplaceByOther, nullptr, true },
-    Mischief { "is overwritten by another data file",
-        [](const QByteArray& path) { Write(path, Read(Other(path))); }, nullptr, true },
-    Mischief { "is replaced by a link to nothing", &ReplaceByLink, &MoveBack, true },
-    Mischief { "is replaced by a folder", &ReplaceByFolder, &RemoveFolder, true },
-    Mischief { "gets a second name",
-        [](const QByteArray& path) { MustBeZero(link(path.constData(), Aside(path).constData())); },
-        [](const QByteArray& path) { unlink(Aside(path).constData()); }, false },
-    Mischief { "is touched", &Touch, &Touch, false },
-    Mischief { "is cut to half its size", &CutShort, nullptr, true },
-    Mischief { "is emptied",
-        [](const QByteArray& path) { MustBeZero(truncate(path.constData(), 0)); }, nullptr, true },
+    Mischief { "is removed", Remove, nullptr, true },
+    Mischief { "is moved away", MoveAside, MoveBack, true },
+    Mischief { "is replaced by a text", ReplaceByText, MoveBack, true },
+    Mischief { "is replaced by an empty file", ReplaceByEmpty, MoveBack, true },
+    Mischief { "is replaced by another data file", ReplaceByOther, nullptr, true },
+    Mischief { "is overwritten by another data file", OverwriteByOther, nullptr, true },
+    Mischief { "is replaced by a link to nothing", ReplaceByLink, MoveBack, true },
+    Mischief { "is replaced by a folder", ReplaceByFolder, MoveBack, true },
+    Mischief { "gets a second name", AddName, RemoveName, false },
+    Mischief { "is touched", Touch, Touch, false },
+    Mischief { "is cut to half its size", CutShort, nullptr, true },
+    Mischief { "is emptied", Empty, nullptr, true },
 };
 
 /// The bytes at the path that are not the program's own, to see that they stay.

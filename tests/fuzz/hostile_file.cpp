@@ -23,13 +23,6 @@ constexpr qsizetype kNoncePlace = 12;
 constexpr qsizetype kPageNumberSize = 4;
 constexpr qsizetype kRecordSize = kPageNumberSize + kPageSize + 4;
 
-QByteArray BigEndian(quint32 value)
-{
-    QByteArray bytes(sizeof(value), '\0');
-    qToBigEndian(value, bytes.data());
-    return bytes;
-}
-
 /// The sum that stands behind a page in a journal.
 quint32 JournalSum(const char* page, quint32 nonce)
 {
@@ -171,10 +164,7 @@ QByteArray MakeJournal(const QByteArray& before, const QByteArray& after)
         records += BigEndian(number) + page + BigEndian(JournalSum(page.constData(), kNonce));
         ++count;
     }
-    const QByteArray head = QByteArray::fromHex("d9d505f920a163d7") + BigEndian(count)
-        + BigEndian(kNonce) + BigEndian(static_cast<quint32>(before.size() / kPageSize))
-        + BigEndian(kSectorSize) + BigEndian(kPageSize);
-    return head.leftJustified(kSectorSize, '\0') + records;
+    return JournalHead(count, kNonce, static_cast<quint32>(before.size() / kPageSize)) + records;
 }
 
 } // namespace Quillory
