@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -27,6 +26,7 @@ namespace {
 class Words : public QStringList
 {
 public:
+    // NOLINTBEGIN(google-explicit-constructor): a line stands for its words.
     Words(const QStringList& words)
         : QStringList(words)
     { }
@@ -39,6 +39,7 @@ public:
     Words(const char* line)
         : Words(QByteArray(line))
     { }
+    // NOLINTEND(google-explicit-constructor)
 };
 
 /// What a command left behind.

@@ -6,8 +6,6 @@
 
 #include <sqlite3.h>
 
-#include <utility>
-
 using namespace Quillory;
 
 namespace {

@@ -5,8 +5,6 @@
 #include "tests/table.h"
 #include "tests/test_program.h"
 
-#include <memory>
-
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 
@@ -104,7 +102,8 @@ private Q_SLOTS:
         else
             QVERIFY(m_deletion->DeleteList(m_list));
         QCOMPARE(fileHolds(u"Uncommonly-green-tea"), deletion != 0);
-        EndProgram();
+        m_deletion.reset();
+        m_lists->Restart();
         QVERIFY(!fileHolds(u"Uncommonly-green-tea"));
     }
 
@@ -135,11 +134,6 @@ private:
             texts << FormatEditText(FindProperty(values, column.id), column.id, m_lists->context);
         }
         return texts.join(u'|');
-    }
-    void EndProgram()
-    {
-        m_deletion.reset();
-        m_lists->Restart();
     }
 };
 

@@ -2,7 +2,6 @@
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "tests/test_program.h"
-#include "values/column_type.h"
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

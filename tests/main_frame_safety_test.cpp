@@ -5,12 +5,8 @@
 #include "tests/table.h"
 #include "tests/test_program.h"
 
-#include <QApplication>
-#include <QFile>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTableView>
 
 #include <sys/resource.h>
@@ -225,30 +221,24 @@ private Q_SLOTS:
         QCOMPARE(ListsIn(errand.DataPath()), lists);
     }
 
-    void closingIsNotHeldUpByAFailingWrite_data()
-    {
-        const Table<bool> add;
-        add("the file is gone", true);
-        add("there is no room", false);
-    }
-
     void closingIsNotHeldUpByAFailingWrite()
     {
-        const auto [isGone] = Table<bool>::Row();
-        FrameErrand errand({ u"Attic"_s });
-        errand.Tap(0);
-        auto* header = errand.pages->Top()->findChild<QTableView*>()->horizontalHeader();
-        header->resizeSection(0, header->sectionSize(0) + 10);
-        std::optional<NoRoom> full;
-        if (isGone)
-            QVERIFY(QFile::remove(errand.DataPath()));
-        else
-            full.emplace();
-        QVERIFY(!errand.frame->close());
-        errand.Answer(QMessageBox::Cancel);
-        QVERIFY(errand.question.contains(u"could not be saved"_s));
-        QTRY_VERIFY(!errand.frame->isVisible());
-        QVERIFY(QApplication::activeModalWidget() == nullptr);
+        for (const bool isGone : { true, false }) {
+            FrameErrand errand({ u"Attic"_s });
+            errand.Tap(0);
+            auto* header = errand.pages->Top()->findChild<QTableView*>()->horizontalHeader();
+            header->resizeSection(0, header->sectionSize(0) + 10);
+            std::optional<NoRoom> full;
+            if (isGone)
+                QVERIFY(QFile::remove(errand.DataPath()));
+            else
+                full.emplace();
+            QVERIFY(!errand.frame->close());
+            errand.Answer(QMessageBox::Cancel);
+            QVERIFY(errand.question.contains(u"could not be saved"_s));
+            QTRY_VERIFY(!errand.frame->isVisible());
+            QVERIFY(QApplication::activeModalWidget() == nullptr);
+        }
     }
 
     void aFileReplacedUnderAnEditorTakesWhatIsTyped()
@@ -283,49 +273,39 @@ private Q_SLOTS:
         QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
     }
 
-    void aFileReplacedBeforeTheEndIsTold()
+    void aFileThatIsGoneBeforeTheEndIsTold()
     {
-        FrameErrand errand;
-        errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
-        const QString older = errand.DataPath() + u".older"_s;
-        QVERIFY(QFile::copy(errand.DataPath(), older));
-        errand.Start();
-        errand.Choose(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        Replace(errand, older);
-        QVERIFY(!errand.frame->close());
-        errand.Answer(QMessageBox::Ok);
-        QVERIFY(errand.question.contains(u"kept as a copy"_s));
-        QCOMPARE(NewestCopy(errand), u"Zoo 0"_s);
-        QTRY_VERIFY(!errand.frame->isVisible());
-        errand.frame.reset();
-        QCOMPARE(ListsIn(errand.DataPath()), u"Attic 0, Zoo 0"_s);
-    }
-
-    void aFileRemovedBeforeTheEndIsTold()
-    {
-        FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
-        errand.Choose(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        QVERIFY(QFile::remove(errand.DataPath()));
-        QVERIFY(!errand.frame->close());
-        errand.Answer(QMessageBox::Ok);
-        QVERIFY(errand.question.contains(u"kept as a copy"_s));
-        QTRY_VERIFY(!errand.frame->isVisible());
-        QCOMPARE(NewestCopy(errand), u"Zoo 0"_s);
-    }
-
-    void aFolderRemovedBeforeTheEndIsTold()
-    {
-        FrameErrand errand({ u"Attic"_s });
-        errand.Choose(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        // With the card it lies on.
-        QVERIFY(QDir(QFileInfo(errand.DataPath()).path()).removeRecursively());
-        QVERIFY(!errand.frame->close());
-        errand.Answer(QMessageBox::Ok);
-        QVERIFY(errand.question.contains(u"no longer in its place"_s));
-        QTRY_VERIFY(!errand.frame->isVisible());
+        enum Mischief
+        {
+            Replaced,
+            Removed,
+            FolderRemoved,
+        };
+        for (const Mischief mischief : { Replaced, Removed, FolderRemoved }) {
+            FrameErrand errand;
+            errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
+            const QString older = errand.DataPath() + u".older"_s;
+            QVERIFY(QFile::copy(errand.DataPath(), older));
+            errand.Start();
+            errand.Choose(Command::Delete);
+            errand.Answer(QMessageBox::Yes);
+            if (mischief == Replaced)
+                Replace(errand, older);
+            else if (mischief == Removed)
+                QVERIFY(QFile::remove(errand.DataPath()));
+            else // With the card it lies on.
+                QVERIFY(QDir(QFileInfo(errand.DataPath()).path()).removeRecursively());
+            QVERIFY(!errand.frame->close());
+            errand.Answer(QMessageBox::Ok);
+            QVERIFY(errand.question.contains(
+                mischief == FolderRemoved ? u"no longer in its place"_s : u"kept as a copy"_s));
+            QTRY_VERIFY(!errand.frame->isVisible());
+            if (mischief != FolderRemoved)
+                QCOMPARE(NewestCopy(errand), u"Zoo 0"_s);
+            errand.frame.reset();
+            if (mischief == Replaced)
+                QCOMPARE(ListsIn(errand.DataPath()), u"Attic 0, Zoo 0"_s);
+        }
     }
 
     void aDamagedFileIsReplacedByItsCopy()

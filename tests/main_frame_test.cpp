@@ -4,14 +4,10 @@
 #include "tests/test_program.h"
 #include "widgets/icon_picker.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QFile>
-#include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -19,8 +15,6 @@
 #include <QTextBrowser>
 
 #include <sys/stat.h>
-
-#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

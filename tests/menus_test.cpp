@@ -10,7 +10,6 @@
 
 #include <QAbstractItemView>
 #include <QAccessible>
-#include <QMenu>
 #include <QTabBar>
 
 using namespace Quillory;

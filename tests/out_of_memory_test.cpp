@@ -3,7 +3,6 @@
 #include "tests/main_frame_errand.h"
 #include "tests/test_program.h"
 
-#include <QFile>
 #include <QTableView>
 
 #include <sys/resource.h>

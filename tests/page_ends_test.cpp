@@ -41,74 +41,78 @@ struct Subject
     }
 };
 
-using MakePage = Page* (*)(Subject& subject);
+/// A page that needs no list.
+template <typename Type, auto... kArguments> Page* Make(Subject& /*subject*/)
+{
+    return new Type(kArguments...);
+}
+
+template <SheetMode kMode> Page* MakeSheet(Subject& subject)
+{
+    return new ListSheet(kMode, subject.list, subject.list);
+}
+
+template <FilterMode kMode> Page* MakeFilter(Subject& subject)
+{
+    return new FilterPage({ kMode, {} }, subject.list, subject.file.context);
+}
+
 struct PageCase
 {
     const char* name;
-    MakePage make;
     /// What there is besides Escape and closing: "ok" and "leftKey" for the buttons, "enter" for
     /// Return where it is OK.
     QStringList ways;
     /// Whether a letter typed first, or Space, is input that could be lost.
     bool takesInput;
+    Page* (*make)(Subject& subject);
 };
 
 const QStringList kOk { u"ok"_s, u"enter"_s };
 const QStringList kOkAndCancel { u"ok"_s, u"leftKey"_s, u"enter"_s };
 
 const std::array kPages {
-    PageCase { "new list",
-        [](Subject& subject) -> Page* {
-            return new ListSheet(SheetMode::NewList, subject.list, subject.list);
-        },
-        kOkAndCancel, true },
-    PageCase { "list properties",
-        [](Subject& subject) -> Page* {
-            return new ListSheet(SheetMode::ExistingList, subject.list, subject.list);
-        },
-        kOkAndCancel, true },
-    PageCase { "column definition", [](Subject&) -> Page* { return new ColumnDefinitionPage(); },
-        kOkAndCancel, true },
-    PageCase { "options", [](Subject&) -> Page* { return new DisplayOptionsPage({}); },
-        kOkAndCancel, true },
-    PageCase { "import order",
-        [](Subject& subject) -> Page* { return new ImportOrderPage(subject.list.columns); },
-        kOkAndCancel, false },
+    PageCase { "new list", kOkAndCancel, true, MakeSheet<SheetMode::NewList> },
+    PageCase { "list properties", kOkAndCancel, true, MakeSheet<SheetMode::ExistingList> },
+    PageCase { "column definition", kOkAndCancel, true, Make<ColumnDefinitionPage> },
+    PageCase { "options", kOkAndCancel, true,
+        [](Subject&) -> Page* { return new DisplayOptionsPage({}); } },
+    PageCase { "import order", kOkAndCancel, false,
+        [](Subject& subject) -> Page* { return new ImportOrderPage(subject.list.columns); } },
     // Return takes the selected icon.
-    PageCase { "icon grid", [](Subject&) -> Page* { return new IconGridPage(0); },
-        { u"leftKey"_s, u"enter"_s }, false },
-    PageCase { "find",
-        [](Subject& subject) -> Page* {
-            return new FilterPage({ FilterMode::Find, {} }, subject.list, subject.file.context);
-        },
-        kOkAndCancel, true },
-    PageCase { "filter",
-        [](Subject& subject) -> Page* {
-            return new FilterPage({}, subject.list, subject.file.context);
-        },
-        kOkAndCancel, false },
-    PageCase { "filters",
+    PageCase { "icon grid", { u"leftKey"_s, u"enter"_s }, false, Make<IconGridPage, 0> },
+    PageCase { "find", kOkAndCancel, true, MakeFilter<FilterMode::Find> },
+    PageCase { "filter", kOkAndCancel, false, MakeFilter<FilterMode::Filter> },
+    PageCase { "filters", kOk, false,
         [](Subject& subject) -> Page* {
             return new FiltersPage({}, subject.list, subject.file.context);
-        },
-        kOk, false },
+        } },
     // Return goes on to the next field.
-    PageCase { "row editor",
+    PageCase { "row editor", { u"ok"_s, u"leftKey"_s }, true,
         [](Subject& subject) -> Page* {
             return new RowEditor(subject.list, nullptr, subject.file.context);
-        },
-        { u"ok"_s, u"leftKey"_s }, true },
+        } },
     // Return edits the selected row.
-    PageCase { "rows",
+    PageCase { "rows", { u"ok"_s }, false,
         [](Subject& subject) -> Page* {
             return new RowsView(*subject.file.rows, subject.file.list, subject.file.context, {});
-        },
-        { u"ok"_s }, false },
-    PageCase { "summary", [](Subject&) -> Page* { return new SummaryPage({}); }, kOk, false },
-    PageCase { "help", [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); }, kOk, false },
-    PageCase { "about", [](Subject&) -> Page* { return new AboutPage; }, kOk, false },
-    PageCase { "welcome", [](Subject&) -> Page* { return new WelcomePage; }, kOk, false },
+        } },
+    PageCase { "summary", kOk, false, [](Subject&) -> Page* { return new SummaryPage({}); } },
+    PageCase { "help", kOk, false, [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); } },
+    PageCase { "about", kOk, false, Make<AboutPage> },
+    PageCase { "welcome", kOk, false, Make<WelcomePage> },
 };
+
+/// A row of a test's table for each page and each of the ways that are meant of it.
+void AddRows(QStringList (*waysOf)(const PageCase& page))
+{
+    const Table<int, QString> add;
+    for (int i = 0; const PageCase& page : kPages) {
+        for (const QString& way : waysOf(page))
+            add(qPrintable(u"%1, %2"_s.arg(QLatin1StringView(page.name), way)), i, way);
+        ++i;
+    }
+}
 
 void Show(Subject& subject, const PageCase& page)
 {
@@ -149,12 +153,9 @@ class PageEndsTest : public QObject
 private Q_SLOTS:
     void everyPageEndsAsItsUserSays_data()
     {
-        const Table<int, QString> columns;
-        for (int i = 0; const PageCase& page : kPages) {
-            for (const QString& way : page.ways + QStringList { u"escape"_s, u"closing"_s })
-                QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
-            ++i;
-        }
+        AddRows([](const PageCase& page) {
+            return page.ways + QStringList { u"escape"_s, u"closing"_s };
+        });
     }
 
     void everyPageEndsAsItsUserSays()
@@ -170,14 +171,9 @@ private Q_SLOTS:
 
     void inputIsLostOnlyAfterAYes_data()
     {
-        const Table<int, QString> columns;
-        for (int i = 0; const PageCase& page : kPages) {
-            for (const QString& way : { u"escape"_s, u"closing"_s }) {
-                if (page.takesInput)
-                    QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
-            }
-            ++i;
-        }
+        AddRows([](const PageCase& page) {
+            return page.takesInput ? QStringList { u"escape"_s, u"closing"_s } : QStringList();
+        });
     }
 
     void inputIsLostOnlyAfterAYes()
@@ -200,14 +196,11 @@ private Q_SLOTS:
 
     void returnPressesTheButtonThatHasTheKeyboard_data()
     {
-        const Table<int, QString> columns;
-        for (int i = 0; const PageCase& page : kPages) {
-            for (const QString& way : page.ways) {
-                if (way != u"enter")
-                    QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
-            }
-            ++i;
-        }
+        AddRows([](const PageCase& page) {
+            QStringList buttons = page.ways;
+            buttons.removeAll(u"enter"_s);
+            return buttons;
+        });
     }
 
     void returnPressesTheButtonThatHasTheKeyboard()

@@ -2,8 +2,6 @@
 #include "tests/test_program.h"
 #include "widgets/page_stack.h"
 
-#include <QSignalSpy>
-
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

@@ -5,9 +5,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <set>
-#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

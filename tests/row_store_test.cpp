@@ -4,7 +4,6 @@
 #include "tests/page_damage.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
-#include "values/column_type.h"
 #include "values/file_date.h"
 
 #include <QRandomGenerator>
@@ -12,7 +11,6 @@
 #include <algorithm>
 #include <limits>
 #include <map>
-#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

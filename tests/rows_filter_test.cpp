@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/rows_view_errand.h"
-#include "tests/table.h"
 #include "tests/test_program.h"
 
 #include <QComboBox>
 #include <QLineEdit>
-
-#include <memory>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -30,27 +27,26 @@ private Q_SLOTS:
         m_errand->Open();
     }
 
-    void aFilterNarrowsTheRows_data()
-    {
-        const Table<QString, QString, QString, QString> add;
-        add("contains knows case", u"Name"_s, u"contains"_s, u"ric"_s, u"rice flour"_s);
-        add("not equals to is equals to", u"Quantity"_s, u"not equals to"_s, u"5"_s,
-            u"beans rice flour"_s);
-        add("a price with a point", u"Price"_s, u"equals to"_s, u"0.1"_s, u"Rice"_s);
-        add("a price with a comma is 0", u"Price"_s, u"equals to"_s, u"0,1"_s, u""_s);
-        add("a checkbox", u"Bio"_s, u"not equals to"_s, u"Checked"_s, u"beans"_s);
-        add("on a day", u"Bought"_s, u"on"_s, u"3/1/2026"_s, u"Rice"_s);
-        add("no date fails every date", u"Bought"_s, u"not on"_s, u"3/1/2026"_s, u"beans"_s);
-    }
-
     void aFilterNarrowsTheRows()
     {
-        const auto [field, condition, value, lines]
-            = Table<QString, QString, QString, QString>::Row();
-        Filter(field, condition, value);
-        QCOMPARE(m_errand->stack->Top(), m_errand->page);
-        QCOMPARE(m_errand->Lines(), lines);
-        QVERIFY(m_errand->Message() == nullptr);
+        const std::array<QString, 4> cases[] { { u"Name"_s, u"contains"_s, u"ric"_s,
+                                                   u"rice flour"_s },
+            // It is equals to.
+            { u"Quantity"_s, u"not equals to"_s, u"5"_s, u"beans rice flour"_s },
+            { u"Price"_s, u"equals to"_s, u"0.1"_s, u"Rice"_s },
+            // A price with a comma is 0.
+            { u"Price"_s, u"equals to"_s, u"0,1"_s, u""_s },
+            { u"Bio"_s, u"not equals to"_s, u"Checked"_s, u"beans"_s },
+            { u"Bought"_s, u"on"_s, u"3/1/2026"_s, u"Rice"_s },
+            // No date fails every date.
+            { u"Bought"_s, u"not on"_s, u"3/1/2026"_s, u"beans"_s } };
+        for (const auto& [field, condition, value, lines] : cases) {
+            Filter(field, condition, value);
+            QCOMPARE(m_errand->stack->Top(), m_errand->page);
+            QCOMPARE(m_errand->Lines(), lines);
+            QVERIFY(m_errand->Message() == nullptr);
+            m_errand->page->Trigger(Command::ClearFilters);
+        }
     }
 
     void filtersAreJoinedAndCleared()
@@ -148,29 +144,23 @@ private Q_SLOTS:
         QVERIFY(!m_errand->IsTicked(0));
     }
 
-    void findWithoutAMatchSaysSo_data()
-    {
-        const Table<bool> add;
-        add("nothing matches", false);
-        add("the condition was cancelled", true);
-    }
-
     void findWithoutAMatchSaysSo()
     {
-        const auto [isCancelled] = Table<bool>::Row();
-        m_errand->page->Trigger(Command::Find);
-        QCOMPARE(m_errand->stack->Top()->Title(), u"Find"_s);
-        if (isCancelled)
-            QTest::keyClick(m_errand->stack->Top(), Qt::Key_Escape);
-        else
-            Choose(u"Name"_s, u"equals to"_s, u"tea"_s);
-        QTRY_VERIFY(m_errand->Message() != nullptr);
-        QCOMPARE(m_errand->Message()->text(), u"No record matched the criteria."_s);
-        QCOMPARE(m_errand->Message()->icon(), QMessageBox::Information);
-        QCOMPARE(m_errand->stack->Depth(), 3);
-        m_errand->Answer(QMessageBox::Ok);
-        QCOMPARE(m_errand->stack->Top(), m_errand->page);
-        QCOMPARE(m_errand->Lines(), u"Rice beans rice flour"_s);
+        for (const bool isCancelled : { false, true }) {
+            m_errand->page->Trigger(Command::Find);
+            QCOMPARE(m_errand->stack->Top()->Title(), u"Find"_s);
+            if (isCancelled)
+                QTest::keyClick(m_errand->stack->Top(), Qt::Key_Escape);
+            else
+                Choose(u"Name"_s, u"equals to"_s, u"tea"_s);
+            QTRY_VERIFY(m_errand->Message() != nullptr);
+            QCOMPARE(m_errand->Message()->text(), u"No record matched the criteria."_s);
+            QCOMPARE(m_errand->Message()->icon(), QMessageBox::Information);
+            QCOMPARE(m_errand->stack->Depth(), 3);
+            m_errand->Answer(QMessageBox::Ok);
+            QCOMPARE(m_errand->stack->Top(), m_errand->page);
+            QCOMPARE(m_errand->Lines(), u"Rice beans rice flour"_s);
+        }
     }
 
 private:

@@ -7,9 +7,7 @@
 
 #include <QScrollBar>
 
-#include <memory>
 #include <tuple>
-#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

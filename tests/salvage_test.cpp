@@ -7,7 +7,6 @@
 #include "tests/test_program.h"
 
 #include <algorithm>
-#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

@@ -10,7 +10,6 @@
 #include <QBuffer>
 
 #include <algorithm>
-#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;

@@ -9,9 +9,6 @@
 
 #include <QBuffer>
 
-#include <algorithm>
-#include <utility>
-
 using namespace Quillory;
 using namespace Qt::StringLiterals;
 

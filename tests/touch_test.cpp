@@ -18,7 +18,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <memory>
 #include <vector>
 
 using namespace Quillory;

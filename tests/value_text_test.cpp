@@ -7,8 +7,6 @@
 
 #include <limits>
 #include <optional>
-#include <tuple>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 

@@ -10,7 +10,6 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <utility>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
