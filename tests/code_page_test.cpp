@@ -6,10 +6,6 @@
 #include <tuple>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
-namespace Quillory {
-
 namespace {
 
 QString Decoded(const CodePage& page, const QByteArray& bytes)
@@ -101,7 +97,5 @@ private Q_SLOTS:
     }
 };
 
-} // namespace Quillory
-
-QUILLORY_TEST(QCoreApplication, Quillory::CodePageTest)
+QUILLORY_TEST(QCoreApplication, CodePageTest)
 #include "code_page_test.moc"

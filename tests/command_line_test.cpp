@@ -17,9 +17,6 @@
 #include <algorithm>
 #include <cstdio>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The arguments that a line holds, parted by blanks; "_" is a blank within an argument.

@@ -6,8 +6,6 @@
 
 #include <sqlite3.h>
 
-using namespace Quillory;
-
 namespace {
 
 /// A file as SQLite has it open, without what SQLite makes of it.

@@ -9,9 +9,6 @@
 #include <functional>
 #include <optional>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using Outcome = DataFileOpener::Outcome;

@@ -6,10 +6,6 @@
 #include <tuple>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
-namespace Quillory {
-
 namespace {
 
 Clock ClockOfYear(int year)
@@ -190,7 +186,5 @@ private Q_SLOTS:
     }
 };
 
-} // namespace Quillory
-
-QUILLORY_TEST(QCoreApplication, Quillory::DateReaderTest)
+QUILLORY_TEST(QCoreApplication, DateReaderTest)
 #include "date_reader_test.moc"

@@ -4,10 +4,6 @@
 #include "tests/test_program.h"
 #include "values/file_date.h"
 
-using namespace Qt::StringLiterals;
-
-namespace Quillory {
-
 namespace {
 
 FileTime Day(int year, int month, int day)
@@ -110,7 +106,5 @@ private Q_SLOTS:
     }
 };
 
-} // namespace Quillory
-
-QUILLORY_TEST(QCoreApplication, Quillory::FiltersTest)
+QUILLORY_TEST(QCoreApplication, FiltersTest)
 #include "filters_test.moc"

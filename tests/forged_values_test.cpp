@@ -7,9 +7,6 @@
 
 #include <vector>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr PropertyId kForgedText = MakePropertyId(1, CEVT_LPWSTR);

@@ -8,9 +8,6 @@
 #include <QTabBar>
 #include <QTimer>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// What is met before the interruption does what it is for.

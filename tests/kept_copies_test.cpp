@@ -9,9 +9,6 @@
 #include <algorithm>
 #include <filesystem>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// A data file, runs on it, and a folder for its copies.

@@ -5,9 +5,6 @@
 #include "tests/table.h"
 #include "tests/test_program.h"
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 class LastDeletionTest : public QObject
 {
     Q_OBJECT

@@ -3,9 +3,6 @@
 #include "tests/list_fixture.h"
 #include "tests/test_program.h"
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString HomeList(ListCatalogue& catalogue)

@@ -14,9 +14,6 @@
 #include <csignal>
 #include <optional>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// Puts a file in the place of the data file, as programs do that keep folders alike.

@@ -16,9 +16,6 @@
 
 #include <sys/stat.h>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 class MainFrameTest : public QObject
 {
     Q_OBJECT

@@ -12,9 +12,6 @@
 #include <QAccessible>
 #include <QTabBar>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using MakeMenuPage = Page* (*)(const ListFixture& file, InventoryList& list);

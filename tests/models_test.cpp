@@ -7,9 +7,6 @@
 
 #include <QAbstractItemModelTester>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 /// What views may expect of a model, through all its changes.
 class ModelsTest : public QObject
 {

@@ -7,10 +7,6 @@
 #include <tuple>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
-namespace Quillory {
-
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -171,7 +167,5 @@ private Q_SLOTS:
     }
 };
 
-} // namespace Quillory
-
-QUILLORY_TEST(QCoreApplication, Quillory::NumberTextTest)
+QUILLORY_TEST(QCoreApplication, NumberTextTest)
 #include "number_text_test.moc"

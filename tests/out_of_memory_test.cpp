@@ -9,9 +9,6 @@
 
 #include <malloc.h>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// Leaves the process this much more address space than it has now.

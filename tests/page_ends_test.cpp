@@ -20,9 +20,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// A list, what pages on it are made from, and what they gave.

@@ -2,34 +2,11 @@
 #include "tests/test_program.h"
 #include "widgets/page_stack.h"
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 class PageStackTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theOpenerHearsTheResultOnce()
-    {
-        for (const auto how : { Qt::Key_unknown, Qt::Key_Escape, Qt::Key_Return }) {
-            PageStack stack;
-            auto* first = new Page(QString());
-            stack.Push(first);
-            auto* page = new Page(u"A page"_s);
-            QList<PageResult> heard;
-            stack.Push(page, [&](PageResult ended) { heard << ended; });
-            stack.show();
-            QCOMPARE(stack.Top(), page);
-            if (how == Qt::Key_unknown)
-                QTest::mouseClick(page->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
-            else
-                QTest::keyClick(how == Qt::Key_Escape ? page : stack.focusWidget(), how);
-            QCOMPARE(heard, QList { how == Qt::Key_Escape ? PageResult::Cancel : PageResult::Ok });
-            QCOMPARE(stack.Top(), first);
-        }
-    }
-
     void closingEndsPagesFromTheTop()
     {
         PageStack stack;

@@ -7,9 +7,6 @@
 #include <limits>
 #include <set>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr PropertyId kRowName = MakePropertyId(10001, CEVT_LPWSTR);

@@ -12,9 +12,6 @@
 #include <limits>
 #include <map>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 FilterSet Where(PropertyId column, FilterCondition condition, const QString& value)
@@ -114,24 +111,6 @@ private Q_SLOTS:
         QVERIFY(!file.rows->AdjustCount(row, 1).has_value());
         // The failure left no transaction behind.
         QVERIFY(file.data->BeginTransaction() && file.data->EndTransaction(true));
-    }
-
-    void filtersKeepTheOrderOfNames()
-    {
-        ListFixture file(u"l"_s);
-        for (int i = 9; i >= 0; --i)
-            file.Add({ u"r%1"_s.arg(i), QString::number(i), i % 2 == 0 ? u"even"_s : u"odd"_s });
-        FilterSet filters = Where(file.Column(Count), FilterCondition::Greater, u"2"_s);
-        AddFilter(filters, file.Column(Count), FilterCondition::Less, u"7"_s);
-        QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters).rows), u"r3 r4 r5 r6"_s);
-        AddFilter(filters, file.Column(Shelf), FilterCondition::Contains, u"ve"_s);
-        QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters).rows), u"r4 r6"_s);
-        QCOMPARE(Totals(file, &filters), u"Quantity=10 Price=0.00 Size=0"_s);
-        AddFilter(filters, PropertyId {}, FilterCondition::Contains, QString());
-        QVERIFY(file.rows->FillFilteredRows(filters).rows.empty());
-        const auto zeros = Where(file.Column(Size), FilterCondition::Equals, u"0"_s);
-        QVERIFY(file.rows->FillFilteredRows(zeros).rows.empty());
-        QCOMPARE(file.rows->FillFilteredRows({}).rows.size(), size_t { 10 });
     }
 
     void aDamagedPageEndsTheListing_data()

@@ -5,9 +5,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 /// Filters and Find of the rows view.
 class RowsFilterTest : public QObject
 {

@@ -9,9 +9,6 @@
 
 #include <tuple>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 class RowsViewTest : public QObject
 {
     Q_OBJECT

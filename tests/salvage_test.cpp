@@ -8,9 +8,6 @@
 
 #include <algorithm>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int kRows = 400;

@@ -7,9 +7,6 @@
 
 #include <tuple>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class SettingsTest : public QObject

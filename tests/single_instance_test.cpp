@@ -22,9 +22,6 @@
 #include <memory>
 #include <optional>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using Outcome = SingleInstance::Outcome;

@@ -11,9 +11,6 @@
 
 #include <algorithm>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// Takes `room` bytes, then fails; bytes offered later are counted all the same.

@@ -9,9 +9,6 @@
 
 #include <QBuffer>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr PropertyId kText = PropName;

@@ -20,9 +20,6 @@
 
 #include <vector>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 class TouchTest : public QObject
 {
     Q_OBJECT

@@ -7,9 +7,6 @@
 
 #include <utility>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class TurnedOutputTest : public QObject

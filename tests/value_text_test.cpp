@@ -8,10 +8,6 @@
 #include <limits>
 #include <optional>
 
-using namespace Qt::StringLiterals;
-
-namespace Quillory {
-
 namespace {
 
 constexpr PropertyId kText = MakePropertyId(1, CEVT_LPWSTR);
@@ -191,7 +187,5 @@ private Q_SLOTS:
     }
 };
 
-} // namespace Quillory
-
-QUILLORY_TEST(QCoreApplication, Quillory::ValueTextTest)
+QUILLORY_TEST(QCoreApplication, ValueTextTest)
 #include "value_text_test.moc"

@@ -11,9 +11,6 @@
 
 #include <cstdlib>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr PropertyId kTitle = MakePropertyId(10001, CEVT_LPWSTR);
