@@ -4,7 +4,6 @@
 #include "tests/test_program.h"
 #include "tests/trickle.h"
 #include "transfer/import_rows.h"
-#include "transfer/text_export.h"
 #include "transfer/text_import.h"
 
 #include <QBuffer>
@@ -168,30 +167,6 @@ private Q_SLOTS:
             for (const QByteArray& bytes : { text.toLatin1(), Wide(text) })
                 QCOMPARE(RowsOf(bytes, { kText, kCount }, 10), rows);
         }
-    }
-
-    void exportedRowsComeBack()
-    {
-        ListFixture file(u"From"_s);
-        for (int i = 0; i < 50; ++i)
-            file.Add({ u"Name %1"_s.arg(i * 37 % 50), QString::number(i - 25), u"shelf ü"_s,
-                i % 2 == 0 ? u"Checked"_s : u"Unchecked"_s, u"%1.25"_s.arg(i), u"7"_s,
-                u"6/1/2026"_s, u"12/%1/1999"_s.arg(i % 31 + 1) });
-        QBuffer first;
-        first.open(QIODevice::WriteOnly);
-        QCOMPARE(ExportRows(*file.data->OpenDatabase(ListCatalogue::kRowsType), file.list,
-                     file.context, first)
-                     .rows,
-            50);
-        file.MakeFullList(u"To"_s);
-        QCOMPARE(Import(file, first.data()).rows, 50);
-        QBuffer second;
-        second.open(QIODevice::WriteOnly);
-        QCOMPARE(ExportRows(*file.data->OpenDatabase(ListCatalogue::kRowsType), file.list,
-                     file.context, second)
-                     .rows,
-            50);
-        QCOMPARE(second.data(), first.data());
     }
 
     void longNamesAreSortedAcrossBatches()

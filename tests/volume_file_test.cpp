@@ -3,8 +3,6 @@
 #include "tests/test_program.h"
 #include "tests/volume_fixture.h"
 
-#include <QRandomGenerator>
-
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -171,23 +169,6 @@ private Q_SLOTS:
         QCOMPARE(std::system(qPrintable(makeDatabase)), 0);
         QCOMPARE(Take(reader->Databases()).size(), size_t { 1 });
         QVERIFY(reader->OpenDatabase(u"rows"_s, kByTitle.front()).IsOk());
-    }
-
-    void noFlippedBitGoesUnnoticed()
-    {
-        const QByteArray sample = SampleFile();
-        QRandomGenerator random(20261121);
-        const VolumeFixture fixture;
-        for (int i = 0; i < 300; ++i) {
-            const qsizetype at = random.bounded(static_cast<int>(sample.size()));
-            const char bit = static_cast<char>(1 << random.bounded(8));
-            WriteFileBytes(
-                fixture.Path(), WithByte(sample, at, static_cast<char>(sample[at] ^ bit)));
-            const ErrorNumber error = ReadThrough(fixture.Path());
-            QVERIFY2(error == ErrorNumber::FileCorrupt || error == ErrorNumber::BadFormat
-                    || error == ErrorNumber::NotSupported,
-                qPrintable(u"byte %1: %2"_s.arg(at).arg(static_cast<quint32>(error))));
-        }
     }
 
     void aFileCutShortIsRefused()

@@ -2,10 +2,6 @@
 #include "tests/faults/doomed_process.h"
 #include "tests/faults/system_calls.h"
 
-#include <sys/wait.h>
-
-#include <csignal>
-
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
