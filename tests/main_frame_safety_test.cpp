@@ -2,7 +2,6 @@
 #include "store/kept_copies.h"
 #include "tests/main_frame_errand.h"
 #include "tests/page_damage.h"
-#include "tests/table.h"
 #include "tests/test_program.h"
 
 #include <QHeaderView>
@@ -178,44 +177,39 @@ private Q_SLOTS:
         QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
     }
 
-    void aSheetThatCouldNotBeStoredComesBack_data()
-    {
-        const Table<Command, QString> add;
-        add("a new list", Command::New, u"Attic 0, Pantry 0"_s);
-        add("properties", Command::ListProperties, u"Pantry 0"_s);
-    }
-
     void aSheetThatCouldNotBeStoredComesBack()
     {
-        const auto [command, lists] = Table<Command, QString>::Row();
-        FrameErrand errand({ u"Attic"_s });
-        errand.Choose(command);
-        auto* field = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
-        field->selectAll();
-        QTest::keyClicks(field, u"Pantry"_s);
-        QStringList told;
-        {
-            const NoRoom full;
-            errand.PressOk();
-            QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
-            while (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                // One at a time, and the one that is seen has the keyboard.
-                QVERIFY(box->isAncestorOf(QApplication::focusWidget()));
-                told << box->text().left(10);
-                QTest::keyClick(box, Qt::Key_Escape);
-                QCoreApplication::processEvents();
+        for (const auto& [command, lists] : { std::pair(Command::New, u"Attic 0, Pantry 0"_s),
+                 std::pair(Command::ListProperties, u"Pantry 0"_s) }) {
+            FrameErrand errand({ u"Attic"_s });
+            errand.Choose(command);
+            auto* field = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
+            field->selectAll();
+            QTest::keyClicks(field, u"Pantry"_s);
+            QStringList told;
+            {
+                const NoRoom full;
+                errand.PressOk();
+                QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
+                while (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                    // One at a time, and the one that is seen has the keyboard.
+                    QVERIFY(box->isAncestorOf(QApplication::focusWidget()));
+                    told << box->text().left(10);
+                    QTest::keyClick(box, Qt::Key_Escape);
+                    QCoreApplication::processEvents();
+                }
             }
+            QCOMPARE(told.last(), u"The change"_s);
+            QCOMPARE(told.count(u"The change"_s), 1);
+            field = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
+            QVERIFY(field != nullptr);
+            QCOMPARE(field->text(), u"Pantry"_s);
+            errand.ComeBack();
+            errand.PressOk();
+            QVERIFY(errand.frame->close());
+            errand.frame.reset();
+            QCOMPARE(ListsIn(errand.DataPath()), lists);
         }
-        QCOMPARE(told.last(), u"The change"_s);
-        QCOMPARE(told.count(u"The change"_s), 1);
-        field = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
-        QVERIFY(field != nullptr);
-        QCOMPARE(field->text(), u"Pantry"_s);
-        errand.ComeBack();
-        errand.PressOk();
-        QVERIFY(errand.frame->close());
-        errand.frame.reset();
-        QCOMPARE(ListsIn(errand.DataPath()), lists);
     }
 
     void closingIsNotHeldUpByAFailingWrite()
@@ -324,53 +318,49 @@ private Q_SLOTS:
         QCOMPARE(errand.Lines(), u"Zoo"_s);
     }
 
-    void aListReadInPartSaysSo_data()
-    {
-        const Table<char, QStringList> add;
-        // Where the order of names is lost, the rows can be exported all the same.
-        add("a page of the index", kIndexLeaf, QStringList { u"are shown"_s, u"are shown"_s });
-        add("a page of rows", kTableLeaf, QStringList { u"summed up"_s, u"are in the file"_s });
-    }
-
     void aListReadInPartSaysSo()
     {
-        const auto [page, told] = Table<char, QStringList>::Row();
-        FrameErrand errand({ u"Pantry"_s });
-        QByteArray rows;
-        for (int i = 0; i < 1000; ++i)
-            rows += "Row " + QByteArray::number(10'000 + i) + "\t1\r\n";
-        errand.Import(rows);
-        errand.PressOk();
-        errand.Restart();
-        errand.frame.reset();
-        DamagePage(errand.DataPath(), page, u"Row 10500"_s);
-        errand.Start();
-        QStringList heard;
-        const auto hear = [&] {
-            QCoreApplication::processEvents();
-            while (QApplication::activeModalWidget() != nullptr) {
-                errand.Answer(QMessageBox::Ok);
-                if (errand.question.contains(u"in part"_s))
-                    heard << errand.question;
-            }
-            errand.ComeBack();
-        };
-        errand.Tap(0);
-        hear();
-        errand.Choose(Command::ViewSummary);
-        hear();
-        errand.PressOk();
-        errand.Choose(Command::Find);
-        QTest::keyClicks(QApplication::focusWidget(), u"Row"_s);
-        QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Return);
-        hear();
-        while (errand.pages->Depth() > 1)
+        // Where the order of names is lost, the rows can be exported all the same.
+        for (const auto& [page, told] :
+            { std::pair(kIndexLeaf, QStringList { u"are shown"_s, u"are shown"_s }),
+                std::pair(kTableLeaf, QStringList { u"summed up"_s, u"are in the file"_s }) }) {
+            FrameErrand errand({ u"Pantry"_s });
+            QByteArray rows;
+            for (int i = 0; i < 1000; ++i)
+                rows += "Row " + QByteArray::number(10'000 + i) + "\t1\r\n";
+            errand.Import(rows);
             errand.PressOk();
-        errand.ChooseFileFor(Command::Export, errand.DataPath() + u".txt"_s);
-        hear();
-        QCOMPARE(heard.size(), told.size());
-        for (qsizetype i = 0; i < told.size(); ++i)
-            QVERIFY2(heard.at(i).contains(told.at(i)), qPrintable(heard.at(i)));
+            errand.Restart();
+            errand.frame.reset();
+            DamagePage(errand.DataPath(), page, u"Row 10500"_s);
+            errand.Start();
+            QStringList heard;
+            const auto hear = [&] {
+                QCoreApplication::processEvents();
+                while (QApplication::activeModalWidget() != nullptr) {
+                    errand.Answer(QMessageBox::Ok);
+                    if (errand.question.contains(u"in part"_s))
+                        heard << errand.question;
+                }
+                errand.ComeBack();
+            };
+            errand.Tap(0);
+            hear();
+            errand.Choose(Command::ViewSummary);
+            hear();
+            errand.PressOk();
+            errand.Choose(Command::Find);
+            QTest::keyClicks(QApplication::focusWidget(), u"Row"_s);
+            QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Return);
+            hear();
+            while (errand.pages->Depth() > 1)
+                errand.PressOk();
+            errand.ChooseFileFor(Command::Export, errand.DataPath() + u".txt"_s);
+            hear();
+            QCOMPARE(heard.size(), told.size());
+            for (qsizetype i = 0; i < told.size(); ++i)
+                QVERIFY2(heard.at(i).contains(told.at(i)), qPrintable(heard.at(i)));
+        }
     }
 };
 

@@ -2,7 +2,6 @@
 #include "store/totals.h"
 #include "tests/list_fixture.h"
 #include "tests/page_damage.h"
-#include "tests/table.h"
 #include "tests/test_program.h"
 #include "values/file_date.h"
 
@@ -113,45 +112,40 @@ private Q_SLOTS:
         QVERIFY(file.data->BeginTransaction() && file.data->EndTransaction(true));
     }
 
-    void aDamagedPageEndsTheListing_data()
-    {
-        const Table<char> add;
-        add("of the index", kIndexLeaf);
-        add("of the rows", kTableLeaf);
-    }
-
     void aDamagedPageEndsTheListing()
     {
-        const auto [page] = Table<char>::Row();
-        constexpr int kRows = 1000;
-        ListFixture file;
-        const ObjectId list = file.MakeFullList(u"l"_s);
-        const auto name = [](int row) { return u"row %1"_s.arg(row, 4, 10, QChar(u'0')); };
-        QVERIFY(file.data->BeginTransaction());
-        for (int i = 0; i < kRows; ++i)
-            file.Add({ name(i), QString::number(i % 2) });
-        QVERIFY(file.data->EndTransaction(true));
-        file.data->Unmount();
-        DamagePage(file.Path(), page, name(600));
+        for (const char page : { kIndexLeaf, kTableLeaf }) {
+            constexpr int kRows = 1000;
+            ListFixture file;
+            const ObjectId list = file.MakeFullList(u"l"_s);
+            const auto name = [](int row) { return u"row %1"_s.arg(row, 4, 10, QChar(u'0')); };
+            QVERIFY(file.data->BeginTransaction());
+            for (int i = 0; i < kRows; ++i)
+                file.Add({ name(i), QString::number(i % 2) });
+            QVERIFY(file.data->EndTransaction(true));
+            file.data->Unmount();
+            DamagePage(file.Path(), page, name(600));
 
-        file.Restart();
-        file.OpenList(list);
-        const auto [rows, error] = file.rows->FillRows();
-        QCOMPARE(error, page == kIndexLeaf ? ErrorNumber::FileCorrupt : ErrorNumber::None);
-        QVERIFY2(rows.size() > 300, qPrintable(QString::number(rows.size())));
-        // No row is missing before the last one.
-        QCOMPARE(file.Cells({ rows.front(), rows[300] }), name(0) + u' ' + name(300));
-        const auto [odd, oddError] = file.rows->FillFilteredRows(
-            Where(file.Column(Count), FilterCondition::Equals, u"1"_s));
-        QCOMPARE(oddError, ErrorNumber::FileCorrupt);
-        QVERIFY(odd.size() > 150 && odd.size() < 300);
-        QCOMPARE(file.Cells({ odd[0], odd[150] }), name(1) + u' ' + name(301));
-        // The column of a damaged row cannot be sorted by, nor totalled: the index is not asked.
-        const bool isRowDamaged = page == kTableLeaf;
-        const auto [sorted, sortError] = file.rows->SortRows(rows, file.Column(Count));
-        QCOMPARE(sortError, isRowDamaged ? ErrorNumber::FileCorrupt : ErrorNumber::None);
-        QCOMPARE(sorted == rows, isRowDamaged);
-        QCOMPARE(file.rows->Totals(nullptr).error, sortError);
+            file.Restart();
+            file.OpenList(list);
+            const auto [rows, error] = file.rows->FillRows();
+            QCOMPARE(error, page == kIndexLeaf ? ErrorNumber::FileCorrupt : ErrorNumber::None);
+            QVERIFY2(rows.size() > 300, qPrintable(QString::number(rows.size())));
+            // No row is missing before the last one.
+            QCOMPARE(file.Cells({ rows.front(), rows[300] }), name(0) + u' ' + name(300));
+            const auto [odd, oddError] = file.rows->FillFilteredRows(
+                Where(file.Column(Count), FilterCondition::Equals, u"1"_s));
+            QCOMPARE(oddError, ErrorNumber::FileCorrupt);
+            QVERIFY(odd.size() > 150 && odd.size() < 300);
+            QCOMPARE(file.Cells({ odd[0], odd[150] }), name(1) + u' ' + name(301));
+            // The column of a damaged row cannot be sorted by, nor totalled: the index is not
+            // asked.
+            const bool isRowDamaged = page == kTableLeaf;
+            const auto [sorted, sortError] = file.rows->SortRows(rows, file.Column(Count));
+            QCOMPARE(sortError, isRowDamaged ? ErrorNumber::FileCorrupt : ErrorNumber::None);
+            QCOMPARE(sorted == rows, isRowDamaged);
+            QCOMPARE(file.rows->Totals(nullptr).error, sortError);
+        }
     }
 
     void sortingManyRowsAgreesWithComparingThem()
