@@ -55,19 +55,6 @@ class MainFrameSafetyTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void closingAsksBeforeInputIsLost()
-    {
-        FrameErrand errand(QStringList {});
-        errand.Choose(Command::New);
-        QTest::keyClicks(errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s), u"Pantry"_s);
-        QVERIFY(!errand.frame->close());
-        errand.Answer(QMessageBox::No);
-        QCOMPARE(errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s)->text(), u"Pantry"_s);
-        QVERIFY(!errand.frame->close());
-        errand.Answer(QMessageBox::Yes);
-        QTRY_VERIFY(!errand.frame->isVisible());
-    }
-
     void aDeletedListComesBack()
     {
         FrameErrand errand({ u"Attic"_s, u"Pantry"_s });

@@ -156,13 +156,13 @@ private Q_SLOTS:
     {
         const auto [column, text, typed, imported]
             = Table<PropertyId, QString, PropertyVariant, PropertyVariant>::Row();
-        const auto check
-            = [&](const std::optional<PropertyValue>& value, const PropertyVariant& expected) {
-                  return value ? value->id == column && value->value == expected
-                               : std::holds_alternative<std::monostate>(expected);
-              };
-        QVERIFY(check(ParseValueText(column, text, Context()), typed));
-        QVERIFY(check(ParseImportText(column, text, Context()), imported));
+        const auto holds = [](const std::optional<PropertyValue>& value, PropertyId id,
+                               const PropertyVariant& expected) {
+            return value ? value->id == id && value->value == expected
+                         : std::holds_alternative<std::monostate>(expected);
+        };
+        QVERIFY(holds(ParseValueText(column, text, Context()), column, typed));
+        QVERIFY(holds(ParseImportText(column, text, Context()), column, imported));
     }
 
     void textsEndAtTheFirstNul()
