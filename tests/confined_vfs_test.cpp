@@ -6,8 +6,6 @@
 
 #include <sqlite3.h>
 
-using namespace Quillory;
-
 namespace {
 
 /// A file as SQLite has it open, without what SQLite makes of it.
@@ -53,63 +51,46 @@ class ConfinedVfsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void noPieceOfADamagedPageIsRead_data();
-    void noPieceOfADamagedPageIsRead();
+    void noPieceOfADamagedPageIsRead()
+    {
+        constexpr qint64 kPage = kPageSize;
+        VolumeFixture fixture;
+        fixture.Mount();
+        fixture.volume.reset();
+        const QByteArray intact = FileBytes(fixture.Path());
+        const QByteArray damaged = WithFlippedBit(intact, 2 * kPage + 2000);
+        const auto read = [&](const QByteArray& file, qint64 offset, int amount, int code) {
+            WriteFileBytes(fixture.Path(), file);
+            QByteArray bytes(amount, '?');
+            QCOMPARE(OpenFile(fixture.Path()).Read(bytes, offset), code);
+            if (code != SQLITE_IOERR_DATA)
+                QCOMPARE(bytes, file.mid(offset, amount).leftJustified(amount, '\0'));
+        };
+        // A page, one less its checksum, pieces before and behind the damage, and over its ends.
+        for (const auto& [offset, amount] :
+            { std::pair { 2 * kPage, kPageSize }, { 2 * kPage, kPageSize - kPageReserve },
+                { 2 * kPage, 8 }, { 2 * kPage + 3000, 500 }, { 2 * kPage - 10, 11 },
+                { 3 * kPage - 1, 20 }, { kPage + 100, 2 * kPageSize + 100 } }) {
+            read(intact, offset, amount, SQLITE_OK);
+            read(damaged, offset, amount, SQLITE_IOERR_DATA);
+        }
+        // The pages around it.
+        read(damaged, kPage, kPageSize - 1, SQLITE_OK);
+        read(damaged, 3 * kPage, kPageSize + 1, SQLITE_OK);
+        // The header and its change counter are read before a journal is played back, which may
+        // have to make the first page whole.
+        const QByteArray torn = WithFlippedBit(intact, 2000);
+        read(torn, 0, 100, SQLITE_OK);
+        read(torn, 24, 16, SQLITE_OK);
+        read(torn, 0, 101, SQLITE_IOERR_DATA);
+        // Over the end of the file and behind it.
+        read({}, 0, 100, SQLITE_IOERR_SHORT_READ);
+        const qsizetype size = intact.size();
+        read(intact, size - 10, 20, SQLITE_IOERR_SHORT_READ);
+        read(intact, size, 20, SQLITE_IOERR_SHORT_READ);
+        read(intact.chopped(1), size - kPage, 20, SQLITE_IOERR_SHORT_READ);
+    }
 };
-
-void ConfinedVfsTest::noPieceOfADamagedPageIsRead_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<qint64>("offset");
-    QTest::addColumn<int>("amount");
-    QTest::addColumn<int>("code");
-    constexpr qint64 kPage = kPageSize;
-    VolumeFixture fixture;
-    fixture.Mount();
-    fixture.volume.reset();
-    const QByteArray intact = FileBytes(fixture.Path());
-    const QByteArray damaged = WithFlippedBit(intact, 2 * kPage + 2000);
-    const auto row = [](const char* name, const QByteArray& file, qint64 offset, int amount,
-                         int code) { QTest::newRow(name) << file << offset << amount << code; };
-    const auto both = [&](const char* name, qint64 offset, int amount) {
-        row(qPrintable(QLatin1StringView(name) + QStringLiteral(", intact")), intact, offset,
-            amount, SQLITE_OK);
-        row(name, damaged, offset, amount, SQLITE_IOERR_DATA);
-    };
-    both("a page", 2 * kPage, kPageSize);
-    both("a page less its checksum", 2 * kPage, kPageSize - kPageReserve);
-    both("a piece before the damage", 2 * kPage, 8);
-    both("a piece behind the damage", 2 * kPage + 3000, 500);
-    both("from the page before", 2 * kPage - 10, 11);
-    both("to the page behind", 3 * kPage - 1, 20);
-    both("with the pages around", kPage + 100, 2 * kPageSize + 100);
-    row("the page before", damaged, kPageSize, kPageSize - 1, SQLITE_OK);
-    row("the pages behind", damaged, 3 * kPage, kPageSize + 1, SQLITE_OK);
-    // Read before a journal is played back, which may have to make the first page whole.
-    const QByteArray torn = WithFlippedBit(intact, 2000);
-    row("the header of a torn file", torn, 0, 100, SQLITE_OK);
-    row("the change counter of a torn file", torn, 24, 16, SQLITE_OK);
-    row("more of a torn file's first page", torn, 0, 101, SQLITE_IOERR_DATA);
-    row("the header of an empty file", {}, 0, 100, SQLITE_IOERR_SHORT_READ);
-    const qsizetype size = intact.size();
-    row("over the end", intact, size - 10, 20, SQLITE_IOERR_SHORT_READ);
-    row("behind the end", intact, size, 20, SQLITE_IOERR_SHORT_READ);
-    row("a page cut short", intact.chopped(1), size - kPageSize, 20, SQLITE_IOERR_SHORT_READ);
-}
-
-void ConfinedVfsTest::noPieceOfADamagedPageIsRead()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(qint64, offset);
-    QFETCH(int, amount);
-    const VolumeFixture fixture;
-    WriteFileBytes(fixture.Path(), file);
-    QByteArray bytes(amount, '?');
-    QTEST(OpenFile(fixture.Path()).Read(bytes, offset), "code");
-    QFETCH(int, code);
-    if (code != SQLITE_IOERR_DATA)
-        QCOMPARE(bytes, file.mid(offset, amount).leftJustified(amount, '\0'));
-}
 
 QUILLORY_TEST(QCoreApplication, ConfinedVfsTest)
 #include "confined_vfs_test.moc"

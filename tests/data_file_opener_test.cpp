@@ -9,9 +9,6 @@
 #include <functional>
 #include <optional>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using Outcome = DataFileOpener::Outcome;
@@ -78,135 +75,111 @@ class DataFileOpenerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theFirstStartMakesTheChosenFile();
-    void anExistingFileChosenAtTheFirstStartIsOpenedAsItIs();
-    void choosingNothingEndsTheProgram();
-    void aFileThatIsNoDataFileIsRefusedAndForgotten();
-    void aPathTooLongToBeRememberedIsRefused();
-    void aMissingFileIsAskedAbout_data();
-    void aMissingFileIsAskedAbout();
-    void aMissingFolderIsLookedForAgain();
+    void theFirstStartMakesTheChosenFile()
+    {
+        Start start;
+        start.chosen = start.Path();
+        start.Run();
+        QCOMPARE(start.shown, QStringList({ u"welcome"_s, u"chooser"_s }));
+        QCOMPARE(start.outcome, Outcome::Opened);
+        QCOMPARE(start.settings.DbPath, start.Path());
+        QVERIFY(QFile::exists(start.Path()));
+
+        start.End();
+        start.shown.clear();
+        start.Run();
+        QCOMPARE(start.shown, QStringList());
+        QVERIFY(start.IsOpen());
+        QCOMPARE(start.ends, 2);
+    }
+
+    void anExistingFileChosenAtTheFirstStartIsOpenedAsItIs()
+    {
+        Start start;
+        start.chosen = start.Path();
+        MakeLists(start.Path(), { u"Pantry"_s });
+        start.Run();
+        QCOMPARE(start.outcome, Outcome::Opened);
+        start.End();
+        QCOMPARE(ListsIn(start.Path()), u"Pantry 0"_s);
+    }
+
+    void choosingNothingEndsTheProgram()
+    {
+        Start start;
+        start.Run();
+        QCOMPARE(start.outcome, Outcome::NothingChosen);
+        QCOMPARE(start.settings.DbPath, QString());
+    }
+
+    void aFileThatIsNoDataFileIsRefusedAndForgotten()
+    {
+        Start start;
+        const QByteArray content(5000, 'x');
+        WriteFileBytes(start.Path(u"letter.txt"_s), content);
+        start.chosen = start.Path(u"letter.txt"_s);
+        start.Run();
+        QCOMPARE(start.shown.last(), kFailure);
+        QCOMPARE(start.outcome, Outcome::Failed);
+        QCOMPARE(start.settings.DbPath, QString());
+
+        // As the data file of earlier starts it stays named: it may be mended.
+        start.settings.DbPath = start.chosen;
+        start.Run();
+        QCOMPARE(start.settings.DbPath, start.chosen);
+        QCOMPARE(FileBytes(start.chosen), content);
+    }
+
+    void aPathTooLongToBeRememberedIsRefused()
+    {
+        Start start;
+        const QString folder = start.Path(QString(200, u'f'));
+        QVERIFY(QDir().mkpath(folder));
+        start.chosen = folder + u'/' + QString(100, u'x');
+        start.Run();
+        QCOMPARE(start.shown.last(), kFailure);
+        QCOMPARE(start.settings.DbPath, QString());
+        QVERIFY(!QFile::exists(start.chosen));
+    }
+
+    void aMissingFileIsAskedAbout()
+    {
+        for (const QList<MessageAnswer>& answers :
+            { QList { MessageAnswer::Yes }, { MessageAnswer::No, MessageAnswer::Yes },
+                { MessageAnswer::No, MessageAnswer::Cancel } }) {
+            const bool isMade = answers.last() == MessageAnswer::Yes;
+            Start start;
+            start.settings.DbPath = start.Path();
+            start.answers.append(answers);
+            start.Run();
+            QCOMPARE(start.shown, QStringList(answers.size(), kNoFile));
+            QCOMPARE(start.outcome, isMade ? Outcome::Opened : Outcome::Failed);
+            QCOMPARE(QFile::exists(start.Path()), isMade);
+            QCOMPARE(start.settings.DbPath, start.Path());
+        }
+    }
+
+    void aMissingFolderIsLookedForAgain()
+    {
+        Start start;
+        start.settings.DbPath = start.Path(u"card/data.idb"_s);
+        start.answers.append({ MessageAnswer::Retry, MessageAnswer::Retry, MessageAnswer::Yes });
+        start.beforeAnswer = [&start] {
+            if (start.shown.size() == 2)
+                QVERIFY(QDir().mkpath(start.Path(u"card"_s)));
+        };
+        start.Run();
+        QCOMPARE(start.shown, QStringList({ kNoFolder, kNoFolder, kNoFile }));
+        QCOMPARE(start.outcome, Outcome::Opened);
+
+        Start cancelled;
+        cancelled.settings.DbPath = cancelled.Path(u"card/data.idb"_s);
+        cancelled.answers.append(MessageAnswer::Cancel);
+        cancelled.Run();
+        QCOMPARE(cancelled.outcome, Outcome::Failed);
+        QVERIFY(!QFile::exists(cancelled.settings.DbPath));
+    }
 };
-
-void DataFileOpenerTest::theFirstStartMakesTheChosenFile()
-{
-    Start start;
-    start.chosen = start.Path();
-    start.Run();
-    QCOMPARE(start.shown, QStringList({ u"welcome"_s, u"chooser"_s }));
-    QCOMPARE(start.outcome, Outcome::Opened);
-    QCOMPARE(start.settings.DbPath, start.Path());
-    QVERIFY(QFile::exists(start.Path()));
-
-    start.End();
-    start.shown.clear();
-    start.Run();
-    QCOMPARE(start.shown, QStringList());
-    QVERIFY(start.IsOpen());
-    QCOMPARE(start.ends, 2);
-}
-
-void DataFileOpenerTest::anExistingFileChosenAtTheFirstStartIsOpenedAsItIs()
-{
-    Start start;
-    start.chosen = start.Path();
-    MakeLists(start.Path(), { u"Pantry"_s });
-    start.Run();
-    QCOMPARE(start.outcome, Outcome::Opened);
-    start.End();
-    QCOMPARE(ListsIn(start.Path()), u"Pantry 0"_s);
-}
-
-void DataFileOpenerTest::choosingNothingEndsTheProgram()
-{
-    Start start;
-    start.Run();
-    QCOMPARE(start.outcome, Outcome::NothingChosen);
-    QCOMPARE(start.settings.DbPath, QString());
-}
-
-void DataFileOpenerTest::aFileThatIsNoDataFileIsRefusedAndForgotten()
-{
-    Start start;
-    const QByteArray content(5000, 'x');
-    WriteFileBytes(start.Path(u"letter.txt"_s), content);
-    start.chosen = start.Path(u"letter.txt"_s);
-    start.Run();
-    QCOMPARE(start.shown.last(), kFailure);
-    QCOMPARE(start.outcome, Outcome::Failed);
-    QCOMPARE(start.settings.DbPath, QString());
-
-    // As the data file of earlier starts it stays named: it may be mended.
-    start.settings.DbPath = start.chosen;
-    start.Run();
-    QCOMPARE(start.settings.DbPath, start.chosen);
-    QCOMPARE(FileBytes(start.chosen), content);
-}
-
-void DataFileOpenerTest::aPathTooLongToBeRememberedIsRefused()
-{
-    Start start;
-    const QString folder = start.Path(QString(200, u'f'));
-    QVERIFY(QDir().mkpath(folder));
-    start.chosen = folder + u'/' + QString(100, u'x');
-    start.Run();
-    QCOMPARE(start.shown.last(), kFailure);
-    QCOMPARE(start.settings.DbPath, QString());
-    QVERIFY(!QFile::exists(start.chosen));
-}
-
-void DataFileOpenerTest::aMissingFileIsAskedAbout_data()
-{
-    using Answers = QQueue<MessageAnswer>;
-    const auto queue = [](std::initializer_list<MessageAnswer> answers) {
-        Answers result;
-        result.append(QList<MessageAnswer>(answers));
-        return result;
-    };
-    QTest::addColumn<Answers>("answers");
-    QTest::addColumn<Outcome>("outcome");
-    QTest::addColumn<bool>("isMade");
-    QTest::newRow("Yes") << queue({ MessageAnswer::Yes }) << Outcome::Opened << true;
-    QTest::newRow("No, then Yes") << queue({ MessageAnswer::No, MessageAnswer::Yes })
-                                  << Outcome::Opened << true;
-    QTest::newRow("No, then Cancel")
-        << queue({ MessageAnswer::No, MessageAnswer::Cancel }) << Outcome::Failed << false;
-}
-
-void DataFileOpenerTest::aMissingFileIsAskedAbout()
-{
-    QFETCH(QQueue<MessageAnswer>, answers);
-    QFETCH(bool, isMade);
-    Start start;
-    start.settings.DbPath = start.Path();
-    start.answers = answers;
-    start.Run();
-    QCOMPARE(start.shown, QStringList(answers.size(), kNoFile));
-    QTEST(*start.outcome, "outcome");
-    QCOMPARE(QFile::exists(start.Path()), isMade);
-    QCOMPARE(start.settings.DbPath, start.Path());
-}
-
-void DataFileOpenerTest::aMissingFolderIsLookedForAgain()
-{
-    Start start;
-    start.settings.DbPath = start.Path(u"card/data.idb"_s);
-    start.answers.append({ MessageAnswer::Retry, MessageAnswer::Retry, MessageAnswer::Yes });
-    start.beforeAnswer = [&start] {
-        if (start.shown.size() == 2)
-            QVERIFY(QDir().mkpath(start.Path(u"card"_s)));
-    };
-    start.Run();
-    QCOMPARE(start.shown, QStringList({ kNoFolder, kNoFolder, kNoFile }));
-    QCOMPARE(start.outcome, Outcome::Opened);
-
-    Start cancelled;
-    cancelled.settings.DbPath = cancelled.Path(u"card/data.idb"_s);
-    cancelled.answers.append(MessageAnswer::Cancel);
-    cancelled.Run();
-    QCOMPARE(cancelled.outcome, Outcome::Failed);
-    QVERIFY(!QFile::exists(cancelled.settings.DbPath));
-}
 
 } // namespace
 

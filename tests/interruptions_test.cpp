@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tests/main_frame_errand.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
-#include "widgets/colour_grid.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTabBar>
-#include <QTableView>
 #include <QTimer>
-
-using namespace Quillory;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -28,85 +23,71 @@ enum class Before
 struct FrontCase
 {
     const char* name;
-    void (*open)(FrameErrand& errand);
     /// For whatever ends the pages.
     Before before;
+    void (*open)(FrameErrand& errand);
 };
 
-void TypeInto(FrameErrand& errand, const QString& text)
+/// A command, of a list's page if that is opened first, and a letter typed then if there is one.
+template <Command kCommand, bool kIsInList = false, char kLetter = 0> void Do(FrameErrand& errand)
 {
-    for (const QChar letter : text)
-        QTest::keyClick(errand.frame->windowHandle(), static_cast<Qt::Key>(letter.unicode()));
+    if (kIsInList)
+        errand.Tap(0);
+    errand.Choose(kCommand);
+    if (kLetter != 0)
+        QTest::keyClick(errand.frame->windowHandle(), kLetter);
+}
+
+void OpenContextMenu(FrameErrand& errand)
+{
+    const QPoint place = errand.view->visualRect(errand.view->currentIndex()).center();
+    QContextMenuEvent event(
+        QContextMenuEvent::Mouse, place, errand.view->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(errand.view->viewport(), &event);
+}
+
+void OpenColours(FrameErrand& errand)
+{
+    errand.Choose(Command::ListProperties);
+    errand.pages->Top()->findChild<QTabBar*>()->setCurrentIndex(1);
+    errand.Press(u"warnOnCount"_s);
+    errand.Press(u"countColour"_s);
+}
+
+void OpenCalendar(FrameErrand& errand)
+{
+    Do<Command::New, true>(errand);
+    for (int field = 0; field < Expiry; ++field)
+        QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Down);
+    errand.Press(u"openCalendar"_s);
+}
+
+void OpenDropDown(FrameErrand& errand)
+{
+    Do<Command::Find, true>(errand);
+    errand.pages->Top()->findChild<QComboBox*>(u"fieldBox"_s)->showPopup();
 }
 
 const std::array kFronts {
-    FrontCase { "the lists", [](FrameErrand&) {}, Before::Nothing },
-    FrontCase { "a list", [](FrameErrand& errand) { errand.Tap(0); }, Before::Nothing },
+    FrontCase { "the lists", Before::Nothing, [](FrameErrand&) {} },
+    FrontCase { "a list", Before::Nothing, [](FrameErrand& errand) { errand.Tap(0); } },
+    FrontCase { "a page", Before::Nothing, Do<Command::Options> },
+    FrontCase { "a page with input", Before::Question, Do<Command::New, false, 'X'> },
+    FrontCase { "a Find with input", Before::Question, Do<Command::Find, true, 'X'> },
+    FrontCase { "an editor in place", Before::Nothing, Do<Command::Rename, false, 'X'> },
     FrontCase {
-        "a page", [](FrameErrand& errand) { errand.Choose(Command::Options); }, Before::Nothing },
-    FrontCase { "a page with input",
-        [](FrameErrand& errand) {
-            errand.Choose(Command::New);
-            TypeInto(errand, u"X"_s);
-        },
-        Before::Question },
-    FrontCase { "a Find with input",
-        [](FrameErrand& errand) {
-            errand.Tap(0);
-            errand.Choose(Command::Find);
-            TypeInto(errand, u"X"_s);
-        },
-        Before::Question },
-    FrontCase { "an editor in place",
-        [](FrameErrand& errand) {
-            errand.Choose(Command::Rename);
-            TypeInto(errand, u"X"_s);
-        },
-        Before::Nothing },
-    FrontCase {
-        "a menu", [](FrameErrand& errand) { errand.Press(u"rightKey"_s); }, Before::Nothing },
-    FrontCase { "a menu of a list",
+        "a menu", Before::Nothing, [](FrameErrand& errand) { errand.Press(u"rightKey"_s); } },
+    FrontCase { "a menu of a list", Before::Nothing,
         [](FrameErrand& errand) {
             errand.Tap(0);
             errand.Press(u"rightKey"_s);
-        },
-        Before::Nothing },
-    FrontCase { "a context menu",
-        [](FrameErrand& errand) {
-            const QPoint place = errand.view->visualRect(errand.view->currentIndex()).center();
-            QContextMenuEvent event(
-                QContextMenuEvent::Mouse, place, errand.view->viewport()->mapToGlobal(place));
-            QApplication::sendEvent(errand.view->viewport(), &event);
-        },
-        Before::Nothing },
-    FrontCase { "colours over input",
-        [](FrameErrand& errand) {
-            errand.Choose(Command::ListProperties);
-            errand.pages->Top()->findChild<QTabBar*>()->setCurrentIndex(1);
-            errand.Press(u"warnOnCount"_s);
-            errand.Press(u"countColour"_s);
-        },
-        Before::Question },
-    FrontCase { "a calendar",
-        [](FrameErrand& errand) {
-            errand.Tap(0);
-            errand.Choose(Command::New);
-            for (int field = 0; field < Expiry; ++field)
-                QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Down);
-            errand.Press(u"openCalendar"_s);
-        },
-        Before::Nothing },
-    FrontCase { "a drop-down list",
-        [](FrameErrand& errand) {
-            errand.Tap(0);
-            errand.Choose(Command::Find);
-            errand.pages->Top()->findChild<QComboBox*>(u"fieldBox"_s)->showPopup();
-        },
-        Before::Nothing },
-    FrontCase {
-        "a question", [](FrameErrand& errand) { errand.Choose(Command::Delete); }, Before::Answer },
-    FrontCase { "the file dialog", [](FrameErrand& errand) { errand.Choose(Command::Export); },
-        Before::Answer },
+        } },
+    FrontCase { "a context menu", Before::Nothing, OpenContextMenu },
+    FrontCase { "colours over input", Before::Question, OpenColours },
+    FrontCase { "a calendar", Before::Nothing, OpenCalendar },
+    FrontCase { "a drop-down list", Before::Nothing, OpenDropDown },
+    FrontCase { "a question", Before::Answer, Do<Command::Delete> },
+    FrontCase { "the file dialog", Before::Answer, Do<Command::Export> },
 };
 
 struct InterruptionCase
@@ -177,94 +158,81 @@ class InterruptionsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void eachIsMetWhateverIsOpen_data();
-    void eachIsMetWhateverIsOpen();
-    void workIsDoneFirst_data();
-    void workIsDoneFirst();
-};
-
-void InterruptionsTest::eachIsMetWhateverIsOpen_data()
-{
-    QTest::addColumn<int>("interruption");
-    QTest::addColumn<int>("front");
-    constexpr std::array kOutcomes { "at once", "asks first", "after the answer" };
-    for (size_t i = 0; i < kInterruptions.size(); ++i) {
-        for (size_t j = 0; j < kFronts.size(); ++j) {
-            const char* outcome = kInterruptions[i].endsPages
-                ? kOutcomes.at(static_cast<size_t>(kFronts[j].before))
-                : "stays open";
-            QTest::addRow("%s over %s: %s", kInterruptions[i].name, kFronts[j].name, outcome)
-                << static_cast<int>(i) << static_cast<int>(j);
+    void eachIsMetWhateverIsOpen_data()
+    {
+        const Table<int, int> columns;
+        constexpr std::array kOutcomes { "at once", "asks first", "after the answer" };
+        for (size_t i = 0; i < kInterruptions.size(); ++i) {
+            for (size_t j = 0; j < kFronts.size(); ++j) {
+                const char* outcome = kInterruptions[i].endsPages
+                    ? kOutcomes.at(static_cast<size_t>(kFronts[j].before))
+                    : "stays open";
+                QTest::addRow("%s over %s: %s", kInterruptions[i].name, kFronts[j].name, outcome)
+                    << static_cast<int>(i) << static_cast<int>(j);
+            }
         }
     }
-}
 
-void InterruptionsTest::eachIsMetWhateverIsOpen()
-{
-    QFETCH(const int, interruption);
-    QFETCH(const int, front);
-    const InterruptionCase& what = kInterruptions.at(static_cast<size_t>(interruption));
-    const FrontCase& over = kFronts.at(static_cast<size_t>(front));
-    FrameErrand errand;
-    ListFixture full;
-    full.MakeFullList(u"Pantry"_s);
-    full.data->Unmount();
-    QVERIFY(QFile::copy(full.Path(), errand.DataPath()));
-    errand.MakeLists({ u"Zoo"_s });
-    errand.Start();
-    over.open(errand);
-    const QString seen = Seen(errand);
-    what.happen(errand);
-    if (!what.endsPages) {
-        QCoreApplication::processEvents();
-        QCOMPARE(Seen(errand), seen);
-        QVERIFY(what.isDone(errand));
-        return;
-    }
-    if (over.before == Before::Question) {
-        errand.Answer(QMessageBox::Yes);
-        QVERIFY(errand.question.contains(u"discard"_s));
-    } else if (over.before == Before::Answer) {
-        QCoreApplication::processEvents();
-        QVERIFY(!what.isDone(errand));
-        QCOMPARE(Seen(errand), seen);
-        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
-    }
-    QTRY_VERIFY(what.isDone(errand));
-}
-
-void InterruptionsTest::workIsDoneFirst_data()
-{
-    QTest::addColumn<int>("interruption");
-    for (const int i : { 0, 2 })
-        QTest::newRow(kInterruptions.at(static_cast<size_t>(i)).name) << i;
-}
-
-void InterruptionsTest::workIsDoneFirst()
-{
-    QFETCH(const int, interruption);
-    const InterruptionCase& what = kInterruptions.at(static_cast<size_t>(interruption));
-    FrameErrand errand({ u"Pantry"_s, u"Zoo"_s });
-    // Enough to last more than half a second.
-#ifdef QUILLORY_SANITIZED
-    constexpr int kRows = 100'000;
-#else
-    constexpr int kRows = 800'000;
-#endif
-    errand.Import(QByteArray("Tea\t3\r\n").repeated(kRows));
-    // Comes while the import shows how far it is.
-    bool isWithin = false;
-    QTimer::singleShot(0, errand.frame.get(), [&] {
-        isWithin = errand.frame->findChild<QWidget*>(u"TransferProgress"_s) != nullptr;
+    void eachIsMetWhateverIsOpen()
+    {
+        const auto [interruption, front] = Table<int, int>::Row();
+        const InterruptionCase& what = kInterruptions.at(static_cast<size_t>(interruption));
+        const FrontCase& over = kFronts.at(static_cast<size_t>(front));
+        FrameErrand errand;
+        ListFixture full;
+        full.MakeFullList(u"Pantry"_s);
+        full.data->Unmount();
+        QVERIFY(QFile::copy(full.Path(), errand.DataPath()));
+        errand.MakeLists({ u"Zoo"_s });
+        errand.Start();
+        over.open(errand);
+        const QString seen = Seen(errand);
         what.happen(errand);
-        QVERIFY(!what.isDone(errand));
-    });
-    errand.PressOk();
-    QVERIFY(isWithin);
-    QTRY_VERIFY(what.isDone(errand));
-    errand.frame.reset();
-    QCOMPARE(ListsIn(errand.DataPath()), u"Pantry %1, Zoo 0"_s.arg(kRows));
-}
+        if (!what.endsPages) {
+            QCoreApplication::processEvents();
+            QCOMPARE(Seen(errand), seen);
+            QVERIFY(what.isDone(errand));
+            return;
+        }
+        if (over.before == Before::Question) {
+            errand.Answer(QMessageBox::Yes);
+            QVERIFY(errand.question.contains(u"discard"_s));
+        } else if (over.before == Before::Answer) {
+            QCoreApplication::processEvents();
+            QVERIFY(!what.isDone(errand));
+            QCOMPARE(Seen(errand), seen);
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        }
+        QTRY_VERIFY(what.isDone(errand));
+    }
+
+    void workIsDoneFirst()
+    {
+        // Enough to last more than half a second.
+#ifdef QUILLORY_SANITIZED
+        constexpr int kRows = 100'000;
+#else
+        constexpr int kRows = 800'000;
+#endif
+        for (const size_t i : { 0U, 2U }) {
+            const InterruptionCase& what = kInterruptions.at(i);
+            FrameErrand errand({ u"Pantry"_s, u"Zoo"_s });
+            errand.Import(QByteArray("Tea\t3\r\n").repeated(kRows));
+            // Comes while the import shows how far it is.
+            bool isWithin = false;
+            QTimer::singleShot(0, errand.frame.get(), [&] {
+                isWithin = errand.frame->findChild<QWidget*>(u"TransferProgress"_s) != nullptr;
+                what.happen(errand);
+                QVERIFY(!what.isDone(errand));
+            });
+            errand.PressOk();
+            QVERIFY(isWithin);
+            QTRY_VERIFY(what.isDone(errand));
+            errand.frame.reset();
+            QCOMPARE(ListsIn(errand.DataPath()), u"Pantry %1, Zoo 0"_s.arg(kRows));
+        }
+    }
+};
 
 QUILLORY_TEST(QApplication, InterruptionsTest)
 #include "interruptions_test.moc"

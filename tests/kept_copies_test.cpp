@@ -9,9 +9,6 @@
 #include <algorithm>
 #include <filesystem>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// A data file, runs on it, and a folder for its copies.
@@ -58,183 +55,174 @@ class KeptCopiesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theLastThreeAreKept();
-    void theLastThreeAreKeptWhenTheClockGoesBack();
-    void aCopyIsKeptInTheHourThatSpringLeavesOut();
-    void aRunThatChangedNothingKeepsNothing();
-    void theUserSaysHowManyAreKept();
-    void copiesOfAFileThatIsGoneAreDropped();
-    void aFolderThatCannotBeWrittenIsNoFailure();
-    void aCopyLeavesTheDiskSomeRoom();
-    void whatAnInterruptedRunLeftIsRemoved();
-    void dataFilesHaveCopiesOfTheirOwn();
+    void theLastThreeAreKept()
+    {
+        Runs runs;
+        for (const QString& name : { u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s })
+            QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
+        const auto copies = runs.Copies();
+        QCOMPARE(copies.size(), size_t { 3 });
+        QCOMPARE(ListsIn(copies[0].path), u"a 0, b 0, c 0, d 0, e 0"_s);
+        QCOMPARE(ListsIn(copies[2].path), u"a 0, b 0, c 0"_s);
+        QCOMPARE(copies[0].time, runs.now);
+        QCOMPARE(copies[1].time, runs.now.addSecs(-100));
+        QCOMPARE(copies[0].bytes, QFileInfo(copies[0].path).size());
+        // The copies, and the file that says whose they are.
+        QCOMPARE(runs.FileCount(), 4);
+    }
+
+    void theLastThreeAreKeptWhenTheClockGoesBack()
+    {
+        Runs runs;
+        const QDateTime right = runs.now;
+        runs.now = right.addYears(10);
+        for (const QString& name : { u"a"_s, u"b"_s, u"c"_s })
+            QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
+        runs.now = right;
+        for (const QString& name : { u"d"_s, u"e"_s }) {
+            QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
+            QVERIFY(ListsIn(runs.Copies().front().path).endsWith(name + u" 0"_s));
+        }
+        QCOMPARE(ListsIn(runs.Copies().back().path), u"a 0, b 0, c 0"_s);
+    }
+
+    void aCopyIsKeptInTheHourThatSpringLeavesOut()
+    {
+        const QByteArray zone = qgetenv("TZ");
+        qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+        Runs runs;
+        runs.now = QDateTime(QDate(2026, 3, 29), QTime(2, 30), QTimeZone::utc());
+        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+        const auto copies = runs.Copies();
+        if (zone.isNull())
+            qunsetenv("TZ");
+        else
+            qputenv("TZ", zone);
+        QCOMPARE(copies.size(), size_t { 1 });
+        QCOMPARE(copies.front().time, runs.now);
+    }
+
+    void aRunThatChangedNothingKeepsNothing()
+    {
+        Runs runs;
+        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+        runs.file.Restart();
+        QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
+        // Not even what was undone is a change.
+        QVERIFY(runs.file.data->BeginTransaction());
+        InventoryList list = NewInventoryList();
+        QVERIFY(runs.file.catalogue->AddList(list) != kNoObject);
+        QVERIFY(runs.file.data->EndTransaction(false));
+        QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
+        // Nor are widths.
+        runs.file.Restart();
+        runs.file.list.TableColSizes = u"100,"_s;
+        QVERIFY(runs.file.catalogue->UpdateListOptions(
+            runs.file.catalogue->FindList(u"a"_s), runs.file.list));
+        QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
+        QCOMPARE(runs.Copies().size(), size_t { 1 });
+        runs.file.list.TableWarnStart = 4;
+        QVERIFY(runs.file.catalogue->UpdateListOptions(
+            runs.file.catalogue->FindList(u"a"_s), runs.file.list));
+        QCOMPARE(runs.Keep(), KeepOutcome::Kept);
+    }
+
+    void theUserSaysHowManyAreKept()
+    {
+        Runs runs;
+        for (const int count : { 2, 2, 2, 1, 0, 3 }) {
+            runs.keptCopies = count;
+            const auto before = static_cast<int>(runs.Copies().size());
+            QCOMPARE(runs.MakeList(QString::number(runs.now.toSecsSinceEpoch())),
+                count == 0 ? KeepOutcome::NotKept : KeepOutcome::Kept);
+            QCOMPARE(static_cast<int>(runs.Copies().size()), std::min(before + 1, count));
+        }
+    }
+
+    void copiesOfAFileThatIsGoneAreDropped()
+    {
+        Runs runs;
+        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+        Runs others;
+        const auto runAfter = [&](int days) {
+            others.now = others.now.addDays(days);
+            others.file.Restart();
+            others.file.MakeFullList(QString::number(others.now.toSecsSinceEpoch()));
+            return KeepCopy(*others.file.data, others.Path(), runs.Folder(), others.now, 3);
+        };
+        const QString aside = runs.Path() + u".aside"_s;
+        QVERIFY(QFile::rename(runs.Path(), aside));
+        // The days count from when it was missed, and anew once it was back.
+        QCOMPARE(runAfter(400), KeepOutcome::Kept);
+        QVERIFY(QFile::rename(aside, runs.Path()));
+        QCOMPARE(runAfter(80), KeepOutcome::Kept);
+        QVERIFY(QFile::rename(runs.Path(), aside));
+        QCOMPARE(runAfter(80), KeepOutcome::Kept);
+        QCOMPARE(runAfter(89), KeepOutcome::Kept);
+        QCOMPARE(runs.Copies().size(), size_t { 1 });
+        QCOMPARE(runAfter(1), KeepOutcome::Kept);
+        QVERIFY(runs.Copies().empty());
+        // Nothing else is.
+        QCOMPARE(QDir(runs.Folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+        QCOMPARE(ListKeptCopies(others.Path(), runs.Folder()).size(), size_t { 3 });
+    }
+
+    void aFolderThatCannotBeWrittenIsNoFailure()
+    {
+        Runs runs;
+        // A file in the place of the folder stops every user, root included.
+        QVERIFY(QDir().mkpath(QFileInfo(runs.Folder()).path()));
+        WriteFileBytes(runs.Folder(), {});
+        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::NotKept);
+        QVERIFY(runs.Copies().empty());
+        QCOMPARE(
+            KeepCopy(*runs.file.data, runs.Path(), QString(), runs.now, 3), KeepOutcome::NotKept);
+        // The run goes on.
+        QVERIFY(runs.file.Add({ u"row"_s }) != kNoObject);
+    }
+
+    void aCopyLeavesTheDiskSomeRoom()
+    {
+        Runs runs;
+        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+        runs.file.Restart();
+        runs.file.MakeFullList(u"b"_s);
+        // A file as long as there is room, hardly any of which is on the disk.
+        const std::filesystem::path path(runs.Path().toStdString());
+        const auto size = std::filesystem::file_size(path);
+        std::error_code error;
+        std::filesystem::resize_file(path, std::filesystem::space(path).available, error);
+        if (error)
+            QSKIP("there is more room than a file may be long");
+        QCOMPARE(runs.Keep(), KeepOutcome::NotKept);
+        std::filesystem::resize_file(path, size);
+        QCOMPARE(runs.Keep(), KeepOutcome::Kept);
+    }
+
+    void whatAnInterruptedRunLeftIsRemoved()
+    {
+        Runs runs;
+        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+        const QString left = runs.Copies().front().path + u".new-1234"_s;
+        WriteFileBytes(left, {});
+        QCOMPARE(runs.Copies().size(), size_t { 1 });
+        QCOMPARE(runs.MakeList(u"b"_s), KeepOutcome::Kept);
+        QVERIFY(!QFile::exists(left));
+    }
+
+    void dataFilesHaveCopiesOfTheirOwn()
+    {
+        Runs runs;
+        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+        const QString other = runs.Path() + u".other.idb"_s;
+        QVERIFY(ListKeptCopies(other, runs.Folder()).empty());
+        // By another name of the same file its copies are found.
+        const QString folder = QFileInfo(runs.Path()).path();
+        const QString roundabout
+            = folder + u"/../"_s + QFileInfo(folder).fileName() + u"/data.idb"_s;
+        QCOMPARE(ListKeptCopies(roundabout, runs.Folder()).size(), size_t { 1 });
+    }
 };
-
-void KeptCopiesTest::theLastThreeAreKept()
-{
-    Runs runs;
-    for (const QString& name : { u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s })
-        QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
-    const auto copies = runs.Copies();
-    QCOMPARE(copies.size(), size_t { 3 });
-    QCOMPARE(ListsIn(copies[0].path), u"a 0, b 0, c 0, d 0, e 0"_s);
-    QCOMPARE(ListsIn(copies[2].path), u"a 0, b 0, c 0"_s);
-    QCOMPARE(copies[0].time, runs.now);
-    QCOMPARE(copies[1].time, runs.now.addSecs(-100));
-    QCOMPARE(copies[0].bytes, QFileInfo(copies[0].path).size());
-    // The copies, and the file that says whose they are.
-    QCOMPARE(runs.FileCount(), 4);
-}
-
-void KeptCopiesTest::theLastThreeAreKeptWhenTheClockGoesBack()
-{
-    Runs runs;
-    const QDateTime right = runs.now;
-    runs.now = right.addYears(10);
-    for (const QString& name : { u"a"_s, u"b"_s, u"c"_s })
-        QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
-    runs.now = right;
-    for (const QString& name : { u"d"_s, u"e"_s }) {
-        QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
-        QVERIFY(ListsIn(runs.Copies().front().path).endsWith(name + u" 0"_s));
-    }
-    QCOMPARE(ListsIn(runs.Copies().back().path), u"a 0, b 0, c 0"_s);
-}
-
-void KeptCopiesTest::aCopyIsKeptInTheHourThatSpringLeavesOut()
-{
-    const QByteArray zone = qgetenv("TZ");
-    qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
-    Runs runs;
-    runs.now = QDateTime(QDate(2026, 3, 29), QTime(2, 30), QTimeZone::utc());
-    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
-    const auto copies = runs.Copies();
-    if (zone.isNull())
-        qunsetenv("TZ");
-    else
-        qputenv("TZ", zone);
-    QCOMPARE(copies.size(), size_t { 1 });
-    QCOMPARE(copies.front().time, runs.now);
-}
-
-void KeptCopiesTest::aRunThatChangedNothingKeepsNothing()
-{
-    Runs runs;
-    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
-    runs.file.Restart();
-    QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
-    // Not even what was undone is a change.
-    QVERIFY(runs.file.data->BeginTransaction());
-    InventoryList list = NewInventoryList();
-    QVERIFY(runs.file.catalogue->AddList(list) != kNoObject);
-    QVERIFY(runs.file.data->EndTransaction(false));
-    QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
-    // Nor are widths.
-    runs.file.Restart();
-    runs.file.list.TableColSizes = u"100,"_s;
-    QVERIFY(runs.file.catalogue->UpdateListOptions(
-        runs.file.catalogue->FindList(u"a"_s), runs.file.list));
-    QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
-    QCOMPARE(runs.Copies().size(), size_t { 1 });
-    runs.file.list.TableWarnStart = 4;
-    QVERIFY(runs.file.catalogue->UpdateListOptions(
-        runs.file.catalogue->FindList(u"a"_s), runs.file.list));
-    QCOMPARE(runs.Keep(), KeepOutcome::Kept);
-}
-
-void KeptCopiesTest::theUserSaysHowManyAreKept()
-{
-    Runs runs;
-    for (const int count : { 2, 2, 2, 1, 0, 3 }) {
-        runs.keptCopies = count;
-        const auto before = static_cast<int>(runs.Copies().size());
-        QCOMPARE(runs.MakeList(QString::number(runs.now.toSecsSinceEpoch())),
-            count == 0 ? KeepOutcome::NotKept : KeepOutcome::Kept);
-        QCOMPARE(static_cast<int>(runs.Copies().size()), std::min(before + 1, count));
-    }
-}
-
-void KeptCopiesTest::copiesOfAFileThatIsGoneAreDropped()
-{
-    Runs runs;
-    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
-    Runs others;
-    const auto runAfter = [&](int days) {
-        others.now = others.now.addDays(days);
-        others.file.Restart();
-        others.file.MakeFullList(QString::number(others.now.toSecsSinceEpoch()));
-        return KeepCopy(*others.file.data, others.Path(), runs.Folder(), others.now, 3);
-    };
-    const QString aside = runs.Path() + u".aside"_s;
-    QVERIFY(QFile::rename(runs.Path(), aside));
-    // The days count from when it was missed, and anew once it was back.
-    QCOMPARE(runAfter(400), KeepOutcome::Kept);
-    QVERIFY(QFile::rename(aside, runs.Path()));
-    QCOMPARE(runAfter(80), KeepOutcome::Kept);
-    QVERIFY(QFile::rename(runs.Path(), aside));
-    QCOMPARE(runAfter(80), KeepOutcome::Kept);
-    QCOMPARE(runAfter(89), KeepOutcome::Kept);
-    QCOMPARE(runs.Copies().size(), size_t { 1 });
-    QCOMPARE(runAfter(1), KeepOutcome::Kept);
-    QVERIFY(runs.Copies().empty());
-    // Nothing else is.
-    QCOMPARE(QDir(runs.Folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
-    QCOMPARE(ListKeptCopies(others.Path(), runs.Folder()).size(), size_t { 3 });
-}
-
-void KeptCopiesTest::aFolderThatCannotBeWrittenIsNoFailure()
-{
-    Runs runs;
-    // A file in the place of the folder stops every user, root included.
-    QVERIFY(QDir().mkpath(QFileInfo(runs.Folder()).path()));
-    WriteFileBytes(runs.Folder(), {});
-    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::NotKept);
-    QVERIFY(runs.Copies().empty());
-    QCOMPARE(KeepCopy(*runs.file.data, runs.Path(), QString(), runs.now, 3), KeepOutcome::NotKept);
-    // The run goes on.
-    QVERIFY(runs.file.Add({ u"row"_s }) != kNoObject);
-}
-
-void KeptCopiesTest::aCopyLeavesTheDiskSomeRoom()
-{
-    Runs runs;
-    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
-    runs.file.Restart();
-    runs.file.MakeFullList(u"b"_s);
-    // A file as long as there is room, hardly any of which is on the disk.
-    const std::filesystem::path path(runs.Path().toStdString());
-    const auto size = std::filesystem::file_size(path);
-    std::error_code error;
-    std::filesystem::resize_file(path, std::filesystem::space(path).available, error);
-    if (error)
-        QSKIP("there is more room than a file may be long");
-    QCOMPARE(runs.Keep(), KeepOutcome::NotKept);
-    std::filesystem::resize_file(path, size);
-    QCOMPARE(runs.Keep(), KeepOutcome::Kept);
-}
-
-void KeptCopiesTest::whatAnInterruptedRunLeftIsRemoved()
-{
-    Runs runs;
-    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
-    const QString left = runs.Copies().front().path + u".new-1234"_s;
-    WriteFileBytes(left, {});
-    QCOMPARE(runs.Copies().size(), size_t { 1 });
-    QCOMPARE(runs.MakeList(u"b"_s), KeepOutcome::Kept);
-    QVERIFY(!QFile::exists(left));
-}
-
-void KeptCopiesTest::dataFilesHaveCopiesOfTheirOwn()
-{
-    Runs runs;
-    QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
-    const QString other = runs.Path() + u".other.idb"_s;
-    QVERIFY(ListKeptCopies(other, runs.Folder()).empty());
-    // By another name of the same file its copies are found.
-    const QString folder = QFileInfo(runs.Path()).path();
-    const QString roundabout = folder + u"/../"_s + QFileInfo(folder).fileName() + u"/data.idb"_s;
-    QCOMPARE(ListKeptCopies(roundabout, runs.Folder()).size(), size_t { 1 });
-}
 
 QUILLORY_TEST(QCoreApplication, KeptCopiesTest)
 #include "kept_copies_test.moc"

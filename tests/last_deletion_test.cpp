@@ -2,26 +2,107 @@
 #include "store/last_deletion.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
-
-#include <memory>
-
-using namespace Quillory;
-using namespace Qt::StringLiterals;
 
 class LastDeletionTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void aRowComesBackWithEveryValue();
-    void aRowComesBackAfterItsListWasLeft();
-    void allRowsComeBackBesideNewOnes();
-    void aListComesBackWithItsRows();
-    void onlyTheLatestDeletionIsUndone();
-    void whatIsForgottenIsGoneFromTheFile_data();
-    void whatIsForgottenIsGoneFromTheFile();
+    void init()
+    {
+        m_lists = std::make_unique<ListFixture>();
+        m_list = m_lists->MakeFullList(u"Pantry"_s);
+        m_tea = m_lists->Add({ u"Uncommonly-green-tea"_s, u"7"_s, u"top"_s, u"Checked"_s, u"1.25"_s,
+            u"3"_s, u"1/2/2026"_s, u"3/4/2027"_s });
+        m_lists->Add({ u"Salt"_s, u"1"_s });
+        m_deletion = std::make_unique<LastDeletion>(*m_lists->catalogue);
+    }
+
+    void aRowComesBackWithEveryValue()
+    {
+        const QString before = Values(m_tea);
+        QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
+        QCOMPARE(m_lists->Cells(m_lists->rows->FillRows().rows), u"Salt"_s);
+        QVERIFY(m_deletion->CanUndoIn(m_list));
+        const auto restored = m_deletion->Undo();
+        QVERIFY(restored.has_value());
+        QCOMPARE(Values(restored->row), before);
+        QVERIFY(!m_deletion->CanUndo());
+        QVERIFY(!m_deletion->Undo());
+        QCOMPARE(Contents(), u"Pantry: Salt Uncommonly-green-tea"_s);
+    }
+
+    void aRowComesBackAfterItsListWasLeft()
+    {
+        QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
+        m_lists->catalogue->CloseRows();
+        QVERIFY(m_deletion->Undo());
+        QCOMPARE(Contents(), u"Pantry: Salt Uncommonly-green-tea"_s);
+    }
+
+    void allRowsComeBackBesideNewOnes()
+    {
+        QCOMPARE(m_deletion->DeleteAllRows(m_list), ListCatalogue::EmptyOutcome::Done);
+        m_lists->OpenList(m_list);
+        QVERIFY(m_lists->rows->FillRows().rows.empty());
+        m_lists->Add({ u"Oats"_s, u"2"_s });
+        m_lists->Add({ u"Bread"_s, u"1"_s });
+        QVERIFY(m_deletion->Undo());
+        QCOMPARE(Contents(), u"Pantry: Bread Oats Salt Uncommonly-green-tea"_s);
+    }
+
+    void aListComesBackWithItsRows()
+    {
+        QVERIFY(m_deletion->DeleteList(m_list));
+        QVERIFY(m_lists->catalogue->FillHomeList().lists.empty());
+        QVERIFY(!m_deletion->CanUndoIn(m_list));
+        const auto restored = m_deletion->Undo();
+        QVERIFY(restored.has_value());
+        QVERIFY(restored->list != m_list);
+        QCOMPARE(Contents(), u"Pantry: Salt Uncommonly-green-tea"_s);
+    }
+
+    void onlyTheLatestDeletionIsUndone()
+    {
+        QVERIFY(m_deletion->DeleteList(m_list));
+        const ObjectId second = m_lists->MakeFullList(u"Attic"_s);
+        const ObjectId row = m_lists->Add({ u"Chair"_s, u"4"_s });
+        QVERIFY(m_deletion->DeleteRow(second, *m_lists->rows, row));
+        QVERIFY(m_deletion->Undo());
+        QVERIFY(!m_deletion->Undo());
+        QCOMPARE(Contents(), u"Attic: Chair"_s);
+    }
+
+    void whatIsForgottenIsGoneFromTheFile_data()
+    {
+        const Table<int> add;
+        add("a row", 0);
+        add("all rows", 1);
+        add("a list", 2);
+    }
+
+    void whatIsForgottenIsGoneFromTheFile()
+    {
+        const auto [deletion] = Table<int>::Row();
+        const auto fileHolds = [this](QStringView text) {
+            QByteArray bytes;
+            for (const QChar unit : text)
+                bytes += QByteArray::fromRawData("\0", 1) + unit.toLatin1();
+            return FileBytes(m_lists->Path()).contains(bytes);
+        };
+        if (deletion == 0)
+            QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
+        else if (deletion == 1)
+            QCOMPARE(m_deletion->DeleteAllRows(m_list), ListCatalogue::EmptyOutcome::Done);
+        else
+            QVERIFY(m_deletion->DeleteList(m_list));
+        QCOMPARE(fileHolds(u"Uncommonly-green-tea"), deletion != 0);
+        m_deletion.reset();
+        m_lists->Restart();
+        QVERIFY(!fileHolds(u"Uncommonly-green-tea"));
+    }
 
 private:
     std::unique_ptr<ListFixture> m_lists;
@@ -51,105 +132,7 @@ private:
         }
         return texts.join(u'|');
     }
-    void EndProgram()
-    {
-        m_deletion.reset();
-        m_lists->Restart();
-    }
 };
-
-void LastDeletionTest::init()
-{
-    m_lists = std::make_unique<ListFixture>();
-    m_list = m_lists->MakeFullList(u"Pantry"_s);
-    m_tea = m_lists->Add({ u"Uncommonly-green-tea"_s, u"7"_s, u"top"_s, u"Checked"_s, u"1.25"_s,
-        u"3"_s, u"1/2/2026"_s, u"3/4/2027"_s });
-    m_lists->Add({ u"Salt"_s, u"1"_s });
-    m_deletion = std::make_unique<LastDeletion>(*m_lists->catalogue);
-}
-
-void LastDeletionTest::aRowComesBackWithEveryValue()
-{
-    const QString before = Values(m_tea);
-    QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
-    QCOMPARE(m_lists->Cells(m_lists->rows->FillRows().rows), u"Salt"_s);
-    QVERIFY(m_deletion->CanUndoIn(m_list));
-    const auto restored = m_deletion->Undo();
-    QVERIFY(restored.has_value());
-    QCOMPARE(Values(restored->row), before);
-    QVERIFY(!m_deletion->CanUndo());
-    QVERIFY(!m_deletion->Undo());
-    QCOMPARE(Contents(), u"Pantry: Salt Uncommonly-green-tea"_s);
-}
-
-void LastDeletionTest::aRowComesBackAfterItsListWasLeft()
-{
-    QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
-    m_lists->catalogue->CloseRows();
-    QVERIFY(m_deletion->Undo());
-    QCOMPARE(Contents(), u"Pantry: Salt Uncommonly-green-tea"_s);
-}
-
-void LastDeletionTest::allRowsComeBackBesideNewOnes()
-{
-    QCOMPARE(m_deletion->DeleteAllRows(m_list), ListCatalogue::EmptyOutcome::Done);
-    m_lists->OpenList(m_list);
-    QVERIFY(m_lists->rows->FillRows().rows.empty());
-    m_lists->Add({ u"Oats"_s, u"2"_s });
-    m_lists->Add({ u"Bread"_s, u"1"_s });
-    QVERIFY(m_deletion->Undo());
-    QCOMPARE(Contents(), u"Pantry: Bread Oats Salt Uncommonly-green-tea"_s);
-}
-
-void LastDeletionTest::aListComesBackWithItsRows()
-{
-    QVERIFY(m_deletion->DeleteList(m_list));
-    QVERIFY(m_lists->catalogue->FillHomeList().lists.empty());
-    QVERIFY(!m_deletion->CanUndoIn(m_list));
-    const auto restored = m_deletion->Undo();
-    QVERIFY(restored.has_value());
-    QVERIFY(restored->list != m_list);
-    QCOMPARE(Contents(), u"Pantry: Salt Uncommonly-green-tea"_s);
-}
-
-void LastDeletionTest::onlyTheLatestDeletionIsUndone()
-{
-    QVERIFY(m_deletion->DeleteList(m_list));
-    const ObjectId second = m_lists->MakeFullList(u"Attic"_s);
-    const ObjectId row = m_lists->Add({ u"Chair"_s, u"4"_s });
-    QVERIFY(m_deletion->DeleteRow(second, *m_lists->rows, row));
-    QVERIFY(m_deletion->Undo());
-    QVERIFY(!m_deletion->Undo());
-    QCOMPARE(Contents(), u"Attic: Chair"_s);
-}
-
-void LastDeletionTest::whatIsForgottenIsGoneFromTheFile_data()
-{
-    QTest::addColumn<int>("deletion");
-    QTest::newRow("a row") << 0;
-    QTest::newRow("all rows") << 1;
-    QTest::newRow("a list") << 2;
-}
-
-void LastDeletionTest::whatIsForgottenIsGoneFromTheFile()
-{
-    QFETCH(const int, deletion);
-    const auto fileHolds = [this](QStringView text) {
-        QByteArray bytes;
-        for (const QChar unit : text)
-            bytes += QByteArray::fromRawData("\0", 1) + unit.toLatin1();
-        return FileBytes(m_lists->Path()).contains(bytes);
-    };
-    if (deletion == 0)
-        QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
-    else if (deletion == 1)
-        QCOMPARE(m_deletion->DeleteAllRows(m_list), ListCatalogue::EmptyOutcome::Done);
-    else
-        QVERIFY(m_deletion->DeleteList(m_list));
-    QCOMPARE(fileHolds(u"Uncommonly-green-tea"), deletion != 0);
-    EndProgram();
-    QVERIFY(!fileHolds(u"Uncommonly-green-tea"));
-}
 
 QUILLORY_TEST(QCoreApplication, LastDeletionTest)
 #include "last_deletion_test.moc"

@@ -13,11 +13,8 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
-#include <QPushButton>
 #include <QTest>
 #include <QTreeView>
-
-#include <memory>
 
 namespace Quillory {
 

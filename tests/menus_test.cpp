@@ -9,11 +9,7 @@
 
 #include <QAbstractItemView>
 #include <QAccessible>
-#include <QMenu>
 #include <QTabBar>
-
-using namespace Quillory;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -83,53 +79,44 @@ class MenusTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyMenuIsWholeEachTimeItOpens_data();
-    void everyMenuIsWholeEachTimeItOpens();
-};
-
-void MenusTest::everyMenuIsWholeEachTimeItOpens_data()
-{
-    QTest::addColumn<int>("menu");
-    for (int i = 0; const MenuCase& menu : kMenus)
-        QTest::newRow(menu.name) << i++;
-}
-
-void MenusTest::everyMenuIsWholeEachTimeItOpens()
-{
-    QFETCH(const int, menu);
-    const MenuCase& subject = kMenus.at(static_cast<size_t>(menu));
-    ListFixture file(u"Pantry"_s);
-    file.Add({ u"Tea"_s, u"3"_s });
-    PageStack stack;
-    stack.resize(360, 640);
-    stack.Push(subject.make(file, file.list));
-    stack.show();
-    QVERIFY(QTest::qWaitForWindowActive(&stack));
-    QStringList wanted;
-    for (const MenuEntry& entry : MenuEntries(subject.menu)) {
-        if (entry.command != Command::Separator)
-            wanted << entry.Text();
-    }
-    for (int opening = 0; opening < 2; ++opening) {
-        if (subject.isContext) {
-            QAbstractItemView* view = nullptr;
-            for (auto* found : stack.findChildren<QAbstractItemView*>()) {
-                if (found->isVisible() && found->model()->rowCount() > 0 && view == nullptr)
-                    view = found;
+    void everyMenuIsWholeEachTimeItOpens()
+    {
+        for (const MenuCase& subject : kMenus) {
+            ListFixture file(u"Pantry"_s);
+            file.Add({ u"Tea"_s, u"3"_s });
+            PageStack stack;
+            stack.resize(360, 640);
+            stack.Push(subject.make(file, file.list));
+            stack.show();
+            QVERIFY(QTest::qWaitForWindowActive(&stack));
+            QStringList wanted;
+            for (const MenuEntry& entry : MenuEntries(subject.menu)) {
+                if (entry.command != Command::Separator)
+                    wanted << entry.Text();
             }
-            const QPoint place = view->visualRect(view->model()->index(0, 0)).center();
-            QContextMenuEvent event(
-                QContextMenuEvent::Mouse, place, view->viewport()->mapToGlobal(place));
-            QApplication::sendEvent(view->viewport(), &event);
-        } else {
-            QTest::mouseClick(stack.Top()->findChild<QWidget*>(u"rightKey"_s), Qt::LeftButton);
+            for (int opening = 0; opening < 2; ++opening) {
+                if (subject.isContext) {
+                    QAbstractItemView* view = nullptr;
+                    for (auto* found : stack.findChildren<QAbstractItemView*>()) {
+                        if (found->isVisible() && found->model()->rowCount() > 0 && view == nullptr)
+                            view = found;
+                    }
+                    const QPoint place = view->visualRect(view->model()->index(0, 0)).center();
+                    QContextMenuEvent event(
+                        QContextMenuEvent::Mouse, place, view->viewport()->mapToGlobal(place));
+                    QApplication::sendEvent(view->viewport(), &event);
+                } else {
+                    QTest::mouseClick(
+                        stack.Top()->findChild<QWidget*>(u"rightKey"_s), Qt::LeftButton);
+                }
+                QVERIFY2(HeardEntries() == wanted, subject.name);
+                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+                QVERIFY(QApplication::activePopupWidget() == nullptr);
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            }
         }
-        QCOMPARE(HeardEntries(), wanted);
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-        QVERIFY(QApplication::activePopupWidget() == nullptr);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-}
+};
 
 QUILLORY_TEST(QApplication, MenusTest)
 #include "menus_test.moc"

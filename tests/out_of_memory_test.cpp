@@ -3,7 +3,6 @@
 #include "tests/main_frame_errand.h"
 #include "tests/test_program.h"
 
-#include <QFile>
 #include <QSignalSpy>
 #include <QTableView>
 
@@ -11,9 +10,6 @@
 
 #include <malloc.h>
 #include <new>
-
-using namespace Quillory;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -55,55 +51,52 @@ class OutOfMemoryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aCommandThatNeedsMoreEndsAndTheRestGoesOn();
-    void itIsToldEachTimeButOnceForAll();
+    void itIsToldEachTimeButOnceForAll()
+    {
+        Insatiable insatiable;
+        QEvent event(QEvent::User);
+        const QSignalSpy told(
+            qobject_cast<Application*>(QCoreApplication::instance()), &Application::MemoryRanOut);
+        for (int times = 1; times <= 2; ++times) {
+            QCoreApplication::sendEvent(&insatiable, &event);
+            QCoreApplication::sendEvent(&insatiable, &event);
+            QCoreApplication::processEvents();
+            QCOMPARE(told.count(), times);
+        }
+    }
+
+    void aCommandThatNeedsMoreEndsAndTheRestGoesOn()
+    {
+        constexpr int kRows = 200'000;
+        FrameErrand errand({ u"Pantry"_s });
+        auto* app = qobject_cast<Application*>(QCoreApplication::instance());
+        connect(app, &Application::MemoryRanOut, errand.frame.get(), &MainFrame::TellOutOfMemory);
+        errand.Import(QByteArray("Tea\t3\r\n").repeated(kRows));
+        errand.PressOk();
+        errand.PressOk();
+        int told = 0;
+        for (quint64 kilobytes = 0; kilobytes < 4096; kilobytes += 128) {
+            {
+                const LittleMemory little(kilobytes * 1024);
+                errand.Tap(0);
+            }
+            QCoreApplication::processEvents();
+            while (QApplication::activeModalWidget() != nullptr) {
+                errand.Answer(QMessageBox::Ok);
+                told += errand.question == u"Out of memory!" ? 1 : 0;
+            }
+            errand.ComeBack();
+            while (errand.pages->Depth() > 1)
+                errand.PressOk();
+        }
+        QVERIFY(told > 0);
+        errand.Tap(0);
+        QCOMPARE(errand.pages->Top()->findChild<QTableView*>()->model()->rowCount(), kRows);
+        QVERIFY(errand.frame->close());
+        errand.frame.reset();
+        QCOMPARE(ListsIn(errand.DataPath()), u"Pantry %1"_s.arg(kRows));
+    }
 };
-
-void OutOfMemoryTest::aCommandThatNeedsMoreEndsAndTheRestGoesOn()
-{
-    constexpr int kRows = 200'000;
-    FrameErrand errand({ u"Pantry"_s });
-    auto* app = qobject_cast<Application*>(QCoreApplication::instance());
-    connect(app, &Application::MemoryRanOut, errand.frame.get(), &MainFrame::TellOutOfMemory);
-    errand.Import(QByteArray("Tea\t3\r\n").repeated(kRows));
-    errand.PressOk();
-    errand.PressOk();
-    int told = 0;
-    for (quint64 kilobytes = 0; kilobytes < 4096; kilobytes += 128) {
-        {
-            const LittleMemory little(kilobytes * 1024);
-            errand.Tap(0);
-        }
-        QCoreApplication::processEvents();
-        while (QApplication::activeModalWidget() != nullptr) {
-            errand.Answer(QMessageBox::Ok);
-            told += errand.question == u"Out of memory!" ? 1 : 0;
-        }
-        errand.ComeBack();
-        while (errand.pages->Depth() > 1)
-            errand.PressOk();
-    }
-    QVERIFY(told > 0);
-    errand.Tap(0);
-    QCOMPARE(errand.pages->Top()->findChild<QTableView*>()->model()->rowCount(), kRows);
-    QVERIFY(errand.frame->close());
-    errand.frame.reset();
-    QCOMPARE(ListsIn(errand.DataPath()), u"Pantry %1"_s.arg(kRows));
-}
-
-void OutOfMemoryTest::itIsToldEachTimeButOnceForAll()
-{
-    Insatiable insatiable;
-    QEvent event(QEvent::User);
-    const QSignalSpy told(
-        qobject_cast<Application*>(QCoreApplication::instance()), &Application::MemoryRanOut);
-    for (int times = 1; times <= 2; ++times) {
-        QCoreApplication::sendEvent(&insatiable, &event);
-        QCoreApplication::sendEvent(&insatiable, &event);
-        QCoreApplication::processEvents();
-        QCOMPARE(told.count(), times);
-    }
-}
 
 QUILLORY_TEST(Quillory::Application, OutOfMemoryTest)
 #include "out_of_memory_test.moc"

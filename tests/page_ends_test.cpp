@@ -10,6 +10,7 @@
 #include "rows/rows_view.h"
 #include "rows/summary_page.h"
 #include "tests/list_fixture.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
 #include "widgets/app_style.h"
 #include "widgets/help_page.h"
@@ -24,9 +25,6 @@
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QTableView>
-
-using namespace Quillory;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -46,74 +44,78 @@ struct Subject
     }
 };
 
-using MakePage = Page* (*)(Subject& subject);
+/// A page that needs no list.
+template <typename Type, auto... kArguments> Page* Make(Subject& /*subject*/)
+{
+    return new Type(kArguments...);
+}
+
+template <SheetMode kMode> Page* MakeSheet(Subject& subject)
+{
+    return new ListSheet(kMode, subject.list, subject.list);
+}
+
+template <FilterMode kMode> Page* MakeFilter(Subject& subject)
+{
+    return new FilterPage({ kMode, {} }, subject.list, subject.file.context);
+}
+
 struct PageCase
 {
     const char* name;
-    MakePage make;
     /// What there is besides Escape and closing: "ok" and "leftKey" for the buttons, "enter" for
     /// Return where it is OK.
     QStringList ways;
     /// Whether a letter typed first, or Space, is input that could be lost.
     bool takesInput;
+    Page* (*make)(Subject& subject);
 };
 
 const QStringList kOk { u"ok"_s, u"enter"_s };
 const QStringList kOkAndCancel { u"ok"_s, u"leftKey"_s, u"enter"_s };
 
 const std::array kPages {
-    PageCase { "new list",
-        [](Subject& subject) -> Page* {
-            return new ListSheet(SheetMode::NewList, subject.list, subject.list);
-        },
-        kOkAndCancel, true },
-    PageCase { "list properties",
-        [](Subject& subject) -> Page* {
-            return new ListSheet(SheetMode::ExistingList, subject.list, subject.list);
-        },
-        kOkAndCancel, true },
-    PageCase { "column definition", [](Subject&) -> Page* { return new ColumnDefinitionPage(); },
-        kOkAndCancel, true },
-    PageCase { "options", [](Subject&) -> Page* { return new DisplayOptionsPage({}); },
-        kOkAndCancel, true },
-    PageCase { "import order",
-        [](Subject& subject) -> Page* { return new ImportOrderPage(subject.list.columns); },
-        kOkAndCancel, false },
+    PageCase { "new list", kOkAndCancel, true, MakeSheet<SheetMode::NewList> },
+    PageCase { "list properties", kOkAndCancel, true, MakeSheet<SheetMode::ExistingList> },
+    PageCase { "column definition", kOkAndCancel, true, Make<ColumnDefinitionPage> },
+    PageCase { "options", kOkAndCancel, true,
+        [](Subject&) -> Page* { return new DisplayOptionsPage({}); } },
+    PageCase { "import order", kOkAndCancel, false,
+        [](Subject& subject) -> Page* { return new ImportOrderPage(subject.list.columns); } },
     // Return takes the selected icon.
-    PageCase { "icon grid", [](Subject&) -> Page* { return new IconGridPage(0); },
-        { u"leftKey"_s, u"enter"_s }, false },
-    PageCase { "find",
-        [](Subject& subject) -> Page* {
-            return new FilterPage({ FilterMode::Find, {} }, subject.list, subject.file.context);
-        },
-        kOkAndCancel, true },
-    PageCase { "filter",
-        [](Subject& subject) -> Page* {
-            return new FilterPage({}, subject.list, subject.file.context);
-        },
-        kOkAndCancel, false },
-    PageCase { "filters",
+    PageCase { "icon grid", { u"leftKey"_s, u"enter"_s }, false, Make<IconGridPage, 0> },
+    PageCase { "find", kOkAndCancel, true, MakeFilter<FilterMode::Find> },
+    PageCase { "filter", kOkAndCancel, false, MakeFilter<FilterMode::Filter> },
+    PageCase { "filters", kOk, false,
         [](Subject& subject) -> Page* {
             return new FiltersPage({}, subject.list, subject.file.context);
-        },
-        kOk, false },
+        } },
     // Return goes on to the next field.
-    PageCase { "row editor",
+    PageCase { "row editor", { u"ok"_s, u"leftKey"_s }, true,
         [](Subject& subject) -> Page* {
             return new RowEditor(subject.list, nullptr, subject.file.context);
-        },
-        { u"ok"_s, u"leftKey"_s }, true },
+        } },
     // Return edits the selected row.
-    PageCase { "rows",
+    PageCase { "rows", { u"ok"_s }, false,
         [](Subject& subject) -> Page* {
             return new RowsView(*subject.file.rows, subject.file.list, subject.file.context, {});
-        },
-        { u"ok"_s }, false },
-    PageCase { "summary", [](Subject&) -> Page* { return new SummaryPage({}); }, kOk, false },
-    PageCase { "help", [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); }, kOk, false },
-    PageCase { "about", [](Subject&) -> Page* { return new AboutPage; }, kOk, false },
-    PageCase { "welcome", [](Subject&) -> Page* { return new WelcomePage; }, kOk, false },
+        } },
+    PageCase { "summary", kOk, false, [](Subject&) -> Page* { return new SummaryPage({}); } },
+    PageCase { "help", kOk, false, [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); } },
+    PageCase { "about", kOk, false, Make<AboutPage> },
+    PageCase { "welcome", kOk, false, Make<WelcomePage> },
 };
+
+/// A row of a test's table for each page and each of the ways that are meant of it.
+void AddRows(QStringList (*waysOf)(const PageCase& page))
+{
+    const Table<int, QString> add;
+    for (int i = 0; const PageCase& page : kPages) {
+        for (const QString& way : waysOf(page))
+            add(qPrintable(u"%1, %2"_s.arg(QLatin1StringView(page.name), way)), i, way);
+        ++i;
+    }
+}
 
 void Show(Subject& subject, const PageCase& page)
 {
@@ -168,142 +170,112 @@ class PageEndsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyPageEndsAsItsUserSays_data();
-    void everyPageEndsAsItsUserSays();
-    void inputIsLostOnlyAfterAYes_data();
-    void inputIsLostOnlyAfterAYes();
-    void returnPressesTheButtonThatHasTheKeyboard_data();
-    void returnPressesTheButtonThatHasTheKeyboard();
-    void anOpenPageFollowsTheFont_data();
-    void anOpenPageFollowsTheFont();
-    void everyControlHasAName_data();
-    void everyControlHasAName();
+    void everyPageEndsAsItsUserSays_data()
+    {
+        AddRows([](const PageCase& page) {
+            return page.ways + QStringList { u"escape"_s, u"closing"_s };
+        });
+    }
+
+    void anOpenPageFollowsTheFont_data()
+    {
+        QTest::addColumn<int>("page");
+        for (int i = 0; const PageCase& page : kPages)
+            QTest::newRow(page.name) << i++;
+    }
+
+    void anOpenPageFollowsTheFont()
+    {
+        QFETCH(const int, page);
+        const QFont before = QApplication::font();
+        const auto restore = qScopeGuard([&before] { QApplication::setFont(before); });
+        QFont larger = before;
+        larger.setPointSizeF(before.pointSizeF() * 1.5);
+        QApplication::setStyle(new AppStyle);
+        Subject open;
+        ApplyWindowStyle(&open.stack);
+        Show(open, kPages.at(static_cast<size_t>(page)));
+        // Also while something covers it.
+        open.stack.Push(new Page(QString()));
+        QApplication::setFont(larger);
+        open.stack.Top()->RequestEnd(PageResult::Ok);
+        Subject fresh;
+        ApplyWindowStyle(&fresh.stack);
+        Show(fresh, kPages.at(static_cast<size_t>(page)));
+        QTRY_COMPARE_WITH_TIMEOUT(LookOf(*open.page), LookOf(*fresh.page), 500);
+    }
+
+    void everyControlHasAName_data() { anOpenPageFollowsTheFont_data(); }
+
+    void everyControlHasAName()
+    {
+        QFETCH(const int, page);
+        Subject subject;
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        for (QWidget* control : subject.page->findChildren<QWidget*>()) {
+            const auto* heard = QAccessible::queryAccessibleInterface(control);
+            if (control->isVisible() && control->focusPolicy() != Qt::NoFocus)
+                QVERIFY2(
+                    !heard->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
+        }
+    }
+
+    void everyPageEndsAsItsUserSays()
+    {
+        const auto [page, way] = Table<int, QString>::Row();
+        Subject subject;
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        Leave(subject, way);
+        QCOMPARE(subject.results, QList<PageResult> { ResultOf(way) });
+        QCOMPARE(subject.stack.Depth(), 1);
+        QVERIFY(Questions::Of(&subject.stack).IsIdle());
+    }
+
+    void inputIsLostOnlyAfterAYes_data()
+    {
+        AddRows([](const PageCase& page) {
+            return page.takesInput ? QStringList { u"escape"_s, u"closing"_s } : QStringList();
+        });
+    }
+
+    void inputIsLostOnlyAfterAYes()
+    {
+        const auto [page, way] = Table<int, QString>::Row();
+        Subject subject;
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        // Types into a text, ticks a checkbox.
+        QTest::keyClick(subject.stack.windowHandle(), Qt::Key_X);
+        QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Space);
+        Leave(subject, way);
+        QVERIFY(subject.Answer(QMessageBox::No) != nullptr);
+        QTest::mouseClick(subject.Answer(QMessageBox::No), Qt::LeftButton);
+        QCOMPARE(subject.stack.Top(), subject.page);
+        QVERIFY(subject.page->HasUnsavedInput());
+        Leave(subject, way);
+        QTest::mouseClick(subject.Answer(QMessageBox::Yes), Qt::LeftButton);
+        QCOMPARE(subject.results, QList<PageResult> { ResultOf(way) });
+    }
+
+    void returnPressesTheButtonThatHasTheKeyboard_data()
+    {
+        AddRows([](const PageCase& page) {
+            QStringList buttons = page.ways;
+            buttons.removeAll(u"enter"_s);
+            return buttons;
+        });
+    }
+
+    void returnPressesTheButtonThatHasTheKeyboard()
+    {
+        const auto [page, button] = Table<int, QString>::Row();
+        Subject subject;
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        auto* focused = subject.page->findChild<QWidget*>(button);
+        focused->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Return);
+        QCOMPARE(subject.results, QList<PageResult> { ResultOf(button) });
+    }
 };
-
-void PageEndsTest::everyPageEndsAsItsUserSays_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("way");
-    for (int i = 0; const PageCase& page : kPages) {
-        for (const QString& way : page.ways + QStringList { u"escape"_s, u"closing"_s })
-            QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
-        ++i;
-    }
-}
-
-void PageEndsTest::everyPageEndsAsItsUserSays()
-{
-    QFETCH(const int, page);
-    QFETCH(const QString, way);
-    Subject subject;
-    Show(subject, kPages.at(static_cast<size_t>(page)));
-    Leave(subject, way);
-    QCOMPARE(subject.results, QList<PageResult> { ResultOf(way) });
-    QCOMPARE(subject.stack.Depth(), 1);
-    QVERIFY(Questions::Of(&subject.stack).IsIdle());
-}
-
-void PageEndsTest::inputIsLostOnlyAfterAYes_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("way");
-    for (int i = 0; const PageCase& page : kPages) {
-        for (const QString& way : { u"escape"_s, u"closing"_s }) {
-            if (page.takesInput)
-                QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
-        }
-        ++i;
-    }
-}
-
-void PageEndsTest::inputIsLostOnlyAfterAYes()
-{
-    QFETCH(const int, page);
-    QFETCH(const QString, way);
-    Subject subject;
-    Show(subject, kPages.at(static_cast<size_t>(page)));
-    // Types into a text, ticks a checkbox.
-    QTest::keyClick(subject.stack.windowHandle(), Qt::Key_X);
-    QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Space);
-    Leave(subject, way);
-    QVERIFY(subject.Answer(QMessageBox::No) != nullptr);
-    QTest::mouseClick(subject.Answer(QMessageBox::No), Qt::LeftButton);
-    QCOMPARE(subject.stack.Top(), subject.page);
-    QVERIFY(subject.page->HasUnsavedInput());
-    Leave(subject, way);
-    QTest::mouseClick(subject.Answer(QMessageBox::Yes), Qt::LeftButton);
-    QCOMPARE(subject.results, QList<PageResult> { ResultOf(way) });
-}
-
-void PageEndsTest::returnPressesTheButtonThatHasTheKeyboard_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("button");
-    for (int i = 0; const PageCase& page : kPages) {
-        for (const QString& way : page.ways) {
-            if (way != u"enter")
-                QTest::addRow("%s, %s", page.name, qPrintable(way)) << i << way;
-        }
-        ++i;
-    }
-}
-
-void PageEndsTest::returnPressesTheButtonThatHasTheKeyboard()
-{
-    QFETCH(const int, page);
-    QFETCH(const QString, button);
-    Subject subject;
-    Show(subject, kPages.at(static_cast<size_t>(page)));
-    auto* focused = subject.page->findChild<QWidget*>(button);
-    focused->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Return);
-    QCOMPARE(subject.results, QList<PageResult> { ResultOf(button) });
-}
-
-void PageEndsTest::anOpenPageFollowsTheFont_data()
-{
-    QTest::addColumn<int>("page");
-    for (int i = 0; const PageCase& page : kPages)
-        QTest::newRow(page.name) << i++;
-}
-
-void PageEndsTest::anOpenPageFollowsTheFont()
-{
-    QFETCH(const int, page);
-    const QFont before = QApplication::font();
-    const auto restore = qScopeGuard([&before] { QApplication::setFont(before); });
-    QFont larger = before;
-    larger.setPointSizeF(before.pointSizeF() * 1.5);
-    QApplication::setStyle(new AppStyle);
-    Subject open;
-    ApplyWindowStyle(&open.stack);
-    Show(open, kPages.at(static_cast<size_t>(page)));
-    // Also while something covers it.
-    open.stack.Push(new Page(QString()));
-    QApplication::setFont(larger);
-    open.stack.Top()->RequestEnd(PageResult::Ok);
-    Subject fresh;
-    ApplyWindowStyle(&fresh.stack);
-    Show(fresh, kPages.at(static_cast<size_t>(page)));
-    QTRY_COMPARE_WITH_TIMEOUT(LookOf(*open.page), LookOf(*fresh.page), 500);
-}
-
-void PageEndsTest::everyControlHasAName_data()
-{
-    anOpenPageFollowsTheFont_data();
-}
-
-void PageEndsTest::everyControlHasAName()
-{
-    QFETCH(const int, page);
-    Subject subject;
-    Show(subject, kPages.at(static_cast<size_t>(page)));
-    for (QWidget* control : subject.page->findChildren<QWidget*>()) {
-        const auto* heard = QAccessible::queryAccessibleInterface(control);
-        if (control->isVisible() && control->focusPolicy() != Qt::NoFocus)
-            QVERIFY2(!heard->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
-    }
-}
 
 QUILLORY_TEST(QApplication, PageEndsTest)
 #include "page_ends_test.moc"

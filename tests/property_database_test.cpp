@@ -5,12 +5,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <set>
-#include <utility>
-
-using namespace Quillory;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -85,411 +80,398 @@ class PropertyDatabaseTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void anyNameWillDo();
-    void valuesComeBackAsTheyWereWritten();
-    void textMayBeginWithAByteOrderMark();
-    void aTextIsTooLongOnceAndForAll();
-    void recordsAreSortedByUnitWithMissingKeysLast();
-    void aWalkSurvivesWritesUnderIt();
-    void aWalkGoesBothWays();
-    void anOpeningStandsAtTheFirstRecord();
-    void aRollbackKeepsThePosition();
-    void writingSomePropertiesLeavesTheOthers();
-    void readFlagsWhatIsMissing();
-    void identifiersAreNeverUsedAgain();
-    void aRolledBackTransactionLeavesNothing();
-    void aFailureInATransactionLeavesNothingOfItself();
-    void refusals();
-    void scansGiveEveryRecordOnce();
-    void aListingFollowsEveryWrite();
-};
-
-void PropertyDatabaseTest::anyNameWillDo()
-{
-    Rows rows;
-    for (const QString& name : { u"sqlite_sequence"_s, u" SQLite_x"_s, u"\"; DROP"_s, u""_s,
-             u"oid"_s, QString(300, u'n') }) {
-        const std::vector<PropertySpec> specs { { kRowName, name } };
-        Take(rows.volume->CreateDatabase(name, kRowsType, specs, kByRowName));
-        rows.Reopen();
-        const auto other = Take(rows.volume->OpenDatabase(name, kByRowName.front()));
-        QCOMPARE(other->Properties().front().name, name);
-    }
-}
-
-void PropertyDatabaseTest::valuesComeBackAsTheyWereWritten()
-{
-    const QString loneSurrogates = QString(QChar(0xDC00)) + u'x' + QChar(0xD800);
-    const std::vector<std::pair<ValueType, std::vector<PropertyVariant>>> valuesByType {
-        { CEVT_I2, { qint16 { 0 }, qint16 { -32768 }, qint16 { 32767 } } },
-        { CEVT_I4, { 0, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max() } },
-        { CEVT_UI4, { 0U, 1U, 0xFFFFFFFFU } },
-        { CEVT_R8, { 0.1, -0.0, std::numeric_limits<double>::infinity() } },
-        { CEVT_BOOL, { false, true } },
-        { CEVT_LPWSTR, { QString(), loneSurrogates, u"\u00e4\U0001F9C2 \t\r\n"_s } },
-        { CEVT_FILETIME, { FileTime { 0 }, FileTime { 1 }, FileTime { 0xFFFFFFFFFFFFFFFF } } },
-        { CEVT_BLOB, { QByteArray(), QByteArray("\0\1\377", 3), QByteArray(9000, 'b') } },
-    };
-    Rows rows;
-    std::vector<std::pair<ObjectId, PropertyValue>> written;
-    for (const auto& [type, values] : valuesByType) {
-        for (const PropertyVariant& value : values) {
-            const PropertyValue property { MakePropertyId(5, type), 0, value };
-            written.emplace_back(rows.Add({ property }), property);
+    void anyNameWillDo()
+    {
+        Rows rows;
+        for (const QString& name : { u"sqlite_sequence"_s, u" SQLite_x"_s, u"\"; DROP"_s, u""_s,
+                 u"oid"_s, QString(300, u'n') }) {
+            const std::vector<PropertySpec> specs { { kRowName, name } };
+            Take(rows.volume->CreateDatabase(name, kRowsType, specs, kByRowName));
+            rows.Reopen();
+            const auto other = Take(rows.volume->OpenDatabase(name, kByRowName.front()));
+            QCOMPARE(other->Properties().front().name, name);
         }
     }
-    rows.Reopen();
-    for (const auto& [oid, expected] : written) {
-        const PropertyVariant actual = rows.Value(oid, expected.id);
-        QVERIFY2(actual == expected.value, qPrintable(QString::number(quint32(oid))));
-        if (const auto* number = std::get_if<double>(&actual))
-            QCOMPARE(std::signbit(*number), std::signbit(std::get<double>(expected.value)));
+
+    void valuesComeBackAsTheyWereWritten()
+    {
+        const QString loneSurrogates = QString(QChar(0xDC00)) + u'x' + QChar(0xD800);
+        const std::vector<std::pair<ValueType, std::vector<PropertyVariant>>> valuesByType {
+            { CEVT_I2, { qint16 { 0 }, qint16 { -32768 }, qint16 { 32767 } } },
+            { CEVT_I4,
+                { 0, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max() } },
+            { CEVT_UI4, { 0U, 1U, 0xFFFFFFFFU } },
+            { CEVT_R8, { 0.1, -0.0, std::numeric_limits<double>::infinity() } },
+            { CEVT_BOOL, { false, true } },
+            { CEVT_LPWSTR, { QString(), loneSurrogates, u"\u00e4\U0001F9C2 \t\r\n"_s } },
+            { CEVT_FILETIME, { FileTime { 0 }, FileTime { 1 }, FileTime { 0xFFFFFFFFFFFFFFFF } } },
+            { CEVT_BLOB, { QByteArray(), QByteArray("\0\1\377", 3), QByteArray(9000, 'b') } },
+        };
+        Rows rows;
+        std::vector<std::pair<ObjectId, PropertyValue>> written;
+        for (const auto& [type, values] : valuesByType) {
+            for (const PropertyVariant& value : values) {
+                const PropertyValue property { MakePropertyId(5, type), 0, value };
+                written.emplace_back(rows.Add({ property }), property);
+            }
+        }
+        rows.Reopen();
+        for (const auto& [oid, expected] : written) {
+            const PropertyVariant actual = rows.Value(oid, expected.id);
+            QVERIFY2(actual == expected.value, qPrintable(QString::number(quint32(oid))));
+            if (const auto* number = std::get_if<double>(&actual))
+                QCOMPARE(std::signbit(*number), std::signbit(std::get<double>(expected.value)));
+        }
     }
-}
 
-void PropertyDatabaseTest::textMayBeginWithAByteOrderMark()
-{
-    Rows rows;
-    const QChar mark(0xFEFF);
-    const QChar turned(0xFFFE);
-    for (const QString& text : { QString(mark), mark + u"rice"_s, turned + u"rice"_s,
-             QString(mark) + mark, turned + u""_s + mark, u"rice"_s + mark }) {
-        const ObjectId oid = rows.Add({ Text(text) });
-        QCOMPARE(std::get<QString>(rows.Value(oid, kRowName)), text);
+    void textMayBeginWithAByteOrderMark()
+    {
+        Rows rows;
+        const QChar mark(0xFEFF);
+        const QChar turned(0xFFFE);
+        for (const QString& text : { QString(mark), mark + u"rice"_s, turned + u"rice"_s,
+                 QString(mark) + mark, turned + u""_s + mark, u"rice"_s + mark }) {
+            const ObjectId oid = rows.Add({ Text(text) });
+            QCOMPARE(std::get<QString>(rows.Value(oid, kRowName)), text);
+        }
     }
-}
 
-void PropertyDatabaseTest::aTextIsTooLongOnceAndForAll()
-{
-    // What is taken in can be shown in order, changed and deleted again, in spite of its index.
-    constexpr qsizetype kMostUnits = (10 << 20) - 2048;
-    Rows rows;
-    const QString most(kMostUnits, u'n');
-    // In a transaction that nobody commits, which spares the medium much of it.
-    QVERIFY(rows.volume->BeginTransaction().IsOk());
-    const ObjectId oid = rows.Add({ Text(most) });
-    for (const qsizetype units : { kMostUnits + 4096, 3 * kMostUnits }) {
-        const std::vector tooLong { Text(QString(units, u'n')) };
-        QCOMPARE(rows.rows->Write(kNoObject, tooLong).Error(), ErrorNumber::BadLength);
-        QCOMPARE(rows.rows->Write(oid, tooLong).Error(), ErrorNumber::BadLength);
-    }
-    int visits = 0;
-    const std::vector ids { kRowName };
-    const auto done = rows.rows->Scan(ids, ScanOrder::Sorted, [&](ObjectId, auto values) {
-        visits += std::get<QString>(values[0].value) == most ? 1 : 0;
-        return true;
-    });
-    QVERIFY(done.IsOk());
-    QCOMPARE(visits, 1);
-    Take(rows.rows->Write(oid, std::vector { Quantity(1) }));
-    QVERIFY(rows.rows->DeleteRecord(oid).IsOk());
-}
-
-void PropertyDatabaseTest::recordsAreSortedByUnitWithMissingKeysLast()
-{
-    Rows rows;
-    // By unit a private-use character stands behind one beyond the first plane.
-    const QString beyond = u"\U00010000"_s;
-    rows.Add({ Quantity(1) });
-    for (const QString& name : { u"pear"_s, u"\uFFFD"_s, beyond, u"Pear"_s, u""_s, u"pea"_s })
-        rows.Add({ Text(name) });
-    rows.Reopen();
-    QCOMPARE(rows.Names(), u" Pear pea pear "_s + beyond + u" \uFFFD -"_s);
-}
-
-void PropertyDatabaseTest::aWalkSurvivesWritesUnderIt()
-{
-    Rows rows;
-    for (const QString& name : { u"a"_s, u"b"_s, u"d"_s })
-        rows.Add({ Text(name) });
-    const ObjectId keyless = rows.Add({ Quantity(0) });
-    QStringList seen;
-    for (ObjectId at = Take(rows.rows->SeekFirst()); at != kNoObject;
-         at = Take(rows.rows->SeekNext(1))) {
-        const Record record = Take(rows.rows->ReadAll());
-        const PropertyValue* name = FindProperty(record.values, kRowName);
-        seen << (name == nullptr ? u"-"_s : std::get<QString>(name->value));
-        if (seen.last() == u"b"_s)
-            rows.Add({ Text(u"c"_s) });
-        if (seen.last() == u"d"_s)
-            Take(rows.rows->Write(keyless, std::vector { Quantity(1) }));
-    }
-    QCOMPARE(seen.join(u' '), u"a b c d -"_s);
-}
-
-void PropertyDatabaseTest::aWalkGoesBothWays()
-{
-    Rows rows;
-    std::vector<ObjectId> in;
-    for (const QString& name : { u"a"_s, u"b"_s, u"c"_s })
-        in.push_back(rows.Add({ Text(name) }));
-    in.push_back(rows.Add({ Quantity(1) }));
-    Database& database = *rows.rows;
-    QCOMPARE(Take(database.SeekFirst()), in[0]);
-    QCOMPARE(Take(database.SeekNext(3)), in[3]);
-    QCOMPARE(Take(database.SeekNext(-1)), in[2]);
-    QCOMPARE(Take(database.SeekNext(-2)), in[0]);
-    QCOMPARE(Take(database.SeekNext(9)), kNoObject);
-    QCOMPARE(Take(database.SeekNext(1)), kNoObject);
-    QCOMPARE(Take(database.SeekNext(-1)), in[3]);
-    QCOMPARE(Take(database.SeekTo(in[1])), in[1]);
-    QCOMPARE(Take(database.SeekNext(1)), in[2]);
-    QCOMPARE(Take(database.SeekTo(static_cast<ObjectId>(9999))), kNoObject);
-    // One that was deleted cannot be read but is stepped from.
-    Take(database.SeekTo(in[1]));
-    QVERIFY(database.DeleteRecord(in[1]).IsOk());
-    QCOMPARE(database.ReadAll().Error(), ErrorNumber::NotFound);
-    QCOMPARE(Take(database.SeekNext(1)), in[2]);
-    QCOMPARE(database.DeleteRecord(in[1]).Error(), ErrorNumber::NotFound);
-}
-
-void PropertyDatabaseTest::anOpeningStandsAtTheFirstRecord()
-{
-    Rows rows;
-    QCOMPARE(Take(rows.rows->SeekNext(0)), kNoObject);
-    QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
-    const ObjectId b = rows.Add({ Text(u"b"_s) });
-    const ObjectId a = rows.Add({ Text(u"a"_s) });
-    rows.Open();
-    QCOMPARE(Take(rows.rows->ReadAll()).oid, a);
-    QCOMPARE(Take(rows.rows->SeekNext(1)), b);
-    rows.Open();
-    QCOMPARE(Take(rows.rows->SeekNext(1)), b);
-    rows.Open();
-    QCOMPARE(Take(rows.rows->SeekNext(-1)), kNoObject);
-    rows.Open();
-    QVERIFY(rows.rows->DeleteRecord(a).IsOk());
-    QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
-    QCOMPARE(Take(rows.rows->SeekNext(1)), b);
-}
-
-void PropertyDatabaseTest::aRollbackKeepsThePosition()
-{
-    Rows rows;
-    const ObjectId b = rows.Add({ Text(u"b"_s) });
-    const ObjectId c = rows.Add({ Text(u"c"_s) });
-    const ObjectId d = rows.Add({ Text(u"d"_s) });
-    // On one that was deleted.
-    Take(rows.rows->SeekTo(c));
-    QVERIFY(rows.volume->BeginTransaction().IsOk());
-    QVERIFY(rows.rows->DeleteRecord(c).IsOk());
-    QVERIFY(rows.volume->EndTransaction(false).IsOk());
-    QCOMPARE(Take(rows.rows->ReadAll()).oid, c);
-    QCOMPARE(Take(rows.rows->SeekNext(1)), d);
-    // On one that was added, first and last.
-    for (const auto& [name, next] : { std::pair(u"a"_s, b), std::pair(u"e"_s, kNoObject) }) {
+    void aTextIsTooLongOnceAndForAll()
+    {
+        // What is taken in can be shown in order, changed and deleted again, in spite of its index.
+        constexpr qsizetype kMostUnits = (10 << 20) - 2048;
+        Rows rows;
+        const QString most(kMostUnits, u'n');
+        // In a transaction that nobody commits, which spares the medium much of it.
         QVERIFY(rows.volume->BeginTransaction().IsOk());
-        Take(rows.rows->SeekTo(rows.Add({ Text(name) })));
-        QVERIFY(rows.volume->EndTransaction(false).IsOk());
-        QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
-        QCOMPARE(Take(rows.rows->SeekNext(1)), next);
-    }
-}
-
-void PropertyDatabaseTest::writingSomePropertiesLeavesTheOthers()
-{
-    Rows rows;
-    const ObjectId oid = rows.Add({ Text(u"nails"_s), Quantity(7), { kRowPrice, 0, 2.5 } });
-    QCOMPARE(Take(rows.rows->Write(oid, std::vector { Quantity(8) })), oid);
-    Take(rows.rows->Write(oid, std::vector { PropertyValue { kRowPrice, CEDB_PROPDELETE, {} } }));
-    rows.Reopen();
-    QCOMPARE(std::get<QString>(rows.Value(oid, kRowName)), u"nails"_s);
-    QCOMPARE(std::get<qint32>(rows.Value(oid, kRowQuantity)), 8);
-    QVERIFY(std::holds_alternative<std::monostate>(rows.Value(oid, kRowPrice)));
-}
-
-void PropertyDatabaseTest::readFlagsWhatIsMissing()
-{
-    Rows rows;
-    rows.Add({ Text(u"x"_s) });
-    Take(rows.rows->SeekFirst());
-    const std::vector ids { kRowQuantity, kRowName, kUndeclared };
-    const Record record = Take(rows.rows->Read(ids));
-    QCOMPARE(record.values.size(), size_t { 3 });
-    QVERIFY(record.values[0].IsMissing() && record.values[2].IsMissing());
-    QVERIFY(!record.values[1].IsMissing());
-    QCOMPARE(Take(rows.rows->ReadAll()).values.size(), size_t { 1 });
-}
-
-void PropertyDatabaseTest::identifiersAreNeverUsedAgain()
-{
-    Rows rows;
-    std::set<ObjectId> seen { rows.oid };
-    for (int i = 0; i < 3; ++i) {
-        const ObjectId oid = rows.Add({ Text(u"x"_s) });
-        QVERIFY(seen.insert(oid).second);
-        QVERIFY(rows.rows->DeleteRecord(oid).IsOk());
-        rows.Reopen();
-    }
-}
-
-void PropertyDatabaseTest::aRolledBackTransactionLeavesNothing()
-{
-    Rows rows;
-    QVERIFY(rows.volume->BeginTransaction().IsOk());
-    QCOMPARE(rows.volume->BeginTransaction().Error(), ErrorNumber::AlreadyExists);
-    rows.Add({ Text(u"x"_s), { kUndeclared, 0, QByteArray("b") } });
-    Take(rows.volume->CreateDatabase(u"other"_s, kRowsType, kRowSpecs, kByRowName));
-    QVERIFY(rows.volume->EndTransaction(false).IsOk());
-    QCOMPARE(Take(rows.rows->RecordCount()), 0);
-    QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
-    // Two properties of one number get their columns in the order in which they come.
-    constexpr PropertyId kSigned = MakePropertyId(500, CEVT_I4);
-    constexpr PropertyId kUnsigned = MakePropertyId(500, CEVT_UI4);
-    const PropertyValue negative { kSigned, 0, -44 };
-    const PropertyValue positive { kUnsigned, 0, 44U };
-    QVERIFY(rows.volume->BeginTransaction().IsOk());
-    for (const PropertyValue& value : { negative, positive })
-        rows.Add({ value });
-    Take(rows.rows->Write(rows.Add({ negative }), std::vector { positive }));
-    QVERIFY(rows.volume->EndTransaction(false).IsOk());
-    rows.Add({ positive });
-    const ObjectId both = rows.Add({ positive, negative });
-    rows.Add({ negative });
-    Take(rows.rows->Write(both, std::vector { positive }));
-    QCOMPARE(std::get<qint32>(rows.Value(both, kSigned)), -44);
-    QCOMPARE(std::get<quint32>(rows.Value(both, kUnsigned)), 44U);
-    // The column that went with the transaction comes back with the next write.
-    const ObjectId oid = rows.Add({ { kUndeclared, 0, QByteArray("c") } });
-    rows.Reopen();
-    QCOMPARE(std::get<QByteArray>(rows.Value(oid, kUndeclared)), QByteArray("c"));
-    QCOMPARE(rows.rows->Properties().size(), kRowSpecs.size());
-    QCOMPARE(rows.rows->Properties()[2].name, u"name"_s);
-    QVERIFY(Take(rows.volume->Check()).empty());
-}
-
-void PropertyDatabaseTest::aFailureInATransactionLeavesNothingOfItself()
-{
-    Rows rows;
-    QVERIFY(rows.volume->BeginTransaction().IsOk());
-    rows.Add({ Text(u"a"_s) });
-    std::vector<PropertySpec> tooMany;
-    for (quint16 i = 0; i < 600; ++i)
-        tooMany.push_back({ MakePropertyId(i, CEVT_I4), u"n"_s });
-    QVERIFY(!rows.volume->CreateDatabase(u"wide"_s, kRowsType, tooMany, {}).IsOk());
-    QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
-    const std::vector wrongType { Text(u"c"_s), PropertyValue { kUndeclared, 0, u"text"_s } };
-    QCOMPARE(rows.rows->Write(kNoObject, wrongType).Error(), ErrorNumber::InvalidParameter);
-    // As many columns as a table takes, and one more.
-    ErrorNumber error = ErrorNumber::None;
-    for (quint16 i = 0; error == ErrorNumber::None && i < 600; ++i) {
-        const PropertyValue value { MakePropertyId(i, CEVT_UI4), 0, 1U };
-        error = rows.rows->Write(kNoObject, std::vector { value }).Error();
-    }
-    QCOMPARE(error, ErrorNumber::GeneralFailure);
-    const qint64 count = Take(rows.rows->RecordCount());
-    rows.Add({ Text(u"b"_s) });
-    QVERIFY(rows.volume->EndTransaction(true).IsOk());
-    rows.Reopen();
-    QCOMPARE(Take(rows.rows->RecordCount()), count + 1);
-    QVERIFY(rows.Names().startsWith(u"a b -"_s));
-    QVERIFY(Take(rows.volume->Check()).empty());
-}
-
-void PropertyDatabaseTest::refusals()
-{
-    Rows rows;
-    const auto create = [&](const QString& name, const std::vector<PropertySpec>& specs,
-                            const std::vector<SortOrder>& orders) {
-        return rows.volume->CreateDatabase(name, kRowsType, specs, orders).Error();
-    };
-    QCOMPARE(create(u"rows"_s, kRowSpecs, kByRowName), ErrorNumber::DuplicateName);
-    QCOMPARE(create(u"x"_s, { { kRowName, u"a"_s }, { kRowName, u"b"_s } }, {}),
-        ErrorNumber::AlreadyExists);
-    QCOMPARE(create(u"x"_s, {}, {}), ErrorNumber::InvalidParameter);
-    QCOMPARE(
-        create(u"x"_s, { { kRowQuantity, u"a"_s } }, kByRowName), ErrorNumber::InvalidParameter);
-    const auto write = [&](ObjectId oid, const std::vector<PropertyValue>& values) {
-        return rows.rows->Write(oid, values).Error();
-    };
-    QCOMPARE(write(kNoObject, {}), ErrorNumber::InvalidParameter);
-    QCOMPARE(write(kNoObject, { Quantity(1), Quantity(2) }), ErrorNumber::AlreadyExists);
-    QCOMPARE(write(kNoObject, { { kRowQuantity, 0, u"text"_s } }), ErrorNumber::InvalidParameter);
-    QCOMPARE(write(kNoObject, { { MakePropertyId(1, 99), 0, 1 } }), ErrorNumber::InvalidParameter);
-    QCOMPARE(write(static_cast<ObjectId>(9999), { Quantity(1) }), ErrorNumber::NotFound);
-    QCOMPARE(rows.volume->OpenDatabase(u"rows"_s, { kRowQuantity }).Error(),
-        ErrorNumber::InvalidParameter);
-    QCOMPARE(rows.volume->EndTransaction(true).Error(), ErrorNumber::InvalidHandle);
-    QCOMPARE(rows.volume->DeleteDatabase(rows.oid).Error(), ErrorNumber::SharingViolation);
-    QCOMPARE(
-        rows.volume->DeleteDatabase(static_cast<ObjectId>(9999)).Error(), ErrorNumber::NotFound);
-    QCOMPARE(Take(rows.rows->RecordCount()), 0);
-    rows.rows.reset();
-    QVERIFY(rows.volume->DeleteDatabase(rows.oid).IsOk());
-    QCOMPARE(rows.volume->OpenDatabase(u"rows"_s, kByRowName.front()).Error(),
-        ErrorNumber::FileNotFound);
-}
-
-void PropertyDatabaseTest::scansGiveEveryRecordOnce()
-{
-    Rows rows;
-    rows.Add({ Text(u"b"_s), Quantity(2) });
-    rows.Add({ Quantity(3) });
-    rows.Add({ Text(u"a"_s) });
-    const std::vector ids { kRowQuantity, kUndeclared };
-    const auto counts = [&](ScanOrder order) {
-        QStringList texts;
-        const auto done = rows.rows->Scan(ids, order, [&](ObjectId, auto values) {
-            texts << (values[0].IsMissing() ? u"-"_s
-                                            : QString::number(std::get<qint32>(values[0].value)));
-            return values[1].IsMissing();
-        });
-        return done.IsOk() ? texts : QStringList();
-    };
-    // Once the visitor has enough the scan ends, and another can begin.
-    for (const ScanOrder order : { ScanOrder::Sorted, ScanOrder::Any }) {
-        int visits = 0;
-        const auto stopped = rows.rows->Scan(ids, order, [&](ObjectId, auto) {
-            ++visits;
-            return false;
-        });
-        QVERIFY(stopped.IsOk());
-        QCOMPARE(visits, 1);
-        const auto failing = [](ObjectId, auto) -> bool { throw std::bad_alloc(); };
-        QVERIFY_THROWS_EXCEPTION(
-            std::bad_alloc, static_cast<void>(rows.rows->Scan(ids, order, failing).IsOk()));
-    }
-    // A visitor may scan.
-    QStringList pairs;
-    const auto nested = rows.rows->Scan(ids, ScanOrder::Any, [&](ObjectId outer, auto) {
-        const auto inner = rows.rows->Scan(ids, ScanOrder::Any, [&](ObjectId oid, auto) {
-            pairs << u"%1%2"_s.arg(quint32(outer)).arg(quint32(oid));
-            return oid != outer;
-        });
-        return inner.IsOk();
-    });
-    QVERIFY(nested.IsOk());
-    QCOMPARE(pairs.size(), 1 + 2 + 3);
-    QCOMPARE(counts(ScanOrder::Sorted), QStringList({ u"-"_s, u"2"_s, u"3"_s }));
-    QCOMPARE(counts(ScanOrder::Any), QStringList({ u"2"_s, u"3"_s, u"-"_s }));
-}
-
-void PropertyDatabaseTest::aListingFollowsEveryWrite()
-{
-    Rows rows;
-    const auto names = [&] {
-        QString text;
-        for (const ObjectId oid : Take(rows.rows->ListRecords())) {
-            const auto found = rows.rows->SeekTo(oid);
-            const auto record = rows.rows->Read(std::array { kRowName });
-            text += found && record ? std::get<QString>(record->values.front().value) : u"?"_s;
+        const ObjectId oid = rows.Add({ Text(most) });
+        for (const qsizetype units : { kMostUnits + 4096, 3 * kMostUnits }) {
+            const std::vector tooLong { Text(QString(units, u'n')) };
+            QCOMPARE(rows.rows->Write(kNoObject, tooLong).Error(), ErrorNumber::BadLength);
+            QCOMPARE(rows.rows->Write(oid, tooLong).Error(), ErrorNumber::BadLength);
         }
-        return text;
-    };
-    const ObjectId b = rows.Add({ Text(u"b"_s), Quantity(1) });
-    QCOMPARE(names(), u"b"_s);
-    const ObjectId a = rows.Add({ Text(u"a"_s) });
-    QCOMPARE(names(), u"ab"_s);
-    QVERIFY(rows.rows->Write(b, std::array { Quantity(2) }).IsOk());
-    QCOMPARE(names(), u"ab"_s);
-    QVERIFY(rows.volume->BeginTransaction().IsOk());
-    QVERIFY(rows.rows->Write(a, std::array { Text(u"c"_s) }).IsOk());
-    QCOMPARE(names(), u"bc"_s);
-    QVERIFY(rows.volume->EndTransaction(false).IsOk());
-    QCOMPARE(names(), u"ab"_s);
-    QVERIFY(rows.rows->DeleteRecord(a).IsOk());
-    QCOMPARE(names(), u"b"_s);
-}
+        int visits = 0;
+        const std::vector ids { kRowName };
+        const auto done = rows.rows->Scan(ids, ScanOrder::Sorted, [&](ObjectId, auto values) {
+            visits += std::get<QString>(values[0].value) == most ? 1 : 0;
+            return true;
+        });
+        QVERIFY(done.IsOk());
+        QCOMPARE(visits, 1);
+        Take(rows.rows->Write(oid, std::vector { Quantity(1) }));
+        QVERIFY(rows.rows->DeleteRecord(oid).IsOk());
+    }
+
+    void recordsAreSortedByUnitWithMissingKeysLast()
+    {
+        Rows rows;
+        // By unit a private-use character stands behind one beyond the first plane.
+        const QString beyond = u"\U00010000"_s;
+        rows.Add({ Quantity(1) });
+        for (const QString& name : { u"pear"_s, u"\uFFFD"_s, beyond, u"Pear"_s, u""_s, u"pea"_s })
+            rows.Add({ Text(name) });
+        rows.Reopen();
+        QCOMPARE(rows.Names(), u" Pear pea pear "_s + beyond + u" \uFFFD -"_s);
+    }
+
+    void aWalkSurvivesWritesUnderIt()
+    {
+        Rows rows;
+        for (const QString& name : { u"a"_s, u"b"_s, u"d"_s })
+            rows.Add({ Text(name) });
+        const ObjectId keyless = rows.Add({ Quantity(0) });
+        QStringList seen;
+        for (ObjectId at = Take(rows.rows->SeekFirst()); at != kNoObject;
+             at = Take(rows.rows->SeekNext(1))) {
+            const Record record = Take(rows.rows->ReadAll());
+            const PropertyValue* name = FindProperty(record.values, kRowName);
+            seen << (name == nullptr ? u"-"_s : std::get<QString>(name->value));
+            if (seen.last() == u"b"_s)
+                rows.Add({ Text(u"c"_s) });
+            if (seen.last() == u"d"_s)
+                Take(rows.rows->Write(keyless, std::vector { Quantity(1) }));
+        }
+        QCOMPARE(seen.join(u' '), u"a b c d -"_s);
+    }
+
+    void aWalkGoesBothWays()
+    {
+        Rows rows;
+        std::vector<ObjectId> in;
+        for (const QString& name : { u"a"_s, u"b"_s, u"c"_s })
+            in.push_back(rows.Add({ Text(name) }));
+        in.push_back(rows.Add({ Quantity(1) }));
+        Database& database = *rows.rows;
+        QCOMPARE(Take(database.SeekFirst()), in[0]);
+        QCOMPARE(Take(database.SeekNext(3)), in[3]);
+        QCOMPARE(Take(database.SeekNext(-1)), in[2]);
+        QCOMPARE(Take(database.SeekNext(-2)), in[0]);
+        QCOMPARE(Take(database.SeekNext(9)), kNoObject);
+        QCOMPARE(Take(database.SeekNext(1)), kNoObject);
+        QCOMPARE(Take(database.SeekNext(-1)), in[3]);
+        QCOMPARE(Take(database.SeekTo(in[1])), in[1]);
+        QCOMPARE(Take(database.SeekNext(1)), in[2]);
+        QCOMPARE(Take(database.SeekTo(static_cast<ObjectId>(9999))), kNoObject);
+        // One that was deleted cannot be read but is stepped from.
+        Take(database.SeekTo(in[1]));
+        QVERIFY(database.DeleteRecord(in[1]).IsOk());
+        QCOMPARE(database.ReadAll().Error(), ErrorNumber::NotFound);
+        QCOMPARE(Take(database.SeekNext(1)), in[2]);
+        QCOMPARE(database.DeleteRecord(in[1]).Error(), ErrorNumber::NotFound);
+    }
+
+    void anOpeningStandsAtTheFirstRecord()
+    {
+        Rows rows;
+        QCOMPARE(Take(rows.rows->SeekNext(0)), kNoObject);
+        QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+        const ObjectId b = rows.Add({ Text(u"b"_s) });
+        const ObjectId a = rows.Add({ Text(u"a"_s) });
+        rows.Open();
+        QCOMPARE(Take(rows.rows->ReadAll()).oid, a);
+        QCOMPARE(Take(rows.rows->SeekNext(1)), b);
+        rows.Open();
+        QCOMPARE(Take(rows.rows->SeekNext(1)), b);
+        rows.Open();
+        QCOMPARE(Take(rows.rows->SeekNext(-1)), kNoObject);
+        rows.Open();
+        QVERIFY(rows.rows->DeleteRecord(a).IsOk());
+        QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+        QCOMPARE(Take(rows.rows->SeekNext(1)), b);
+    }
+
+    void aRollbackKeepsThePosition()
+    {
+        Rows rows;
+        const ObjectId b = rows.Add({ Text(u"b"_s) });
+        const ObjectId c = rows.Add({ Text(u"c"_s) });
+        const ObjectId d = rows.Add({ Text(u"d"_s) });
+        // On one that was deleted.
+        Take(rows.rows->SeekTo(c));
+        QVERIFY(rows.volume->BeginTransaction().IsOk());
+        QVERIFY(rows.rows->DeleteRecord(c).IsOk());
+        QVERIFY(rows.volume->EndTransaction(false).IsOk());
+        QCOMPARE(Take(rows.rows->ReadAll()).oid, c);
+        QCOMPARE(Take(rows.rows->SeekNext(1)), d);
+        // On one that was added, first and last.
+        for (const auto& [name, next] : { std::pair(u"a"_s, b), std::pair(u"e"_s, kNoObject) }) {
+            QVERIFY(rows.volume->BeginTransaction().IsOk());
+            Take(rows.rows->SeekTo(rows.Add({ Text(name) })));
+            QVERIFY(rows.volume->EndTransaction(false).IsOk());
+            QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
+            QCOMPARE(Take(rows.rows->SeekNext(1)), next);
+        }
+    }
+
+    void writingSomePropertiesLeavesTheOthers()
+    {
+        Rows rows;
+        const ObjectId oid = rows.Add({ Text(u"nails"_s), Quantity(7), { kRowPrice, 0, 2.5 } });
+        QCOMPARE(Take(rows.rows->Write(oid, std::vector { Quantity(8) })), oid);
+        Take(rows.rows->Write(
+            oid, std::vector { PropertyValue { kRowPrice, CEDB_PROPDELETE, {} } }));
+        rows.Reopen();
+        QCOMPARE(std::get<QString>(rows.Value(oid, kRowName)), u"nails"_s);
+        QCOMPARE(std::get<qint32>(rows.Value(oid, kRowQuantity)), 8);
+        QVERIFY(std::holds_alternative<std::monostate>(rows.Value(oid, kRowPrice)));
+    }
+
+    void readFlagsWhatIsMissing()
+    {
+        Rows rows;
+        rows.Add({ Text(u"x"_s) });
+        Take(rows.rows->SeekFirst());
+        const std::vector ids { kRowQuantity, kRowName, kUndeclared };
+        const Record record = Take(rows.rows->Read(ids));
+        QCOMPARE(record.values.size(), size_t { 3 });
+        QVERIFY(record.values[0].IsMissing() && record.values[2].IsMissing());
+        QVERIFY(!record.values[1].IsMissing());
+        QCOMPARE(Take(rows.rows->ReadAll()).values.size(), size_t { 1 });
+    }
+
+    void identifiersAreNeverUsedAgain()
+    {
+        Rows rows;
+        std::set<ObjectId> seen { rows.oid };
+        for (int i = 0; i < 3; ++i) {
+            const ObjectId oid = rows.Add({ Text(u"x"_s) });
+            QVERIFY(seen.insert(oid).second);
+            QVERIFY(rows.rows->DeleteRecord(oid).IsOk());
+            rows.Reopen();
+        }
+    }
+
+    void aRolledBackTransactionLeavesNothing()
+    {
+        Rows rows;
+        QVERIFY(rows.volume->BeginTransaction().IsOk());
+        QCOMPARE(rows.volume->BeginTransaction().Error(), ErrorNumber::AlreadyExists);
+        rows.Add({ Text(u"x"_s), { kUndeclared, 0, QByteArray("b") } });
+        Take(rows.volume->CreateDatabase(u"other"_s, kRowsType, kRowSpecs, kByRowName));
+        QVERIFY(rows.volume->EndTransaction(false).IsOk());
+        QCOMPARE(Take(rows.rows->RecordCount()), 0);
+        QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
+        // Two properties of one number get their columns in the order in which they come.
+        constexpr PropertyId kSigned = MakePropertyId(500, CEVT_I4);
+        constexpr PropertyId kUnsigned = MakePropertyId(500, CEVT_UI4);
+        const PropertyValue negative { kSigned, 0, -44 };
+        const PropertyValue positive { kUnsigned, 0, 44U };
+        QVERIFY(rows.volume->BeginTransaction().IsOk());
+        for (const PropertyValue& value : { negative, positive })
+            rows.Add({ value });
+        Take(rows.rows->Write(rows.Add({ negative }), std::vector { positive }));
+        QVERIFY(rows.volume->EndTransaction(false).IsOk());
+        rows.Add({ positive });
+        const ObjectId both = rows.Add({ positive, negative });
+        rows.Add({ negative });
+        Take(rows.rows->Write(both, std::vector { positive }));
+        QCOMPARE(std::get<qint32>(rows.Value(both, kSigned)), -44);
+        QCOMPARE(std::get<quint32>(rows.Value(both, kUnsigned)), 44U);
+        // The column that went with the transaction comes back with the next write.
+        const ObjectId oid = rows.Add({ { kUndeclared, 0, QByteArray("c") } });
+        rows.Reopen();
+        QCOMPARE(std::get<QByteArray>(rows.Value(oid, kUndeclared)), QByteArray("c"));
+        QCOMPARE(rows.rows->Properties().size(), kRowSpecs.size());
+        QCOMPARE(rows.rows->Properties()[2].name, u"name"_s);
+        QVERIFY(Take(rows.volume->Check()).empty());
+    }
+
+    void aFailureInATransactionLeavesNothingOfItself()
+    {
+        Rows rows;
+        QVERIFY(rows.volume->BeginTransaction().IsOk());
+        rows.Add({ Text(u"a"_s) });
+        std::vector<PropertySpec> tooMany;
+        for (quint16 i = 0; i < 600; ++i)
+            tooMany.push_back({ MakePropertyId(i, CEVT_I4), u"n"_s });
+        QVERIFY(!rows.volume->CreateDatabase(u"wide"_s, kRowsType, tooMany, {}).IsOk());
+        QCOMPARE(Take(rows.volume->Databases()).size(), size_t { 1 });
+        const std::vector wrongType { Text(u"c"_s), PropertyValue { kUndeclared, 0, u"text"_s } };
+        QCOMPARE(rows.rows->Write(kNoObject, wrongType).Error(), ErrorNumber::InvalidParameter);
+        // As many columns as a table takes, and one more.
+        ErrorNumber error = ErrorNumber::None;
+        for (quint16 i = 0; error == ErrorNumber::None && i < 600; ++i) {
+            const PropertyValue value { MakePropertyId(i, CEVT_UI4), 0, 1U };
+            error = rows.rows->Write(kNoObject, std::vector { value }).Error();
+        }
+        QCOMPARE(error, ErrorNumber::GeneralFailure);
+        const qint64 count = Take(rows.rows->RecordCount());
+        rows.Add({ Text(u"b"_s) });
+        QVERIFY(rows.volume->EndTransaction(true).IsOk());
+        rows.Reopen();
+        QCOMPARE(Take(rows.rows->RecordCount()), count + 1);
+        QVERIFY(rows.Names().startsWith(u"a b -"_s));
+        QVERIFY(Take(rows.volume->Check()).empty());
+    }
+
+    void refusals()
+    {
+        Rows rows;
+        const auto create = [&](const QString& name, const std::vector<PropertySpec>& specs,
+                                const std::vector<SortOrder>& orders) {
+            return rows.volume->CreateDatabase(name, kRowsType, specs, orders).Error();
+        };
+        QCOMPARE(create(u"rows"_s, kRowSpecs, kByRowName), ErrorNumber::DuplicateName);
+        QCOMPARE(create(u"x"_s, { { kRowName, u"a"_s }, { kRowName, u"b"_s } }, {}),
+            ErrorNumber::AlreadyExists);
+        QCOMPARE(create(u"x"_s, {}, {}), ErrorNumber::InvalidParameter);
+        QCOMPARE(create(u"x"_s, { { kRowQuantity, u"a"_s } }, kByRowName),
+            ErrorNumber::InvalidParameter);
+        const auto write = [&](ObjectId oid, const std::vector<PropertyValue>& values) {
+            return rows.rows->Write(oid, values).Error();
+        };
+        QCOMPARE(write(kNoObject, {}), ErrorNumber::InvalidParameter);
+        QCOMPARE(write(kNoObject, { Quantity(1), Quantity(2) }), ErrorNumber::AlreadyExists);
+        QCOMPARE(
+            write(kNoObject, { { kRowQuantity, 0, u"text"_s } }), ErrorNumber::InvalidParameter);
+        QCOMPARE(
+            write(kNoObject, { { MakePropertyId(1, 99), 0, 1 } }), ErrorNumber::InvalidParameter);
+        QCOMPARE(write(static_cast<ObjectId>(9999), { Quantity(1) }), ErrorNumber::NotFound);
+        QCOMPARE(rows.volume->OpenDatabase(u"rows"_s, { kRowQuantity }).Error(),
+            ErrorNumber::InvalidParameter);
+        QCOMPARE(rows.volume->EndTransaction(true).Error(), ErrorNumber::InvalidHandle);
+        QCOMPARE(rows.volume->DeleteDatabase(rows.oid).Error(), ErrorNumber::SharingViolation);
+        QCOMPARE(rows.volume->DeleteDatabase(static_cast<ObjectId>(9999)).Error(),
+            ErrorNumber::NotFound);
+        QCOMPARE(Take(rows.rows->RecordCount()), 0);
+        rows.rows.reset();
+        QVERIFY(rows.volume->DeleteDatabase(rows.oid).IsOk());
+        QCOMPARE(rows.volume->OpenDatabase(u"rows"_s, kByRowName.front()).Error(),
+            ErrorNumber::FileNotFound);
+    }
+
+    void scansGiveEveryRecordOnce()
+    {
+        Rows rows;
+        rows.Add({ Text(u"b"_s), Quantity(2) });
+        rows.Add({ Quantity(3) });
+        rows.Add({ Text(u"a"_s) });
+        const std::vector ids { kRowQuantity, kUndeclared };
+        const auto counts = [&](ScanOrder order) {
+            QStringList texts;
+            const auto done = rows.rows->Scan(ids, order, [&](ObjectId, auto values) {
+                texts << (values[0].IsMissing()
+                        ? u"-"_s
+                        : QString::number(std::get<qint32>(values[0].value)));
+                return values[1].IsMissing();
+            });
+            return done.IsOk() ? texts : QStringList();
+        };
+        // Once the visitor has enough the scan ends, and another can begin.
+        for (const ScanOrder order : { ScanOrder::Sorted, ScanOrder::Any }) {
+            int visits = 0;
+            const auto stopped = rows.rows->Scan(ids, order, [&](ObjectId, auto) {
+                ++visits;
+                return false;
+            });
+            QVERIFY(stopped.IsOk());
+            QCOMPARE(visits, 1);
+            const auto failing = [](ObjectId, auto) -> bool { throw std::bad_alloc(); };
+            QVERIFY_THROWS_EXCEPTION(
+                std::bad_alloc, static_cast<void>(rows.rows->Scan(ids, order, failing).IsOk()));
+        }
+        // A visitor may scan.
+        QStringList pairs;
+        const auto nested = rows.rows->Scan(ids, ScanOrder::Any, [&](ObjectId outer, auto) {
+            const auto inner = rows.rows->Scan(ids, ScanOrder::Any, [&](ObjectId oid, auto) {
+                pairs << u"%1%2"_s.arg(quint32(outer)).arg(quint32(oid));
+                return oid != outer;
+            });
+            return inner.IsOk();
+        });
+        QVERIFY(nested.IsOk());
+        QCOMPARE(pairs.size(), 1 + 2 + 3);
+        QCOMPARE(counts(ScanOrder::Sorted), QStringList({ u"-"_s, u"2"_s, u"3"_s }));
+        QCOMPARE(counts(ScanOrder::Any), QStringList({ u"2"_s, u"3"_s, u"-"_s }));
+    }
+
+    void aListingFollowsEveryWrite()
+    {
+        Rows rows;
+        const auto names = [&] {
+            QString text;
+            for (const ObjectId oid : Take(rows.rows->ListRecords())) {
+                const auto found = rows.rows->SeekTo(oid);
+                const auto record = rows.rows->Read(std::array { kRowName });
+                text += found && record ? std::get<QString>(record->values.front().value) : u"?"_s;
+            }
+            return text;
+        };
+        const ObjectId b = rows.Add({ Text(u"b"_s), Quantity(1) });
+        QCOMPARE(names(), u"b"_s);
+        const ObjectId a = rows.Add({ Text(u"a"_s) });
+        QCOMPARE(names(), u"ab"_s);
+        QVERIFY(rows.rows->Write(b, std::array { Quantity(2) }).IsOk());
+        QCOMPARE(names(), u"ab"_s);
+        QVERIFY(rows.volume->BeginTransaction().IsOk());
+        QVERIFY(rows.rows->Write(a, std::array { Text(u"c"_s) }).IsOk());
+        QCOMPARE(names(), u"bc"_s);
+        QVERIFY(rows.volume->EndTransaction(false).IsOk());
+        QCOMPARE(names(), u"ab"_s);
+        QVERIFY(rows.rows->DeleteRecord(a).IsOk());
+        QCOMPARE(names(), u"b"_s);
+    }
+};
 
 QUILLORY_TEST(QCoreApplication, PropertyDatabaseTest)
 #include "property_database_test.moc"

@@ -3,7 +3,6 @@
 #include "tests/list_fixture.h"
 #include "tests/page_damage.h"
 #include "tests/test_program.h"
-#include "values/column_type.h"
 #include "values/file_date.h"
 
 #include <QRandomGenerator>
@@ -11,10 +10,6 @@
 #include <algorithm>
 #include <limits>
 #include <map>
-#include <utility>
-
-using namespace Quillory;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -58,204 +53,169 @@ class RowStoreTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aDateThatCannotBeReadKeepsTheStoredOne();
-    void aCopyIsARowOfItsOwn();
-    void deletedRowsShowErr();
-    void countsGoBelowZeroAndWrapAround();
-    void aRowWithoutACountCountsFromZero();
-    void filtersKeepTheOrderOfNames();
-    void aDamagedPageEndsTheListing_data();
-    void aDamagedPageEndsTheListing();
-    void sortingManyRowsAgreesWithComparingThem();
-    void totalsCoverWhatIsListed();
-    void totalsAreAddedInTheOrderOfNamesWhereItShows();
+    void aDateThatCannotBeReadKeepsTheStoredOne()
+    {
+        ListFixture file(u"l"_s);
+        const ObjectId row = file.Add({ u"a"_s, u"1"_s, QString(), QString(), QString(), QString(),
+            u"3/4/2026"_s, u"2/30/2026"_s });
+        QCOMPARE(file.Cells({ row }, Bought), u"3/4/2026"_s);
+        QCOMPARE(file.Cells({ row }, Expiry), QString());
+        const std::vector<QString> texts { u"b"_s, u"2"_s, QString(), QString(), QString(),
+            QString(), u"soon"_s };
+        QVERIFY(file.rows->ModifyRow(row, texts));
+        QCOMPARE(file.Cells({ row }, Name), u"b"_s);
+        QCOMPARE(file.Cells({ row }, Bought), u"3/4/2026"_s);
+        QVERIFY(!file.rows->ModifyRow(static_cast<ObjectId>(9999), texts));
+    }
+
+    void aCopyIsARowOfItsOwn()
+    {
+        ListFixture file(u"l"_s);
+        const ObjectId row = file.Add({ u"a"_s, u"1"_s, u"shelf"_s });
+        const ObjectId copy = file.rows->CopyRow(row);
+        QVERIFY(copy != kNoObject && copy != row);
+        QCOMPARE(file.rows->AdjustCount(copy, 1), 2);
+        QCOMPARE(file.Cells({ row, copy }, Count), u"1 2"_s);
+        QCOMPARE(file.Cells({ row, copy }, Shelf), u"shelf shelf"_s);
+        QCOMPARE(file.rows->CopyRow(static_cast<ObjectId>(9999)), kNoObject);
+    }
+
+    void deletedRowsShowErr()
+    {
+        ListFixture file(u"l"_s);
+        const ObjectId row = file.Add({ u"a"_s });
+        QVERIFY(file.rows->DeleteRow(row));
+        QVERIFY(!file.rows->DeleteRow(row));
+        QCOMPARE(file.Cells({ row }), u"<Err>"_s);
+        QVERIFY(!file.rows->AdjustCount(row, 1).has_value());
+        QVERIFY(!file.rows->SetCheckboxValue(row, file.Column(Bio), true));
+    }
+
+    void countsGoBelowZeroAndWrapAround()
+    {
+        ListFixture file(u"l"_s);
+        const ObjectId row = file.Add({ u"a"_s, u"0"_s });
+        QCOMPARE(file.rows->AdjustCount(row, -1), -1);
+        QCOMPARE(file.rows->AdjustCount(row, 1), 0);
+        QCOMPARE(file.rows->AdjustCount(row, std::numeric_limits<qint32>::max()), 2147483647);
+        QCOMPARE(file.rows->AdjustCount(row, 1), std::numeric_limits<qint32>::min());
+        file.Restart();
+        QCOMPARE(file.Cells({ row }, Count), u"-2147483648"_s);
+    }
+
+    void aRowWithoutACountCountsFromZero()
+    {
+        ListFixture file(u"l"_s);
+        const ObjectId row = file.Add({ u"only a name"_s });
+        QCOMPARE(file.rows->AdjustCount(row, -1), -1);
+        QCOMPARE(file.rows->AdjustCount(row, -1), -2);
+        file.list.columns.erase(file.list.columns.begin() + Count);
+        QVERIFY(!file.rows->AdjustCount(row, 1).has_value());
+        // The failure left no transaction behind.
+        QVERIFY(file.data->BeginTransaction() && file.data->EndTransaction(true));
+    }
+
+    void aDamagedPageEndsTheListing()
+    {
+        for (const char page : { kIndexLeaf, kTableLeaf }) {
+            constexpr int kRows = 1000;
+            ListFixture file;
+            const ObjectId list = file.MakeFullList(u"l"_s);
+            const auto name = [](int row) { return u"row %1"_s.arg(row, 4, 10, QChar(u'0')); };
+            QVERIFY(file.data->BeginTransaction());
+            for (int i = 0; i < kRows; ++i)
+                file.Add({ name(i), QString::number(i % 2) });
+            QVERIFY(file.data->EndTransaction(true));
+            file.data->Unmount();
+            DamagePage(file.Path(), page, name(600));
+
+            file.Restart();
+            file.OpenList(list);
+            const auto [rows, error] = file.rows->FillRows();
+            QCOMPARE(error, page == kIndexLeaf ? ErrorNumber::FileCorrupt : ErrorNumber::None);
+            QVERIFY2(rows.size() > 300, qPrintable(QString::number(rows.size())));
+            // No row is missing before the last one.
+            QCOMPARE(file.Cells({ rows.front(), rows[300] }), name(0) + u' ' + name(300));
+            const auto [odd, oddError] = file.rows->FillFilteredRows(
+                Where(file.Column(Count), FilterCondition::Equals, u"1"_s));
+            QCOMPARE(oddError, ErrorNumber::FileCorrupt);
+            QVERIFY(odd.size() > 150 && odd.size() < 300);
+            QCOMPARE(file.Cells({ odd[0], odd[150] }), name(1) + u' ' + name(301));
+            // The column of a damaged row cannot be sorted by, nor totalled: the index is not
+            // asked.
+            const bool isRowDamaged = page == kTableLeaf;
+            const auto [sorted, sortError] = file.rows->SortRows(rows, file.Column(Count));
+            QCOMPARE(sortError, isRowDamaged ? ErrorNumber::FileCorrupt : ErrorNumber::None);
+            QCOMPARE(sorted == rows, isRowDamaged);
+            QCOMPARE(file.rows->Totals(nullptr).error, sortError);
+        }
+    }
+
+    void sortingManyRowsAgreesWithComparingThem()
+    {
+        ListFixture file(u"l"_s);
+        constexpr int kRows = 6000;
+        QRandomGenerator random(7);
+        QVERIFY(file.data->BeginTransaction());
+        for (int i = 0; i < kRows; ++i) {
+            // Texts that begin alike, end each other, are empty, or hold units above surrogates.
+            QString shelf = QString(qsizetype { random.bounded(4) } * 90, u'x')
+                + QString(random.bounded(6), u'\uFF5A') + QString::number(random.bounded(50));
+            shelf.chop(qsizetype { random.bounded(2) } * 2);
+            const FileTime day { quint64(random.bounded(400'000)) * 864'000'000'000 / 3 };
+            std::vector<PropertyValue> values { { file.Column(Name), 0, QString::number(i) },
+                { file.Column(Shelf), 0, shelf }, { file.Column(Bio), 0, random.bounded(2) == 1 },
+                { file.Column(Price), 0, (random.bounded(2000) - 1000) * 0.25e-3 },
+                { file.Column(Size), 0, qint32(random.generate()) >> random.bounded(32) },
+                { file.Column(Bought), 0, day } };
+            if (i % 11 == 0)
+                values[3].value = i % 2 == 0 ? -0.0 : 0.0;
+            values.erase(
+                values.begin() + 1 + i % 5, values.begin() + 1 + i % 5 + (i % 7 == 0 ? 1 : 0));
+            QVERIFY(file.data->Write(ListCatalogue::kRowsType, kNoObject, values) != kNoObject);
+        }
+        QVERIFY(file.data->EndTransaction(true));
+
+        std::vector<ObjectId> rows = file.rows->FillRows().rows;
+        std::reverse(rows.begin(), rows.end());
+        for (const int column : { Shelf, Bio, Price, Size, Bought }) {
+            const PropertyId id = file.Column(column);
+            std::map<ObjectId, std::pair<double, QString>> keys;
+            for (const ObjectId row : rows)
+                keys[row] = SortKey(FindProperty(file.rows->ReadRow(row).values, id));
+            std::vector<ObjectId> expected = rows;
+            std::stable_sort(expected.begin(), expected.end(),
+                [&keys](ObjectId a, ObjectId b) { return keys[a] < keys[b]; });
+            QVERIFY2(file.rows->SortRows(rows, id).rows == expected,
+                qPrintable(file.list.columns[static_cast<size_t>(column)].name));
+        }
+    }
+
+    void totalsCoverWhatIsListed()
+    {
+        ListFixture file(u"l"_s);
+        QCOMPARE(Totals(file), u"Quantity=0 Price=0.00 Size=0"_s);
+        file.Add({ u"a"_s, u"2147483647"_s, {}, {}, u"0.1"_s, u"-3"_s });
+        file.Add({ u"b"_s, u"2147483647"_s, {}, {}, u"0.2"_s });
+        file.Add({ u"c"_s, u"-1"_s, {}, {}, u"0.3"_s, u"1"_s });
+        QCOMPARE(Totals(file), u"Quantity=4294967293 Price=0.60 Size=-2"_s);
+        const FilterSet filters = Where(file.Column(Count), FilterCondition::Less, u"0"_s);
+        QCOMPARE(Totals(file, &filters), u"Quantity=-1 Price=0.30 Size=1"_s);
+    }
+
+    void totalsAreAddedInTheOrderOfNamesWhereItShows()
+    {
+        ListFixture file(u"l"_s);
+        // By name 1e17 swallows the small ones; in any other order they would add up first.
+        file.Add({ u"b"_s, {}, {}, {}, u"1"_s });
+        file.Add({ u"c"_s, {}, {}, {}, u"1"_s });
+        file.Add({ u"d"_s, {}, {}, {}, u"-1e17"_s });
+        file.Add({ u"a"_s, {}, {}, {}, u"1e17"_s });
+        QCOMPARE(Totals(file), u"Quantity=0 Price=0.00 Size=0"_s);
+        file.Add({ u"e"_s, {}, {}, {}, u"1e999"_s });
+        QVERIFY(Totals(file).contains(u"1.#"_s));
+    }
 };
-
-void RowStoreTest::aDateThatCannotBeReadKeepsTheStoredOne()
-{
-    ListFixture file(u"l"_s);
-    const ObjectId row = file.Add({ u"a"_s, u"1"_s, QString(), QString(), QString(), QString(),
-        u"3/4/2026"_s, u"2/30/2026"_s });
-    QCOMPARE(file.Cells({ row }, Bought), u"3/4/2026"_s);
-    QCOMPARE(file.Cells({ row }, Expiry), QString());
-    const std::vector<QString> texts { u"b"_s, u"2"_s, QString(), QString(), QString(), QString(),
-        u"soon"_s };
-    QVERIFY(file.rows->ModifyRow(row, texts));
-    QCOMPARE(file.Cells({ row }, Name), u"b"_s);
-    QCOMPARE(file.Cells({ row }, Bought), u"3/4/2026"_s);
-    QVERIFY(!file.rows->ModifyRow(static_cast<ObjectId>(9999), texts));
-}
-
-void RowStoreTest::aCopyIsARowOfItsOwn()
-{
-    ListFixture file(u"l"_s);
-    const ObjectId row = file.Add({ u"a"_s, u"1"_s, u"shelf"_s });
-    const ObjectId copy = file.rows->CopyRow(row);
-    QVERIFY(copy != kNoObject && copy != row);
-    QCOMPARE(file.rows->AdjustCount(copy, 1), 2);
-    QCOMPARE(file.Cells({ row, copy }, Count), u"1 2"_s);
-    QCOMPARE(file.Cells({ row, copy }, Shelf), u"shelf shelf"_s);
-    QCOMPARE(file.rows->CopyRow(static_cast<ObjectId>(9999)), kNoObject);
-}
-
-void RowStoreTest::deletedRowsShowErr()
-{
-    ListFixture file(u"l"_s);
-    const ObjectId row = file.Add({ u"a"_s });
-    QVERIFY(file.rows->DeleteRow(row));
-    QVERIFY(!file.rows->DeleteRow(row));
-    QCOMPARE(file.Cells({ row }), u"<Err>"_s);
-    QVERIFY(!file.rows->AdjustCount(row, 1).has_value());
-    QVERIFY(!file.rows->SetCheckboxValue(row, file.Column(Bio), true));
-}
-
-void RowStoreTest::countsGoBelowZeroAndWrapAround()
-{
-    ListFixture file(u"l"_s);
-    const ObjectId row = file.Add({ u"a"_s, u"0"_s });
-    QCOMPARE(file.rows->AdjustCount(row, -1), -1);
-    QCOMPARE(file.rows->AdjustCount(row, 1), 0);
-    QCOMPARE(file.rows->AdjustCount(row, std::numeric_limits<qint32>::max()), 2147483647);
-    QCOMPARE(file.rows->AdjustCount(row, 1), std::numeric_limits<qint32>::min());
-    file.Restart();
-    QCOMPARE(file.Cells({ row }, Count), u"-2147483648"_s);
-}
-
-void RowStoreTest::aRowWithoutACountCountsFromZero()
-{
-    ListFixture file(u"l"_s);
-    const ObjectId row = file.Add({ u"only a name"_s });
-    QCOMPARE(file.rows->AdjustCount(row, -1), -1);
-    QCOMPARE(file.rows->AdjustCount(row, -1), -2);
-    file.list.columns.erase(file.list.columns.begin() + Count);
-    QVERIFY(!file.rows->AdjustCount(row, 1).has_value());
-    // The failure left no transaction behind.
-    QVERIFY(file.data->BeginTransaction() && file.data->EndTransaction(true));
-}
-
-void RowStoreTest::filtersKeepTheOrderOfNames()
-{
-    ListFixture file(u"l"_s);
-    for (int i = 9; i >= 0; --i)
-        file.Add({ u"r%1"_s.arg(i), QString::number(i), i % 2 == 0 ? u"even"_s : u"odd"_s });
-    FilterSet filters = Where(file.Column(Count), FilterCondition::Greater, u"2"_s);
-    AddFilter(filters, file.Column(Count), FilterCondition::Less, u"7"_s);
-    QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters).rows), u"r3 r4 r5 r6"_s);
-    AddFilter(filters, file.Column(Shelf), FilterCondition::Contains, u"ve"_s);
-    QCOMPARE(file.Cells(file.rows->FillFilteredRows(filters).rows), u"r4 r6"_s);
-    QCOMPARE(Totals(file, &filters), u"Quantity=10 Price=0.00 Size=0"_s);
-    AddFilter(filters, PropertyId {}, FilterCondition::Contains, QString());
-    QVERIFY(file.rows->FillFilteredRows(filters).rows.empty());
-    const auto zeros = Where(file.Column(Size), FilterCondition::Equals, u"0"_s);
-    QVERIFY(file.rows->FillFilteredRows(zeros).rows.empty());
-    QCOMPARE(file.rows->FillFilteredRows({}).rows.size(), size_t { 10 });
-}
-
-void RowStoreTest::aDamagedPageEndsTheListing_data()
-{
-    QTest::addColumn<char>("page");
-    QTest::addColumn<int>("column");
-    QTest::newRow("of the index") << kIndexLeaf << int { Name };
-    QTest::newRow("of the rows") << kTableLeaf << int { Count };
-}
-
-void RowStoreTest::aDamagedPageEndsTheListing()
-{
-    QFETCH(char, page);
-    constexpr int kRows = 1000;
-    ListFixture file;
-    const ObjectId list = file.MakeFullList(u"l"_s);
-    const auto name = [](int row) { return u"row %1"_s.arg(row, 4, 10, QChar(u'0')); };
-    QVERIFY(file.data->BeginTransaction());
-    for (int i = 0; i < kRows; ++i)
-        file.Add({ name(i), QString::number(i % 2) });
-    QVERIFY(file.data->EndTransaction(true));
-    file.data->Unmount();
-    DamagePage(file.Path(), page, name(600));
-
-    file.Restart();
-    file.OpenList(list);
-    const auto [rows, error] = file.rows->FillRows();
-    QCOMPARE(error, page == kIndexLeaf ? ErrorNumber::FileCorrupt : ErrorNumber::None);
-    QVERIFY2(rows.size() > 300, qPrintable(QString::number(rows.size())));
-    // No row is missing before the last one.
-    QCOMPARE(file.Cells({ rows.front(), rows[300] }), name(0) + u' ' + name(300));
-    const auto [odd, oddError]
-        = file.rows->FillFilteredRows(Where(file.Column(Count), FilterCondition::Equals, u"1"_s));
-    QCOMPARE(oddError, ErrorNumber::FileCorrupt);
-    QVERIFY(odd.size() > 150 && odd.size() < 300);
-    QCOMPARE(file.Cells({ odd[0], odd[150] }), name(1) + u' ' + name(301));
-    // The column of a damaged row cannot be sorted by, nor totalled: the index is not asked.
-    const bool isRowDamaged = page == kTableLeaf;
-    const auto [sorted, sortError] = file.rows->SortRows(rows, file.Column(Count));
-    QCOMPARE(sortError, isRowDamaged ? ErrorNumber::FileCorrupt : ErrorNumber::None);
-    QCOMPARE(sorted == rows, isRowDamaged);
-    QCOMPARE(file.rows->Totals(nullptr).error, sortError);
-}
-
-void RowStoreTest::sortingManyRowsAgreesWithComparingThem()
-{
-    ListFixture file(u"l"_s);
-    constexpr int kRows = 6000;
-    QRandomGenerator random(7);
-    QVERIFY(file.data->BeginTransaction());
-    for (int i = 0; i < kRows; ++i) {
-        // Texts that begin alike, end each other, are empty, or hold units above surrogates.
-        QString shelf = QString(qsizetype { random.bounded(4) } * 90, u'x')
-            + QString(random.bounded(6), u'\uFF5A') + QString::number(random.bounded(50));
-        shelf.chop(qsizetype { random.bounded(2) } * 2);
-        const FileTime day { quint64(random.bounded(400'000)) * 864'000'000'000 / 3 };
-        std::vector<PropertyValue> values { { file.Column(Name), 0, QString::number(i) },
-            { file.Column(Shelf), 0, shelf }, { file.Column(Bio), 0, random.bounded(2) == 1 },
-            { file.Column(Price), 0, (random.bounded(2000) - 1000) * 0.25e-3 },
-            { file.Column(Size), 0, qint32(random.generate()) >> random.bounded(32) },
-            { file.Column(Bought), 0, day } };
-        if (i % 11 == 0)
-            values[3].value = i % 2 == 0 ? -0.0 : 0.0;
-        values.erase(values.begin() + 1 + i % 5, values.begin() + 1 + i % 5 + (i % 7 == 0 ? 1 : 0));
-        QVERIFY(file.data->Write(ListCatalogue::kRowsType, kNoObject, values) != kNoObject);
-    }
-    QVERIFY(file.data->EndTransaction(true));
-
-    std::vector<ObjectId> rows = file.rows->FillRows().rows;
-    std::reverse(rows.begin(), rows.end());
-    for (const int column : { Shelf, Bio, Price, Size, Bought }) {
-        const PropertyId id = file.Column(column);
-        std::map<ObjectId, std::pair<double, QString>> keys;
-        for (const ObjectId row : rows)
-            keys[row] = SortKey(FindProperty(file.rows->ReadRow(row).values, id));
-        std::vector<ObjectId> expected = rows;
-        std::stable_sort(expected.begin(), expected.end(),
-            [&keys](ObjectId a, ObjectId b) { return keys[a] < keys[b]; });
-        QVERIFY2(file.rows->SortRows(rows, id).rows == expected,
-            qPrintable(file.list.columns[static_cast<size_t>(column)].name));
-    }
-}
-
-void RowStoreTest::totalsCoverWhatIsListed()
-{
-    ListFixture file(u"l"_s);
-    QCOMPARE(Totals(file), u"Quantity=0 Price=0.00 Size=0"_s);
-    file.Add({ u"a"_s, u"2147483647"_s, {}, {}, u"0.1"_s, u"-3"_s });
-    file.Add({ u"b"_s, u"2147483647"_s, {}, {}, u"0.2"_s });
-    file.Add({ u"c"_s, u"-1"_s, {}, {}, u"0.3"_s, u"1"_s });
-    QCOMPARE(Totals(file), u"Quantity=4294967293 Price=0.60 Size=-2"_s);
-    const FilterSet filters = Where(file.Column(Count), FilterCondition::Less, u"0"_s);
-    QCOMPARE(Totals(file, &filters), u"Quantity=-1 Price=0.30 Size=1"_s);
-}
-
-void RowStoreTest::totalsAreAddedInTheOrderOfNamesWhereItShows()
-{
-    ListFixture file(u"l"_s);
-    // By name 1e17 swallows the small ones; in any other order they would add up first.
-    file.Add({ u"b"_s, {}, {}, {}, u"1"_s });
-    file.Add({ u"c"_s, {}, {}, {}, u"1"_s });
-    file.Add({ u"d"_s, {}, {}, {}, u"-1e17"_s });
-    file.Add({ u"a"_s, {}, {}, {}, u"1e17"_s });
-    QCOMPARE(Totals(file), u"Quantity=0 Price=0.00 Size=0"_s);
-    file.Add({ u"e"_s, {}, {}, {}, u"1e999"_s });
-    QVERIFY(Totals(file).contains(u"1.#"_s));
-}
 
 QUILLORY_TEST(QCoreApplication, RowStoreTest)
 #include "row_store_test.moc"

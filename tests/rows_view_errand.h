@@ -13,8 +13,6 @@
 #include <QTableView>
 #include <QTest>
 
-#include <memory>
-
 namespace Quillory {
 
 /// A rows view over a list of every type, in a window, and what a person does there.

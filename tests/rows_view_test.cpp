@@ -7,10 +7,7 @@
 
 #include <QScrollBar>
 
-#include <memory>
-
-using namespace Quillory;
-using namespace Qt::StringLiterals;
+#include <tuple>
 
 namespace {
 
@@ -36,34 +33,415 @@ class RowsViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void theFirstLineIsSelected();
-    void aNewRowIsEnteredByKeyboard();
-    void whatComesBackStandsInItsPlace();
-    void cancellingTheEditorWritesNothing();
-    void modifyingKeepsWhatWasNotTouched();
-    void countsGoToMinusOneAndBack();
-    void deletingAsksWithNoAsDefault();
-    void aCopyOpensInTheEditor();
-    void spaceTicksTheOnlyCheckbox();
-    void twoCheckboxesLeaveTheDoubleTapToTheEditor();
-    void keysMoveThroughALongList_data();
-    void keysMoveThroughALongList();
-    void aTapOnTheHeaderSorts_data();
-    void aTapOnTheHeaderSorts();
-    void deletingTheLastRowLeavesNothingToCommand();
-    void aHoldOpensTheMenuOfTheRow();
-    void keysOpenTheMenuOfTheRow();
-    void readOnlyLetsNothingChange();
-    void columnsAreDraggedByTouch();
-    void aDoubleClickOnADividerFitsTheColumn_data();
-    void aDoubleClickOnADividerFitsTheColumn();
-    void widthsAndOrderAreKept();
-    void aVanishedRowShowsErr();
-    void looksFollowWarnings_data();
-    void looksFollowWarnings();
-    void whatChangesIsPaintedAtOnce_data();
-    void whatChangesIsPaintedAtOnce();
+    void init()
+    {
+        m_errand = std::make_unique<RowsErrand>();
+        File().Add({ u"rice"_s, u"0"_s, u"top"_s, u"Unchecked"_s, u"3"_s });
+        File().Add({ u"salt"_s, u"5"_s, u"top"_s, u"Checked"_s, u"1"_s });
+    }
+
+    void theFirstLineIsSelected()
+    {
+        m_errand->Open();
+        QCOMPARE(Page()->Title(), u"Pantry"_s);
+        QCOMPARE(m_errand->Lines(), u"rice salt"_s);
+        QCOMPARE(View()->currentIndex().row(), 0);
+    }
+
+    void whatChangesIsPaintedAtOnce_data()
+    {
+        QTest::addColumn<QTime>("opened");
+        QTest::addColumn<QDate>("today");
+        QTest::addColumn<bool>("isAwoken");
+        QTest::newRow("midnight") << QTime(23, 59, 59, 900) << QDate(2026, 6, 16) << false;
+        QTest::newRow("the clock is set") << QTime(12, 30) << QDate(2026, 6, 2) << true;
+        QTest::newRow("a count") << QTime(12, 30) << QDate(2026, 6, 15) << false;
+    }
+
+    void whatChangesIsPaintedAtOnce()
+    {
+        QFETCH(const QTime, opened);
+        QFETCH(const QDate, today);
+        QFETCH(const bool, isAwoken);
+        LocalTime now { QDate(2026, 6, 15), opened };
+        File().context.clock = [&now] { return now; };
+        File().list.TableOption = kWarnOnExpiry;
+        for (const auto& day : { u"6/10/2026"_s, u"6/16/2026"_s })
+            File().Add({ u"tea"_s, u"1"_s, u""_s, u""_s, u"1"_s, u"1"_s, u""_s, day });
+        m_errand->Open();
+        QTest::qWait(50);
+        const QImage before = View()->viewport()->grab().toImage();
+        const PaintCounter paints(View()->viewport());
+        now.date = today;
+        if (isAwoken)
+            Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+        else if (today == QDate(2026, 6, 15))
+            QTest::keyClick(View(), Qt::Key_Plus);
+        QTRY_VERIFY_WITH_TIMEOUT(paints.Count() > 0, 1000);
+        QVERIFY(View()->viewport()->grab().toImage() != before);
+    }
+
+    void aNewRowIsEnteredByKeyboard()
+    {
+        m_errand->Open();
+        // Return presses the key that has the keyboard; it edits the selected row only elsewhere.
+        m_errand->Find<QWidget>(QLatin1StringView("leftKey"))->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(Stack().windowHandle(), Qt::Key_Return);
+        QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
+        m_errand->TypeInEditor(u"barley"_s, Qt::Key_Return);
+        m_errand->TypeInEditor(u"7"_s, Qt::Key_Return);
+        for (int field = Shelf; field < Expiry; ++field)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
+        m_errand->TypeInEditor(u"1/5/2027"_s, Qt::Key_Return);
+        QCOMPARE(Stack().Top(), Page());
+        // At the end, until the list is opened again.
+        QCOMPARE(m_errand->Lines(), u"rice salt barley"_s);
+        QCOMPARE(m_errand->Text(2, Count), u"7"_s);
+        QCOMPARE(m_errand->Text(2, Expiry), u"1/5/2027"_s);
+        QCOMPARE(m_errand->Stored(), u"barley rice salt"_s);
+    }
+
+    void whatComesBackStandsInItsPlace()
+    {
+        m_errand->Open();
+        const auto comesBack = [this](const QString& name, const QString& count) {
+            Page()->ShowRestored(File().Add({ name, count }));
+        };
+        const QString before = m_errand->Lines();
+        comesBack(u"aaa"_s, u"1"_s);
+        comesBack(u"zzz"_s, u"9"_s);
+        QCOMPARE(m_errand->Lines(), u"aaa "_s + before + u" zzz"_s);
+        m_errand->TapHeader(Count);
+        comesBack(u"mmm"_s, u"-5"_s);
+        QCOMPARE(m_errand->Text(0, Name), u"mmm"_s);
+        QCOMPARE(m_errand->View()->currentIndex().row(), 0);
+    }
+
+    void cancellingTheEditorWritesNothing()
+    {
+        m_errand->Open();
+        Page()->Trigger(Command::Modify);
+        m_errand->TypeInEditor(u"changed"_s, Qt::Key_Down);
+        Stack().Top()->Trigger(Command::Cancel);
+        Page()->Trigger(Command::New);
+        QTest::keyClick(Stack().Top(), Qt::Key_Escape);
+        QCOMPARE(Stack().Top(), Page());
+        QCOMPARE(m_errand->Stored(), u"rice salt"_s);
+    }
+
+    void modifyingKeepsWhatWasNotTouched()
+    {
+        m_errand->Open();
+        Page()->Trigger(Command::Modify);
+        m_errand->TypeInEditor(u"brown rice"_s, Qt::Key_Down);
+        QTest::mouseClick(Stack().Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
+        QCOMPARE(m_errand->Lines(), u"brown rice salt"_s);
+        QCOMPARE(m_errand->Text(0, Price), u"3.00"_s);
+        QCOMPARE(m_errand->Stored(Shelf), u"top top"_s);
+    }
+
+    void countsGoToMinusOneAndBack()
+    {
+        m_errand->Open();
+        QTest::keyClick(View(), Qt::Key_Minus);
+        QCOMPARE(m_errand->Text(0, Count), u"-1"_s);
+        QTest::keyClick(View(), Qt::Key_Plus);
+        QTest::keyClick(View(), Qt::Key_Plus);
+        QCOMPARE(m_errand->Text(0, Count), u"1"_s);
+        QCOMPARE(m_errand->Stored(Count), u"1 5"_s);
+    }
+
+    void deletingAsksWithNoAsDefault()
+    {
+        m_errand->Open();
+        QTest::keyClick(View(), Qt::Key_Delete);
+        QMessageBox* box = m_errand->Message();
+        QVERIFY(box != nullptr);
+        QCOMPARE(box->text(), u"Do you want to delete the selected row?"_s);
+        QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+        m_errand->Answer(QMessageBox::No);
+        QCOMPARE(m_errand->Lines(), u"rice salt"_s);
+        Page()->Trigger(Command::Delete);
+        m_errand->Answer(QMessageBox::Yes);
+        QCOMPARE(m_errand->Lines(), u"salt"_s);
+        QCOMPARE(m_errand->Stored(), u"salt"_s);
+    }
+
+    void aCopyOpensInTheEditor()
+    {
+        m_errand->Open();
+        Page()->Trigger(Command::CreateCopy);
+        QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
+        QTest::mouseClick(Stack().Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
+        QCOMPARE(m_errand->Lines(), u"rice salt rice"_s);
+        QCOMPARE(View()->currentIndex().row(), 2);
+    }
+
+    void spaceTicksTheOnlyCheckbox()
+    {
+        m_errand->Open();
+        for (const bool isTicked : { true, false }) {
+            QTest::keyClick(View(), Qt::Key_Space);
+            QCOMPARE(m_errand->IsTicked(0), isTicked);
+        }
+    }
+
+    void twoCheckboxesLeaveTheDoubleTapToTheEditor()
+    {
+        InventoryList made = NewInventoryList();
+        made.Name = u"Tools"_s;
+        for (const quint16 number : std::initializer_list<quint16> { 10003, 10004 })
+            made.columns.push_back({ u"Box"_s, 0, MakePropertyId(number, CEVT_BOOL) });
+        File().OpenList(File().catalogue->CreateList(made).oid);
+        File().Add({ u"saw"_s, u"1"_s, u"Unchecked"_s, u"Unchecked"_s });
+        m_errand->Open();
+        m_errand->DoubleTap(0, Name);
+        QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
+        m_errand->PressOk();
+        // Space ticks the box that the arrows went to.
+        QTest::keyClick(View(), Qt::Key_Space);
+        QVERIFY(!m_errand->IsTicked(0, 2) && !m_errand->IsTicked(0, 3));
+        for (int column = Name; column < 3; ++column)
+            QTest::keyClick(View(), Qt::Key_Right);
+        QTest::keyClick(View(), Qt::Key_Space);
+        QVERIFY(!m_errand->IsTicked(0, 2) && m_errand->IsTicked(0, 3));
+    }
+
+    void keysMoveThroughALongList()
+    {
+        const std::tuple<QList<Qt::Key>, int, bool> cases[] { { { Qt::Key_Down }, 1, true },
+            { { Qt::Key_Up }, 0, true }, { { Qt::Key_End }, 99, false },
+            { { Qt::Key_End, Qt::Key_Down }, 99, false },
+            { { Qt::Key_End, Qt::Key_Home }, 0, true },
+            { { Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_PageUp }, 0, true } };
+        for (int i = 2; i < 100; ++i)
+            File().Add({ u"row"_s, u"1"_s, u"top"_s, u"Unchecked"_s, u"1"_s });
+        for (const auto& [keys, line, isAtTop] : cases) {
+            m_errand->Open();
+            for (const Qt::Key key : keys)
+                QTest::keyClick(View(), key);
+            const QModelIndex current = View()->currentIndex();
+            QCOMPARE(View()->selectionModel()->selectedRows().value(0).row(), current.row());
+            QCOMPARE(current.row(), line);
+            QCOMPARE(View()->verticalScrollBar()->value() == 0, isAtTop);
+            const QRect place = View()->visualRect(current);
+            QVERIFY(place.top() >= 0 && place.bottom() < View()->viewport()->height());
+            QCOMPARE(View()->indexAt(place.center()), current);
+        }
+    }
+
+    void aTapOnTheHeaderSorts()
+    {
+        for (const ObjectId row : File().rows->FillRows().rows)
+            File().rows->DeleteRow(row);
+        File().Add({ u"a"_s, u"9"_s, u"b"_s, u"Unchecked"_s, u"10"_s, u""_s, u"1/2/2026"_s });
+        File().Add({ u"b"_s, u"-3"_s, u"Z"_s, u"Unchecked"_s, u"9"_s, u""_s, u""_s });
+        File().Add({ u"c"_s, u"10"_s, u"c"_s, u"Checked"_s, u"-1"_s, u""_s, u"12/31/2025"_s });
+        File().Add({ u"d"_s, u"2"_s, u"A"_s, u"Unchecked"_s, u"8.99"_s, u""_s, u"1/3/2026"_s });
+        // The missing date is the first.
+        for (const auto& [column, lines] :
+            { std::pair { Shelf, u"d b a c"_s }, { Count, u"b d a c"_s }, { Bio, u"a b d c"_s },
+                { Price, u"c d b a"_s }, { Bought, u"b c a d"_s } }) {
+            m_errand->Open();
+            View()->selectRow(3);
+            for (int taps = 0; taps < 2; ++taps) {
+                m_errand->TapHeader(column);
+                QCOMPARE(m_errand->Lines(), lines);
+                // The selection stays with its row.
+                QCOMPARE(m_errand->Text(View()->currentIndex().row(), Name), u"d"_s);
+            }
+        }
+    }
+
+    void deletingTheLastRowLeavesNothingToCommand()
+    {
+        m_errand->Open();
+        for (int rows = 2; rows > 0; --rows) {
+            QTest::keyClick(View(), Qt::Key_Delete);
+            m_errand->Answer(QMessageBox::Yes);
+        }
+        QCOMPARE(m_errand->Lines(), QString());
+        for (const Command command : { Command::Modify, Command::CreateCopy, Command::Delete,
+                 Command::AddOne, Command::SubtractOne })
+            QVERIFY(!Page()->ActionOf(command)->isEnabled());
+        QVERIFY(Page()->ActionOf(Command::New)->isEnabled());
+    }
+
+    void aHoldOpensTheMenuOfTheRow()
+    {
+        m_errand->Open();
+        QTest::mouseClick(
+            View()->viewport(), Qt::RightButton, {}, m_errand->Cell(1, Name).center());
+        QContextMenuEvent hold(
+            QContextMenuEvent::Mouse, m_errand->Cell(1, Name).center(), QPoint(), {});
+        QApplication::sendEvent(View()->viewport(), &hold);
+        const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu != nullptr);
+        QStringList texts;
+        for (const QAction* action : menu->actions())
+            texts << action->text() + (action->isEnabled() ? u""_s : u"-"_s);
+        QCOMPARE(texts.join(u'|'), u"Add 1|Subtract 1||Modify...|Delete"_s);
+        menu->actions().front()->trigger();
+        QCOMPARE(m_errand->Stored(Count), u"0 6"_s);
+    }
+
+    void keysOpenTheMenuOfTheRow()
+    {
+        m_errand->Open();
+        const auto choose = [](Qt::Key key) {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(menu != nullptr);
+            QTest::keyClick(menu, key);
+            QTest::keyClick(menu, Qt::Key_Return);
+            QVERIFY(QApplication::activePopupWidget() == nullptr);
+        };
+        // What the window system makes of the menu key goes to who has the focus.
+        QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint(), {});
+        QApplication::sendEvent(View(), &menuKey);
+        choose(Qt::Key_Down);
+        QCOMPARE(m_errand->Stored(Count), u"1 5"_s);
+        QTest::keyClick(View(), Qt::Key_F10, Qt::ShiftModifier);
+        choose(Qt::Key_Down);
+        QCOMPARE(m_errand->Stored(Count), u"2 5"_s);
+    }
+
+    void readOnlyLetsNothingChange()
+    {
+        m_errand->Open({ .isReadOnly = true });
+        for (const Command command : { Command::New, Command::Modify, Command::CreateCopy,
+                 Command::Delete, Command::AddOne, Command::SubtractOne })
+            QVERIFY(!Page()->ActionOf(command)->isEnabled());
+        QTest::keyClick(View(), Qt::Key_Plus);
+        m_errand->Tap(0, Bio);
+        m_errand->Tap(0, Name);
+        m_errand->DoubleTap(0, Name);
+        for (const auto key : { Qt::Key_Space, Qt::Key_Return, Qt::Key_Delete })
+            QTest::keyClick(View(), key);
+        QContextMenuEvent hold(
+            QContextMenuEvent::Mouse, m_errand->Cell(0, Name).center(), QPoint(), {});
+        QApplication::sendEvent(View()->viewport(), &hold);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+        QCOMPARE(Stack().Top(), Page());
+        QVERIFY(m_errand->Message() == nullptr);
+        QCOMPARE(m_errand->Stored(Count), u"0 5"_s);
+        QVERIFY(!m_errand->IsTicked(0));
+        QVERIFY(Page()->ActionOf(Command::Find)->isEnabled());
+    }
+
+    void columnsAreDraggedByTouch()
+    {
+        m_errand->Open();
+        QHeaderView* header = View()->horizontalHeader();
+        const int y = header->height() / 2;
+        const QPoint from(header->sectionViewportPosition(Price) + 10, y);
+        Finger(*header->viewport()).Swipe(from, { 10, y }, 100);
+        QCOMPARE(header->visualIndex(Price), 0);
+        QCOMPARE(m_errand->Lines(), u"rice salt"_s);
+        // The arrows go as the columns lie.
+        m_errand->Tap(0, Name);
+        QTest::keyClick(View(), Qt::Key_Right);
+        QCOMPARE(View()->currentIndex().column(), int { Count });
+    }
+
+    void aDoubleClickOnADividerFitsTheColumn()
+    {
+        const QString name = u"a name that is far wider than its column"_s;
+        File().Add({ name, u"1"_s, u"top"_s, u"Unchecked"_s, u"1234567890"_s });
+        m_errand->Open();
+        QHeaderView* header = View()->horizontalHeader();
+        // The counts are narrower than their title.
+        for (const auto& [column, widest] : { std::pair { Name, name },
+                 { Price, u"1,234,567,890.00"_s }, { Count, u"Quantity"_s } }) {
+            header->resizeSection(column, 150);
+            const int end = header->sectionViewportPosition(column) + 150;
+            QTest::mouseDClick(
+                header->viewport(), Qt::LeftButton, {}, { end - 1, header->height() / 2 });
+            const int text = View()->fontMetrics().horizontalAdvance(widest);
+            QVERIFY2(header->sectionSize(column) >= text, qPrintable(QString::number(text)));
+            QVERIFY(header->sectionSize(column) <= text + 40);
+        }
+    }
+
+    void widthsAndOrderAreKept()
+    {
+        m_errand->Open();
+        QHeaderView* header = View()->horizontalHeader();
+        const int usualCount = header->sectionSize(Count);
+        const int usualBio = header->sectionSize(Bio);
+        header->resizeSection(Price, 123);
+        header->moveSection(header->visualIndex(Price), 0);
+        QTest::keyClick(Page(), Qt::Key_Escape);
+        QCOMPARE(File().list.columnOrder, (std::vector<quint32> { 4, 0, 1, 2, 3, 5, 6, 7 }));
+        QCOMPARE(File().list.TableColSizes.section(u',', Price, Price), u"123"_s);
+        // Widths that are missing or absurd are the usual ones.
+        File().list.TableColSizes = u"200,-5,x,99999999999,77"_s;
+        m_errand->Open();
+        header = View()->horizontalHeader();
+        QCOMPARE(header->sectionSize(Name), 200);
+        QCOMPARE(header->sectionSize(Count), usualCount);
+        QCOMPARE(header->sectionSize(Bio), usualBio);
+        QCOMPARE(header->sectionSize(Price), 77);
+        QCOMPARE(header->visualIndex(Price), 0);
+    }
+
+    void aVanishedRowShowsErr()
+    {
+        m_errand->Open();
+        const ObjectId row = File().rows->FillRows().rows.front();
+        QVERIFY(File().rows->DeleteRow(row));
+        QTest::keyClick(View(), Qt::Key_Plus);
+        m_errand->Open();
+        RowsModel model(*File().rows, File().list, File().context);
+        model.SetRows({ row });
+        QCOMPARE(model.index(0, Price).data().toString(), u"<Err>"_s);
+        QCOMPARE(model.FactsOf(0).count, 0);
+    }
+
+    void looksFollowWarnings()
+    {
+        struct Case
+        {
+            RowFacts row;
+            QColor text;
+            QColor ground;
+            bool isItalic;
+        };
+        const QDate today(2026, 6, 15);
+        const auto in = [today](int days) { return DateToFileTime(today.addDays(days)); };
+        const QColor low(212, 130, 0);
+        const Case cases[] {
+            // Above the threshold and on it; expired today, or long ago and low as well.
+            { { 1, false, 4, in(1) }, Qt::black, Qt::white, false },
+            { { 1, false, 3, in(1) }, low, Qt::white, false },
+            { { 1, false, 4, in(0) }, Qt::red, Qt::white, false },
+            { { 1, false, -1, in(-9) }, Qt::red, Qt::white, true },
+            // An even line, and a selected one.
+            { { 2, false, 4, in(1) }, Qt::black, QColor(207, 217, 246), false },
+            { { 2, true, 0, in(-9) }, Qt::yellow, Qt::blue, true },
+        };
+        QPalette palette(Qt::white);
+        palette.setColor(QPalette::Text, Qt::black);
+        palette.setColor(QPalette::Base, Qt::white);
+        palette.setColor(QPalette::Highlight, Qt::blue);
+        palette.setColor(QPalette::HighlightedText, Qt::yellow);
+        for (const Case& subject : cases) {
+            const auto lookOf = [&](quint32 options, bool hasAlternateLines) {
+                InventoryList list;
+                list.TableOption = options;
+                list.TableWarnStart = 3;
+                return DecideRowLook(subject.row,
+                    WarningsFor(subject.row, list, *DateToFileTime(today)),
+                    ColoursFor(list, hasAlternateLines, palette));
+            };
+            const RowLook look = lookOf(kWarnOnCount | kWarnOnExpiry, true);
+            QCOMPARE(look.text, subject.text);
+            QCOMPARE(look.ground, subject.ground);
+            QCOMPARE(look.isItalic, subject.isItalic);
+            const RowLook off = lookOf(0, false);
+            QCOMPARE(off.text, subject.row.isSelected ? QColor(Qt::yellow) : QColor(Qt::black));
+            QVERIFY(!off.isItalic);
+        }
+    }
 
 private:
     std::unique_ptr<RowsErrand> m_errand;
@@ -73,443 +451,6 @@ private:
     [[nodiscard]] RowsView* Page() const { return m_errand->page; }
     [[nodiscard]] QTableView* View() const { return m_errand->View(); }
 };
-
-void RowsViewTest::init()
-{
-    m_errand = std::make_unique<RowsErrand>();
-    File().Add({ u"rice"_s, u"0"_s, u"top"_s, u"Unchecked"_s, u"3"_s });
-    File().Add({ u"salt"_s, u"5"_s, u"top"_s, u"Checked"_s, u"1"_s });
-}
-
-void RowsViewTest::theFirstLineIsSelected()
-{
-    m_errand->Open();
-    QCOMPARE(Page()->Title(), u"Pantry"_s);
-    QCOMPARE(m_errand->Lines(), u"rice salt"_s);
-    QCOMPARE(View()->currentIndex().row(), 0);
-}
-
-void RowsViewTest::aNewRowIsEnteredByKeyboard()
-{
-    m_errand->Open();
-    // Return presses the key that has the keyboard; it edits the selected row only elsewhere.
-    m_errand->Find<QWidget>(QLatin1StringView("leftKey"))->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(Stack().windowHandle(), Qt::Key_Return);
-    QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
-    m_errand->TypeInEditor(u"barley"_s, Qt::Key_Return);
-    m_errand->TypeInEditor(u"7"_s, Qt::Key_Return);
-    for (int field = Shelf; field < Expiry; ++field)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
-    m_errand->TypeInEditor(u"1/5/2027"_s, Qt::Key_Return);
-    QCOMPARE(Stack().Top(), Page());
-    // At the end, until the list is opened again.
-    QCOMPARE(m_errand->Lines(), u"rice salt barley"_s);
-    QCOMPARE(m_errand->Text(2, Count), u"7"_s);
-    QCOMPARE(m_errand->Text(2, Expiry), u"1/5/2027"_s);
-    QCOMPARE(m_errand->Stored(), u"barley rice salt"_s);
-}
-
-void RowsViewTest::whatComesBackStandsInItsPlace()
-{
-    m_errand->Open();
-    const auto comesBack = [this](const QString& name, const QString& count) {
-        Page()->ShowRestored(File().Add({ name, count }));
-    };
-    const QString before = m_errand->Lines();
-    comesBack(u"aaa"_s, u"1"_s);
-    comesBack(u"zzz"_s, u"9"_s);
-    QCOMPARE(m_errand->Lines(), u"aaa "_s + before + u" zzz"_s);
-    m_errand->TapHeader(Count);
-    comesBack(u"mmm"_s, u"-5"_s);
-    QCOMPARE(m_errand->Text(0, Name), u"mmm"_s);
-    QCOMPARE(m_errand->View()->currentIndex().row(), 0);
-}
-
-void RowsViewTest::cancellingTheEditorWritesNothing()
-{
-    m_errand->Open();
-    Page()->Trigger(Command::Modify);
-    m_errand->TypeInEditor(u"changed"_s, Qt::Key_Down);
-    Stack().Top()->Trigger(Command::Cancel);
-    Page()->Trigger(Command::New);
-    QTest::keyClick(Stack().Top(), Qt::Key_Escape);
-    QCOMPARE(Stack().Top(), Page());
-    QCOMPARE(m_errand->Stored(), u"rice salt"_s);
-}
-
-void RowsViewTest::modifyingKeepsWhatWasNotTouched()
-{
-    m_errand->Open();
-    Page()->Trigger(Command::Modify);
-    m_errand->TypeInEditor(u"brown rice"_s, Qt::Key_Down);
-    QTest::mouseClick(Stack().Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
-    QCOMPARE(m_errand->Lines(), u"brown rice salt"_s);
-    QCOMPARE(m_errand->Text(0, Price), u"3.00"_s);
-    QCOMPARE(m_errand->Stored(Shelf), u"top top"_s);
-}
-
-void RowsViewTest::countsGoToMinusOneAndBack()
-{
-    m_errand->Open();
-    QTest::keyClick(View(), Qt::Key_Minus);
-    QCOMPARE(m_errand->Text(0, Count), u"-1"_s);
-    QTest::keyClick(View(), Qt::Key_Plus);
-    QTest::keyClick(View(), Qt::Key_Plus);
-    QCOMPARE(m_errand->Text(0, Count), u"1"_s);
-    QCOMPARE(m_errand->Stored(Count), u"1 5"_s);
-}
-
-void RowsViewTest::deletingAsksWithNoAsDefault()
-{
-    m_errand->Open();
-    QTest::keyClick(View(), Qt::Key_Delete);
-    QMessageBox* box = m_errand->Message();
-    QVERIFY(box != nullptr);
-    QCOMPARE(box->text(), u"Do you want to delete the selected row?"_s);
-    QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
-    m_errand->Answer(QMessageBox::No);
-    QCOMPARE(m_errand->Lines(), u"rice salt"_s);
-    Page()->Trigger(Command::Delete);
-    m_errand->Answer(QMessageBox::Yes);
-    QCOMPARE(m_errand->Lines(), u"salt"_s);
-    QCOMPARE(m_errand->Stored(), u"salt"_s);
-}
-
-void RowsViewTest::aCopyOpensInTheEditor()
-{
-    m_errand->Open();
-    Page()->Trigger(Command::CreateCopy);
-    QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
-    QTest::mouseClick(Stack().Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
-    QCOMPARE(m_errand->Lines(), u"rice salt rice"_s);
-    QCOMPARE(View()->currentIndex().row(), 2);
-}
-
-void RowsViewTest::spaceTicksTheOnlyCheckbox()
-{
-    m_errand->Open();
-    for (const bool isTicked : { true, false }) {
-        QTest::keyClick(View(), Qt::Key_Space);
-        QCOMPARE(m_errand->IsTicked(0), isTicked);
-    }
-}
-
-void RowsViewTest::twoCheckboxesLeaveTheDoubleTapToTheEditor()
-{
-    InventoryList made = NewInventoryList();
-    made.Name = u"Tools"_s;
-    for (const quint16 number : std::initializer_list<quint16> { 10003, 10004 })
-        made.columns.push_back({ u"Box"_s, 0, MakePropertyId(number, CEVT_BOOL) });
-    File().OpenList(File().catalogue->CreateList(made).oid);
-    File().Add({ u"saw"_s, u"1"_s, u"Unchecked"_s, u"Unchecked"_s });
-    m_errand->Open();
-    m_errand->DoubleTap(0, Name);
-    QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
-    m_errand->PressOk();
-    // Space ticks the box that the arrows went to.
-    QTest::keyClick(View(), Qt::Key_Space);
-    QVERIFY(!m_errand->IsTicked(0, 2) && !m_errand->IsTicked(0, 3));
-    for (int column = Name; column < 3; ++column)
-        QTest::keyClick(View(), Qt::Key_Right);
-    QTest::keyClick(View(), Qt::Key_Space);
-    QVERIFY(!m_errand->IsTicked(0, 2) && m_errand->IsTicked(0, 3));
-}
-
-void RowsViewTest::keysMoveThroughALongList_data()
-{
-    QTest::addColumn<QList<int>>("keys");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<bool>("isAtTop");
-    QTest::newRow("down") << QList<int> { Qt::Key_Down } << 1 << true;
-    QTest::newRow("up at the top") << QList<int> { Qt::Key_Up } << 0 << true;
-    QTest::newRow("to the end") << QList<int> { Qt::Key_End } << 99 << false;
-    QTest::newRow("down at the end") << QList<int> { Qt::Key_End, Qt::Key_Down } << 99 << false;
-    QTest::newRow("there and back") << QList<int> { Qt::Key_End, Qt::Key_Home } << 0 << true;
-    QTest::newRow("pages there and back")
-        << QList<int> { Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_PageUp } << 0
-        << true;
-}
-
-void RowsViewTest::keysMoveThroughALongList()
-{
-    QFETCH(QList<int>, keys);
-    for (int i = 2; i < 100; ++i)
-        File().Add({ u"row"_s, u"1"_s, u"top"_s, u"Unchecked"_s, u"1"_s });
-    m_errand->Open();
-    for (const int key : keys)
-        QTest::keyClick(View(), static_cast<Qt::Key>(key));
-    QCOMPARE(View()->selectionModel()->selectedRows().value(0).row(), View()->currentIndex().row());
-    QTEST(View()->currentIndex().row(), "line");
-    QTEST(View()->verticalScrollBar()->value() == 0, "isAtTop");
-    const QRect line = View()->visualRect(View()->currentIndex());
-    QVERIFY(line.top() >= 0 && line.bottom() < View()->viewport()->height());
-    QCOMPARE(View()->indexAt(line.center()), View()->currentIndex());
-}
-
-void RowsViewTest::aTapOnTheHeaderSorts_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("lines");
-    QTest::newRow("text") << int { Shelf } << u"d b a c"_s;
-    QTest::newRow("whole numbers") << int { Count } << u"b d a c"_s;
-    QTest::newRow("checkboxes") << int { Bio } << u"a b d c"_s;
-    QTest::newRow("prices") << int { Price } << u"c d b a"_s;
-    QTest::newRow("dates, the missing one first") << int { Bought } << u"b c a d"_s;
-}
-
-void RowsViewTest::aTapOnTheHeaderSorts()
-{
-    QFETCH(int, column);
-    for (const ObjectId row : File().rows->FillRows().rows)
-        File().rows->DeleteRow(row);
-    File().Add({ u"a"_s, u"9"_s, u"b"_s, u"Unchecked"_s, u"10"_s, u""_s, u"1/2/2026"_s });
-    File().Add({ u"b"_s, u"-3"_s, u"Z"_s, u"Unchecked"_s, u"9"_s, u""_s, u""_s });
-    File().Add({ u"c"_s, u"10"_s, u"c"_s, u"Checked"_s, u"-1"_s, u""_s, u"12/31/2025"_s });
-    File().Add({ u"d"_s, u"2"_s, u"A"_s, u"Unchecked"_s, u"8.99"_s, u""_s, u"1/3/2026"_s });
-    m_errand->Open();
-    View()->selectRow(3);
-    for (int taps = 0; taps < 2; ++taps) {
-        m_errand->TapHeader(column);
-        QTEST(m_errand->Lines(), "lines");
-        // The selection stays with its row.
-        QCOMPARE(m_errand->Text(View()->currentIndex().row(), Name), u"d"_s);
-    }
-}
-
-void RowsViewTest::deletingTheLastRowLeavesNothingToCommand()
-{
-    m_errand->Open();
-    for (int rows = 2; rows > 0; --rows) {
-        QTest::keyClick(View(), Qt::Key_Delete);
-        m_errand->Answer(QMessageBox::Yes);
-    }
-    QCOMPARE(m_errand->Lines(), QString());
-    for (const Command command : { Command::Modify, Command::CreateCopy, Command::Delete,
-             Command::AddOne, Command::SubtractOne })
-        QVERIFY(!Page()->ActionOf(command)->isEnabled());
-    QVERIFY(Page()->ActionOf(Command::New)->isEnabled());
-}
-
-void RowsViewTest::aHoldOpensTheMenuOfTheRow()
-{
-    m_errand->Open();
-    QTest::mouseClick(View()->viewport(), Qt::RightButton, {}, m_errand->Cell(1, Name).center());
-    QContextMenuEvent hold(
-        QContextMenuEvent::Mouse, m_errand->Cell(1, Name).center(), QPoint(), {});
-    QApplication::sendEvent(View()->viewport(), &hold);
-    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    QVERIFY(menu != nullptr);
-    QStringList texts;
-    for (const QAction* action : menu->actions())
-        texts << action->text() + (action->isEnabled() ? u""_s : u"-"_s);
-    QCOMPARE(texts.join(u'|'), u"Add 1|Subtract 1||Modify...|Delete"_s);
-    menu->actions().front()->trigger();
-    QCOMPARE(m_errand->Stored(Count), u"0 6"_s);
-}
-
-void RowsViewTest::keysOpenTheMenuOfTheRow()
-{
-    m_errand->Open();
-    const auto choose = [](Qt::Key key) {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        QVERIFY(menu != nullptr);
-        QTest::keyClick(menu, key);
-        QTest::keyClick(menu, Qt::Key_Return);
-        QVERIFY(QApplication::activePopupWidget() == nullptr);
-    };
-    // What the window system makes of the menu key goes to who has the focus.
-    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint(), {});
-    QApplication::sendEvent(View(), &menuKey);
-    choose(Qt::Key_Down);
-    QCOMPARE(m_errand->Stored(Count), u"1 5"_s);
-    QTest::keyClick(View(), Qt::Key_F10, Qt::ShiftModifier);
-    choose(Qt::Key_Down);
-    QCOMPARE(m_errand->Stored(Count), u"2 5"_s);
-}
-
-void RowsViewTest::readOnlyLetsNothingChange()
-{
-    m_errand->Open({ .isReadOnly = true });
-    for (const Command command : { Command::New, Command::Modify, Command::CreateCopy,
-             Command::Delete, Command::AddOne, Command::SubtractOne })
-        QVERIFY(!Page()->ActionOf(command)->isEnabled());
-    QTest::keyClick(View(), Qt::Key_Plus);
-    m_errand->Tap(0, Bio);
-    m_errand->Tap(0, Name);
-    m_errand->DoubleTap(0, Name);
-    for (const auto key : { Qt::Key_Space, Qt::Key_Return, Qt::Key_Delete })
-        QTest::keyClick(View(), key);
-    QContextMenuEvent hold(
-        QContextMenuEvent::Mouse, m_errand->Cell(0, Name).center(), QPoint(), {});
-    QApplication::sendEvent(View()->viewport(), &hold);
-    QVERIFY(QApplication::activePopupWidget() == nullptr);
-    QCOMPARE(Stack().Top(), Page());
-    QVERIFY(m_errand->Message() == nullptr);
-    QCOMPARE(m_errand->Stored(Count), u"0 5"_s);
-    QVERIFY(!m_errand->IsTicked(0));
-    QVERIFY(Page()->ActionOf(Command::Find)->isEnabled());
-}
-
-void RowsViewTest::columnsAreDraggedByTouch()
-{
-    m_errand->Open();
-    QHeaderView* header = View()->horizontalHeader();
-    const int y = header->height() / 2;
-    const QPoint from(header->sectionViewportPosition(Price) + 10, y);
-    Finger(*header->viewport()).Swipe(from, { 10, y }, 100);
-    QCOMPARE(header->visualIndex(Price), 0);
-    QCOMPARE(m_errand->Lines(), u"rice salt"_s);
-    // The arrows go as the columns lie.
-    m_errand->Tap(0, Name);
-    QTest::keyClick(View(), Qt::Key_Right);
-    QCOMPARE(View()->currentIndex().column(), int { Count });
-}
-
-void RowsViewTest::aDoubleClickOnADividerFitsTheColumn_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("widest");
-    QTest::newRow("text") << int { Name } << u"a name that is far wider than its column"_s;
-    QTest::newRow("numbers") << int { Price } << u"1,234,567,890.00"_s;
-    QTest::newRow("narrower than its title") << int { Count } << u"Quantity"_s;
-}
-
-void RowsViewTest::aDoubleClickOnADividerFitsTheColumn()
-{
-    QFETCH(const int, column);
-    QFETCH(const QString, widest);
-    File().Add({ u"a name that is far wider than its column"_s, u"1"_s, u"top"_s, u"Unchecked"_s,
-        u"1234567890"_s });
-    m_errand->Open();
-    QHeaderView* header = View()->horizontalHeader();
-    header->resizeSection(column, 150);
-    const int end = header->sectionViewportPosition(column) + 150;
-    QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, { end - 1, header->height() / 2 });
-    const int text = View()->fontMetrics().horizontalAdvance(widest);
-    QVERIFY2(header->sectionSize(column) >= text, qPrintable(QString::number(text)));
-    QVERIFY(header->sectionSize(column) <= text + 40);
-}
-
-void RowsViewTest::widthsAndOrderAreKept()
-{
-    m_errand->Open();
-    QHeaderView* header = View()->horizontalHeader();
-    const int usualCount = header->sectionSize(Count);
-    const int usualBio = header->sectionSize(Bio);
-    header->resizeSection(Price, 123);
-    header->moveSection(header->visualIndex(Price), 0);
-    QTest::keyClick(Page(), Qt::Key_Escape);
-    QCOMPARE(File().list.columnOrder, (std::vector<quint32> { 4, 0, 1, 2, 3, 5, 6, 7 }));
-    QCOMPARE(File().list.TableColSizes.section(u',', Price, Price), u"123"_s);
-    // Widths that are missing or absurd are the usual ones.
-    File().list.TableColSizes = u"200,-5,x,99999999999,77"_s;
-    m_errand->Open();
-    header = View()->horizontalHeader();
-    QCOMPARE(header->sectionSize(Name), 200);
-    QCOMPARE(header->sectionSize(Count), usualCount);
-    QCOMPARE(header->sectionSize(Bio), usualBio);
-    QCOMPARE(header->sectionSize(Price), 77);
-    QCOMPARE(header->visualIndex(Price), 0);
-}
-
-void RowsViewTest::aVanishedRowShowsErr()
-{
-    m_errand->Open();
-    const ObjectId row = File().rows->FillRows().rows.front();
-    QVERIFY(File().rows->DeleteRow(row));
-    QTest::keyClick(View(), Qt::Key_Plus);
-    m_errand->Open();
-    RowsModel model(*File().rows, File().list, File().context);
-    model.SetRows({ row });
-    QCOMPARE(model.index(0, Price).data().toString(), u"<Err>"_s);
-    QCOMPARE(model.FactsOf(0).count, 0);
-}
-
-void RowsViewTest::looksFollowWarnings_data()
-{
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("daysLeft");
-    QTest::addColumn<bool>("isSelected");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QColor>("text");
-    QTest::addColumn<QColor>("ground");
-    QTest::addColumn<bool>("isItalic");
-    const QColor low(212, 130, 0);
-    const QColor expired(255, 0, 0);
-    const QColor plain(Qt::black);
-    const QColor white(Qt::white);
-    QTest::newRow("one above the threshold") << 4 << 1 << false << 1 << plain << white << false;
-    QTest::newRow("on the threshold") << 3 << 1 << false << 1 << low << white << false;
-    QTest::newRow("expires today") << 4 << 0 << false << 1 << expired << white << false;
-    QTest::newRow("low and expired") << -1 << -9 << false << 1 << expired << white << true;
-    QTest::newRow("an even line") << 4 << 1 << false << 2 << plain << QColor(207, 217, 246)
-                                  << false;
-    QTest::newRow("selected") << 0 << -9 << true << 2 << QColor(Qt::yellow) << QColor(Qt::blue)
-                              << true;
-}
-
-void RowsViewTest::looksFollowWarnings()
-{
-    QFETCH(int, count);
-    QFETCH(int, daysLeft);
-    QFETCH(bool, isSelected);
-    QFETCH(int, line);
-    InventoryList list;
-    list.TableOption = kWarnOnCount | kWarnOnExpiry;
-    list.TableWarnStart = 3;
-    const QDate today(2026, 6, 15);
-    const RowFacts row { line, isSelected, count, DateToFileTime(today.addDays(daysLeft)) };
-    QPalette palette(Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Highlight, Qt::blue);
-    palette.setColor(QPalette::HighlightedText, Qt::yellow);
-    const auto lookOf = [&row, &palette, today](const InventoryList& of, bool hasAlternateLines) {
-        return DecideRowLook(row, WarningsFor(row, of, *DateToFileTime(today)),
-            ColoursFor(of, hasAlternateLines, palette));
-    };
-    const RowLook look = lookOf(list, true);
-    QTEST(look.text, "text");
-    QTEST(look.ground, "ground");
-    QTEST(look.isItalic, "isItalic");
-    list.TableOption = 0;
-    const RowLook off = lookOf(list, false);
-    QCOMPARE(off.text, isSelected ? QColor(Qt::yellow) : QColor(Qt::black));
-    QVERIFY(!off.isItalic);
-}
-
-void RowsViewTest::whatChangesIsPaintedAtOnce_data()
-{
-    QTest::addColumn<QTime>("opened");
-    QTest::addColumn<QDate>("today");
-    QTest::addColumn<bool>("isAwoken");
-    QTest::newRow("midnight") << QTime(23, 59, 59, 900) << QDate(2026, 6, 16) << false;
-    QTest::newRow("the clock is set") << QTime(12, 30) << QDate(2026, 6, 2) << true;
-    QTest::newRow("a count") << QTime(12, 30) << QDate(2026, 6, 15) << false;
-}
-
-void RowsViewTest::whatChangesIsPaintedAtOnce()
-{
-    QFETCH(const QTime, opened);
-    QFETCH(const QDate, today);
-    QFETCH(const bool, isAwoken);
-    LocalTime now { QDate(2026, 6, 15), opened };
-    File().context.clock = [&now] { return now; };
-    File().list.TableOption = kWarnOnExpiry;
-    for (const auto& day : { u"6/10/2026"_s, u"6/16/2026"_s })
-        File().Add({ u"tea"_s, u"1"_s, u""_s, u""_s, u"1"_s, u"1"_s, u""_s, day });
-    m_errand->Open();
-    QTest::qWait(50);
-    const QImage before = View()->viewport()->grab().toImage();
-    const PaintCounter paints(View()->viewport());
-    now.date = today;
-    if (isAwoken)
-        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
-    else if (today == QDate(2026, 6, 15))
-        QTest::keyClick(View(), Qt::Key_Plus);
-    QTRY_VERIFY_WITH_TIMEOUT(paints.Count() > 0, 1000);
-    QVERIFY(View()->viewport()->grab().toImage() != before);
-}
 
 QUILLORY_TEST(QApplication, RowsViewTest)
 #include "rows_view_test.moc"

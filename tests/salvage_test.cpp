@@ -8,9 +8,6 @@
 
 #include <algorithm>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int kRows = 400;
@@ -135,171 +132,150 @@ class SalvageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void whatCanBeReadIsSaved_data();
-    void whatCanBeReadIsSaved();
-    void aCutFileLosesItsEnd();
-    void aListWithoutItsColumnOfNamesIsSaved();
-    void whereNothingIsLeftNothingIsMade_data();
-    void whereNothingIsLeftNothingIsMade();
-    void anyBitMayFlip();
-    void anExistingFileIsNotReplaced();
-};
-
-void SalvageTest::whatCanBeReadIsSaved_data()
-{
-    QTest::addColumn<int>("damage");
-    QTest::addColumn<QString>("saved");
-    QTest::addColumn<bool>("areListsLost");
-    QTest::newRow("nothing is damaged") << 0 << u"Pantry 401 Tools 4"_s << false;
-    QTest::newRow("a page of the index") << 1 << u"Pantry 401 Tools 4"_s << false;
-    QTest::newRow("the page above those of the rows") << 2 << u"Pantry 401 Tools 4"_s << false;
-    QTest::newRow("the page of the lists") << 3 << u"Pantry# 401 Tools# 4"_s << true;
-}
-
-void SalvageTest::whatCanBeReadIsSaved()
-{
-    QFETCH(int, damage);
-    QFETCH(QString, saved);
-    QFETCH(bool, areListsLost);
-    Damage file;
-    if (damage == 1)
-        file.FlipBit(file.PageOf(kIndexLeaf, NameOfRow(200)));
-    else if (damage == 2)
-        file.FlipBit(file.InnerPage());
-    else if (damage == 3)
-        file.FlipBit(file.PageOf(kTableLeaf, u"Pantry"_s, u"InvLists"_s));
-    const auto report = SalvageLists(file.Path(), file.Target());
-    QVERIFY(report);
-    QCOMPARE(report->mayListsBeLost, areListsLost);
-    QCOMPARE(Saved(file.Target()), saved);
-    QCOMPARE(FileBytes(file.Path()), file.bytes);
-    const auto examined = ExamineLists(file.Path());
-    QVERIFY(examined);
-    QCOMPARE(examined->lists.size(), size_t { 2 });
-    QCOMPARE(examined->lists.front().rows, kRows + 1);
-    QCOMPARE(examined->lists.front().lostRows, 0);
-}
-
-void SalvageTest::aCutFileLosesItsEnd()
-{
-    Damage whole;
-    const qsizetype rowsPage = whole.PageOf(kTableLeaf, NameOfRow(200));
-    for (const bool isCut : { false, true }) {
-        Damage file;
-        if (isCut)
-            file.bytes.truncate(rowsPage * kPageSize + 100);
-        file.Write();
-        if (!isCut)
-            file.FlipBit(rowsPage);
-        const auto report = SalvageLists(file.Path(), file.Target());
-        QVERIFY(report);
-        QCOMPARE(report->mayListsBeLost, false);
-        const SalvageReport::List& pantry = report->lists.front();
-        QCOMPARE(pantry.name, u"Pantry"_s);
-        QVERIFY(!pantry.isComplete);
-        QVERIFY2(pantry.rows < kRows && pantry.rows > kRows / 10,
-            qPrintable(QString::number(pantry.rows)));
-        if (!isCut)
-            QCOMPARE(pantry.rows + pantry.lostRows, kRows + 1);
-        QVERIFY2(Saved(file.Target()).startsWith(u"Pantry %1"_s.arg(pantry.rows)),
-            qPrintable(Saved(file.Target())));
-        QCOMPARE(FileBytes(file.Path()), file.bytes);
-    }
-}
-
-void SalvageTest::aListWithoutItsColumnOfNamesIsSaved()
-{
-    constexpr int kLists = 60;
-    ListFixture file;
-    for (int i = 0; i < kLists; ++i) {
-        InventoryList list = NewInventoryList();
-        list.Name = u"List"_s;
-        file.OpenList(file.catalogue->CreateListRedrawing(list).oid);
-        file.Add({ u"row"_s, u"7"_s });
-    }
-    file.rows.reset();
-    file.data->Unmount();
-    // The first page of columns. The first list of which the next page has something has lost its
-    // first column.
-    DamagePage(file.Path(), kIndexLeaf, u"TableWarnStart"_s);
-    const QTemporaryDir folder;
-    const QString target = folder.filePath(u"saved.idb"_s);
-    const auto report = SalvageLists(file.Path(), target);
-    QCOMPARE(report.Error(), ErrorNumber::None);
-    QVERIFY(report->lists.size() > kLists / 4 && report->lists.size() < kLists);
-    QVERIFY(!report->lists.front().isComplete);
-
-    DataVolume data;
-    QCOMPARE(data.Mount(target, Disposition::OpenExisting), ErrorNumber::None);
-    ListCatalogue catalogue(data);
-    QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
-    InventoryList list;
-    QVERIFY(catalogue.OpenList(catalogue.FindList(report->lists.front().name), list));
-    QCOMPARE(list.columns.size(), size_t { 2 });
-    const ValueContext context = TestContext();
-    RowStore store(data, list, context);
-    const ObjectId row = store.FillRows().rows.at(0);
-    QCOMPARE(store.FormatCellText(PropName, row), QString());
-    QCOMPARE(store.FormatCellText(PropCount, row), u"7"_s);
-}
-
-void SalvageTest::whereNothingIsLeftNothingIsMade_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("error");
-    Damage file;
-    QByteArray flipped = file.bytes;
-    flipped[200] = static_cast<char>(flipped[200] ^ 1);
-    QTest::newRow("the first page") << flipped << int(ErrorNumber::FileCorrupt);
-    QTest::newRow("cut within the first page")
-        << file.bytes.left(2000) << int(ErrorNumber::BadFormat);
-    QTest::newRow("no data file") << QByteArray(10'000, 'x') << int(ErrorNumber::BadFormat);
-    QTest::newRow("empty") << QByteArray() << int(ErrorNumber::BadFormat);
-    const qsizetype columns = file.PageOf(kIndexLeaf, u"Shelf"_s);
-    file.FlipBit(columns);
-    QTest::newRow("the columns of all lists") << file.bytes << int(ErrorNumber::FileCorrupt);
-}
-
-void SalvageTest::whereNothingIsLeftNothingIsMade()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(int, error);
-    Damage file;
-    file.bytes = bytes;
-    file.Write();
-    QCOMPARE(int(SalvageLists(file.Path(), file.Target()).Error()), error);
-    QVERIFY(!QFile::exists(file.Target()));
-    QCOMPARE(QDir(QFileInfo(file.Path()).path()).entryList(QDir::Files).size(), 1);
-    QCOMPARE(FileBytes(file.Path()), bytes);
-}
-
-void SalvageTest::anyBitMayFlip()
-{
-    Damage file;
-    const QByteArray sound = file.bytes;
-    qsizetype lost = 0;
-    for (qsizetype page = 1; page < sound.size() / kPageSize; ++page) {
-        file.bytes = sound;
-        file.FlipBit(page);
-        const auto report = SalvageLists(file.Path(), file.Target());
-        if (!report) {
-            ++lost;
-            continue;
+    void whatCanBeReadIsSaved()
+    {
+        enum Damaged
+        {
+            Nothing,
+            IndexPage,
+            PageAboveRows,
+            ListsPage,
+        };
+        for (const Damaged damage : { Nothing, IndexPage, PageAboveRows, ListsPage }) {
+            Damage file;
+            if (damage == IndexPage)
+                file.FlipBit(file.PageOf(kIndexLeaf, NameOfRow(200)));
+            else if (damage == PageAboveRows)
+                file.FlipBit(file.InnerPage());
+            else if (damage == ListsPage)
+                file.FlipBit(file.PageOf(kTableLeaf, u"Pantry"_s, u"InvLists"_s));
+            const auto report = SalvageLists(file.Path(), file.Target());
+            QVERIFY(report);
+            QCOMPARE(report->mayListsBeLost, damage == ListsPage);
+            QCOMPARE(Saved(file.Target()),
+                damage == ListsPage ? u"Pantry# 401 Tools# 4"_s : u"Pantry 401 Tools 4"_s);
+            QCOMPARE(FileBytes(file.Path()), file.bytes);
+            const auto examined = ExamineLists(file.Path());
+            QVERIFY(examined);
+            QCOMPARE(examined->lists.size(), size_t { 2 });
+            QCOMPARE(examined->lists.front().rows, kRows + 1);
+            QCOMPARE(examined->lists.front().lostRows, 0);
         }
-        QVERIFY2(Saved(file.Target()).startsWith(u"Pantry"_s), qPrintable(QString::number(page)));
-        QVERIFY(QFile::remove(file.Target()));
     }
-    // Without the pages that know every list's rows and columns there is nothing to save.
-    QVERIFY2(lost <= 2, qPrintable(QString::number(lost)));
-}
 
-void SalvageTest::anExistingFileIsNotReplaced()
-{
-    Damage file;
-    WriteFileBytes(file.Target(), "mine");
-    QCOMPARE(SalvageLists(file.Path(), file.Target()).Error(), ErrorNumber::FileExists);
-    QCOMPARE(FileBytes(file.Target()), "mine"_ba);
-}
+    void aCutFileLosesItsEnd()
+    {
+        Damage whole;
+        const qsizetype rowsPage = whole.PageOf(kTableLeaf, NameOfRow(200));
+        for (const bool isCut : { false, true }) {
+            Damage file;
+            if (isCut)
+                file.bytes.truncate(rowsPage * kPageSize + 100);
+            file.Write();
+            if (!isCut)
+                file.FlipBit(rowsPage);
+            const auto report = SalvageLists(file.Path(), file.Target());
+            QVERIFY(report);
+            QCOMPARE(report->mayListsBeLost, false);
+            const SalvageReport::List& pantry = report->lists.front();
+            QCOMPARE(pantry.name, u"Pantry"_s);
+            QVERIFY(!pantry.isComplete);
+            QVERIFY2(pantry.rows < kRows && pantry.rows > kRows / 10,
+                qPrintable(QString::number(pantry.rows)));
+            if (!isCut)
+                QCOMPARE(pantry.rows + pantry.lostRows, kRows + 1);
+            QVERIFY2(Saved(file.Target()).startsWith(u"Pantry %1"_s.arg(pantry.rows)),
+                qPrintable(Saved(file.Target())));
+            QCOMPARE(FileBytes(file.Path()), file.bytes);
+        }
+    }
+
+    void aListWithoutItsColumnOfNamesIsSaved()
+    {
+        constexpr int kLists = 60;
+        ListFixture file;
+        for (int i = 0; i < kLists; ++i) {
+            InventoryList list = NewInventoryList();
+            list.Name = u"List"_s;
+            file.OpenList(file.catalogue->CreateListRedrawing(list).oid);
+            file.Add({ u"row"_s, u"7"_s });
+        }
+        file.rows.reset();
+        file.data->Unmount();
+        // The first page of columns. The first list of which the next page has something has lost
+        // its first column.
+        DamagePage(file.Path(), kIndexLeaf, u"TableWarnStart"_s);
+        const QTemporaryDir folder;
+        const QString target = folder.filePath(u"saved.idb"_s);
+        const auto report = SalvageLists(file.Path(), target);
+        QCOMPARE(report.Error(), ErrorNumber::None);
+        QVERIFY(report->lists.size() > kLists / 4 && report->lists.size() < kLists);
+        QVERIFY(!report->lists.front().isComplete);
+
+        DataVolume data;
+        QCOMPARE(data.Mount(target, Disposition::OpenExisting), ErrorNumber::None);
+        ListCatalogue catalogue(data);
+        QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
+        InventoryList list;
+        QVERIFY(catalogue.OpenList(catalogue.FindList(report->lists.front().name), list));
+        QCOMPARE(list.columns.size(), size_t { 2 });
+        const ValueContext context = TestContext();
+        RowStore store(data, list, context);
+        const ObjectId row = store.FillRows().rows.at(0);
+        QCOMPARE(store.FormatCellText(PropName, row), QString());
+        QCOMPARE(store.FormatCellText(PropCount, row), u"7"_s);
+    }
+
+    void whereNothingIsLeftNothingIsMade()
+    {
+        Damage file;
+        const QByteArray whole = file.bytes;
+        QByteArray firstPage = whole;
+        firstPage[200] = static_cast<char>(firstPage[200] ^ 1);
+        // The columns of all lists.
+        file.FlipBit(file.PageOf(kIndexLeaf, u"Shelf"_s));
+        const std::pair<QByteArray, ErrorNumber> cases[] { { firstPage, ErrorNumber::FileCorrupt },
+            { file.bytes, ErrorNumber::FileCorrupt }, { whole.left(2000), ErrorNumber::BadFormat },
+            { QByteArray(10'000, 'x'), ErrorNumber::BadFormat }, { {}, ErrorNumber::BadFormat } };
+        for (const auto& [bytes, error] : cases) {
+            file.bytes = bytes;
+            file.Write();
+            QCOMPARE(SalvageLists(file.Path(), file.Target()).Error(), error);
+            QVERIFY(!QFile::exists(file.Target()));
+            QCOMPARE(QDir(QFileInfo(file.Path()).path()).entryList(QDir::Files).size(), 1);
+            QCOMPARE(FileBytes(file.Path()), bytes);
+        }
+    }
+
+    void anyBitMayFlip()
+    {
+        Damage file;
+        const QByteArray sound = file.bytes;
+        qsizetype lost = 0;
+        for (qsizetype page = 1; page < sound.size() / kPageSize; ++page) {
+            file.bytes = sound;
+            file.FlipBit(page);
+            const auto report = SalvageLists(file.Path(), file.Target());
+            if (!report) {
+                ++lost;
+                continue;
+            }
+            QVERIFY2(
+                Saved(file.Target()).startsWith(u"Pantry"_s), qPrintable(QString::number(page)));
+            QVERIFY(QFile::remove(file.Target()));
+        }
+        // Without the pages that know every list's rows and columns there is nothing to save.
+        QVERIFY2(lost <= 2, qPrintable(QString::number(lost)));
+    }
+
+    void anExistingFileIsNotReplaced()
+    {
+        Damage file;
+        WriteFileBytes(file.Target(), "mine");
+        QCOMPARE(SalvageLists(file.Path(), file.Target()).Error(), ErrorNumber::FileExists);
+        QCOMPARE(FileBytes(file.Target()), "mine"_ba);
+    }
+};
 
 QUILLORY_TEST(QCoreApplication, SalvageTest)
 #include "salvage_test.moc"

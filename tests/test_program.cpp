@@ -2,7 +2,6 @@
 #include "tests/test_program.h"
 
 #include <cstdio>
-#include <functional>
 #include <map>
 #include <string>
 #include <string_view>

@@ -30,6 +30,10 @@ template <typename Application, typename Test> int RunTest(int argc, char** argv
 
 } // namespace Quillory
 
+// Every test is written in these terms.
+using namespace Quillory;
+using namespace Qt::StringLiterals;
+
 #define QUILLORY_TEST_NAME(number) kTest##number
 #define QUILLORY_NUMBERED_TEST(number) QUILLORY_TEST_NAME(number)
 

@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tests/list_fixture.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
 #include "tests/trickle.h"
 #include "transfer/import_rows.h"
-#include "transfer/text_export.h"
 #include "transfer/text_import.h"
 
 #include <QBuffer>
-
-#include <algorithm>
-#include <utility>
-
-using namespace Quillory;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -78,279 +72,219 @@ class TextImportTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void textBecomesRows_data();
-    void textBecomesRows();
-    void fieldsAreReadByTheirColumn();
-    void aLongNarrowLineIsFollowedByWhatAnEarlierOneLeft();
-    void piecesOfAnySizeGiveTheSameRows_data();
-    void piecesOfAnySizeGiveTheSameRows();
-    void aLineTooLongIsPassedOverAndTold_data();
-    void aLineTooLongIsPassedOverAndTold();
-    void exportedRowsComeBack();
-    void longNamesAreSortedAcrossBatches();
-    void rowsAreAddedInBatches();
-    void cancellingKeepsTheRowsSoFar();
-    void anUnreadableFileKeepsTheRowsBefore();
-    void aRowTheStoreRefusesIsPassedOver();
-    void readOnlyDataEndsTheImport();
-};
-
-void TextImportTest::textBecomesRows_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("rows");
-    const auto narrow = [](const char* name, const QByteArray& bytes, const QString& rows) {
-        QTest::newRow(name) << bytes << rows;
-    };
-    narrow("an empty file is no failure", "", u""_s);
-    narrow("the mark alone fails", "\xFF\xFE", u"failed"_s);
-    narrow("half a character behind the mark fails", "\xFF\xFE\0"_ba, u"failed"_s);
-    narrow("a zero behind the mark fails", "\xFF\xFE\0\0a\0\r\0"_ba, u"failed"_s);
-    narrow("half a mark is text", "\xFF\r\n", u"0=ÿ"_s);
-    narrow("the other byte order is narrow text", "\xFE\xFF\r\n", u"0=þÿ"_s);
-    narrow("text after the last CR is dropped", "a\r\nb", u"0=a"_s);
-    narrow("a CR at the very end ends a line", "a\r", u"0=a"_s);
-    narrow("LF alone ends no line", "a\nb\n", u""_s);
-    narrow("the character after CR goes, whatever it is", "a\rXb\r\rc\r\n", u"0=a\n0=b\n0=c"_s);
-    narrow("a NUL after CR is such a character", "a\r\0b\r\n"_ba, u"0=a\n0=b"_s);
-    narrow("a NUL elsewhere ends the text", "a\r\nb\0c\r\nd\r\n"_ba, u"0=a"_s);
-    narrow("empty lines are skipped", "\r\n\r\na\r\n", u"0=a"_s);
-    narrow("TABs run together and vanish at the ends", "\t\ta\t\t5\t\r\n", u"0=a 1=5"_s);
-    narrow("a line of TABs is no row", "\t\t\r\na\r\n", u"0=a"_s);
-    narrow("fields beyond the columns are dropped", "a\t1\tb\tc\r\n", u"0=a 1=1"_s);
-    narrow("bytes go through the code page", "\x80\xE4\r\n", u"0=€ä"_s);
-    QTest::newRow("wide text") << Wide(u"ä\t1\r\n\r\n\tb\r\nlost") << u"0=ä 1=1\n0=b"_s;
-    QTest::newRow("a wide NUL ends the text") << Wide(u"a\r\nb\0\r\n"_s) << u"0=a"_s;
-    QTest::newRow("a lone surrogate is a character")
-        << Wide(u"x\xD800\r\n") << u"0=x"_s + QChar(0xD800);
-    QTest::newRow("half a CR at the end counts") << Wide(u"ab") + '\r' << u"0=ab"_s;
-    QTest::newRow("any other half character does not") << Wide(u"ab") + 'x' << u""_s;
-    QTest::newRow("a CR in the high byte is none") << Wide(u"a\x0D41\r\n") << u"0=a\x0D41"_s;
-}
-
-void TextImportTest::textBecomesRows()
-{
-    QFETCH(QByteArray, bytes);
-    QTEST(RowsOf(bytes), "rows");
-}
-
-void TextImportTest::fieldsAreReadByTheirColumn()
-{
-    const std::vector<PropertyId> columns { kDate, kPrice, kTick, kCount, kText };
-    QCOMPARE(RowsOf("2/30/2026\t1,50\tn\t12abc\tx y\r\n"
-                    "1/2/2026\tx\tN\t-7\tN\r\n"
-                    "no date\r\n",
-                 columns),
-        u"1=1.00 2=Y 3=12 4=x y\n0=1/2/2026 1=0.00 2=N 3=-7 4=N"_s);
-}
-
-void TextImportTest::aLongNarrowLineIsFollowedByWhatAnEarlierOneLeft()
-{
-    // 1024 characters hold a line; 512 of them are cleared between two.
-    const QByteArray longest = QByteArray(700, 'a') + "\tkept\t" + QByteArray(200, 'b');
-    const QByteArray half(512, 'c');
-    const QByteArray less(511, 'd');
-    QCOMPARE(RowsOf(longest + "\r\n" + half + "\r\n" + less + "\r\n", { kText }),
-        u"0=%1\n0=%2\n0=%3"_s.arg(
-            QString(700, u'a'), QString(512, u'c') + QString(188, u'a'), QString(511, u'd')));
-    // A longer line takes a new buffer, clean again.
-    QCOMPARE(
-        RowsOf(longest + "\r\n" + QByteArray(1024, 'e') + "\r\n" + QByteArray(600, 'f') + "\r\n",
-            { kText }),
-        u"0=%1\n0=%2\n0=%3"_s.arg(
-            QString(700, u'a'), QString(1024, u'e'), QString(600, u'f') + QString(424, u'e')));
-    // What was cut leaves nothing.
-    QCOMPARE(
-        RowsOf(QByteArray(3000, 'g') + "\r\n" + QByteArray(1100, 'h') + "\r\n", { kText }, 2000),
-        QString(1100, u'h').prepend(u"0="_s) + u"\nfailed"_s);
-    // Wide text is always clean.
-    QCOMPARE(RowsOf(Wide(QString(900, u'a') + u"\r\n"_s + QString(600, u'b') + u"\r\n"_s)),
-        u"0=%1\n0=%2"_s.arg(QString(900, u'a'), QString(600, u'b')));
-}
-
-void TextImportTest::piecesOfAnySizeGiveTheSameRows_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("step");
-    const QString text = u"one\t1\r\n\r\ntwo\t2\r\n"_s + QString(3000, u'x') + u"\t3\r\nend"_s;
-    for (const int step : { 1, 2, 3, 7, 4096 }) {
-        QTest::addRow("narrow by %d", step) << text.toLatin1() << step;
-        QTest::addRow("wide by %d", step) << Wide(text) << step;
-    }
-}
-
-void TextImportTest::piecesOfAnySizeGiveTheSameRows()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(int, step);
-    Trickle source(bytes, step);
-    QCOMPARE(RowsOf(source, { kText, kCount }),
-        u"0=one 1=1\n0=two 1=2\n0=%1 1=3"_s.arg(QString(3000, u'x')));
-}
-
-void TextImportTest::aLineTooLongIsPassedOverAndTold_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("rows");
-    const auto both = [](const char* name, const QString& line, const QString& row) {
-        const QString text = u"a\t1\r\n%1\r\nb\t2\r\n"_s.arg(line);
-        const QString rows
-            = row.isEmpty() ? u"0=a 1=1\n0=b 1=2\nfailed"_s : u"0=a 1=1\n%1\n0=b 1=2"_s.arg(row);
-        QTest::addRow("%s in 8-bit text", name) << text.toLatin1() << rows;
-        QTest::addRow("%s in wide text", name) << Wide(text) << rows;
-    };
-    both("ten characters", u"ab\t1234567"_s, u"0=ab 1=1234567"_s);
-    both("a field behind the wanted ones is cut", u"ab\t12345\tmore"_s, u"0=ab 1=12345"_s);
-    both("the last wanted field ends at the cut", u"ab\t1234567\tmore"_s, {});
-    both("the last wanted field goes on", u"ab\t12345678"_s, {});
-    both("a field is missing", u"abcdefghijk"_s, {});
-    both("nothing but TABs", QString(20, u'\t'), {});
-}
-
-void TextImportTest::aLineTooLongIsPassedOverAndTold()
-{
-    QFETCH(QByteArray, bytes);
-    QTEST(RowsOf(bytes, { kText, kCount }, 10), "rows");
-}
-
-void TextImportTest::exportedRowsComeBack()
-{
-    ListFixture file(u"From"_s);
-    for (int i = 0; i < 50; ++i)
-        file.Add({ u"Name %1"_s.arg(i * 37 % 50), QString::number(i - 25), u"shelf ü"_s,
-            i % 2 == 0 ? u"Checked"_s : u"Unchecked"_s, u"%1.25"_s.arg(i), u"7"_s, u"6/1/2026"_s,
-            u"12/%1/1999"_s.arg(i % 31 + 1) });
-    QBuffer first;
-    first.open(QIODevice::WriteOnly);
-    QCOMPARE(ExportRows(
-                 *file.data->OpenDatabase(ListCatalogue::kRowsType), file.list, file.context, first)
-                 .rows,
-        50);
-    file.MakeFullList(u"To"_s);
-    QCOMPARE(Import(file, first.data()).rows, 50);
-    QBuffer second;
-    second.open(QIODevice::WriteOnly);
-    QCOMPARE(ExportRows(*file.data->OpenDatabase(ListCatalogue::kRowsType), file.list, file.context,
-                 second)
-                 .rows,
-        50);
-    QCOMPARE(second.data(), first.data());
-}
-
-void TextImportTest::rowsAreAddedInBatches()
-{
-    ListFixture file(u"L"_s);
-    file.Add({ u"there before"_s });
-    QByteArray bytes;
-    for (int i = 7000; i > 0; --i)
-        bytes += QByteArray::number(i % 100) + '\t' + QByteArray::number(7000 - i) + "\r\n";
-    const ImportOutcome outcome = Import(file, bytes, {}, { 1000, 100'000 });
-    QVERIFY(outcome.result == ImportResult::Done);
-    QCOMPARE(outcome.rows, 7000);
-    file.Restart();
-    const auto rows = file.rows->FillRows().rows;
-    QCOMPARE(rows.size(), size_t { 7001 });
-    // Rows of one name stand in the order of the file, across batches too.
-    const std::vector<ObjectId> zeros(rows.begin(), rows.begin() + 70);
-    QCOMPARE(file.Cells(zeros), QStringList(70, u"0"_s).join(u' '));
-    QStringList counts;
-    for (int count = 0; count < 7000; count += 100)
-        counts << QString::number(count);
-    QCOMPARE(file.Cells(zeros, 1), counts.join(u' '));
-}
-
-void TextImportTest::longNamesAreSortedAcrossBatches()
-{
-    // Names and lines around the size of what is held of a batch in the temporary file.
-    ListFixture file(u"L"_s);
-    QStringList names;
-    QString text;
-    for (int i = 0; i < 60; ++i) {
-        names << QString(i % 3 * 16'370 + i % 7, u'n') + QString::number(i * 37 % 60);
-        text += QString(1 + i % 2 * 20'000, u's') + u'\t' + names.back() + u"\r\n"_s;
-    }
-    Trickle source(Wide(text), 100'000);
-    const ImportOutcome outcome = ImportRows(*file.data,
-        std::vector { file.Column(Shelf), PropName }, file.context, source, {}, { 4, 10'000'000 });
-    QVERIFY(outcome.result == ImportResult::Done);
-    names.sort();
-    const auto rows = file.rows->FillRows().rows;
-    QCOMPARE(file.Cells(rows), names.join(u' '));
-    // They were stored in that order.
-    QVERIFY(std::is_sorted(rows.begin(), rows.end()));
-}
-
-void TextImportTest::cancellingKeepsTheRowsSoFar()
-{
-    ListFixture file(u"L"_s);
-    const QByteArray bytes = QByteArray("a\t1\r\n").repeated(5000);
-    ImportProgress last;
-    const ImportOutcome outcome = Import(file, bytes,
-        [&last](const ImportProgress& progress) {
-            last = progress;
-            return progress.rows < 2000;
-        },
-        { 600, 100'000 });
-    QVERIFY(outcome.result == ImportResult::Cancelled);
-    QCOMPARE(last.bytesTotal, bytes.size());
-    QCOMPARE(outcome.rows, last.rows);
-    QCOMPARE(file.data->RecordCount(ListCatalogue::kRowsType), outcome.rows);
-    QVERIFY(outcome.rows >= 2000 && outcome.rows < 5000);
-}
-
-void TextImportTest::anUnreadableFileKeepsTheRowsBefore()
-{
-    class BrokenDevice : public Trickle
+    void textBecomesRows_data()
     {
-    public:
-        using Trickle::Trickle;
+        const Table<QByteArray, QString> narrow;
+        narrow("an empty file is no failure", "", u""_s);
+        narrow("the mark alone fails", "\xFF\xFE", u"failed"_s);
+        narrow("half a character behind the mark fails", "\xFF\xFE\0"_ba, u"failed"_s);
+        narrow("a zero behind the mark fails", "\xFF\xFE\0\0a\0\r\0"_ba, u"failed"_s);
+        narrow("half a mark is text", "\xFF\r\n", u"0=ÿ"_s);
+        narrow("the other byte order is narrow text", "\xFE\xFF\r\n", u"0=þÿ"_s);
+        narrow("text after the last CR is dropped", "a\r\nb", u"0=a"_s);
+        narrow("a CR at the very end ends a line", "a\r", u"0=a"_s);
+        narrow("LF alone ends no line", "a\nb\n", u""_s);
+        narrow("the character after CR goes, whatever it is", "a\rXb\r\rc\r\n", u"0=a\n0=b\n0=c"_s);
+        narrow("a NUL after CR is such a character", "a\r\0b\r\n"_ba, u"0=a\n0=b"_s);
+        narrow("a NUL elsewhere ends the text", "a\r\nb\0c\r\nd\r\n"_ba, u"0=a"_s);
+        narrow("empty lines are skipped", "\r\n\r\na\r\n", u"0=a"_s);
+        narrow("TABs run together and vanish at the ends", "\t\ta\t\t5\t\r\n", u"0=a 1=5"_s);
+        narrow("a line of TABs is no row", "\t\t\r\na\r\n", u"0=a"_s);
+        narrow("fields beyond the columns are dropped", "a\t1\tb\tc\r\n", u"0=a 1=1"_s);
+        narrow("bytes go through the code page", "\x80\xE4\r\n", u"0=€ä"_s);
+        narrow("wide text", Wide(u"ä\t1\r\n\r\n\tb\r\nlost"), u"0=ä 1=1\n0=b"_s);
+        narrow("a wide NUL ends the text", Wide(u"a\r\nb\0\r\n"_s), u"0=a"_s);
+        narrow("a lone surrogate is a character", Wide(u"x\xD800\r\n"), u"0=x"_s + QChar(0xD800));
+        narrow("half a CR at the end counts", Wide(u"ab") + '\r', u"0=ab"_s);
+        narrow("any other half character does not", Wide(u"ab") + 'x', u""_s);
+        narrow("a CR in the high byte is none", Wide(u"a\x0D41\r\n"), u"0=a\x0D41"_s);
+    }
 
-    protected:
-        qint64 readData(char* target, qint64 size) override
-        {
-            const qint64 count = Trickle::readData(target, size);
-            return count == 0 ? -1 : count;
+    void textBecomesRows()
+    {
+        const auto [bytes, rows] = Table<QByteArray, QString>::Row();
+        QCOMPARE(RowsOf(bytes), rows);
+    }
+
+    void fieldsAreReadByTheirColumn()
+    {
+        const std::vector<PropertyId> columns { kDate, kPrice, kTick, kCount, kText };
+        QCOMPARE(RowsOf("2/30/2026\t1,50\tn\t12abc\tx y\r\n"
+                        "1/2/2026\tx\tN\t-7\tN\r\n"
+                        "no date\r\n",
+                     columns),
+            u"1=1.00 2=Y 3=12 4=x y\n0=1/2/2026 1=0.00 2=N 3=-7 4=N"_s);
+    }
+
+    void aLongNarrowLineIsFollowedByWhatAnEarlierOneLeft()
+    {
+        // 1024 characters hold a line; 512 of them are cleared between two.
+        const QByteArray longest = QByteArray(700, 'a') + "\tkept\t" + QByteArray(200, 'b');
+        const QByteArray half(512, 'c');
+        const QByteArray less(511, 'd');
+        QCOMPARE(RowsOf(longest + "\r\n" + half + "\r\n" + less + "\r\n", { kText }),
+            u"0=%1\n0=%2\n0=%3"_s.arg(
+                QString(700, u'a'), QString(512, u'c') + QString(188, u'a'), QString(511, u'd')));
+        // A longer line takes a new buffer, clean again.
+        QCOMPARE(RowsOf(longest + "\r\n" + QByteArray(1024, 'e') + "\r\n" + QByteArray(600, 'f')
+                         + "\r\n",
+                     { kText }),
+            u"0=%1\n0=%2\n0=%3"_s.arg(
+                QString(700, u'a'), QString(1024, u'e'), QString(600, u'f') + QString(424, u'e')));
+        // What was cut leaves nothing.
+        QCOMPARE(RowsOf(QByteArray(3000, 'g') + "\r\n" + QByteArray(1100, 'h') + "\r\n", { kText },
+                     2000),
+            QString(1100, u'h').prepend(u"0="_s) + u"\nfailed"_s);
+        // Wide text is always clean.
+        QCOMPARE(RowsOf(Wide(QString(900, u'a') + u"\r\n"_s + QString(600, u'b') + u"\r\n"_s)),
+            u"0=%1\n0=%2"_s.arg(QString(900, u'a'), QString(600, u'b')));
+    }
+
+    void piecesOfAnySizeGiveTheSameRows()
+    {
+        const QString text = u"one\t1\r\n\r\ntwo\t2\r\n"_s + QString(3000, u'x') + u"\t3\r\nend"_s;
+        for (const int step : { 1, 2, 3, 7, 4096 }) {
+            for (const QByteArray& bytes : { text.toLatin1(), Wide(text) }) {
+                Trickle source(bytes, step);
+                QCOMPARE(RowsOf(source, { kText, kCount }),
+                    u"0=one 1=1\n0=two 1=2\n0=%1 1=3"_s.arg(QString(3000, u'x')));
+            }
         }
-    };
-    ListFixture file(u"L"_s);
-    BrokenDevice source("a\r\nb\r\n", 4);
-    const ImportOutcome outcome
-        = ImportRows(*file.data, std::vector { PropName }, file.context, source);
-    QVERIFY(outcome.result == ImportResult::Failed);
-    QCOMPARE(outcome.rows, 2);
-    QCOMPARE(file.Cells(file.rows->FillRows().rows), u"a b"_s);
-}
+    }
 
-void TextImportTest::aRowTheStoreRefusesIsPassedOver()
-{
-    ListFixture file(u"L"_s);
-    Trickle source("a\tx\r\nb\r\n", 100);
-    const ImportOutcome outcome
-        = ImportRows(*file.data, std::vector { PropName, PropName }, file.context, source);
-    QVERIFY(outcome.result == ImportResult::Done);
-    QCOMPARE(outcome.rows, 1);
-    QCOMPARE(file.Cells(file.rows->FillRows().rows), u"b"_s);
-}
+    void aLineTooLongIsPassedOverAndTold()
+    {
+        const std::pair<QString, QString> cases[] { { u"ab\t1234567"_s, u"0=ab 1=1234567"_s },
+            // A field behind the wanted ones is cut.
+            { u"ab\t12345\tmore"_s, u"0=ab 1=12345"_s },
+            // The last wanted one ends at the cut, goes on behind it, or is missing.
+            { u"ab\t1234567\tmore"_s, {} }, { u"ab\t12345678"_s, {} }, { u"abcdefghijk"_s, {} },
+            { QString(20, u'\t'), {} } };
+        for (const auto& [line, row] : cases) {
+            const QString text = u"a\t1\r\n%1\r\nb\t2\r\n"_s.arg(line);
+            const QString rows = row.isEmpty() ? u"0=a 1=1\n0=b 1=2\nfailed"_s
+                                               : u"0=a 1=1\n%1\n0=b 1=2"_s.arg(row);
+            for (const QByteArray& bytes : { text.toLatin1(), Wide(text) })
+                QCOMPARE(RowsOf(bytes, { kText, kCount }, 10), rows);
+        }
+    }
 
-void TextImportTest::readOnlyDataEndsTheImport()
-{
-    ListFixture file;
-    const ObjectId oid = file.MakeFullList(u"L"_s);
-    file.rows.reset();
-    file.data->Unmount();
-    DataVolume volume;
-    QCOMPARE(volume.Mount(file.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly),
-        ErrorNumber::None);
-    ListCatalogue catalogue(volume);
-    InventoryList list;
-    QVERIFY(catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened);
-    QVERIFY(catalogue.OpenList(oid, list));
-    Trickle source("a\r\n", 100);
-    const ImportOutcome outcome
-        = ImportRows(volume, std::vector { PropName }, file.context, source);
-    QCOMPARE(outcome.writeError, ErrorNumber::AccessDenied);
-    QCOMPARE(outcome.rows, 0);
-}
+    void longNamesAreSortedAcrossBatches()
+    {
+        // Names and lines around the size of what is held of a batch in the temporary file.
+        ListFixture file(u"L"_s);
+        QStringList names;
+        QString text;
+        for (int i = 0; i < 60; ++i) {
+            names << QString(i % 3 * 16'370 + i % 7, u'n') + QString::number(i * 37 % 60);
+            text += QString(1 + i % 2 * 20'000, u's') + u'\t' + names.back() + u"\r\n"_s;
+        }
+        Trickle source(Wide(text), 100'000);
+        const ImportOutcome outcome
+            = ImportRows(*file.data, std::vector { file.Column(Shelf), PropName }, file.context,
+                source, {}, { 4, 10'000'000 });
+        QVERIFY(outcome.result == ImportResult::Done);
+        names.sort();
+        const auto rows = file.rows->FillRows().rows;
+        QCOMPARE(file.Cells(rows), names.join(u' '));
+        // They were stored in that order.
+        QVERIFY(std::is_sorted(rows.begin(), rows.end()));
+    }
+
+    void rowsAreAddedInBatches()
+    {
+        ListFixture file(u"L"_s);
+        file.Add({ u"there before"_s });
+        QByteArray bytes;
+        for (int i = 7000; i > 0; --i)
+            bytes += QByteArray::number(i % 100) + '\t' + QByteArray::number(7000 - i) + "\r\n";
+        const ImportOutcome outcome = Import(file, bytes, {}, { 1000, 100'000 });
+        QVERIFY(outcome.result == ImportResult::Done);
+        QCOMPARE(outcome.rows, 7000);
+        file.Restart();
+        const auto rows = file.rows->FillRows().rows;
+        QCOMPARE(rows.size(), size_t { 7001 });
+        // Rows of one name stand in the order of the file, across batches too.
+        const std::vector<ObjectId> zeros(rows.begin(), rows.begin() + 70);
+        QCOMPARE(file.Cells(zeros), QStringList(70, u"0"_s).join(u' '));
+        QStringList counts;
+        for (int count = 0; count < 7000; count += 100)
+            counts << QString::number(count);
+        QCOMPARE(file.Cells(zeros, 1), counts.join(u' '));
+    }
+
+    void cancellingKeepsTheRowsSoFar()
+    {
+        ListFixture file(u"L"_s);
+        const QByteArray bytes = QByteArray("a\t1\r\n").repeated(5000);
+        ImportProgress last;
+        const ImportOutcome outcome = Import(file, bytes,
+            [&last](const ImportProgress& progress) {
+                last = progress;
+                return progress.rows < 2000;
+            },
+            { 600, 100'000 });
+        QVERIFY(outcome.result == ImportResult::Cancelled);
+        QCOMPARE(last.bytesTotal, bytes.size());
+        QCOMPARE(outcome.rows, last.rows);
+        QCOMPARE(file.data->RecordCount(ListCatalogue::kRowsType), outcome.rows);
+        QVERIFY(outcome.rows >= 2000 && outcome.rows < 5000);
+    }
+
+    void anUnreadableFileKeepsTheRowsBefore()
+    {
+        class BrokenDevice : public Trickle
+        {
+        public:
+            using Trickle::Trickle;
+
+        protected:
+            qint64 readData(char* target, qint64 size) override
+            {
+                const qint64 count = Trickle::readData(target, size);
+                return count == 0 ? -1 : count;
+            }
+        };
+        ListFixture file(u"L"_s);
+        BrokenDevice source("a\r\nb\r\n", 4);
+        const ImportOutcome outcome
+            = ImportRows(*file.data, std::vector { PropName }, file.context, source);
+        QVERIFY(outcome.result == ImportResult::Failed);
+        QCOMPARE(outcome.rows, 2);
+        QCOMPARE(file.Cells(file.rows->FillRows().rows), u"a b"_s);
+    }
+
+    void aRowTheStoreRefusesIsPassedOver()
+    {
+        ListFixture file(u"L"_s);
+        Trickle source("a\tx\r\nb\r\n", 100);
+        const ImportOutcome outcome
+            = ImportRows(*file.data, std::vector { PropName, PropName }, file.context, source);
+        QVERIFY(outcome.result == ImportResult::Done);
+        QCOMPARE(outcome.rows, 1);
+        QCOMPARE(file.Cells(file.rows->FillRows().rows), u"b"_s);
+    }
+
+    void readOnlyDataEndsTheImport()
+    {
+        ListFixture file;
+        const ObjectId oid = file.MakeFullList(u"L"_s);
+        file.rows.reset();
+        file.data->Unmount();
+        DataVolume volume;
+        QCOMPARE(volume.Mount(file.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly),
+            ErrorNumber::None);
+        ListCatalogue catalogue(volume);
+        InventoryList list;
+        QVERIFY(catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened);
+        QVERIFY(catalogue.OpenList(oid, list));
+        Trickle source("a\r\n", 100);
+        const ImportOutcome outcome
+            = ImportRows(volume, std::vector { PropName }, file.context, source);
+        QCOMPARE(outcome.writeError, ErrorNumber::AccessDenied);
+        QCOMPARE(outcome.rows, 0);
+    }
+};
 
 QUILLORY_TEST(QCoreApplication, TextImportTest)
 #include "text_import_test.moc"

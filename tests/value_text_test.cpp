@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/table.h"
 #include "tests/test_program.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
@@ -6,11 +7,6 @@
 
 #include <limits>
 #include <optional>
-#include <utility>
-
-using namespace Qt::StringLiterals;
-
-namespace Quillory {
 
 namespace {
 
@@ -31,11 +27,6 @@ ValueContext Context()
     return context;
 }
 
-PropertyValue Value(PropertyId id, PropertyVariant value)
-{
-    return { id, 0, std::move(value) };
-}
-
 FileTime DayTime(int year, int month, int day)
 {
     return DateToFileTime(QDate(year, month, day)).value();
@@ -50,209 +41,151 @@ class ValueTextTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void fileTimesCountFrom1601_data();
-    void fileTimesCountFrom1601();
-    void daysOutsideTheFileTimesHaveNone();
-    void dateNumbersCarryTheTimeOfDay_data();
-    void dateNumbersCarryTheTimeOfDay();
-    void everyDestinationHasItsText_data();
-    void everyDestinationHasItsText();
-    void aMissingValueIsEmptyOrUnchecked();
-    void pricesThatFitNoFormArePlain();
-    void typedTextsAndImportedFieldsBecomeValues_data();
-    void typedTextsAndImportedFieldsBecomeValues();
-    void textsEndAtTheFirstNul();
-    void columnTypesAreStoredAsPropertyTypes();
+    void fileTimesCountFrom1601()
+    {
+        const std::pair<QDate, quint64> cases[] { { { 1899, 12, 30 }, 94353120000000000 },
+            { { 1900, 1, 1 }, 94354848000000000 }, { { 1601, 1, 1 }, 0 },
+            { { 1970, 1, 1 }, 116444736000000000 }, { { 1980, 1, 1 }, 119600064000000000 },
+            { { 2000, 1, 1 }, 125911584000000000 }, { { 2024, 2, 29 }, 133536384000000000 },
+            { { 9999, 12, 31 }, 2650466880000000000 } };
+        for (const auto& [date, ticks] : cases) {
+            QCOMPARE(DateToFileTime(date).value().ticks, ticks);
+            QCOMPARE(FileTimeToDate({ ticks }), date);
+            QCOMPARE(FileTimeToDate({ ticks + 863'999'999'999 }), date);
+        }
+    }
+
+    void daysOutsideTheFileTimesHaveNone()
+    {
+        QVERIFY(!DateToFileTime(QDate(1600, 12, 31)));
+        QVERIFY(!DateToFileTime(QDate(100, 1, 1)));
+        QVERIFY(!DateToFileTime(QDate()));
+        QVERIFY(!FileTimeToDate(kEndOfFileTimes));
+        QVERIFY(FileTimeToDate({ kEndOfFileTimes.ticks - 1 }));
+        QVERIFY(!FileTimeToDate({ std::numeric_limits<quint64>::max() }));
+    }
+
+    void dateNumbersCarryTheTimeOfDay()
+    {
+        const std::tuple<LocalTime, quint64, double> cases[] { { { { 2002, 5, 1 }, { 12, 0 } },
+                                                                   0x01C1F107B82B6000, 37377.5 },
+            // Milliseconds do not count. Before day zero hours count down.
+            { { { 2002, 7, 26 }, { 11, 55, 32, 123 } }, 0x01C2349B580716B0,
+                37463 + (11 * 3600 + 55 * 60 + 32) / 86400.0 },
+            { { { 1899, 12, 25 }, { 6, 0 } }, 94349016000000000, -5.25 },
+            { { { 1601, 1, 1 }, { 0, 0 } }, 0, -109205.0 } };
+        for (const auto& [time, ticks, number] : cases) {
+            QCOMPARE(LocalTimeToFileTime(time).value().ticks, ticks);
+            QCOMPARE(FileTimeToDateNumber({ ticks }), number);
+        }
+    }
+
+    void everyDestinationHasItsText()
+    {
+        const std::tuple<PropertyValue, QString, QString, QString> cases[] {
+            { { kText, 0, u"A\tb"_s }, u"A\tb"_s, u"A\tb"_s, u"A\tb"_s },
+            { { kInteger, 0, -12345 }, u"-12345"_s, u"-12345"_s, u"-12345"_s },
+            { { kInteger, 0, std::numeric_limits<qint32>::min() }, u"-2147483648"_s,
+                u"-2147483648"_s, u"-2147483648"_s },
+            { { kPrice, 0, 1234.5 }, u"1,234.50"_s, u"1,234.50"_s, u"1234.50"_s },
+            { { kPrice, 0, -0.5 }, u"-0.50"_s, u"-0.50"_s, u"-0.50"_s },
+            { { kPrice, 0, std::numeric_limits<double>::infinity() }, u"1.#J"_s, u"1.#J"_s,
+                u"1.#J"_s },
+            { { kCheckbox, 0, true }, {}, u"Checked"_s, u"Y"_s },
+            { { kCheckbox, 0, false }, {}, u"Unchecked"_s, u"N"_s },
+            { { kDate, 0, DayTime(2024, 1, 5) }, u"05.01.2024"_s, u"05.01.2024"_s,
+                u"05.01.2024"_s },
+            // A file time without a day.
+            { { kDate, 0, kEndOfFileTimes }, {}, {}, {} }
+        };
+        const ValueContext context = Context();
+        for (const auto& [value, cell, edit, exported] : cases) {
+            QCOMPARE(FormatCellText(&value, value.id, context), cell);
+            QCOMPARE(FormatEditText(&value, value.id, context), edit);
+            QCOMPARE(FormatExportText(value, context), exported);
+        }
+    }
+
+    void aMissingValueIsEmptyOrUnchecked()
+    {
+        const ValueContext context = Context();
+        for (const PropertyId column : { kText, kInteger, kPrice, kDate, kCheckbox }) {
+            QCOMPARE(FormatCellText(nullptr, column, context), QString());
+            QCOMPARE(FormatEditText(nullptr, column, context),
+                column == kCheckbox ? u"Unchecked"_s : QString());
+        }
+    }
+
+    void pricesThatFitNoFormArePlain()
+    {
+        const ValueContext context = Context();
+        const PropertyValue price { kPrice, 0, 1e50 };
+        QCOMPARE(FormatCellText(&price, kPrice, context).count(u','), 16);
+        QCOMPARE(FormatEditText(&price, kPrice, context), FormatExportText(price, context));
+        const PropertyValue huge { kPrice, 0, 1e300 };
+        QCOMPARE(FormatCellText(&huge, kPrice, context), FormatExportText(huge, context));
+        QCOMPARE(FormatEditText(&huge, kPrice, context).size(), 63);
+        QCOMPARE(FormatExportText(huge, context).size(), 304);
+    }
+
+    void typedTextsAndImportedFieldsBecomeValues_data()
+    {
+        const Table<PropertyId, QString, PropertyVariant, PropertyVariant> add;
+        const auto addBoth
+            = [&](const char* name, PropertyId column, const QString& text,
+                  const PropertyVariant& value) { add(name, column, text, value, value); };
+        addBoth("letters end a number", kInteger, u"12abc"_s, qint32(12));
+        addBoth("no digits are 0", kInteger, QString(), qint32(0));
+        add("a comma is a point where typed", kPrice, u"12,5"_s, 12.5, 12.0);
+        add("every comma is a point", kPrice, u"1,234.50"_s, 1.234, 1.0);
+        addBoth("a price without digits is 0", kPrice, u"free"_s, 0.0);
+        addBoth("Checked", kCheckbox, u"Checked"_s, true);
+        add("Unchecked counts where typed", kCheckbox, u"Unchecked"_s, false, true);
+        add("N counts where imported", kCheckbox, u"N"_s, true, false);
+        addBoth("n is checked", kCheckbox, u"n"_s, true);
+        addBoth("no text is checked", kCheckbox, QString(), true);
+        addBoth("a date in the user's locale", kDate, u"2/1/2024"_s, DayTime(2024, 2, 1));
+        addBoth("a time alone is day zero", kDate, u"10:30"_s, DayTime(1899, 12, 30));
+        addBoth("30 February is nothing", kDate, u"2/30/2024"_s, {});
+        addBoth("a day before 1601 is nothing", kDate, u"12/31/1600"_s, {});
+        addBoth("no date is nothing", kDate, QString(), {});
+        addBoth("a text is kept", kText, u" Tea "_s, u" Tea "_s);
+    }
+
+    void typedTextsAndImportedFieldsBecomeValues()
+    {
+        const auto [column, text, typed, imported]
+            = Table<PropertyId, QString, PropertyVariant, PropertyVariant>::Row();
+        const auto holds = [](const std::optional<PropertyValue>& value, PropertyId id,
+                               const PropertyVariant& expected) {
+            return value ? value->id == id && value->value == expected
+                         : std::holds_alternative<std::monostate>(expected);
+        };
+        QVERIFY(holds(ParseValueText(column, text, Context()), column, typed));
+        QVERIFY(holds(ParseImportText(column, text, Context()), column, imported));
+    }
+
+    void textsEndAtTheFirstNul()
+    {
+        const QString text = u"N"_s + QChar(u'\0') + u"o"_s;
+        const auto stored = ParseValueText(kText, text, Context());
+        QVERIFY(stored && stored->value == PropertyVariant(u"N"_s));
+        const auto box = ParseImportText(kCheckbox, text, Context());
+        QVERIFY(box && box->value == PropertyVariant(false));
+    }
+
+    void columnTypesAreStoredAsPropertyTypes()
+    {
+        for (int type = 0; type < kColumnTypeCount; ++type) {
+            const auto columnType = static_cast<ColumnType>(type);
+            QCOMPARE(ColumnTypeOf(MakePropertyId(10123, StorageType(columnType))), columnType);
+        }
+        QCOMPARE(ColumnTypeOf(PropertyId {}), ColumnType::String);
+        QCOMPARE(static_cast<quint32>(PropName), 0x2711001FU);
+        QCOMPARE(static_cast<quint32>(PropCount), 0x27120003U);
+        QCOMPARE(static_cast<quint32>(PropExpiryDate), 0x27180040U);
+    }
 };
 
-void ValueTextTest::fileTimesCountFrom1601_data()
-{
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<quint64>("ticks");
-    QTest::newRow("day zero") << QDate(1899, 12, 30) << quint64(94353120000000000);
-    QTest::newRow("1900") << QDate(1900, 1, 1) << quint64(94354848000000000);
-    QTest::newRow("the first") << QDate(1601, 1, 1) << quint64(0);
-    QTest::newRow("1970") << QDate(1970, 1, 1) << quint64(116444736000000000);
-    QTest::newRow("1980") << QDate(1980, 1, 1) << quint64(119600064000000000);
-    QTest::newRow("2000") << QDate(2000, 1, 1) << quint64(125911584000000000);
-    QTest::newRow("a leap day") << QDate(2024, 2, 29) << quint64(133536384000000000);
-    QTest::newRow("the last written") << QDate(9999, 12, 31) << quint64(2650466880000000000);
-}
-
-void ValueTextTest::fileTimesCountFrom1601()
-{
-    QFETCH(const QDate, date);
-    QFETCH(const quint64, ticks);
-    QCOMPARE(DateToFileTime(date).value().ticks, ticks);
-    QCOMPARE(FileTimeToDate({ ticks }), date);
-    QCOMPARE(FileTimeToDate({ ticks + 863'999'999'999 }), date);
-}
-
-void ValueTextTest::daysOutsideTheFileTimesHaveNone()
-{
-    QVERIFY(!DateToFileTime(QDate(1600, 12, 31)));
-    QVERIFY(!DateToFileTime(QDate(100, 1, 1)));
-    QVERIFY(!DateToFileTime(QDate()));
-    QVERIFY(!FileTimeToDate(kEndOfFileTimes));
-    QVERIFY(FileTimeToDate({ kEndOfFileTimes.ticks - 1 }));
-    QVERIFY(!FileTimeToDate({ std::numeric_limits<quint64>::max() }));
-}
-
-void ValueTextTest::dateNumbersCarryTheTimeOfDay_data()
-{
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QTime>("time");
-    QTest::addColumn<quint64>("ticks");
-    QTest::addColumn<double>("number");
-    QTest::newRow("noon") << QDate(2002, 5, 1) << QTime(12, 0) << quint64(0x01C1F107B82B6000)
-                          << 37377.5;
-    QTest::newRow("milliseconds do not count")
-        << QDate(2002, 7, 26) << QTime(11, 55, 32, 123) << quint64(0x01C2349B580716B0)
-        << 37463 + (11 * 3600 + 55 * 60 + 32) / 86400.0;
-    QTest::newRow("before day zero hours count down")
-        << QDate(1899, 12, 25) << QTime(6, 0) << quint64(94349016000000000) << -5.25;
-    QTest::newRow("the first file time")
-        << QDate(1601, 1, 1) << QTime(0, 0) << quint64(0) << -109205.0;
-}
-
-void ValueTextTest::dateNumbersCarryTheTimeOfDay()
-{
-    QFETCH(const QDate, date);
-    QFETCH(const QTime, time);
-    QFETCH(const quint64, ticks);
-    QFETCH(const double, number);
-    QCOMPARE(LocalTimeToFileTime({ date, time }).value().ticks, ticks);
-    QCOMPARE(FileTimeToDateNumber({ ticks }), number);
-}
-
-void ValueTextTest::everyDestinationHasItsText_data()
-{
-    QTest::addColumn<PropertyValue>("value");
-    QTest::addColumn<QString>("cell");
-    QTest::addColumn<QString>("edit");
-    QTest::addColumn<QString>("exported");
-    const auto add = [](const char* name, const PropertyValue& value, const QString& cell,
-                         const QString& edit, const QString& exported) {
-        QTest::newRow(name) << value << cell << edit << exported;
-    };
-    add("a text", Value(kText, u"Tea\tgreen"_s), u"Tea\tgreen"_s, u"Tea\tgreen"_s, u"Tea\tgreen"_s);
-    add("a number", Value(kInteger, qint32(-12345)), u"-12345"_s, u"-12345"_s, u"-12345"_s);
-    add("the smallest number", Value(kInteger, std::numeric_limits<qint32>::min()),
-        u"-2147483648"_s, u"-2147483648"_s, u"-2147483648"_s);
-    add("a price", Value(kPrice, 1234.5), u"1,234.50"_s, u"1,234.50"_s, u"1234.50"_s);
-    add("a negative price", Value(kPrice, -0.5), u"-0.50"_s, u"-0.50"_s, u"-0.50"_s);
-    add("an endless price", Value(kPrice, std::numeric_limits<double>::infinity()), u"1.#J"_s,
-        u"1.#J"_s, u"1.#J"_s);
-    add("a checked box", Value(kCheckbox, true), QString(), u"Checked"_s, u"Y"_s);
-    add("an unchecked box", Value(kCheckbox, false), QString(), u"Unchecked"_s, u"N"_s);
-    add("a date", Value(kDate, DayTime(2024, 1, 5)), u"05.01.2024"_s, u"05.01.2024"_s,
-        u"05.01.2024"_s);
-    add("a file time without a day", Value(kDate, kEndOfFileTimes), QString(), QString(),
-        QString());
-}
-
-void ValueTextTest::everyDestinationHasItsText()
-{
-    QFETCH(const PropertyValue, value);
-    QFETCH(const QString, cell);
-    QFETCH(const QString, edit);
-    QFETCH(const QString, exported);
-    const ValueContext context = Context();
-    QCOMPARE(FormatCellText(&value, value.id, context), cell);
-    QCOMPARE(FormatEditText(&value, value.id, context), edit);
-    QCOMPARE(FormatExportText(value, context), exported);
-}
-
-void ValueTextTest::aMissingValueIsEmptyOrUnchecked()
-{
-    const ValueContext context = Context();
-    for (const PropertyId column : { kText, kInteger, kPrice, kDate, kCheckbox }) {
-        QCOMPARE(FormatCellText(nullptr, column, context), QString());
-        QCOMPARE(FormatEditText(nullptr, column, context),
-            column == kCheckbox ? u"Unchecked"_s : QString());
-    }
-}
-
-void ValueTextTest::pricesThatFitNoFormArePlain()
-{
-    const ValueContext context = Context();
-    const PropertyValue price = Value(kPrice, 1e50);
-    QCOMPARE(FormatCellText(&price, kPrice, context).count(u','), 16);
-    QCOMPARE(FormatEditText(&price, kPrice, context), FormatExportText(price, context));
-    const PropertyValue huge = Value(kPrice, 1e300);
-    QCOMPARE(FormatCellText(&huge, kPrice, context), FormatExportText(huge, context));
-    QCOMPARE(FormatEditText(&huge, kPrice, context).size(), 63);
-    QCOMPARE(FormatExportText(huge, context).size(), 304);
-}
-
-void ValueTextTest::typedTextsAndImportedFieldsBecomeValues_data()
-{
-    QTest::addColumn<PropertyId>("column");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<PropertyVariant>("typed");
-    QTest::addColumn<PropertyVariant>("imported");
-    const auto add = [](const char* name, PropertyId column, const QString& text,
-                         const PropertyVariant& typed, const PropertyVariant& imported) {
-        QTest::newRow(name) << column << text << typed << imported;
-    };
-    const auto addBoth
-        = [&](const char* name, PropertyId column, const QString& text,
-              const PropertyVariant& value) { add(name, column, text, value, value); };
-    addBoth("letters end a number", kInteger, u"12abc"_s, qint32(12));
-    addBoth("no digits are 0", kInteger, QString(), qint32(0));
-    add("a comma is a point where typed", kPrice, u"12,5"_s, 12.5, 12.0);
-    add("every comma is a point", kPrice, u"1,234.50"_s, 1.234, 1.0);
-    addBoth("a price without digits is 0", kPrice, u"free"_s, 0.0);
-    addBoth("Checked", kCheckbox, u"Checked"_s, true);
-    add("Unchecked counts where typed", kCheckbox, u"Unchecked"_s, false, true);
-    add("N counts where imported", kCheckbox, u"N"_s, true, false);
-    addBoth("n is checked", kCheckbox, u"n"_s, true);
-    addBoth("no text is checked", kCheckbox, QString(), true);
-    addBoth("a date in the user's locale", kDate, u"2/1/2024"_s, DayTime(2024, 2, 1));
-    addBoth("a time alone is day zero", kDate, u"10:30"_s, DayTime(1899, 12, 30));
-    addBoth("30 February is nothing", kDate, u"2/30/2024"_s, {});
-    addBoth("a day before 1601 is nothing", kDate, u"12/31/1600"_s, {});
-    addBoth("no date is nothing", kDate, QString(), {});
-    addBoth("a text is kept", kText, u" Tea "_s, u" Tea "_s);
-}
-
-void ValueTextTest::typedTextsAndImportedFieldsBecomeValues()
-{
-    QFETCH(const PropertyId, column);
-    QFETCH(const QString, text);
-    QFETCH(const PropertyVariant, typed);
-    QFETCH(const PropertyVariant, imported);
-    const auto check
-        = [&](const std::optional<PropertyValue>& value, const PropertyVariant& expected) {
-              return value ? value->id == column && value->value == expected
-                           : std::holds_alternative<std::monostate>(expected);
-          };
-    QVERIFY(check(ParseValueText(column, text, Context()), typed));
-    QVERIFY(check(ParseImportText(column, text, Context()), imported));
-}
-
-void ValueTextTest::textsEndAtTheFirstNul()
-{
-    const QString text = u"N"_s + QChar(u'\0') + u"o"_s;
-    const auto stored = ParseValueText(kText, text, Context());
-    QVERIFY(stored && stored->value == PropertyVariant(u"N"_s));
-    const auto box = ParseImportText(kCheckbox, text, Context());
-    QVERIFY(box && box->value == PropertyVariant(false));
-}
-
-void ValueTextTest::columnTypesAreStoredAsPropertyTypes()
-{
-    for (int type = 0; type < kColumnTypeCount; ++type) {
-        const auto columnType = static_cast<ColumnType>(type);
-        QCOMPARE(ColumnTypeOf(MakePropertyId(10123, StorageType(columnType))), columnType);
-    }
-    QCOMPARE(ColumnTypeOf(PropertyId {}), ColumnType::String);
-    QCOMPARE(static_cast<quint32>(PropName), 0x2711001FU);
-    QCOMPARE(static_cast<quint32>(PropCount), 0x27120003U);
-    QCOMPARE(static_cast<quint32>(PropExpiryDate), 0x27180040U);
-}
-
-} // namespace Quillory
-
-QUILLORY_TEST(QCoreApplication, Quillory::ValueTextTest)
+QUILLORY_TEST(QCoreApplication, ValueTextTest)
 #include "value_text_test.moc"

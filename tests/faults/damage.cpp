@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/confined_vfs.h"
-#include "tests/faults/fault_run.h"
 #include "tests/faults/sealed_file.h"
 
 #include <QSet>
@@ -8,7 +7,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <random>
 
 namespace Quillory {
 

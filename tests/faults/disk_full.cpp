@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <optional>
 
 namespace Quillory {
 
@@ -80,6 +79,15 @@ void FillDiskThrough(FaultRun& run, const Script& script, int runs)
 void FillDisk(FaultRun& run)
 {
     FillDiskThrough(run, MakeScript(run.Seed()), run.Runs());
+}
+
+void BreakImports(FaultRun& run)
+{
+    constexpr size_t kRows = 60;
+    const Script script = MakeImportScript(run.Seed(), kRows);
+    KillThrough(run, script, run.Runs() / 3);
+    LetCallsFailThrough(run, script, run.Runs() / 3);
+    FillDiskThrough(run, script, run.Runs() - run.CountSoFar());
 }
 
 } // namespace Quillory

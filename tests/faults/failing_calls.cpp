@@ -3,9 +3,7 @@
 #include "tests/faults/fault_run.h"
 #include "tests/faults/system_calls.h"
 
-#include <array>
 #include <cerrno>
-#include <optional>
 
 namespace Quillory {
 

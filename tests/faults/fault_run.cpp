@@ -29,22 +29,6 @@ void WriteFiles(const QString& folder, const Files& files)
         WriteFileBytes(folder + u'/' + QFile::decodeName(name), bytes);
 }
 
-QString JudgeBackups(const FaultRun& run, const Script& script)
-{
-    for (size_t i = 0; i < script.steps.size(); ++i) {
-        const QByteArray path = BackupPath(run.DataFile(), script.steps[i].number);
-        if (script.steps[i].action != Action::Backup || !QFile::exists(QFile::decodeName(path)))
-            continue;
-        const Reading copy = ReadDataFile(path);
-        if (copy.error != ErrorNumber::None)
-            return u"the backup of step %1 cannot be read: %2"_s.arg(i + 1).arg(
-                QLatin1StringView(ErrorPhrase(copy.error)));
-        if (copy.contents != script.After(i + 1))
-            return u"the backup of step %1 holds something else"_s.arg(i + 1);
-    }
-    return {};
-}
-
 } // namespace
 
 FaultRun::FaultRun(int runCount, quint32 firstSeed)
@@ -103,15 +87,36 @@ void FaultRun::Blame(const QString& what, const Files& evidence)
         "FAULT seed %u: %s\n  files kept in %s\n", m_seed, qPrintable(what), qPrintable(folder));
 }
 
+QString Judge(const Script& script, size_t acknowledged, const ReadByName& read)
+{
+    const auto found = read("data.idb");
+    if (!found)
+        return acknowledged == 0 ? QString() : u"the file is gone"_s;
+    const QString when = u"after %1 steps "_s.arg(acknowledged);
+    if (found->error != ErrorNumber::None)
+        return when + u"the file cannot be used: "_s + QLatin1StringView(ErrorPhrase(found->error));
+    if (!script.Allows(acknowledged, found->contents))
+        return when + u"a change is lost, or half of one is there"_s;
+    for (size_t i = 0; i < script.steps.size(); ++i) {
+        if (script.steps[i].action != Action::Backup)
+            continue;
+        const auto copy = read(BackupPath("data.idb", script.steps[i].number));
+        if (!copy && i < acknowledged)
+            return when + u"a backup is gone"_s;
+        if (copy && (copy->error != ErrorNumber::None || copy->contents != script.After(i + 1)))
+            return u"the backup of step %1 is not whole"_s.arg(i + 1);
+    }
+    return {};
+}
+
 QString Judge(const FaultRun& run, const Script& script, size_t acknowledged)
 {
-    const Reading reading = ReadDataFile(run.DataFile());
-    if (reading.error != ErrorNumber::None)
-        return u"after %1 steps the file cannot be used: %2"_s.arg(acknowledged)
-            .arg(QLatin1StringView(ErrorPhrase(reading.error)));
-    if (!script.Allows(acknowledged, reading.contents))
-        return u"after %1 steps the file holds something else"_s.arg(acknowledged);
-    return JudgeBackups(run, script);
+    return Judge(script, acknowledged, [&run](const QByteArray& name) -> std::optional<Reading> {
+        const QByteArray path = run.Folder() + '/' + name;
+        if (!QFile::exists(QFile::decodeName(path)))
+            return std::nullopt;
+        return ReadDataFile(path);
+    });
 }
 
 std::vector<Files> MakeStages(const FaultRun& run, const Script& script)

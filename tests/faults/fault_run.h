@@ -3,12 +3,11 @@
 
 #include "tests/faults/session.h"
 
-#include <QByteArray>
-#include <QString>
 #include <QTemporaryDir>
 
 #include <functional>
 #include <map>
+#include <optional>
 
 namespace Quillory {
 
@@ -51,9 +50,12 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Looks at what a fault left in the scratch folder, as the next start of the program would. Empty
-/// if it holds the acknowledged steps of the script and at most one whole transaction more, passes
-/// the check, and every backup is whole; else what is wrong.
+/// What the next start of the program would find in the file of this name; none if there is none.
+using ReadByName = std::function<std::optional<Reading>(const QByteArray& name)>;
+/// Looks at what a fault left. Empty if it holds the acknowledged steps of the script and at most
+/// one whole transaction more, passes the check, and every backup is whole; else what is wrong.
+[[nodiscard]] QString Judge(const Script& script, size_t acknowledged, const ReadByName& read);
+/// The same for the scratch folder.
 [[nodiscard]] QString Judge(const FaultRun& run, const Script& script, size_t acknowledged);
 
 /// The files before each step of the script, which is run once to make them; before the first step

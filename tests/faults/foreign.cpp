@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/confined_vfs.h"
-#include "tests/faults/fault_run.h"
 #include "tests/faults/sealed_file.h"
 
-#include <QtEndian>
-
 #include <sqlite3.h>
-
-#include <array>
-#include <random>
 
 namespace Quillory {
 
@@ -102,26 +96,16 @@ void Refuse(FaultRun& run, const QString& what, const Files& files)
         run.Blame(what + u": it is refused and changed"_s, files);
 }
 
-QByteArray BigEndian(quint32 value)
-{
-    QByteArray bytes(sizeof(value), '\0');
-    qToBigEndian(value, bytes.data());
-    return bytes;
-}
-
 /// A journal that names a journal above it, which SQLite would look for and delete.
 QByteArray JournalNaming(const QByteArray& name, quint32 recordCount, quint32 pageCount)
 {
     quint32 sum = 0;
     for (const char byte : name)
         sum += static_cast<quint32>(byte);
-    const QByteArray magic = QByteArray::fromHex("d9d505f920a163d7");
-    constexpr qsizetype kSector = 512;
     constexpr quint32 kLockPage = 262145;
-    const QByteArray head = magic + BigEndian(recordCount) + BigEndian(1) + BigEndian(pageCount)
-        + BigEndian(kSector) + BigEndian(kPageSize);
-    return head.leftJustified(kSector, '\0') + BigEndian(kLockPage) + name
-        + BigEndian(static_cast<quint32>(name.size())) + BigEndian(sum) + magic;
+    const QByteArray head = JournalHead(recordCount, 1, pageCount);
+    return head + BigEndian(kLockPage) + name + BigEndian(static_cast<quint32>(name.size()))
+        + BigEndian(sum) + head.left(8);
 }
 
 /// Journals that somebody laid beside the file. Whatever the program makes of them, it reaches no

@@ -2,11 +2,6 @@
 #include "tests/faults/doomed_process.h"
 #include "tests/faults/system_calls.h"
 
-#include <sys/wait.h>
-
-#include <csignal>
-#include <optional>
-
 namespace Quillory {
 
 using namespace Qt::StringLiterals;

@@ -4,9 +4,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 
-#include <array>
 #include <cstdio>
-#include <random>
 
 using namespace Quillory;
 

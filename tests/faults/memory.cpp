@@ -1,16 +1,77 @@
 // SPDX-License-Identifier: MIT
-#include "tests/faults/allocations.h"
 #include "tests/faults/believer.h"
+#include "tests/faults/doomed_process.h"
 
 #include <sqlite3.h>
 
-#include <memory>
+#include <algorithm>
+#include <cstdlib>
+#include <new>
 
 namespace Quillory {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr size_t kStepsAfterwards = 3;
+/// Steps that are done while allocations fail.
+constexpr size_t kStepsAtOnce = 3;
+
+/// Allocations of one kind of memory, of which there can be none from one of them on.
+struct Allocations
+{
+    int count = 0;
+    /// The allocation that fails; 0 for none.
+    int failing = 0;
+    bool isForGood = false;
+
+    /// Counts an allocation; whether it may succeed.
+    [[nodiscard]] bool IsThereSome()
+    {
+        ++count;
+        return failing == 0 || (isForGood ? count < failing : count != failing);
+    }
+};
+
+/// The scratch folder holds the files before a step: how many allocations the step makes.
+using AllocationCounter = int (*)(const FaultRun& run, const Script& script, size_t step);
+/// Looks at what is left and tells what is wrong with it; empty if nothing is.
+using Verdict = std::function<QString()>;
+/// Does the step, and what comes after it, with an allocation that fails, once or for good.
+using Exhauster = Verdict (*)(
+    const FaultRun& run, const Script& script, size_t step, const Allocations& failing);
+
+/// Makes allocations fail all over a script, as often as the run says, and blames it for what is
+/// wrong then.
+void ExhaustAllocations(FaultRun& run, AllocationCounter countIn, Exhauster exhaust)
+{
+    std::mt19937 random(run.Seed());
+    const Script script = MakeScript(run.Seed());
+    const std::vector<Files> stages = MakeStages(run, script);
+    std::vector<int> counts;
+    for (size_t step = 0; step < script.steps.size(); ++step) {
+        run.Place(stages[step]);
+        counts.push_back(countIn(run, script, step));
+    }
+    while (run.CountSoFar() < run.Runs()) {
+        const size_t step = static_cast<size_t>(run.CountSoFar()) % script.steps.size();
+        Allocations failing;
+        failing.failing = 1 + static_cast<int>(random() % static_cast<quint32>(counts[step]));
+        failing.isForGood = random() % 4 == 0;
+        run.Place(stages[step]);
+        const Verdict verdict = exhaust(run, script, step, failing);
+        run.Count();
+        // A look at the files changes them.
+        const Files left = run.Taken();
+        const QString wrong = verdict();
+        if (!wrong.isEmpty())
+            run.Blame(u"step %1, allocation %2%3: "_s.arg(step + 1)
+                          .arg(failing.failing)
+                          .arg(failing.isForGood ? u" and all after it"_s : QString())
+                    + wrong,
+                left);
+    }
+}
 
 /// SQLite's memory.
 struct Memory
@@ -60,11 +121,48 @@ Verdict ExhaustAt(
 {
     const auto believer = std::make_shared<Believer>(run.DataFile(), script, step);
     TheMemory().allocations = failing;
-    believer->Run(kStepsAfterwards);
+    believer->Run(kStepsAtOnce);
     believer->End();
     TheMemory().allocations = {};
     return
         [believer, isDoubtAllowed = failing.isForGood] { return believer->Judge(isDoubtAllowed); };
+}
+
+/// Those of `operator new`.
+Allocations theHeap;
+
+int CountHeapAllocations(const FaultRun& run, const Script& script, size_t step)
+{
+    theHeap = {};
+    Session session;
+    if (session.Start(run.DataFile()) != ErrorNumber::None)
+        qFatal("the workload cannot start");
+    for (size_t i = step; i < std::min(step + kStepsAtOnce, script.steps.size()); ++i) {
+        if (!session.Run(script.steps[i]).isDone)
+            qFatal("the workload cannot run");
+    }
+    return theHeap.count;
+}
+
+/// Ends as the command line does: what is open is closed while the exception passes by. Where it
+/// cannot pass, and where Qt does not survive it, the program dies, which is as if it were killed.
+Verdict ExhaustHeapAt(
+    const FaultRun& run, const Script& script, size_t step, const Allocations& failing)
+{
+    const Doom doom = RunDoomed(run, script, step, [&](const auto& work) {
+        // Where it is told that the exception could not pass.
+        if (std::freopen("/dev/null", "w", stderr) == nullptr)
+            return;
+        theHeap = failing;
+        try {
+            work();
+        } catch (const std::bad_alloc&) {
+            theHeap = {};
+        }
+    });
+    return [&run, &script, acknowledged = doom.acknowledged] {
+        return Judge(run, script, acknowledged);
+    };
 }
 
 } // namespace
@@ -72,12 +170,42 @@ Verdict ExhaustAt(
 void ExhaustMemory(FaultRun& run)
 {
     TakeOverMemory();
-    ExhaustAllocations(
-        run,
-        [&run](const Script& script, size_t step) { return CountAllocations(run, script, step); },
-        [&run](const Script& script, size_t step, const Allocations& failing) {
-            return ExhaustAt(run, script, step, failing);
-        });
+    ExhaustAllocations(run, CountAllocations, ExhaustAt);
+}
+
+void ExhaustHeap(FaultRun& run)
+{
+    ExhaustAllocations(run, CountHeapAllocations, ExhaustHeapAt);
 }
 
 } // namespace Quillory
+
+// In place of those of the C++ library, for this program and all that it is linked with.
+
+void* operator new(size_t size)
+{
+    const bool isThereSome = Quillory::theHeap.IsThereSome();
+    void* memory = isThereSome ? std::malloc(size == 0 ? 1 : size) : nullptr;
+    if (memory == nullptr)
+        throw std::bad_alloc();
+    return memory;
+}
+
+void* operator new(size_t size, const std::nothrow_t& /*tag*/) noexcept
+{
+    try {
+        return operator new(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, size_t /*size*/) noexcept
+{
+    std::free(memory);
+}

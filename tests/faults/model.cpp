@@ -2,7 +2,6 @@
 #include "tests/faults/model.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace Quillory {
@@ -10,6 +9,11 @@ namespace Quillory {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+bool IsOnRow(Action action)
+{
+    return action >= Action::ChangeRow && action <= Action::DeleteRow;
+}
 
 /// Draws the steps of a workload, keeping a model so that each step means something that is there.
 class ScriptWriter
@@ -140,26 +144,9 @@ std::vector<QString> Model::ListNames() const
 bool Model::CanApply(const Step& step) const
 {
     const List* list = Find(step.list);
-    switch (step.action) {
-    case Action::AddList:
-        return list == nullptr;
-    case Action::Backup:
-        return true;
-    case Action::ChangeRow:
-    case Action::AddOne:
-    case Action::Tick:
-    case Action::CopyRow:
-    case Action::DeleteRow:
-        return list != nullptr && !list->rows.empty();
-    case Action::RenameList:
-    case Action::ChangeOptions:
-    case Action::AddRow:
-    case Action::ImportRows:
-    case Action::DeleteAllRows:
-    case Action::DeleteList:
-        return list != nullptr;
-    }
-    return false;
+    if (step.action == Action::AddList || step.action == Action::Backup)
+        return step.action == Action::Backup || list == nullptr;
+    return list != nullptr && !(IsOnRow(step.action) && list->rows.empty());
 }
 
 void Model::Add(List& list, const ModelRow& row)
@@ -206,38 +193,22 @@ void Model::ApplyImport(const Step& step, size_t rowCount)
 void Model::Apply(const Step& step)
 {
     List* list = Find(step.list);
-    switch (step.action) {
-    case Action::AddList:
+    if (step.action == Action::AddList)
         m_lists.push_back({ step.list, 0, {} });
-        break;
-    case Action::RenameList:
+    else if (step.action == Action::RenameList)
         list->name = step.newName;
-        break;
-    case Action::ChangeOptions:
+    else if (step.action == Action::ChangeOptions)
         list->options = step.number;
-        break;
-    case Action::AddRow:
+    else if (step.action == Action::AddRow)
         Add(*list, step.rows.front());
-        break;
-    case Action::ImportRows:
+    else if (step.action == Action::ImportRows)
         ApplyImport(step, step.rows.size());
-        break;
-    case Action::DeleteAllRows:
+    else if (step.action == Action::DeleteAllRows)
         list->rows.clear();
-        break;
-    case Action::DeleteList:
+    else if (step.action == Action::DeleteList)
         m_lists.erase(m_lists.begin() + (list - m_lists.data()));
-        break;
-    case Action::Backup:
-        break;
-    case Action::ChangeRow:
-    case Action::AddOne:
-    case Action::Tick:
-    case Action::CopyRow:
-    case Action::DeleteRow:
+    else if (IsOnRow(step.action))
         ApplyToRow(*list, step);
-        break;
-    }
 }
 
 QByteArray Model::Contents() const

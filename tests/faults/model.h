@@ -18,6 +18,7 @@ enum class Action
     RenameList,
     ChangeOptions,
     AddRow,
+    /// From this one to DeleteRow they need a row.
     ChangeRow,
     AddOne,
     Tick,

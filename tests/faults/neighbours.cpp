@@ -5,11 +5,9 @@
 #include <QFile>
 
 #include <sqlite3.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <array>
-#include <functional>
 
 namespace Quillory {
 
@@ -25,31 +23,26 @@ public:
     /// `work` is called in the other process each time that it is asked; it answers with a sign.
     explicit Neighbour(const std::function<char()>& work)
     {
-        std::array<int, 2> toChild {};
-        std::array<int, 2> fromChild {};
-        if (pipe(toChild.data()) != 0 || pipe(fromChild.data()) != 0)
-            qFatal("no pipe");
+        std::array<int, 2> ends {};
+        if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0)
+            qFatal("no way to a neighbour");
         std::fflush(nullptr);
         m_process = fork();
         if (m_process == 0) {
-            close(toChild[1]);
-            close(fromChild[0]);
-            for (char sign = 0; read(toChild[0], &sign, 1) == 1;) {
+            close(ends[0]);
+            for (char sign = 0; read(ends[1], &sign, 1) == 1;) {
                 sign = work();
-                if (write(fromChild[1], &sign, 1) != 1)
+                if (write(ends[1], &sign, 1) != 1)
                     break;
             }
             _exit(0);
         }
-        close(toChild[0]);
-        close(fromChild[1]);
-        m_to = toChild[1];
-        m_from = fromChild[0];
+        close(ends[1]);
+        m_end = ends[0];
     }
     ~Neighbour()
     {
-        close(m_to);
-        close(m_from);
+        close(m_end);
         waitpid(m_process, nullptr, 0);
     }
     Neighbour(const Neighbour&) = delete;
@@ -59,15 +52,14 @@ public:
     [[nodiscard]] char Ask() const
     {
         char sign = '+';
-        if (write(m_to, &sign, 1) != 1 || read(m_from, &sign, 1) != 1)
+        if (write(m_end, &sign, 1) != 1 || read(m_end, &sign, 1) != 1)
             return '\0';
         return sign;
     }
 
 private:
     pid_t m_process = -1;
-    int m_to = -1;
-    int m_from = -1;
+    int m_end = -1;
 };
 
 /// The sqlite3 shell, as far as the file notices; keeps its connection from one call to the next.
@@ -119,8 +111,9 @@ QString ReaderSeesWholeSteps(const FaultRun& run, const Script& script)
 }
 
 /// A lock that somebody else holds makes a change wait, fail with its reason, and work afterwards.
-QString LockMakesChangeFail(const FaultRun& run, const Script& script, const char* locking)
+template <bool isReading> QString LockMakesChangeFail(const FaultRun& run, const Script& script)
 {
+    const char* locking = isReading ? "BEGIN; SELECT * FROM property" : "BEGIN IMMEDIATE";
     bool isLocked = false;
     Neighbour shell([&] {
         isLocked = !isLocked;
@@ -139,16 +132,6 @@ QString LockMakesChangeFail(const FaultRun& run, const Script& script, const cha
     model.Apply(AnotherList());
     const auto contents = session.Contents();
     return contents && *contents == model.Contents() ? QString() : u"the rows are others"_s;
-}
-
-QString LockOnWriting(const FaultRun& run, const Script& script)
-{
-    return LockMakesChangeFail(run, script, "BEGIN IMMEDIATE");
-}
-
-QString LockOnReading(const FaultRun& run, const Script& script)
-{
-    return LockMakesChangeFail(run, script, "BEGIN; SELECT * FROM property");
 }
 
 QString StrangersRowsAreNotShown(const FaultRun& run, const Script& script)
@@ -172,8 +155,8 @@ constexpr std::array kCases {
     &SecondProgramIsRefused,
     &ReaderSeesWholeSteps,
     &StrangersRowsAreNotShown,
-    &LockOnWriting,
-    &LockOnReading,
+    &LockMakesChangeFail<false>,
+    &LockMakesChangeFail<true>,
 };
 
 } // namespace

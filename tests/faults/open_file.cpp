@@ -4,15 +4,11 @@
 #include "tests/faults/system_calls.h"
 #include "tests/file_bytes.h"
 
-#include <QFileInfo>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
-#include <optional>
 #include <utility>
 
 namespace Quillory {
@@ -70,6 +66,8 @@ void MoveAside(const QByteArray& path)
 
 void MoveBack(const QByteArray& path)
 {
+    // What may be there is a folder.
+    rmdir(path.constData());
     rename(Aside(path).constData(), path.constData());
 }
 
@@ -85,58 +83,47 @@ void ReplaceByOther(const QByteArray& path)
     MustBeZero(rename(Other(path).constData(), path.constData()));
 }
 
-void ReplaceByFolder(const QByteArray& path)
-{
-    MoveAside(path);
-    MustBeZero(mkdir(path.constData(), 0700));
-}
-
-void RemoveFolder(const QByteArray& path)
-{
-    rmdir(path.constData());
-    MoveBack(path);
-}
-
-void ReplaceByLink(const QByteArray& path)
-{
-    MoveAside(path);
-    MustBeZero(symlink("/nowhere", path.constData()));
-}
-
-void ReplaceByEmpty(const QByteArray& path)
-{
-    MoveAside(path);
-    Write(path, {});
-}
-
 void Touch(const QByteArray& path)
 {
     utimensat(AT_FDCWD, path.constData(), nullptr, 0);
 }
 
-void CutShort(const QByteArray& path)
-{
-    MustBeZero(truncate(path.constData(), QFileInfo(QFile::decodeName(path)).size() / 2));
-}
+using Path = const QByteArray&;
 
 constexpr std::array kMischiefs {
-    Mischief {
-        "is removed", [](const QByteArray& path) { unlink(path.constData()); }, nullptr, true },
-    Mischief { "is moved away", &MoveAside, &MoveBack, true },
-    Mischief { "is replaced by a text", &ReplaceByText, &MoveBack, true },
-    Mischief { "is replaced by an empty file", &ReplaceByEmpty, &MoveBack, true },
-    Mischief { "is replaced by another data file", &ReplaceByOther, nullptr, true },
+    Mischief { "is removed", [](Path path) { unlink(path.constData()); }, nullptr, true },
+    Mischief { "is moved away", MoveAside, MoveBack, true },
+    Mischief { "is replaced by a text", ReplaceByText, MoveBack, true },
+    Mischief { "is replaced by an empty file",
+        [](Path path) {
+            MoveAside(path);
+            Write(path, {});
+        },
+        MoveBack, true },
+    Mischief { "is replaced by another data file", ReplaceByOther, nullptr, true },
     Mischief { "is overwritten by another data file",
-        [](const QByteArray& path) { Write(path, Read(Other(path))); }, nullptr, true },
-    Mischief { "is replaced by a link to nothing", &ReplaceByLink, &MoveBack, true },
-    Mischief { "is replaced by a folder", &ReplaceByFolder, &RemoveFolder, true },
+        [](Path path) { Write(path, Read(Other(path))); }, nullptr, true },
+    Mischief { "is replaced by a link to nothing",
+        [](Path path) {
+            MoveAside(path);
+            MustBeZero(symlink("/nowhere", path.constData()));
+        },
+        MoveBack, true },
+    Mischief { "is replaced by a folder",
+        [](Path path) {
+            MoveAside(path);
+            MustBeZero(mkdir(path.constData(), 0700));
+        },
+        MoveBack, true },
     Mischief { "gets a second name",
-        [](const QByteArray& path) { MustBeZero(link(path.constData(), Aside(path).constData())); },
-        [](const QByteArray& path) { unlink(Aside(path).constData()); }, false },
-    Mischief { "is touched", &Touch, &Touch, false },
-    Mischief { "is cut to half its size", &CutShort, nullptr, true },
-    Mischief { "is emptied",
-        [](const QByteArray& path) { MustBeZero(truncate(path.constData(), 0)); }, nullptr, true },
+        [](Path path) { MustBeZero(link(path.constData(), Aside(path).constData())); },
+        [](Path path) { unlink(Aside(path).constData()); }, false },
+    Mischief { "is touched", Touch, Touch, false },
+    Mischief { "is cut to half its size",
+        [](Path path) { MustBeZero(truncate(path.constData(), Read(path).size() / 2)); }, nullptr,
+        true },
+    Mischief {
+        "is emptied", [](Path path) { MustBeZero(truncate(path.constData(), 0)); }, nullptr, true },
 };
 
 /// The bytes at the path that are not the program's own, to see that they stay.

@@ -1,17 +1,237 @@
 // SPDX-License-Identifier: MIT
-#include "tests/faults/disk.h"
+#include "tests/faults/fault_run.h"
+#include "tests/faults/system_calls.h"
 
 #include <QHash>
 
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <cstring>
+#include <random>
+#include <utility>
 
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qint64 kSectorSize = 512;
+
+QByteArray NameOf(const QByteArray& path)
+{
+    return path.mid(path.lastIndexOf('/') + 1);
+}
+
+bool IsAboutNames(CallKind kind)
+{
+    return kind == CallKind::Create || kind == CallKind::Remove || kind == CallKind::Rename;
+}
+
+/// Writes down what changes the files of a folder, in order.
+class Recorder : public CallWatcher
+{
+public:
+    struct Event
+    {
+        SystemCall call;
+        /// The bytes that call.bytes no longer leads to.
+        QByteArray bytes;
+        /// How many steps were acknowledged before it.
+        size_t acknowledged = 0;
+    };
+
+    void AfterCall(const SystemCall& call) override
+    {
+        if (!call.IsMutating())
+            return;
+        const QByteArray bytes
+            = call.kind == CallKind::Write ? QByteArray(call.bytes, call.size) : QByteArray();
+        m_events.push_back({ call, bytes, m_acknowledged });
+    }
+    void Acknowledge() { ++m_acknowledged; }
+
+    [[nodiscard]] const std::vector<Event>& Events() const { return m_events; }
+
+private:
+    std::vector<Event> m_events;
+    size_t m_acknowledged = 0;
+};
+
+/// What a power cut may do to changes that no sync has covered.
+enum class Loss
+{
+    Everything,
+    Nothing,
+    /// Files have their bytes, but names are as they were at the last sync of the folder.
+    Names,
+    /// Names are there, but what was written to the files is not.
+    Bytes,
+    /// The newest changes, from a random one on.
+    Tail,
+    /// Random writes.
+    RandomWrites,
+    /// Random sectors of random writes.
+    RandomSectors,
+    /// As above, and one write was under way: its lost sectors hold junk.
+    JunkSectors,
+};
+constexpr int kLossCount = 8;
+
+/// A medium as it is between the syncs: what is safe, and what is still on its way.
+class Disk
+{
+public:
+    /// Holds these files, all of them safe.
+    explicit Disk(const Files& files)
+    {
+        for (const auto& [name, bytes] : files) {
+            m_safeNames[name] = static_cast<int>(m_safeBytes.size());
+            m_safeBytes.push_back(bytes);
+        }
+        m_names = m_safeNames;
+    }
+
+    void Apply(const Recorder::Event& event)
+    {
+        const SystemCall& call = event.call;
+        if (call.kind == CallKind::SyncFolder)
+            return MakeNamesSafe();
+        const QByteArray name = NameOf(call.path);
+        Change change { call.kind, 0, event.bytes, 0, name, NameOf(call.target) };
+        if (call.kind == CallKind::Create) {
+            change.file = static_cast<int>(m_safeBytes.size());
+            m_safeBytes.emplace_back();
+        } else {
+            const auto found = m_names.find(name);
+            if (found == m_names.end())
+                qFatal("%s changes and was never made", name.constData());
+            change.file = found->second;
+        }
+        if (call.kind == CallKind::Sync)
+            return MakeSafe(change.file);
+        change.place = call.kind == CallKind::Truncate ? call.size : call.offset;
+        if (IsAboutNames(call.kind))
+            ApplyToNames(change, m_names);
+        m_pending.push_back(std::move(change));
+    }
+    /// The files that are found after a power cut.
+    [[nodiscard]] Files AfterPowerCut(Loss loss, std::mt19937& random) const
+    {
+        const bool keepsNames = loss == Loss::Nothing || loss == Loss::Bytes;
+        const bool losesNames = loss == Loss::Everything || loss == Loss::Names;
+        const size_t count = m_pending.size();
+        // Changes of names reach the medium in their order.
+        const size_t cut = count == 0 ? 0 : random() % (count + 1);
+        const size_t junk = count == 0 ? 0 : random() % count;
+        const size_t namesEnd = keepsNames ? count : losesNames ? 0 : cut;
+        std::vector<QByteArray> contents = m_safeBytes;
+        Names names = m_safeNames;
+        for (size_t i = 0; i < count; ++i) {
+            const Change& change = m_pending[i];
+            if (IsAboutNames(change.kind)) {
+                if (i < namesEnd)
+                    ApplyToNames(change, names);
+                continue;
+            }
+            QByteArray& bytes = contents[static_cast<size_t>(change.file)];
+            const bool isSectors = loss == Loss::RandomSectors || loss == Loss::JunkSectors;
+            const bool isKept = loss == Loss::Nothing || loss == Loss::Names
+                || (loss == Loss::Tail && i < cut)
+                || (loss == Loss::RandomWrites && random() % 2 == 0);
+            if (isSectors)
+                ApplySectors(change, bytes, loss == Loss::JunkSectors && i == junk, random);
+            else if (isKept)
+                ApplyToBytes(change, bytes);
+        }
+        Files files;
+        for (const auto& [name, file] : names)
+            files[name] = contents[static_cast<size_t>(file)];
+        return files;
+    }
+
+private:
+    struct Change
+    {
+        CallKind kind {};
+        int file = 0;
+        QByteArray bytes;
+        qint64 place = 0;
+        QByteArray name;
+        QByteArray target;
+    };
+
+    using Names = std::map<QByteArray, int>;
+    std::vector<QByteArray> m_safeBytes;
+    Names m_safeNames;
+    /// The names as the running program sees them.
+    Names m_names;
+    std::vector<Change> m_pending;
+
+    void MakeSafe(int file)
+    {
+        std::erase_if(m_pending, [&](const Change& change) {
+            if (IsAboutNames(change.kind) || change.file != file)
+                return false;
+            ApplyToBytes(change, m_safeBytes[static_cast<size_t>(file)]);
+            return true;
+        });
+    }
+    void MakeNamesSafe()
+    {
+        std::erase_if(m_pending, [&](const Change& change) {
+            if (!IsAboutNames(change.kind))
+                return false;
+            ApplyToNames(change, m_safeNames);
+            return true;
+        });
+    }
+    static void ApplyToNames(const Change& change, Names& names)
+    {
+        if (change.kind == CallKind::Create) {
+            names[change.name] = change.file;
+            return;
+        }
+        const auto found = names.find(change.name);
+        if (found == names.end())
+            return;
+        if (change.kind == CallKind::Rename)
+            names[change.target] = found->second;
+        names.erase(change.name);
+    }
+    static void ApplyToBytes(const Change& change, QByteArray& bytes)
+    {
+        if (change.kind == CallKind::Truncate) {
+            bytes.resize(change.place);
+            return;
+        }
+        const qint64 end = change.place + change.bytes.size();
+        if (bytes.size() < end)
+            bytes.append(end - bytes.size(), '\0');
+        std::memcpy(bytes.data() + change.place, change.bytes.constData(),
+            static_cast<size_t>(change.bytes.size()));
+    }
+    static void ApplySectors(
+        const Change& change, QByteArray& bytes, bool isJunkLeft, std::mt19937& random)
+    {
+        if (change.kind == CallKind::Truncate)
+            return ApplyToBytes(change, bytes);
+        const qint64 end = change.place + change.bytes.size();
+        for (qint64 begin = change.place; begin < end;) {
+            const qint64 sectorEnd = std::min((begin / kSectorSize + 1) * kSectorSize, end);
+            Change sector = change;
+            sector.place = begin;
+            sector.bytes = change.bytes.mid(begin - change.place, sectorEnd - begin);
+            const bool isKept = random() % 2 == 0;
+            if (!isKept && isJunkLeft)
+                sector.bytes.fill(static_cast<char>(random()));
+            if (isKept || isJunkLeft)
+                ApplyToBytes(sector, bytes);
+            begin = sectorEnd;
+        }
+    }
+};
 
 /// Of so many images that need recovery one has its recovery cut too.
 constexpr quint32 kRecoveryShare = 40;
@@ -45,37 +265,17 @@ private:
     std::map<size_t, Reading> m_readings;
 };
 
-const QByteArray* Find(const Files& files, const QByteArray& name)
-{
-    const auto found = files.find(name);
-    return found == files.end() ? nullptr : &found->second;
-}
-
 /// What is wrong with the files that a power cut left; empty if nothing is.
 QString JudgeImage(
     ImageReader& reader, const Script& script, size_t acknowledged, const Files& image)
 {
-    const QByteArray* file = Find(image, "data.idb");
-    if (file == nullptr)
-        return acknowledged == 0 ? QString() : u"the file is gone"_s;
-    const Reading& reading = reader.Read(*file, Find(image, "data.idb-journal"));
-    if (reading.error != ErrorNumber::None)
-        return u"the file cannot be used: "_s + QLatin1StringView(ErrorPhrase(reading.error));
-    if (!script.Allows(acknowledged, reading.contents))
-        return u"an acknowledged change is lost, or half of one is there"_s;
-    for (size_t i = 0; i < script.steps.size(); ++i) {
-        if (script.steps[i].action != Action::Backup)
-            continue;
-        const QByteArray* copy = Find(image, BackupPath("data.idb", script.steps[i].number));
-        if (copy == nullptr && i < acknowledged)
-            return u"a backup is gone"_s;
-        if (copy == nullptr)
-            continue;
-        const Reading& copied = reader.Read(*copy, nullptr);
-        if (copied.error != ErrorNumber::None || copied.contents != script.After(i + 1))
-            return u"a backup is not whole"_s;
-    }
-    return {};
+    return Judge(script, acknowledged, [&](const QByteArray& name) -> std::optional<Reading> {
+        const auto file = image.find(name);
+        const auto journal = image.find(name + "-journal");
+        if (file == image.end())
+            return std::nullopt;
+        return reader.Read(file->second, journal == image.end() ? nullptr : &journal->second);
+    });
 }
 
 /// The connection that was opened last.

@@ -3,6 +3,8 @@
 
 #include "propdb/confined_vfs.h"
 
+#include <QtEndian>
+
 #include <xxhash.h>
 
 #include <cstring>
@@ -34,6 +36,21 @@ void SealAllPages(QByteArray& file)
 {
     for (qsizetype page = 0; (page + 1) * kPageSize <= file.size(); ++page)
         SealPage(file, page);
+}
+
+QByteArray BigEndian(quint32 value)
+{
+    QByteArray bytes(sizeof(value), '\0');
+    qToBigEndian(value, bytes.data());
+    return bytes;
+}
+
+QByteArray JournalHead(quint32 recordCount, quint32 nonce, quint32 pageCount)
+{
+    constexpr qsizetype kSectorSize = 512;
+    const QByteArray head = QByteArray::fromHex("d9d505f920a163d7") + BigEndian(recordCount)
+        + BigEndian(nonce) + BigEndian(pageCount) + BigEndian(kSectorSize) + BigEndian(kPageSize);
+    return head.leftJustified(kSectorSize, '\0');
 }
 
 } // namespace Quillory

@@ -3,8 +3,6 @@
 
 #include "tests/faults/fault_run.h"
 
-#include <QByteArray>
-
 namespace Quillory {
 
 /// The bytes of a data file in which a script of this seed was carried out, and what it holds.
@@ -20,5 +18,9 @@ struct SampleFile
 void SealBytes(char* page, quint32 number);
 void SealPage(QByteArray& file, qsizetype page);
 void SealAllPages(QByteArray& file);
+
+/// Of a rollback journal: a number in it, and the header, which fills a sector.
+[[nodiscard]] QByteArray BigEndian(quint32 value);
+[[nodiscard]] QByteArray JournalHead(quint32 recordCount, quint32 nonce, quint32 pageCount);
 
 } // namespace Quillory

@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tests/faults/session.h"
 
-#include "store/row_store.h"
 #include "tests/list_fixture.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
-#include "values/column_type.h"
 
 #include <QBuffer>
 #include <QFile>
 #include <QtEndian>
-
-#include <array>
-#include <utility>
 
 namespace Quillory {
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/faults/system_calls.h"
 
+#include <QScopedValueRollback>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -41,22 +43,6 @@ Watch* ActiveWatch()
     return watch == nullptr || watch->isBusy ? nullptr : watch;
 }
 
-class BusyScope
-{
-public:
-    explicit BusyScope(Watch& watch)
-        : m_watch(watch)
-    {
-        m_watch.isBusy = true;
-    }
-    ~BusyScope() { m_watch.isBusy = false; }
-    BusyScope(const BusyScope&) = delete;
-    BusyScope& operator=(const BusyScope&) = delete;
-
-private:
-    Watch& m_watch;
-};
-
 bool IsBelow(const QByteArray& path, const QByteArray& folder)
 {
     return path.startsWith(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
@@ -69,7 +55,7 @@ template <typename Real> long Perform(SystemCall call, const Real& real)
     Watch* watch = ActiveWatch();
     if (watch == nullptr || call.path.isNull() || !IsBelow(call.path, watch->folder))
         return real(call.size);
-    const BusyScope busy(*watch);
+    const QScopedValueRollback busy(watch->isBusy, true);
     const auto fault = watch->watcher->BeforeCall(call);
     if (!fault) {
         const long result = real(call.size);
@@ -198,26 +184,6 @@ int Control(int descriptor, int command, long argument)
 
 } // namespace
 
-bool SystemCall::IsMutating() const
-{
-    switch (kind) {
-    case CallKind::Create:
-    case CallKind::Write:
-    case CallKind::Truncate:
-    case CallKind::Sync:
-    case CallKind::SyncFolder:
-    case CallKind::Remove:
-    case CallKind::Rename:
-        return true;
-    case CallKind::Open:
-    case CallKind::Read:
-    case CallKind::Lock:
-    case CallKind::Look:
-        return false;
-    }
-    return false;
-}
-
 WatchScope::WatchScope(const QByteArray& folder, CallWatcher& watcher)
 {
     if (CurrentWatch() != nullptr)
@@ -235,19 +201,11 @@ WatchScope::~WatchScope()
 } // namespace Quillory
 
 // NOLINTBEGIN(readability-identifier-naming, readability-inconsistent-declaration-parameter-name):
-// the names of the C library. Those with 64 are what libraries built for large files call.
+// the names of the C library. Those with 64 are what libraries built for large files call; sizes
+// are the same here.
 extern "C" {
 
 int open(const char* path, int flags, ...)
-{
-    va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
-    va_end(arguments);
-    return Quillory::OpenFile(path, flags, mode);
-}
-
-int open64(const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
@@ -272,23 +230,9 @@ int fcntl(int descriptor, int command, ...)
     return Quillory::Control(descriptor, command, argument);
 }
 
-int fcntl64(int descriptor, int command, ...)
-{
-    va_list arguments;
-    va_start(arguments, command);
-    const long argument = va_arg(arguments, long);
-    va_end(arguments);
-    return Quillory::Control(descriptor, command, argument);
-}
-
 int stat(const char* path, struct stat* status) noexcept
 {
     return Quillory::LookAt(path, status, 0);
-}
-
-int stat64(const char* path, struct stat64* status) noexcept
-{
-    return Quillory::LookAt(path, reinterpret_cast<struct stat*>(status), 0);
 }
 
 int lstat(const char* path, struct stat* status) noexcept
@@ -296,19 +240,9 @@ int lstat(const char* path, struct stat* status) noexcept
     return Quillory::LookAt(path, status, AT_SYMLINK_NOFOLLOW);
 }
 
-int lstat64(const char* path, struct stat64* status) noexcept
-{
-    return Quillory::LookAt(path, reinterpret_cast<struct stat*>(status), AT_SYMLINK_NOFOLLOW);
-}
-
 int fstat(int descriptor, struct stat* status) noexcept
 {
     return Quillory::LookAtOpen(descriptor, status);
-}
-
-int fstat64(int descriptor, struct stat64* status) noexcept
-{
-    return Quillory::LookAtOpen(descriptor, reinterpret_cast<struct stat*>(status));
 }
 
 int access(const char* path, int mode) noexcept
@@ -318,11 +252,6 @@ int access(const char* path, int mode) noexcept
 }
 
 ssize_t pread(int descriptor, void* buffer, size_t size, off_t offset)
-{
-    return Quillory::ReadAt(descriptor, buffer, size, offset);
-}
-
-ssize_t pread64(int descriptor, void* buffer, size_t size, off64_t offset)
 {
     return Quillory::ReadAt(descriptor, buffer, size, offset);
 }
@@ -362,6 +291,25 @@ int renameat2(
     int /*fromFolder*/, const char* from, int /*toFolder*/, const char* to, unsigned flags) noexcept
 {
     return Quillory::RenameFile(from, to, flags);
+}
+
+int open64(const char* path, int flags, ...) __attribute__((alias("open")));
+int fcntl64(int descriptor, int command, ...) __attribute__((alias("fcntl")));
+ssize_t pread64(int, void*, size_t, off64_t) __attribute__((alias("pread")));
+
+int stat64(const char* path, struct stat64* status) noexcept
+{
+    return stat(path, reinterpret_cast<struct stat*>(status));
+}
+
+int lstat64(const char* path, struct stat64* status) noexcept
+{
+    return lstat(path, reinterpret_cast<struct stat*>(status));
+}
+
+int fstat64(int descriptor, struct stat64* status) noexcept
+{
+    return fstat(descriptor, reinterpret_cast<struct stat*>(status));
 }
 
 } // extern "C"

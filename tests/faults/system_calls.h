@@ -11,18 +11,18 @@ enum class CallKind
 {
     /// Opens a file that is there.
     Open,
-    /// Opens a file that is made by it.
-    Create,
     Read,
+    Lock,
+    /// Asks about a file without opening it, or about one that is open.
+    Look,
+    /// Opens a file that is made by it. From here on they change what is on the medium, or when.
+    Create,
     Write,
     Truncate,
     Sync,
     SyncFolder,
     Remove,
     Rename,
-    Lock,
-    /// Asks about a file without opening it, or about one that is open.
-    Look,
 };
 
 /// One call of the operating system on a file below the watched folder.
@@ -39,7 +39,7 @@ struct SystemCall
     qint64 offset = 0;
 
     /// Whether the call changes what is on the medium, or when it is.
-    [[nodiscard]] bool IsMutating() const;
+    [[nodiscard]] bool IsMutating() const { return kind >= CallKind::Create; }
 };
 
 /// What happens in place of a call.

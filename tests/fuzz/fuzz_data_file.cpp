@@ -1,15 +1,185 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/confined_vfs.h"
 #include "store/salvage.h"
-#include "tests/faults/fault_run.h"
+#include "tests/faults/sealed_file.h"
 #include "tests/fuzz/fuzz_context.h"
-#include "tests/fuzz/hostile_file.h"
 
 #include <QFile>
+#include <QtEndian>
+
+#include <random>
+#include <span>
+
+/// Of libFuzzer: changes `size` bytes, or makes up to `maxSize` of them, and returns how many.
+extern "C" size_t LLVMFuzzerMutate(uint8_t* data, size_t size, size_t maxSize);
 
 using namespace Quillory;
 
 namespace {
+
+constexpr qsizetype kSectorSize = 512;
+constexpr size_t kSizeBytes = 2;
+
+/// Where the parts of a journal lie: a header that fills a sector, and records.
+constexpr qsizetype kNoncePlace = 12;
+constexpr qsizetype kPageNumberSize = 4;
+constexpr qsizetype kRecordSize = kPageNumberSize + kPageSize + 4;
+
+/// The sum that stands behind a page in a journal.
+quint32 JournalSum(const char* page, quint32 nonce)
+{
+    constexpr qsizetype kStep = 200;
+    quint32 sum = nonce;
+    for (qsizetype place = kPageSize - kStep; place > 0; place -= kStep)
+        sum += static_cast<quint8>(page[place]);
+    return sum;
+}
+
+/// A data file and the journal beside it, if that is not empty, as one input of a fuzzer.
+struct HostileFile
+{
+    QByteArray file;
+    QByteArray journal;
+
+    /// Two bytes tell how many sectors of 512 bytes the file has; the journal follows it.
+    [[nodiscard]] static HostileFile FromInput(std::span<const quint8> input)
+    {
+        HostileFile hostile;
+        if (input.size() < kSizeBytes)
+            return hostile;
+        const size_t wanted = qFromLittleEndian<quint16>(input.data()) * size_t { kSectorSize };
+        const auto bytes = input.subspan(kSizeBytes);
+        const auto file = bytes.first(std::min(wanted, bytes.size()));
+        hostile.file = QByteArray(reinterpret_cast<const char*>(file.data()), std::ssize(file));
+        const auto journal = bytes.subspan(file.size());
+        hostile.journal
+            = QByteArray(reinterpret_cast<const char*>(journal.data()), std::ssize(journal));
+        return hostile;
+    }
+    /// Writes as much of it as there is room for; returns how much that is.
+    [[nodiscard]] size_t ToInput(std::span<quint8> input) const
+    {
+        const auto sectors = static_cast<quint16>(file.size() / kSectorSize);
+        QByteArray bytes(kSizeBytes, '\0');
+        qToLittleEndian(sectors, bytes.data());
+        bytes += file.left(sectors * kSectorSize) + journal;
+        const size_t size = std::min(input.size(), static_cast<size_t>(bytes.size()));
+        std::copy_n(bytes.constData(), size, input.begin());
+        return size;
+    }
+};
+
+/// The journal of a transaction that makes `after` of the file `before`.
+QByteArray MakeJournal(const QByteArray& before, const QByteArray& after)
+{
+    constexpr quint32 kNonce = 1;
+    QByteArray records;
+    quint32 count = 0;
+    for (qsizetype begin = 0; begin + kPageSize <= before.size(); begin += kPageSize) {
+        const QByteArray page = before.mid(begin, kPageSize);
+        if (page == after.mid(begin, kPageSize))
+            continue;
+        const auto number = static_cast<quint32>(begin / kPageSize + 1);
+        records += BigEndian(number) + page + BigEndian(JournalSum(page.constData(), kNonce));
+        ++count;
+    }
+    return JournalHead(count, kNonce, static_cast<quint32>(before.size() / kPageSize)) + records;
+}
+
+/// Spoils files so that the damage gets past the checksums, as somebody would who knows the format.
+class Spoiler
+{
+public:
+    /// `samples` are what to begin with.
+    Spoiler(const std::vector<HostileFile>& samples, quint32 seed)
+        : m_samples(samples)
+        , m_random(seed)
+    { }
+
+    [[nodiscard]] HostileFile SomeSample()
+    {
+        return m_samples[static_cast<size_t>(Below(std::ssize(m_samples)))];
+    }
+    /// One change of the file or its journal.
+    void Spoil(HostileFile& hostile)
+    {
+        constexpr int kWays = 16;
+        const qsizetype way = Below(kWays);
+        if (way == 0)
+            Resize(hostile.file);
+        else if (way == 1)
+            MovePage(hostile.file);
+        else if (way == 2)
+            Resize(hostile.journal);
+        else if (way == 3)
+            hostile.journal = MakeJournal(SomeSample().file, hostile.file);
+        else if (way < 8)
+            SpoilJournal(hostile.journal);
+        else
+            SpoilPage(hostile.file);
+    }
+
+private:
+    const std::vector<HostileFile>& m_samples;
+    std::mt19937 m_random;
+
+    [[nodiscard]] qsizetype Below(qsizetype limit)
+    {
+        return limit <= 0 ? 0 : static_cast<qsizetype>(m_random()) % limit;
+    }
+    void SpoilPage(QByteArray& file)
+    {
+        // The head of a page says where everything on it lies.
+        constexpr qsizetype kHeadSize = 120;
+        constexpr int kSeldom = 8;
+        const qsizetype page = Below(file.size() / kPageSize);
+        const bool isHead = Below(2) == 0;
+        const qsizetype begin = isHead ? 0 : Below(kPageSize);
+        SpoilBytes(file, page * kPageSize + begin, isHead ? kHeadSize : kPageSize - begin);
+        if (file.size() >= (page + 1) * kPageSize && Below(kSeldom) != 0)
+            SealPage(file, page);
+    }
+    void MovePage(QByteArray& file)
+    {
+        const qsizetype pages = file.size() / kPageSize;
+        if (pages == 0)
+            return;
+        const qsizetype target = Below(pages);
+        file.replace(target * kPageSize, kPageSize, file.mid(Below(pages) * kPageSize, kPageSize));
+        SealPage(file, target);
+    }
+    void Resize(QByteArray& bytes)
+    {
+        if (Below(4) == 0)
+            bytes.clear();
+        else if (Below(2) == 0)
+            bytes.truncate(Below(bytes.size()) / kSectorSize * kSectorSize);
+        else
+            bytes += bytes.left(kPageSize * (1 + Below(3)));
+    }
+    void SpoilJournal(QByteArray& journal)
+    {
+        const qsizetype records = (journal.size() - kSectorSize) / kRecordSize;
+        if (records <= 0 || Below(3) == 0)
+            return SpoilBytes(journal, 0, Below(2) == 0 ? kSectorSize / 8 : journal.size());
+        const qsizetype begin = kSectorSize + Below(records) * kRecordSize;
+        const qsizetype part = Below(3) == 0 ? 0 : Below(kRecordSize);
+        SpoilBytes(journal, begin + part, std::min(kRecordSize - part, 1 + Below(kRecordSize)));
+        char* const page = journal.data() + begin + kPageNumberSize;
+        SealBytes(page, qFromBigEndian<quint32>(journal.constData() + begin));
+        const auto nonce = qFromBigEndian<quint32>(journal.constData() + kNoncePlace);
+        qToBigEndian(JournalSum(page, nonce), page + kPageSize);
+    }
+    void SpoilBytes(QByteArray& bytes, qsizetype begin, qsizetype size)
+    {
+        QByteArray part = bytes.mid(begin, size);
+        const auto length = static_cast<size_t>(part.size());
+        if (length == 0)
+            return;
+        LLVMFuzzerMutate(reinterpret_cast<uint8_t*>(part.data()), length, length);
+        bytes.replace(begin, part.size(), part);
+    }
+};
 
 const QByteArray kData = "data.idb";
 const QByteArray kJournal = "data.idb-journal";

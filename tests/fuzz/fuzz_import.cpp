@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "store/list_catalogue.h"
 #include "tests/fuzz/fuzz_context.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QTemporaryDir>
 
 #include <vector>
 

@@ -6,10 +6,7 @@
 
 #include <QtEndian>
 
-#include <algorithm>
-#include <array>
 #include <string>
-#include <utility>
 #include <vector>
 
 using namespace Quillory;
