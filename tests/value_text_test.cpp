@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "tests/table.h"
 #include "tests/test_program.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
@@ -7,6 +6,8 @@
 
 #include <limits>
 #include <optional>
+#include <tuple>
+#include <utility>
 
 namespace {
 
@@ -128,41 +129,35 @@ private Q_SLOTS:
         QCOMPARE(FormatExportText(huge, context).size(), 304);
     }
 
-    void typedTextsAndImportedFieldsBecomeValues_data()
-    {
-        const Table<PropertyId, QString, PropertyVariant, PropertyVariant> add;
-        const auto addBoth
-            = [&](const char* name, PropertyId column, const QString& text,
-                  const PropertyVariant& value) { add(name, column, text, value, value); };
-        addBoth("letters end a number", kInteger, u"12abc"_s, qint32(12));
-        addBoth("no digits are 0", kInteger, QString(), qint32(0));
-        add("a comma is a point where typed", kPrice, u"12,5"_s, 12.5, 12.0);
-        add("every comma is a point", kPrice, u"1,234.50"_s, 1.234, 1.0);
-        addBoth("a price without digits is 0", kPrice, u"free"_s, 0.0);
-        addBoth("Checked", kCheckbox, u"Checked"_s, true);
-        add("Unchecked counts where typed", kCheckbox, u"Unchecked"_s, false, true);
-        add("N counts where imported", kCheckbox, u"N"_s, true, false);
-        addBoth("n is checked", kCheckbox, u"n"_s, true);
-        addBoth("no text is checked", kCheckbox, QString(), true);
-        addBoth("a date in the user's locale", kDate, u"2/1/2024"_s, DayTime(2024, 2, 1));
-        addBoth("a time alone is day zero", kDate, u"10:30"_s, DayTime(1899, 12, 30));
-        addBoth("30 February is nothing", kDate, u"2/30/2024"_s, {});
-        addBoth("a day before 1601 is nothing", kDate, u"12/31/1600"_s, {});
-        addBoth("no date is nothing", kDate, QString(), {});
-        addBoth("a text is kept", kText, u" Tea "_s, u" Tea "_s);
-    }
-
     void typedTextsAndImportedFieldsBecomeValues()
     {
-        const auto [column, text, typed, imported]
-            = Table<PropertyId, QString, PropertyVariant, PropertyVariant>::Row();
+        const std::tuple<PropertyId, QString, PropertyVariant, PropertyVariant> cases[] {
+            // Letters end a number, no digits are 0.
+            { kInteger, u"12abc"_s, 12, 12 }, { kInteger, {}, 0, 0 },
+            { kPrice, u"free"_s, 0.0, 0.0 },
+            // Every comma is a point where typed.
+            { kPrice, u"12,5"_s, 12.5, 12.0 }, { kPrice, u"1,234.50"_s, 1.234, 1.0 },
+            // "Unchecked" counts where typed, "N" where imported.
+            { kCheckbox, u"Checked"_s, true, true }, { kCheckbox, u"Unchecked"_s, false, true },
+            { kCheckbox, u"N"_s, true, false }, { kCheckbox, u"n"_s, true, true },
+            { kCheckbox, {}, true, true },
+            // A date is in the user's locale, a time alone is day zero, any other day is nothing.
+            { kDate, u"2/1/2024"_s, DayTime(2024, 2, 1), DayTime(2024, 2, 1) },
+            { kDate, u"10:30"_s, DayTime(1899, 12, 30), DayTime(1899, 12, 30) },
+            { kDate, u"2/30/2024"_s, {}, {} }, { kDate, u"12/31/1600"_s, {}, {} },
+            { kDate, {}, {}, {} }, { kText, u" Tea "_s, u" Tea "_s, u" Tea "_s }
+        };
         const auto holds = [](const std::optional<PropertyValue>& value, PropertyId id,
                                const PropertyVariant& expected) {
             return value ? value->id == id && value->value == expected
                          : std::holds_alternative<std::monostate>(expected);
         };
-        QVERIFY(holds(ParseValueText(column, text, Context()), column, typed));
-        QVERIFY(holds(ParseImportText(column, text, Context()), column, imported));
+        for (const auto& [column, text, typed, imported] : cases) {
+            QVERIFY2(
+                holds(ParseValueText(column, text, Context()), column, typed), qPrintable(text));
+            QVERIFY2(holds(ParseImportText(column, text, Context()), column, imported),
+                qPrintable(text));
+        }
     }
 
     void textsEndAtTheFirstNul()

@@ -40,8 +40,6 @@ public:
     }
     void End() { m_session.reset(); }
 
-    [[nodiscard]] int FailedSteps() const { return m_failedSteps; }
-
     /// Starts the program anew, with nothing going wrong any more. Empty if the file holds exactly
     /// what was believed, passes the check and takes another change; else what is wrong. Where
     /// doubt is allowed, a step that was told to have failed may have been done, once.
@@ -73,7 +71,6 @@ private:
     Model m_believed;
     /// What the file may hold instead because a step failed that may have been done.
     std::vector<QByteArray> m_doubtful;
-    int m_failedSteps = 0;
     QString m_wrong;
 
     static QString Told(const char* what, ErrorNumber error)
@@ -97,7 +94,6 @@ private:
             m_believed.Apply(step);
             return;
         }
-        ++m_failedSteps;
         if (HasNoReason(m_session->LastError()))
             m_wrong = u"a step failed for no known reason"_s;
         const auto importedRows = static_cast<size_t>(outcome.importedRows);
