@@ -11,11 +11,11 @@
 
 namespace {
 
-constexpr PropertyId kText = MakePropertyId(1, CEVT_LPWSTR);
+constexpr PropertyId kTextColumn = MakePropertyId(1, CEVT_LPWSTR);
 constexpr PropertyId kCheckbox = MakePropertyId(2, CEVT_BOOL);
-constexpr PropertyId kPrice = MakePropertyId(3, CEVT_R8);
+constexpr PropertyId kPriceColumn = MakePropertyId(3, CEVT_R8);
 constexpr PropertyId kInteger = MakePropertyId(4, CEVT_I4);
-constexpr PropertyId kDate = MakePropertyId(5, CEVT_FILETIME);
+constexpr PropertyId kDateColumn = MakePropertyId(5, CEVT_FILETIME);
 
 /// Prices as in the United States, dates written as in Germany and read as in Sweden.
 ValueContext Context()
@@ -84,20 +84,20 @@ private Q_SLOTS:
     void everyDestinationHasItsText()
     {
         const std::tuple<PropertyValue, QString, QString, QString> cases[] {
-            { { kText, 0, u"A\tb"_s }, u"A\tb"_s, u"A\tb"_s, u"A\tb"_s },
+            { { kTextColumn, 0, u"A\tb"_s }, u"A\tb"_s, u"A\tb"_s, u"A\tb"_s },
             { { kInteger, 0, -12345 }, u"-12345"_s, u"-12345"_s, u"-12345"_s },
             { { kInteger, 0, std::numeric_limits<qint32>::min() }, u"-2147483648"_s,
                 u"-2147483648"_s, u"-2147483648"_s },
-            { { kPrice, 0, 1234.5 }, u"1,234.50"_s, u"1,234.50"_s, u"1234.50"_s },
-            { { kPrice, 0, -0.5 }, u"-0.50"_s, u"-0.50"_s, u"-0.50"_s },
-            { { kPrice, 0, std::numeric_limits<double>::infinity() }, u"1.#J"_s, u"1.#J"_s,
+            { { kPriceColumn, 0, 1234.5 }, u"1,234.50"_s, u"1,234.50"_s, u"1234.50"_s },
+            { { kPriceColumn, 0, -0.5 }, u"-0.50"_s, u"-0.50"_s, u"-0.50"_s },
+            { { kPriceColumn, 0, std::numeric_limits<double>::infinity() }, u"1.#J"_s, u"1.#J"_s,
                 u"1.#J"_s },
             { { kCheckbox, 0, true }, {}, u"Checked"_s, u"Y"_s },
             { { kCheckbox, 0, false }, {}, u"Unchecked"_s, u"N"_s },
-            { { kDate, 0, DayTime(2024, 1, 5) }, u"05.01.2024"_s, u"05.01.2024"_s,
+            { { kDateColumn, 0, DayTime(2024, 1, 5) }, u"05.01.2024"_s, u"05.01.2024"_s,
                 u"05.01.2024"_s },
             // A file time without a day.
-            { { kDate, 0, kEndOfFileTimes }, {}, {}, {} }
+            { { kDateColumn, 0, kEndOfFileTimes }, {}, {}, {} }
         };
         const ValueContext context = Context();
         for (const auto& [value, cell, edit, exported] : cases) {
@@ -110,7 +110,8 @@ private Q_SLOTS:
     void aMissingValueIsEmptyOrUnchecked()
     {
         const ValueContext context = Context();
-        for (const PropertyId column : { kText, kInteger, kPrice, kDate, kCheckbox }) {
+        for (const PropertyId column :
+            { kTextColumn, kInteger, kPriceColumn, kDateColumn, kCheckbox }) {
             QCOMPARE(FormatCellText(nullptr, column, context), QString());
             QCOMPARE(FormatEditText(nullptr, column, context),
                 column == kCheckbox ? u"Unchecked"_s : QString());
@@ -120,12 +121,12 @@ private Q_SLOTS:
     void pricesThatFitNoFormArePlain()
     {
         const ValueContext context = Context();
-        const PropertyValue price { kPrice, 0, 1e50 };
-        QCOMPARE(FormatCellText(&price, kPrice, context).count(u','), 16);
-        QCOMPARE(FormatEditText(&price, kPrice, context), FormatExportText(price, context));
-        const PropertyValue huge { kPrice, 0, 1e300 };
-        QCOMPARE(FormatCellText(&huge, kPrice, context), FormatExportText(huge, context));
-        QCOMPARE(FormatEditText(&huge, kPrice, context).size(), 63);
+        const PropertyValue price { kPriceColumn, 0, 1e50 };
+        QCOMPARE(FormatCellText(&price, kPriceColumn, context).count(u','), 16);
+        QCOMPARE(FormatEditText(&price, kPriceColumn, context), FormatExportText(price, context));
+        const PropertyValue huge { kPriceColumn, 0, 1e300 };
+        QCOMPARE(FormatCellText(&huge, kPriceColumn, context), FormatExportText(huge, context));
+        QCOMPARE(FormatEditText(&huge, kPriceColumn, context).size(), 63);
         QCOMPARE(FormatExportText(huge, context).size(), 304);
     }
 
@@ -134,18 +135,18 @@ private Q_SLOTS:
         const std::tuple<PropertyId, QString, PropertyVariant, PropertyVariant> cases[] {
             // Letters end a number, no digits are 0.
             { kInteger, u"12abc"_s, 12, 12 }, { kInteger, {}, 0, 0 },
-            { kPrice, u"free"_s, 0.0, 0.0 },
+            { kPriceColumn, u"free"_s, 0.0, 0.0 },
             // Every comma is a point where typed.
-            { kPrice, u"12,5"_s, 12.5, 12.0 }, { kPrice, u"1,234.50"_s, 1.234, 1.0 },
+            { kPriceColumn, u"12,5"_s, 12.5, 12.0 }, { kPriceColumn, u"1,234.50"_s, 1.234, 1.0 },
             // "Unchecked" counts where typed, "N" where imported.
             { kCheckbox, u"Checked"_s, true, true }, { kCheckbox, u"Unchecked"_s, false, true },
             { kCheckbox, u"N"_s, true, false }, { kCheckbox, u"n"_s, true, true },
             { kCheckbox, {}, true, true },
             // A date is in the user's locale, a time alone is day zero, any other day is nothing.
-            { kDate, u"2/1/2024"_s, DayTime(2024, 2, 1), DayTime(2024, 2, 1) },
-            { kDate, u"10:30"_s, DayTime(1899, 12, 30), DayTime(1899, 12, 30) },
-            { kDate, u"2/30/2024"_s, {}, {} }, { kDate, u"12/31/1600"_s, {}, {} },
-            { kDate, {}, {}, {} }, { kText, u" Tea "_s, u" Tea "_s, u" Tea "_s }
+            { kDateColumn, u"2/1/2024"_s, DayTime(2024, 2, 1), DayTime(2024, 2, 1) },
+            { kDateColumn, u"10:30"_s, DayTime(1899, 12, 30), DayTime(1899, 12, 30) },
+            { kDateColumn, u"2/30/2024"_s, {}, {} }, { kDateColumn, u"12/31/1600"_s, {}, {} },
+            { kDateColumn, {}, {}, {} }, { kTextColumn, u" Tea "_s, u" Tea "_s, u" Tea "_s }
         };
         const auto holds = [](const std::optional<PropertyValue>& value, PropertyId id,
                                const PropertyVariant& expected) {
@@ -163,7 +164,7 @@ private Q_SLOTS:
     void textsEndAtTheFirstNul()
     {
         const QString text = u"N"_s + QChar(u'\0') + u"o"_s;
-        const auto stored = ParseValueText(kText, text, Context());
+        const auto stored = ParseValueText(kTextColumn, text, Context());
         QVERIFY(stored && stored->value == PropertyVariant(u"N"_s));
         const auto box = ParseImportText(kCheckbox, text, Context());
         QVERIFY(box && box->value == PropertyVariant(false));

@@ -47,10 +47,10 @@ QByteArray BigEndian(quint32 value)
 
 QByteArray JournalHead(quint32 recordCount, quint32 nonce, quint32 pageCount)
 {
-    constexpr qsizetype kSectorSize = 512;
+    constexpr qsizetype kHeadSize = 512;
     const QByteArray head = QByteArray::fromHex("d9d505f920a163d7") + BigEndian(recordCount)
-        + BigEndian(nonce) + BigEndian(pageCount) + BigEndian(kSectorSize) + BigEndian(kPageSize);
-    return head.leftJustified(kSectorSize, '\0');
+        + BigEndian(nonce) + BigEndian(pageCount) + BigEndian(kHeadSize) + BigEndian(kPageSize);
+    return head.leftJustified(kHeadSize, '\0');
 }
 
 } // namespace Quillory
