@@ -40,6 +40,7 @@ private Q_SLOTS:
         const std::vector<Operation> operations { &DataVolume::OpenSession, &DataVolume::Flush,
             &DataVolume::BeginTransaction, name, seek,
             [](auto& volume) { return volume.EndTransaction(true); },
+            [](auto& volume) { return volume.Exists(kType); },
             [](auto& volume) { return !volume.DatabasesOf(kType).empty(); },
             [](auto& volume) { return volume.Create(u"y"_s, kType, kSpecs, kByName) != kNoObject; },
             [](auto& volume) { return volume.RenameDatabase(kMissing, u"y"_s, kType); },
