@@ -6,25 +6,15 @@
 
 namespace Quillory {
 
-LandscapeShape::LandscapeShape(QWidget& window, const QString& notePath)
+LandscapeShape::LandscapeShape(QWidget& window)
     : m_window(window)
-    , m_turn(notePath)
 { }
 
-void LandscapeShape::Enter(quint32 listOrientation)
+void LandscapeShape::Enter()
 {
     const QSize size = m_window.size();
-    if (size.height() <= size.width())
-        return;
-    const QScreen& screen = *m_window.screen();
-    QSize room = screen.availableSize();
-    if (FillsScreen() || size.width() >= room.width()) {
-        if (!m_turn.Turn(screen.name(), TurnsOf(listOrientation)))
-            return;
-        room.transpose();
-    }
-    // The window manager gives one that fills the screen its shape.
-    if (FillsScreen())
+    const QSize room = m_window.screen()->availableSize();
+    if (size.height() <= size.width() || size.width() >= room.width() || FillsScreen())
         return;
     m_before = size;
     m_window.resize(size.transposed().boundedTo(room));
@@ -32,7 +22,6 @@ void LandscapeShape::Enter(quint32 listOrientation)
 
 void LandscapeShape::Leave()
 {
-    m_turn.TurnBack();
     if (m_before && !FillsScreen())
         m_window.resize(*m_before);
     m_before.reset();

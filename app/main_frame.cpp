@@ -70,7 +70,7 @@ MainFrame::MainFrame(Settings settings, Places places, QWidget* parent)
     , m_home(new HomeList)
     , m_deletions(m_session.Catalogue(), *m_pages, *m_home)
     , m_definitions(m_session, *m_pages, *m_home)
-    , m_landscape(*this, m_places.turnedOutput)
+    , m_landscape(*this)
 {
     setCentralWidget(m_pages);
     ApplyWindowStyle(this);
@@ -320,7 +320,7 @@ void MainFrame::OpenList(ObjectId oid)
     m_openList = oid;
     m_deletions.SetOpenList(oid);
     if (m_settings.Options.test(kLandscapeOption))
-        m_landscape.Enter(m_settings.ListOrientation);
+        m_landscape.Enter();
     m_pages->Push(view, [this](PageResult) { CloseList(); });
 }
 

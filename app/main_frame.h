@@ -33,8 +33,6 @@ public:
         QString settings;
         /// The folder of the copies of data files.
         QString copies;
-        /// The note of a turned screen; empty where the screen is not to be turned.
-        QString turnedOutput {};
     };
     /// Takes the settings over, to be written back at the end; the data file is opened by
     /// OpenDataFile() alone.

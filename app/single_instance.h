@@ -59,8 +59,6 @@ public:
     /// Becomes the first process, or hands `request` to the one that is. Takes 2.5 seconds where
     /// there is another that cannot be reached.
     [[nodiscard]] Outcome Start(const StartRequest& request);
-    /// Whether no other process can be running: not so where one could not be reached.
-    [[nodiscard]] bool IsOnly() const { return m_lock >= 0; }
 
     /// Who carries requests out.
     using Handler = std::function<StartAnswer(const StartRequest&)>;

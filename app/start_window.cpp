@@ -3,7 +3,6 @@
 
 #include "app/application.h"
 #include "app/main_frame.h"
-#include "app/output_turn.h"
 #include "app/settings.h"
 #include "app/single_instance.h"
 #include "store/kept_copies.h"
@@ -105,10 +104,7 @@ int RunFrame(Application& app, SingleInstance& instance, const QString& listName
     Settings settings;
     ReadSettings(SettingsPath(), settings);
     const DesktopLook look(FixedScheme(settings));
-    const QString turnedOutput
-        = instance.IsOnly() ? SingleInstance::Folder() + u"/turned-output"_s : QString();
-    OutputTurn(turnedOutput).TurnBackForEarlierRun();
-    MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder(), turnedOutput });
+    MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder() });
     instance.SetHandler(
         [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
     // The window closes as its user would close it: pages end, settings are saved.

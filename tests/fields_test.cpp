@@ -147,6 +147,7 @@ void FieldsTest::anUntouchedRowKeepsItsTexts()
         m_context.systemLocale = LocaleProfile::For(locale);
         for (const Record& record : records) {
             std::vector<QString> texts;
+            texts.reserve(columns.size());
             for (const ColumnDefinition& column : columns)
                 texts.push_back(
                     FormatEditText(FindProperty(record.values, column.id), column.id, m_context));

@@ -255,11 +255,15 @@ private Q_SLOTS:
         QCOMPARE(errand.frame->size(), QSize(500, 300));
         errand.PressOk();
         QCOMPARE(errand.frame->size(), QSize(300, 500));
-        // One that is wide already stays as it is.
-        errand.frame->resize(600, 400);
-        errand.Tap(0);
-        errand.PressOk();
-        QCOMPARE(errand.frame->size(), QSize(600, 400));
+        // One that is wide already, or has no room to become so, stays as it is.
+        const QSize screen = errand.frame->screen()->availableSize();
+        for (const QSize size : { QSize(600, 400), screen + QSize(0, 100) }) {
+            errand.frame->resize(size);
+            errand.Tap(0);
+            QCOMPARE(errand.frame->size(), size);
+            errand.PressOk();
+            QCOMPARE(errand.frame->size(), size);
+        }
     }
 
     void anImportAsksForTheOrderAndShowsTheRows()
