@@ -90,9 +90,7 @@ Database::VisitOutcome ScanPastDamage(Database& rows, std::span<const PropertyId
           });
     if (done)
         return {};
-    auto rest = rows.ListRecords();
-    if (!rest)
-        rest = ListWithoutIndex(rows);
+    const auto rest = ListByName(rows);
     if (!rest)
         return { 0, done.Error() };
     // The scan went along the same order.

@@ -13,8 +13,8 @@ namespace Quillory {
 [[nodiscard]] Result<std::vector<ObjectId>> SortByColumn(Database& database,
     const std::vector<ObjectId>& rows, PropertyId column, ScanOrder order = ScanOrder::Any);
 
-/// Every row in the order of names, read past the index of names, which may be damaged. Costs and
-/// needs as much as SortByColumn().
-[[nodiscard]] Result<std::vector<ObjectId>> ListWithoutIndex(Database& database);
+/// Every row in the order of names: by their index, or, where that is damaged, by the names
+/// themselves, which costs and needs as much as SortByColumn().
+[[nodiscard]] Result<std::vector<ObjectId>> ListByName(Database& database);
 
 } // namespace Quillory

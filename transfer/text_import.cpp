@@ -4,7 +4,6 @@
 #include "store/list_catalogue.h"
 #include "transfer/import_batch.h"
 #include "transfer/import_rows.h"
-#include "transfer/import_runs.h"
 
 #include <optional>
 #include <utility>
@@ -27,13 +26,11 @@ bool IsRowsOwnFault(ErrorNumber error)
 class RowWriter
 {
 public:
-    RowWriter(DataVolume& volume, std::span<const PropertyId> columns, const ValueContext& context,
-        size_t batchLines)
+    RowWriter(DataVolume& volume, std::span<const PropertyId> columns, const ValueContext& context)
         : m_volume(volume)
         , m_database(volume.OpenDatabase(ListCatalogue::kRowsType))
         , m_columns(columns)
         , m_context(context)
-        , m_batchLines(batchLines)
     {
         if (m_database == nullptr)
             m_error = volume.LastError();
@@ -51,20 +48,19 @@ public:
         if (!written && !IsRowsOwnFault(written.Error()))
             return Fail(written.Error());
         m_batchRows += written ? 1 : 0;
-        return ++m_lines < m_batchLines || EndBatch();
+        return true;
     }
     /// Makes the rows of the batch under way durable.
-    bool EndBatch()
+    void EndBatch()
     {
         if (!m_transaction)
-            return m_error == ErrorNumber::None;
+            return;
         const bool isStored = m_transaction->Commit();
         m_transaction.reset();
-        if (!isStored)
-            return Fail(m_volume.LastError());
-        m_rows += std::exchange(m_batchRows, 0);
-        m_lines = 0;
-        return true;
+        if (isStored)
+            m_rows += std::exchange(m_batchRows, 0);
+        else
+            Fail(m_volume.LastError());
     }
 
     /// Rows that are durable.
@@ -76,10 +72,8 @@ private:
     Database* m_database;
     std::span<const PropertyId> m_columns;
     const ValueContext& m_context;
-    size_t m_batchLines;
     std::vector<PropertyValue> m_values;
     std::optional<Transaction> m_transaction;
-    size_t m_lines = 0;
     qint64 m_batchRows = 0;
     qint64 m_rows = 0;
     ErrorNumber m_error = ErrorNumber::None;
@@ -110,7 +104,7 @@ public:
         : m_monitor(monitor)
         , m_reader(source, columns.size(), context.userLocale.codePage, limits.line)
         , m_batch(columns, limits)
-        , m_writer(volume, columns, context, limits.lines)
+        , m_writer(volume, columns, context)
     {
         m_progress.bytesTotal = source.isSequential() ? 0 : source.size();
     }
@@ -120,24 +114,17 @@ public:
         while (IsGoingOn() && m_reader.Next()) {
             m_batch.Add(m_reader.Fields());
             ++m_progress.lines;
-            if (m_batch.IsFull())
-                PutAside();
-            Report();
+            if (Report() && m_batch.IsFull())
+                StoreBatch();
         }
-        if (!m_runs.IsEmpty() && IsGoingOn())
-            PutAside();
-        StoreBatch();
-        if (IsGoingOn() && !m_runs.Drain(m_store))
-            m_outcome.writeError = ErrorNumber::ReadFault;
         if (IsGoingOn())
-            m_writer.EndBatch();
+            StoreBatch();
         if (m_reader.HasFailed())
             m_outcome.result = ImportResult::Failed;
         m_outcome.rows = m_writer.Rows();
         m_outcome.lines = m_reader.LinesRead();
         m_outcome.isLastLineOpen = m_reader.HasOpenLine();
-        if (m_writer.Error() != ErrorNumber::None)
-            m_outcome.writeError = m_writer.Error();
+        m_outcome.writeError = m_writer.Error();
         return m_outcome;
     }
 
@@ -145,32 +132,23 @@ private:
     const ImportMonitor& m_monitor;
     ImportFieldReader m_reader;
     ImportBatch m_batch;
-    ImportRuns m_runs;
     RowWriter m_writer;
     ImportProgress m_progress;
     ImportOutcome m_outcome;
     qint64 m_steps = 0;
-    const ImportBatch::Visitor m_store = [this](std::span<const QStringView> fields) {
-        return m_writer.Store(fields) && Report();
-    };
 
     [[nodiscard]] bool IsGoingOn() const
     {
         return m_outcome.result == ImportResult::Done && m_writer.Error() == ErrorNumber::None;
     }
-    /// A batch that cannot be put aside is stored at once.
-    void PutAside()
-    {
-        if (m_batch.IsEmpty() || m_runs.PutAside(m_batch))
-            return;
-        StoreBatch();
-        if (IsGoingOn())
-            m_writer.EndBatch();
-    }
+    /// A batch in the midst of which the import is cancelled is left out.
     void StoreBatch()
     {
-        if (IsGoingOn())
-            m_batch.Visit(m_store);
+        const bool isWhole = m_batch.Visit([this](std::span<const QStringView> fields) {
+            return m_writer.Store(fields) && Report();
+        });
+        if (isWhole)
+            m_writer.EndBatch();
         m_batch.Clear();
     }
     /// False once the import is cancelled.

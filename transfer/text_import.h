@@ -41,7 +41,7 @@ struct ImportProgress
     qint64 bytesRead = 0;
     /// 0 where it is not known, as of a pipe.
     qint64 bytesTotal = 0;
-    /// Lines that were read; in the second half of the work rows catch up with them.
+    /// Lines that were read; rows catch up with them batch by batch.
     qint64 lines = 0;
     /// Rows that are stored.
     qint64 rows = 0;
@@ -52,9 +52,9 @@ using ImportMonitor = std::function<bool(const ImportProgress& progress)>;
 /// Adds a row to the open row database for each line of `source`, as ImportFieldReader cuts it:
 /// `columns` says which column each field fills. A line that gives no value at all gives no row.
 ///
-/// The whole file is read and sorted by name, in a temporary file if it is large; then rows are
-/// stored in batches of one transaction each, durable when a batch ends. What was read before a
-/// failed read is stored. No transaction may be open. Memory use does not grow with the file.
+/// Rows are stored as the file is read, in batches of one transaction each, durable when a batch
+/// ends; a batch is sorted by name. What was read before a failed read is stored. No transaction
+/// may be open. Memory use does not grow with the file.
 [[nodiscard]] ImportOutcome ImportRows(DataVolume& volume, std::span<const PropertyId> columns,
     const ValueContext& context, QIODevice& source, const ImportMonitor& monitor = {},
     const ImportBatchLimits& limits = {});

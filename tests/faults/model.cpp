@@ -2,6 +2,7 @@
 #include "tests/faults/model.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 namespace Quillory {
@@ -181,12 +182,7 @@ void Model::ApplyToRow(List& list, const Step& step)
 
 void Model::ApplyImport(const Step& step, size_t rowCount)
 {
-    // The whole file is sorted by name before the first batch of it is stored.
-    std::vector<ModelRow> rows = step.rows;
-    std::stable_sort(rows.begin(), rows.end(),
-        [](const ModelRow& a, const ModelRow& b) { return a.name < b.name; });
-    rows.resize(std::min(rowCount, rows.size()));
-    for (const ModelRow& row : rows)
+    for (const ModelRow& row : std::span(step.rows).first(std::min(rowCount, step.rows.size())))
         Add(*Find(step.list), row);
 }
 

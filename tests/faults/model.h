@@ -71,7 +71,7 @@ public:
     /// Whether there is the list and the row that the step means.
     [[nodiscard]] bool CanApply(const Step& step) const;
     void Apply(const Step& step);
-    /// An import of which only the first rows by name came in.
+    /// An import of which only the first rows came in.
     void ApplyImport(const Step& step, size_t rowCount);
     /// The contents in the words of Session::Contents().
     [[nodiscard]] QByteArray Contents() const;
