@@ -31,8 +31,8 @@ private:
     std::vector<SortEntry> m_spare;
 
     [[nodiscard]] const char* TextOf(const SortEntry& entry) const;
-    /// Sorts entries whose texts are equal in their first `depth` bytes, and that stand in the order
-    /// of their positions.
+    /// Sorts entries whose texts are equal in their first `depth` bytes, and that stand in the
+    /// order of their positions.
     void SortFrom(EntrySpan entries, size_t depth);
     /// As SortFrom, comparing the texts themselves.
     void SortWhole(EntrySpan entries, size_t depth) const;
