@@ -58,23 +58,6 @@ Timing ListInOrder(int rows)
     return timing;
 }
 
-Timing WalkInOrder(int rows)
-{
-    BenchList& list = BenchList::OfSize(rows);
-    Timing timing;
-    list.WithList([&](DataVolume& data, const InventoryList&) {
-        std::vector<ObjectId> found;
-        timing.oursMs = MeasureMs([&] {
-            for (ObjectId oid = data.SeekFirst(ListCatalogue::kRowsType); oid != kNoObject;
-                 oid = data.SeekNext(ListCatalogue::kRowsType))
-                found.push_back(oid);
-        });
-        Require(std::cmp_equal(found.size(), rows), "rows are missing");
-    });
-    timing.floorMs = IndexScanMs(list);
-    return timing;
-}
-
 double ColumnScanMs(const BenchList& list, Column column)
 {
     double elapsed = 0;
@@ -235,7 +218,6 @@ std::vector<BenchCase> StoreCases()
     constexpr double kSortGrowth = 13;
     return {
         { u"list in sort order"_s, 1.3, 11, ListInOrder },
-        { u"walk position by position"_s, 1.3, 11, WalkInOrder },
         { u"read a column of prices"_s, 1.5, 11, [](int rows) { return ReadColumn(rows, Price); } },
         { u"read a column of texts"_s, 1.5, 11, [](int rows) { return ReadColumn(rows, Text); } },
         { u"filter that some rows pass"_s, 1.5, 11,

@@ -15,45 +15,27 @@ Cursor::Cursor(sqlite3* connection, std::shared_ptr<const DatabaseSchema> schema
     m_key.id = order.key;
 }
 
-QString Cursor::PartSql(Part part, WalkDirection direction, bool isFromPlace) const
+QString Cursor::RangeSql(Range range, WalkDirection direction) const
 {
     const bool isForward = direction == WalkDirection::Forward;
-    const QString table = QuotedName(m_schema->tableName);
-    const QString key = QuotedName(m_schema->Find(m_order.key)->columnName);
     const QString comparison = isForward ? u">"_s : u"<"_s;
     const QString turn = isForward ? QString() : u" DESC"_s;
-    if (part == Part::Keyless) {
-        const QString place = isFromPlace ? u" AND oid %1 ?2"_s.arg(comparison) : QString();
-        return u"SELECT oid FROM %1 WHERE %2 IS NULL%3 ORDER BY oid%4"_s.arg(
-            table, key, place, turn);
+    const QString key = QuotedName(m_schema->Find(m_order.key)->columnName);
+    const QString select
+        = u"SELECT oid, %1 FROM %2 WHERE %1"_s.arg(key, QuotedName(m_schema->tableName));
+    const QString byKey = u" ORDER BY %1%2, oid%2"_s.arg(key, turn);
+    const QString byOid = u" ORDER BY oid"_s + turn;
+    switch (range) {
+    case Range::SameKey:
+        return select + u" IS ?1 AND oid %1 ?2"_s.arg(comparison) + byOid;
+    case Range::OtherKeys:
+        return select + u" %1 ?1"_s.arg(comparison) + byKey;
+    case Range::Keyed:
+        return select + u" IS NOT NULL"_s + byKey;
+    case Range::Keyless:
+        break;
     }
-    const QString place = isFromPlace ? u"(%1, oid) %2 (?1, ?2)"_s.arg(key, comparison)
-                                      : u"%1 IS NOT NULL"_s.arg(key);
-    return u"SELECT oid FROM %1 WHERE %2 ORDER BY %3%4, oid%4"_s.arg(table, place, key, turn);
-}
-
-Cursor::Part Cursor::FirstPart() const
-{
-    return m_direction == WalkDirection::Forward ? Part::Keyed : Part::Keyless;
-}
-
-Cursor::Part Cursor::NextPart() const
-{
-    const Part last = m_direction == WalkDirection::Forward ? Part::Keyless : Part::Keyed;
-    if (m_part == last)
-        return Part::Over;
-    return last;
-}
-
-Result<void> Cursor::EnterPart(Part part)
-{
-    m_part = part;
-    auto statement = Statement::Prepare(m_connection, PartSql(part, m_direction, false));
-    if (!statement)
-        return statement.Error();
-    m_walk = std::move(*statement);
-    m_isWalking = true;
-    return {};
+    return select + u" IS NULL"_s + byOid;
 }
 
 Result<bool> Cursor::ReadKey(ObjectId oid)
@@ -74,156 +56,102 @@ Result<bool> Cursor::ReadKey(ObjectId oid)
     return step;
 }
 
-Result<void> Cursor::FindRecord()
+Result<bool> Cursor::Search(Range range, WalkDirection direction)
 {
-    if (m_standing == Standing::First) {
-        const auto first = First();
-        Suspend();
-        return first.Error();
+    const size_t place
+        = 2 * static_cast<size_t>(range) + (direction == WalkDirection::Forward ? 0 : 1);
+    Statement& search = m_searches.at(place);
+    if (!search) {
+        auto prepared
+            = Statement::Prepare(m_connection, RangeSql(range, direction) + u" LIMIT 1"_s, true);
+        if (!prepared)
+            return prepared.Error();
+        search = std::move(*prepared);
     }
-    if (m_standing != Standing::Doubtful)
-        return {};
-    const auto isThere = ReadKey(m_oid);
-    if (isThere)
-        m_standing = *isThere ? Standing::There : Standing::Gone;
-    return isThere.Error();
+    if (range == Range::SameKey || range == Range::OtherKeys) {
+        if (m_key.IsMissing())
+            search.BindNull(1);
+        else if (!search.Bind(1, m_key))
+            return ErrorNumber::InvalidData;
+    }
+    if (range == Range::SameKey)
+        search.Bind(2, m_oid);
+    const auto step = search.Step();
+    if (step && *step) {
+        m_oid = search.Oid(0);
+        search.ReadProperty(1, m_key);
+    }
+    search.Reset();
+    return step;
 }
 
-Result<void> Cursor::WalkFromPlace()
+Result<ObjectId> Cursor::SearchIn(std::initializer_list<Range> ranges, WalkDirection direction)
 {
-    if (m_oid != kNoObject && m_standing == Standing::There) {
-        const auto isThere = ReadKey(m_oid);
-        if (!isThere)
-            return isThere.Error();
-        // One that another program deleted has left no place.
-        if (!*isThere)
-            Settle(kNoObject);
-    }
-    if (m_oid == kNoObject)
-        return m_direction == WalkDirection::Forward ? ErrorNumber::None
-                                                     : EnterPart(FirstPart()).Error();
-    m_part = m_key.IsMissing() ? Part::Keyless : Part::Keyed;
-    auto statement = Statement::Prepare(m_connection, PartSql(m_part, m_direction, true));
-    if (!statement)
-        return statement.Error();
-    if (!m_key.IsMissing() && !statement->Bind(1, m_key))
-        return ErrorNumber::InvalidData;
-    statement->Bind(2, m_oid);
-    m_walk = std::move(*statement);
-    m_isWalking = true;
-    return {};
-}
-
-Result<ObjectId> Cursor::Advance()
-{
-    while (m_isWalking) {
-        if (m_walk.Next()) {
-            m_oid = m_walk.Oid(0);
-            m_standing = Standing::There;
+    for (const Range range : ranges) {
+        const auto isFound = Search(range, direction);
+        if (!isFound)
+            return isFound.Error();
+        if (*isFound)
             return m_oid;
-        }
-        if (m_walk.Error() != ErrorNumber::None) {
-            m_isWalking = false;
-            return m_walk.Error();
-        }
-        const Part next = NextPart();
-        if (next == Part::Over)
-            break;
-        if (const auto entered = EnterPart(next); !entered)
-            return entered.Error();
     }
-    Settle(kNoObject);
-    return kNoObject;
+    return m_oid = kNoObject;
 }
 
-void Cursor::Settle(ObjectId oid)
+Result<ObjectId> Cursor::Place()
 {
-    Suspend();
-    m_oid = oid;
-    m_standing = Standing::There;
-}
-
-void Cursor::Suspend()
-{
-    if (m_isWalking)
-        m_walk.Reset();
-    m_isWalking = false;
+    return m_isPlaced ? m_oid : First();
 }
 
 Result<ObjectId> Cursor::Current()
 {
-    if (const auto found = FindRecord(); !found)
-        return found.Error();
-    return m_standing == Standing::Gone ? kNoObject : m_oid;
+    const auto place = Place();
+    if (!place || *place == kNoObject)
+        return place;
+    const auto isThere = ReadKey(*place);
+    if (!isThere)
+        return isThere.Error();
+    return *isThere ? *place : kNoObject;
 }
 
 Result<ObjectId> Cursor::First()
 {
-    Suspend();
-    m_direction = WalkDirection::Forward;
-    if (const auto entered = EnterPart(FirstPart()); !entered)
-        return entered.Error();
-    return Advance();
+    m_isPlaced = true;
+    return SearchIn({ Range::Keyed, Range::Keyless }, WalkDirection::Forward);
 }
 
 Result<ObjectId> Cursor::Step(WalkDirection direction)
 {
-    if (!m_isWalking || direction != m_direction) {
-        Suspend();
-        if (const auto found = FindRecord(); !found)
-            return found.Error();
-        m_direction = direction;
-        if (const auto started = WalkFromPlace(); !started)
-            return started.Error();
+    // The record may have another key by now.
+    if (const auto current = Current(); !current)
+        return current;
+    const bool isForward = direction == WalkDirection::Forward;
+    if (m_oid == kNoObject) {
+        if (isForward)
+            return kNoObject;
+        return SearchIn({ Range::Keyless, Range::Keyed }, direction);
     }
-    return Advance();
+    if (m_key.IsMissing())
+        return isForward ? SearchIn({ Range::SameKey }, direction)
+                         : SearchIn({ Range::SameKey, Range::Keyed }, direction);
+    return isForward ? SearchIn({ Range::SameKey, Range::OtherKeys, Range::Keyless }, direction)
+                     : SearchIn({ Range::SameKey, Range::OtherKeys }, direction);
 }
 
 Result<ObjectId> Cursor::SeekTo(ObjectId oid)
 {
-    Suspend();
     const auto isThere = ReadKey(oid);
     if (!isThere)
         return isThere.Error();
-    Settle(*isThere ? oid : kNoObject);
+    m_isPlaced = true;
+    m_oid = *isThere ? oid : kNoObject;
     return m_oid;
-}
-
-void Cursor::DoubtRecord()
-{
-    Suspend();
-    if (m_oid == kNoObject)
-        return;
-    if (m_standing == Standing::There) {
-        const auto isThere = ReadKey(m_oid);
-        if (!isThere || !*isThere)
-            return;
-    }
-    m_standing = Standing::Doubtful;
-}
-
-Result<void> Cursor::LeaveRecord(ObjectId oid)
-{
-    Suspend();
-    if (const auto found = FindRecord(); !found)
-        return found;
-    if (oid != m_oid || m_standing == Standing::Gone)
-        return {};
-    return ReadKey(oid).Error();
-}
-
-void Cursor::LoseRecord(ObjectId oid)
-{
-    if (oid == m_oid)
-        m_standing = Standing::Gone;
 }
 
 Result<std::vector<ObjectId>> Cursor::List()
 {
     std::vector<ObjectId> oids;
-    for (const Part part : { Part::Keyed, Part::Keyless }) {
-        auto statement
-            = Statement::Prepare(m_connection, PartSql(part, WalkDirection::Forward, false));
+    for (const Range range : { Range::Keyed, Range::Keyless }) {
+        auto statement = Statement::Prepare(m_connection, RangeSql(range, WalkDirection::Forward));
         if (!statement)
             return statement.Error();
         while (statement->Next())

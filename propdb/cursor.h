@@ -4,8 +4,9 @@
 #include "propdb/schema.h"
 #include "propdb/statement.h"
 
+#include <array>
+#include <initializer_list>
 #include <memory>
-#include <optional>
 
 namespace Quillory {
 
@@ -16,77 +17,59 @@ enum class WalkDirection
 };
 
 /// A position among the records of a database in its sort order, at first that of the first record.
-/// Stepping on costs one step of an index scan; a write in between costs one index search more.
+/// It is a key and an identifier, so that it outlives its record; each step is a search of the
+/// index.
 class Cursor
 {
 public:
     Cursor(sqlite3* connection, std::shared_ptr<const DatabaseSchema> schema, SortOrder order);
 
-    /// Each gives the new current record; kNoObject, as a value, when there is none.
-    /// The current one is kNoObject at the end and where the record is gone.
+    /// The record of the position, which may be gone; kNoObject, as a value, at the end.
+    [[nodiscard]] Result<ObjectId> Place();
+    /// Each gives the record that is at the position now; kNoObject, as a value, if there is none.
     [[nodiscard]] Result<ObjectId> Current();
     [[nodiscard]] Result<ObjectId> First();
     [[nodiscard]] Result<ObjectId> Step(WalkDirection direction);
     [[nodiscard]] Result<ObjectId> SeekTo(ObjectId oid);
 
-    /// Must come before every write to the volume: ends the scan under way, keeping the place.
-    void Suspend();
-    /// Must come before a rollback: keeps the place of a record that goes or comes back with it.
-    void DoubtRecord();
-    /// Must come before a record is deleted: keeps the place if it is the current one.
-    [[nodiscard]] Result<void> LeaveRecord(ObjectId oid);
-    /// Must come when it is deleted.
-    void LoseRecord(ObjectId oid);
-
     /// Every record in sort order.
     [[nodiscard]] Result<std::vector<ObjectId>> List();
 
 private:
-    /// The parts of a walk: records with the key in its order, then records without it.
-    enum class Part
+    /// Where the next record is searched for. Records with the key come in its order, those of one
+    /// key in that of their identifiers, those without it after them.
+    enum class Range
     {
+        /// On from the identifier of the position, among records of its key.
+        SameKey,
+        /// On from the key of the position.
+        OtherKeys,
         Keyed,
         Keyless,
-        Over,
     };
 
     sqlite3* m_connection;
     std::shared_ptr<const DatabaseSchema> m_schema;
     SortOrder m_order;
 
-    /// What is known of the current record.
-    enum class Standing
-    {
-        /// It is the first one, which nobody has asked for yet.
-        First,
-        There,
-        /// It was deleted; m_key holds its key.
-        Gone,
-        /// One or the other; m_key holds its key.
-        Doubtful,
-    };
-
+    /// False until somebody asks for the first record.
+    bool m_isPlaced = false;
     /// kNoObject at the end.
     ObjectId m_oid = kNoObject;
-    Standing m_standing = Standing::First;
+    /// The key that the record had when it was last looked at.
     PropertyValue m_key;
 
     Statement m_readKey;
-    Statement m_walk;
-    Part m_part = Part::Over;
-    WalkDirection m_direction = WalkDirection::Forward;
-    bool m_isWalking = false;
+    /// By range and direction.
+    std::array<Statement, 8> m_searches;
 
-    [[nodiscard]] QString PartSql(Part part, WalkDirection direction, bool isFromPlace) const;
-    [[nodiscard]] Part FirstPart() const;
-    [[nodiscard]] Part NextPart() const;
-    [[nodiscard]] Result<void> EnterPart(Part part);
-    /// Leaves the record either There or Gone.
-    [[nodiscard]] Result<void> FindRecord();
-    [[nodiscard]] Result<void> WalkFromPlace();
+    [[nodiscard]] QString RangeSql(Range range, WalkDirection direction) const;
     [[nodiscard]] Result<bool> ReadKey(ObjectId oid);
-    [[nodiscard]] Result<ObjectId> Advance();
-    void Settle(ObjectId oid);
+    /// Whether there is a record in that direction in the range; goes to the next one.
+    [[nodiscard]] Result<bool> Search(Range range, WalkDirection direction);
+    /// Goes to the next record, or the end, by searching in one range after another.
+    [[nodiscard]] Result<ObjectId> SearchIn(
+        std::initializer_list<Range> ranges, WalkDirection direction);
 };
 
 } // namespace Quillory

@@ -138,10 +138,10 @@ Result<ObjectId> Database::SeekFirst()
 
 Result<ObjectId> Database::SeekNext(int n)
 {
-    if (n == 1)
-        return m_state->cursor.Step(WalkDirection::Forward);
     const auto direction = n < 0 ? WalkDirection::Backward : WalkDirection::Forward;
-    Result<ObjectId> place = m_state->cursor.Current();
+    if (n == 0)
+        return m_state->cursor.Current();
+    Result<ObjectId> place = kNoObject;
     for (int i = 0; i != n; i += n < 0 ? -1 : 1) {
         place = m_state->cursor.Step(direction);
         if (!place || *place == kNoObject)
@@ -168,12 +168,10 @@ Result<Record> Database::ReadAll()
 
 Result<Record> Database::Read(std::span<const PropertyId> ids)
 {
-    const auto current = m_state->cursor.Current();
-    if (!current)
-        return current.Error();
-    if (*current == kNoObject)
-        return ErrorNumber::NotFound;
-    return m_state->ReadRecord(*current, ids);
+    const auto place = m_state->cursor.Place();
+    if (!place)
+        return place.Error();
+    return m_state->ReadRecord(*place, ids);
 }
 
 Result<ObjectId> Database::Write(ObjectId oid, std::span<const PropertyValue> values)
@@ -199,7 +197,9 @@ Result<void> Database::DeleteRecord(ObjectId oid)
     if (const auto begun = volume.BeginWrite(); !begun)
         return begun;
     ++volume.orderChanges;
-    Result<void> done = m_state->cursor.LeaveRecord(oid);
+    // A position on the record notes the key that is about to go.
+    const auto current = m_state->cursor.Current();
+    Result<void> done = current.Error();
     if (done) {
         auto remove = Statement::Prepare(volume.connection.get(),
             u"DELETE FROM %1 WHERE oid = ?1 RETURNING oid"_s.arg(
@@ -210,8 +210,6 @@ Result<void> Database::DeleteRecord(ObjectId oid)
             remove->Bind(1, oid);
             const auto step = remove->Step();
             const bool isGone = step && *step;
-            if (isGone)
-                m_state->cursor.LoseRecord(oid);
             done = isGone || !step ? step.Error() : ErrorNumber::NotFound;
         }
     }

@@ -116,8 +116,6 @@ Result<void> VolumeState::BeginWrite()
     // A failure can have ended the transaction underneath; what follows must not stand alone.
     if (sqlite3_get_autocommit(connection.get()) != 0)
         return ErrorNumber::InvalidHandle;
-    for (DatabaseState* database : openDatabases)
-        database->cursor.Suspend();
     return {};
 }
 
@@ -164,8 +162,6 @@ Result<void> VolumeState::Begin()
 {
     if (access == VolumeAccess::ReadOnly)
         return ErrorNumber::AccessDenied;
-    for (DatabaseState* database : openDatabases)
-        database->cursor.Suspend();
     if (const auto inPlace = file.VerifyInPlace(); !inPlace)
         return inPlace;
     if (const auto settled = SettleDoubt(); !settled)
@@ -186,8 +182,6 @@ Result<void> VolumeState::Begin()
 
 Result<void> VolumeState::Commit()
 {
-    for (DatabaseState* database : openDatabases)
-        database->cursor.Suspend();
     Result<void> done;
     if (sqlite3_get_autocommit(connection.get()) != 0)
         done = ErrorNumber::InvalidHandle;
@@ -216,8 +210,6 @@ Result<void> VolumeState::Commit()
 void VolumeState::Rollback()
 {
     ++orderChanges;
-    for (DatabaseState* database : openDatabases)
-        database->cursor.DoubtRecord();
     // Some failures have rolled back already.
     if (sqlite3_get_autocommit(connection.get()) == 0)
         static_cast<void>(rollback.Run().IsOk());

@@ -194,6 +194,22 @@ private Q_SLOTS:
         QCOMPARE(seen.join(u' '), u"a b c d -"_s);
     }
 
+    void recordsOfOneNameAreWalkedOneByOne()
+    {
+        Rows rows;
+        std::vector<ObjectId> walk;
+        for (const QString& name : { u"a"_s, u"b"_s, u"b"_s, u"b"_s, u"c"_s })
+            walk.push_back(rows.Add({ Text(name) }));
+        walk.push_back(rows.Add({ Quantity(1) }));
+        walk.push_back(rows.Add({ Quantity(1) }));
+        walk.push_back(kNoObject);
+        QCOMPARE(Take(rows.rows->SeekFirst()), walk.front());
+        for (size_t i = 1; i < walk.size(); ++i)
+            QCOMPARE(Take(rows.rows->SeekNext(1)), walk[i]);
+        for (size_t i = walk.size() - 1; i-- > 0;)
+            QCOMPARE(Take(rows.rows->SeekNext(-1)), walk[i]);
+    }
+
     void aWalkGoesBothWays()
     {
         Rows rows;
