@@ -59,11 +59,14 @@ private:
     size_t m_acknowledged = 0;
 };
 
-/// What a power cut may do to changes that no sync has covered.
+/// What the end of the program does to changes that no sync has covered: it is killed, or the power
+/// is cut.
 enum class Loss
 {
-    Everything,
+    /// It is killed after the latest change, or amid it: half of what was written is there.
     Nothing,
+    HalfAWrite,
+    Everything,
     /// Files have their bytes, but names are as they were at the last sync of the folder.
     Names,
     /// Names are there, but what was written to the files is not.
@@ -77,7 +80,7 @@ enum class Loss
     /// As above, and one write was under way: its lost sectors hold junk.
     JunkSectors,
 };
-constexpr int kLossCount = 8;
+constexpr int kLossCount = 9;
 
 /// A medium as it is between the syncs: what is safe, and what is still on its way.
 class Disk
@@ -119,7 +122,8 @@ public:
     /// The files that are found after a power cut.
     [[nodiscard]] Files AfterPowerCut(Loss loss, std::mt19937& random) const
     {
-        const bool keepsNames = loss == Loss::Nothing || loss == Loss::Bytes;
+        const bool isKilled = loss == Loss::Nothing || loss == Loss::HalfAWrite;
+        const bool keepsNames = isKilled || loss == Loss::Bytes;
         const bool losesNames = loss == Loss::Everything || loss == Loss::Names;
         const size_t count = m_pending.size();
         // Changes of names reach the medium in their order.
@@ -137,10 +141,11 @@ public:
             }
             QByteArray& bytes = contents[static_cast<size_t>(change.file)];
             const bool isSectors = loss == Loss::RandomSectors || loss == Loss::JunkSectors;
-            const bool isKept = loss == Loss::Nothing || loss == Loss::Names
-                || (loss == Loss::Tail && i < cut)
+            const bool isKept = isKilled || loss == Loss::Names || (loss == Loss::Tail && i < cut)
                 || (loss == Loss::RandomWrites && random() % 2 == 0);
-            if (isSectors)
+            if (loss == Loss::HalfAWrite && i + 1 == count)
+                ApplyToBytes(HalfOf(change), bytes);
+            else if (isSectors)
                 ApplySectors(change, bytes, loss == Loss::JunkSectors && i == junk, random);
             else if (isKept)
                 ApplyToBytes(change, bytes);
@@ -211,6 +216,11 @@ private:
             bytes.append(end - bytes.size(), '\0');
         std::memcpy(bytes.data() + change.place, change.bytes.constData(),
             static_cast<size_t>(change.bytes.size()));
+    }
+    static Change HalfOf(Change change)
+    {
+        change.bytes.truncate(change.bytes.size() / 2);
+        return change;
     }
     static void ApplySectors(
         const Change& change, QByteArray& bytes, bool isJunkLeft, std::mt19937& random)
@@ -334,7 +344,7 @@ void CutRecovery(FaultRun& run, ImageReader& reader, const Script& script, size_
     }
 }
 
-/// Cuts the power after every call of a recorded script, in every way.
+/// Kills the program and cuts the power after every call of a recorded script, in every way.
 void CutEverywhere(FaultRun& run, const Script& script, const Recorder& recorder)
 {
     std::mt19937 random(run.Seed());
