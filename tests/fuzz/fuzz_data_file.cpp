@@ -2,7 +2,7 @@
 #include "propdb/confined_vfs.h"
 #include "store/salvage.h"
 #include "tests/faults/sealed_file.h"
-#include "tests/fuzz/fuzz_context.h"
+#include "tests/fuzz/require.h"
 
 #include <QFile>
 #include <QtEndian>
