@@ -269,18 +269,12 @@ private Q_SLOTS:
     {
         ListFixture file;
         const ObjectId oid = file.MakeFullList(u"L"_s);
-        file.rows.reset();
         file.data->Unmount();
-        DataVolume volume;
-        QCOMPARE(volume.Mount(file.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly),
+        QCOMPARE(file.data->Mount(file.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly),
             ErrorNumber::None);
-        ListCatalogue catalogue(volume);
-        InventoryList list;
-        QVERIFY(catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened);
-        QVERIFY(catalogue.OpenList(oid, list));
-        Trickle source("a\r\n", 100);
-        const ImportOutcome outcome
-            = ImportRows(volume, std::vector { PropName }, file.context, source);
+        QCOMPARE(file.catalogue->OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
+        file.OpenList(oid);
+        const ImportOutcome outcome = Import(file, "a\r\n");
         QCOMPARE(outcome.writeError, ErrorNumber::AccessDenied);
         QCOMPARE(outcome.rows, 0);
     }

@@ -248,13 +248,32 @@ constexpr quint32 kRecoveryShare = 40;
 /// The first hundreds show the first start, which is never weakened.
 constexpr int kFewestCarelessImages = 2000;
 
-/// Reads images of data files, each different one once.
-class ImageReader
+/// Looks at images of what a script left, and reads each different data file once.
+class ImageJudge
 {
 public:
-    explicit ImageReader(const FaultRun& run)
+    ImageJudge(const FaultRun& run, const Script& script)
         : m_run(run)
+        , m_script(script)
     { }
+
+    /// What is wrong with the files that a power cut left; empty if nothing is.
+    QString Judge(size_t acknowledged, const Files& image)
+    {
+        const auto read = [&](const QByteArray& name) -> std::optional<Reading> {
+            const auto file = image.find(name);
+            const auto journal = image.find(name + "-journal");
+            if (file == image.end())
+                return std::nullopt;
+            return Read(file->second, journal == image.end() ? nullptr : &journal->second);
+        };
+        return Quillory::Judge(m_script, acknowledged, read);
+    }
+
+private:
+    const FaultRun& m_run;
+    const Script& m_script;
+    std::map<size_t, Reading> m_readings;
 
     /// What the program finds in this file, beside its journal if there is one.
     const Reading& Read(const QByteArray& file, const QByteArray* journal)
@@ -269,24 +288,7 @@ public:
         m_run.Place(files);
         return m_readings.emplace(key, ReadDataFile(m_run.DataFile())).first->second;
     }
-
-private:
-    const FaultRun& m_run;
-    std::map<size_t, Reading> m_readings;
 };
-
-/// What is wrong with the files that a power cut left; empty if nothing is.
-QString JudgeImage(
-    ImageReader& reader, const Script& script, size_t acknowledged, const Files& image)
-{
-    return Judge(script, acknowledged, [&](const QByteArray& name) -> std::optional<Reading> {
-        const auto file = image.find(name);
-        const auto journal = image.find(name + "-journal");
-        if (file == image.end())
-            return std::nullopt;
-        return reader.Read(file->second, journal == image.end() ? nullptr : &journal->second);
-    });
-}
 
 /// The connection that was opened last.
 sqlite3*& LatestConnection()
@@ -325,8 +327,8 @@ void RecordCalls(
 }
 
 /// Cuts the power while the program recovers from an earlier power cut.
-void CutRecovery(FaultRun& run, ImageReader& reader, const Script& script, size_t acknowledged,
-    const Files& image, std::mt19937& random)
+void CutRecovery(
+    FaultRun& run, ImageJudge& judge, size_t acknowledged, const Files& image, std::mt19937& random)
 {
     run.Place(image);
     Recorder recorder;
@@ -339,7 +341,7 @@ void CutRecovery(FaultRun& run, ImageReader& reader, const Script& script, size_
         disk.Apply(event);
         const Files after = disk.AfterPowerCut(static_cast<Loss>(random() % kLossCount), random);
         run.Count();
-        if (const QString wrong = JudgeImage(reader, script, acknowledged, after); !wrong.isEmpty())
+        if (const QString wrong = judge.Judge(acknowledged, after); !wrong.isEmpty())
             run.Blame(u"recovery cut short: "_s + wrong, after);
     }
 }
@@ -348,19 +350,19 @@ void CutRecovery(FaultRun& run, ImageReader& reader, const Script& script, size_
 void CutEverywhere(FaultRun& run, const Script& script, const Recorder& recorder)
 {
     std::mt19937 random(run.Seed());
-    ImageReader reader(run);
+    ImageJudge judge(run, script);
     Disk disk({});
     for (const Recorder::Event& event : recorder.Events()) {
         disk.Apply(event);
         for (int way = 0; way < kLossCount && run.CountSoFar() < run.Runs(); ++way) {
             const Files image = disk.AfterPowerCut(static_cast<Loss>(way), random);
             run.Count();
-            const QString wrong = JudgeImage(reader, script, event.acknowledged, image);
+            const QString wrong = judge.Judge(event.acknowledged, image);
             if (!wrong.isEmpty())
                 run.Blame(
                     u"way %1 after %2 steps: "_s.arg(way).arg(event.acknowledged) + wrong, image);
             else if (image.contains("data.idb-journal") && random() % kRecoveryShare == 0)
-                CutRecovery(run, reader, script, event.acknowledged, image, random);
+                CutRecovery(run, judge, event.acknowledged, image, random);
         }
     }
 }
