@@ -68,8 +68,8 @@ void OnScripts(FaultRun& run, const std::function<void(const Script& script)>& w
 // The kinds of faults. Each makes its fault run.Runs() times or a little more.
 /// Kills the program and cuts the power.
 void CutPowerEverywhere(FaultRun& run);
-/// The same with the syncs of the data file weakened, which must be found out.
-void CutPowerOfCarelessFiles(FaultRun& run);
+/// The same on media that ignore syncs, which must be found out.
+void CutPowerOfCarelessMedia(FaultRun& run);
 void LetCallsFail(FaultRun& run);
 void ExhaustMemory(FaultRun& run);
 /// The same with the memory of all code that is not SQLite's.

@@ -20,8 +20,8 @@ struct FaultKind
 constexpr std::array kFaultKinds {
     FaultKind { "power", "the process is killed or the power is cut, at a call or amid it",
         &CutPowerEverywhere },
-    FaultKind { "careless", "the same with weakened syncs, which must be found out",
-        &CutPowerOfCarelessFiles },
+    FaultKind { "careless", "the same on media that ignore syncs, which must be found out",
+        &CutPowerOfCarelessMedia },
     FaultKind {
         "calls", "a call fails, once or for good, or the disk is full from it on", &LetCallsFail },
     FaultKind { "memory", "SQLite gets no memory, once or for good", &ExhaustMemory },

@@ -4,8 +4,6 @@
 
 #include <QHash>
 
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <cstring>
 #include <random>
@@ -245,7 +243,7 @@ private:
 
 /// Of so many images that need recovery one has its recovery cut too.
 constexpr quint32 kRecoveryShare = 40;
-/// The first hundreds show the first start, which is never weakened.
+/// The first hundreds show the first start, of which nothing is ignored.
 constexpr int kFewestCarelessImages = 2000;
 
 /// Looks at images of what a script left, and reads each different data file once.
@@ -290,39 +288,13 @@ private:
     }
 };
 
-/// The connection that was opened last.
-sqlite3*& LatestConnection()
-{
-    static sqlite3* connection = nullptr;
-    return connection;
-}
-
-int NoteConnection(sqlite3* connection, char** /*message*/, const void* /*routines*/)
-{
-    LatestConnection() = connection;
-    return SQLITE_OK;
-}
-
-/// Makes the connection of the session that was just started less careful.
-void Weaken(const char* synchronous)
-{
-    const QByteArray sql = QByteArray("PRAGMA synchronous = ") + synchronous;
-    if (sqlite3_exec(LatestConnection(), sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        qFatal("the medium cannot be weakened");
-}
-
-/// `synchronous` is a value of that pragma, for tests that must find faults; null leaves what the
-/// program sets.
-void RecordCalls(
-    const FaultRun& run, const Script& script, const char* synchronous, Recorder& recorder)
+void RecordCalls(const FaultRun& run, const Script& script, Recorder& recorder)
 {
     run.Clear();
     const WatchScope watch(run.Folder(), recorder);
     Session session;
     if (session.Start(run.DataFile()) != ErrorNumber::None)
         qFatal("the workload cannot start");
-    if (synchronous != nullptr)
-        Weaken(synchronous);
     RunScript(session, script, [&](size_t) { recorder.Acknowledge(); });
 }
 
@@ -346,14 +318,17 @@ void CutRecovery(
     }
 }
 
-/// Kills the program and cuts the power after every call of a recorded script, in every way.
-void CutEverywhere(FaultRun& run, const Script& script, const Recorder& recorder)
+/// Kills the program and cuts the power after every call of a recorded script, in every way. The
+/// medium ignores one kind of calls after the first step, for tests that must find faults.
+void CutEverywhere(
+    FaultRun& run, const Script& script, const Recorder& recorder, std::optional<CallKind> ignored)
 {
     std::mt19937 random(run.Seed());
     ImageJudge judge(run, script);
     Disk disk({});
     for (const Recorder::Event& event : recorder.Events()) {
-        disk.Apply(event);
+        if (event.acknowledged == 0 || event.call.kind != ignored)
+            disk.Apply(event);
         for (int way = 0; way < kLossCount && run.CountSoFar() < run.Runs(); ++way) {
             const Files image = disk.AfterPowerCut(static_cast<Loss>(way), random);
             run.Count();
@@ -367,12 +342,12 @@ void CutEverywhere(FaultRun& run, const Script& script, const Recorder& recorder
     }
 }
 
-void CutPower(FaultRun& run, const char* synchronous)
+void CutPower(FaultRun& run, std::optional<CallKind> ignored)
 {
     OnScripts(run, [&](const Script& script) {
         Recorder recorder;
-        RecordCalls(run, script, synchronous, recorder);
-        CutEverywhere(run, script, recorder);
+        RecordCalls(run, script, recorder);
+        CutEverywhere(run, script, recorder, ignored);
     });
 }
 
@@ -380,26 +355,23 @@ void CutPower(FaultRun& run, const char* synchronous)
 
 void CutPowerEverywhere(FaultRun& run)
 {
-    CutPower(run, nullptr);
+    CutPower(run, std::nullopt);
 }
 
-void CutPowerOfCarelessFiles(FaultRun& run)
+void CutPowerOfCarelessMedia(FaultRun& run)
 {
-    using Routine = void (*)();
-    sqlite3_auto_extension(reinterpret_cast<Routine>(&NoteConnection));
-    for (const char* synchronous : { "OFF", "NORMAL", "FULL" }) {
+    for (const CallKind ignored : { CallKind::Sync, CallKind::SyncFolder }) {
         FaultRun careless(std::max(run.Runs(), kFewestCarelessImages), run.Seed());
         careless.KeepQuiet();
-        CutPower(careless, synchronous);
+        CutPower(careless, ignored);
         for (int i = 0; i < careless.CountSoFar(); ++i)
             run.Count();
-        std::printf("  synchronous=%s: %d of %d images guilty\n", synchronous, careless.Blames(),
-            careless.CountSoFar());
+        const bool isOfFiles = ignored == CallKind::Sync;
+        std::printf("  syncs of %s ignored: %d of %d images guilty\n",
+            isOfFiles ? "files" : "folders", careless.Blames(), careless.CountSoFar());
         if (careless.Blames() == 0)
-            run.Blame(
-                u"synchronous=%1 was found innocent"_s.arg(QLatin1StringView(synchronous)), {});
+            run.Blame(u"a medium that ignores syncs was found innocent"_s, {});
     }
-    sqlite3_cancel_auto_extension(reinterpret_cast<Routine>(&NoteConnection));
 }
 
 } // namespace Quillory
