@@ -6,6 +6,8 @@
 
 #include <QStringConverter>
 
+#include <functional>
+
 namespace {
 
 const QString kTea = u"Uncommonly-green-tea"_s;

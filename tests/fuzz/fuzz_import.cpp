@@ -8,7 +8,10 @@
 
 #include <QBuffer>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <span>
 #include <string>
 #include <vector>
 
