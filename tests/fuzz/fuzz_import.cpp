@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
 #include <span>
 #include <string>
 #include <vector>
@@ -52,9 +53,10 @@ ListFixture& TheList()
     return file;
 }
 
-std::vector<PropertyId> AllColumns()
+/// Its columns, or the first ones.
+std::vector<PropertyId> Columns(size_t count = Expiry + 1)
 {
-    const std::vector<ColumnDefinition>& columns = TheList().list.columns;
+    const auto columns = std::span(TheList().list.columns).first(count);
     std::vector<PropertyId> ids(columns.size());
     std::transform(columns.begin(), columns.end(), ids.begin(),
         [](const ColumnDefinition& column) { return column.id; });
@@ -154,7 +156,7 @@ Way WayOf(quint8 first, quint8 second)
 {
     constexpr size_t kShortLine = 20;
     constexpr std::array<qint64, 8> kSteps { 1, 2, 3, 5, 16, 100, 1021, 1 << 20 };
-    Way way { FuzzedContext(first), AllColumns(), kSteps.at(second % kSteps.size()),
+    Way way { FuzzedContext(first), Columns(), kSteps.at(second % kSteps.size()),
         second < 128 ? kMaxLine : kShortLine };
     const auto shift = static_cast<std::ptrdiff_t>(first / 4 % way.columns.size());
     std::rotate(way.columns.begin(), way.columns.begin() + shift, way.columns.end());
@@ -196,6 +198,12 @@ void FieldComesBack(const QString& field, PropertyId column, const ValueContext&
     Require(again && FormatExportText(*again, context) == text, "a plain value comes back");
 }
 
+/// Those that are imported and exported: as many as there are in the list's order.
+std::vector<PropertyId> TheColumns()
+{
+    return Columns(TheList().list.columnOrder.size());
+}
+
 Database& Rows()
 {
     return *TheList().data->OpenDatabase(ListCatalogue::kRowsType);
@@ -215,7 +223,7 @@ qint64 Import(const QByteArray& bytes, const ValueContext& context, size_t batch
     Require(transaction.Commit(), "an empty list");
     Trickle source(bytes, std::ssize(bytes) + 1);
     const ImportOutcome outcome
-        = ImportRows(volume, AllColumns(), context, source, {}, { batchLines, kBatchText });
+        = ImportRows(volume, TheColumns(), context, source, {}, { batchLines, kBatchText });
     Require(outcome.writeError == ErrorNumber::None, "storing");
     return outcome.rows;
 }
@@ -234,7 +242,7 @@ std::vector<bool> PlainRows()
 {
     std::vector<bool> plain;
     const auto scanned = Rows().Scan(
-        AllColumns(), ScanOrder::Sorted, [&plain](ObjectId, std::span<const PropertyValue> values) {
+        TheColumns(), ScanOrder::Sorted, [&plain](ObjectId, std::span<const PropertyValue> values) {
             plain.push_back(std::all_of(values.begin(), values.end(), IsPlain));
             return true;
         });
@@ -249,9 +257,13 @@ QStringList ExportedLines(const QByteArray& bytes)
     return text.mid(1).split(u"\r\n"_s);
 }
 
-/// A file goes into the list, out of it, and in and out once more.
-void RowsComeBack(const QByteArray& bytes, const ValueContext& context, size_t batchLines)
+/// A file goes into the first columns of the list, out of them, and in and out once more.
+void RowsComeBack(
+    const QByteArray& bytes, const ValueContext& context, size_t columns, size_t batchLines)
 {
+    std::vector<quint32>& order = TheList().list.columnOrder;
+    order.resize(columns);
+    std::iota(order.begin(), order.end(), 0);
     const qint64 rows = Import(bytes, context, batchLines);
     const QByteArray first = Export(context);
     const std::vector<bool> plain = PlainRows();
@@ -291,6 +303,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     constexpr size_t kManyLines = 100'000;
     const size_t number = qHash(file, data[0]);
     if (number % kStoredShare == 0)
-        RowsComeBack(file, way.context, number % 7 == 0 ? kFewLines : kManyLines);
+        RowsComeBack(
+            file, way.context, way.columns.size(), number % 7 == 0 ? kFewLines : kManyLines);
     return 0;
 }
