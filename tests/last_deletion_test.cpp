@@ -2,8 +2,17 @@
 #include "store/last_deletion.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
-#include "tests/table.h"
 #include "tests/test_program.h"
+
+#include <QStringConverter>
+
+#include <functional>
+
+namespace {
+
+const QString kTea = u"Uncommonly-green-tea"_s;
+
+} // namespace
 
 class LastDeletionTest : public QObject
 {
@@ -12,10 +21,11 @@ class LastDeletionTest : public QObject
 private Q_SLOTS:
     void init()
     {
+        m_deletion.reset();
         m_lists = std::make_unique<ListFixture>();
         m_list = m_lists->MakeFullList(u"Pantry"_s);
-        m_tea = m_lists->Add({ u"Uncommonly-green-tea"_s, u"7"_s, u"top"_s, u"Checked"_s, u"1.25"_s,
-            u"3"_s, u"1/2/2026"_s, u"3/4/2027"_s });
+        m_tea = m_lists->Add({ kTea, u"7"_s, u"top"_s, u"Checked"_s, u"1.25"_s, u"3"_s,
+            u"1/2/2026"_s, u"3/4/2027"_s });
         m_lists->Add({ u"Salt"_s, u"1"_s });
         m_deletion = std::make_unique<LastDeletion>(*m_lists->catalogue);
     }
@@ -23,29 +33,28 @@ private Q_SLOTS:
     void aRowComesBackWithEveryValue()
     {
         const QString before = Values(m_tea);
-        QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
-        QCOMPARE(m_lists->Cells(m_lists->rows->FillRows().rows), u"Salt"_s);
-        QVERIFY(m_deletion->CanUndoIn(m_list));
-        const auto restored = m_deletion->Undo();
-        QVERIFY(restored.has_value());
-        QCOMPARE(Values(restored->row), before);
-        QVERIFY(!m_deletion->CanUndo());
-        QVERIFY(!m_deletion->Undo());
-        QCOMPARE(Contents(), u"Pantry: Salt Uncommonly-green-tea"_s);
-    }
-
-    void aRowComesBackAfterItsListWasLeft()
-    {
-        QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
-        m_lists->catalogue->CloseRows();
-        QVERIFY(m_deletion->Undo());
+        // The second time the list is left in between.
+        for (const bool isLeft : { false, true }) {
+            QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
+            QCOMPARE(m_lists->Cells(m_lists->rows->FillRows().rows), u"Salt"_s);
+            QVERIFY(m_deletion->CanUndoIn(m_list));
+            if (isLeft)
+                m_lists->catalogue->CloseRows();
+            const auto restored = m_deletion->Undo();
+            QVERIFY(restored.has_value() && !m_deletion->CanUndo() && !m_deletion->Undo());
+            m_lists->OpenList(m_list);
+            m_tea = restored->row;
+            QCOMPARE(Values(m_tea), before);
+        }
         QCOMPARE(Contents(), u"Pantry: Salt Uncommonly-green-tea"_s);
     }
 
     void allRowsComeBackBesideNewOnes()
     {
         QCOMPARE(m_deletion->DeleteAllRows(m_list), ListCatalogue::EmptyOutcome::Done);
+        const auto columns = m_lists->list.columns;
         m_lists->OpenList(m_list);
+        QCOMPARE(m_lists->list.columns, columns);
         QVERIFY(m_lists->rows->FillRows().rows.empty());
         m_lists->Add({ u"Oats"_s, u"2"_s });
         m_lists->Add({ u"Bread"_s, u"1"_s });
@@ -75,33 +84,27 @@ private Q_SLOTS:
         QCOMPARE(Contents(), u"Attic: Chair"_s);
     }
 
-    void whatIsForgottenIsGoneFromTheFile_data()
-    {
-        const Table<int> add;
-        add("a row", 0);
-        add("all rows", 1);
-        add("a list", 2);
-    }
-
     void whatIsForgottenIsGoneFromTheFile()
     {
-        const auto [deletion] = Table<int>::Row();
-        const auto fileHolds = [this](QStringView text) {
-            QByteArray bytes;
-            for (const QChar unit : text)
-                bytes += QByteArray::fromRawData("\0", 1) + unit.toLatin1();
-            return FileBytes(m_lists->Path()).contains(bytes);
+        const auto isTeaInFile = [this] {
+            const QByteArray name = QStringEncoder(QStringEncoder::Utf16BE)(kTea);
+            return FileBytes(m_lists->Path()).contains(name);
         };
-        if (deletion == 0)
-            QVERIFY(m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea));
-        else if (deletion == 1)
-            QCOMPARE(m_deletion->DeleteAllRows(m_list), ListCatalogue::EmptyOutcome::Done);
-        else
-            QVERIFY(m_deletion->DeleteList(m_list));
-        QCOMPARE(fileHolds(u"Uncommonly-green-tea"), deletion != 0);
-        m_deletion.reset();
-        m_lists->Restart();
-        QVERIFY(!fileHolds(u"Uncommonly-green-tea"));
+        const std::function<bool()> deletions[] {
+            [this] { return m_deletion->DeleteRow(m_list, *m_lists->rows, m_tea); },
+            [this] {
+                return m_deletion->DeleteAllRows(m_list) == ListCatalogue::EmptyOutcome::Done;
+            },
+            [this] { return m_deletion->DeleteList(m_list); },
+        };
+        for (const auto& deletion : deletions) {
+            init();
+            QVERIFY(deletion());
+            QCOMPARE(isTeaInFile(), &deletion != deletions);
+            m_deletion.reset();
+            m_lists->Restart();
+            QVERIFY(!isTeaInFile());
+        }
     }
 
 private:

@@ -164,18 +164,6 @@ private Q_SLOTS:
         QCOMPARE(file.catalogue->DeleteAllRows(oid), ListCatalogue::EmptyOutcome::CannotOpen);
         QCOMPARE(HomeList(*file.catalogue), u"hollow"_s);
     }
-
-    void emptyingAListKeepsItsColumns()
-    {
-        ListFixture file;
-        const ObjectId oid = file.MakeFullList(u"list"_s);
-        const auto columns = file.list.columns;
-        file.Add({ u"row"_s, u"1"_s });
-        QCOMPARE(file.catalogue->DeleteAllRows(oid), ListCatalogue::EmptyOutcome::Done);
-        file.Restart();
-        QVERIFY(file.rows->FillRows().rows.empty());
-        QCOMPARE(file.list.columns, columns);
-    }
 };
 
 QUILLORY_TEST(QCoreApplication, ListCatalogueTest)

@@ -3,6 +3,8 @@
 #include "tests/faults/fault_run.h"
 #include "tests/faults/system_calls.h"
 
+#include <sys/stat.h>
+
 #include <cerrno>
 
 namespace Quillory {
@@ -29,10 +31,20 @@ constexpr std::array kFailures {
     Failure { "is half or wholly done and fails once", EIO, false, true },
     Failure { "is cut short once", 0, false, true },
     Failure { "fails for good", EIO, true, false },
-    Failure { "finds no space for good", ENOSPC, true, true },
+    Failure { "finds the disk full", ENOSPC, true, true },
 };
 
-/// Lets one call fail, or all mutating ones from it on.
+/// On a full disk no file can be made, and none can grow.
+bool TakesRoom(const SystemCall& call)
+{
+    struct stat status
+    { };
+    const bool isThere = stat(call.path.constData(), &status) == 0;
+    return call.kind == CallKind::Create
+        || (call.kind == CallKind::Write && (!isThere || call.offset + call.size > status.st_size));
+}
+
+/// Lets one call fail, or all mutating ones from it on; on a full disk only those that need room.
 class Saboteur : public CallWatcher
 {
 public:
@@ -47,8 +59,10 @@ public:
         const bool isMeant = m_count == m_callNumber
             || (m_failure.isForGood && m_count > m_callNumber && call.IsMutating());
         const bool isBytes = call.kind == CallKind::Write || call.kind == CallKind::Read;
+        const bool isFull = m_failure.errorNumber == ENOSPC;
         // Only a write can run out of space, and only bytes can be half there.
-        const bool isPossible = (m_failure.errorNumber != ENOSPC || call.IsMutating())
+        const bool isPossible
+            = (!isFull || (call.IsMutating() && (!m_failure.isForGood || TakesRoom(call))))
             && (m_failure.errorNumber != 0 || isBytes);
         if (!isMeant || !isPossible)
             return std::nullopt;
@@ -93,7 +107,7 @@ void FailAt(FaultRun& run, const Script& script, size_t step, const Files& files
     }
     run.Count();
     const Files left = run.Taken();
-    const QString wrong = believer.Judge(failure.isForGood);
+    const QString wrong = believer.Judge(failure.isForGood && failure.errorNumber != ENOSPC);
     if (!wrong.isEmpty())
         run.Blame(u"step %1, call %2 (kind %3) %4: "_s.arg(step + 1)
                       .arg(call)
@@ -105,20 +119,18 @@ void FailAt(FaultRun& run, const Script& script, size_t step, const Files& files
 
 } // namespace
 
-void LetCallsFailThrough(FaultRun& run, const Script& script, int runs)
-{
-    ForEachCall(
-        run, script, runs, [&](size_t step) { return CountCalls(run, script, step); },
-        [&](size_t step, const Files& before, int call) {
-            const auto kind = static_cast<size_t>(run.CountSoFar()) % kFailures.size();
-            FailAt(run, script, step, before, call, kFailures[kind]);
-        });
-}
-
 void LetCallsFail(FaultRun& run)
 {
     OnScripts(run, [&run](const Script& script) {
-        LetCallsFailThrough(run, script, run.Runs() - run.CountSoFar());
+        const std::vector<Files> stages = MakeStages(run, script);
+        for (size_t step = 0; step < script.steps.size(); ++step) {
+            run.Place(stages[step]);
+            const int calls = CountCalls(run, script, step);
+            for (int call = 1; call <= calls && run.CountSoFar() < run.Runs(); ++call) {
+                const auto kind = static_cast<size_t>(run.CountSoFar()) % kFailures.size();
+                FailAt(run, script, step, stages[step], call, kFailures[kind]);
+            }
+        }
     });
 }
 

@@ -140,18 +140,4 @@ void OnScripts(FaultRun& run, const std::function<void(const Script& script)>& w
         work(MakeScript(run.Seed() + round));
 }
 
-void ForEachCall(FaultRun& run, const Script& script, int runs,
-    const std::function<int(size_t step)>& countCalls,
-    const std::function<void(size_t step, const Files& before, int call)>& visit)
-{
-    const std::vector<Files> stages = MakeStages(run, script);
-    const int end = run.CountSoFar() + runs;
-    for (size_t step = 0; step < script.steps.size(); ++step) {
-        run.Place(stages[step]);
-        const int calls = countCalls(step);
-        for (int call = 1; call <= calls && run.CountSoFar() < end; ++call)
-            visit(step, stages[step], call);
-    }
-}
-
 } // namespace Quillory

@@ -65,21 +65,12 @@ using ReadByName = std::function<std::optional<Reading>(const QByteArray& name)>
 /// Works on one script after another until the run has made its faults.
 void OnScripts(FaultRun& run, const std::function<void(const Script& script)>& work);
 
-/// Visits each call that each step of the script makes, as `countCalls` finds when it runs the step
-/// on the files before it, until the run has made `runs` more faults.
-void ForEachCall(FaultRun& run, const Script& script, int runs,
-    const std::function<int(size_t step)>& countCalls,
-    const std::function<void(size_t step, const Files& before, int call)>& visit);
-
 // The kinds of faults. Each makes its fault run.Runs() times or a little more.
-void KillAtEveryCall(FaultRun& run);
+/// Kills the program and cuts the power.
 void CutPowerEverywhere(FaultRun& run);
-/// The same with the syncs of the data file weakened, which must be found out.
-void CutPowerOfCarelessFiles(FaultRun& run);
+/// The same on media that ignore syncs, which must be found out.
+void CutPowerOfCarelessMedia(FaultRun& run);
 void LetCallsFail(FaultRun& run);
-void FillDisk(FaultRun& run);
-/// Kills, failing calls and a full disk during an import.
-void BreakImports(FaultRun& run);
 void ExhaustMemory(FaultRun& run);
 /// The same with the memory of all code that is not SQLite's.
 void ExhaustHeap(FaultRun& run);
@@ -91,10 +82,5 @@ void RefuseForeignFiles(FaultRun& run);
 void LayJournals(FaultRun& run);
 /// Other processes read, write and lock the file beside the program.
 void ShareTheFile(FaultRun& run);
-
-// The same on a given script, at most so often.
-void KillThrough(FaultRun& run, const Script& script, int runs);
-void LetCallsFailThrough(FaultRun& run, const Script& script, int runs);
-void FillDiskThrough(FaultRun& run, const Script& script, int runs);
 
 } // namespace Quillory

@@ -18,14 +18,12 @@ struct FaultKind
 };
 
 constexpr std::array kFaultKinds {
-    FaultKind { "kill", "the process is killed at a call or amid it", &KillAtEveryCall },
-    FaultKind { "power", "the power is cut after a call, in eight ways", &CutPowerEverywhere },
-    FaultKind { "careless", "the same with weakened syncs, which must be found out",
-        &CutPowerOfCarelessFiles },
-    FaultKind { "calls", "a call fails, once or for good", &LetCallsFail },
-    FaultKind { "full", "the disk runs full", &FillDisk },
+    FaultKind { "power", "the process is killed or the power is cut, at a call or amid it",
+        &CutPowerEverywhere },
+    FaultKind { "careless", "the same on media that ignore syncs, which must be found out",
+        &CutPowerOfCarelessMedia },
     FaultKind {
-        "import", "an import is killed, or its calls fail, or the disk runs full", &BreakImports },
+        "calls", "a call fails, once or for good, or the disk is full from it on", &LetCallsFail },
     FaultKind { "memory", "SQLite gets no memory, once or for good", &ExhaustMemory },
     FaultKind { "heap", "operator new gets no memory, once or for good", &ExhaustHeap },
     FaultKind { "meddle", "somebody removes or replaces the open file", &MeddleWithOpenFile },

@@ -49,9 +49,10 @@ public:
         if (action == Action::Backup)
             step.number = ++m_backups;
         if (action == Action::AddRow || action == Action::ChangeRow)
-            step.rows.push_back(SomeRow());
+            step.rows.resize(1);
         if (action == Action::ImportRows)
-            step.rows = SomeRows(3 + Below(14));
+            step.rows.resize(3 + Below(14));
+        std::generate(step.rows.begin(), step.rows.end(), [this] { return SomeRow(); });
         if (m_model.CanApply(step))
             Write(std::move(step));
     }
@@ -64,14 +65,6 @@ public:
         std::shuffle(actions.begin(), actions.end(), m_random);
         for (const Action action : actions)
             WriteOneOf(action);
-    }
-
-    std::vector<ModelRow> SomeRows(size_t count)
-    {
-        std::vector<ModelRow> rows;
-        for (size_t i = 0; i < count; ++i)
-            rows.push_back(SomeRow());
-        return rows;
     }
 
     [[nodiscard]] const Script& Written() const { return m_script; }
@@ -244,14 +237,6 @@ Script MakeScript(quint32 seed, size_t length)
     writer.WriteOneOf(Action::AddList);
     while (writer.Written().steps.size() < length)
         writer.WriteRound();
-    return writer.Written();
-}
-
-Script MakeImportScript(quint32 seed, size_t rowCount)
-{
-    ScriptWriter writer(seed);
-    writer.WriteOneOf(Action::AddList);
-    writer.Write({ Action::ImportRows, u"List 1."_s, {}, 0, writer.SomeRows(rowCount), 0 });
     return writer.Written();
 }
 

@@ -117,7 +117,5 @@ struct Script
 
 /// Steps drawn from every action, at least `length` of them; the same for the same seed.
 [[nodiscard]] Script MakeScript(quint32 seed, size_t length = 40);
-/// One list and one import of so many rows.
-[[nodiscard]] Script MakeImportScript(quint32 seed, size_t rowCount);
 
 } // namespace Quillory

@@ -59,22 +59,11 @@ void MustBeZero(int result)
         qFatal("no mischief can be done");
 }
 
-void MoveAside(const QByteArray& path)
-{
-    rename(path.constData(), Aside(path).constData());
-}
-
 void MoveBack(const QByteArray& path)
 {
     // What may be there is a folder.
     rmdir(path.constData());
     rename(Aside(path).constData(), path.constData());
-}
-
-void ReplaceByText(const QByteArray& path)
-{
-    MoveAside(path);
-    Write(path, kLetter.toByteArray());
 }
 
 /// As programs do that keep folders alike on several machines.
@@ -90,31 +79,23 @@ void Touch(const QByteArray& path)
 
 using Path = const QByteArray&;
 
+void ReplaceByText(Path path)
+{
+    Write(path, kLetter.toByteArray());
+}
+
 constexpr std::array kMischiefs {
     Mischief { "is removed", [](Path path) { unlink(path.constData()); }, nullptr, true },
-    Mischief { "is moved away", MoveAside, MoveBack, true },
+    Mischief { "is moved away", [](Path) {}, MoveBack, true },
     Mischief { "is replaced by a text", ReplaceByText, MoveBack, true },
-    Mischief { "is replaced by an empty file",
-        [](Path path) {
-            MoveAside(path);
-            Write(path, {});
-        },
-        MoveBack, true },
+    Mischief { "is replaced by an empty file", [](Path path) { Write(path, {}); }, MoveBack, true },
     Mischief { "is replaced by another data file", ReplaceByOther, nullptr, true },
     Mischief { "is overwritten by another data file",
         [](Path path) { Write(path, Read(Other(path))); }, nullptr, true },
     Mischief { "is replaced by a link to nothing",
-        [](Path path) {
-            MoveAside(path);
-            MustBeZero(symlink("/nowhere", path.constData()));
-        },
-        MoveBack, true },
+        [](Path path) { MustBeZero(symlink("/nowhere", path.constData())); }, MoveBack, true },
     Mischief { "is replaced by a folder",
-        [](Path path) {
-            MoveAside(path);
-            MustBeZero(mkdir(path.constData(), 0700));
-        },
-        MoveBack, true },
+        [](Path path) { MustBeZero(mkdir(path.constData(), 0700)); }, MoveBack, true },
     Mischief { "gets a second name",
         [](Path path) { MustBeZero(link(path.constData(), Aside(path).constData())); },
         [](Path path) { unlink(Aside(path).constData()); }, false },
@@ -125,6 +106,14 @@ constexpr std::array kMischiefs {
     Mischief {
         "is emptied", [](Path path) { MustBeZero(truncate(path.constData(), 0)); }, nullptr, true },
 };
+
+/// What is moved back was moved aside first.
+void Act(const Mischief& mischief, const QByteArray& path)
+{
+    if (mischief.makeGood == &MoveBack)
+        MustBeZero(rename(path.constData(), Aside(path).constData()));
+    mischief.act(path);
+}
 
 /// The bytes at the path that are not the program's own, to see that they stay.
 QByteArray BytesAt(const Files& files)
@@ -140,7 +129,7 @@ QString ActBetween(const FaultRun& run, const Mischief& mischief)
     Session session;
     if (session.Start(run.DataFile()) != ErrorNumber::None)
         qFatal("the workload cannot start");
-    mischief.act(run.DataFile());
+    Act(mischief, run.DataFile());
     const Files before = run.Taken();
     const bool isDone = session.Run(step).isDone;
     if (isDone && mischief.isRefused)
@@ -171,14 +160,14 @@ public:
     std::optional<CallFault> BeforeCall(const SystemCall& /*call*/) override
     {
         if (++m_count == m_callNumber)
-            m_mischief.act(m_path);
+            Act(m_mischief, m_path);
         return std::nullopt;
     }
     /// Acts now if the operations made too few calls.
     void ActAtLast() const
     {
         if (m_count < m_callNumber)
-            m_mischief.act(m_path);
+            Act(m_mischief, m_path);
     }
 
 private:

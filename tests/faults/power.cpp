@@ -4,8 +4,6 @@
 
 #include <QHash>
 
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <cstring>
 #include <random>
@@ -59,11 +57,14 @@ private:
     size_t m_acknowledged = 0;
 };
 
-/// What a power cut may do to changes that no sync has covered.
+/// What the end of the program does to changes that no sync has covered: it is killed, or the power
+/// is cut.
 enum class Loss
 {
-    Everything,
+    /// It is killed after the latest change, or amid it: half of what was written is there.
     Nothing,
+    HalfAWrite,
+    Everything,
     /// Files have their bytes, but names are as they were at the last sync of the folder.
     Names,
     /// Names are there, but what was written to the files is not.
@@ -77,7 +78,7 @@ enum class Loss
     /// As above, and one write was under way: its lost sectors hold junk.
     JunkSectors,
 };
-constexpr int kLossCount = 8;
+constexpr int kLossCount = 9;
 
 /// A medium as it is between the syncs: what is safe, and what is still on its way.
 class Disk
@@ -119,7 +120,8 @@ public:
     /// The files that are found after a power cut.
     [[nodiscard]] Files AfterPowerCut(Loss loss, std::mt19937& random) const
     {
-        const bool keepsNames = loss == Loss::Nothing || loss == Loss::Bytes;
+        const bool isKilled = loss == Loss::Nothing || loss == Loss::HalfAWrite;
+        const bool keepsNames = isKilled || loss == Loss::Bytes;
         const bool losesNames = loss == Loss::Everything || loss == Loss::Names;
         const size_t count = m_pending.size();
         // Changes of names reach the medium in their order.
@@ -137,10 +139,11 @@ public:
             }
             QByteArray& bytes = contents[static_cast<size_t>(change.file)];
             const bool isSectors = loss == Loss::RandomSectors || loss == Loss::JunkSectors;
-            const bool isKept = loss == Loss::Nothing || loss == Loss::Names
-                || (loss == Loss::Tail && i < cut)
+            const bool isKept = isKilled || loss == Loss::Names || (loss == Loss::Tail && i < cut)
                 || (loss == Loss::RandomWrites && random() % 2 == 0);
-            if (isSectors)
+            if (loss == Loss::HalfAWrite && i + 1 == count)
+                ApplyToBytes(HalfOf(change), bytes);
+            else if (isSectors)
                 ApplySectors(change, bytes, loss == Loss::JunkSectors && i == junk, random);
             else if (isKept)
                 ApplyToBytes(change, bytes);
@@ -212,6 +215,11 @@ private:
         std::memcpy(bytes.data() + change.place, change.bytes.constData(),
             static_cast<size_t>(change.bytes.size()));
     }
+    static Change HalfOf(Change change)
+    {
+        change.bytes.truncate(change.bytes.size() / 2);
+        return change;
+    }
     static void ApplySectors(
         const Change& change, QByteArray& bytes, bool isJunkLeft, std::mt19937& random)
     {
@@ -235,16 +243,35 @@ private:
 
 /// Of so many images that need recovery one has its recovery cut too.
 constexpr quint32 kRecoveryShare = 40;
-/// The first hundreds show the first start, which is never weakened.
+/// The first hundreds show the first start, of which nothing is ignored.
 constexpr int kFewestCarelessImages = 2000;
 
-/// Reads images of data files, each different one once.
-class ImageReader
+/// Looks at images of what a script left, and reads each different data file once.
+class ImageJudge
 {
 public:
-    explicit ImageReader(const FaultRun& run)
+    ImageJudge(const FaultRun& run, const Script& script)
         : m_run(run)
+        , m_script(script)
     { }
+
+    /// What is wrong with the files that a power cut left; empty if nothing is.
+    QString Judge(size_t acknowledged, const Files& image)
+    {
+        const auto read = [&](const QByteArray& name) -> std::optional<Reading> {
+            const auto file = image.find(name);
+            const auto journal = image.find(name + "-journal");
+            if (file == image.end())
+                return std::nullopt;
+            return Read(file->second, journal == image.end() ? nullptr : &journal->second);
+        };
+        return Quillory::Judge(m_script, acknowledged, read);
+    }
+
+private:
+    const FaultRun& m_run;
+    const Script& m_script;
+    std::map<size_t, Reading> m_readings;
 
     /// What the program finds in this file, beside its journal if there is one.
     const Reading& Read(const QByteArray& file, const QByteArray* journal)
@@ -259,64 +286,21 @@ public:
         m_run.Place(files);
         return m_readings.emplace(key, ReadDataFile(m_run.DataFile())).first->second;
     }
-
-private:
-    const FaultRun& m_run;
-    std::map<size_t, Reading> m_readings;
 };
 
-/// What is wrong with the files that a power cut left; empty if nothing is.
-QString JudgeImage(
-    ImageReader& reader, const Script& script, size_t acknowledged, const Files& image)
-{
-    return Judge(script, acknowledged, [&](const QByteArray& name) -> std::optional<Reading> {
-        const auto file = image.find(name);
-        const auto journal = image.find(name + "-journal");
-        if (file == image.end())
-            return std::nullopt;
-        return reader.Read(file->second, journal == image.end() ? nullptr : &journal->second);
-    });
-}
-
-/// The connection that was opened last.
-sqlite3*& LatestConnection()
-{
-    static sqlite3* connection = nullptr;
-    return connection;
-}
-
-int NoteConnection(sqlite3* connection, char** /*message*/, const void* /*routines*/)
-{
-    LatestConnection() = connection;
-    return SQLITE_OK;
-}
-
-/// Makes the connection of the session that was just started less careful.
-void Weaken(const char* synchronous)
-{
-    const QByteArray sql = QByteArray("PRAGMA synchronous = ") + synchronous;
-    if (sqlite3_exec(LatestConnection(), sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        qFatal("the medium cannot be weakened");
-}
-
-/// `synchronous` is a value of that pragma, for tests that must find faults; null leaves what the
-/// program sets.
-void RecordCalls(
-    const FaultRun& run, const Script& script, const char* synchronous, Recorder& recorder)
+void RecordCalls(const FaultRun& run, const Script& script, Recorder& recorder)
 {
     run.Clear();
     const WatchScope watch(run.Folder(), recorder);
     Session session;
     if (session.Start(run.DataFile()) != ErrorNumber::None)
         qFatal("the workload cannot start");
-    if (synchronous != nullptr)
-        Weaken(synchronous);
     RunScript(session, script, [&](size_t) { recorder.Acknowledge(); });
 }
 
 /// Cuts the power while the program recovers from an earlier power cut.
-void CutRecovery(FaultRun& run, ImageReader& reader, const Script& script, size_t acknowledged,
-    const Files& image, std::mt19937& random)
+void CutRecovery(
+    FaultRun& run, ImageJudge& judge, size_t acknowledged, const Files& image, std::mt19937& random)
 {
     run.Place(image);
     Recorder recorder;
@@ -329,38 +313,41 @@ void CutRecovery(FaultRun& run, ImageReader& reader, const Script& script, size_
         disk.Apply(event);
         const Files after = disk.AfterPowerCut(static_cast<Loss>(random() % kLossCount), random);
         run.Count();
-        if (const QString wrong = JudgeImage(reader, script, acknowledged, after); !wrong.isEmpty())
+        if (const QString wrong = judge.Judge(acknowledged, after); !wrong.isEmpty())
             run.Blame(u"recovery cut short: "_s + wrong, after);
     }
 }
 
-/// Cuts the power after every call of a recorded script, in every way.
-void CutEverywhere(FaultRun& run, const Script& script, const Recorder& recorder)
+/// Kills the program and cuts the power after every call of a recorded script, in every way. The
+/// medium ignores one kind of calls after the first step, for tests that must find faults.
+void CutEverywhere(
+    FaultRun& run, const Script& script, const Recorder& recorder, std::optional<CallKind> ignored)
 {
     std::mt19937 random(run.Seed());
-    ImageReader reader(run);
+    ImageJudge judge(run, script);
     Disk disk({});
     for (const Recorder::Event& event : recorder.Events()) {
-        disk.Apply(event);
+        if (event.acknowledged == 0 || event.call.kind != ignored)
+            disk.Apply(event);
         for (int way = 0; way < kLossCount && run.CountSoFar() < run.Runs(); ++way) {
             const Files image = disk.AfterPowerCut(static_cast<Loss>(way), random);
             run.Count();
-            const QString wrong = JudgeImage(reader, script, event.acknowledged, image);
+            const QString wrong = judge.Judge(event.acknowledged, image);
             if (!wrong.isEmpty())
                 run.Blame(
                     u"way %1 after %2 steps: "_s.arg(way).arg(event.acknowledged) + wrong, image);
             else if (image.contains("data.idb-journal") && random() % kRecoveryShare == 0)
-                CutRecovery(run, reader, script, event.acknowledged, image, random);
+                CutRecovery(run, judge, event.acknowledged, image, random);
         }
     }
 }
 
-void CutPower(FaultRun& run, const char* synchronous)
+void CutPower(FaultRun& run, std::optional<CallKind> ignored)
 {
     OnScripts(run, [&](const Script& script) {
         Recorder recorder;
-        RecordCalls(run, script, synchronous, recorder);
-        CutEverywhere(run, script, recorder);
+        RecordCalls(run, script, recorder);
+        CutEverywhere(run, script, recorder, ignored);
     });
 }
 
@@ -368,26 +355,23 @@ void CutPower(FaultRun& run, const char* synchronous)
 
 void CutPowerEverywhere(FaultRun& run)
 {
-    CutPower(run, nullptr);
+    CutPower(run, std::nullopt);
 }
 
-void CutPowerOfCarelessFiles(FaultRun& run)
+void CutPowerOfCarelessMedia(FaultRun& run)
 {
-    using Routine = void (*)();
-    sqlite3_auto_extension(reinterpret_cast<Routine>(&NoteConnection));
-    for (const char* synchronous : { "OFF", "NORMAL", "FULL" }) {
+    for (const CallKind ignored : { CallKind::Sync, CallKind::SyncFolder }) {
         FaultRun careless(std::max(run.Runs(), kFewestCarelessImages), run.Seed());
         careless.KeepQuiet();
-        CutPower(careless, synchronous);
+        CutPower(careless, ignored);
         for (int i = 0; i < careless.CountSoFar(); ++i)
             run.Count();
-        std::printf("  synchronous=%s: %d of %d images guilty\n", synchronous, careless.Blames(),
-            careless.CountSoFar());
+        const bool isOfFiles = ignored == CallKind::Sync;
+        std::printf("  syncs of %s ignored: %d of %d images guilty\n",
+            isOfFiles ? "files" : "folders", careless.Blames(), careless.CountSoFar());
         if (careless.Blames() == 0)
-            run.Blame(
-                u"synchronous=%1 was found innocent"_s.arg(QLatin1StringView(synchronous)), {});
+            run.Blame(u"a medium that ignores syncs was found innocent"_s, {});
     }
-    sqlite3_cancel_auto_extension(reinterpret_cast<Routine>(&NoteConnection));
 }
 
 } // namespace Quillory

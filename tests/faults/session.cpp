@@ -7,7 +7,7 @@
 
 #include <QBuffer>
 #include <QFile>
-#include <QtEndian>
+#include <QStringConverter>
 
 namespace Quillory {
 
@@ -29,21 +29,12 @@ std::array<QString, 5> TypedTexts(const ModelRow& row)
     return texts;
 }
 
-QString Utf16Text(const QByteArray& bytes)
-{
-    QString text(bytes.size() / 2, Qt::Uninitialized);
-    qFromLittleEndian<quint16>(bytes.constData(), text.size(), text.data());
-    return text.startsWith(QChar::ByteOrderMark) ? text.mid(1) : text;
-}
-
 QByteArray ImportText(const std::vector<ModelRow>& rows)
 {
-    QString text(QChar::ByteOrderMark);
+    QString text;
     for (const ModelRow& row : rows)
         text += LineOf(row);
-    QByteArray bytes(text.size() * 2, Qt::Uninitialized);
-    qToLittleEndian<quint16>(text.utf16(), text.size(), bytes.data());
-    return bytes;
+    return QStringEncoder(QStringEncoder::Utf16LE, QStringEncoder::Flag::WriteBom)(text);
 }
 
 } // namespace
@@ -175,7 +166,7 @@ std::vector<Session::ListText> Session::ReadLists()
             Database& rows = *m_volume.OpenDatabase(ListCatalogue::kRowsType);
             text.error = ExportRows(rows, list, m_context, target).readError;
             text.heading += u' ' + QString::number(list.TableWarnStart) + u"\r\n"_s;
-            text.rows = Utf16Text(target.data());
+            text.rows = QStringDecoder(QStringDecoder::Utf16LE)(target.data());
         } else {
             text.error = m_volume.LastError();
         }

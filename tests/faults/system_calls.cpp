@@ -101,58 +101,10 @@ long RealStat(int folder, const char* path, struct stat* status, int flags)
     return syscall(SYS_newfstatat, folder, path, status, flags);
 }
 
-int OpenFile(const char* path, int flags, mode_t mode)
-{
-    struct stat status
-    { };
-    const bool isMade
-        = (flags & O_CREAT) != 0 && RealStat(AT_FDCWD, path, &status, AT_SYMLINK_NOFOLLOW) != 0;
-    const SystemCall call = OnPath(isMade ? CallKind::Create : CallKind::Open, path);
-    const auto descriptor = static_cast<int>(
-        Perform(call, [&](qint64) { return syscall(SYS_openat, AT_FDCWD, path, flags, mode); }));
-    Watch* watch = ActiveWatch();
-    if (descriptor >= 0 && watch != nullptr && IsBelow(call.path, watch->folder))
-        watch->descriptors[descriptor] = call.path;
-    return descriptor;
-}
-
 int LookAt(const char* path, struct stat* status, int flags)
 {
     return static_cast<int>(Perform(OnPath(CallKind::Look, path),
         [&](qint64) { return RealStat(AT_FDCWD, path, status, flags); }));
-}
-
-int LookAtOpen(int descriptor, struct stat* status)
-{
-    return static_cast<int>(Perform(OnDescriptor(CallKind::Look, descriptor),
-        [&](qint64) { return RealStat(descriptor, "", status, AT_EMPTY_PATH); }));
-}
-
-ssize_t ReadAt(int descriptor, void* buffer, size_t size, off_t offset)
-{
-    SystemCall call = OnDescriptor(CallKind::Read, descriptor);
-    call.size = static_cast<qint64>(size);
-    call.offset = offset;
-    return Perform(call,
-        [&](qint64 count) { return syscall(SYS_pread64, descriptor, buffer, count, offset); });
-}
-
-ssize_t WriteAt(int descriptor, const void* bytes, size_t size, off_t offset)
-{
-    SystemCall call = OnDescriptor(CallKind::Write, descriptor);
-    call.bytes = static_cast<const char*>(bytes);
-    call.size = static_cast<qint64>(size);
-    call.offset = offset;
-    return Perform(call,
-        [&](qint64 count) { return syscall(SYS_pwrite64, descriptor, bytes, count, offset); });
-}
-
-int TruncateOpen(int descriptor, off_t size)
-{
-    SystemCall call = OnDescriptor(CallKind::Truncate, descriptor);
-    call.size = size;
-    return static_cast<int>(
-        Perform(call, [&](qint64) { return syscall(SYS_ftruncate, descriptor, size); }));
 }
 
 int SyncOpen(int descriptor, long number)
@@ -172,14 +124,6 @@ int RenameFile(const char* from, const char* to, unsigned flags)
     call.target = to;
     return static_cast<int>(Perform(
         call, [&](qint64) { return syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, flags); }));
-}
-
-int Control(int descriptor, int command, long argument)
-{
-    const bool isLock = command == F_SETLK || command == F_OFD_SETLK || command == F_GETLK;
-    const SystemCall call = isLock ? OnDescriptor(CallKind::Lock, descriptor) : SystemCall {};
-    return static_cast<int>(
-        Perform(call, [&](qint64) { return syscall(SYS_fcntl, descriptor, command, argument); }));
 }
 
 } // namespace
@@ -203,6 +147,8 @@ WatchScope::~WatchScope()
 // NOLINTBEGIN(readability-identifier-naming, readability-inconsistent-declaration-parameter-name):
 // the names of the C library. Those with 64 are what libraries built for large files call; sizes
 // are the same here.
+using namespace Quillory;
+
 extern "C" {
 
 int open(const char* path, int flags, ...)
@@ -211,12 +157,22 @@ int open(const char* path, int flags, ...)
     va_start(arguments, flags);
     const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
     va_end(arguments);
-    return Quillory::OpenFile(path, flags, mode);
+    struct stat status
+    { };
+    const bool isMade
+        = (flags & O_CREAT) != 0 && RealStat(AT_FDCWD, path, &status, AT_SYMLINK_NOFOLLOW) != 0;
+    const SystemCall call = OnPath(isMade ? CallKind::Create : CallKind::Open, path);
+    const auto descriptor = static_cast<int>(
+        Perform(call, [&](qint64) { return syscall(SYS_openat, AT_FDCWD, path, flags, mode); }));
+    Watch* watch = ActiveWatch();
+    if (descriptor >= 0 && watch != nullptr && IsBelow(call.path, watch->folder))
+        watch->descriptors[descriptor] = call.path;
+    return descriptor;
 }
 
 int close(int descriptor)
 {
-    if (Quillory::Watch* watch = Quillory::ActiveWatch())
+    if (Watch* watch = ActiveWatch())
         watch->descriptors.erase(descriptor);
     return static_cast<int>(syscall(SYS_close, descriptor));
 }
@@ -227,70 +183,86 @@ int fcntl(int descriptor, int command, ...)
     va_start(arguments, command);
     const long argument = va_arg(arguments, long);
     va_end(arguments);
-    return Quillory::Control(descriptor, command, argument);
+    const bool isLock = command == F_SETLK || command == F_OFD_SETLK || command == F_GETLK;
+    const SystemCall call = isLock ? OnDescriptor(CallKind::Lock, descriptor) : SystemCall {};
+    return static_cast<int>(
+        Perform(call, [&](qint64) { return syscall(SYS_fcntl, descriptor, command, argument); }));
 }
 
 int stat(const char* path, struct stat* status) noexcept
 {
-    return Quillory::LookAt(path, status, 0);
+    return LookAt(path, status, 0);
 }
 
 int lstat(const char* path, struct stat* status) noexcept
 {
-    return Quillory::LookAt(path, status, AT_SYMLINK_NOFOLLOW);
+    return LookAt(path, status, AT_SYMLINK_NOFOLLOW);
 }
 
 int fstat(int descriptor, struct stat* status) noexcept
 {
-    return Quillory::LookAtOpen(descriptor, status);
+    return static_cast<int>(Perform(OnDescriptor(CallKind::Look, descriptor),
+        [&](qint64) { return RealStat(descriptor, "", status, AT_EMPTY_PATH); }));
 }
 
 int access(const char* path, int mode) noexcept
 {
-    return static_cast<int>(Quillory::Perform(Quillory::OnPath(Quillory::CallKind::Look, path),
+    return static_cast<int>(Perform(OnPath(CallKind::Look, path),
         [&](qint64) { return syscall(SYS_faccessat, AT_FDCWD, path, mode); }));
 }
 
 ssize_t pread(int descriptor, void* buffer, size_t size, off_t offset)
 {
-    return Quillory::ReadAt(descriptor, buffer, size, offset);
+    SystemCall call = OnDescriptor(CallKind::Read, descriptor);
+    call.size = static_cast<qint64>(size);
+    call.offset = offset;
+    return Perform(call,
+        [&](qint64 count) { return syscall(SYS_pread64, descriptor, buffer, count, offset); });
 }
 
 ssize_t pwrite64(int descriptor, const void* bytes, size_t size, off64_t offset)
 {
-    return Quillory::WriteAt(descriptor, bytes, size, offset);
+    SystemCall call = OnDescriptor(CallKind::Write, descriptor);
+    call.bytes = static_cast<const char*>(bytes);
+    call.size = static_cast<qint64>(size);
+    call.offset = offset;
+    return Perform(call,
+        [&](qint64 count) { return syscall(SYS_pwrite64, descriptor, bytes, count, offset); });
 }
 
 int ftruncate64(int descriptor, off64_t size) noexcept
 {
-    return Quillory::TruncateOpen(descriptor, size);
+    SystemCall call = OnDescriptor(CallKind::Truncate, descriptor);
+    call.size = size;
+    return static_cast<int>(
+        Perform(call, [&](qint64) { return syscall(SYS_ftruncate, descriptor, size); }));
 }
 
 int fsync(int descriptor)
 {
-    return Quillory::SyncOpen(descriptor, SYS_fsync);
+    return SyncOpen(descriptor, SYS_fsync);
 }
 
 int fdatasync(int descriptor)
 {
-    return Quillory::SyncOpen(descriptor, SYS_fdatasync);
+    return SyncOpen(descriptor, SYS_fdatasync);
 }
 
 int unlink(const char* path) noexcept
 {
-    return static_cast<int>(Quillory::Perform(Quillory::OnPath(Quillory::CallKind::Remove, path),
+    return static_cast<int>(Perform(OnPath(CallKind::Remove, path),
         [&](qint64) { return syscall(SYS_unlinkat, AT_FDCWD, path, 0); }));
 }
 
 int rename(const char* from, const char* to) noexcept
 {
-    return Quillory::RenameFile(from, to, 0);
+    return RenameFile(from, to, 0);
 }
 
 int renameat2(
     int /*fromFolder*/, const char* from, int /*toFolder*/, const char* to, unsigned flags) noexcept
 {
-    return Quillory::RenameFile(from, to, flags);
+    return RenameFile(from, to, flags);
 }
 
 int open64(const char* path, int flags, ...) __attribute__((alias("open")));

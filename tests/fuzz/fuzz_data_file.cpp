@@ -2,11 +2,12 @@
 #include "propdb/confined_vfs.h"
 #include "store/salvage.h"
 #include "tests/faults/sealed_file.h"
-#include "tests/fuzz/fuzz_context.h"
+#include "tests/fuzz/require.h"
 
 #include <QFile>
 #include <QtEndian>
 
+#include <algorithm>
 #include <random>
 #include <span>
 
@@ -18,7 +19,7 @@ using namespace Quillory;
 namespace {
 
 constexpr qsizetype kSectorSize = 512;
-constexpr size_t kSizeBytes = 2;
+constexpr qsizetype kSizeBytes = 2;
 
 /// Where the parts of a journal lie: a header that fills a sector, and records.
 constexpr qsizetype kNoncePlace = 12;
@@ -42,19 +43,13 @@ struct HostileFile
     QByteArray journal;
 
     /// Two bytes tell how many sectors of 512 bytes the file has; the journal follows it.
-    [[nodiscard]] static HostileFile FromInput(std::span<const quint8> input)
+    [[nodiscard]] static HostileFile FromInput(QByteArrayView input)
     {
-        HostileFile hostile;
         if (input.size() < kSizeBytes)
-            return hostile;
-        const size_t wanted = qFromLittleEndian<quint16>(input.data()) * size_t { kSectorSize };
-        const auto bytes = input.subspan(kSizeBytes);
-        const auto file = bytes.first(std::min(wanted, bytes.size()));
-        hostile.file = QByteArray(reinterpret_cast<const char*>(file.data()), std::ssize(file));
-        const auto journal = bytes.subspan(file.size());
-        hostile.journal
-            = QByteArray(reinterpret_cast<const char*>(journal.data()), std::ssize(journal));
-        return hostile;
+            return {};
+        const qsizetype wanted = qFromLittleEndian<quint16>(input.data()) * kSectorSize;
+        const QByteArray bytes = input.sliced(kSizeBytes).toByteArray();
+        return { bytes.left(wanted), bytes.mid(wanted) };
     }
     /// Writes as much of it as there is room for; returns how much that is.
     [[nodiscard]] size_t ToInput(std::span<quint8> input) const
@@ -330,8 +325,9 @@ extern "C" size_t LLVMFuzzerCustomMutator(
     constexpr size_t kSmallest = 100;
     constexpr unsigned kMostChanges = 3;
     Spoiler spoiler(TheTarget().Samples(), seed);
-    HostileFile hostile
-        = size < kSmallest ? spoiler.SomeSample() : HostileFile::FromInput({ data, size });
+    HostileFile hostile = size < kSmallest
+        ? spoiler.SomeSample()
+        : HostileFile::FromInput({ data, static_cast<qsizetype>(size) });
     for (unsigned i = 0; i <= seed % kMostChanges; ++i)
         spoiler.Spoil(hostile);
     return hostile.ToInput({ data, maxSize });
@@ -340,6 +336,6 @@ extern "C" size_t LLVMFuzzerCustomMutator(
 /// A data file and its journal, as HostileFile::FromInput takes them.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    TheTarget().Try(HostileFile::FromInput({ data, size }));
+    TheTarget().Try(HostileFile::FromInput({ data, static_cast<qsizetype>(size) }));
     return 0;
 }
