@@ -26,9 +26,9 @@ void RowDelegate::BeginFrame(const QFont& font, const QPalette& palette)
         m_painter = RowPainter(font);
 }
 
-int RowDelegate::WidthFor(const QModelIndex& index) const
+QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    return m_painter.WidthFor(m_model.Text(index.row(), index.column()));
+    return { m_painter.WidthFor(m_model.Text(index.row(), index.column())), option.rect.height() };
 }
 
 void RowDelegate::paint(

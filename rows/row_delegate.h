@@ -26,8 +26,9 @@ public:
     /// To be called before the cells of a frame are painted: works out what they have in common,
     /// the day among it.
     void BeginFrame(const QFont& font, const QPalette& palette);
-    /// The width of a cell's text, in a frame.
-    [[nodiscard]] int WidthFor(const QModelIndex& index) const;
+    /// What a cell's text needs, in a frame.
+    [[nodiscard]] QSize sizeHint(
+        const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override;
 
