@@ -40,6 +40,11 @@ public:
         Quillory::MakeLists(DataPath(), names);
         WriteSettings(Conf(), { DataPath(), {}, kLandscapeRightHanded, {}, {}, {} });
     }
+    /// Puts a file in the place of the data file, as programs do that keep folders alike.
+    void ReplaceDataFile(const QString& by) const
+    {
+        QVERIFY(QFile::remove(DataPath()) && QFile::rename(by, DataPath()));
+    }
     void Start(const QString& listName = {})
     {
         Settings settings;

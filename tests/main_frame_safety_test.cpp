@@ -1,52 +1,34 @@
 // SPDX-License-Identifier: MIT
 #include "store/kept_copies.h"
+#include "tests/limit.h"
 #include "tests/main_frame_errand.h"
 #include "tests/page_damage.h"
 #include "tests/test_program.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QProgressDialog>
 #include <QTableView>
 #include <QTimer>
 
-#include <sys/resource.h>
-
-#include <csignal>
 #include <optional>
 
 namespace {
-
-/// Puts a file in the place of the data file, as programs do that keep folders alike.
-void Replace(const FrameErrand& errand, const QString& by)
-{
-    QVERIFY(QFile::remove(errand.DataPath()));
-    QVERIFY(QFile::rename(by, errand.DataPath()));
-}
-
-/// No file grows while it lives, as on a full disk.
-class NoRoom
-{
-public:
-    NoRoom()
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit none { 512, m_before.rlim_max };
-        setrlimit(RLIMIT_FSIZE, &none);
-    }
-    ~NoRoom() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    NoRoom(const NoRoom&) = delete;
-    NoRoom& operator=(const NoRoom&) = delete;
-
-private:
-    rlimit m_before {};
-};
 
 /// The lists of the newest kept copy and how many rows each has.
 QString NewestCopy(const FrameErrand& errand)
 {
     const auto copies = ListKeptCopies(errand.DataPath(), errand.CopiesFolder());
     return copies.empty() ? u"no copy"_s : ListsIn(copies.front().path);
+}
+
+/// Taps the button of a bar that shows how far work is; false if it is not seen.
+bool TapCancel(const QProgressDialog* progress)
+{
+    if (progress == nullptr || !progress->isVisible())
+        return false;
+    QTest::mouseClick(progress->findChild<QAbstractButton*>(), Qt::LeftButton);
+    return true;
 }
 
 } // namespace
@@ -197,7 +179,7 @@ private Q_SLOTS:
             field = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
             QVERIFY(field != nullptr);
             QCOMPARE(field->text(), u"Pantry"_s);
-            QVERIFY(errand.frame->HasUnsavedInput());
+            QVERIFY(errand.pages->Top()->HasUnsavedInput());
             errand.ComeBack();
             errand.PressOk();
             QVERIFY(errand.frame->close());
@@ -249,7 +231,7 @@ private Q_SLOTS:
         errand.Answer(QMessageBox::Yes);
         rows->Trigger(Command::New);
         QTest::keyClicks(QApplication::focusWidget(), u"Tea"_s);
-        Replace(errand, older);
+        errand.ReplaceDataFile(older);
         errand.PressOk();
         errand.Answer(QMessageBox::Retry);
         errand.Answer(QMessageBox::Ok);
@@ -282,7 +264,7 @@ private Q_SLOTS:
             errand.Choose(Command::Delete);
             errand.Answer(QMessageBox::Yes);
             if (mischief == Replaced)
-                Replace(errand, older);
+                errand.ReplaceDataFile(older);
             else if (mischief == Removed)
                 QVERIFY(QFile::remove(errand.DataPath()));
             else // With the card it lies on.
@@ -298,6 +280,33 @@ private Q_SLOTS:
             if (mischief == Replaced)
                 QCOMPARE(ListsIn(errand.DataPath()), u"Attic 0, Zoo 0"_s);
         }
+    }
+
+    void cancelledWorkEndsWhereItIs()
+    {
+        // Until it takes so long that it shows how far it is.
+        bool isCancelled = false;
+        for (int rows = 200'000; !isCancelled && rows <= 6'400'000; rows *= 2) {
+            FrameErrand errand({ u"Pantry"_s });
+            errand.Import(QByteArray("Tea\t3\r\n").repeated(rows));
+            QTimer timer;
+            timer.callOnTimeout([&] {
+                isCancelled = isCancelled || TapCancel(errand.frame->findChild<QProgressDialog*>());
+            });
+            timer.start(0);
+            errand.PressOk();
+            timer.stop();
+            if (!isCancelled)
+                continue;
+            errand.Answer(QMessageBox::Ok);
+            QVERIFY(errand.frame->close());
+            errand.frame.reset();
+            const QString count = ListsIn(errand.DataPath()).section(u' ', 1);
+            QVERIFY(errand.question.startsWith(u"The import was cancelled. %1 row"_s.arg(count)));
+            // Not when the last one was in.
+            isCancelled = count.toInt() < rows;
+        }
+        QVERIFY(isCancelled);
     }
 
     void aDamagedFileIsReplacedByItsCopy()
