@@ -213,6 +213,12 @@ void ReplaceFile(FrameErrand& errand)
     errand.ReplaceDataFile(other);
 }
 
+/// With the card that it lies on.
+void RemoveFolder(FrameErrand& errand)
+{
+    QVERIFY(QDir(QFileInfo(errand.DataPath()).path()).removeRecursively());
+}
+
 void FillDisk(FrameErrand& /*errand*/)
 {
     fullDisk.emplace();
@@ -239,6 +245,8 @@ const std::array kInterruptions {
         },
         Effect::EndsPages, IsZooOpen },
     InterruptionCase { "the file gone", CloseAfter<RemoveFile>, Effect::EndsPages, IsGone,
+        { u"The data file is no longer in its place."_s } },
+    InterruptionCase { "the folder gone", CloseAfter<RemoveFolder>, Effect::EndsPages, IsGone,
         { u"The data file is no longer in its place."_s } },
     InterruptionCase { "the file replaced", CloseAfter<ReplaceFile>, Effect::EndsPages, IsGone,
         { u"Another file was put in the place of the data file."_s } },
@@ -352,6 +360,11 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
         }
         QCOMPARE(ToldUntilDone(errand, what), what.told);
+        // What it held is kept, and the one in its place left alone.
+        if (what.happen == CloseAfter<RemoveFile> || what.happen == CloseAfter<ReplaceFile>)
+            QVERIFY(errand.NewestCopy().endsWith(u" 0, Zoo 0"_s));
+        if (what.happen == CloseAfter<ReplaceFile>)
+            QCOMPARE(ListsIn(errand.DataPath()), QString());
     }
 
     void workIsDoneFirst()

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "store/kept_copies.h"
 #include "tests/limit.h"
 #include "tests/main_frame_errand.h"
 #include "tests/page_damage.h"
@@ -11,16 +10,7 @@
 #include <QTableView>
 #include <QTimer>
 
-#include <optional>
-
 namespace {
-
-/// The lists of the newest kept copy and how many rows each has.
-QString NewestCopy(const FrameErrand& errand)
-{
-    const auto copies = ListKeptCopies(errand.DataPath(), errand.CopiesFolder());
-    return copies.empty() ? u"no copy"_s : ListsIn(copies.front().path);
-}
 
 /// Taps the button of a bar that shows how far work is; false if it is not seen.
 bool TapCancel(const QProgressDialog* progress)
@@ -188,31 +178,21 @@ private Q_SLOTS:
         }
     }
 
-    void closingIsNotHeldUpByAFailingWrite()
+    void whatWasChangedBeforeAWriteFailedIsKept()
     {
-        for (const bool isGone : { true, false }) {
-            FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
-            if (!isGone) {
-                errand.Choose(Command::Delete);
-                errand.Answer(QMessageBox::Yes);
-            }
-            errand.Tap(0);
-            auto* header = errand.pages->Top()->findChild<QTableView*>()->horizontalHeader();
-            header->resizeSection(0, header->sectionSize(0) + 10);
-            std::optional<NoRoom> full;
-            if (isGone)
-                QVERIFY(QFile::remove(errand.DataPath()));
-            else
-                full.emplace();
+        FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
+        errand.Choose(Command::Delete);
+        errand.Answer(QMessageBox::Yes);
+        errand.Tap(0);
+        auto* header = errand.pages->Top()->findChild<QTableView*>()->horizontalHeader();
+        header->resizeSection(0, header->sectionSize(0) + 10);
+        {
+            const NoRoom full;
             QVERIFY(!errand.frame->close());
-            full.reset();
-            errand.Answer(QMessageBox::Cancel);
-            QVERIFY(errand.question.contains(u"could not be saved"_s));
-            QTRY_VERIFY(!errand.frame->isVisible());
-            QVERIFY(QApplication::activeModalWidget() == nullptr);
-            // What was changed before it failed is worth a copy.
-            QCOMPARE(NewestCopy(errand), isGone ? u"no copy"_s : u"Zoo 0"_s);
         }
+        errand.Answer(QMessageBox::Cancel);
+        QTRY_VERIFY(!errand.frame->isVisible());
+        QCOMPARE(errand.NewestCopy(), u"Zoo 0"_s);
     }
 
     void aFileReplacedUnderAnEditorTakesWhatIsTyped()
@@ -236,7 +216,7 @@ private Q_SLOTS:
         errand.Answer(QMessageBox::Retry);
         errand.Answer(QMessageBox::Ok);
         QVERIFY(errand.question.contains(u"kept as a copy"_s));
-        QCOMPARE(NewestCopy(errand), u"Pantry 1"_s);
+        QCOMPARE(errand.NewestCopy(), u"Pantry 1"_s);
         QCOMPARE(model->rowCount(), 0);
         errand.PressOk();
         QCOMPARE(errand.pages->Top(), rows);
@@ -245,41 +225,6 @@ private Q_SLOTS:
         QTest::keyClick(rows->findChild<QTableView*>(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(model->rowCount(), 1);
         QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
-    }
-
-    void aFileThatIsGoneBeforeTheEndIsTold()
-    {
-        enum Mischief
-        {
-            Replaced,
-            Removed,
-            FolderRemoved,
-        };
-        for (const Mischief mischief : { Replaced, Removed, FolderRemoved }) {
-            FrameErrand errand;
-            errand.MakeLists({ u"Attic"_s, u"Zoo"_s });
-            const QString older = errand.DataPath() + u".older"_s;
-            QVERIFY(QFile::copy(errand.DataPath(), older));
-            errand.Start();
-            errand.Choose(Command::Delete);
-            errand.Answer(QMessageBox::Yes);
-            if (mischief == Replaced)
-                errand.ReplaceDataFile(older);
-            else if (mischief == Removed)
-                QVERIFY(QFile::remove(errand.DataPath()));
-            else // With the card it lies on.
-                QVERIFY(QDir(QFileInfo(errand.DataPath()).path()).removeRecursively());
-            QVERIFY(!errand.frame->close());
-            errand.Answer(QMessageBox::Ok);
-            QVERIFY(errand.question.contains(
-                mischief == FolderRemoved ? u"no longer in its place"_s : u"kept as a copy"_s));
-            QTRY_VERIFY(!errand.frame->isVisible());
-            if (mischief != FolderRemoved)
-                QCOMPARE(NewestCopy(errand), u"Zoo 0"_s);
-            errand.frame.reset();
-            if (mischief == Replaced)
-                QCOMPARE(ListsIn(errand.DataPath()), u"Attic 0, Zoo 0"_s);
-        }
     }
 
     void cancelledWorkEndsWhereItIs()
