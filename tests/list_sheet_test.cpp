@@ -145,6 +145,13 @@ private Q_SLOTS:
         ShowTab(u"Columns"_s);
         QTest::keyClick(View(), Qt::Key_Delete);
         QCOMPARE(Names(), u"Name|Quantity"_s);
+        // Keys that go through the tabs stay there.
+        auto* tabs = Find<QTabBar>(u"tabs"_s);
+        tabs->setFocus();
+        for (const auto key : { Qt::Key_Left, Qt::Key_Right, Qt::Key_Right })
+            QTest::keyClick(QApplication::focusWidget(), key);
+        QCOMPARE(tabs->currentIndex(), 2);
+        QVERIFY(tabs->hasFocus());
     }
 
     void tabReachesEveryControl_data()
