@@ -211,8 +211,11 @@ private Q_SLOTS:
     {
         FrameErrand errand(QStringList {});
         errand.Choose(Command::Options);
+        auto* left = errand.pages->Top()->findChild<QRadioButton*>(u"landscapeLeft"_s);
+        QVERIFY(!left->isEnabled());
         errand.pages->Top()->findChild<QCheckBox*>(u"landscape"_s)->click();
-        errand.pages->Top()->findChild<QRadioButton*>(u"landscapeLeft"_s)->click();
+        left->click();
+        errand.pages->Top()->findChild<QCheckBox*>(u"alternateColour"_s)->click();
         errand.PressOk();
         errand.Choose(Command::Options);
         errand.pages->Top()->findChild<QCheckBox*>(u"alternateColour"_s)->click();
@@ -227,7 +230,7 @@ private Q_SLOTS:
         errand.Choose(Command::Options);
         const auto* page = qobject_cast<DisplayOptionsPage*>(errand.pages->Top());
         QVERIFY(page != nullptr);
-        QCOMPARE(page->Result(), (DisplayOptions { true, false, false }));
+        QCOMPARE(page->Result(), (DisplayOptions { true, false, true }));
     }
 
     void landscapeLastsAsLongAsTheListIsShown()

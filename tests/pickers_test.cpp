@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "listdef/display_options_page.h"
 #include "listdef/import_order_page.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
@@ -12,13 +11,11 @@
 #include "widgets/icon_set.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointingDevice>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -240,19 +237,6 @@ private Q_SLOTS:
         QCOMPARE(box->currentIndex(), 0);
         // What it lies upon may scroll.
         QVERIFY(!wheel.isAccepted());
-    }
-
-    void landscapeEnablesItsHands()
-    {
-        DisplayOptionsPage page({ false, true, true });
-        auto* left = page.findChild<QRadioButton*>(u"landscapeLeft"_s);
-        QVERIFY(!left->isEnabled());
-        page.findChild<QCheckBox*>(u"landscape"_s)->click();
-        QVERIFY(left->isEnabled());
-        left->click();
-        page.findChild<QCheckBox*>(u"alternateColour"_s)->click();
-        QCOMPARE(page.Result(), (DisplayOptions { true, false, false }));
-        QVERIFY(page.HasUnsavedInput());
     }
 
     void importColumnsAreMovedNotLeftOut()

@@ -241,42 +241,32 @@ private Q_SLOTS:
         }
     }
 
-    void aHoldOpensTheMenuOfTheRow()
+    void holdsAndKeysOpenTheMenuOfTheRow()
     {
         m_errand->Open();
-        QTest::mouseClick(
-            View()->viewport(), Qt::RightButton, {}, m_errand->Cell(1, Name).center());
-        QContextMenuEvent hold(
-            QContextMenuEvent::Mouse, m_errand->Cell(1, Name).center(), QPoint(), {});
-        QApplication::sendEvent(View()->viewport(), &hold);
-        const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        QVERIFY(menu != nullptr);
-        QStringList texts;
-        for (const QAction* action : menu->actions())
-            texts << action->text() + (action->isEnabled() ? u""_s : u"-"_s);
-        QCOMPARE(texts.join(u'|'), u"Add 1|Subtract 1||Modify...|Delete"_s);
-        menu->actions().front()->trigger();
-        QCOMPARE(m_errand->Stored(Count), u"0 6"_s);
-    }
-
-    void keysOpenTheMenuOfTheRow()
-    {
-        m_errand->Open();
-        const auto choose = [](Qt::Key key) {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            QVERIFY(menu != nullptr);
-            QTest::keyClick(menu, key);
-            QTest::keyClick(menu, Qt::Key_Return);
-            QVERIFY(QApplication::activePopupWidget() == nullptr);
-        };
+        const QPoint place = m_errand->Cell(1, Name).center();
+        QTest::mouseClick(View()->viewport(), Qt::RightButton, {}, place);
+        QContextMenuEvent hold(QContextMenuEvent::Mouse, place, QPoint(), {});
         // What the window system makes of the menu key goes to who has the focus.
         QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint(), {});
-        QApplication::sendEvent(View(), &menuKey);
-        choose(Qt::Key_Down);
-        QCOMPARE(m_errand->Stored(Count), u"1 5"_s);
-        QTest::keyClick(View(), Qt::Key_F10, Qt::ShiftModifier);
-        choose(Qt::Key_Down);
-        QCOMPARE(m_errand->Stored(Count), u"2 5"_s);
+        for (const QString& counts : { u"0 6"_s, u"0 7"_s, u"0 8"_s }) {
+            if (counts == u"0 6")
+                QApplication::sendEvent(View()->viewport(), &hold);
+            else if (counts == u"0 7")
+                QApplication::sendEvent(View(), &menuKey);
+            else
+                QTest::keyClick(View(), Qt::Key_F10, Qt::ShiftModifier);
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(menu != nullptr);
+            QStringList texts;
+            for (const QAction* action : menu->actions())
+                texts << action->text() + (action->isEnabled() ? u""_s : u"-"_s);
+            QCOMPARE(texts.join(u'|'), u"Add 1|Subtract 1||Modify...|Delete"_s);
+            QTest::keyClick(menu, Qt::Key_Down);
+            QTest::keyClick(menu, Qt::Key_Return);
+            QVERIFY(QApplication::activePopupWidget() == nullptr);
+            QCOMPARE(m_errand->Stored(Count), counts);
+        }
     }
 
     void readOnlyLetsNothingChange()
