@@ -267,7 +267,7 @@ const std::array kInterruptions {
 };
 
 /// What comes of an interruption.
-enum Outcome
+enum ComesOfIt
 {
     AtOnce,
     AsksFirst,
@@ -276,13 +276,13 @@ enum Outcome
     IsTakenOver,
 };
 
-Outcome OutcomeOf(const InterruptionCase& what, const FrontCase& over)
+ComesOfIt WhatComesOf(const InterruptionCase& what, const FrontCase& over)
 {
     const bool isPassed = what.effect == Effect::StaysOpen || what.effect == Effect::Saves
         || (what.effect == Effect::EndsPagesByKey && over.keys == Keys::InFront)
         || (what.effect == Effect::EndsPagesIfNeeded && over.before == Before::Nothing);
     if (!isPassed)
-        return static_cast<Outcome>(over.before);
+        return static_cast<ComesOfIt>(over.before);
     const bool isSession = what.effect == Effect::Saves || what.effect == Effect::EndsPagesIfNeeded;
     return isSession && over.keys == Keys::EditorInPlace ? IsTakenOver : StaysOpen;
 }
@@ -321,7 +321,7 @@ private Q_SLOTS:
             "what is typed is taken over" };
         for (size_t i = 0; i < kInterruptions.size(); ++i) {
             for (size_t j = 0; j < kFronts.size(); ++j) {
-                const char* outcome = kOutcomes.at(OutcomeOf(kInterruptions[i], kFronts[j]));
+                const char* outcome = kOutcomes.at(WhatComesOf(kInterruptions[i], kFronts[j]));
                 QTest::addRow("%s over %s: %s", kInterruptions[i].name, kFronts[j].name, outcome)
                     << static_cast<int>(i) << static_cast<int>(j);
             }
@@ -333,7 +333,7 @@ private Q_SLOTS:
         const auto [interruption, front] = Table<int, int>::Row();
         const InterruptionCase& what = kInterruptions.at(static_cast<size_t>(interruption));
         const FrontCase& over = kFronts.at(static_cast<size_t>(front));
-        const Outcome outcome = OutcomeOf(what, over);
+        const ComesOfIt outcome = WhatComesOf(what, over);
         FrameErrand errand;
         ListFixture full;
         full.MakeFullList(u"Pantry"_s);
