@@ -9,9 +9,10 @@ namespace {
 
 using enum Response;
 
-constexpr std::array<std::array<Response, 5>, 3> kResponses { {
+constexpr std::array<std::array<Response, 5>, 4> kResponses { {
     // Pages, Input, Popup, Question, Work
     { EndPages, EndPages, EndPages, Wait, Wait }, // End
+    { Pass, EndPages, Pass, Wait, Wait }, // SessionEnd
     { ComeForward, ComeForward, ComeForward, ComeForward, ComeForward }, // Start
     { EndPages, EndPages, EndPages, Wait, Wait }, // StartWithList
 } };

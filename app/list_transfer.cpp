@@ -118,10 +118,8 @@ void ListTransfer::ExportTo(ObjectId list, const QString& path)
     if (target.file != nullptr && rows != nullptr) {
         const qint64 total = m_session.Volume().RecordCount(ListCatalogue::kRowsType);
         TransferProgress progress(m_pages.window(), definition.Name);
-        outcome = ExportRows(*rows, definition, m_context, *target.file,
+        outcome = ExportToFile(*rows, definition, m_context, target,
             [&progress, total](qint64 done) { return progress.Show(done, total); });
-        if (outcome.writeFailure.isEmpty() && !outcome.isCancelled)
-            outcome.writeFailure = target.Commit();
     }
     m_session.Catalogue().CloseRows();
     TellExport(outcome);

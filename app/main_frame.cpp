@@ -80,8 +80,10 @@ MainFrame::MainFrame(Settings settings, Places places, QWidget* parent)
     // Not from inside the question whose answer this is.
     connect(&m_session, &DataFileSession::NotOpened, this, &QWidget::close, Qt::QueuedConnection);
     connect(&m_session, &DataFileSession::RetryChosen, this, &MainFrame::ReopenDataFile);
-    // On every page, not on the home list alone.
-    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
+    // On every page, not on the home list alone. Some desktops name no key of their own for the
+    // end.
+    connect(
+        new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this,
         [this] { m_deletions.Undo(); });
 }
@@ -175,9 +177,9 @@ Front MainFrame::WhatIsInFront() const
 {
     if (!m_questions.IsIdle())
         return m_questions.Shown() == nullptr ? Front::Work : Front::Question;
-    if (QApplication::activePopupWidget() != nullptr)
-        return Front::Popup;
-    return HasUnsavedInput() ? Front::Input : Front::Pages;
+    if (m_pages->HasUnsavedInput())
+        return Front::Input;
+    return QApplication::activePopupWidget() != nullptr ? Front::Popup : Front::Pages;
 }
 
 void MainFrame::TellOutOfMemory()
@@ -185,9 +187,10 @@ void MainFrame::TellOutOfMemory()
     ShowMessage(this, LoadText(Text::OutOfMemory), MessageIcon::Stop);
 }
 
-bool MainFrame::HasUnsavedInput() const
+bool MainFrame::LetSessionEnd()
 {
-    return m_pages->Top()->HasUnsavedInput();
+    m_pages->Top()->CommitInPlace();
+    return ResponseTo(Interruption::SessionEnd, WhatIsInFront()) == Response::Pass;
 }
 
 void MainFrame::Meet(Interruption what, const std::function<void()>& act)
@@ -197,6 +200,8 @@ void MainFrame::Meet(Interruption what, const std::function<void()>& act)
         return act();
     case Response::EndPages:
         return m_pages->CloseAll(act);
+    case Response::Pass:
+        return;
     case Response::Wait:
         return m_questions.WhenIdle([this, what, act] { Meet(what, act); });
     }

@@ -52,8 +52,9 @@ public:
     /// A command ended for want of memory.
     void TellOutOfMemory();
 
-    /// Whether ending the program now would lose what is entered.
-    [[nodiscard]] bool HasUnsavedInput() const;
+    /// The desktop's session is about to end: takes over what is typed in the place of a line's
+    /// text. False where there is something to ask or to wait for before the window may close.
+    [[nodiscard]] bool LetSessionEnd();
 
 protected:
     /// Accepts only once nothing is asked, typed or running any more; until then the window stays.

@@ -97,9 +97,9 @@ void NoteUnknownList(const QString& name)
     std::fprintf(stderr, "quillory: there is no list “%s”\n", qUtf8Printable(name));
 }
 
-SingleInstance::SingleInstance(const QString& folder, QObject* parent)
-    : QObject(parent)
-    , m_folder(folder)
+SingleInstance::SingleInstance(const QString& folder, double patience)
+    : m_folder(folder)
+    , m_patience(patience)
 {
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     m_server.setMaxPendingConnections(kMaxConnections);
@@ -133,7 +133,7 @@ SingleInstance::Outcome SingleInstance::Start(const StartRequest& request)
         }
         if (const std::optional<Outcome> outcome = HandOver(request))
             return *outcome;
-        QThread::msleep(kAttemptIntervalMs);
+        QThread::msleep(static_cast<unsigned long>(Patiently(kAttemptIntervalMs)));
     }
     return Outcome::Alone;
 }
@@ -141,6 +141,11 @@ SingleInstance::Outcome SingleInstance::Start(const StartRequest& request)
 void SingleInstance::SetHandler(Handler handler)
 {
     m_handler = std::move(handler);
+}
+
+int SingleInstance::Patiently(int usualMs) const
+{
+    return static_cast<int>(m_patience * usualMs);
 }
 
 bool SingleInstance::TakeLock()
@@ -172,9 +177,9 @@ std::optional<SingleInstance::Outcome> SingleInstance::HandOver(const StartReque
 {
     QLocalSocket socket;
     socket.connectToServer(m_folder + u"/socket"_s);
-    if (!socket.waitForConnected(kConnectLimitMs) || !IsOwnPeer(socket))
+    if (!socket.waitForConnected(Patiently(kConnectLimitMs)) || !IsOwnPeer(socket))
         return std::nullopt;
-    QDeadlineTimer deadline(kAnswerLimitMs);
+    QDeadlineTimer deadline(Patiently(kAnswerLimitMs));
     socket.write(WriteRequest(request));
     while (socket.bytesToWrite() > 0) {
         if (!socket.waitForBytesWritten(static_cast<int>(deadline.remainingTime())))
@@ -207,7 +212,7 @@ void SingleInstance::AcceptConnections()
         }
         socket->setReadBufferSize(kMaxMessage + 1);
         connect(socket, &QLocalSocket::readyRead, this, [this, socket] { ReadRequest(socket); });
-        QTimer::singleShot(kRequestLimitMs, socket, [socket] { socket->abort(); });
+        QTimer::singleShot(Patiently(kRequestLimitMs), socket, [socket] { socket->abort(); });
         ReadRequest(socket);
     }
 }

@@ -39,8 +39,8 @@ class SingleInstance : public QObject
 
 public:
     /// `folder` belongs to this user alone; empty if there is none, and every start is the only
-    /// one.
-    explicit SingleInstance(const QString& folder, QObject* parent = nullptr);
+    /// one. Waits for others this many times as long as it usually does.
+    explicit SingleInstance(const QString& folder, double patience = 1);
     ~SingleInstance() override;
 
     /// The folder for lock and socket in the runtime folder, or else in the temporary one; made if
@@ -66,10 +66,12 @@ public:
 
 private:
     QString m_folder;
+    double m_patience;
     int m_lock = -1;
     QLocalServer m_server;
     Handler m_handler;
 
+    [[nodiscard]] int Patiently(int usualMs) const;
     [[nodiscard]] bool TakeLock();
     void Listen();
     [[nodiscard]] std::optional<Outcome> HandOver(const StartRequest& request) const;

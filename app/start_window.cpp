@@ -2,6 +2,7 @@
 #include "app/start_window.h"
 
 #include "app/application.h"
+#include "app/end_requests.h"
 #include "app/main_frame.h"
 #include "app/settings.h"
 #include "app/single_instance.h"
@@ -11,10 +12,7 @@
 #include "widgets/icon_set.h"
 
 #include <QApplication>
-#include <QSessionManager>
-#include <QSocketNotifier>
 
-#include <sys/signalfd.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -69,18 +67,6 @@ QString ActivationToken()
     return token;
 }
 
-/// A descriptor that tells of requests to end from outside, which from now on do not end the
-/// process. Called before there are threads.
-int CatchEndRequests()
-{
-    sigset_t signals;
-    sigemptyset(&signals);
-    for (const int signal : { SIGTERM, SIGINT, SIGHUP })
-        sigaddset(&signals, signal);
-    sigprocmask(SIG_BLOCK, &signals, nullptr);
-    return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
-}
-
 int ExitCodeOf(SingleInstance::Outcome outcome, const QString& listName)
 {
     if (outcome == SingleInstance::Outcome::HandedOverUnknownList)
@@ -107,21 +93,8 @@ int RunFrame(Application& app, SingleInstance& instance, const QString& listName
     MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder() });
     instance.SetHandler(
         [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
-    // The window closes as its user would close it: pages end, settings are saved.
-    const QSocketNotifier notifier(endRequests, QSocketNotifier::Read);
-    QObject::connect(&notifier, &QSocketNotifier::activated, &frame, [&frame, endRequests] {
-        signalfd_siginfo endRequest;
-        while (read(endRequests, &endRequest, sizeof(endRequest)) > 0)
-            frame.close();
-    });
+    MeetEndRequests(endRequests, frame);
     QObject::connect(&app, &Application::MemoryRanOut, &frame, &MainFrame::TellOutOfMemory);
-    // What would be lost keeps the session from ending until its user has answered.
-    QObject::connect(&app, &QGuiApplication::commitDataRequest, &frame, [&frame](auto& session) {
-        if (frame.HasUnsavedInput() && session.allowsInteraction()) {
-            session.cancel();
-            frame.close();
-        }
-    });
     frame.show();
     // After the window is on the screen.
     QMetaObject::invokeMethod(

@@ -3,6 +3,7 @@
 
 #include "app/home_list.h"
 #include "app/main_frame.h"
+#include "store/kept_copies.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 
@@ -39,6 +40,11 @@ public:
     {
         Quillory::MakeLists(DataPath(), names);
         WriteSettings(Conf(), { DataPath(), {}, kLandscapeRightHanded, {}, {}, {} });
+    }
+    /// Puts a file in the place of the data file, as programs do that keep folders alike.
+    void ReplaceDataFile(const QString& by) const
+    {
+        QVERIFY(QFile::remove(DataPath()) && QFile::rename(by, DataPath()));
     }
     void Start(const QString& listName = {})
     {
@@ -142,6 +148,12 @@ public:
     {
         frame->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(frame.get()));
+    }
+    /// The lists of the newest kept copy and how many rows each has.
+    QString NewestCopy() const
+    {
+        const auto copies = ListKeptCopies(DataPath(), CopiesFolder());
+        return copies.empty() ? QStringLiteral("no copy") : ListsIn(copies.front().path);
     }
     QString Lines() const
     {

@@ -1,41 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "app/application.h"
+#include "tests/limit.h"
 #include "tests/main_frame_errand.h"
 #include "tests/test_program.h"
 
 #include <QSignalSpy>
 #include <QTableView>
 
-#include <sys/resource.h>
-
 #include <malloc.h>
 #include <new>
 
 namespace {
 
-/// Leaves the process this much more address space than it has now.
-class LittleMemory
+/// The address space that this process has now, in bytes.
+quint64 AddressSpace()
 {
-public:
-    explicit LittleMemory(quint64 bytes)
-    {
-        malloc_trim(0);
-        QFile status(u"/proc/self/statm"_s);
-        const quint64 pages = status.open(QIODevice::ReadOnly)
-            ? status.readAll().split(' ').value(0).toULongLong()
-            : 0;
-        getrlimit(RLIMIT_AS, &m_before);
-        constexpr quint64 kPage = 4096;
-        const rlimit limit { pages * kPage + bytes, m_before.rlim_max };
-        setrlimit(RLIMIT_AS, &limit);
-    }
-    ~LittleMemory() { setrlimit(RLIMIT_AS, &m_before); }
-    LittleMemory(const LittleMemory&) = delete;
-    LittleMemory& operator=(const LittleMemory&) = delete;
-
-private:
-    rlimit m_before {};
-};
+    malloc_trim(0);
+    QFile status(u"/proc/self/statm"_s);
+    constexpr quint64 kPage = 4096;
+    return status.open(QIODevice::ReadOnly)
+        ? status.readAll().split(' ').value(0).toULongLong() * kPage
+        : 0;
+}
 
 /// Needs more than there is for whatever it hears of.
 class Insatiable : public QObject
@@ -77,7 +63,7 @@ private Q_SLOTS:
         int told = 0;
         for (quint64 kilobytes = 0; kilobytes < 4096; kilobytes += 128) {
             {
-                const LittleMemory little(kilobytes * 1024);
+                const Limit little(RLIMIT_AS, AddressSpace() + kilobytes * 1024);
                 errand.Tap(0);
             }
             QCoreApplication::processEvents();

@@ -179,14 +179,14 @@ private Q_SLOTS:
 
     void anOpenPageFollowsTheFont_data()
     {
-        QTest::addColumn<int>("page");
+        const Table<int> add;
         for (int i = 0; const PageCase& page : kPages)
-            QTest::newRow(page.name) << i++;
+            add(page.name, i++);
     }
 
     void anOpenPageFollowsTheFont()
     {
-        QFETCH(const int, page);
+        const auto [page] = Table<int>::Row();
         const QFont before = QApplication::font();
         const auto restore = qScopeGuard([&before] { QApplication::setFont(before); });
         QFont larger = before;
@@ -209,7 +209,7 @@ private Q_SLOTS:
 
     void everyControlHasAName()
     {
-        QFETCH(const int, page);
+        const auto [page] = Table<int>::Row();
         Subject subject;
         Show(subject, kPages.at(static_cast<size_t>(page)));
         for (QWidget* control : subject.page->findChildren<QWidget*>()) {

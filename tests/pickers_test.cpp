@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "listdef/display_options_page.h"
 #include "listdef/import_order_page.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
 #include "values/column_type.h"
 #include "widgets/app_style.h"
@@ -11,304 +11,259 @@
 #include "widgets/icon_set.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointingDevice>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
 #include <memory>
 #include <utility>
 
-using namespace Quillory;
-using namespace Qt::StringLiterals;
-
 class PickersTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cellsFillTheGridRowByRow_data();
-    void cellsFillTheGridRowByRow();
-    void aPlaceBelongsToACell_data();
-    void aPlaceBelongsToACell();
-    void arrowKeysWrapAsTheGridDoes_data();
-    void arrowKeysWrapAsTheGridDoes();
-    void theFocusOfTheIconGridIsSeen_data();
-    void theFocusOfTheIconGridIsSeen();
-    void everyIconHasADrawingAndANameOfItsOwn();
-    void theGridOfColoursIsInOrderOfTheirValues();
-    void arrowKeysGoThroughTheColoursInOrder();
-    void aColourIsPickedInTheGrid();
-    void arrowKeysGoTheirWayThroughTheGrid_data();
-    void arrowKeysGoTheirWayThroughTheGrid();
-    void aPointerPicksOnlyByWhatItDoesInTheGrid();
-    void theWheelLeavesAClosedDropDownAlone();
-    void landscapeEnablesItsHands();
-    void importColumnsAreMovedNotLeftOut();
-};
-
-void PickersTest::cellsFillTheGridRowByRow_data()
-{
-    QTest::addColumn<QSize>("client");
-    QTest::addColumn<int>("cellsPerRow");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<bool>("needsScrollBar");
-    QTest::newRow("ten in a row") << QSize(209, 100) << 10 << 5 << false;
-    QTest::newRow("too low: room for the bar") << QSize(209, 99) << 9 << 5 << true;
-    QTest::newRow("all in one row") << QSize(2000, 20) << 100 << 1 << false;
-    QTest::newRow("narrower than a cell") << QSize(5, 100) << 1 << 43 << true;
-}
-
-void PickersTest::cellsFillTheGridRowByRow()
-{
-    QFETCH(const QSize, client);
-    const IconGridLayout layout = IconGridLayout::For(43, 20, client, 16);
-    QTEST(layout.cellsPerRow, "cellsPerRow");
-    QTEST(layout.rows, "rows");
-    QTEST(layout.needsScrollBar, "needsScrollBar");
-}
-
-void PickersTest::aPlaceBelongsToACell_data()
-{
-    QTest::addColumn<QPoint>("place");
-    QTest::addColumn<int>("index");
-    QTest::newRow("inside the first") << QPoint(1, 0) << 0;
-    QTest::newRow("on an edge: the left one") << QPoint(20, 5) << 0;
-    QTest::newRow("behind an edge") << QPoint(21, 5) << 1;
-    QTest::newRow("second row") << QPoint(30, 20) << 11;
-    QTest::newRow("left edge of the first row") << QPoint(0, 5) << -1;
-    QTest::newRow("left edge of the second row") << QPoint(0, 25) << 9;
-    QTest::newRow("the last one") << QPoint(50, 85) << 42;
-    QTest::newRow("behind the last one") << QPoint(70, 85) << -1;
-}
-
-void PickersTest::aPlaceBelongsToACell()
-{
-    QFETCH(const QPoint, place);
-    QTEST(IconGridLayout::For(43, 20, { 209, 100 }, 16).IndexAt(place), "index");
-}
-
-void PickersTest::arrowKeysWrapAsTheGridDoes_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("to");
-    QTest::newRow("left") << 5 << int { Qt::Key_Left } << 4;
-    QTest::newRow("left of the first") << 0 << int { Qt::Key_Left } << 42;
-    QTest::newRow("left of none") << -1 << int { Qt::Key_Left } << 42;
-    QTest::newRow("right of the last") << 42 << int { Qt::Key_Right } << 0;
-    QTest::newRow("right of none") << -1 << int { Qt::Key_Right } << 0;
-    QTest::newRow("up") << 14 << int { Qt::Key_Up } << 4;
-    QTest::newRow("up from the first row") << 3 << int { Qt::Key_Up } << 42;
-    QTest::newRow("down") << 14 << int { Qt::Key_Down } << 24;
-    QTest::newRow("down to the last") << 32 << int { Qt::Key_Down } << 42;
-    QTest::newRow("down past the last") << 33 << int { Qt::Key_Down } << 0;
-}
-
-void PickersTest::arrowKeysWrapAsTheGridDoes()
-{
-    QFETCH(const int, from);
-    QFETCH(const int, key);
-    const IconGridLayout layout = IconGridLayout::For(43, 20, { 209, 100 }, 16);
-    QTEST(layout.Step(from, static_cast<Qt::Key>(key)), "to");
-}
-
-void PickersTest::theFocusOfTheIconGridIsSeen_data()
-{
-    QTest::addColumn<QPalette>("palette");
-    QTest::newRow("light") << QPalette(Qt::white);
-    QTest::newRow("dark") << QPalette(Qt::black);
-}
-
-void PickersTest::theFocusOfTheIconGridIsSeen()
-{
-    QFETCH(const QPalette, palette);
-    QApplication::setStyle(new AppStyle);
-    QWidget window;
-    auto* grid = new IconGrid(&window);
-    auto* other = new QLineEdit(&window);
-    window.setPalette(palette);
-    grid->resize(300, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    grid->SelectIcon(3);
-    const QRect cell = grid->visualRect(grid->model()->index(3, 0));
-    const auto picture = [grid, cell] { return grid->viewport()->grab(cell).toImage(); };
-    grid->setFocus();
-    const QImage focused = picture();
-    other->setFocus();
-    QVERIFY(focused != picture());
-}
-
-void PickersTest::everyIconHasADrawingAndANameOfItsOwn()
-{
-    QSet<QByteArray> drawings;
-    QSet<QString> names;
-    for (int index = 0; index < kListIconCount; ++index) {
-        const QImage image = ListIcon(index).pixmap(24, 24).toImage();
-        drawings << QByteArray(
-            reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
-        names << ListIconName(index);
+    void cellsFillTheGridRowByRow_data()
+    {
+        const Table<QSize, int, int, bool> add;
+        add("ten in a row", QSize(209, 100), 10, 5, false);
+        add("too low: room for the bar", QSize(209, 99), 9, 5, true);
+        add("all in one row", QSize(2000, 20), 100, 1, false);
+        add("narrower than a cell", QSize(5, 100), 1, 43, true);
     }
-    QCOMPARE(drawings.size(), kListIconCount);
-    QCOMPARE(names.size(), kListIconCount);
-    QCOMPARE(ListIconName(99), ListIconName(0));
-}
 
-void PickersTest::theGridOfColoursIsInOrderOfTheirValues()
-{
-    const auto& order = ColoursByValue();
-    QCOMPARE(order.front(), kAutomaticColour);
-    QCOMPARE(order.back(), 22U);
-    for (size_t i = 1; i < order.size(); ++i)
-        QVERIFY(PaletteColour(order.at(i - 1)).rgb() < PaletteColour(order.at(i)).rgb());
-}
+    void cellsFillTheGridRowByRow()
+    {
+        const auto [client, cellsPerRow, rows, needsScrollBar]
+            = Table<QSize, int, int, bool>::Row();
+        const IconGridLayout layout = IconGridLayout::For(43, 20, client, 16);
+        QCOMPARE(layout.cellsPerRow, cellsPerRow);
+        QCOMPARE(layout.rows, rows);
+        QCOMPARE(layout.needsScrollBar, needsScrollBar);
+    }
 
-void PickersTest::arrowKeysGoThroughTheColoursInOrder()
-{
-    ColourButton button;
-    const QSignalSpy picked(&button, &ColourButton::ColourPicked);
-    button.SetColour(kAutomaticColour);
-    QTest::keyClick(&button, Qt::Key_Up);
-    QCOMPARE(button.Colour(), kAutomaticColour);
-    QTest::keyClick(&button, Qt::Key_Down);
-    QCOMPARE(button.Colour(), 4U);
-    button.SetColour(22);
-    QTest::keyClick(&button, Qt::Key_Down);
-    QCOMPARE(button.Colour(), 22U);
-    QCOMPARE(picked.count(), 0);
-}
+    void aPlaceBelongsToACell_data()
+    {
+        const Table<QPoint, int> add;
+        add("inside the first", QPoint(1, 0), 0);
+        add("on an edge: the left one", QPoint(20, 5), 0);
+        add("behind an edge", QPoint(21, 5), 1);
+        add("second row", QPoint(30, 20), 11);
+        add("left edge of the first row", QPoint(0, 5), -1);
+        add("left edge of the second row", QPoint(0, 25), 9);
+        add("the last one", QPoint(50, 85), 42);
+        add("behind the last one", QPoint(70, 85), -1);
+    }
 
-void PickersTest::aColourIsPickedInTheGrid()
-{
-    ColourButton button;
-    QSignalSpy picked(&button, &ColourButton::ColourPicked);
-    button.SetColour(5);
-    button.show();
-    for (const auto& [name, index] : { std::pair { u"colour9"_s, 9U }, { u"colour9"_s, 9U } }) {
+    void aPlaceBelongsToACell()
+    {
+        const auto [place, index] = Table<QPoint, int>::Row();
+        QCOMPARE(IconGridLayout::For(43, 20, { 209, 100 }, 16).IndexAt(place), index);
+    }
+
+    void arrowKeysWrapAsTheGridDoes_data()
+    {
+        const Table<int, int, int> add;
+        add("left", 5, int { Qt::Key_Left }, 4);
+        add("left of the first", 0, int { Qt::Key_Left }, 42);
+        add("left of none", -1, int { Qt::Key_Left }, 42);
+        add("right of the last", 42, int { Qt::Key_Right }, 0);
+        add("right of none", -1, int { Qt::Key_Right }, 0);
+        add("up", 14, int { Qt::Key_Up }, 4);
+        add("up from the first row", 3, int { Qt::Key_Up }, 42);
+        add("down", 14, int { Qt::Key_Down }, 24);
+        add("down to the last", 32, int { Qt::Key_Down }, 42);
+        add("down past the last", 33, int { Qt::Key_Down }, 0);
+    }
+
+    void arrowKeysWrapAsTheGridDoes()
+    {
+        const auto [from, key, to] = Table<int, int, int>::Row();
+        const IconGridLayout layout = IconGridLayout::For(43, 20, { 209, 100 }, 16);
+        QCOMPARE(layout.Step(from, static_cast<Qt::Key>(key)), to);
+    }
+
+    void theFocusOfTheIconGridIsSeen_data()
+    {
+        const Table<QPalette> add;
+        add("light", QPalette(Qt::white));
+        add("dark", QPalette(Qt::black));
+    }
+
+    void theFocusOfTheIconGridIsSeen()
+    {
+        const auto [palette] = Table<QPalette>::Row();
+        QApplication::setStyle(new AppStyle);
+        QWidget window;
+        auto* grid = new IconGrid(&window);
+        auto* other = new QLineEdit(&window);
+        window.setPalette(palette);
+        grid->resize(300, 300);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        grid->SelectIcon(3);
+        const QRect cell = grid->visualRect(grid->model()->index(3, 0));
+        const auto picture = [grid, cell] { return grid->viewport()->grab(cell).toImage(); };
+        grid->setFocus();
+        const QImage focused = picture();
+        other->setFocus();
+        QVERIFY(focused != picture());
+    }
+
+    void everyIconHasADrawingAndANameOfItsOwn()
+    {
+        QSet<QByteArray> drawings;
+        QSet<QString> names;
+        for (int index = 0; index < kListIconCount; ++index) {
+            const QImage image = ListIcon(index).pixmap(24, 24).toImage();
+            drawings << QByteArray(
+                reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
+            names << ListIconName(index);
+        }
+        QCOMPARE(drawings.size(), kListIconCount);
+        QCOMPARE(names.size(), kListIconCount);
+        QCOMPARE(ListIconName(99), ListIconName(0));
+    }
+
+    void theGridOfColoursIsInOrderOfTheirValues()
+    {
+        const auto& order = ColoursByValue();
+        QCOMPARE(order.front(), kAutomaticColour);
+        QCOMPARE(order.back(), 22U);
+        for (size_t i = 1; i < order.size(); ++i)
+            QVERIFY(PaletteColour(order.at(i - 1)).rgb() < PaletteColour(order.at(i)).rgb());
+    }
+
+    void arrowKeysGoThroughTheColoursInOrder()
+    {
+        ColourButton button;
+        const QSignalSpy picked(&button, &ColourButton::ColourPicked);
+        button.SetColour(kAutomaticColour);
+        QTest::keyClick(&button, Qt::Key_Up);
+        QCOMPARE(button.Colour(), kAutomaticColour);
+        QTest::keyClick(&button, Qt::Key_Down);
+        QCOMPARE(button.Colour(), 4U);
+        button.SetColour(22);
+        QTest::keyClick(&button, Qt::Key_Down);
+        QCOMPARE(button.Colour(), 22U);
+        QCOMPARE(picked.count(), 0);
+    }
+
+    void aColourIsPickedInTheGrid()
+    {
+        ColourButton button;
+        QSignalSpy picked(&button, &ColourButton::ColourPicked);
+        button.SetColour(5);
+        button.show();
+        for (const auto& [name, index] : { std::pair { u"colour9"_s, 9U }, { u"colour9"_s, 9U } }) {
+            QTest::mouseClick(&button, Qt::LeftButton);
+            auto* grid = button.findChild<ColourGrid*>();
+            QVERIFY(grid != nullptr && grid->isVisible());
+            QTest::mouseClick(grid->findChild<QWidget*>(name), Qt::LeftButton);
+            QCOMPARE(button.Colour(), index);
+            QTRY_VERIFY(button.findChild<ColourGrid*>() == nullptr);
+        }
+        // The one that was shown already is told again.
+        QCOMPARE(picked.count(), 2);
+        // All of them can be reached in the smallest window, where they are largest.
+        const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+        auto* grid = new ColourGrid(5, &button);
+        grid->Open({}, QRect(0, 0, 240, 320));
+        QVERIFY2(grid->width() <= 240, qPrintable(QString::number(grid->width())));
+    }
+
+    void arrowKeysGoTheirWayThroughTheGrid_data()
+    {
+        const Table<int, size_t> add;
+        // From the second one of the second column of six.
+        add("left", int { Qt::Key_Left }, size_t { 1 });
+        add("right", int { Qt::Key_Right }, size_t { 13 });
+        add("up", int { Qt::Key_Up }, size_t { 6 });
+        add("down", int { Qt::Key_Down }, size_t { 8 });
+    }
+
+    void arrowKeysGoTheirWayThroughTheGrid()
+    {
+        const auto [key, place] = Table<int, size_t>::Row();
+        ColourButton button;
+        button.SetColour(ColoursByValue().at(7));
+        button.show();
         QTest::mouseClick(&button, Qt::LeftButton);
         auto* grid = button.findChild<ColourGrid*>();
-        QVERIFY(grid != nullptr && grid->isVisible());
-        QTest::mouseClick(grid->findChild<QWidget*>(name), Qt::LeftButton);
-        QCOMPARE(button.Colour(), index);
-        QTRY_VERIFY(button.findChild<ColourGrid*>() == nullptr);
+        QTest::keyClick(grid->focusWidget(), static_cast<Qt::Key>(key));
+        QTest::keyClick(grid->focusWidget(), Qt::Key_Return);
+        QCOMPARE(button.Colour(), ColoursByValue().at(place));
     }
-    // The one that was shown already is told again.
-    QCOMPARE(picked.count(), 2);
-    // All of them can be reached in the smallest window, where they are largest.
-    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
-    auto* grid = new ColourGrid(5, &button);
-    grid->Open({}, QRect(0, 0, 240, 320));
-    QVERIFY2(grid->width() <= 240, qPrintable(QString::number(grid->width())));
-}
 
-void PickersTest::arrowKeysGoTheirWayThroughTheGrid_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<size_t>("place");
-    // From the second one of the second column of six.
-    QTest::newRow("left") << int { Qt::Key_Left } << size_t { 1 };
-    QTest::newRow("right") << int { Qt::Key_Right } << size_t { 13 };
-    QTest::newRow("up") << int { Qt::Key_Up } << size_t { 6 };
-    QTest::newRow("down") << int { Qt::Key_Down } << size_t { 8 };
-}
+    void aPointerPicksOnlyByWhatItDoesInTheGrid()
+    {
+        QWidget window;
+        window.setGeometry(100, 100, 360, 640);
+        ColourButton button(&window);
+        const QSignalSpy picked(&button, &ColourButton::ColourPicked);
+        button.SetColour(22);
+        window.show();
+        const QPoint place = button.rect().center();
+        QCursor::setPos(button.mapToGlobal(place));
+        QTest::mouseClick(&button, Qt::LeftButton, {}, place);
+        QTest::qWait(20);
+        auto* grid = button.findChild<ColourGrid*>();
+        // It opened under the pointer, which takes no part in it by resting there.
+        QWidget* below = grid->childAt(grid->mapFromGlobal(button.mapToGlobal(place)));
+        QVERIFY(below != nullptr);
+        QCOMPARE(grid->focusWidget()->objectName(), u"colour22"_s);
+        QTest::mouseDClick(below, Qt::LeftButton);
+        QTest::mouseRelease(below, Qt::LeftButton);
+        QCOMPARE(picked.count(), 0);
+        QTest::mouseMove(below, { 1, 1 });
+        QCOMPARE(grid->focusWidget(), below);
+    }
 
-void PickersTest::arrowKeysGoTheirWayThroughTheGrid()
-{
-    QFETCH(const int, key);
-    QFETCH(const size_t, place);
-    ColourButton button;
-    button.SetColour(ColoursByValue().at(7));
-    button.show();
-    QTest::mouseClick(&button, Qt::LeftButton);
-    auto* grid = button.findChild<ColourGrid*>();
-    QTest::keyClick(grid->focusWidget(), static_cast<Qt::Key>(key));
-    QTest::keyClick(grid->focusWidget(), Qt::Key_Return);
-    QCOMPARE(button.Colour(), ColoursByValue().at(place));
-}
+    void theWheelLeavesAClosedDropDownAlone()
+    {
+        QApplication::setStyle(new AppStyle);
+        QWidget place;
+        auto* box = new QComboBox(&place);
+        box->addItems({ u"one"_s, u"two"_s });
+        place.show();
+        box->setFocus();
+        QWheelEvent wheel({ 5, 5 }, box->mapToGlobal(QPoint(5, 5)), {}, { 0, -120 }, Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(box, &wheel);
+        QCOMPARE(box->currentIndex(), 0);
+        // What it lies upon may scroll.
+        QVERIFY(!wheel.isAccepted());
+    }
 
-void PickersTest::aPointerPicksOnlyByWhatItDoesInTheGrid()
-{
-    QWidget window;
-    window.setGeometry(100, 100, 360, 640);
-    ColourButton button(&window);
-    const QSignalSpy picked(&button, &ColourButton::ColourPicked);
-    button.SetColour(22);
-    window.show();
-    const QPoint place = button.rect().center();
-    QCursor::setPos(button.mapToGlobal(place));
-    QTest::mouseClick(&button, Qt::LeftButton, {}, place);
-    QTest::qWait(20);
-    auto* grid = button.findChild<ColourGrid*>();
-    // It opened under the pointer, which takes no part in it by resting there.
-    QWidget* below = grid->childAt(grid->mapFromGlobal(button.mapToGlobal(place)));
-    QVERIFY(below != nullptr);
-    QCOMPARE(grid->focusWidget()->objectName(), u"colour22"_s);
-    QTest::mouseDClick(below, Qt::LeftButton);
-    QTest::mouseRelease(below, Qt::LeftButton);
-    QCOMPARE(picked.count(), 0);
-    QTest::mouseMove(below, { 1, 1 });
-    QCOMPARE(grid->focusWidget(), below);
-}
-
-void PickersTest::theWheelLeavesAClosedDropDownAlone()
-{
-    QApplication::setStyle(new AppStyle);
-    QWidget place;
-    auto* box = new QComboBox(&place);
-    box->addItems({ u"one"_s, u"two"_s });
-    place.show();
-    box->setFocus();
-    QWheelEvent wheel({ 5, 5 }, box->mapToGlobal(QPoint(5, 5)), {}, { 0, -120 }, Qt::NoButton,
-        Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(box, &wheel);
-    QCOMPARE(box->currentIndex(), 0);
-    // What it lies upon may scroll.
-    QVERIFY(!wheel.isAccepted());
-}
-
-void PickersTest::landscapeEnablesItsHands()
-{
-    DisplayOptionsPage page({ false, true, true });
-    auto* left = page.findChild<QRadioButton*>(u"landscapeLeft"_s);
-    QVERIFY(!left->isEnabled());
-    page.findChild<QCheckBox*>(u"landscape"_s)->click();
-    QVERIFY(left->isEnabled());
-    left->click();
-    page.findChild<QCheckBox*>(u"alternateColour"_s)->click();
-    QCOMPARE(page.Result(), (DisplayOptions { true, false, false }));
-    QVERIFY(page.HasUnsavedInput());
-}
-
-void PickersTest::importColumnsAreMovedNotLeftOut()
-{
-    const PropertyId price = MakePropertyId(77, CEVT_R8);
-    ImportOrderPage page(
-        { { u"Name"_s, 20, PropName }, { u"Count"_s, 21, PropCount }, { u"Price"_s, 2, price } });
-    const QSignalSpy ended(&page, &Page::Ended);
-    page.show();
-    QVERIFY(QTest::qWaitForWindowActive(&page));
-    const auto* up = page.findChild<QPushButton*>(u"moveUp"_s);
-    auto* down = page.findChild<QPushButton*>(u"moveDown"_s);
-    QVERIFY(!up->isEnabled());
-    down->setFocus();
-    // Once too often: what has the keyboard then does nothing.
-    for (int i = 0; i < 3; ++i)
-        QTest::keyClick(page.focusWidget(), Qt::Key_Space);
-    QVERIFY(!down->isEnabled());
-    QCOMPARE(ended.count(), 0);
-    QCOMPARE(page.Order(), (std::vector { PropCount, price, PropName }));
-    QTest::keyClick(page.focusWidget(), Qt::Key_Up, Qt::ControlModifier);
-    QTest::keyClick(page.focusWidget(), Qt::Key_Up, Qt::ControlModifier);
-    QTest::keyClick(page.focusWidget(), Qt::Key_Down, Qt::ControlModifier);
-    QCOMPARE(page.Order(), (std::vector { PropCount, PropName, price }));
-    QCOMPARE(page.findChild<QListWidget*>()->item(1)->text(), u"Name"_s);
-}
+    void importColumnsAreMovedNotLeftOut()
+    {
+        const PropertyId price = MakePropertyId(77, CEVT_R8);
+        ImportOrderPage page({ { u"Name"_s, 20, PropName }, { u"Count"_s, 21, PropCount },
+            { u"Price"_s, 2, price } });
+        const QSignalSpy ended(&page, &Page::Ended);
+        page.show();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        const auto* up = page.findChild<QPushButton*>(u"moveUp"_s);
+        auto* down = page.findChild<QPushButton*>(u"moveDown"_s);
+        QVERIFY(!up->isEnabled());
+        down->setFocus();
+        // Once too often: what has the keyboard then does nothing.
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(page.focusWidget(), Qt::Key_Space);
+        QVERIFY(!down->isEnabled());
+        QCOMPARE(ended.count(), 0);
+        QCOMPARE(page.Order(), (std::vector { PropCount, price, PropName }));
+        QTest::keyClick(page.focusWidget(), Qt::Key_Up, Qt::ControlModifier);
+        QTest::keyClick(page.focusWidget(), Qt::Key_Up, Qt::ControlModifier);
+        QTest::keyClick(page.focusWidget(), Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(page.Order(), (std::vector { PropCount, PropName, price }));
+        QCOMPARE(page.findChild<QListWidget*>()->item(1)->text(), u"Name"_s);
+    }
+};
 
 QUILLORY_TEST(QApplication, PickersTest)
 #include "pickers_test.moc"

@@ -157,17 +157,25 @@ private Q_SLOTS:
 
     void aFileIsReplacedOnceAllIsWritten()
     {
-        const ListFixture file;
+        ListFixture file(u"L"_s);
+        file.list.columnOrder = { 0 };
+        QVERIFY(file.data->BeginTransaction());
+        for (int i = 0; i < 1100; ++i)
+            AddPartial(file, { { 0, u"Tea"_s } });
+        QVERIFY(file.data->EndTransaction(true));
         const QString target = file.Path() + u".txt"_s;
-        WriteFileBytes(target, "longer than before");
+        WriteFileBytes(target, "before");
         QVERIFY(QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner));
         const auto permissions = QFile::permissions(target);
-        for (const bool isCommitted : { false, true }) {
+        for (const bool goesOn : { false, true }) {
             const ListFile made = CreateListFile(target, file.Path());
-            QVERIFY(made.file != nullptr && made.file->write("new") == 3);
-            if (isCommitted)
-                QCOMPARE(made.Commit(), QString());
-            QCOMPARE(FileBytes(target), isCommitted ? "new"_ba : "longer than before"_ba);
+            QVERIFY(made.file != nullptr);
+            const ExportOutcome outcome
+                = ExportToFile(*file.data->OpenDatabase(ListCatalogue::kRowsType), file.list,
+                    file.context, made, [goesOn](qint64) { return goesOn; });
+            QVERIFY(outcome.isCancelled == !goesOn && outcome.writeFailure.isEmpty());
+            // A mark and 1100 times "Tea" and the end of a line.
+            QCOMPARE(FileBytes(target).size(), goesOn ? 2 + 1100 * 10 : 6);
         }
         QCOMPARE(QFile::permissions(target), permissions);
         QCOMPARE(QDir(QFileInfo(target).path()).entryList(QDir::Files).size(), 2);

@@ -98,4 +98,13 @@ ExportOutcome ExportRows(Database& rows, const InventoryList& list, const ValueC
     return outcome;
 }
 
+ExportOutcome ExportToFile(Database& rows, const InventoryList& list, const ValueContext& context,
+    const ListFile& target, const ExportMonitor& monitor)
+{
+    ExportOutcome outcome = ExportRows(rows, list, context, *target.file, monitor);
+    if (outcome.writeFailure.isEmpty() && !outcome.isCancelled)
+        outcome.writeFailure = target.Commit();
+    return outcome;
+}
+
 } // namespace Quillory

@@ -3,6 +3,7 @@
 
 #include "propdb/database.h"
 #include "store/inventory_list.h"
+#include "transfer/list_file.h"
 #include "values/value_text.h"
 
 #include <QIODevice>
@@ -39,5 +40,10 @@ using ExportMonitor = std::function<bool(qint64 rows)>;
 /// Holds no more than some rows in memory.
 [[nodiscard]] ExportOutcome ExportRows(Database& rows, const InventoryList& list,
     const ValueContext& context, QIODevice& target, const ExportMonitor& monitor = {});
+
+/// The same to a file, which is committed once all was written; where that failed, or the monitor
+/// ended it, there is what there was.
+[[nodiscard]] ExportOutcome ExportToFile(Database& rows, const InventoryList& list,
+    const ValueContext& context, const ListFile& target, const ExportMonitor& monitor = {});
 
 } // namespace Quillory

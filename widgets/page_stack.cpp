@@ -63,6 +63,15 @@ Page* PageStack::Top() const
     return qobject_cast<Page*>(currentWidget());
 }
 
+bool PageStack::HasUnsavedInput() const
+{
+    for (int depth = 0; depth < Depth(); ++depth) {
+        if (qobject_cast<const Page*>(widget(depth))->HasUnsavedInput())
+            return true;
+    }
+    return false;
+}
+
 void PageStack::CloseAll(const std::function<void()>& then)
 {
     ClosePopups();

@@ -26,6 +26,8 @@ public:
     void Push(Page* page, std::function<void(PageResult)> then = {});
     [[nodiscard]] Page* Top() const;
     [[nodiscard]] int Depth() const { return count(); }
+    /// Whether a page, the topmost or one below, would lose what is entered on it.
+    [[nodiscard]] bool HasUnsavedInput() const;
 
     /// Ends the pages above the first from the top, each with Closing, asking first where input
     /// would be lost. `then` is called once the first is left alone; not if an answer keeps a page.
