@@ -15,34 +15,39 @@ Cursor::Cursor(sqlite3* connection, std::shared_ptr<const DatabaseSchema> schema
     m_key.id = order.key;
 }
 
-QString Cursor::RangeSql(Range range, WalkDirection direction) const
+QString Cursor::KeyName() const
+{
+    return QuotedName(m_schema->Find(m_order.key)->columnName);
+}
+
+QString Cursor::RangeSql(const QString& columns, Range range, WalkDirection direction) const
 {
     const bool isForward = direction == WalkDirection::Forward;
     const QString comparison = isForward ? u">"_s : u"<"_s;
     const QString turn = isForward ? QString() : u" DESC"_s;
-    const QString key = QuotedName(m_schema->Find(m_order.key)->columnName);
-    const QString select
-        = u"SELECT oid, %1 FROM %2 WHERE %1"_s.arg(key, QuotedName(m_schema->tableName));
+    const QString key = KeyName();
+    const QString records
+        = u"SELECT %1 FROM %2 WHERE %3"_s.arg(columns, QuotedName(m_schema->tableName), key);
     const QString byKey = u" ORDER BY %1%2, oid%2"_s.arg(key, turn);
     const QString byOid = u" ORDER BY oid"_s + turn;
     switch (range) {
     case Range::SameKey:
-        return select + u" IS ?1 AND oid %1 ?2"_s.arg(comparison) + byOid;
+        return records + u" IS ?1 AND oid %1 ?2"_s.arg(comparison) + byOid;
     case Range::OtherKeys:
-        return select + u" %1 ?1"_s.arg(comparison) + byKey;
+        return records + u" %1 ?1"_s.arg(comparison) + byKey;
     case Range::Keyed:
-        return select + u" IS NOT NULL"_s + byKey;
+        return records + u" IS NOT NULL"_s + byKey;
     case Range::Keyless:
         break;
     }
-    return select + u" IS NULL"_s + byOid;
+    return records + u" IS NULL"_s + byOid;
 }
 
 Result<bool> Cursor::ReadKey(ObjectId oid)
 {
     if (!m_readKey) {
-        const QString sql = u"SELECT %1 FROM %2 WHERE oid = ?1"_s.arg(
-            QuotedName(m_schema->Find(m_order.key)->columnName), QuotedName(m_schema->tableName));
+        const QString sql
+            = u"SELECT %1 FROM %2 WHERE oid = ?1"_s.arg(KeyName(), QuotedName(m_schema->tableName));
         auto select = Statement::Prepare(m_connection, sql, true);
         if (!select)
             return select.Error();
@@ -62,8 +67,9 @@ Result<bool> Cursor::Search(Range range, WalkDirection direction)
         = 2 * static_cast<size_t>(range) + (direction == WalkDirection::Forward ? 0 : 1);
     Statement& search = m_searches.at(place);
     if (!search) {
-        auto prepared
-            = Statement::Prepare(m_connection, RangeSql(range, direction) + u" LIMIT 1"_s, true);
+        const QString columns = u"oid, "_s + KeyName();
+        auto prepared = Statement::Prepare(
+            m_connection, RangeSql(columns, range, direction) + u" LIMIT 1"_s, true);
         if (!prepared)
             return prepared.Error();
         search = std::move(*prepared);
@@ -151,7 +157,8 @@ Result<std::vector<ObjectId>> Cursor::List()
 {
     std::vector<ObjectId> oids;
     for (const Range range : { Range::Keyed, Range::Keyless }) {
-        auto statement = Statement::Prepare(m_connection, RangeSql(range, WalkDirection::Forward));
+        auto statement
+            = Statement::Prepare(m_connection, RangeSql(u"oid"_s, range, WalkDirection::Forward));
         if (!statement)
             return statement.Error();
         while (statement->Next())

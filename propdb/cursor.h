@@ -63,7 +63,10 @@ private:
     /// By range and direction.
     std::array<Statement, 8> m_searches;
 
-    [[nodiscard]] QString RangeSql(Range range, WalkDirection direction) const;
+    /// As SQL wants it.
+    [[nodiscard]] QString KeyName() const;
+    [[nodiscard]] QString RangeSql(
+        const QString& columns, Range range, WalkDirection direction) const;
     [[nodiscard]] Result<bool> ReadKey(ObjectId oid);
     /// Whether there is a record in that direction in the range; goes to the next one.
     [[nodiscard]] Result<bool> Search(Range range, WalkDirection direction);

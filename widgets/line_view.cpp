@@ -42,6 +42,9 @@ private:
     {
         const int height
             = std::max(CurrentMeasures().lineHeight, m_view->fontMetrics().height() + kGrid);
+        // Either of them goes through all lines.
+        if (height == m_view->verticalHeader()->defaultSectionSize())
+            return;
         m_view->verticalHeader()->setMinimumSectionSize(height);
         m_view->verticalHeader()->setDefaultSectionSize(height);
     }
