@@ -156,8 +156,11 @@ bool IsListOfConfiguredFile(const QString& name)
 {
     Settings settings;
     ReadSettings(SettingsPath(), settings);
+    QFile errors;
+    static_cast<void>(errors.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered));
     try {
-        CommandData data(settings.DbPath, VolumeAccess::ReadOnly, Disposition::OpenExisting);
+        CommandData data(
+            settings.DbPath, VolumeAccess::ReadOnly, Disposition::OpenExisting, errors);
         return data.catalogue.FindList(name) != kNoObject;
     } catch (const CommandFailure&) {
         return false;

@@ -69,7 +69,8 @@ QString ReadErrorText(ErrorNumber error)
         : u"%1; “quillory restore” lists copies and what can be saved"_s.arg(text);
 }
 
-CommandData::CommandData(const QString& path, VolumeAccess access, Disposition disposition)
+CommandData::CommandData(
+    const QString& path, VolumeAccess access, Disposition disposition, QIODevice& errors)
     : catalogue(volume)
     , m_path(path)
 {
@@ -78,6 +79,9 @@ CommandData::CommandData(const QString& path, VolumeAccess access, Disposition d
         Fail(u"%1 is open in Quillory; close it first"_s.arg(path));
     if (error != ErrorNumber::None)
         Fail(u"cannot open %1: %2"_s.arg(path, ReadErrorText(error)));
+    if (const QString aside = volume.MountedVolume()->JournalPutAside(); !aside.isEmpty())
+        Complain(
+            errors, u"beside %1 lay the journal of another file; it is now %2"_s.arg(path, aside));
     // A reader makes no table for the lists that are not there yet.
     if (access == VolumeAccess::ReadOnly && catalogue.IsWithoutTables())
         return;
@@ -130,12 +134,13 @@ QString CommandRun::DataFile() const
 std::unique_ptr<CommandData> CommandRun::OpenForReading() const
 {
     return std::make_unique<CommandData>(
-        DataFile(), VolumeAccess::ReadOnly, Disposition::OpenExisting);
+        DataFile(), VolumeAccess::ReadOnly, Disposition::OpenExisting, environment.errors);
 }
 
 std::unique_ptr<CommandData> CommandRun::OpenForWriting(Disposition disposition) const
 {
-    return std::make_unique<CommandData>(DataFile(), VolumeAccess::Exclusive, disposition);
+    return std::make_unique<CommandData>(
+        DataFile(), VolumeAccess::Exclusive, disposition, environment.errors);
 }
 
 void CommandRun::VisitLists(

@@ -44,11 +44,13 @@ void FailIfRowsAreMissing(const Database::VisitOutcome& outcome);
 /// The same of an error in reading the data file; of damage with what can be done.
 [[nodiscard]] QString ReadErrorText(ErrorNumber error);
 
-/// A data file with its catalogue open. Every way not to get there ends the command.
+/// A data file with its catalogue open. Every way not to get there ends the command; what else
+/// there is to say of the file goes to `errors`.
 class CommandData
 {
 public:
-    CommandData(const QString& path, VolumeAccess access, Disposition disposition);
+    CommandData(
+        const QString& path, VolumeAccess access, Disposition disposition, QIODevice& errors);
 
     /// Finds a list by its name and opens it.
     ObjectId OpenList(const QString& name);

@@ -6,6 +6,7 @@
 #include "propdb/sqlite_error.h"
 #include "propdb/volume_state.h"
 
+#include <QFile>
 #include <QScopeGuard>
 
 #include <sqlite3.h>
@@ -241,6 +242,11 @@ Result<void> Volume::EndTransaction(bool commit)
 bool Volume::HasChanged() const
 {
     return m_state->hasCommitted;
+}
+
+QString Volume::JournalPutAside() const
+{
+    return QFile::decodeName(m_state->file.JournalPutAside());
 }
 
 Result<void> Volume::VerifyInPlace() const

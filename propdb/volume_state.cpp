@@ -36,9 +36,11 @@ Result<void> VolumeState::Connect()
         return prepared;
     if (const auto loaded = LoadSchema(); !loaded)
         return loaded;
+    const QByteArray rewriting = "PRAGMA user_version = " + QByteArray::number(kFormatVersion);
     if (const auto prepared = PrepareStatements({
             { &readNextOid, "SELECT next_oid FROM object_counter" },
             { &begin, "BEGIN IMMEDIATE" },
+            { &rewriteHeader, rewriting.constData() },
             { &commit, "COMMIT" },
             { &rollback, "ROLLBACK" },
             { &storeNextOid, "UPDATE object_counter SET next_oid = ?1" },
@@ -111,14 +113,29 @@ Result<ObjectId> VolumeState::AllocateOid()
 
 Result<void> VolumeState::BeginWrite()
 {
-    if (!isInTransaction)
-        return Begin();
+    if (!isInTransaction) {
+        if (const auto begun = Begin(); !begun)
+            return begun;
+        const auto kept = KeepFirstPage();
+        if (!kept)
+            Rollback();
+        return kept;
+    }
     // A failure can have ended the transaction underneath; what follows must not stand alone.
     if (sqlite3_get_autocommit(connection.get()) != 0)
         return ErrorNumber::InvalidHandle;
     for (DatabaseState* database : openDatabases)
         database->cursor.Suspend();
-    return {};
+    return KeepFirstPage();
+}
+
+Result<void> VolumeState::KeepFirstPage()
+{
+    if (isFirstPageKept)
+        return {};
+    const auto kept = rewriteHeader.Run();
+    isFirstPageKept = kept.IsOk();
+    return kept;
 }
 
 Result<void> VolumeState::BeginSchemaChange()
@@ -181,6 +198,7 @@ Result<void> VolumeState::Begin()
         return changes ? ErrorNumber::SharingViolation : changes.Error();
     }
     changesSeen = *changes;
+    isFirstPageKept = false;
     return {};
 }
 
