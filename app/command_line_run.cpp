@@ -174,9 +174,13 @@ void CommandRun::KeepCopyOf(CommandData& data) const
     // Other files are tried out, sent and mended; what they hold is not this program's to keep.
     const auto configured = ResolveVolumePath(environment.dataFile);
     const auto changed = ResolveVolumePath(data.Path());
-    if (configured && changed && *configured == *changed)
-        KeepCopy(data.volume, data.Path(), environment.copiesFolder,
-            QDateTime::currentDateTimeUtc(), environment.keptCopies);
+    if (!configured || !changed || *configured != *changed)
+        return;
+    const auto kept = KeepCopy(data.volume, data.Path(), environment.copiesFolder,
+        QDateTime::currentDateTimeUtc(), environment.keptCopies);
+    if (!kept)
+        Complain(environment.errors,
+            u"no copy of %1 could be kept: %2"_s.arg(data.Path(), ErrorText(kept.Error())));
 }
 
 bool CommandRun::IsJson() const

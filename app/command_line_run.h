@@ -91,7 +91,8 @@ struct CommandRun
         CommandData& data, const ListVisitor& visit, const std::function<void()>& end) const;
     /// Ends the command if a file to be made would be taken for the data file's journal.
     void RefuseJournal(const QString& path) const;
-    /// Keeps a copy of a data file that the command has changed; to be called at its good end.
+    /// Keeps a copy of a data file that the command has changed, or tells why not; to be called at
+    /// its good end.
     void KeepCopyOf(CommandData& data) const;
     [[nodiscard]] bool IsJson() const;
 };
