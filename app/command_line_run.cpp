@@ -57,6 +57,8 @@ qint32 ReadInteger(
 
 QString ErrorText(ErrorNumber error)
 {
+    if (error == ErrorNumber::Cancelled)
+        throw WriterWaits();
     return u"%1 (error %2)"_s.arg(
         QLatin1StringView(ErrorPhrase(error)), QString::number(static_cast<quint32>(error)));
 }
@@ -93,6 +95,8 @@ ObjectId CommandData::OpenList(const QString& name)
 {
     const ObjectId oid = catalogue.FindList(name);
     if (oid == kNoObject) {
+        if (volume.LastError() == ErrorNumber::Cancelled)
+            throw WriterWaits();
         FailIfListsAreMissing(catalogue.FillHomeList());
         Fail(u"there is no list named “%1”"_s.arg(name));
     }

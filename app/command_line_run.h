@@ -28,6 +28,11 @@ private:
     QString m_message;
 };
 
+/// Ends a command that reads because somebody waits to change the file. Nothing of it was printed
+/// yet, and it is to be run again.
+class WriterWaits : public std::exception
+{ };
+
 [[noreturn]] void Fail(const QString& message);
 [[noreturn]] void FailUsage(const QString& message);
 /// Writes a message as a line of its own to standard error.
@@ -39,7 +44,8 @@ void FailIfRowsAreMissing(const Database::VisitOutcome& outcome);
 /// The value of an option as a whole number; one outside the limits ends the command.
 [[nodiscard]] qint32 ReadInteger(
     const QCommandLineParser& parser, const QString& option, qint32 least, qint32 most);
-/// A phrase and the number of an error, such as "no space left (error 112)".
+/// A phrase and the number of an error, such as "no space left (error 112)". Throws WriterWaits
+/// where that is the reason.
 [[nodiscard]] QString ErrorText(ErrorNumber error);
 /// The same of an error in reading the data file; of damage with what can be done.
 [[nodiscard]] QString ReadErrorText(ErrorNumber error);

@@ -23,7 +23,9 @@ enum class VolumeAccess
 {
     /// Reads and writes; refused while another process has the volume for itself.
     Exclusive,
-    /// Reads beside another process. Every write fails with AccessDenied.
+    /// Reads beside another process, and gives way to it: whatever reads while a change waits to be
+    /// put into the file ends with Cancelled, and is to be begun again. Every write fails with
+    /// AccessDenied.
     ReadOnly,
 };
 

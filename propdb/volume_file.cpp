@@ -305,6 +305,19 @@ Result<void> VolumeFile::VerifyInPlace() const
     return {};
 }
 
+bool VolumeFile::IsAwaitedByWriter() const
+{
+    // The byte by which SQLite's writers keep new readers out.
+    constexpr off_t kPendingByte = 0x40000000;
+    struct flock lock
+    { };
+    lock.l_type = F_RDLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = kPendingByte;
+    lock.l_len = 1;
+    return fcntl(m_descriptor, F_GETLK, &lock) == 0 && lock.l_type == F_WRLCK;
+}
+
 Result<quint32> VolumeFile::ChangeCounter() const
 {
     std::array<char, sizeof(quint32)> field {};

@@ -68,6 +68,8 @@ public:
     /// Whether the path still leads to the file that was opened: FileNotFound, or PathNotFound with
     /// its folder, if it was removed, SharingViolation if it was replaced.
     [[nodiscard]] Result<void> VerifyInPlace() const;
+    /// Whether another process waits for readers to let go of the file, to put a change into it.
+    [[nodiscard]] bool IsAwaitedByWriter() const;
     /// How often the file was changed, as its header counts; for telling whether it was since.
     [[nodiscard]] Result<quint32> ChangeCounter() const;
     /// FileCorrupt unless the file consists of whole pages. It need not before its journal was

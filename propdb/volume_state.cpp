@@ -12,6 +12,18 @@
 
 namespace Quillory {
 
+namespace {
+
+/// Of SQLite's machine; a millisecond's work.
+constexpr int kStepsBetweenLooks = 10'000;
+
+int GiveWay(void* state)
+{
+    return static_cast<const VolumeState*>(state)->file.IsAwaitedByWriter() ? 1 : 0;
+}
+
+} // namespace
+
 VolumeState::VolumeState(VolumeFile volumeFile, QByteArray volumePath, VolumeAccess volumeAccess)
     : file(std::move(volumeFile))
     , path(std::move(volumePath))
@@ -25,6 +37,8 @@ Result<void> VolumeState::Connect()
     if (!opened)
         return opened.Error();
     connection = std::move(*opened);
+    if (access == VolumeAccess::ReadOnly)
+        sqlite3_progress_handler(connection.get(), kStepsBetweenLooks, &GiveWay, this);
     if (const auto registered = visit.Register(connection.get()); !registered)
         return registered;
     // The file that was looked at and locked must be the one that SQLite has opened.
