@@ -94,7 +94,8 @@ public:
 
     /// Reads the whole file and tells what is wrong with it, a line each; empty if nothing is.
     [[nodiscard]] Result<std::vector<QString>> Check();
-    /// Writes a consistent copy to a new file; FileExists if there is one of that name already.
+    /// Writes a consistent copy to a new file of the same mode; FileExists if there is one of that
+    /// name already.
     [[nodiscard]] Result<void> Backup(const QString& path);
 
 private:

@@ -298,7 +298,7 @@ Result<void> VolumeFile::VerifyInPlace() const
 {
     struct stat status
     { };
-    if (stat(m_path.constData(), &status) != 0)
+    if (lstat(m_path.constData(), &status) != 0)
         return ErrorFromErrno(errno, access(FolderOf(m_path).constData(), F_OK) != 0);
     if (status.st_dev != m_device || status.st_ino != m_inode)
         return ErrorNumber::SharingViolation;
@@ -318,16 +318,19 @@ bool VolumeFile::IsAwaitedByWriter() const
     return fcntl(m_descriptor, F_GETLK, &lock) == 0 && lock.l_type == F_WRLCK;
 }
 
-Result<quint32> VolumeFile::ChangeCounter() const
+Result<VolumeFile::State> VolumeFile::ReadState() const
 {
     std::array<char, sizeof(quint32)> field {};
     const ssize_t size
         = pread(m_descriptor, field.data(), field.size(), HeaderLayout::kChangeCounter);
-    if (size < 0)
+    struct stat status
+    { };
+    if (size < 0 || fstat(m_descriptor, &status) != 0)
         return ErrorFromErrno(errno);
     if (size < static_cast<ssize_t>(field.size()))
         return ErrorNumber::FileCorrupt;
-    return qFromBigEndian<quint32>(field.data());
+    return State { qFromBigEndian<quint32>(field.data()), status.st_size, status.st_mtim.tv_sec,
+        status.st_mtim.tv_nsec };
 }
 
 Result<void> VolumeFile::MakeDurable() const
@@ -353,6 +356,17 @@ Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
     if (!isRenamed)
         return ErrorFromErrno(errno);
     return SyncFolderOf(to);
+}
+
+Result<void> TakeModeOf(const QByteArray& from, const QByteArray& to)
+{
+    constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
+    struct stat status
+    { };
+    const bool isDone = stat(from.constData(), &status) == 0
+        && chmod(to.constData(), (status.st_mode & kPermissions) | S_IRUSR | S_IWUSR) == 0;
+    // File systems of memory cards have one mode for all.
+    return isDone || errno == EPERM || errno == ENOTSUP ? ErrorNumber::None : ErrorFromErrno(errno);
 }
 
 QByteArray UnfinishedName(const QByteArray& path)

@@ -66,12 +66,23 @@ public:
     [[nodiscard]] static Result<VolumeFile> Open(const QByteArray& path, VolumeAccess access);
 
     /// Whether the path still leads to the file that was opened: FileNotFound, or PathNotFound with
-    /// its folder, if it was removed, SharingViolation if it was replaced.
+    /// its folder, if it was removed, SharingViolation if it was replaced, be it by a link to
+    /// itself: its journal would be looked for beside the link or beside the file.
     [[nodiscard]] Result<void> VerifyInPlace() const;
     /// Whether another process waits for readers to let go of the file, to put a change into it.
     [[nodiscard]] bool IsAwaitedByWriter() const;
-    /// How often the file was changed, as its header counts; for telling whether it was since.
-    [[nodiscard]] Result<quint32> ChangeCounter() const;
+    /// For telling whether the file was written since.
+    struct State
+    {
+        /// How often the file was changed, as its header counts.
+        quint32 changes = 0;
+        qint64 size = 0;
+        qint64 seconds = 0;
+        qint64 nanoseconds = 0;
+
+        friend bool operator==(const State&, const State&) = default;
+    };
+    [[nodiscard]] Result<State> ReadState() const;
     /// FileCorrupt unless the file consists of whole pages. It need not before its journal was
     /// played back.
     [[nodiscard]] Result<void> VerifySize() const;
@@ -106,6 +117,8 @@ private:
 /// FileExists if there is one of that name: it is never replaced. A journal that an earlier file of
 /// that name has left is put aside under another name.
 [[nodiscard]] Result<void> PublishFile(const QByteArray& from, const QByteArray& to);
+/// Lets whoever may use the file `from`, and nobody else but its owner, use `to`.
+[[nodiscard]] Result<void> TakeModeOf(const QByteArray& from, const QByteArray& to);
 /// A name in the folder of `path` for a file that becomes `path` when it is finished.
 [[nodiscard]] QByteArray UnfinishedName(const QByteArray& path);
 

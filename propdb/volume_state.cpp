@@ -68,10 +68,10 @@ Result<void> VolumeState::Connect()
         return ErrorNumber::FileCorrupt;
     nextOid = static_cast<quint64>(readNextOid.Int64(0));
     readNextOid.Reset();
-    const auto changes = file.ChangeCounter();
-    if (changes)
-        changesSeen = *changes;
-    return changes.Error();
+    const auto state = file.ReadState();
+    if (state)
+        stateSeen = *state;
+    return state.Error();
 }
 
 Result<qint64> VolumeState::ReadFileVersion()
@@ -205,13 +205,15 @@ Result<void> VolumeState::Begin()
         return refreshed;
     if (const auto begun = begin.Run(); !begun)
         return begun;
-    const auto changes = file.ChangeCounter();
-    const bool isOurs = changes && *changes == changesSeen.value_or(*changes);
+    const auto state = file.ReadState();
+    const bool isOurs = state && *state == stateSeen.value_or(*state);
     if (!isOurs) {
+        const auto seen = stateSeen;
         Rollback();
-        return changes ? ErrorNumber::SharingViolation : changes.Error();
+        stateSeen = seen;
+        return state ? ErrorNumber::SharingViolation : state.Error();
     }
-    changesSeen = *changes;
+    stateSeen = *state;
     isFirstPageKept = false;
     return {};
 }
@@ -236,8 +238,8 @@ Result<void> VolumeState::Commit()
         if (const auto found = FindOutcome(committed.Error()); !found)
             return found;
     } else {
-        const auto changes = file.ChangeCounter();
-        changesSeen = changes ? std::optional(*changes) : std::nullopt;
+        const auto state = file.ReadState();
+        stateSeen = state ? std::optional(*state) : std::nullopt;
     }
     isNextOidStored = true;
     isSchemaChanged = false;
@@ -253,6 +255,10 @@ void VolumeState::Rollback()
     // Some failures have rolled back already.
     if (sqlite3_get_autocommit(connection.get()) == 0)
         static_cast<void>(rollback.Run().IsOk());
+    // What was undone may have been in the file.
+    const auto state = file.ReadState();
+    if (state && stateSeen && state->changes == stateSeen->changes)
+        stateSeen = *state;
     // Where this fails it is tried again before the schema is used.
     static_cast<void>(RefreshSchema().IsOk());
 }
@@ -273,14 +279,14 @@ Result<bool> VolumeState::SettleDoubt()
     readNextOid.Reset();
     if (!step)
         return step.Error();
-    const auto changes = file.ChangeCounter();
-    if (!changes)
-        return changes.Error();
-    const bool isDone = *changes != changesSeen;
+    const auto state = file.ReadState();
+    if (!state)
+        return state.Error();
+    const bool isDone = !stateSeen || state->changes != stateSeen->changes;
     const Result<void> durable = isDone ? file.MakeDurable() : Result<void>();
     if (!durable)
         return durable.Error();
-    changesSeen = *changes;
+    stateSeen = *state;
     isInDoubt = false;
     return isDone;
 }

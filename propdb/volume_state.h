@@ -66,8 +66,8 @@ struct VolumeState
     bool hasCommitted = false;
     /// Counts what may have changed the order of a database's records.
     quint64 orderChanges = 0;
-    /// The file's counter of changes as this connection left it; none where it is not known.
-    std::optional<quint32> changesSeen;
+    /// The file as this connection left it; none where it is not known.
+    std::optional<VolumeFile::State> stateSeen;
     /// Whether the latest commit is in the file, and durable, is not known.
     bool isInDoubt = false;
 

@@ -109,6 +109,12 @@ constexpr std::array kMischiefs {
             MustBeZero(symlink("/nowhere", path.constData()));
         },
         MoveBack, true },
+    Mischief { "is replaced by a link to itself",
+        [](Path path) {
+            MoveAside(path);
+            MustBeZero(symlink(Aside(path).constData(), path.constData()));
+        },
+        MoveBack, true },
     Mischief { "is replaced by a folder",
         [](Path path) {
             MoveAside(path);
@@ -118,7 +124,8 @@ constexpr std::array kMischiefs {
     Mischief { "gets a second name",
         [](Path path) { MustBeZero(link(path.constData(), Aside(path).constData())); },
         [](Path path) { unlink(Aside(path).constData()); }, false },
-    Mischief { "is touched", Touch, Touch, false },
+    // As by what was written by somebody who counts as many changes.
+    Mischief { "is written at another time", Touch, nullptr, true },
     Mischief { "is cut to half its size",
         [](Path path) { MustBeZero(truncate(path.constData(), Read(path).size() / 2)); }, nullptr,
         true },
