@@ -287,7 +287,7 @@ Result<void> Volume::Backup(const QString& path)
         auto copy = OpenConnection(unfinished, VolumeAccess::Exclusive, true, true);
         if (!copy)
             return copy.Error();
-        if (const auto taken = TakeModeOf(m_state->path, unfinished); !taken)
+        if (const auto taken = m_state->file.GiveModeTo(unfinished); !taken)
             return taken;
         sqlite3_backup* backup
             = sqlite3_backup_init(copy->get(), "main", m_state->connection.get(), "main");

@@ -101,6 +101,15 @@ Result<void> DrawChangeCounter(const QByteArray& path)
     return isWritten ? ErrorNumber::None : ErrorFromErrno(errno);
 }
 
+Result<void> SetMode(const QByteArray& path, mode_t mode)
+{
+    constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
+    // File systems of memory cards have one mode for all.
+    const bool isDone = chmod(path.constData(), (mode & kPermissions) | S_IRUSR | S_IWUSR) == 0
+        || errno == EPERM || errno == ENOTSUP;
+    return isDone ? ErrorNumber::None : ErrorFromErrno(errno);
+}
+
 } // namespace
 
 Result<QByteArray> ResolveVolumePath(const QString& path)
@@ -333,6 +342,14 @@ Result<VolumeFile::State> VolumeFile::ReadState() const
         status.st_mtim.tv_nsec };
 }
 
+Result<void> VolumeFile::GiveModeTo(const QByteArray& path) const
+{
+    struct stat status
+    { };
+    return fstat(m_descriptor, &status) == 0 ? SetMode(path, status.st_mode)
+                                             : ErrorFromErrno(errno);
+}
+
 Result<void> VolumeFile::MakeDurable() const
 {
     if (fsync(m_descriptor) != 0)
@@ -360,13 +377,10 @@ Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
 
 Result<void> TakeModeOf(const QByteArray& from, const QByteArray& to)
 {
-    constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
     struct stat status
     { };
-    const bool isDone = stat(from.constData(), &status) == 0
-        && chmod(to.constData(), (status.st_mode & kPermissions) | S_IRUSR | S_IWUSR) == 0;
-    // File systems of memory cards have one mode for all.
-    return isDone || errno == EPERM || errno == ENOTSUP ? ErrorNumber::None : ErrorFromErrno(errno);
+    return stat(from.constData(), &status) == 0 ? SetMode(to, status.st_mode)
+                                                : ErrorFromErrno(errno);
 }
 
 QByteArray UnfinishedName(const QByteArray& path)

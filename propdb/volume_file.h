@@ -86,6 +86,8 @@ public:
     /// FileCorrupt unless the file consists of whole pages. It need not before its journal was
     /// played back.
     [[nodiscard]] Result<void> VerifySize() const;
+    /// As TakeModeOf(), also where the path no longer leads to the file.
+    [[nodiscard]] Result<void> GiveModeTo(const QByteArray& path) const;
     /// Puts on the medium what the system may still keep back of the file and of its name.
     [[nodiscard]] Result<void> MakeDurable() const;
     /// A journal that nobody writes stood beside the file: a user of it did not end well.
