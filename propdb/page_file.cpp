@@ -3,6 +3,10 @@
 
 #include "propdb/volume_file.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <limits>
 
@@ -11,10 +15,21 @@ namespace Quillory {
 Result<PageFile> PageFile::Open(const QString& path)
 {
     PageFile pages;
-    pages.m_file = std::make_unique<QFile>(path);
-    errno = 0;
-    if (!pages.m_file->open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return errno == 0 ? ErrorNumber::FileNotFound : ErrorFromErrno(errno);
+    // A pipe would keep whoever opens it waiting for a writer.
+    const int descriptor
+        = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0)
+        return ErrorFromErrno(errno);
+    struct stat status
+    { };
+    const bool isFile = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    pages.m_file = std::make_unique<QFile>();
+    const bool isOpen = pages.m_file->open(
+        descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+    if (!isOpen)
+        close(descriptor);
+    if (!isOpen || !isFile)
+        return S_ISDIR(status.st_mode) ? ErrorNumber::AccessDenied : ErrorNumber::BadFormat;
     const qint64 count = pages.m_file->size() / kPageSize;
     if (count > std::numeric_limits<quint32>::max())
         return ErrorNumber::FileTooLarge;

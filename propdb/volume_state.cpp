@@ -12,6 +12,18 @@
 
 namespace Quillory {
 
+namespace {
+
+/// Of SQLite's machine; a millisecond's work.
+constexpr int kStepsBetweenLooks = 10'000;
+
+int GiveWay(void* state)
+{
+    return static_cast<const VolumeState*>(state)->file.IsAwaitedByWriter() ? 1 : 0;
+}
+
+} // namespace
+
 VolumeState::VolumeState(VolumeFile volumeFile, QByteArray volumePath, VolumeAccess volumeAccess)
     : file(std::move(volumeFile))
     , path(std::move(volumePath))
@@ -25,6 +37,8 @@ Result<void> VolumeState::Connect()
     if (!opened)
         return opened.Error();
     connection = std::move(*opened);
+    if (access == VolumeAccess::ReadOnly)
+        sqlite3_progress_handler(connection.get(), kStepsBetweenLooks, &GiveWay, this);
     if (const auto registered = visit.Register(connection.get()); !registered)
         return registered;
     // The file that was looked at and locked must be the one that SQLite has opened.
@@ -36,9 +50,11 @@ Result<void> VolumeState::Connect()
         return prepared;
     if (const auto loaded = LoadSchema(); !loaded)
         return loaded;
+    const QByteArray rewriting = "PRAGMA user_version = " + QByteArray::number(kFormatVersion);
     if (const auto prepared = PrepareStatements({
             { &readNextOid, "SELECT next_oid FROM object_counter" },
             { &begin, "BEGIN IMMEDIATE" },
+            { &rewriteHeader, rewriting.constData() },
             { &commit, "COMMIT" },
             { &rollback, "ROLLBACK" },
             { &storeNextOid, "UPDATE object_counter SET next_oid = ?1" },
@@ -52,10 +68,10 @@ Result<void> VolumeState::Connect()
         return ErrorNumber::FileCorrupt;
     nextOid = static_cast<quint64>(readNextOid.Int64(0));
     readNextOid.Reset();
-    const auto changes = file.ChangeCounter();
-    if (changes)
-        changesSeen = *changes;
-    return changes.Error();
+    const auto state = file.ReadState();
+    if (state)
+        stateSeen = *state;
+    return state.Error();
 }
 
 Result<qint64> VolumeState::ReadFileVersion()
@@ -111,12 +127,27 @@ Result<ObjectId> VolumeState::AllocateOid()
 
 Result<void> VolumeState::BeginWrite()
 {
-    if (!isInTransaction)
-        return Begin();
+    if (!isInTransaction) {
+        if (const auto begun = Begin(); !begun)
+            return begun;
+        const auto kept = KeepFirstPage();
+        if (!kept)
+            Rollback();
+        return kept;
+    }
     // A failure can have ended the transaction underneath; what follows must not stand alone.
     if (sqlite3_get_autocommit(connection.get()) != 0)
         return ErrorNumber::InvalidHandle;
-    return {};
+    return KeepFirstPage();
+}
+
+Result<void> VolumeState::KeepFirstPage()
+{
+    if (isFirstPageKept)
+        return {};
+    const auto kept = rewriteHeader.Run();
+    isFirstPageKept = kept.IsOk();
+    return kept;
 }
 
 Result<void> VolumeState::BeginSchemaChange()
@@ -170,13 +201,16 @@ Result<void> VolumeState::Begin()
         return refreshed;
     if (const auto begun = begin.Run(); !begun)
         return begun;
-    const auto changes = file.ChangeCounter();
-    const bool isOurs = changes && *changes == changesSeen.value_or(*changes);
+    const auto state = file.ReadState();
+    const bool isOurs = state && *state == stateSeen.value_or(*state);
     if (!isOurs) {
+        const auto seen = stateSeen;
         Rollback();
-        return changes ? ErrorNumber::SharingViolation : changes.Error();
+        stateSeen = seen;
+        return state ? ErrorNumber::SharingViolation : state.Error();
     }
-    changesSeen = *changes;
+    stateSeen = *state;
+    isFirstPageKept = false;
     return {};
 }
 
@@ -198,8 +232,8 @@ Result<void> VolumeState::Commit()
         if (const auto found = FindOutcome(committed.Error()); !found)
             return found;
     } else {
-        const auto changes = file.ChangeCounter();
-        changesSeen = changes ? std::optional(*changes) : std::nullopt;
+        const auto state = file.ReadState();
+        stateSeen = state ? std::optional(*state) : std::nullopt;
     }
     isNextOidStored = true;
     isSchemaChanged = false;
@@ -213,6 +247,10 @@ void VolumeState::Rollback()
     // Some failures have rolled back already.
     if (sqlite3_get_autocommit(connection.get()) == 0)
         static_cast<void>(rollback.Run().IsOk());
+    // What was undone may have been in the file.
+    const auto state = file.ReadState();
+    if (state && stateSeen && state->changes == stateSeen->changes)
+        stateSeen = *state;
     // Where this fails it is tried again before the schema is used.
     static_cast<void>(RefreshSchema().IsOk());
 }
@@ -233,14 +271,14 @@ Result<bool> VolumeState::SettleDoubt()
     readNextOid.Reset();
     if (!step)
         return step.Error();
-    const auto changes = file.ChangeCounter();
-    if (!changes)
-        return changes.Error();
-    const bool isDone = *changes != changesSeen;
+    const auto state = file.ReadState();
+    if (!state)
+        return state.Error();
+    const bool isDone = !stateSeen || state->changes != stateSeen->changes;
     const Result<void> durable = isDone ? file.MakeDurable() : Result<void>();
     if (!durable)
         return durable.Error();
-    changesSeen = *changes;
+    stateSeen = *state;
     isInDoubt = false;
     return isDone;
 }

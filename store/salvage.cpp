@@ -142,11 +142,14 @@ Result<SalvageReport> Salvage(const DamagedVolume& volume, ListCatalogue* catalo
     return report;
 }
 
-Result<SalvageReport> SalvageInto(const DamagedVolume& volume, const QString& path)
+Result<SalvageReport> SalvageInto(
+    const DamagedVolume& volume, const QString& damaged, const QString& path)
 {
     DataVolume data;
     if (const auto error = data.Mount(path, Disposition::OpenAlways); error != ErrorNumber::None)
         return error;
+    if (const auto taken = TakeModeOf(QFile::encodeName(damaged), QFile::encodeName(path)); !taken)
+        return taken.Error();
     ListCatalogue catalogue(data);
     if (catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
         return data.LastError();
@@ -176,7 +179,7 @@ Result<SalvageReport> SalvageLists(const QString& damaged, const QString& target
     const QByteArray unfinished = UnfinishedName(*path);
     const auto removeUnfinished
         = qScopeGuard([&] { QFile::remove(QFile::decodeName(unfinished)); });
-    auto report = SalvageInto(*volume, QFile::decodeName(unfinished));
+    auto report = SalvageInto(*volume, damaged, QFile::decodeName(unfinished));
     const bool isLost = report && (report->mayListsBeLost || !report->lostLists.isEmpty());
     if (isLost && report->lists.empty())
         return ErrorNumber::FileCorrupt;

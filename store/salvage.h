@@ -35,9 +35,8 @@ struct SalvageReport
 [[nodiscard]] Result<SalvageReport> ExamineLists(const QString& damaged);
 
 /// Saves what can be read of the data file `damaged`, which is never written, into a new data file
-/// at `target`. FileExists if there is one, FileCorrupt if nothing can be saved; on any failure
-/// there is none afterwards. `damaged` must
-/// not be mounted in this process.
+/// of the same mode at `target`. FileExists if there is one, FileCorrupt if nothing can be saved;
+/// on any failure there is none afterwards. `damaged` must not be mounted in this process.
 [[nodiscard]] Result<SalvageReport> SalvageLists(const QString& damaged, const QString& target);
 
 } // namespace Quillory

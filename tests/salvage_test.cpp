@@ -6,6 +6,8 @@
 #include "tests/page_damage.h"
 #include "tests/test_program.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 
 namespace {
@@ -132,6 +134,24 @@ class SalvageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void whatIsSavedTakesTheModeOfTheDamagedFile()
+    {
+        const Damage damage;
+        constexpr auto kOwnerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner
+            | QFileDevice::ReadUser | QFileDevice::WriteUser;
+        QVERIFY(QFile::setPermissions(damage.Path(), kOwnerOnly));
+        QVERIFY(SalvageLists(damage.Path(), damage.Target()).IsOk());
+        QCOMPARE(QFile::permissions(damage.Target()), kOwnerOnly);
+    }
+
+    void aPipeIsNotWaitedFor()
+    {
+        const QTemporaryDir folder;
+        const QString pipe = folder.filePath(u"pipe"_s);
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QCOMPARE(ExamineLists(pipe).Error(), ErrorNumber::BadFormat);
+    }
+
     void whatCanBeReadIsSaved()
     {
         enum Damaged

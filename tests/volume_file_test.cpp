@@ -185,9 +185,13 @@ private Q_SLOTS:
     {
         VolumeFixture fixture;
         WriteFileBytes(fixture.Path(), SampleFile());
+        constexpr auto kMode = QFileDevice::ReadOwner | QFileDevice::WriteOwner
+            | QFileDevice::ReadUser | QFileDevice::WriteUser | QFileDevice::WriteOther;
+        QVERIFY(QFile::setPermissions(fixture.Path(), kMode));
         fixture.Mount(Disposition::OpenExisting);
         const QString copy = fixture.Path(u"copy.idb"_s);
         QVERIFY(fixture.volume->Backup(copy).IsOk());
+        QCOMPARE(QFile::permissions(copy), QFile::permissions(fixture.Path()));
         QCOMPARE(fixture.volume->Backup(copy).Error(), ErrorNumber::FileExists);
         QCOMPARE(fixture.volume->Backup(fixture.Path(u"none/copy.idb"_s)).Error(),
             ErrorNumber::PathNotFound);

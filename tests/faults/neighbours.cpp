@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "propdb/confined_vfs.h"
 #include "tests/faults/believer.h"
 #include "tests/faults/fault_run.h"
+#include "values/column_type.h"
 
 #include <QFile>
 
@@ -151,7 +153,37 @@ QString StrangersRowsAreNotShown(const FaultRun& run, const Script& script)
                                                        : u"the check does not notice it"_s;
 }
 
+/// One that opens the file amid a change need not read all of it.
+QString ReaderDoesNotCheckForAWriter(const FaultRun& run, const Script& /*script*/)
+{
+    const QString path = QFile::decodeName(run.DataFile());
+    Neighbour reader([&path] {
+        DataVolume volume;
+        return volume.Mount(path, Disposition::OpenExisting, VolumeAccess::ReadOnly)
+                == ErrorNumber::None
+            ? 'o'
+            : 'r';
+    });
+    // A page that nobody needs to open the file.
+    QByteArray bytes = run.Taken().at("data.idb");
+    constexpr char kTableLeaf = 0x0D;
+    qsizetype page = bytes.size() - kPageSize;
+    while (bytes[page] != kTableLeaf)
+        page -= kPageSize;
+    bytes[page + kPageSize - 1] = static_cast<char>(bytes[page + kPageSize - 1] ^ 1);
+    run.Place({ { "data.idb", bytes } });
+    DataVolume writer;
+    const std::array specs { PropertySpec { PropName, {} } };
+    if (writer.Mount(path, Disposition::OpenExisting) != ErrorNumber::None || !writer.OpenSession()
+        || !writer.BeginTransaction()
+        || writer.Create(u"new"_s, DatabaseType { 1 }, specs, {}) == kNoObject
+        || !QFile::exists(path + u"-journal"_s))
+        return u"no change can be begun"_s;
+    return reader.Ask() == 'o' ? QString() : u"a reader reads the whole file amid a change"_s;
+}
+
 constexpr std::array kCases {
+    &ReaderDoesNotCheckForAWriter,
     &SecondProgramIsRefused,
     &ReaderSeesWholeSteps,
     &StrangersRowsAreNotShown,

@@ -268,6 +268,7 @@ int renameat2(
 int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 int fcntl64(int descriptor, int command, ...) __attribute__((alias("fcntl")));
 ssize_t pread64(int, void*, size_t, off64_t) __attribute__((alias("pread")));
+ssize_t pwrite(int, const void*, size_t, off_t) __attribute__((alias("pwrite64")));
 
 int stat64(const char* path, struct stat64* status) noexcept
 {
