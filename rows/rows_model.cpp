@@ -20,6 +20,14 @@ constexpr int kShownRows = 512;
 /// More of a text than any cell has room for.
 constexpr qsizetype kMaxCellText = 260;
 
+/// Throws while it can be caught where there is no room for so many lines: the header of the table
+/// takes up to 16 bytes for each, and their lack would end the program.
+void RequireRoomFor(size_t lines)
+{
+    constexpr size_t kHeaderBytes = 16;
+    const QByteArray room(static_cast<qsizetype>(kHeaderBytes * lines), Qt::Uninitialized);
+}
+
 } // namespace
 
 RowsModel::RowsModel(
@@ -51,6 +59,7 @@ void RowsModel::FollowDay()
 
 void RowsModel::SetRows(std::vector<ObjectId> rows)
 {
+    RequireRoomFor(rows.size());
     beginResetModel();
     m_rows = std::move(rows);
     // A listing is grown as it is read: a million rows would keep room for more.
@@ -66,6 +75,7 @@ ObjectId RowsModel::RowAt(int line) const
 
 void RowsModel::Insert(int line, ObjectId row)
 {
+    RequireRoomFor(m_rows.size() + 1);
     beginInsertRows({}, line, line);
     m_rows.insert(m_rows.begin() + line, row);
     endInsertRows();

@@ -251,7 +251,7 @@ const std::array kInterruptions {
     InterruptionCase { "the file replaced", CloseAfter<ReplaceFile>, Effect::EndsPages, IsGone,
         { u"Another file was put in the place of the data file."_s } },
     InterruptionCase { "a failed write", CloseAfter<FillDisk>, Effect::EndsPages, IsGone,
-        { u"The change could not be saved."_s } },
+        { u"The change could not be saved."_s, u"No copy of the data file could be kept."_s } },
     InterruptionCase { "other colours",
         [](FrameErrand&) { QApplication::setPalette(QPalette(Qt::black)); }, Effect::StaysOpen,
         IsVisible },
