@@ -17,8 +17,8 @@ DisplayOptionsPage::DisplayOptionsPage(const DisplayOptions& options, QWidget* p
     : Page(DialogTitle(Dialog::DisplayOptions), parent)
     , m_before(options)
     , m_landscape(new QCheckBox(this))
-    , m_rightHanded(new QRadioButton(ControlText(Control::LandscapeRight), this))
-    , m_leftHanded(new QRadioButton(ControlText(Control::LandscapeLeft), this))
+    , m_rightHanded(new QRadioButton(this))
+    , m_leftHanded(new QRadioButton(this))
     , m_alternate(new QCheckBox(this))
 {
     setObjectName(u"displayOptions"_s);
@@ -31,15 +31,10 @@ DisplayOptionsPage::DisplayOptionsPage(const DisplayOptions& options, QWidget* p
     auto* lines = new QVBoxLayout(content);
     lines->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kGrid);
     lines->setSpacing(kGrid);
-    AddCheckLine(*lines, *m_landscape, ControlText(Control::Landscape));
-    for (QRadioButton* radio : { m_rightHanded, m_leftHanded }) {
-        radio->setMinimumHeight(CurrentMeasures().lineHeight);
-        auto* line = new QHBoxLayout;
-        line->setContentsMargins(kPageMargin, 0, 0, 0);
-        line->addWidget(radio);
-        lines->addLayout(line);
-    }
-    AddCheckLine(*lines, *m_alternate, ControlText(Control::AlternateColour));
+    AddButtonLine(*lines, *m_landscape, ControlText(Control::Landscape));
+    AddButtonLine(*lines, *m_rightHanded, ControlText(Control::LandscapeRight), kPageMargin);
+    AddButtonLine(*lines, *m_leftHanded, ControlText(Control::LandscapeLeft), kPageMargin);
+    AddButtonLine(*lines, *m_alternate, ControlText(Control::AlternateColour));
     lines->addStretch(1);
     Body()->addWidget(MakeScrollable(content), 1);
 

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -16,6 +17,22 @@
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+class OrderDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(
+        const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override
+    {
+        return { 0, LineHeightFor(option.fontMetrics) };
+    }
+};
+
+} // namespace
 
 ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, QWidget* parent)
     : Page(DialogTitle(Dialog::ImportColumnOrder), parent)
@@ -30,10 +47,9 @@ ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, Q
     m_list->setAccessibleName(Title());
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setUniformItemSizes(true);
-    for (const ColumnDefinition& column : columns) {
-        auto* item = new QListWidgetItem(column.name, m_list);
-        item->setSizeHint({ 0, CurrentMeasures().lineHeight });
-    }
+    m_list->setItemDelegate(new OrderDelegate(m_list));
+    for (const ColumnDefinition& column : columns)
+        m_list->addItem(column.name);
     new TouchBehaviour(m_list);
     Body()->addWidget(m_list, 1);
 

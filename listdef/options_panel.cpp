@@ -51,10 +51,10 @@ void OptionsPanel::Build()
 
     auto* body = new QVBoxLayout(this);
     body->setSpacing(kGrid);
-    AddCheckLine(*body, *m_warnOnCount, ControlText(Control::WarnOnCount));
+    AddButtonLine(*body, *m_warnOnCount, ControlText(Control::WarnOnCount));
     body->addLayout(m_countLine);
     body->addSpacing(kPageMargin);
-    AddCheckLine(*body, *m_warnOnExpiry, ControlText(Control::WarnOnExpiry));
+    AddButtonLine(*body, *m_warnOnExpiry, ControlText(Control::WarnOnExpiry));
     auto* expiry = new QHBoxLayout;
     expiry->addStretch(1);
     expiry->addWidget(m_expiryColour);

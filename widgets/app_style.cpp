@@ -18,15 +18,16 @@ namespace {
 void DrawRadio(QPainter& painter, const QStyleOption& option)
 {
     const bool isOn = option.state.testFlag(QStyle::State_On);
-    const QPalette::ColorGroup group
-        = option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
-    const QColor accent = option.palette.color(
-        group, group == QPalette::Active ? QPalette::Highlight : QPalette::Text);
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    const QColor accent = isEnabled ? option.palette.color(QPalette::Active, QPalette::Highlight)
+                                    : option.palette.color(QPalette::Disabled, QPalette::Text);
+    const QColor line
+        = isEnabled && !isOn ? option.palette.color(QPalette::Active, QPalette::Dark) : accent;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF circle = QRectF(option.rect).adjusted(2, 2, -2, -2);
     constexpr qreal kLine = 1.5;
-    painter.setPen(QPen(isOn ? accent : option.palette.color(group, QPalette::Dark), kLine));
+    painter.setPen(QPen(line, kLine));
     painter.setBrush(option.palette.color(QPalette::Base));
     painter.drawEllipse(circle);
     if (isOn) {

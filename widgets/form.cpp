@@ -4,7 +4,7 @@
 #include "widgets/measures.h"
 #include "widgets/touch.h"
 
-#include <QCheckBox>
+#include <QAbstractButton>
 #include <QFormLayout>
 #include <QLabel>
 #include <QMouseEvent>
@@ -15,24 +15,25 @@ namespace Quillory {
 
 namespace {
 
-/// The text of a checkbox, beside it: the box itself does not wrap its text. Grey where that is.
-class CheckLabel : public QLabel
+/// The text of a checkbox or radio button, beside it: the button itself does not wrap its text.
+/// Grey where that is.
+class ButtonLabel : public QLabel
 {
 public:
-    CheckLabel(const QString& text, QCheckBox& box)
-        : QLabel(text, box.parentWidget())
-        , m_box(box)
+    ButtonLabel(const QString& text, QAbstractButton& button)
+        : QLabel(text, button.parentWidget())
+        , m_button(button)
     {
         setWordWrap(true);
         setTextFormat(Qt::PlainText);
-        setEnabled(box.isEnabled());
-        box.installEventFilter(this);
+        setEnabled(button.isEnabled());
+        button.installEventFilter(this);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (watched == &m_box && event->type() == QEvent::EnabledChange)
-            setEnabled(m_box.isEnabled());
+        if (watched == &m_button && event->type() == QEvent::EnabledChange)
+            setEnabled(m_button.isEnabled());
         return QLabel::eventFilter(watched, event);
     }
 
@@ -40,11 +41,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override
     {
         if (rect().contains(event->position().toPoint()))
-            m_box.click();
+            m_button.click();
     }
 
 private:
-    QCheckBox& m_box;
+    QAbstractButton& m_button;
 };
 
 } // namespace
@@ -73,15 +74,16 @@ void Form::AddLine(const QString& label, QWidget* control)
     m_lines->addRow(text, control);
 }
 
-void AddCheckLine(QVBoxLayout& body, QCheckBox& box, const QString& text)
+void AddButtonLine(QVBoxLayout& body, QAbstractButton& button, const QString& text, int indent)
 {
-    box.setAccessibleName(text);
-    box.setFixedWidth(kCheckIndent);
-    box.setMinimumHeight(CurrentMeasures().lineHeight);
+    button.setAccessibleName(text);
+    button.setFixedWidth(kCheckIndent);
+    button.setMinimumHeight(CurrentMeasures().lineHeight);
     auto* line = new QHBoxLayout;
+    line->setContentsMargins(indent, 0, 0, 0);
     line->setSpacing(0);
-    line->addWidget(&box);
-    line->addWidget(new CheckLabel(text, box), 1);
+    line->addWidget(&button);
+    line->addWidget(new ButtonLabel(text, button), 1);
     body.addLayout(line);
 }
 

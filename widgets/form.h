@@ -3,7 +3,7 @@
 
 #include <QString>
 
-class QCheckBox;
+class QAbstractButton;
 class QFormLayout;
 class QVBoxLayout;
 class QWidget;
@@ -27,9 +27,9 @@ private:
     QFormLayout* m_lines;
 };
 
-/// Adds a checkbox and its text, which wraps where it is longer than the page is wide; a tap on the
-/// text is one on the box, and the text is as grey as the box.
-void AddCheckLine(QVBoxLayout& body, QCheckBox& box, const QString& text);
+/// Adds a checkbox or radio button and its text, which wraps where it is longer than the page is
+/// wide; a tap on the text is one on the button, and the text is as grey as that.
+void AddButtonLine(QVBoxLayout& body, QAbstractButton& button, const QString& text, int indent = 0);
 
 /// `content` in an area that scrolls, by a finger too, where the page is not high enough for it.
 [[nodiscard]] QWidget* MakeScrollable(QWidget* content);

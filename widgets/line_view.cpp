@@ -8,8 +8,6 @@
 #include <QHeaderView>
 #include <QTableView>
 
-#include <algorithm>
-
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
@@ -40,8 +38,7 @@ private:
 
     void Fit()
     {
-        const int height
-            = std::max(CurrentMeasures().lineHeight, m_view->fontMetrics().height() + kGrid);
+        const int height = LineHeightFor(m_view->fontMetrics());
         // Either of them goes through all lines.
         if (height == m_view->verticalHeader()->defaultSectionSize())
             return;

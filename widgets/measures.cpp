@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/measures.h"
 
+#include <QFontMetrics>
 #include <QInputDevice>
 
 #include <algorithm>
@@ -15,6 +16,11 @@ const Measures& CurrentMeasures()
               return device->type() == QInputDevice::DeviceType::TouchScreen;
           });
     return hasTouch ? kTouchMeasures : kMouseMeasures;
+}
+
+int LineHeightFor(const QFontMetrics& font)
+{
+    return std::max(CurrentMeasures().lineHeight, font.height() + kGrid);
 }
 
 } // namespace Quillory

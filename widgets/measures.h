@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+class QFontMetrics;
+
 namespace Quillory {
 
 /// Sizes in logical pixels. Those that fingers meet come in two: for touch and for a mouse.
@@ -31,5 +33,7 @@ constexpr int kMinTextPixels = 13;
 
 /// The measures for the devices at hand: touch where there is a touch screen.
 [[nodiscard]] const Measures& CurrentMeasures();
+/// The height of a list's lines: more where the font needs it.
+[[nodiscard]] int LineHeightFor(const QFontMetrics& font);
 
 } // namespace Quillory
