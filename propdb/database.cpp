@@ -43,7 +43,6 @@ public:
     RecordSelect(const DatabaseState& state, std::span<const PropertyId> ids,
         const Database::RecordVisitor& visitor)
         : m_state(state)
-        , m_isVisited(ids.size() <= RecordVisit::kMaxProperties)
         , m_visitor([this, &visitor](const ScannedRecord& record) {
             m_isStopped = !visitor(record);
             return !m_isStopped;
@@ -51,32 +50,27 @@ public:
     {
         for (const PropertyId id : ids)
             m_classes.push_back(ClassesOfDeclaration(DeclaredType(id)));
-        QString columns = u"oid"_s + state.ColumnList(ids);
-        if (m_isVisited)
-            columns = u"%1(%2)"_s.arg(QLatin1StringView(RecordVisit::kFunctionName), columns);
-        m_select = u"SELECT %1 FROM %2"_s.arg(columns, QuotedName(state.schema->tableName));
+        m_select = u"SELECT %1(oid%2) FROM %3"_s.arg(QLatin1StringView(RecordVisit::kFunctionName),
+            state.ColumnList(ids), QuotedName(state.schema->tableName));
     }
     RecordSelect(const RecordSelect&) = delete;
     RecordSelect& operator=(const RecordSelect&) = delete;
 
     [[nodiscard]] Result<Statement> Prepare(const QString& clauses) const
     {
+        if (m_classes.size() > RecordVisit::kMaxProperties)
+            return ErrorNumber::InvalidParameter;
         return Statement::Prepare(m_state.volume.connection.get(), m_select + clauses);
     }
     [[nodiscard]] Result<void> Run(Statement& statement)
     {
-        if (m_isVisited)
-            return m_state.volume.visit.Run(statement, m_classes, m_visitor);
-        const auto done = statement.VisitRows(m_visitor);
-        statement.Reset();
-        return done;
+        return m_state.volume.visit.Run(statement, m_classes, m_visitor);
     }
     /// Whether the visitor wants no more.
     [[nodiscard]] bool IsStopped() const { return m_isStopped; }
 
 private:
     const DatabaseState& m_state;
-    bool m_isVisited;
     bool m_isStopped = false;
     Database::RecordVisitor m_visitor;
     std::vector<ValueClasses> m_classes;

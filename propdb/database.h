@@ -75,7 +75,8 @@ public:
     [[nodiscard]] Result<void> Scan(
         std::span<const PropertyId> ids, ScanOrder order, const Visitor& visitor);
     using RecordVisitor = std::function<bool(const ScannedRecord& record)>;
-    /// As above for visitors that look at little of a record: nothing is copied.
+    /// As above for visitors that look at little of a record: nothing is copied. InvalidParameter
+    /// for more than 64 properties.
     [[nodiscard]] Result<void> ScanInPlace(
         std::span<const PropertyId> ids, ScanOrder order, const RecordVisitor& visitor);
 

@@ -249,16 +249,6 @@ void Statement::ReadProperty(int column, PropertyValue& value) const
     RowRecord(m_statement, column).Read(0, value);
 }
 
-Result<void> Statement::VisitRows(const std::function<bool(const ScannedRecord& record)>& visitor)
-{
-    const RowRecord record(m_statement, 1);
-    while (Next()) {
-        if (!visitor(record))
-            return {};
-    }
-    return m_error;
-}
-
 Result<void> Execute(sqlite3* connection, const char* sql)
 {
     if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) == SQLITE_OK)

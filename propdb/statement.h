@@ -8,7 +8,6 @@
 
 #include <QStringView>
 
-#include <functional>
 #include <vector>
 
 struct sqlite3;
@@ -60,9 +59,6 @@ public:
     [[nodiscard]] QByteArray Utf8(int column) const;
     /// Reads a column into `value`, as ScannedRecord::Read does.
     void ReadProperty(int column, PropertyValue& value) const;
-    /// Visits all rows, of an identifier and properties each, until it is told false.
-    [[nodiscard]] Result<void> VisitRows(
-        const std::function<bool(const ScannedRecord& record)>& visitor);
 
     explicit operator bool() const { return m_statement != nullptr; }
 

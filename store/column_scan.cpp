@@ -4,6 +4,7 @@
 #include "store/row_sort.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Quillory {
 
@@ -42,30 +43,33 @@ class FilteredVisit
 public:
     FilteredVisit(std::span<const PropertyId> columns, const FilterSet* filters,
         const ValueContext& context, const Database::RecordVisitor& visitor)
-        : m_firstTested(columns.size())
-        , m_visitor(visitor)
+        : m_visitor(visitor)
         , m_ids(columns.begin(), columns.end())
     {
         if (filters == nullptr)
             return;
         for (const FilterEntry& entry : filters->entries) {
-            m_tests.emplace_back(entry, context);
-            m_ids.push_back(entry.column);
+            const auto place = std::ranges::find(m_ids, entry.column) - m_ids.begin();
+            m_tests.emplace_back(FilterTest(entry, context), static_cast<size_t>(place));
+            if (std::cmp_equal(place, m_ids.size()))
+                m_ids.push_back(entry.column);
         }
     }
 
-    /// What is to be read: `columns`, then what the filters test.
+    /// What is to be read: `columns`, then what else the filters test.
     [[nodiscard]] std::span<const PropertyId> Ids() const { return m_ids; }
     bool operator()(const ScannedRecord& record) const
     {
-        return !RowPassesFilters(m_tests, record, m_firstTested) || m_visitor(record);
+        const bool passes = std::ranges::all_of(m_tests,
+            [&record](const auto& test) { return test.first.Matches(record, test.second); });
+        return !passes || m_visitor(record);
     }
 
 private:
-    size_t m_firstTested;
     const Database::RecordVisitor& m_visitor;
     std::vector<PropertyId> m_ids;
-    std::vector<FilterTest> m_tests;
+    /// With the place of what each tests.
+    std::vector<std::pair<FilterTest, size_t>> m_tests;
 };
 
 } // namespace

@@ -60,7 +60,10 @@ private Q_SLOTS:
             QStringList matching;
             for (int code = -1; code <= 6; ++code) {
                 FilterSet filters;
-                AddFilter(filters, file.Column(column), static_cast<FilterCondition>(code), text);
+                // One column is read once, however many conditions test it.
+                for (int times = 0; times < 100; ++times)
+                    AddFilter(
+                        filters, file.Column(column), static_cast<FilterCondition>(code), text);
                 if (!file.rows->FillFilteredRows(filters).rows.empty())
                     matching << QString::number(code);
             }

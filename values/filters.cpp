@@ -176,14 +176,4 @@ bool FilterTest::Matches(const ScannedRecord& row, size_t place) const
     return false;
 }
 
-bool RowPassesFilters(
-    std::span<const FilterTest> filters, const ScannedRecord& row, size_t firstPlace)
-{
-    for (size_t i = 0; i < filters.size(); ++i) {
-        if (!filters[i].Matches(row, firstPlace + i))
-            return false;
-    }
-    return true;
-}
-
 } // namespace Quillory

@@ -71,9 +71,4 @@ private:
     [[nodiscard]] bool MatchesNumber(const ScannedRecord& row, size_t place, Number number) const;
 };
 
-/// Whether a row meets every condition, given its record with the column of each from `firstPlace`
-/// on.
-[[nodiscard]] bool RowPassesFilters(
-    std::span<const FilterTest> filters, const ScannedRecord& row, size_t firstPlace);
-
 } // namespace Quillory
