@@ -15,13 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString ConditionText(PropertyId column, FilterCondition condition)
-{
-    const bool isDate = ColumnTypeOf(column) == ColumnType::Date;
-    const StringId first = isDate ? StringId::DateCondition : StringId::Contains;
-    return LoadString(static_cast<int>(first) + static_cast<int>(condition));
-}
-
 /// Empty where a condition has no sign.
 QString ConditionSign(FilterCondition condition)
 {

@@ -12,12 +12,9 @@ enum class Command
 {
     Separator = 0,
     Ok = 1,
-    CancelDialog = 2,
     NextIcon = 171,
     PreviousIcon = 172,
     IconGrid = 173,
-    /// The first of 36 colours, by their index in the palette.
-    FirstColour = 800,
     New = 32774,
     Delete = 32776,
     Rename = 32777,

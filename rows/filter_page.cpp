@@ -21,13 +21,6 @@ namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
-QString ConditionText(PropertyId column, FilterCondition condition)
-{
-    const StringId first
-        = ColumnTypeOf(column) == ColumnType::Date ? StringId::DateCondition : StringId::Contains;
-    return LoadString(static_cast<int>(first) + static_cast<int>(condition));
-}
-
 FilterPage::FilterPage(FilterDialogState state, const InventoryList& list,
     const ValueContext& context, QWidget* parent)
     : Page(

@@ -26,9 +26,6 @@ struct FilterDialogState
     FilterEntry entry;
 };
 
-/// The words of a condition on a column; empty for one that the column's type does not know.
-[[nodiscard]] QString ConditionText(PropertyId column, FilterCondition condition);
-
 /// Asks for a field, a condition and a value. Ends with Ok or Cancel.
 class FilterPage : public Page
 {

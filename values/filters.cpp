@@ -2,6 +2,7 @@
 #include "values/filters.h"
 
 #include "platform/leading_number.h"
+#include "res/string_table.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
 
@@ -134,6 +135,13 @@ std::span<const FilterCondition> ConditionsFor(PropertyId column)
         return kOrderConditions;
     }
     return {};
+}
+
+QString ConditionText(PropertyId column, FilterCondition condition)
+{
+    const StringId first
+        = ColumnTypeOf(column) == ColumnType::Date ? StringId::DateCondition : StringId::Contains;
+    return LoadString(static_cast<int>(first) + static_cast<int>(condition));
 }
 
 FilterTest::FilterTest(const FilterEntry& entry, const ValueContext& context)

@@ -52,6 +52,9 @@ void ClearFilters(FilterSet& filters);
 /// The conditions offered for a column's type, in the order in which they are offered.
 [[nodiscard]] std::span<const FilterCondition> ConditionsFor(PropertyId column);
 
+/// The words of a condition on a column; empty for one that the column's type does not know.
+[[nodiscard]] QString ConditionText(PropertyId column, FilterCondition condition);
+
 /// One filter made ready for many rows: its value text is read once, here.
 class FilterTest
 {

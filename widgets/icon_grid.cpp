@@ -240,14 +240,12 @@ void IconGrid::focusInEvent(QFocusEvent* event)
     // An item view's own would select the first icon where none is.
     QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
-    Q_EMIT FocusGained();
 }
 
 void IconGrid::focusOutEvent(QFocusEvent* event)
 {
     QAbstractScrollArea::focusOutEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
-    Q_EMIT FocusLost();
 }
 
 } // namespace Quillory

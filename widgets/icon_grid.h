@@ -47,8 +47,6 @@ public:
 Q_SIGNALS:
     /// A tap ended with this icon selected, or Return was pressed on it.
     void IconTapped(int index);
-    void FocusGained();
-    void FocusLost();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -129,7 +129,6 @@ void IconPicker::Choose(int index)
 {
     SetIcon(index);
     setFocus();
-    Q_EMIT IconChosen(index);
 }
 
 void IconPicker::NextIcon()

@@ -21,10 +21,6 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
-Q_SIGNALS:
-    /// A step was taken, or the grid was closed with this icon, be it the same.
-    void IconChosen(int index);
-
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
