@@ -9,7 +9,7 @@
 namespace {
 
 /// As many digits as tell the number from its neighbours.
-QString Text(double number)
+QString Shortest(double number)
 {
     return QString::number(number, 'g', QLocale::FloatingPointShortest);
 }
@@ -80,13 +80,13 @@ private Q_SLOTS:
     void numbersAreReadFromTheStart()
     {
         CheckVectors(u"leading_numbers"_s,
-            [](const Vector& row) { return Text(LeadingNumber(row["text"].toStdString())); });
+            [](const Vector& row) { return Shortest(LeadingNumber(row["text"].toStdString())); });
     }
 
     void numbersGoThroughTheCodePage()
     {
         CheckVectors(u"numbers_in_code_pages"_s, [](const Vector& row) {
-            return Text(LeadingNumberInCodePage(row["text"], row["page"].toInt()));
+            return Shortest(LeadingNumberInCodePage(row["text"], row["page"].toInt()));
         });
     }
 };

@@ -52,7 +52,7 @@ QString RowsOf(const QByteArray& bytes, const std::vector<PropertyId>& columns =
     size_t maxLine = kMaxLine)
 {
     Trickle whole(bytes, 1'000'000);
-    const QString rows = RowsOf(whole, columns, maxLine);
+    QString rows = RowsOf(whole, columns, maxLine);
     for (const int step : { 1, 2, 3, 7, 4096 }) {
         Trickle source(bytes, step);
         if (RowsOf(source, columns, maxLine) != rows)
