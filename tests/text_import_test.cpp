@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/list_fixture.h"
-#include "tests/table.h"
 #include "tests/test_program.h"
 #include "tests/trickle.h"
+#include "tests/vectors.h"
 #include "transfer/import_rows.h"
 #include "transfer/text_import.h"
 
@@ -52,7 +52,7 @@ QString RowsOf(const QByteArray& bytes, const std::vector<PropertyId>& columns =
     size_t maxLine = kMaxLine)
 {
     Trickle whole(bytes, 1'000'000);
-    const QString rows = RowsOf(whole, columns, maxLine);
+    QString rows = RowsOf(whole, columns, maxLine);
     for (const int step : { 1, 2, 3, 7, 4096 }) {
         Trickle source(bytes, step);
         if (RowsOf(source, columns, maxLine) != rows)
@@ -80,38 +80,12 @@ class TextImportTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void textBecomesRows_data()
-    {
-        const Table<QByteArray, QString> narrow;
-        narrow("an empty file is no failure", "", u""_s);
-        narrow("the mark alone fails", "\xFF\xFE", u"failed"_s);
-        narrow("half a character behind the mark fails", "\xFF\xFE\0"_ba, u"failed"_s);
-        narrow("a zero behind the mark fails", "\xFF\xFE\0\0a\0\r\0"_ba, u"failed"_s);
-        narrow("half a mark is text", "\xFF\r\n", u"0=ÿ"_s);
-        narrow("the other byte order is narrow text", "\xFE\xFF\r\n", u"0=þÿ"_s);
-        narrow("text after the last CR is dropped", "a\r\nb", u"0=a"_s);
-        narrow("a CR at the very end ends a line", "a\r", u"0=a"_s);
-        narrow("LF alone ends no line", "a\nb\n", u""_s);
-        narrow("the character after CR goes, whatever it is", "a\rXb\r\rc\r\n", u"0=a\n0=b\n0=c"_s);
-        narrow("a NUL after CR is such a character", "a\r\0b\r\n"_ba, u"0=a\n0=b"_s);
-        narrow("a NUL elsewhere ends the text", "a\r\nb\0c\r\nd\r\n"_ba, u"0=a"_s);
-        narrow("empty lines are skipped", "\r\n\r\na\r\n", u"0=a"_s);
-        narrow("TABs run together and vanish at the ends", "\t\ta\t\t5\t\r\n", u"0=a 1=5"_s);
-        narrow("a line of TABs is no row", "\t\t\r\na\r\n", u"0=a"_s);
-        narrow("fields beyond the columns are dropped", "a\t1\tb\tc\r\n", u"0=a 1=1"_s);
-        narrow("bytes go through the code page", "\x80\xE4\r\n", u"0=€ä"_s);
-        narrow("wide text", Wide(u"ä\t1\r\n\r\n\tb\r\nlost"), u"0=ä 1=1\n0=b"_s);
-        narrow("a wide NUL ends the text", Wide(u"a\r\nb\0\r\n"_s), u"0=a"_s);
-        narrow("a lone surrogate is a character", Wide(u"x\xD800\r\n"), u"0=x"_s + QChar(0xD800));
-        narrow("half a CR at the end counts", Wide(u"ab") + '\r', u"0=ab"_s);
-        narrow("any other half character does not", Wide(u"ab") + 'x', u""_s);
-        narrow("a CR in the high byte is none", Wide(u"a\x0D41\r\n"), u"0=a\x0D41"_s);
-    }
-
     void textBecomesRows()
     {
-        const auto [bytes, rows] = Table<QByteArray, QString>::Row();
-        QCOMPARE(RowsOf(bytes), rows);
+        CheckVectors(u"import_lines"_s, [](const Vector& row) {
+            const QString text = row["text"];
+            return RowsOf(row["form"] == u"wide" ? Wide(text) : text.toLatin1());
+        });
     }
 
     void fieldsAreReadByTheirColumn()
