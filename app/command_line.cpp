@@ -5,6 +5,7 @@
 #include "app/settings_context.h"
 #include "store/kept_copies.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 
 #include <unistd.h>
@@ -150,15 +151,41 @@ ExitCode Finish(TextOutput& output, const CommandEnvironment& environment)
     return ExitCode::Failed;
 }
 
+/// Throws WriterWaits before anything is printed.
+ExitCode RunOnce(const QStringList& arguments, const CommandEnvironment& environment)
+{
+    const qsizetype place = SubCommandPlace(arguments);
+    const SubCommand* command = place < 0 ? nullptr : FindSubCommand(arguments[place]);
+    TextOutput output(environment.output);
+    try {
+        Dispatch(arguments, command, environment, output);
+        return Finish(output, environment);
+    } catch (const CommandFailure& failure) {
+        Finish(output, environment);
+        Complain(environment.errors, failure.Message());
+        if (failure.Code() == ExitCode::WrongUsage)
+            environment.errors.write(UsageText(command));
+        return failure.Code();
+    } catch (const std::bad_alloc&) {
+        Complain(environment.errors, u"out of memory"_s);
+        return ExitCode::Failed;
+    }
+}
+
 } // namespace
 
 bool IsListOfConfiguredFile(const QString& name)
 {
     Settings settings;
     ReadSettings(SettingsPath(), settings);
+    QFile errors;
+    static_cast<void>(errors.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered));
     try {
-        CommandData data(settings.DbPath, VolumeAccess::ReadOnly, Disposition::OpenExisting);
+        CommandData data(
+            settings.DbPath, VolumeAccess::ReadOnly, Disposition::OpenExisting, errors);
         return data.catalogue.FindList(name) != kNoObject;
+    } catch (const WriterWaits&) {
+        return IsListOfConfiguredFile(name);
     } catch (const CommandFailure&) {
         return false;
     }
@@ -184,22 +211,17 @@ bool IsCommandLine(const QStringList& arguments, const std::function<bool(const 
 
 ExitCode RunCommandLine(const QStringList& arguments, const CommandEnvironment& environment)
 {
-    const qsizetype place = SubCommandPlace(arguments);
-    const SubCommand* command = place < 0 ? nullptr : FindSubCommand(arguments[place]);
-    TextOutput output(environment.output);
-    try {
-        Dispatch(arguments, command, environment, output);
-        return Finish(output, environment);
-    } catch (const CommandFailure& failure) {
-        Finish(output, environment);
-        Complain(environment.errors, failure.Message());
-        if (failure.Code() == ExitCode::WrongUsage)
-            environment.errors.write(UsageText(command));
-        return failure.Code();
-    } catch (const std::bad_alloc&) {
-        Complain(environment.errors, u"out of memory"_s);
-        return ExitCode::Failed;
-    }
+    constexpr int kPatienceMs = 10'000;
+    const QDeadlineTimer patience(kPatienceMs);
+    do {
+        try {
+            return RunOnce(arguments, environment);
+        } catch (const WriterWaits&) {
+            continue;
+        }
+    } while (!patience.hasExpired());
+    Complain(environment.errors, u"the data file is being changed all the time; try again later"_s);
+    return ExitCode::Failed;
 }
 
 int RunCommandLine(const QStringList& arguments)

@@ -164,7 +164,10 @@ private:
     const auto printed = data.Rows().VisitEach(sorted.rows, printer.Ids(),
         [&printer](const ScannedRecord& row) { return printer.Print(row); });
     // Rows that cannot be read cannot be sorted either: the others are in the order of names then.
-    return listed.error != ErrorNumber::None ? listed : printed;
+    if (listed.error != ErrorNumber::None)
+        return listed;
+    return sorted.error == ErrorNumber::Cancelled ? Database::VisitOutcome { 0, sorted.error }
+                                                  : printed;
 }
 
 /// Prints what is due in one list after another.

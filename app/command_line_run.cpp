@@ -57,6 +57,8 @@ qint32 ReadInteger(
 
 QString ErrorText(ErrorNumber error)
 {
+    if (error == ErrorNumber::Cancelled)
+        throw WriterWaits();
     return u"%1 (error %2)"_s.arg(
         QLatin1StringView(ErrorPhrase(error)), QString::number(static_cast<quint32>(error)));
 }
@@ -69,7 +71,8 @@ QString ReadErrorText(ErrorNumber error)
         : u"%1; “quillory restore” lists copies and what can be saved"_s.arg(text);
 }
 
-CommandData::CommandData(const QString& path, VolumeAccess access, Disposition disposition)
+CommandData::CommandData(
+    const QString& path, VolumeAccess access, Disposition disposition, QIODevice& errors)
     : catalogue(volume)
     , m_path(path)
 {
@@ -78,6 +81,9 @@ CommandData::CommandData(const QString& path, VolumeAccess access, Disposition d
         Fail(u"%1 is open in Quillory; close it first"_s.arg(path));
     if (error != ErrorNumber::None)
         Fail(u"cannot open %1: %2"_s.arg(path, ReadErrorText(error)));
+    if (const QString aside = volume.MountedVolume()->JournalPutAside(); !aside.isEmpty())
+        Complain(
+            errors, u"beside %1 lay the journal of another file; it is now %2"_s.arg(path, aside));
     // A reader makes no table for the lists that are not there yet.
     if (access == VolumeAccess::ReadOnly && catalogue.IsWithoutTables())
         return;
@@ -89,6 +95,8 @@ ObjectId CommandData::OpenList(const QString& name)
 {
     const ObjectId oid = catalogue.FindList(name);
     if (oid == kNoObject) {
+        if (volume.LastError() == ErrorNumber::Cancelled)
+            throw WriterWaits();
         FailIfListsAreMissing(catalogue.FillHomeList());
         Fail(u"there is no list named “%1”"_s.arg(name));
     }
@@ -130,12 +138,13 @@ QString CommandRun::DataFile() const
 std::unique_ptr<CommandData> CommandRun::OpenForReading() const
 {
     return std::make_unique<CommandData>(
-        DataFile(), VolumeAccess::ReadOnly, Disposition::OpenExisting);
+        DataFile(), VolumeAccess::ReadOnly, Disposition::OpenExisting, environment.errors);
 }
 
 std::unique_ptr<CommandData> CommandRun::OpenForWriting(Disposition disposition) const
 {
-    return std::make_unique<CommandData>(DataFile(), VolumeAccess::Exclusive, disposition);
+    return std::make_unique<CommandData>(
+        DataFile(), VolumeAccess::Exclusive, disposition, environment.errors);
 }
 
 void CommandRun::VisitLists(
@@ -169,9 +178,13 @@ void CommandRun::KeepCopyOf(CommandData& data) const
     // Other files are tried out, sent and mended; what they hold is not this program's to keep.
     const auto configured = ResolveVolumePath(environment.dataFile);
     const auto changed = ResolveVolumePath(data.Path());
-    if (configured && changed && *configured == *changed)
-        KeepCopy(data.volume, data.Path(), environment.copiesFolder,
-            QDateTime::currentDateTimeUtc(), environment.keptCopies);
+    if (!configured || !changed || *configured != *changed)
+        return;
+    const auto kept = KeepCopy(data.volume, data.Path(), environment.copiesFolder,
+        QDateTime::currentDateTimeUtc(), environment.keptCopies);
+    if (!kept)
+        Complain(environment.errors,
+            u"no copy of %1 could be kept: %2"_s.arg(data.Path(), ErrorText(kept.Error())));
 }
 
 bool CommandRun::IsJson() const

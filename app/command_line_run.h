@@ -28,6 +28,11 @@ private:
     QString m_message;
 };
 
+/// Ends a command that reads because somebody waits to change the file. Nothing of it was printed
+/// yet, and it is to be run again.
+class WriterWaits : public std::exception
+{ };
+
 [[noreturn]] void Fail(const QString& message);
 [[noreturn]] void FailUsage(const QString& message);
 /// Writes a message as a line of its own to standard error.
@@ -39,16 +44,19 @@ void FailIfRowsAreMissing(const Database::VisitOutcome& outcome);
 /// The value of an option as a whole number; one outside the limits ends the command.
 [[nodiscard]] qint32 ReadInteger(
     const QCommandLineParser& parser, const QString& option, qint32 least, qint32 most);
-/// A phrase and the number of an error, such as "no space left (error 112)".
+/// A phrase and the number of an error, such as "no space left (error 112)". Throws WriterWaits
+/// where that is the reason.
 [[nodiscard]] QString ErrorText(ErrorNumber error);
 /// The same of an error in reading the data file; of damage with what can be done.
 [[nodiscard]] QString ReadErrorText(ErrorNumber error);
 
-/// A data file with its catalogue open. Every way not to get there ends the command.
+/// A data file with its catalogue open. Every way not to get there ends the command; what else
+/// there is to say of the file goes to `errors`.
 class CommandData
 {
 public:
-    CommandData(const QString& path, VolumeAccess access, Disposition disposition);
+    CommandData(
+        const QString& path, VolumeAccess access, Disposition disposition, QIODevice& errors);
 
     /// Finds a list by its name and opens it.
     ObjectId OpenList(const QString& name);
@@ -89,7 +97,8 @@ struct CommandRun
         CommandData& data, const ListVisitor& visit, const std::function<void()>& end) const;
     /// Ends the command if a file to be made would be taken for the data file's journal.
     void RefuseJournal(const QString& path) const;
-    /// Keeps a copy of a data file that the command has changed; to be called at its good end.
+    /// Keeps a copy of a data file that the command has changed, or tells why not; to be called at
+    /// its good end.
     void KeepCopyOf(CommandData& data) const;
     [[nodiscard]] bool IsJson() const;
 };

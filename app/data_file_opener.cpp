@@ -5,6 +5,7 @@
 #include "store/kept_copies.h"
 #include "store/salvage.h"
 
+#include <QFileInfo>
 #include <QLocale>
 
 #include <utility>
@@ -44,7 +45,7 @@ void DataFileOpener::Mount()
 {
     const ErrorNumber error = m_catalogue.Volume().Mount(m_settings.DbPath, m_disposition);
     if (error == ErrorNumber::None)
-        OpenCatalogue();
+        TellOfJournal();
     else if (error == ErrorNumber::FileNotFound)
         AskAboutMissingFile();
     else if (error == ErrorNumber::PathNotFound)
@@ -151,6 +152,16 @@ void DataFileOpener::ChooseRestored(const Restorer& restore)
         m_disposition = Disposition::OpenExisting;
         Mount();
     });
+}
+
+void DataFileOpener::TellOfJournal()
+{
+    const QString aside = m_catalogue.Volume().MountedVolume()->JournalPutAside();
+    if (aside.isEmpty())
+        return OpenCatalogue();
+    m_prompts.ask(tr("Beside the data file lay the journal of another file. It is kept as %1.")
+                      .arg(QFileInfo(aside).fileName()),
+        MessageIcon::Information, MessageButtons::Ok, [this](MessageAnswer) { OpenCatalogue(); });
 }
 
 void DataFileOpener::OpenCatalogue()

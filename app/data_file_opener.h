@@ -67,6 +67,7 @@ private:
     void AskToRestore(
         const QString& question, const Restorer& restore, const std::function<void()>& otherwise);
     void ChooseRestored(const Restorer& restore);
+    void TellOfJournal();
     void OpenCatalogue();
     void GiveUp();
 };

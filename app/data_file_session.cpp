@@ -4,7 +4,6 @@
 #include "app/file_dialog.h"
 #include "app/plain_pages.h"
 #include "res/string_table.h"
-#include "store/kept_copies.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 #include "widgets/wait_cursor.h"
@@ -99,11 +98,16 @@ ErrorNumber DataFileSession::PlaceError()
                                                      : ErrorNumber::None;
 }
 
+Result<KeepOutcome> DataFileSession::Keep()
+{
+    return KeepCopy(m_volume, m_settings.DbPath, m_copiesFolder, QDateTime::currentDateTimeUtc(),
+        m_settings.keptCopies);
+}
+
 QString DataFileSession::KeepLostFile(ErrorNumber placeError)
 {
-    const bool isKept = KeepCopy(m_volume, m_settings.DbPath, m_copiesFolder,
-                            QDateTime::currentDateTimeUtc(), m_settings.keptCopies)
-        == KeepOutcome::Kept;
+    const auto kept = Keep();
+    const bool isKept = kept && *kept == KeepOutcome::Kept;
     if (placeError == ErrorNumber::SharingViolation) {
         return isKept
             ? tr("Another file was put in the place of the data file. The old one is kept as a "
@@ -143,9 +147,13 @@ void DataFileSession::End(const std::function<void()>& then)
             [then](MessageAnswer) { then(); });
     }
     const auto finish = [this, then] {
-        KeepCopy(m_volume, m_settings.DbPath, m_copiesFolder, QDateTime::currentDateTimeUtc(),
-            m_settings.keptCopies);
-        then();
+        const auto kept = Keep();
+        if (kept)
+            return then();
+        ShowMessage(&m_pages,
+            tr("No copy of the data file could be kept. Error: %1")
+                .arg(static_cast<quint32>(kept.Error())),
+            MessageIcon::Exclamation, MessageButtons::Ok, [then](MessageAnswer) { then(); });
     };
     if (m_failure == ErrorNumber::None)
         return finish();

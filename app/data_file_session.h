@@ -3,6 +3,7 @@
 
 #include "app/data_file_opener.h"
 #include "app/settings.h"
+#include "store/kept_copies.h"
 #include "store/list_catalogue.h"
 #include "widgets/questions.h"
 
@@ -76,6 +77,7 @@ private:
     [[nodiscard]] Question MakeFailureBox(const std::function<void()>& otherwise);
     /// As Volume::VerifyInPlace() tells of the data file, if it holds changes of this run.
     [[nodiscard]] ErrorNumber PlaceError();
+    [[nodiscard]] Result<KeepOutcome> Keep();
     /// Keeps what would go with a file that is no longer in its place, and says so.
     [[nodiscard]] QString KeepLostFile(ErrorNumber placeError);
 };

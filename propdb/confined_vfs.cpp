@@ -137,10 +137,7 @@ int FileWrite(sqlite3_file* file, const void* buffer, int amount, sqlite3_int64 
     if (reinterpret_cast<ConfinedFile*>(file)->hasChecksums && IsWholePage(amount, offset)) {
         // The page cache owns the buffer and leaves the reserved bytes to the VFS. Writing them in
         // place keeps the cached page, and so the journal made from it, equal to the file.
-        XXH64_canonical_t checksum;
-        XXH64_canonicalFromHash(&checksum, PageChecksum(buffer, PageNumber(offset)));
-        std::memcpy(static_cast<char*>(const_cast<void*>(buffer)) + kPageSize - kPageReserve,
-            &checksum, sizeof(checksum));
+        SealPage(const_cast<void*>(buffer), PageNumber(offset));
     }
     return RealFile(file)->pMethods->xWrite(RealFile(file), buffer, amount, offset);
 }
@@ -329,6 +326,13 @@ bool HasRightChecksum(const void* page, quint32 number)
     static_assert(sizeof(stored) == kPageReserve);
     std::memcpy(&stored, static_cast<const char*>(page) + kPageSize - kPageReserve, sizeof(stored));
     return XXH64_hashFromCanonical(&stored) == PageChecksum(page, number);
+}
+
+void SealPage(void* page, quint32 number)
+{
+    XXH64_canonical_t checksum;
+    XXH64_canonicalFromHash(&checksum, PageChecksum(page, number));
+    std::memcpy(static_cast<char*>(page) + kPageSize - kPageReserve, &checksum, sizeof(checksum));
 }
 
 const char* ConfinedVfs::Name()

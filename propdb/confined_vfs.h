@@ -12,6 +12,8 @@ constexpr int kPageReserve = 8;
 
 /// Whether the kPageSize bytes at `page` bear the checksum of the page of this number, from 1.
 [[nodiscard]] bool HasRightChecksum(const void* page, quint32 number);
+/// Gives the page that checksum.
+void SealPage(void* page, quint32 number);
 
 /// SQLite's view of the file system while it works on a volume.
 ///

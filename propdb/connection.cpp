@@ -15,8 +15,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Another program that reads the file makes a write wait so long before it is refused.
-constexpr int kBusyTimeoutMs = 5000;
+/// A reader waits so long for a change to be on the medium.
+constexpr int kReaderPatienceMs = 5000;
+/// A change waits so long for readers before it is refused: they give way within a few milliseconds
+/// unless they were stopped, and the window stands still meanwhile.
+constexpr int kWriterPatienceMs = 100;
 /// No value, and no record, may be larger: ten times what an import or the window can make.
 constexpr int kMaxRecordBytes = 20 << 20;
 /// More than a hostile file may make SQLite ask for; far more than an honest one needs. Changing
@@ -129,11 +132,12 @@ Result<void> SetPragma(sqlite3* connection, const Pragma& pragma)
     return isObeyed ? ErrorNumber::None : ErrorNumber::NotSupported;
 }
 
-Result<void> Harden(sqlite3* connection)
+Result<void> Harden(sqlite3* connection, VolumeAccess access)
 {
     sqlite3_hard_heap_limit64(kHeapLimitBytes);
     sqlite3_extended_result_codes(connection, 1);
-    sqlite3_busy_timeout(connection, kBusyTimeoutMs);
+    sqlite3_busy_timeout(
+        connection, access == VolumeAccess::ReadOnly ? kReaderPatienceMs : kWriterPatienceMs);
     for (const Limit& limit : kLimits)
         sqlite3_limit(connection, limit.id, limit.value);
     for (const Switch& entry : kSwitches) {
@@ -185,7 +189,7 @@ Result<ConnectionHandle> OpenConnection(
         if (const auto done = PrepareNew(raw); !done)
             return done.Error();
     }
-    if (const auto done = Harden(raw); !done)
+    if (const auto done = Harden(raw, access); !done)
         return done.Error();
     if (const auto done = Execute(raw, kUsualCache); !done)
         return done.Error();

@@ -1,21 +1,41 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "propdb/page_file.h"
+
 #include <QByteArray>
+
+#include <optional>
 
 namespace Quillory {
 
-/// The first page of the volume at `path` as its journal will restore it. Empty unless the journal
-/// proves to be a volume's, by the checksum of every page in it, and this very file's (open as
-/// `descriptor`): the file holds a whole page of a volume, or a piece of what the journal restores,
-/// or nothing but what the journal restores.
-///
-/// Lets a volume be known whose first page was being written when the power failed.
-[[nodiscard]] QByteArray FirstPageFromJournal(const QByteArray& path, int descriptor);
+/// The journal that a run which did not end well has left beside a volume, as far as it tells whose
+/// it is: each transaction keeps the volume's first page before any other, and with it how often
+/// the file was changed before.
+class HotJournal
+{
+public:
+    /// Where SQLite keeps the journal of the volume at `path`.
+    [[nodiscard]] static QByteArray PathOf(const QByteArray& path) { return path + "-journal"; }
+    /// Looks at the journal of the volume at `path`.
+    explicit HotJournal(const QByteArray& path);
 
-/// False if the journal of the volume at `path` would give the file of so many bytes a size that
-/// none of this program's journals does: no page, or more than the file has. Playing it back would
-/// cut the file off or blow it up.
-[[nodiscard]] bool HasPlausibleJournal(const QByteArray& path, qint64 fileSize);
+    /// Nothing lies there that SQLite would play back or remove.
+    [[nodiscard]] bool IsAbsent() const { return m_isAbsent; }
+    /// Whether playing it back into the open file undoes the latest transaction of that very file:
+    /// none is in it since this journal's, and at most that one.
+    [[nodiscard]] bool IsOf(int fileDescriptor) const;
+    /// Whether it restores the first page of the open file, which lies torn among whole pages
+    /// of a volume.
+    [[nodiscard]] bool Mends(int fileDescriptor) const;
+
+private:
+    bool m_isAbsent = true;
+    /// As it was before the transaction; none if it is not whole.
+    std::optional<PageBytes> m_firstPage;
+
+    /// False if SQLite would take it for none yet.
+    [[nodiscard]] bool Read(int descriptor);
+};
 
 } // namespace Quillory

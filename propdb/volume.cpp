@@ -6,6 +6,8 @@
 #include "propdb/sqlite_error.h"
 #include "propdb/volume_state.h"
 
+#include <QDeadlineTimer>
+#include <QFile>
 #include <QScopeGuard>
 
 #include <sqlite3.h>
@@ -243,6 +245,11 @@ bool Volume::HasChanged() const
     return m_state->hasCommitted;
 }
 
+QString Volume::JournalPutAside() const
+{
+    return QFile::decodeName(m_state->file.JournalPutAside());
+}
+
 Result<void> Volume::VerifyInPlace() const
 {
     return m_state->file.VerifyInPlace();
@@ -284,7 +291,13 @@ Result<void> Volume::Backup(const QString& path)
             = sqlite3_backup_init(copy->get(), "main", m_state->connection.get(), "main");
         if (backup == nullptr)
             return ErrorFromSqlite(sqlite3_extended_errcode(copy->get()), copy->get());
-        const int stepCode = sqlite3_backup_step(backup, -1);
+        // Between two steps a change may come in; the copy then begins again.
+        constexpr int kPagesAtOnce = 256;
+        constexpr int kPatienceMs = 10'000;
+        const QDeadlineTimer patience(kPatienceMs);
+        int stepCode = SQLITE_OK;
+        while (stepCode == SQLITE_OK)
+            stepCode = sqlite3_backup_step(backup, patience.hasExpired() ? -1 : kPagesAtOnce);
         const int code = sqlite3_backup_finish(backup);
         if (stepCode != SQLITE_DONE)
             return ErrorFromSqlite(code == SQLITE_OK ? stepCode : code, copy->get());

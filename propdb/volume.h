@@ -23,14 +23,17 @@ enum class VolumeAccess
 {
     /// Reads and writes; refused while another process has the volume for itself.
     Exclusive,
-    /// Reads beside another process. Every write fails with AccessDenied.
+    /// Reads beside another process, and gives way to it: whatever reads while a change waits to be
+    /// put into the file ends with Cancelled, and is to be begun again. Every write fails with
+    /// AccessDenied.
     ReadOnly,
 };
 
 /// One file of named, typed databases of property records.
 ///
 /// Opening trusts nothing in the file: what is foreign, newer or damaged is refused with its reason
-/// and left byte for byte as it was. At rest a volume is one file; while it is written there is a
+/// and left byte for byte as it was. A journal that is not this file's is given another name, not
+/// played back. At rest a volume is one file; while it is written there is a
 /// journal beside it, which must never be moved or deleted.
 class Volume
 {
@@ -53,6 +56,8 @@ public:
         QString name;
         DatabaseType type {};
     };
+    /// Where a journal was put at the mount because it is another file's; empty if none was.
+    [[nodiscard]] QString JournalPutAside() const;
     /// Every database, oldest first.
     [[nodiscard]] Result<std::vector<DatabaseInfo>> Databases();
 

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QtEndian>
 
 #include <fcntl.h>
@@ -47,19 +48,6 @@ QByteArray FolderOf(const QByteArray& path)
     return path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
 }
 
-/// Where the fields of SQLite's file header lie.
-struct HeaderLayout
-{
-    static constexpr size_t kSize = 100;
-    static constexpr size_t kPageSize = 16;
-    static constexpr size_t kWriteVersion = 18;
-    static constexpr size_t kReadVersion = 19;
-    static constexpr size_t kReserve = 20;
-    static constexpr size_t kChangeCounter = 24;
-    static constexpr size_t kTextEncoding = 56;
-    static constexpr size_t kUserVersion = 60;
-    static constexpr size_t kApplicationId = 68;
-};
 constexpr std::array<char, 16> kMagic { 'S', 'Q', 'L', 'i', 't', 'e', ' ', 'f', 'o', 'r', 'm', 'a',
     't', ' ', '3', '\0' };
 constexpr quint32 kUtf16BigEndian = 3;
@@ -74,6 +62,43 @@ Result<void> SyncFolderOf(const QByteArray& path)
     const int code = fsync(folder) == 0 || errno == EINVAL ? 0 : errno;
     close(folder);
     return code == 0 ? ErrorNumber::None : ErrorFromErrno(code);
+}
+
+QByteArray WithRandomEnd(const QByteArray& name)
+{
+    return name + QByteArray::number(QRandomGenerator::system()->generate(), 16);
+}
+
+/// Gives the journal of the volume at `path`, if there is one, a name by which it is played into no
+/// file. That name; empty if there is none.
+Result<QByteArray> PutJournalAside(const QByteArray& path)
+{
+    const QByteArray journal = HotJournal::PathOf(path);
+    const QByteArray aside = WithRandomEnd(journal + ".left-");
+    if (rename(journal.constData(), aside.constData()) != 0)
+        return errno == ENOENT ? Result<QByteArray>(QByteArray()) : ErrorFromErrno(errno);
+    if (const auto synced = SyncFolderOf(path); !synced)
+        return synced.Error();
+    return aside;
+}
+
+Result<void> DrawChangeCounter(const QByteArray& path)
+{
+    const int descriptor = open(path.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
+    if (descriptor < 0)
+        return ErrorFromErrno(errno);
+    const auto closeIt = qScopeGuard([descriptor] { close(descriptor); });
+    std::array<char, kPageSize> page {};
+    errno = EIO;
+    if (pread(descriptor, page.data(), page.size(), 0) != kPageSize)
+        return ErrorFromErrno(errno);
+    const quint32 counter = QRandomGenerator::system()->generate();
+    qToBigEndian(counter, page.data() + HeaderLayout::kChangeCounter);
+    qToBigEndian(counter, page.data() + HeaderLayout::kCounterAtSize);
+    SealPage(page.data(), 1);
+    const bool isWritten
+        = pwrite(descriptor, page.data(), page.size(), 0) == kPageSize && fsync(descriptor) == 0;
+    return isWritten ? ErrorNumber::None : ErrorFromErrno(errno);
 }
 
 } // namespace
@@ -111,7 +136,7 @@ bool IsJournalOf(const QString& path, const QString& volume)
 {
     const auto real = ResolveVolumePath(path);
     const auto realVolume = ResolveVolumePath(volume);
-    return real && realVolume && *real == *realVolume + "-journal";
+    return real && realVolume && *real == HotJournal::PathOf(*realVolume);
 }
 
 VolumeFile::~VolumeFile()
@@ -129,6 +154,7 @@ VolumeFile::VolumeFile(VolumeFile&& other) noexcept
     , m_inode(other.m_inode)
     , m_isWritable(other.m_isWritable)
     , m_hasJournal(other.m_hasJournal)
+    , m_journalPutAside(std::move(other.m_journalPutAside))
 { }
 
 Result<VolumeFile> VolumeFile::Open(const QByteArray& path, VolumeAccess access)
@@ -137,14 +163,7 @@ Result<VolumeFile> VolumeFile::Open(const QByteArray& path, VolumeAccess access)
     file.m_path = path;
     if (const auto opened = file.OpenDescriptor(access); !opened)
         return opened.Error();
-    if (access == VolumeAccess::Exclusive) {
-        if (const auto locked = file.LockOut(); !locked)
-            return locked.Error();
-    }
-    struct stat journal
-    { };
-    file.m_hasJournal = stat((path + "-journal").constData(), &journal) == 0 && journal.st_size > 0;
-    if (const auto verified = file.VerifyHeader(); !verified)
+    if (const auto verified = file.Verify(access); !verified)
         return verified.Error();
     return file;
 }
@@ -184,12 +203,12 @@ Result<void> VolumeFile::OpenDescriptor(VolumeAccess access)
     return status.st_size > kMaxFileSize ? ErrorNumber::FileTooLarge : ErrorNumber::None;
 }
 
-Result<void> VolumeFile::LockOut() const
+Result<void> VolumeFile::SetLock(short type) const
 {
     // Owned by the open file, not by the process: another descriptor's close cannot drop it.
     struct flock lock
     { };
-    lock.l_type = F_WRLCK;
+    lock.l_type = type;
     lock.l_whence = SEEK_SET;
     lock.l_start = kLockOffset;
     lock.l_len = 1;
@@ -198,6 +217,24 @@ Result<void> VolumeFile::LockOut() const
     if (errno == EAGAIN || errno == EACCES)
         return ErrorNumber::SharingViolation;
     return ErrorFromErrno(errno);
+}
+
+Result<void> VolumeFile::Verify(VolumeAccess access)
+{
+    // A reader may judge a journal only while nobody writes it.
+    const bool isExclusive = access == VolumeAccess::Exclusive;
+    const bool isToLock = isExclusive || !HotJournal(m_path).IsAbsent();
+    const auto locked
+        = isToLock ? SetLock(isExclusive || m_isWritable ? F_WRLCK : F_RDLCK) : Result<void>();
+    if (!locked && (isExclusive || locked.Error() != ErrorNumber::SharingViolation))
+        return locked;
+    if (!isToLock || !locked)
+        return VerifyHeader();
+    const HotJournal journal(m_path);
+    const auto verified = journal.IsAbsent() ? VerifyHeader() : VerifyWithJournal(journal);
+    if (!isExclusive)
+        static_cast<void>(SetLock(F_UNLCK).IsOk());
+    return verified;
 }
 
 ErrorNumber VerifyVolumeHeader(std::span<const char> header)
@@ -218,33 +255,34 @@ ErrorNumber VerifyVolumeHeader(std::span<const char> header)
     return isOurs ? ErrorNumber::None : ErrorNumber::FileCorrupt;
 }
 
+Result<void> VolumeFile::VerifyWithJournal(const HotJournal& journal)
+{
+    // A file whose journal is still there may be cut short or torn; the journal makes it whole.
+    m_hasJournal = true;
+    const auto verified = VerifyHeader();
+    if (!verified)
+        return verified.Error() == ErrorNumber::BadFormat && journal.Mends(m_descriptor)
+            ? ErrorNumber::None
+            : verified.Error();
+    if (journal.IsOf(m_descriptor))
+        return {};
+    auto aside = PutJournalAside(m_path);
+    if (!aside)
+        return aside.Error();
+    m_journalPutAside = *aside;
+    return VerifySize();
+}
+
 Result<void> VolumeFile::VerifyHeader() const
 {
     std::array<char, HeaderLayout::kSize> header {};
     const ssize_t size = pread(m_descriptor, header.data(), header.size(), 0);
     if (size < 0)
         return ErrorFromErrno(errno);
-    const auto isOurs
-        = [&header] { return std::memcmp(header.data(), kMagic.data(), kMagic.size()) == 0; };
-    if (m_hasJournal && size > 0 && !isOurs()) {
-        // The first page was being written when the power failed; the journal has it whole.
-        const QByteArray page = FirstPageFromJournal(m_path, m_descriptor);
-        std::copy_n(page.begin(), std::min(header.size(), static_cast<size_t>(page.size())),
-            header.begin());
-    } else if (size < static_cast<ssize_t>(header.size())) {
+    if (size < static_cast<ssize_t>(header.size()))
         return ErrorNumber::BadFormat;
-    }
-    if (const ErrorNumber error = VerifyVolumeHeader(header); error != ErrorNumber::None)
-        return error;
-    // A file whose journal is still there may be cut short; the journal makes it whole.
-    if (!m_hasJournal)
-        return VerifySize();
-    struct stat status
-    { };
-    if (fstat(m_descriptor, &status) != 0)
-        return ErrorFromErrno(errno);
-    return HasPlausibleJournal(m_path, status.st_size) ? ErrorNumber::None
-                                                       : ErrorNumber::FileCorrupt;
+    const ErrorNumber verdict = VerifyVolumeHeader(header);
+    return verdict == ErrorNumber::None && !m_hasJournal ? VerifySize() : verdict;
 }
 
 Result<void> VolumeFile::VerifySize() const
@@ -265,6 +303,19 @@ Result<void> VolumeFile::VerifyInPlace() const
     if (status.st_dev != m_device || status.st_ino != m_inode)
         return ErrorNumber::SharingViolation;
     return {};
+}
+
+bool VolumeFile::IsAwaitedByWriter() const
+{
+    // The byte by which SQLite's writers keep new readers out.
+    constexpr off_t kPendingByte = 0x40000000;
+    struct flock lock
+    { };
+    lock.l_type = F_RDLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = kPendingByte;
+    lock.l_len = 1;
+    return fcntl(m_descriptor, F_GETLK, &lock) == 0 && lock.l_type == F_WRLCK;
 }
 
 Result<quint32> VolumeFile::ChangeCounter() const
@@ -288,14 +339,17 @@ Result<void> VolumeFile::MakeDurable() const
 
 Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
 {
+    if (access(to.constData(), F_OK) == 0)
+        return ErrorNumber::FileExists;
+    if (const auto drawn = DrawChangeCounter(from); !drawn)
+        return drawn;
+    if (const auto aside = PutJournalAside(to); !aside)
+        return aside.Error();
     bool isRenamed
         = renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0;
     // File systems of memory cards know neither this kind of rename nor links.
-    if (!isRenamed && (errno == EINVAL || errno == ENOSYS)) {
-        if (access(to.constData(), F_OK) == 0)
-            return ErrorNumber::FileExists;
+    if (!isRenamed && (errno == EINVAL || errno == ENOSYS))
         isRenamed = rename(from.constData(), to.constData()) == 0;
-    }
     if (!isRenamed)
         return ErrorFromErrno(errno);
     return SyncFolderOf(to);
@@ -303,8 +357,7 @@ Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
 
 QByteArray UnfinishedName(const QByteArray& path)
 {
-    const QByteArray number = QByteArray::number(QRandomGenerator::system()->generate(), 16);
-    return path + ".new-" + number;
+    return WithRandomEnd(path + ".new-");
 }
 
 } // namespace Quillory

@@ -12,6 +12,18 @@
 
 namespace Quillory {
 
+namespace {
+
+/// Of SQLite's machine; a millisecond's work.
+constexpr int kStepsBetweenLooks = 10'000;
+
+int GiveWay(void* state)
+{
+    return static_cast<const VolumeState*>(state)->file.IsAwaitedByWriter() ? 1 : 0;
+}
+
+} // namespace
+
 VolumeState::VolumeState(VolumeFile volumeFile, QByteArray volumePath, VolumeAccess volumeAccess)
     : file(std::move(volumeFile))
     , path(std::move(volumePath))
@@ -25,6 +37,8 @@ Result<void> VolumeState::Connect()
     if (!opened)
         return opened.Error();
     connection = std::move(*opened);
+    if (access == VolumeAccess::ReadOnly)
+        sqlite3_progress_handler(connection.get(), kStepsBetweenLooks, &GiveWay, this);
     if (const auto registered = visit.Register(connection.get()); !registered)
         return registered;
     // The file that was looked at and locked must be the one that SQLite has opened.
@@ -36,9 +50,11 @@ Result<void> VolumeState::Connect()
         return prepared;
     if (const auto loaded = LoadSchema(); !loaded)
         return loaded;
+    const QByteArray rewriting = "PRAGMA user_version = " + QByteArray::number(kFormatVersion);
     if (const auto prepared = PrepareStatements({
             { &readNextOid, "SELECT next_oid FROM object_counter" },
             { &begin, "BEGIN IMMEDIATE" },
+            { &rewriteHeader, rewriting.constData() },
             { &commit, "COMMIT" },
             { &rollback, "ROLLBACK" },
             { &storeNextOid, "UPDATE object_counter SET next_oid = ?1" },
@@ -111,12 +127,27 @@ Result<ObjectId> VolumeState::AllocateOid()
 
 Result<void> VolumeState::BeginWrite()
 {
-    if (!isInTransaction)
-        return Begin();
+    if (!isInTransaction) {
+        if (const auto begun = Begin(); !begun)
+            return begun;
+        const auto kept = KeepFirstPage();
+        if (!kept)
+            Rollback();
+        return kept;
+    }
     // A failure can have ended the transaction underneath; what follows must not stand alone.
     if (sqlite3_get_autocommit(connection.get()) != 0)
         return ErrorNumber::InvalidHandle;
-    return {};
+    return KeepFirstPage();
+}
+
+Result<void> VolumeState::KeepFirstPage()
+{
+    if (isFirstPageKept)
+        return {};
+    const auto kept = rewriteHeader.Run();
+    isFirstPageKept = kept.IsOk();
+    return kept;
 }
 
 Result<void> VolumeState::BeginSchemaChange()
@@ -177,6 +208,7 @@ Result<void> VolumeState::Begin()
         return changes ? ErrorNumber::SharingViolation : changes.Error();
     }
     changesSeen = *changes;
+    isFirstPageKept = false;
     return {};
 }
 

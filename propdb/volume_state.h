@@ -44,6 +44,8 @@ struct VolumeState
     std::vector<DatabaseState*> openDatabases;
 
     Statement begin;
+    /// Writes what the file's header says already, for the sake of the journal.
+    Statement rewriteHeader;
     Statement commit;
     Statement rollback;
     Statement storeNextOid;
@@ -53,6 +55,8 @@ struct VolumeState
     quint64 nextOid = 1;
     bool isNextOidStored = true;
     bool isInTransaction = false;
+    /// The transaction that runs has the file's first page in its journal.
+    bool isFirstPageKept = false;
     /// `schema` is not what the file held when the transaction began.
     bool isSchemaChanged = false;
     /// The write that runs changes the schema within a transaction.
@@ -115,6 +119,8 @@ private:
     /// The same where databases may be open: they learn their layout anew.
     [[nodiscard]] Result<void> ReloadSchema();
     [[nodiscard]] Result<void> EndSchemaChange(const Result<void>& outcome);
+    /// Has the journal begin with the file's first page, by which a later start knows whose it is.
+    [[nodiscard]] Result<void> KeepFirstPage();
     [[nodiscard]] Result<void> FindOutcome(ErrorNumber commitError);
     /// Whether the commit in doubt was done; false too if none is.
     [[nodiscard]] Result<bool> SettleDoubt();

@@ -176,21 +176,28 @@ QString DefaultCopiesFolder()
     return QDir(state).filePath(u"quillory/copies"_s);
 }
 
-KeepOutcome KeepCopy(
+Result<KeepOutcome> KeepCopy(
     DataVolume& data, const QString& path, const QString& folder, const QDateTime& now, int count)
 {
     Volume* volume = data.MountedVolume();
-    if (volume == nullptr || !IsWorthACopy(data, *volume))
-        return KeepOutcome::Unchanged;
+    if (volume == nullptr || folder.isEmpty() || !IsWorthACopy(data, *volume))
+        return KeepOutcome::NotNeeded;
     DropMissing(folder, now);
     const QString setFolder = SetFolder(path, folder);
-    if (setFolder.isEmpty() || !MakeFolder(setFolder))
-        return KeepOutcome::NotKept;
+    if (setFolder.isEmpty())
+        return ErrorNumber::PathNotFound;
+    if (!MakeFolder(setFolder))
+        return ErrorNumber::AccessDenied;
     QDir set(setFolder);
     Prune(set, count);
-    if (count == 0 || !HasRoom(setFolder, path) || !WriteOrigin(set, path)
-        || !volume->Backup(set.filePath(NextName(set, now))))
-        return KeepOutcome::NotKept;
+    if (count == 0)
+        return KeepOutcome::NotNeeded;
+    if (!HasRoom(setFolder, path))
+        return ErrorNumber::DiskFull;
+    if (!WriteOrigin(set, path))
+        return ErrorNumber::WriteFault;
+    if (const auto copied = volume->Backup(set.filePath(NextName(set, now))); !copied)
+        return copied.Error();
     Prune(set, count);
     return KeepOutcome::Kept;
 }

@@ -27,11 +27,9 @@ struct KeptCopy
 enum class KeepOutcome
 {
     Kept,
-    /// No list and no row was written since the data file was mounted.
-    Unchanged,
-    /// No copy was made: none is wanted, there is no room, the folder cannot be written, or no
-    /// folder is given.
-    NotKept,
+    /// No list and no row was written since the data file was mounted, or no copies are wanted:
+    /// `count` is 0 or no folder is given.
+    NotNeeded,
 };
 
 /// `quillory/copies` in the user's folder for states of programs.
@@ -42,8 +40,9 @@ enum class KeepOutcome
 /// is not worth a copy, unless the file is no longer in its place. Drops the copies of files that
 /// have been gone for kDaysKeptOfMissing. Where the system does not tell how much room is left the
 /// copy is tried all the same. To be called at the end of a run, outside a transaction; whatever
-/// happens, the data file and its mount are untouched.
-KeepOutcome KeepCopy(
+/// happens, the data file and its mount are untouched. Fails if there is no room, the folder cannot
+/// be written, or a page of the file, be it a free one, cannot be read.
+[[nodiscard]] Result<KeepOutcome> KeepCopy(
     DataVolume& data, const QString& path, const QString& folder, const QDateTime& now, int count);
 
 /// The copies of the data file at `path`, newest first. The file itself need not exist.

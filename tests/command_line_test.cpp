@@ -437,6 +437,12 @@ private Q_SLOTS:
         // The copies are found by the file's place, also when it is gone.
         QVERIFY(QFile::remove(shell.Path()));
         QCOMPARE(shell.Output("restore").count('\n'), 2);
+
+        Shell other;
+        WriteFileBytes(other.Path(u"copies"_s), {});
+        const Call call = other.Run("new L --create");
+        QVERIFY(call.code == ExitCode::Done);
+        QVERIFY(call.errors.contains("could be kept: access denied (error 5)"));
     }
 
     void whatIsLeftOfADamagedFileIsSaved()

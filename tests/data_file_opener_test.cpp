@@ -104,6 +104,22 @@ private Q_SLOTS:
         QCOMPARE(ListsIn(start.Path()), u"Pantry 0"_s);
     }
 
+    void theJournalOfAnotherFileIsPutAsideAndTold()
+    {
+        Start start;
+        start.settings.DbPath = start.Path();
+        MakeLists(start.Path(), { u"Pantry"_s });
+        WriteFileBytes(start.Path(u"data.idb-journal"_s), "a letter");
+        start.Run();
+        QCOMPARE(start.shown, QStringList { u"Beside the data file lay"_s });
+        QCOMPARE(start.outcome, Outcome::Opened);
+        const QStringList aside
+            = QFileInfo(start.Path()).dir().entryList({ u"data.idb-journal*"_s });
+        QCOMPARE(aside.size(), 1);
+        QVERIFY(aside.front().startsWith(u"data.idb-journal.left-"_s));
+        QCOMPARE(FileBytes(start.Path(aside.front())), "a letter"_ba);
+    }
+
     void choosingNothingEndsTheProgram()
     {
         Start start;

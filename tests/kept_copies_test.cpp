@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "propdb/confined_vfs.h"
 #include "store/kept_copies.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "tests/test_program.h"
+#include "tests/volume_fixture.h"
 
 #include <QTimeZone>
+#include <QtEndian>
 
 #include <algorithm>
 #include <filesystem>
@@ -25,7 +28,8 @@ public:
         file.MakeFullList(name);
         return Keep();
     }
-    KeepOutcome Keep()
+    KeepOutcome Keep() { return Take(TryToKeep()); }
+    Result<KeepOutcome> TryToKeep()
     {
         now = now.addSecs(100);
         return KeepCopy(*file.data, Path(), Folder(), now, keptCopies);
@@ -107,19 +111,19 @@ private Q_SLOTS:
         Runs runs;
         QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
         runs.file.Restart();
-        QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
+        QCOMPARE(runs.Keep(), KeepOutcome::NotNeeded);
         // Not even what was undone is a change.
         QVERIFY(runs.file.data->BeginTransaction());
         InventoryList list = NewInventoryList();
         QVERIFY(runs.file.catalogue->AddList(list) != kNoObject);
         QVERIFY(runs.file.data->EndTransaction(false));
-        QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
+        QCOMPARE(runs.Keep(), KeepOutcome::NotNeeded);
         // Nor are widths.
         runs.file.Restart();
         runs.file.list.TableColSizes = u"100,"_s;
         QVERIFY(runs.file.catalogue->UpdateListOptions(
             runs.file.catalogue->FindList(u"a"_s), runs.file.list));
-        QCOMPARE(runs.Keep(), KeepOutcome::Unchanged);
+        QCOMPARE(runs.Keep(), KeepOutcome::NotNeeded);
         QCOMPARE(runs.Copies().size(), size_t { 1 });
         runs.file.list.TableWarnStart = 4;
         QVERIFY(runs.file.catalogue->UpdateListOptions(
@@ -134,7 +138,7 @@ private Q_SLOTS:
             runs.keptCopies = count;
             const auto before = static_cast<int>(runs.Copies().size());
             QCOMPARE(runs.MakeList(QString::number(runs.now.toSecsSinceEpoch())),
-                count == 0 ? KeepOutcome::NotKept : KeepOutcome::Kept);
+                count == 0 ? KeepOutcome::NotNeeded : KeepOutcome::Kept);
             QCOMPARE(static_cast<int>(runs.Copies().size()), std::min(before + 1, count));
         }
     }
@@ -148,7 +152,7 @@ private Q_SLOTS:
             others.now = others.now.addDays(days);
             others.file.Restart();
             others.file.MakeFullList(QString::number(others.now.toSecsSinceEpoch()));
-            return KeepCopy(*others.file.data, others.Path(), runs.Folder(), others.now, 3);
+            return Take(KeepCopy(*others.file.data, others.Path(), runs.Folder(), others.now, 3));
         };
         const QString aside = runs.Path() + u".aside"_s;
         QVERIFY(QFile::rename(runs.Path(), aside));
@@ -173,12 +177,37 @@ private Q_SLOTS:
         // A file in the place of the folder stops every user, root included.
         QVERIFY(QDir().mkpath(QFileInfo(runs.Folder()).path()));
         WriteFileBytes(runs.Folder(), {});
-        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::NotKept);
+        runs.file.MakeFullList(u"a"_s);
+        QCOMPARE(runs.TryToKeep().Error(), ErrorNumber::AccessDenied);
         QVERIFY(runs.Copies().empty());
-        QCOMPARE(
-            KeepCopy(*runs.file.data, runs.Path(), QString(), runs.now, 3), KeepOutcome::NotKept);
+        QCOMPARE(Take(KeepCopy(*runs.file.data, runs.Path(), QString(), runs.now, 3)),
+            KeepOutcome::NotNeeded);
         // The run goes on.
         QVERIFY(runs.file.Add({ u"row"_s }) != kNoObject);
+    }
+
+    void aDamagedFreePageIsTold()
+    {
+        Runs runs;
+        runs.file.MakeFullList(u"a"_s);
+        const std::vector<PropertySpec> specs { { PropName, u"Name"_s } };
+        const std::vector<SortOrder> orders { { PropName } };
+        QVERIFY(runs.file.data->DeleteDatabase(
+            runs.file.data->Create(u"gone"_s, DatabaseType { 1 }, specs, orders)));
+        static_cast<void>(runs.file.data->Unmount());
+        // The header names the first page of the list of free ones, which names the others.
+        QByteArray bytes = FileBytes(runs.Path());
+        const auto number
+            = [&](qsizetype place) { return qFromBigEndian<quint32>(bytes.constData() + place); };
+        const auto page = [](quint32 at) { return (qsizetype { at } - 1) * kPageSize; };
+        const qsizetype damaged = page(number(page(number(32)) + 8)) + 100;
+        bytes[damaged] = static_cast<char>(bytes[damaged] ^ 1);
+        WriteFileBytes(runs.Path(), bytes);
+        runs.file.Restart();
+        const ObjectId list = runs.file.catalogue->FindList(u"a"_s);
+        QVERIFY(runs.file.catalogue->RenameList(list, u"b"_s));
+        QCOMPARE(runs.TryToKeep().Error(), ErrorNumber::FileCorrupt);
+        QCOMPARE(runs.FileCount(), 1);
     }
 
     void aCopyLeavesTheDiskSomeRoom()
@@ -194,7 +223,7 @@ private Q_SLOTS:
         std::filesystem::resize_file(path, std::filesystem::space(path).available, error);
         if (error)
             QSKIP("there is more room than a file may be long");
-        QCOMPARE(runs.Keep(), KeepOutcome::NotKept);
+        QCOMPARE(runs.TryToKeep().Error(), ErrorNumber::DiskFull);
         std::filesystem::resize_file(path, size);
         QCOMPARE(runs.Keep(), KeepOutcome::Kept);
     }

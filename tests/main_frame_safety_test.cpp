@@ -300,6 +300,18 @@ private Q_SLOTS:
         }
     }
 
+    void aCopyThatCannotBeKeptIsTold()
+    {
+        FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
+        errand.Choose(Command::Delete);
+        errand.Answer(QMessageBox::Yes);
+        WriteFileBytes(errand.CopiesFolder(), {});
+        QVERIFY(!errand.frame->close());
+        errand.Answer(QMessageBox::Ok);
+        QCOMPARE(errand.question, u"No copy of the data file could be kept. Error: 5"_s);
+        QTRY_VERIFY(!errand.frame->isVisible());
+    }
+
     void aDamagedFileIsReplacedByItsCopy()
     {
         FrameErrand errand({ u"Attic"_s, u"Zoo"_s });

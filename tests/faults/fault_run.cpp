@@ -111,12 +111,16 @@ QString Judge(const Script& script, size_t acknowledged, const ReadByName& read)
 
 QString Judge(const FaultRun& run, const Script& script, size_t acknowledged)
 {
-    return Judge(script, acknowledged, [&run](const QByteArray& name) -> std::optional<Reading> {
-        const QByteArray path = run.Folder() + '/' + name;
-        if (!QFile::exists(QFile::decodeName(path)))
-            return std::nullopt;
-        return ReadDataFile(path);
-    });
+    const QString wrong
+        = Judge(script, acknowledged, [&run](const QByteArray& name) -> std::optional<Reading> {
+              const QByteArray path = run.Folder() + '/' + name;
+              if (!QFile::exists(QFile::decodeName(path)))
+                  return std::nullopt;
+              return ReadDataFile(path);
+          });
+    const bool isOwnPutAside
+        = QDir(QFile::decodeName(run.Folder())).entryList({ u"*.left-*"_s }).size() > 0;
+    return isOwnPutAside ? u"the file's own journal was put aside"_s : wrong;
 }
 
 std::vector<Files> MakeStages(const FaultRun& run, const Script& script)

@@ -5,10 +5,6 @@
 
 #include <QtEndian>
 
-#include <xxhash.h>
-
-#include <cstring>
-
 namespace Quillory {
 
 SampleFile MakeSampleFile(const FaultRun& run, quint32 seed)
@@ -19,17 +15,9 @@ SampleFile MakeSampleFile(const FaultRun& run, quint32 seed)
     return { stages.back().at("data.idb"), script.After(script.steps.size()) };
 }
 
-void SealBytes(char* page, quint32 number)
-{
-    XXH64_canonical_t checksum;
-    XXH64_canonicalFromHash(
-        &checksum, XXH3_64bits_withSeed(page, kPageSize - kPageReserve, number));
-    std::memcpy(page + kPageSize - kPageReserve, &checksum, sizeof(checksum));
-}
-
 void SealPage(QByteArray& file, qsizetype page)
 {
-    SealBytes(file.data() + page * kPageSize, static_cast<quint32>(page + 1));
+    SealPage(file.data() + page * kPageSize, static_cast<quint32>(page + 1));
 }
 
 void SealAllPages(QByteArray& file)

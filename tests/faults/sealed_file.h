@@ -13,9 +13,8 @@ struct SampleFile
 };
 [[nodiscard]] SampleFile MakeSampleFile(const FaultRun& run, quint32 seed);
 
-/// Gives a page of this number (from 1), the page at this place (from 0) or every whole page the
-/// checksum of what it holds now: the work of somebody who knows the format.
-void SealBytes(char* page, quint32 number);
+/// Gives the page at this place (from 0) or every whole page the checksum of what it holds now: the
+/// work of somebody who knows the format.
 void SealPage(QByteArray& file, qsizetype page);
 void SealAllPages(QByteArray& file);
 

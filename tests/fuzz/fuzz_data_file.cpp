@@ -161,7 +161,7 @@ private:
         const qsizetype part = Below(3) == 0 ? 0 : Below(kRecordSize);
         SpoilBytes(journal, begin + part, std::min(kRecordSize - part, 1 + Below(kRecordSize)));
         char* const page = journal.data() + begin + kPageNumberSize;
-        SealBytes(page, qFromBigEndian<quint32>(journal.constData() + begin));
+        SealPage(page, qFromBigEndian<quint32>(journal.constData() + begin));
         const auto nonce = qFromBigEndian<quint32>(journal.constData() + kNoncePlace);
         qToBigEndian(JournalSum(page, nonce), page + kPageSize);
     }
@@ -241,7 +241,7 @@ private:
     static void RequireAlone(Files after)
     {
         Require(after.count(kData) == 1, "the file is still there");
-        after.erase(kJournal);
+        std::erase_if(after, [](const auto& file) { return file.first.startsWith(kJournal); });
         Require(
             after.size() == 2 && after.at(kNeighbour) == "precious", "no other file is touched");
     }
