@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/faults/session.h"
 
+#include "store/data_file_check.h"
 #include "tests/list_fixture.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
@@ -189,10 +190,10 @@ Result<QByteArray> Session::Contents()
 
 ErrorNumber Session::Check()
 {
-    const auto faults = m_volume.MountedVolume()->Check();
+    const auto faults = CheckDataFile(*m_volume.MountedVolume());
     if (!faults)
         return faults.Error();
-    return faults->empty() ? ErrorNumber::None : ErrorNumber::FileCorrupt;
+    return faults->isEmpty() ? ErrorNumber::None : ErrorNumber::FileCorrupt;
 }
 
 QByteArray BackupPath(const QByteArray& dataFile, int number)
