@@ -3,6 +3,7 @@
 
 #include "propdb/database.h"
 #include "propdb/database_state.h"
+#include "propdb/outside_change.h"
 #include "propdb/sqlite_error.h"
 #include "propdb/volume_check.h"
 #include "propdb/volume_state.h"
@@ -102,8 +103,13 @@ Result<std::unique_ptr<Volume>> Volume::Mount(
     if (!file)
         return file.Error();
     auto state = std::make_unique<VolumeState>(std::move(*file), *realPath, access);
-    if (const auto connected = state->Connect(); !connected)
-        return connected.Error();
+    if (const auto connected = state->Connect(); !connected) {
+        // Looking at the file once more would drop the locks of its connection.
+        state.reset();
+        const bool isWhole
+            = connected.Error() == ErrorNumber::FileCorrupt && WasChangedOutside(*realPath);
+        return isWhole ? ErrorNumber::ChangedOutside : connected.Error();
+    }
     std::unique_ptr<Volume> volume(new Volume(std::move(state)));
     if (volume->m_state->file.HasJournal()) {
         const auto faults = volume->Check();
@@ -258,6 +264,11 @@ Result<void> Volume::VerifyInPlace() const
 Result<std::vector<QString>> Volume::Check()
 {
     return CheckVolume(*m_state);
+}
+
+Result<std::vector<QString>> Volume::CheckPages()
+{
+    return Quillory::CheckPages(*m_state);
 }
 
 Result<void> Volume::Backup(const QString& path)

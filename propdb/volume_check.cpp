@@ -19,7 +19,7 @@ namespace {
 constexpr size_t kMaxPagesTold = 100;
 
 /// Reads the pages as they lie in the file: SQLite reads none that is free.
-Result<void> CheckPages(const VolumeState& volume, std::vector<QString>& faults)
+Result<void> ReadPages(const VolumeState& volume, std::vector<QString>& faults)
 {
     // The page that SQLite's locks lie on is never written.
     constexpr sqlite3_int64 kLockedPage = 0x40000000 / kPageSize;
@@ -98,11 +98,27 @@ Result<void> CheckValues(const VolumeState& volume, const DatabaseSchema& schema
 
 } // namespace
 
+Result<std::vector<QString>> CheckPages(const VolumeState& volume)
+{
+    std::vector<QString> faults;
+    // While a row is being read no other program's write comes between.
+    auto hold = Statement::Prepare(volume.connection.get(), u"SELECT 1 FROM sqlite_schema"_s);
+    if (!hold)
+        return hold.Error();
+    Result<void> checked = hold->Step().Error();
+    if (checked)
+        checked = ReadPages(volume, faults);
+    if (!checked)
+        return checked.Error();
+    return faults;
+}
+
 Result<std::vector<QString>> CheckVolume(VolumeState& volume)
 {
     std::vector<QString> faults;
     // While a row is being read no other program's write comes between.
-    auto hold = Statement::Prepare(volume.connection.get(), u"SELECT next_oid FROM object_counter"_s);
+    auto hold
+        = Statement::Prepare(volume.connection.get(), u"SELECT next_oid FROM object_counter"_s);
     if (!hold)
         return hold.Error();
     if (const auto held = hold->Step(); !held)
@@ -111,8 +127,6 @@ Result<std::vector<QString>> CheckVolume(VolumeState& volume)
     const auto nextOid = std::max(static_cast<qint64>(volume.nextOid), hold->Int64(0));
     Result<void> checked = volume.RefreshSchema();
     if (checked)
-        checked = CheckPages(volume, faults);
-    if (checked && faults.empty())
         checked = CheckStructure(volume, faults);
     for (const auto& [oid, schema] : volume.schema.All()) {
         if (checked && faults.empty())

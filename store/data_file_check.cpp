@@ -99,7 +99,9 @@ Result<QStringList> CheckCatalogue(Volume& volume)
 
 Result<QStringList> CheckDataFile(Volume& volume)
 {
-    const auto faults = volume.Check();
+    auto faults = volume.CheckPages();
+    if (faults && faults->empty())
+        faults = volume.Check();
     if (!faults)
         return faults.Error();
     // What a damaged page holds is not to be judged.

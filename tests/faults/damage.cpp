@@ -118,7 +118,7 @@ QString JudgeDamaged(const FaultRun& run, const SampleFile& sample, bool isToBeF
     const ErrorNumber error = session.Start(run.DataFile());
     if (error != ErrorNumber::None)
         return HasNoReason(error) ? u"refused for no known reason"_s : QString();
-    const ErrorNumber checked = session.Check();
+    const ErrorNumber checked = session.CheckAll();
     if (checked == ErrorNumber::None && isToBeFound)
         return u"the check finds nothing"_s;
     const auto lists = session.ReadLists();

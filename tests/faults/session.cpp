@@ -190,6 +190,14 @@ Result<QByteArray> Session::Contents()
 
 ErrorNumber Session::Check()
 {
+    const auto faults = m_volume.MountedVolume()->Check();
+    if (!faults)
+        return faults.Error();
+    return faults->empty() ? ErrorNumber::None : ErrorNumber::FileCorrupt;
+}
+
+ErrorNumber Session::CheckAll()
+{
     const auto faults = CheckDataFile(*m_volume.MountedVolume());
     if (!faults)
         return faults.Error();
