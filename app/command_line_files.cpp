@@ -3,6 +3,7 @@
 #include "app/command_line_encoding.h"
 #include "app/command_line_run.h"
 #include "res/string_table.h"
+#include "store/data_file_check.h"
 #include "transfer/list_file.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
@@ -110,12 +111,12 @@ void RunImport(const CommandRun& run)
 void RunCheck(const CommandRun& run)
 {
     const auto data = run.OpenForReading();
-    const auto faults = data->volume.MountedVolume()->Check();
+    const auto faults = CheckDataFile(*data->volume.MountedVolume());
     if (!faults)
         Fail(u"cannot check %1: %2"_s.arg(data->Path(), ErrorText(faults.Error())));
     for (const QString& fault : *faults)
         run.output.WriteLine(fault);
-    if (!faults->empty())
+    if (!faults->isEmpty())
         Fail(u"%1 is damaged"_s.arg(data->Path()));
     run.output.WriteLine(u"ok");
 }

@@ -107,9 +107,16 @@ void SalvageTo(const CommandRun& run, const QString& target)
     RestorePrinter printer(run);
     printer.PrintReport(*report, {});
     printer.End();
+    if (report->wasChangedOutside)
+        Complain(run.environment.errors,
+            u"another program had written into %1; what it held was taken as it stood"_s.arg(path));
+    if (report->mendedPages > 0)
+        Complain(run.environment.errors,
+            u"pages in which one bit had turned were set right, %1 of them"_s.arg(
+                report->mendedPages));
     if (report->mayListsBeLost)
-        run.environment.errors.write(
-            "quillory: parts of the list of lists are lost, and lists may be with them\n");
+        Complain(run.environment.errors,
+            u"parts of the list of lists are lost, and lists may be with them"_s);
 }
 
 } // namespace

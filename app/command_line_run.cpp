@@ -66,6 +66,9 @@ QString ErrorText(ErrorNumber error)
 QString ReadErrorText(ErrorNumber error)
 {
     const QString text = ErrorText(error);
+    if (error == ErrorNumber::ChangedOutside)
+        return u"%1; “quillory restore FILE --salvage” takes what it holds into a new file"_s.arg(
+            text);
     return error != ErrorNumber::FileCorrupt
         ? text
         : u"%1; “quillory restore” lists copies and what can be saved"_s.arg(text);

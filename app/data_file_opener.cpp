@@ -83,6 +83,8 @@ void DataFileOpener::TellFailure(ErrorNumber error)
         MessageIcon::Stop, MessageButtons::Ok, [this, error](MessageAnswer) {
             if (error == ErrorNumber::FileCorrupt && !m_isFirstStart)
                 OfferCopy();
+            else if (error == ErrorNumber::ChangedOutside && !m_isFirstStart)
+                OfferSalvage();
             else
                 GiveUp();
         });
@@ -111,12 +113,18 @@ void DataFileOpener::OfferSalvage()
     qint64 rows = 0;
     for (const SalvageReport::List& list : report->lists)
         rows += list.rows;
+    const int count = static_cast<int>(rows);
+    const QString question = report->wasChangedOutside
+        ? tr("Another program has written into the data file. As it stands it holds %n row(s) in "
+             "%1 list(s).\n\nDo you want to go on with them? They are written to a new file; "
+             "the old one stays as it is.",
+            nullptr, count)
+        : tr("Of the damaged file %n row(s) in %1 list(s) can still be read.\n\nDo you want "
+             "to go on with them? They are written to a new file; the damaged one stays as "
+             "it is.",
+            nullptr, count);
     AskToRestore(
-        tr("Of the damaged file %n row(s) in %1 list(s) can still be read.\n\nDo you want "
-           "to go on with them? They are written to a new file; the damaged one stays as "
-           "it is.",
-            nullptr, static_cast<int>(rows))
-            .arg(report->lists.size()),
+        question.arg(report->lists.size()),
         [damaged = m_settings.DbPath](
             const QString& target) { return SalvageLists(damaged, target).Error(); },
         [this] { GiveUp(); });

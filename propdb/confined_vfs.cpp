@@ -39,6 +39,8 @@ struct PermittedPaths
 {
     QMutex mutex;
     QList<QByteArray> paths;
+    /// Those of them whose checksums are ignored.
+    QList<QByteArray> unverified;
 };
 
 PermittedPaths& Permitted()
@@ -51,6 +53,12 @@ bool IsPermittedVolume(const char* path)
 {
     const QMutexLocker lock(&Permitted().mutex);
     return Permitted().paths.contains(QByteArray(path));
+}
+
+bool IsVerified(const char* path)
+{
+    const QMutexLocker lock(&Permitted().mutex);
+    return !Permitted().unverified.contains(QByteArray(path));
 }
 
 bool IsPermittedJournal(const char* path)
@@ -250,7 +258,8 @@ int VfsOpen(sqlite3_vfs* vfs, const char* path, sqlite3_file* file, int flags, i
     if (code != SQLITE_OK && CreateError() != 0)
         errno = CreateError();
     if (RealFile(file)->pMethods != nullptr) {
-        reinterpret_cast<ConfinedFile*>(file)->hasChecksums = (flags & SQLITE_OPEN_MAIN_DB) != 0;
+        reinterpret_cast<ConfinedFile*>(file)->hasChecksums
+            = (flags & SQLITE_OPEN_MAIN_DB) != 0 && IsVerified(path);
         file->pMethods = &kFileMethods;
     }
     return code;
@@ -341,17 +350,22 @@ const char* ConfinedVfs::Name()
     return vfs->zName;
 }
 
-ConfinedVfs::Permit::Permit(QByteArray path)
+ConfinedVfs::Permit::Permit(QByteArray path, Checksums checksums)
     : m_path(std::move(path))
+    , m_checksums(checksums)
 {
     const QMutexLocker lock(&Permitted().mutex);
     Permitted().paths.append(m_path);
+    if (m_checksums == Checksums::Ignored)
+        Permitted().unverified.append(m_path);
 }
 
 ConfinedVfs::Permit::~Permit()
 {
     const QMutexLocker lock(&Permitted().mutex);
     Permitted().paths.removeOne(m_path);
+    if (m_checksums == Checksums::Ignored)
+        Permitted().unverified.removeOne(m_path);
 }
 
 } // namespace Quillory

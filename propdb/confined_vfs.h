@@ -27,17 +27,24 @@ public:
     /// The name to open connections with; registers the VFS at the first call.
     [[nodiscard]] static const char* Name();
 
+    enum class Checksums
+    {
+        Verified,
+        /// For looking at a file whose checksums are known to be wrong; never for writing.
+        Ignored,
+    };
     /// While it lives, connections may open the volume at an absolute path.
     class Permit
     {
     public:
-        explicit Permit(QByteArray path);
+        explicit Permit(QByteArray path, Checksums checksums = Checksums::Verified);
         ~Permit();
         Permit(const Permit&) = delete;
         Permit& operator=(const Permit&) = delete;
 
     private:
         QByteArray m_path;
+        Checksums m_checksums;
     };
 };
 

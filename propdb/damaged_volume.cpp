@@ -46,6 +46,7 @@ enum SchemaColumn : size_t
     SchemaName,
     SchemaTable,
     SchemaRoot,
+    SchemaSql,
 };
 
 /// Root pages by the names of tables; those of indexes by the names of their tables.
@@ -59,14 +60,30 @@ struct Roots
 Roots ReadRoots(const PageFile& file)
 {
     Roots roots;
-    roots.lostPages = PageTreeReader(file).Visit(1, [&roots](qint64 rowId, QByteArrayView bytes) {
+    PageTreeReader reader(file, PageTreeReader::Doubt::Believe);
+    std::set<qint64> known;
+    roots.lostPages = reader.Visit(1, [&](qint64 rowId, QByteArrayView bytes) {
         const StoredRecord record(rowId, bytes, 0);
-        const auto root = static_cast<quint32>(record.Integer(SchemaRoot));
-        if (record.Text(SchemaType) == u"table"_s)
-            roots.tables.insert(record.Text(SchemaName), root);
-        else if (record.Text(SchemaType) == u"index"_s)
-            roots.indexes.insert(record.Text(SchemaTable), root);
+        const qint64 root = record.Integer(SchemaRoot);
+        const QString name = record.Text(SchemaName);
+        const bool isTable = record.Text(SchemaType) == u"table"_s;
+        // The words say the name once more, and no two trees have one root.
+        const QString words = (isTable ? u"CREATE TABLE "_s : u"CREATE INDEX "_s);
+        const QString sql = record.Text(SchemaSql);
+        if (root < 2 || !(sql.startsWith(words + QuotedName(name)) || sql.startsWith(words + name))
+            || !known.insert(root).second)
+            return;
+        if (isTable)
+            roots.tables.insert(name, static_cast<quint32>(root));
+        else
+            roots.indexes.insert(record.Text(SchemaTable), static_cast<quint32>(root));
     });
+    // These were made first, in every file.
+    for (const auto& [name, root] :
+        { std::pair(u"property_database"_s, 3), { u"property"_s, 4 } }) {
+        if (!roots.tables.contains(name))
+            roots.tables.insert(name, root);
+    }
     return roots;
 }
 
@@ -82,6 +99,7 @@ struct DamagedVolume::State
     std::vector<DatabaseContent> databases;
     std::vector<DatabaseLayout> layouts;
     bool areDatabasesLost = false;
+    bool wasChangedOutside = false;
     Roots roots;
 
     void Load()
@@ -140,24 +158,32 @@ private:
 
     qint64 LoadDatabases()
     {
-        return PageTreeReader(file).Visit(
-            roots.tables.value(u"property_database"_s), [&](qint64 rowId, QByteArrayView bytes) {
-                const StoredRecord record(rowId, bytes, 1);
-                const QString table = record.Text(DatabaseTable);
-                databases.push_back(
-                    { { record.Oid(), record.Text(DatabaseName),
-                          static_cast<DatabaseType>(record.Integer(DatabaseTypeNumber)) },
-                        {}, false });
-                layouts.push_back({ roots.tables.value(table), roots.indexes.value(table), {} });
-            });
+        PageTreeReader reader(file, PageTreeReader::Doubt::Believe);
+        qint64 lostDatabases = 0;
+        const auto add = [&](qint64 rowId, QByteArrayView bytes) {
+            const StoredRecord record(rowId, bytes, 1);
+            const QString table = record.Text(DatabaseTable);
+            // A table's name ends in its database's identifier.
+            if (!roots.tables.contains(table) || !table.endsWith(MakeTableName({}, record.Oid()))) {
+                ++lostDatabases;
+                return;
+            }
+            databases.push_back(
+                { { record.Oid(), record.Text(DatabaseName),
+                      static_cast<DatabaseType>(record.Integer(DatabaseTypeNumber)) },
+                    {}, false });
+            layouts.push_back({ roots.tables.value(table), roots.indexes.value(table), {} });
+        };
+        const qint64 lostPages = reader.Visit(roots.tables.value(u"property_database"_s), add);
+        return lostPages + lostDatabases;
     }
     /// Properties stand in the order of their positions; one that is lost leaves a gap.
     void LoadProperties(quint32 root)
     {
-        const qint64 lostPages
-            = PageTreeReader(file).Visit(root, [this](qint64 rowId, QByteArrayView bytes) {
-                  AddProperty(StoredRecord(rowId, bytes, 0));
-              });
+        const qint64 lostPages = PageTreeReader(file, PageTreeReader::Doubt::Believe)
+                                     .Visit(root, [this](qint64 rowId, QByteArrayView bytes) {
+                                         AddProperty(StoredRecord(rowId, bytes, 0));
+                                     });
         for (size_t i = 0; i < databases.size(); ++i) {
             const auto& columns = layouts[i].columns;
             const bool hasGap = columns.empty() || columns.rbegin()->first + 1 != columns.size();
@@ -171,7 +197,8 @@ private:
             databases, [oid](const DatabaseContent& content) { return content.info.oid == oid; });
         const auto id = static_cast<PropertyId>(record.Integer(PropertyNumberAndType));
         const auto position = static_cast<size_t>(record.Integer(PropertyPosition));
-        if (found == databases.end() || !IsStorableType(PropertyType(id)))
+        if (found == databases.end() || !IsStorableType(PropertyType(id))
+            || position >= kMaxDatabaseProperties)
             return;
         const auto place = static_cast<size_t>(found - databases.begin());
         const bool isNew = layouts[place].columns.emplace(position, id).second;
@@ -190,10 +217,16 @@ DamagedVolume::~DamagedVolume() = default;
 
 Result<DamagedVolume> DamagedVolume::Open(const QString& path)
 {
-    auto file = PageFile::Open(path);
+    // Opened as ever it gets its journal played back, and tells why it is refused.
+    const ErrorNumber mounted
+        = Volume::Mount(path, Disposition::OpenExisting, VolumeAccess::ReadOnly).Error();
+    const bool wasChangedOutside = mounted == ErrorNumber::ChangedOutside;
+    auto file = PageFile::Open(
+        path, wasChangedOutside ? PageFile::Trust::AsItStands : PageFile::Trust::Checksums);
     if (!file)
         return file.Error();
     auto state = std::make_unique<State>(std::move(*file));
+    state->wasChangedOutside = wasChangedOutside;
     state->Load();
     return DamagedVolume(std::move(state));
 }
@@ -206,6 +239,16 @@ const std::vector<DamagedVolume::DatabaseContent>& DamagedVolume::Databases() co
 bool DamagedVolume::AreDatabasesLost() const
 {
     return m_state->areDatabasesLost;
+}
+
+bool DamagedVolume::WasChangedOutside() const
+{
+    return m_state->wasChangedOutside;
+}
+
+qint64 DamagedVolume::MendedPages() const
+{
+    return m_state->file.MendedPages();
 }
 
 DamagedVolume::ReadOutcome DamagedVolume::ReadRecords(

@@ -13,15 +13,15 @@
 
 namespace Quillory {
 
-/// What can still be read of a volume that is damaged. The file is read page by page and never
-/// written; a page that is not as it was written is passed over. Works on sound volumes too. A
-/// journal is not looked at: after a write that was cut off some of its records may be new and some
-/// old. The volume must not be mounted in this process.
+/// What can still be read of a volume that is damaged. It is mounted first, so that its journal is
+/// played back; then it is read page by page and never written. A page that one turned bit has
+/// damaged is set right, another is passed over; of the pages that say where all else lies, records
+/// that are what they must be are believed. A file that another program has changed is taken as it
+/// stands. Works on sound volumes too. The volume must not be mounted in this process.
 class DamagedVolume
 {
 public:
-    /// FileCorrupt if the first page is lost, without which nothing can be found; otherwise the
-    /// failures of Volume::Mount.
+    /// The failures of PageFile::Open.
     [[nodiscard]] static Result<DamagedVolume> Open(const QString& path);
 
     DamagedVolume(DamagedVolume&& other) noexcept;
@@ -40,6 +40,11 @@ public:
     [[nodiscard]] const std::vector<DatabaseContent>& Databases() const;
     /// Whether databases may be missing among these.
     [[nodiscard]] bool AreDatabasesLost() const;
+
+    /// Whether its checksums were not looked at, because another program has written into it.
+    [[nodiscard]] bool WasChangedOutside() const;
+    /// How many of the pages read so far were set right.
+    [[nodiscard]] qint64 MendedPages() const;
 
     struct ReadOutcome
     {

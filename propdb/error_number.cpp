@@ -81,6 +81,8 @@ constexpr std::array kPhrases {
     Phrase { ErrorNumber::AlreadyExists, "exists already" },
     Phrase { ErrorNumber::NameTooLong, "name too long" },
     Phrase { ErrorNumber::FileTooLarge, "file too large" },
+    Phrase { ErrorNumber::ChangedOutside,
+        "another program has written into the file, whose checksums do not fit any more" },
     Phrase { ErrorNumber::NoUnicodeTranslation, "text that cannot be converted" },
     Phrase { ErrorNumber::IoDevice, "input or output error" },
     Phrase { ErrorNumber::TooManyLinks, "the file has a second name, by a hard link" },

@@ -37,6 +37,7 @@ enum class ErrorNumber : quint32
     AlreadyExists = 183,
     NameTooLong = 206,
     FileTooLarge = 223,
+    ChangedOutside = 1006,
     NoUnicodeTranslation = 1113,
     IoDevice = 1117,
     TooManyLinks = 1142,

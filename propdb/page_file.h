@@ -8,7 +8,9 @@
 #include <QString>
 
 #include <array>
+#include <map>
 #include <memory>
+#include <optional>
 
 namespace Quillory {
 
@@ -22,18 +24,34 @@ constexpr int kPageContent = kPageSize - kPageReserve;
 class PageFile
 {
 public:
-    /// Opens a file whose first page is as it was written and says that it is a volume. Else
-    /// FileCorrupt, BadFormat, NotSupported (made by a newer program), or why it cannot be opened.
-    [[nodiscard]] static Result<PageFile> Open(const QString& path);
+    enum class Trust
+    {
+        Checksums,
+        /// Every page counts as it was written.
+        AsItStands,
+    };
+    /// Opens a file whose first page says that it is a volume, or is damaged while another page
+    /// is as a volume's. Else BadFormat, NotSupported (made by a newer program), FileCorrupt, or
+    /// why it cannot be opened.
+    [[nodiscard]] static Result<PageFile> Open(const QString& path, Trust trust);
 
     /// Whole pages; a rest behind the last is none.
     [[nodiscard]] quint32 PageCount() const { return m_pageCount; }
-    /// Reads page `number`, from 1. False if there is none or it is not as it was written.
+    /// Reads page `number`, from 1. A page of which one bit has turned is set right by its
+    /// checksum, which no other bit would fit. False if there is none or it is not as it was
+    /// written: then `page` is what the file holds.
     [[nodiscard]] bool Read(quint32 number, PageBytes& page) const;
+    /// How many of the pages read so far were set right.
+    [[nodiscard]] qint64 MendedPages() const;
 
 private:
     std::unique_ptr<QFile> m_file;
     quint32 m_pageCount = 0;
+    Trust m_trust = Trust::Checksums;
+    /// Pages whose checksums do not fit; nothing for those that one bit does not set right.
+    mutable std::map<quint32, std::optional<PageBytes>> m_wrongPages;
+
+    [[nodiscard]] bool HasSoundPage() const;
 };
 
 } // namespace Quillory

@@ -68,8 +68,9 @@ private:
     qsizetype m_place;
 };
 
-PageTreeReader::PageTreeReader(const PageFile& file)
+PageTreeReader::PageTreeReader(const PageFile& file, Doubt doubt)
     : m_file(file)
+    , m_doubt(doubt)
     , m_isVisited(size_t { file.PageCount() } + 1)
 { }
 
@@ -111,13 +112,14 @@ bool PageTreeReader::PassOverFreePages()
 
 bool PageTreeReader::ReadPage(quint32 number, PageBytes& page)
 {
-    if (number == 0 || number > m_file.PageCount() || m_isVisited[number]
-        || !m_file.Read(number, page)) {
+    if (number == 0 || number > m_file.PageCount() || m_isVisited[number]) {
         ++m_lostPages;
         return false;
     }
-    m_isVisited[number] = true;
-    return true;
+    const bool isSound = m_file.Read(number, page);
+    m_lostPages += isSound ? 0 : 1;
+    m_isVisited[number] = isSound || m_doubt == Doubt::Believe;
+    return m_isVisited[number];
 }
 
 void PageTreeReader::VisitPage(quint32 number, const Visitor& visitor, int depth)

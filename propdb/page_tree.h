@@ -14,7 +14,14 @@ namespace Quillory {
 class PageTreeReader
 {
 public:
-    explicit PageTreeReader(const PageFile& file);
+    enum class Doubt
+    {
+        PassOver,
+        /// Pages that are not as they were written are read all the same, and counted as lost: for
+        /// records of which the visitor can tell whether they are what they must be.
+        Believe,
+    };
+    explicit PageTreeReader(const PageFile& file, Doubt doubt = Doubt::PassOver);
 
     /// A record's identifier (0 in an index) and its bytes.
     using Visitor = std::function<void(qint64 rowId, QByteArrayView record)>;
@@ -33,6 +40,7 @@ private:
     class PageBytesReader;
 
     const PageFile& m_file;
+    Doubt m_doubt;
     std::vector<bool> m_isVisited;
     qint64 m_lostPages = 0;
 

@@ -3,10 +3,12 @@
 
 #include "propdb/statement.h"
 
-#include <QMap>
+#include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <utility>
 
 namespace Quillory {
@@ -104,19 +106,32 @@ Result<void> InsertSortOrder(
     return insert->Run();
 }
 
+/// Whether the number in a column is one of 32 bits without a sign.
+bool Fits(const Statement& row, int column)
+{
+    const qint64 number = row.Int64(column);
+    return number >= 0 && number <= std::numeric_limits<quint32>::max();
+}
+
 Result<void> LoadDatabases(sqlite3* connection, VolumeSchema& volume)
 {
     auto select = Statement::Prepare(
         connection, u"SELECT oid, name, type, table_name FROM property_database ORDER BY oid"_s);
     if (!select)
         return select.Error();
+    QSet<QString> tables;
     while (select->Next()) {
         auto schema = std::make_shared<DatabaseSchema>();
         schema->oid = select->Oid(0);
         schema->name = select->Text(1);
         schema->type = static_cast<DatabaseType>(select->Int64(2));
         schema->tableName = select->Text(3);
-        volume.databases.push_back(std::move(schema));
+        const bool isOne = Fits(*select, 0) && Fits(*select, 2) && schema->oid != kNoObject
+            && volume.Find(schema->name) == nullptr && !tables.contains(schema->tableName);
+        if (!isOne || volume.All().size() >= kMaxDatabases)
+            return ErrorNumber::FileCorrupt;
+        tables.insert(schema->tableName);
+        volume.Insert(std::move(schema));
     }
     return select->Error();
 }
@@ -131,7 +146,9 @@ Result<void> LoadProperties(sqlite3* connection, const VolumeSchema& volume)
     while (select->Next()) {
         const auto schema = volume.Find(select->Oid(0));
         const auto id = static_cast<PropertyId>(select->Int64(1));
-        if (schema == nullptr || schema->Find(id) != nullptr || !IsStorableType(PropertyType(id)))
+        const bool isOne = Fits(*select, 0) && Fits(*select, 1) && schema != nullptr
+            && schema->Find(id) == nullptr && IsStorableType(PropertyType(id));
+        if (!isOne || schema->properties.size() >= kMaxDatabaseProperties)
             return ErrorNumber::FileCorrupt;
         schema->properties.push_back(
             { id, select->Text(2), select->Text(3), select->Int64(4) != 0 });
@@ -148,7 +165,9 @@ Result<void> LoadSortOrders(sqlite3* connection, const VolumeSchema& volume)
     while (select->Next()) {
         const auto schema = volume.Find(select->Oid(0));
         const auto id = static_cast<PropertyId>(select->Int64(1));
-        if (schema == nullptr || schema->Find(id) == nullptr)
+        // A database has one order at most.
+        if (!Fits(*select, 0) || !Fits(*select, 1) || schema == nullptr
+            || schema->Find(id) == nullptr || !schema->sortOrders.empty())
             return ErrorNumber::FileCorrupt;
         schema->sortOrders.push_back({ id });
     }
@@ -156,12 +175,12 @@ Result<void> LoadSortOrders(sqlite3* connection, const VolumeSchema& volume)
 }
 
 /// Name and words of everything the file should hold.
-QMap<QString, QString> ExpectedObjects(const VolumeSchema& volume)
+QHash<QString, QString> ExpectedObjects(const VolumeSchema& volume)
 {
-    QMap<QString, QString> expected;
+    QHash<QString, QString> expected;
     for (const SystemTable& table : kSystemTables)
         expected.insert(QString::fromLatin1(table.name), QString::fromLatin1(table.sql));
-    for (const auto& schema : volume.databases) {
+    for (const auto& [oid, schema] : volume.All()) {
         expected.insert(schema->tableName, TableSql(*schema));
         for (const SortOrder& order : schema->sortOrders) {
             const PropertyColumn& key = *schema->Find(order.key);
@@ -171,9 +190,9 @@ QMap<QString, QString> ExpectedObjects(const VolumeSchema& volume)
     return expected;
 }
 
-Result<QMap<QString, QString>> ActualObjects(sqlite3* connection)
+Result<QHash<QString, QString>> ActualObjects(sqlite3* connection)
 {
-    QMap<QString, QString> actual;
+    QHash<QString, QString> actual;
     auto select = Statement::Prepare(connection, u"SELECT name, sql FROM sqlite_schema"_s);
     if (!select)
         return select.Error();
@@ -195,16 +214,33 @@ const PropertyColumn* DatabaseSchema::Find(PropertyId id) const
 
 std::shared_ptr<DatabaseSchema> VolumeSchema::Find(ObjectId oid) const
 {
-    const auto found = std::find_if(databases.begin(), databases.end(),
-        [oid](const auto& schema) { return schema->oid == oid; });
-    return found == databases.end() ? nullptr : *found;
+    const auto found = m_databases.find(oid);
+    return found == m_databases.end() ? nullptr : found->second;
 }
 
 std::shared_ptr<DatabaseSchema> VolumeSchema::Find(const QString& name) const
 {
-    const auto found = std::find_if(databases.begin(), databases.end(),
-        [&name](const auto& schema) { return schema->name == name; });
-    return found == databases.end() ? nullptr : *found;
+    return Find(m_oids.value(name, kNoObject));
+}
+
+void VolumeSchema::Insert(std::shared_ptr<DatabaseSchema> database)
+{
+    m_oids.insert(database->name, database->oid);
+    m_databases[database->oid] = std::move(database);
+}
+
+void VolumeSchema::Remove(const DatabaseSchema& database)
+{
+    m_oids.remove(database.name);
+    m_databases.erase(database.oid);
+}
+
+void VolumeSchema::Rename(DatabaseSchema& database, const QString& name, DatabaseType type)
+{
+    m_oids.remove(database.name);
+    database.name = name;
+    database.type = type;
+    m_oids.insert(name, database.oid);
 }
 
 QString QuotedName(const QString& name)

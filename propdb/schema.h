@@ -5,6 +5,10 @@
 #include "propdb/result.h"
 #include "propdb/volume.h"
 
+#include <QHash>
+#include <QString>
+
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -36,13 +40,29 @@ struct DatabaseSchema
     [[nodiscard]] const PropertyColumn* Find(PropertyId id) const;
 };
 
-/// The layout of a whole volume as its own tables describe it.
-struct VolumeSchema
-{
-    std::vector<std::shared_ptr<DatabaseSchema>> databases;
+/// What a file may hold of each; more is no program's but one that wants to be slow.
+constexpr size_t kMaxDatabases = 25'000;
+constexpr size_t kMaxDatabaseProperties = 512;
 
+/// The layout of a whole volume as its own tables describe it.
+class VolumeSchema
+{
+public:
+    /// By their identifiers, oldest first.
+    using Databases = std::map<ObjectId, std::shared_ptr<DatabaseSchema>>;
+    [[nodiscard]] const Databases& All() const { return m_databases; }
+    /// Null if there is none.
     [[nodiscard]] std::shared_ptr<DatabaseSchema> Find(ObjectId oid) const;
     [[nodiscard]] std::shared_ptr<DatabaseSchema> Find(const QString& name) const;
+
+    /// Adds a database, or puts it in the place of the one with its identifier.
+    void Insert(std::shared_ptr<DatabaseSchema> database);
+    void Remove(const DatabaseSchema& database);
+    void Rename(DatabaseSchema& database, const QString& name, DatabaseType type);
+
+private:
+    Databases m_databases;
+    QHash<QString, ObjectId> m_oids;
 };
 
 /// The identifier in double quotes, as SQL wants it.
@@ -72,7 +92,8 @@ struct VolumeSchema
 [[nodiscard]] Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);
 
 /// Reads the layout and proves that the file holds these tables and indexes, in exactly the words
-/// in which this program makes them, and nothing else. FileCorrupt if not.
+/// in which this program makes them, and nothing else: each database with a name, an identifier and
+/// a table of its own, and no more than there may be. FileCorrupt if not.
 [[nodiscard]] Result<VolumeSchema> LoadVolumeSchema(sqlite3* connection);
 
 } // namespace Quillory

@@ -3,7 +3,9 @@
 
 #include "propdb/database.h"
 #include "propdb/database_state.h"
+#include "propdb/outside_change.h"
 #include "propdb/sqlite_error.h"
+#include "propdb/volume_check.h"
 #include "propdb/volume_state.h"
 
 #include <QDeadlineTimer>
@@ -101,8 +103,13 @@ Result<std::unique_ptr<Volume>> Volume::Mount(
     if (!file)
         return file.Error();
     auto state = std::make_unique<VolumeState>(std::move(*file), *realPath, access);
-    if (const auto connected = state->Connect(); !connected)
-        return connected.Error();
+    if (const auto connected = state->Connect(); !connected) {
+        // Looking at the file once more would drop the locks of its connection.
+        state.reset();
+        const bool isWhole
+            = connected.Error() == ErrorNumber::FileCorrupt && WasChangedOutside(*realPath);
+        return isWhole ? ErrorNumber::ChangedOutside : connected.Error();
+    }
     std::unique_ptr<Volume> volume(new Volume(std::move(state)));
     if (volume->m_state->file.HasJournal()) {
         const auto faults = volume->Check();
@@ -122,7 +129,7 @@ Result<std::vector<Volume::DatabaseInfo>> Volume::Databases()
     if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
         return refreshed.Error();
     std::vector<DatabaseInfo> infos;
-    for (const auto& schema : m_state->schema.databases)
+    for (const auto& [oid, schema] : m_state->schema.All())
         infos.push_back({ schema->oid, schema->name, schema->type });
     return infos;
 }
@@ -149,7 +156,7 @@ Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
         schema->sortOrders.assign(sortOrders.begin(), sortOrders.end());
         for (const PropertySpec& spec : specs)
             schema->properties.push_back(MakeColumn(*schema, spec, true));
-        m_state->schema.databases.push_back(schema);
+        m_state->schema.Insert(schema);
         done = CreateDatabaseSchema(m_state->connection.get(), *schema);
     }
     if (const auto ended = m_state->EndWrite(done); !ended)
@@ -180,8 +187,7 @@ Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseT
         return begun;
     Result<void> done = m_state->BeginSchemaChange();
     if (done) {
-        schema->name = name;
-        schema->type = type;
+        m_state->schema.Rename(*schema, name, type);
         done = RenameDatabaseSchema(m_state->connection.get(), *schema);
     }
     return m_state->EndWrite(done);
@@ -200,7 +206,7 @@ Result<void> Volume::DeleteDatabase(ObjectId oid)
         return begun;
     Result<void> done = m_state->BeginSchemaChange();
     if (done) {
-        std::erase(m_state->schema.databases, schema);
+        m_state->schema.Remove(*schema);
         done = DropDatabaseSchema(m_state->connection.get(), *schema);
     }
     return m_state->EndWrite(done);
@@ -257,20 +263,12 @@ Result<void> Volume::VerifyInPlace() const
 
 Result<std::vector<QString>> Volume::Check()
 {
-    std::vector<QString> faults;
-    auto check = Statement::Prepare(m_state->connection.get(), u"PRAGMA integrity_check"_s);
-    if (!check)
-        return check.Error();
-    while (check->Next()) {
-        const QString line = check->Text(0);
-        if (line != "ok"_L1)
-            faults.push_back(line);
-    }
-    if (check->Error() == ErrorNumber::FileCorrupt)
-        faults.push_back(u"a page of the file is not as it was written"_s);
-    else if (check->Error() != ErrorNumber::None)
-        return check->Error();
-    return faults;
+    return CheckVolume(*m_state);
+}
+
+Result<std::vector<QString>> Volume::CheckPages()
+{
+    return Quillory::CheckPages(*m_state);
 }
 
 Result<void> Volume::Backup(const QString& path)

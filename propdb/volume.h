@@ -41,7 +41,8 @@ public:
     /// Opens the file at `path`. Failures: InvalidName (no path, or one that ends in a slash),
     /// FileNotFound, PathNotFound, AccessDenied (also for a folder), TooManyLinks (its file has
     /// a second name), WriteProtected, SharingViolation (another process has it, or this one has it
-    /// already), BadFormat (not a volume), NotSupported (made by a newer program), FileCorrupt, and
+    /// already), BadFormat (not a volume), NotSupported (made by a newer program), FileCorrupt,
+    /// ChangedOutside (whole but for its checksums, as other programs leave it), and
     /// those of the operating system.
     [[nodiscard]] static Result<std::unique_ptr<Volume>> Mount(
         const QString& path, Disposition disposition, VolumeAccess access);
@@ -92,8 +93,11 @@ public:
     /// opened one can be read all the same.
     [[nodiscard]] Result<void> VerifyInPlace() const;
 
-    /// Reads the whole file and tells what is wrong with it, a line each; empty if nothing is.
+    /// Reads everything that the databases hold and tells what is wrong with it, a line each; empty
+    /// if nothing is.
     [[nodiscard]] Result<std::vector<QString>> Check();
+    /// The same of the file's pages, also those that are free: a backup takes these too.
+    [[nodiscard]] Result<std::vector<QString>> CheckPages();
     /// Writes a consistent copy to a new file of the same mode; FileExists if there is one of that
     /// name already.
     [[nodiscard]] Result<void> Backup(const QString& path);

@@ -61,17 +61,31 @@ Result<void> VolumeState::Connect()
         });
         !prepared)
         return prepared;
-    const auto step = readNextOid.Step();
-    if (!step)
-        return step.Error();
-    if (!*step || readNextOid.Int64(0) < 1)
-        return ErrorNumber::FileCorrupt;
-    nextOid = static_cast<quint64>(readNextOid.Int64(0));
-    readNextOid.Reset();
+    if (const auto read = ReadObjectCounter(); !read)
+        return read;
     const auto state = file.ReadState();
     if (state)
         stateSeen = *state;
     return state.Error();
+}
+
+Result<void> VolumeState::ReadObjectCounter()
+{
+    constexpr qint64 kPastLast = qint64 { 1 } << 32;
+    const auto step = readNextOid.Step();
+    if (!step)
+        return step.Error();
+    const qint64 next = *step ? readNextOid.Int64(0) : 0;
+    const auto second = *step ? readNextOid.Step() : step;
+    readNextOid.Reset();
+    if (!second)
+        return second.Error();
+    const auto& databases = schema.All();
+    const quint32 latest = databases.empty() ? 0 : static_cast<quint32>(databases.rbegin()->first);
+    if (*second || next <= qint64 { latest } || next > kPastLast)
+        return ErrorNumber::FileCorrupt;
+    nextOid = static_cast<quint64>(next);
+    return {};
 }
 
 Result<qint64> VolumeState::ReadFileVersion()
@@ -307,11 +321,9 @@ Result<void> VolumeState::ReloadSchema()
         return loaded;
     for (DatabaseState* database : openDatabases) {
         // Open databases go on sharing their layout with the volume.
-        for (auto& current : schema.databases) {
-            if (current->oid != database->schema->oid)
-                continue;
+        if (const auto current = schema.Find(database->schema->oid)) {
             *database->schema = *current;
-            current = database->schema;
+            schema.Insert(database->schema);
         }
         database->inserts.Clear();
         database->updates.Clear();

@@ -112,6 +112,8 @@ struct VolumeState
 private:
     [[nodiscard]] Result<void> PrepareStatements(
         std::initializer_list<std::pair<Statement*, const char*>> statements) const;
+    /// The next object identifier; FileCorrupt if a database has it or a later one.
+    [[nodiscard]] Result<void> ReadObjectCounter();
     /// The number of the file's state: another program's commit changes it, this one's do not.
     [[nodiscard]] Result<qint64> ReadFileVersion();
     /// Reads the schema and the number of the state that it is at least as new as.

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr PropertyId kName = MakePropertyId(11001, CEVT_LPWSTR);
+constexpr PropertyId kName = ListCatalogue::kByListName.key;
 constexpr PropertyId kMapName = MakePropertyId(11002, CEVT_LPWSTR);
 constexpr PropertyId kTableIcon = MakePropertyId(11003, CEVT_I2);
 constexpr PropertyId kTableOption = MakePropertyId(11004, CEVT_UI4);
@@ -26,15 +26,6 @@ constexpr PropertyId kTableColSizes = MakePropertyId(11007, CEVT_LPWSTR);
 constexpr PropertyId kColumnOrder = MakePropertyId(11008, CEVT_BLOB);
 constexpr PropertyId kTableFilters = MakePropertyId(11009, CEVT_BLOB);
 constexpr PropertyId kTableExpiryColour = MakePropertyId(11010, CEVT_UI4);
-
-constexpr SortOrder kByListName { kName };
-constexpr SortOrder kByRowName { PropName };
-
-const QString& CatalogueName()
-{
-    static const QString name = u"InvLists"_s;
-    return name;
-}
 
 /// The random numbers of map names and columns reach from 0 to here.
 constexpr int kMaxRandom = 32767;
@@ -57,7 +48,10 @@ QByteArray PackColumnOrder(const std::vector<quint32>& order)
 
 std::vector<quint32> UnpackColumnOrder(const QByteArray& bytes)
 {
-    std::vector<quint32> order(static_cast<size_t>(bytes.size()) / sizeof(quint32));
+    // One that is longer is none of this program's, which goes through it for each row.
+    const qsizetype size = bytes.size() / qsizetype { sizeof(quint32) };
+    std::vector<quint32> order(
+        static_cast<size_t>(size > ListCatalogue::kMaxColumnOrder ? 0 : size));
     if (!order.empty())
         qFromLittleEndian<quint32>(
             bytes.data(), static_cast<qsizetype>(order.size()), order.data());
@@ -147,10 +141,10 @@ bool HasSameWarnings(const InventoryList& a, const InventoryList& b)
         && a.TableWarnColour == b.TableWarnColour && a.TableExpiryColour == b.TableExpiryColour;
 }
 
-/// The name under which the rows of a list are kept aside. Map names end in a digit.
+/// The name under which the rows of a list are kept aside.
 QString DeletedName(const QString& mapName)
 {
-    return mapName + u'~';
+    return mapName + ListCatalogue::kDeletedMark;
 }
 
 /// Writes onto a record that there is; none is added.
@@ -170,7 +164,7 @@ ListCatalogue::OpenOutcome ListCatalogue::OpenCatalogue()
     if (!m_volume.Exists(kCatalogueType) && !CreateCatalogue())
         return OpenOutcome::CannotCreateTable;
     const bool isOpen
-        = m_volume.OpenSession() && m_volume.Open(CatalogueName(), kCatalogueType, kByListName);
+        = m_volume.OpenSession() && m_volume.Open(kDatabaseName, kCatalogueType, kByListName);
     return isOpen ? OpenOutcome::Opened : OpenOutcome::CannotOpen;
 }
 
@@ -182,9 +176,9 @@ bool ListCatalogue::IsWithoutTables() const
     return databases && databases->empty();
 }
 
-bool ListCatalogue::CreateCatalogue()
+std::span<const PropertySpec> ListCatalogue::RecordProperties()
 {
-    const std::array<PropertySpec, 9> specs { {
+    static const std::array<PropertySpec, 9> specs { {
         { kName, u"Name"_s },
         { kMapName, u"MapName"_s },
         { kTableIcon, u"TableIcon"_s },
@@ -195,7 +189,13 @@ bool ListCatalogue::CreateCatalogue()
         { kTableFilters, u"TableFilters"_s },
         { kTableExpiryColour, u"TableExpiryColour"_s },
     } };
-    return m_volume.Create(CatalogueName(), kCatalogueType, specs, std::span(&kByListName, 1))
+    return specs;
+}
+
+bool ListCatalogue::CreateCatalogue()
+{
+    return m_volume.Create(
+               kDatabaseName, kCatalogueType, RecordProperties(), std::span(&kByListName, 1))
         != kNoObject;
 }
 

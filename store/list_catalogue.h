@@ -3,6 +3,7 @@
 
 #include "store/data_volume.h"
 #include "store/inventory_list.h"
+#include "values/column_type.h"
 
 #include <functional>
 #include <optional>
@@ -17,6 +18,14 @@ public:
     static constexpr DatabaseType kRowsType { 71990002 };
     /// Rows that were deleted and are kept aside until PurgeDeleted().
     static constexpr DatabaseType kDeletedRowsType { 71990003 };
+    inline static const QString kDatabaseName = QStringLiteral("InvLists");
+    /// What the names of set-aside rows end in. Map names end in a digit.
+    static constexpr QChar kDeletedMark { u'~' };
+    /// The orders of lists and of rows: by their names.
+    static constexpr SortOrder kByListName { MakePropertyId(11001, CEVT_LPWSTR) };
+    static constexpr SortOrder kByRowName { PropName };
+    /// The longest order of columns that is read, in entries.
+    static constexpr qsizetype kMaxColumnOrder = 256;
 
     /// `volume` outlives the catalogue.
     explicit ListCatalogue(DataVolume& volume);
@@ -27,6 +36,9 @@ public:
         CannotCreateTable,
         CannotOpen,
     };
+    /// The properties that a list's record is declared to have.
+    [[nodiscard]] static std::span<const PropertySpec> RecordProperties();
+
     /// Opens the catalogue, making it in a fresh volume (not in one mounted for reading).
     [[nodiscard]] OpenOutcome OpenCatalogue();
     /// Whether the data file has no table at all, as one whose making was cut short: it has no

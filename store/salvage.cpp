@@ -115,6 +115,7 @@ Result<SalvageReport> Salvage(const DamagedVolume& volume, ListCatalogue* catalo
 {
     SalvageReport report;
     report.mayListsBeLost = volume.AreDatabasesLost();
+    report.wasChangedOutside = volume.WasChangedOutside();
     Definitions definitions = ReadDefinitions(volume, report);
     const auto& databases = volume.Databases();
     for (size_t i = 0; i < databases.size(); ++i) {
@@ -139,6 +140,7 @@ Result<SalvageReport> Salvage(const DamagedVolume& volume, ListCatalogue* catalo
     for (const InventoryList& lost : std::as_const(definitions))
         report.lostLists << lost.Name;
     report.lostLists.sort();
+    report.mendedPages = volume.MendedPages();
     return report;
 }
 

@@ -29,14 +29,19 @@ struct SalvageReport
     QStringList lostLists;
     /// Lists may have been lost without a trace.
     bool mayListsBeLost = false;
+    /// Another program had written into the file; what it held was taken as it stood.
+    bool wasChangedOutside = false;
+    /// Pages in which one bit had turned, and was turned back.
+    qint64 mendedPages = 0;
 };
 
 /// Tells what SalvageLists would save; writes nothing. The failures of DamagedVolume::Open.
 [[nodiscard]] Result<SalvageReport> ExamineLists(const QString& damaged);
 
-/// Saves what can be read of the data file `damaged`, which is never written, into a new data file
-/// of the same mode at `target`. FileExists if there is one, FileCorrupt if nothing can be saved;
-/// on any failure there is none afterwards. `damaged` must not be mounted in this process.
+/// Saves what can be read of the data file `damaged`, which is never written but by its own
+/// journal, into a new data file of the same mode at `target`. FileExists if there is one,
+/// FileCorrupt if nothing can be saved; on any failure there is none afterwards. `damaged` must not
+/// be mounted in this process.
 [[nodiscard]] Result<SalvageReport> SalvageLists(const QString& damaged, const QString& target);
 
 } // namespace Quillory

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/confined_vfs.h"
+#include "store/data_file_check.h"
+#include "tests/list_fixture.h"
 #include "tests/test_program.h"
 #include "tests/volume_fixture.h"
 
@@ -71,6 +73,15 @@ ErrorNumber Walk(Database& rows)
     return at.Error();
 }
 
+/// What opening the file, or a check of it, finds.
+QString Judge(const QString& path)
+{
+    const auto volume = Volume::Mount(path, Disposition::OpenExisting, VolumeAccess::ReadOnly);
+    if (!volume)
+        return volume.Error() == ErrorNumber::FileCorrupt ? u"refused"_s : u"no reason"_s;
+    return Take(CheckDataFile(**volume)).isEmpty() ? u"sound"_s : u"faulty"_s;
+}
+
 ErrorNumber Scan(Database& rows, const std::vector<PropertyId>& ids, ScanOrder order)
 {
     const auto done = rows.Scan(ids, order, [](ObjectId, auto) { return true; });
@@ -104,18 +115,50 @@ private Q_SLOTS:
         }
     }
 
-    void aForgedCatalogueIsRefused()
+    void aForgedCatalogueIsNotSound()
     {
-        for (const char* change :
-            { "UPDATE property_database SET name = 5",
-                "UPDATE property_database SET table_name = 5",
-                "UPDATE property SET name = x'414243'", "UPDATE property SET column_name = 2.5" }) {
-            VolumeFixture fixture;
-            MakeForgedRows(fixture, "\"Count\" = 1");
-            Forge(fixture.Path(), change);
-            const auto volume
-                = Volume::Mount(fixture.Path(), Disposition::OpenExisting, VolumeAccess::Exclusive);
-            QVERIFY2(volume.Error() == ErrorNumber::FileCorrupt, change);
+        ListFixture lists;
+        lists.MakeFullList(u"Pantry"_s);
+        lists.Add({ u"row"_s, u"1"_s });
+        lists.MakeFullList(u"Tools"_s);
+        lists.rows.reset();
+        lists.data->Unmount();
+        QCOMPARE(Judge(lists.Path()), u"sound"_s);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"forged.idb"_s);
+        // Databases: 1 the catalogue, 3 and 6 the rows; 2 and 5 are the lists, 4 the row.
+        for (const char* change : { "UPDATE property_database SET name = 5",
+                 "UPDATE property_database SET table_name = 5",
+                 "UPDATE property SET name = x'414243'", "UPDATE property SET column_name = 2.5",
+                 "UPDATE property_database SET table_name = (SELECT table_name FROM "
+                 "property_database WHERE oid = 3) WHERE oid = 6",
+                 "UPDATE property_database SET name = 'InvLists'",
+                 "UPDATE property_database SET oid = 4294967299 WHERE oid = 3",
+                 "UPDATE property_database SET type = type + 4294967296",
+                 "UPDATE property_database SET type = 7 WHERE oid = 3",
+                 "UPDATE property_database SET type = 71990003 WHERE oid = 3",
+                 "UPDATE property_database SET type = 71990001 WHERE oid = 3",
+                 "UPDATE property_database SET name = 'gone' WHERE oid = 3",
+                 "UPDATE property_database SET name = 'lists' WHERE oid = 1",
+                 "UPDATE property SET id = id + 4294967296",
+                 "UPDATE property SET id = 2 WHERE database = 3 AND position = 2",
+                 "UPDATE property SET is_declared = 0 WHERE database = 1 AND position = 1",
+                 "UPDATE object_counter SET next_oid = 6", "UPDATE object_counter SET next_oid = 4",
+                 "UPDATE object_counter SET next_oid = 4294967297",
+                 "INSERT INTO object_counter VALUES(9)", "DELETE FROM \"InvLists (1)\"",
+                 "UPDATE \"InvLists (1)\" SET \"MapName\" = 'none' WHERE oid = 2",
+                 "UPDATE \"InvLists (1)\" SET \"MapName\" = NULL",
+                 "UPDATE \"InvLists (1)\" SET \"Name\" = NULL",
+                 "UPDATE \"InvLists (1)\" SET \"MapName\" = (SELECT max(\"MapName\") FROM "
+                 "\"InvLists (1)\")",
+                 "UPDATE \"InvLists (1)\" SET oid = 4294967298 WHERE oid = 2",
+                 "UPDATE \"InvLists (1)\" SET oid = 7 WHERE oid = 2",
+                 "UPDATE \"InvLists (1)\" SET oid = -2 WHERE oid = 2",
+                 "UPDATE \"InvLists (1)\" SET \"TableIcon\" = 70000" }) {
+            QFile::remove(path);
+            QVERIFY(QFile::copy(lists.Path(), path));
+            Forge(path, change);
+            QVERIFY2(Judge(path) != u"sound"_s, change);
         }
     }
 };

@@ -68,6 +68,11 @@ private Q_SLOTS:
         QVERIFY(file.catalogue->UpdateListOptions(oid, read));
         QVERIFY(file.catalogue->ReadListDefinition(oid, &read).has_value());
         QVERIFY(read.columnOrder.empty());
+        // Nor is one read that would be gone through for ever.
+        read.columnOrder.assign(ListCatalogue::kMaxColumnOrder + 1, 0);
+        QVERIFY(file.catalogue->UpdateListOptions(oid, read));
+        QVERIFY(file.catalogue->ReadListHeader(oid, read));
+        QVERIFY(read.columnOrder.empty());
     }
 
     void optionsAndNameAreWrittenApart()

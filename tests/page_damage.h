@@ -19,7 +19,8 @@ inline QByteArray StoredText(const QString& text)
     return bytes;
 }
 
-/// Changes a byte of `text` on the last page of this kind that holds it. The file is not mounted.
+/// Turns each bit of a byte of `text` on the last page of this kind that holds it. The file is not
+/// mounted.
 inline void DamagePage(const QString& path, char kind, const QString& text)
 {
     QFile file(path);
@@ -28,7 +29,7 @@ inline void DamagePage(const QString& path, char kind, const QString& text)
     qsizetype place = bytes.lastIndexOf(StoredText(text));
     while (place > 0 && bytes[place & kPageMask] != kind)
         place = bytes.lastIndexOf(StoredText(text), place - 1);
-    if (place <= 0 || !file.seek(place) || !file.putChar(static_cast<char>(bytes[place] ^ 1)))
+    if (place <= 0 || !file.seek(place) || !file.putChar(static_cast<char>(~bytes[place])))
         qFatal("there is no page to damage");
 }
 

@@ -110,14 +110,17 @@ private:
     }
 };
 
-/// What is wrong about how the program takes a damaged file; empty if nothing is.
-QString JudgeDamaged(const FaultRun& run, const SampleFile& sample)
+/// What is wrong about how the program takes a damaged file; empty if nothing is. Whoever sealed
+/// his damage is found only where pages do not fit together.
+QString JudgeDamaged(const FaultRun& run, const SampleFile& sample, bool isToBeFound)
 {
     Session session;
     const ErrorNumber error = session.Start(run.DataFile());
     if (error != ErrorNumber::None)
         return HasNoReason(error) ? u"refused for no known reason"_s : QString();
-    const ErrorNumber checked = session.Check();
+    const ErrorNumber checked = session.CheckAll();
+    if (checked == ErrorNumber::None && isToBeFound)
+        return u"the check finds nothing"_s;
     const auto lists = session.ReadLists();
     const QString original = QString::fromUtf8(sample.contents);
     const QStringList lines = original.split(u"\r\n"_s);
@@ -149,7 +152,8 @@ void DamageFiles(FaultRun& run)
         const Files spoilt { { "data.idb", vandal.Spoil(sample.bytes, damage) } };
         run.Place(spoilt);
         alarm(kHangSeconds);
-        const QString wrong = JudgeDamaged(run, sample);
+        const QString wrong
+            = JudgeDamaged(run, sample, !IsSealed(damage) && spoilt.at("data.idb") != sample.bytes);
         alarm(0);
         run.Count();
         if (IsSealed(damage))

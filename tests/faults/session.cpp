@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/faults/session.h"
 
+#include "store/data_file_check.h"
 #include "tests/list_fixture.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
@@ -193,6 +194,14 @@ ErrorNumber Session::Check()
     if (!faults)
         return faults.Error();
     return faults->empty() ? ErrorNumber::None : ErrorNumber::FileCorrupt;
+}
+
+ErrorNumber Session::CheckAll()
+{
+    const auto faults = CheckDataFile(*m_volume.MountedVolume());
+    if (!faults)
+        return faults.Error();
+    return faults->isEmpty() ? ErrorNumber::None : ErrorNumber::FileCorrupt;
 }
 
 QByteArray BackupPath(const QByteArray& dataFile, int number)

@@ -39,8 +39,10 @@ public:
     [[nodiscard]] std::vector<ListText> ReadLists();
     /// Every list with its options and rows, or why something is missing.
     [[nodiscard]] Result<QByteArray> Contents();
-    /// What `quillory check` finds: None or FileCorrupt, or why it could not look.
+    /// What is wrong with what the file holds: None or FileCorrupt, or why it could not look.
     [[nodiscard]] ErrorNumber Check();
+    /// The same as `quillory check` finds it, which reads free pages too.
+    [[nodiscard]] ErrorNumber CheckAll();
     [[nodiscard]] ErrorNumber LastError() const { return m_volume.LastError(); }
 
 private:
