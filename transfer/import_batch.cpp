@@ -69,7 +69,7 @@ std::vector<quint32> ImportBatch::SortNames() const
     TextSort names(m_lines.size());
     QByteArray name;
     for (quint32 position = 0; const Line& line : m_lines) {
-        name.resize(static_cast<qsizetype>(line.nameLength * sizeof(char16_t)));
+        name.resize(qsizetype { line.nameLength } * qsizetype { sizeof(char16_t) });
         qToBigEndian<quint16>(m_text.data() + line.nameBegin, line.nameLength, name.data());
         names.Set(position++, name);
     }
