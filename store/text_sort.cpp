@@ -33,10 +33,12 @@ int Compare(const char* a, const char* b)
 
 } // namespace
 
-TextSort::TextSort(size_t count)
+TextSort::TextSort(size_t count, size_t bytes)
     : m_begins(count)
-    , m_bytes(kKeyBytes)
-{ }
+{
+    m_bytes.reserve(bytes == 0 ? 0 : bytes + (count + 1) * kKeyBytes);
+    m_bytes.resize(kKeyBytes);
+}
 
 void TextSort::Set(quint32 position, QByteArrayView text)
 {

@@ -14,8 +14,9 @@ namespace Quillory {
 class TextSort
 {
 public:
-    /// As many texts, all empty so far.
-    explicit TextSort(size_t count);
+    /// As many texts, all empty so far. Where it is known how many bytes they have, no more memory
+    /// is taken than they need.
+    explicit TextSort(size_t count, size_t bytes = 0);
 
     /// Gives the text of a position, once: big-endian UTF-16 without a NUL.
     void Set(quint32 position, QByteArrayView text);

@@ -66,7 +66,10 @@ void ImportBatch::Clear()
 
 std::vector<quint32> ImportBatch::SortNames() const
 {
-    TextSort names(m_lines.size());
+    size_t bytes = 0;
+    for (const Line& line : m_lines)
+        bytes += line.nameLength * sizeof(char16_t);
+    TextSort names(m_lines.size(), bytes);
     QByteArray name;
     for (quint32 position = 0; const Line& line : m_lines) {
         name.resize(qsizetype { line.nameLength } * qsizetype { sizeof(char16_t) });

@@ -18,7 +18,7 @@ struct ImportBatchLimits
 {
     size_t lines = 200'000;
     /// Characters; two bytes of memory each.
-    size_t text = 7'000'000;
+    size_t text = 5'000'000;
     /// Characters of a single line; a longer one is passed over.
     size_t line = kMaxLine;
 };
