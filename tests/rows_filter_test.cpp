@@ -67,7 +67,8 @@ private Q_SLOTS:
         add("the summary counts what is shown",
             checked + u"tap Menu; tap View Summary...; see Quantity|8, Price|0.40, Size|2"_s);
         add("Find searches a filtered list whole, and changes nothing",
-            bio + u"press Ctrl+F; type i; tap OK; see Rice, rice flour; on Rice; "
+            bio
+                + u"press Ctrl+F; type i; tap OK; see Rice, rice flour; on Rice; "
                   "press Del + -; hold Rice; see Rice, rice flour; see Quantity: 3, 5; "
                   "press Esc; at Pantry; see beans"_s);
         add("what is changed among the results stays there and is seen below",

@@ -185,10 +185,9 @@ private Q_SLOTS:
         File().Add({ u"c"_s, u"10"_s, u"c"_s, u"Checked"_s, u"-1"_s, u""_s, u"12/31/2025"_s });
         File().Add({ u"d"_s, u"2"_s, u"A"_s, u"Unchecked"_s, u"8.99"_s, u""_s, u"1/3/2026"_s });
         // The missing date is the first.
-        for (const auto& [column, lines] :
-            { std::pair { u"Shelf"_s, u"d, b, a, c"_s }, { u"Quantity"_s, u"b, d, a, c"_s },
-                { u"Bio"_s, u"a, b, d, c"_s }, { u"Price"_s, u"c, d, b, a"_s },
-                { u"Bought"_s, u"b, c, a, d"_s } }) {
+        for (const auto& [column, lines] : { std::pair { u"Shelf"_s, u"d, b, a, c"_s },
+                 { u"Quantity"_s, u"b, d, a, c"_s }, { u"Bio"_s, u"a, b, d, c"_s },
+                 { u"Price"_s, u"c, d, b, a"_s }, { u"Bought"_s, u"b, c, a, d"_s } }) {
             m_errand->Open();
             // The selection stays with its row.
             const QString sort = u"tap %1; see %2; on d; "_s.arg(column, lines);
