@@ -47,7 +47,7 @@ private Q_SLOTS:
     {
         const FrameErrand errand(u"Pantry"_s, "Tea\t3\r\nSalt\t5\r\n");
         const QString deleteRow = u"press Del; tap Yes; see Tea; "_s;
-        Act(deleteRow + u"press Ctrl+Z; see Salt, Tea; on Salt; "_s);
+        Act(deleteRow + u"press Ctrl+Z; see Salt, Tea; on Salt"_s);
         QVERIFY(!errand.pages->Top()->findChild<QWidget*>(u"undoBar"_s)->isVisible());
         Act(deleteRow
             + u"tap OK; tap Menu; tap Open Read Only; tap Pantry; press Ctrl+Z; see Tea; "

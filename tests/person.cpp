@@ -295,7 +295,7 @@ bool DoStep(const QString& verb, const QString& what)
 
 void Act(const QString& steps)
 {
-    for (const QString& step : steps.split(u"; "_s)) {
+    for (const QString& step : steps.split(u"; "_s, Qt::SkipEmptyParts)) {
         const QString verb = step.section(u' ', 0, 0);
         const QString what = step.section(u' ', 1);
         if (QTest::currentTestFailed())
