@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "rows/date_field.h"
 #include "rows/filter_page.h"
 #include "rows/filters_page.h"
 #include "tests/list_fixture.h"
+#include "tests/person.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
 #include "widgets/page_stack.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QTableView>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -62,11 +61,9 @@ private Q_SLOTS:
             = Table<PropertyId, QString, QString, int, QString>::Row();
         m_list = ListBeginningWith(first);
         ShowFilter({ .mode = FilterMode::Find, .entry = {} });
-        QCOMPARE(m_stack->Top()->Title(), u"Find"_s);
-        QCOMPARE(Find<QComboBox>("fieldBox")->currentText(), u"First"_s);
-        QCOMPARE(Find<QComboBox>("conditionBox")->currentText(), condition);
+        Act(u"at Find; see fieldBox: First; see conditionBox: "_s + condition);
         QCOMPARE(ShownValue(), value);
-        Press("ok");
+        Act(u"tap OK"_s);
         QCOMPARE(m_result, PageResult::Ok);
         QCOMPARE(m_state.entry.column, first);
         QCOMPARE(static_cast<int>(m_state.entry.condition), code);
@@ -75,40 +72,31 @@ private Q_SLOTS:
 
     void whatIsLookedForCanBeTypedAtOnce()
     {
-        m_list = ListBeginningWith(PropName);
-        Show(new FilterPage({ .mode = FilterMode::Find, .entry = {} }, m_list, m_context));
-        for (const Qt::Key key : { Qt::Key_T, Qt::Key_E, Qt::Key_A })
-            QTest::keyClick(m_stack->windowHandle(), key);
-        QCOMPARE(Find<QLineEdit>("valueEdit")->text(), u"tea"_s);
+        ShowFilter({ .mode = FilterMode::Find, .entry = {} });
+        Act(u"type tea; see valueEdit: tea"_s);
     }
 
     void anotherFieldChangesConditionsAndValue()
     {
         ShowFilter();
-        QCOMPARE(m_stack->Top()->Title(), u"Filter"_s);
-        auto* field = Find<QComboBox>("fieldBox");
-        field->setCurrentText(u"Date"_s);
+        Act(u"at Filter; choose fieldBox: Date"_s);
         QCOMPARE(Conditions(), u"on, not on, after, on or after, before, on or before"_s);
         QCOMPARE(ShownValue(), u"datePicker"_s);
-        field->setCurrentText(u"Bio"_s);
+        Act(u"choose fieldBox: Bio; see conditionBox: equals to"_s);
         QCOMPARE(Conditions(), u"equals to, not equals to"_s);
-        QCOMPARE(Find<QComboBox>("conditionBox")->currentIndex(), 0);
         QCOMPARE(ShownValue(), u"checkboxValueBox"_s);
-        field->setCurrentText(u"Text"_s);
+        Act(u"choose fieldBox: Text"_s);
         QCOMPARE(Conditions(), u"contains, equals to, not equals to"_s);
         QCOMPARE(ShownValue(), u"valueEdit"_s);
     }
 
     void aStoredEntryIsShown()
     {
-        ShowFilter({ .entry = { m_list.columns[4].id, FilterCondition::Equals, u"2/29/2024"_s } });
-        QCOMPARE(Find<QComboBox>("fieldBox")->currentText(), u"Date"_s);
         // The code is taken for a position.
-        QCOMPARE(Find<QComboBox>("conditionBox")->currentText(), u"not on"_s);
-        QCOMPARE(Find<QLineEdit>("dateEdit")->text(), u"2/29/2024"_s);
+        ShowFilter({ .entry = { m_list.columns[4].id, FilterCondition::Equals, u"2/29/2024"_s } });
+        Act(u"see fieldBox: Date; see conditionBox: not on; see dateEdit: 2/29/2024; tap OK"_s);
         ShowFilter({ .entry = { m_list.columns[2].id, FilterCondition::Contains, u"T"_s } });
-        QCOMPARE(Find<QComboBox>("conditionBox")->currentIndex(), -1);
-        QCOMPARE(Find<QComboBox>("checkboxValueBox")->currentText(), u"Checked"_s);
+        Act(u"see conditionBox: ; see checkboxValueBox: Checked"_s);
     }
 
     void typedDatesAreReadOrKeepThePage_data()
@@ -124,20 +112,12 @@ private Q_SLOTS:
         const auto [typed, value] = Table<QString, QString>::Row();
         m_list = ListBeginningWith(PropExpiryDate);
         ShowFilter();
-        QVERIFY(QTest::qWaitForWindowActive(m_stack.get()));
-        auto* edit = Find<QLineEdit>("dateEdit");
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Delete);
-        QTest::keyClicks(edit, typed);
-        Press("ok");
+        Act(u"fill dateEdit: %1; tap OK"_s.arg(typed));
         QCOMPARE(m_state.entry.value, value);
         if (m_result.has_value())
             return;
-        auto* message = m_stack->findChild<QMessageBox*>();
-        QVERIFY(message != nullptr);
-        QTest::keyClick(message, Qt::Key_Return);
-        QTRY_COMPARE(QApplication::focusWidget(), edit);
-        QCOMPARE(edit->text(), typed);
+        Act(u"press Return; see dateEdit: "_s + typed);
+        QTRY_COMPARE(QApplication::focusWidget()->objectName(), u"dateEdit"_s);
         QVERIFY(m_stack->Top()->HasUnsavedInput());
     }
 
@@ -145,9 +125,9 @@ private Q_SLOTS:
     {
         ShowFilter();
         QVERIFY(!m_stack->Top()->HasUnsavedInput());
-        Find<QComboBox>("fieldBox")->setCurrentText(u"Bio"_s);
+        Act(u"choose fieldBox: Bio"_s);
         QVERIFY(m_stack->Top()->HasUnsavedInput());
-        Press("leftKey");
+        Act(u"tap Cancel"_s);
         QCOMPARE(m_result, PageResult::Cancel);
         QCOMPARE(m_state.entry.column, PropertyId {});
         QCOMPARE(m_state.entry.condition, FilterCondition::Contains);
@@ -162,61 +142,52 @@ private Q_SLOTS:
         AddFilter(filters, m_list.columns[2].id, FilterCondition::None, u"x"_s);
         AddFilter(filters, m_list.columns[4].id, FilterCondition::LessOrEqual, u"1/2/2027"_s);
         ShowFilters(filters);
-        QCOMPARE(Lines(),
-            u"First|not equals to|salt\nBio|equals to|Unchecked\nBio||Checked\n"
+        Act(u"see First|not equals to|salt, Bio|equals to|Unchecked, Bio||Checked, "
             "Date|on or before|1/2/2027"_s);
-        const auto* view = Find<QTableView>("filterList");
+        const auto* view = m_stack->Top()->findChild<QTableView*>();
         QCOMPARE(view->columnWidth(0), view->viewport()->width() / 3);
     }
 
-    void removingTakesTheSelectedFilter()
+    void filtersAreAddedRemovedAndCleared_data()
     {
+        const Table<QString, QString> add;
+        add("removing takes the selected one",
+            u"tap b; press Del; see First|contains|a, First|contains|c"_s, u"a c"_s);
+        add("also the last", u"tap c; tap Menu; tap Remove"_s, u"a b"_s);
+        add("both ask for a selection",
+            u"press Del; tap Menu; see (Remove), (Clear All); press Esc"_s, u"a b c"_s);
+        add("all are cleared",
+            u"tap b; tap Menu; tap Clear All; see nothing; tap Menu; see (Remove), (Clear All); "
+            "press Esc"_s,
+            {});
+        add("a cancelled one is added fresh",
+            u"tap a; tap Menu; tap Clear All; tap Add; at Filter; press Esc; tap Add; "
+            "fill valueEdit: xyz; tap OK; see |contains|, First|contains|xyz"_s,
+            u" xyz"_s);
+    }
+
+    void filtersAreAddedRemovedAndCleared()
+    {
+        const auto [steps, left] = Table<QString, QString>::Row();
         FilterSet filters;
         for (const QString& value : { u"a"_s, u"b"_s, u"c"_s })
             AddFilter(filters, PropName, FilterCondition::Contains, value);
         const FiltersPage* page = ShowFilters(filters);
-        Find<QTableView>("filterList")->selectRow(1);
-        QTest::keyClick(Find<QTableView>("filterList"), Qt::Key_Delete);
-        QCOMPARE(Lines(), u"First|contains|a\nFirst|contains|c"_s);
-        QCOMPARE(page->Filters().entries.size(), 2U);
-        QCOMPARE(page->Filters().entries[1].value, u"c"_s);
-        Find<QTableView>("filterList")->selectRow(1);
-        QTest::keyClick(Find<QTableView>("filterList"), Qt::Key_Delete);
-        QCOMPARE(page->Filters().entries.back().value, u"a"_s);
-    }
-
-    void clearingAsksForASelection()
-    {
-        FilterSet filters;
-        AddFilter(filters, PropName, FilterCondition::Contains, u"a"_s);
-        FiltersPage* page = ShowFilters(filters);
-        for (const Command command : { Command::Delete, Command::ClearAllFilters }) {
-            page->Trigger(command);
-            QVERIFY(!page->ActionOf(command)->isEnabled());
-        }
-        QCOMPARE(page->Filters().entries.size(), 1U);
-        Find<QTableView>("filterList")->selectRow(0);
-        page->Trigger(Command::ClearAllFilters);
-        QCOMPARE(Lines(), QString());
-        QVERIFY(page->Filters().entries.empty());
-        QVERIFY(!page->ActionOf(Command::ClearAllFilters)->isEnabled());
-    }
-
-    void addThenCancelAddsTheFreshEntry()
-    {
-        const FiltersPage* page = ShowFilters({});
-        Press("leftKey");
-        QCOMPARE(m_stack->Top()->objectName(), u"filter"_s);
-        QTest::keyClick(m_stack->Top(), Qt::Key_Escape);
-        Press("leftKey");
-        QTest::keyClicks(Find<QWidget>("valueEdit"), QString(200, u'x'));
-        Press("ok");
-        QCOMPARE(m_stack->Top(), page);
-        QCOMPARE(Lines(), u"|contains|\nFirst|contains|"_s + QString(127, u'x'));
-        QCOMPARE(page->Filters().entries[0].column, PropertyId {});
+        Act(steps);
+        QStringList values;
+        for (const FilterEntry& entry : page->Filters().entries)
+            values << entry.value;
+        QCOMPARE(values.join(u' '), left);
         QVERIFY(!m_result.has_value());
-        QTest::keyClick(m_stack->Top(), Qt::Key_Escape);
+        Act(u"press Esc"_s);
         QVERIFY(m_result.has_value());
+    }
+
+    void aValueIsNoLongerThanItsFilterKeeps()
+    {
+        ShowFilter();
+        Act(u"fill valueEdit: %1; tap OK"_s.arg(QString(200, u'x')));
+        QCOMPARE(m_state.entry.value, QString(127, u'x'));
     }
 
 private:
@@ -226,62 +197,44 @@ private:
     std::optional<PageResult> m_result;
     FilterDialogState m_state;
 
-    template <typename T> [[nodiscard]] T* Find(const char* name) const
+    void Show(Page* page, const std::function<void(PageResult)>& then)
     {
-        return m_stack->Top()->findChild<T*>(QLatin1StringView(name));
-    }
-    void Show(Page* page)
-    {
-        m_stack->Push(page, [this](PageResult result) { m_result = result; });
+        m_stack->Push(page, then);
         m_stack->resize(360, 640);
         m_stack->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_stack.get()));
     }
     void ShowFilter(FilterDialogState state = {})
     {
         auto* page = new FilterPage(std::move(state), m_list, m_context);
-        m_stack->Push(page, [this, page](PageResult result) {
+        Show(page, [this, page](PageResult result) {
             m_result = result;
             m_state = page->State();
         });
-        m_stack->show();
     }
     FiltersPage* ShowFilters(const FilterSet& filters)
     {
         auto* page = new FiltersPage(filters, m_list, m_context);
-        Show(page);
+        Show(page, [this](PageResult result) { m_result = result; });
         return page;
     }
-    void Press(const char* name) const { QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton); }
     [[nodiscard]] QString Conditions() const
     {
         QStringList texts;
-        for (int i = 0; i < Find<QComboBox>("conditionBox")->count(); ++i)
-            texts << Find<QComboBox>("conditionBox")->itemText(i);
+        const auto* box = m_stack->Top()->findChild<QComboBox*>(u"conditionBox"_s);
+        for (int i = 0; i < box->count(); ++i)
+            texts << box->itemText(i);
         return texts.join(u", ");
     }
     /// The value controls that can be used; there must be one.
     [[nodiscard]] QString ShownValue() const
     {
         QStringList names;
-        for (const char* name : { "valueEdit", "checkboxValueBox", "datePicker" }) {
-            const auto* control = Find<QWidget>(name);
+        for (const QString& name : { u"valueEdit"_s, u"checkboxValueBox"_s, u"datePicker"_s }) {
+            const auto* control = m_stack->Top()->findChild<QWidget*>(name);
             if (control->isVisible() && control->isEnabled())
-                names << QLatin1StringView(name);
+                names << name;
         }
         return names.join(u' ');
-    }
-    [[nodiscard]] QString Lines() const
-    {
-        const auto* model = Find<QTableView>("filterList")->model();
-        QStringList lines;
-        for (int line = 0; line < model->rowCount(); ++line) {
-            QStringList cells;
-            for (int column = 0; column < 3; ++column)
-                cells << model->index(line, column).data().toString();
-            lines << cells.join(u'|');
-        }
-        return lines.join(u'\n');
     }
 };
 

@@ -5,10 +5,8 @@
 #include "tests/table.h"
 #include "tests/test_program.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QSessionManager>
-#include <QTabBar>
 #include <QTimer>
 
 #include <optional>
@@ -65,75 +63,33 @@ struct FrontCase
     /// For whatever ends the pages.
     Before before;
     Keys keys;
-    void (*open)(FrameErrand& errand);
+    /// What opens it.
+    QString steps;
 };
 
-/// A command, of a list's page if that is opened first, and a letter typed then if there is one.
-template <Command kCommand, bool kIsInList = false, char kLetter = 0> void Do(FrameErrand& errand)
-{
-    if (kIsInList)
-        errand.Tap(0);
-    errand.Choose(kCommand);
-    if (kLetter != 0)
-        QTest::keyClick(errand.frame->windowHandle(), kLetter);
-}
-
-void OpenContextMenu(FrameErrand& errand)
-{
-    const QPoint place = errand.view->visualRect(errand.view->currentIndex()).center();
-    QContextMenuEvent event(
-        QContextMenuEvent::Mouse, place, errand.view->viewport()->mapToGlobal(place));
-    QApplication::sendEvent(errand.view->viewport(), &event);
-}
-
-void OpenColours(FrameErrand& errand)
-{
-    errand.Choose(Command::ListProperties);
-    errand.pages->Top()->findChild<QTabBar*>()->setCurrentIndex(1);
-    errand.Press(u"warnOnCount"_s);
-    errand.Press(u"countColour"_s);
-}
-
-void OpenCalendar(FrameErrand& errand)
-{
-    Do<Command::New, true>(errand);
-    for (int field = 0; field < Expiry; ++field)
-        QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Down);
-    errand.Press(u"openCalendar"_s);
-}
-
-void OpenDropDown(FrameErrand& errand)
-{
-    Do<Command::Find, true>(errand);
-    errand.pages->Top()->findChild<QComboBox*>(u"fieldBox"_s)->showPopup();
-}
-
 const std::array kFronts {
-    FrontCase { "the lists", Before::Nothing, Keys::Page, [](FrameErrand&) {} },
-    FrontCase { "a list", Before::Nothing, Keys::Page, [](FrameErrand& errand) { errand.Tap(0); } },
-    FrontCase { "a page", Before::Nothing, Keys::Page, Do<Command::Options> },
-    FrontCase { "a page with input", Before::Question, Keys::Page, Do<Command::New, false, 'X'> },
-    FrontCase { "a page over input", Before::Question, Keys::Page,
-        [](FrameErrand& errand) {
-            Do<Command::New, false, 'X'>(errand);
-            errand.Press(u"allIcons"_s);
-        } },
-    FrontCase { "a Find with input", Before::Question, Keys::Page, Do<Command::Find, true, 'X'> },
+    FrontCase { "the lists", Before::Nothing, Keys::Page, u"see Pantry, Zoo"_s },
+    FrontCase { "a list", Before::Nothing, Keys::Page, u"tap Pantry"_s },
+    FrontCase { "a page", Before::Nothing, Keys::Page, u"tap Menu; tap Options..."_s },
+    FrontCase { "a page with input", Before::Question, Keys::Page, u"tap New; type X"_s },
+    FrontCase {
+        "a page over input", Before::Question, Keys::Page, u"tap New; type X; tap allIcons"_s },
+    FrontCase { "a Find with input", Before::Question, Keys::Page,
+        u"tap Pantry; tap Menu; tap Find...; type X"_s },
     FrontCase { "an editor in place", Before::Nothing, Keys::EditorInPlace,
-        Do<Command::Rename, false, 'X'> },
-    FrontCase { "a menu", Before::Nothing, Keys::InFront,
-        [](FrameErrand& errand) { errand.Press(u"rightKey"_s); } },
-    FrontCase { "a menu of a list", Before::Nothing, Keys::InFront,
-        [](FrameErrand& errand) {
-            errand.Tap(0);
-            errand.Press(u"rightKey"_s);
-        } },
-    FrontCase { "a context menu", Before::Nothing, Keys::InFront, OpenContextMenu },
-    FrontCase { "colours over input", Before::Question, Keys::InFront, OpenColours },
-    FrontCase { "a calendar", Before::Nothing, Keys::InFront, OpenCalendar },
-    FrontCase { "a drop-down list", Before::Nothing, Keys::InFront, OpenDropDown },
-    FrontCase { "a question", Before::Answer, Keys::InFront, Do<Command::Delete> },
-    FrontCase { "the file dialog", Before::Answer, Keys::InFront, Do<Command::Export> },
+        u"tap Menu; tap Rename List; type X"_s },
+    FrontCase { "a menu", Before::Nothing, Keys::InFront, u"tap Menu"_s },
+    FrontCase { "a menu of a list", Before::Nothing, Keys::InFront, u"tap Pantry; tap Menu"_s },
+    FrontCase { "a context menu", Before::Nothing, Keys::InFront, u"hold Pantry"_s },
+    FrontCase { "colours over input", Before::Question, Keys::InFront,
+        u"tap Menu; tap List Properties...; tap Options; tap warnOnCount; tap countColour"_s },
+    FrontCase { "a calendar", Before::Nothing, Keys::InFront,
+        u"tap Pantry; tap New; tap Expiry Date; tap openCalendar"_s },
+    FrontCase { "a drop-down list", Before::Nothing, Keys::InFront,
+        u"tap Pantry; tap Menu; tap Find...; tap fieldBox"_s },
+    FrontCase { "a question", Before::Answer, Keys::InFront, u"tap Menu; tap Delete List..."_s },
+    FrontCase {
+        "the file dialog", Before::Answer, Keys::InFront, u"tap Menu; tap Export List..."_s },
 };
 
 enum class Effect
@@ -340,19 +296,18 @@ private Q_SLOTS:
         full.data->Unmount();
         QVERIFY(QFile::copy(full.Path(), errand.DataPath()));
         Start(errand, what, { u"Zoo"_s });
-        over.open(errand);
+        Act(over.steps);
         const QString seen = Seen(errand);
         what.happen(errand);
         const bool isMetLater = outcome == AsksFirst || outcome == AfterTheAnswer;
         QCOMPARE(desktop.refusals, isMetLater && what.effect == Effect::EndsPagesIfNeeded ? 1 : 0);
         if (outcome == AsksFirst) {
-            errand.Answer(QMessageBox::Yes);
-            QVERIFY(errand.question.contains(u"discard"_s));
+            Act(u"see Do you want to discard what you have entered?; tap Yes"_s);
         } else if (outcome != AtOnce) {
             QCoreApplication::processEvents();
             QVERIFY(IsVisible(errand) && (outcome != AfterTheAnswer || !what.isDone(errand)));
             if (outcome == IsTakenOver)
-                QCOMPARE(errand.Lines(), u"X, Zoo"_s);
+                Act(u"see X, Zoo"_s);
             else
                 QCOMPARE(Seen(errand), seen);
             if (outcome != AfterTheAnswer)
@@ -392,11 +347,8 @@ private:
         errand.MakeLists(needsChange ? QStringList { u"Attic"_s } + lists : lists);
         errand.Start();
         MeetEndRequests(m_endRequests, *errand.frame);
-        if (needsChange) {
-            errand.Choose(Command::Delete);
-            errand.Answer(QMessageBox::Yes);
-            errand.ComeBack();
-        }
+        if (needsChange)
+            Act(kDeleteList);
     }
 
     /// The first sentence of each box until then.
@@ -442,7 +394,7 @@ private:
             isVisible = IsVisible(errand) && !IsZooOpen(errand);
         });
         timer.start(0);
-        errand.PressOk();
+        QTest::mouseClick(errand.pages->Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
         timer.stop();
         if (!isWithin)
             return false;

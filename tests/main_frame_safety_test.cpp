@@ -5,7 +5,6 @@
 #include "tests/test_program.h"
 
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QProgressDialog>
 #include <QTableView>
 #include <QTimer>
@@ -31,73 +30,31 @@ private Q_SLOTS:
     void aDeletedListComesBack()
     {
         FrameErrand errand({ u"Attic"_s, u"Pantry"_s });
-        errand.Choose(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        auto* bar = errand.home->findChild<QWidget*>(u"undoBar"_s);
+        Act(kDeleteList);
+        auto* bar = errand.pages->Top()->findChild<QWidget*>(u"undoBar"_s);
         QVERIFY(bar->isVisible());
-        QTest::mouseClick(bar->findChild<QWidget*>(u"undo"_s), Qt::LeftButton);
+        Act(u"tap undo; see Attic, Pantry; on Attic"_s);
         QVERIFY(!bar->isVisible());
-        QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
-        QCOMPARE(errand.home->SelectedName(), u"Attic"_s);
         // The offer goes of itself, and the keys undo all the same.
         bar->findChild<QTimer*>()->setInterval(1);
-        errand.Choose(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
+        Act(kDeleteList);
         QTRY_VERIFY(!bar->isVisible());
-        errand.ComeBack();
-        QTest::keyClick(errand.view, Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
-        errand.Restart();
-        QCOMPARE(errand.Lines(), u"Attic, Pantry"_s);
+        Act(u"see Pantry; press Ctrl+Z; see Attic, Pantry"_s);
+        QCOMPARE(errand.ListsAtEnd(), u"Attic 0, Pantry 0"_s);
     }
 
-    void aDeletedRowComesBack()
+    void deletedRowsComeBackWhereTheyMayBeWritten()
     {
-        FrameErrand errand({ u"Pantry"_s });
-        errand.Import("Tea\t3\r\nSalt\t5\r\n");
-        errand.PressOk();
-        Page* rows = errand.pages->Top();
-        auto* table = rows->findChild<QTableView*>();
-        rows->Trigger(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        QCOMPARE(table->model()->rowCount(), 1);
-        QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(table->model()->rowCount(), 2);
-        QCOMPARE(table->currentIndex().data().toString(), u"Salt"_s);
-        QVERIFY(!rows->findChild<QWidget*>(u"undoBar"_s)->isVisible());
+        const FrameErrand errand(u"Pantry"_s, "Tea\t3\r\nSalt\t5\r\n");
+        const QString deleteRow = u"press Del; tap Yes; see Tea; "_s;
+        Act(deleteRow + u"press Ctrl+Z; see Salt, Tea; on Salt"_s);
+        QVERIFY(!errand.pages->Top()->findChild<QWidget*>(u"undoBar"_s)->isVisible());
+        Act(deleteRow
+            + u"tap OK; tap Menu; tap Open Read Only; tap Pantry; press Ctrl+Z; see Tea; "
+              "tap OK; tap Menu; tap Open Read Only; tap Pantry; press Ctrl+Z; see Salt, Tea"_s);
         // All of them, deleted from outside the list and brought back inside it.
-        errand.PressOk();
-        errand.Choose(Command::DeleteAllRecords);
-        errand.Answer(QMessageBox::Yes);
-        errand.Tap(0);
-        table = errand.pages->Top()->findChild<QTableView*>();
-        QCOMPARE(table->model()->rowCount(), 0);
-        QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(table->model()->rowCount(), 2);
-    }
-
-    void nothingComesBackIntoAListThatIsOnlyRead()
-    {
-        FrameErrand errand({ u"Pantry"_s });
-        errand.Import("Tea\t3\r\nSalt\t5\r\n");
-        errand.PressOk();
-        errand.pages->Top()->Trigger(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        errand.ComeBack();
-        QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Escape);
-        QCOMPARE(errand.pages->Top(), errand.home);
-        errand.Choose(Command::OpenReadOnly);
-        errand.Tap(0);
-        const auto* model = errand.pages->Top()->findChild<QTableView*>()->model();
-        QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(model->rowCount(), 1);
-        // It does once the list may be written again.
-        QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Escape);
-        errand.Choose(Command::OpenReadOnly);
-        errand.Tap(0);
-        model = errand.pages->Top()->findChild<QTableView*>()->model();
-        QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(model->rowCount(), 2);
+        Act(u"tap OK; tap Menu; tap Delete All Records...; tap Yes; "
+            "tap Pantry; see nothing; press Ctrl+Z; see Salt, Tea"_s);
     }
 
     void aFailedWriteIsToldOnceAndWorkGoesOn()
@@ -106,55 +63,36 @@ private Q_SLOTS:
         const QString away = errand.DataPath() + u".away"_s;
         // As when the card is pulled out, and put back.
         QVERIFY(QFile::rename(errand.DataPath(), away));
-        errand.Tap(1);
-        QTest::keyClick(errand.pages->Top(), Qt::Key_Escape);
-        errand.Answer(QMessageBox::Cancel);
-        QCOMPARE(errand.Lines(), u"Attic, Zoo"_s);
-        errand.Tap(1);
-        QTest::keyClick(errand.pages->Top(), Qt::Key_Escape);
+        Act(u"tap Zoo; press Esc; tap Cancel; see Attic, Zoo; tap Zoo; press Esc"_s);
+        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
         QVERIFY(QFile::rename(away, errand.DataPath()));
-        errand.Answer(QMessageBox::Retry);
-        QVERIFY(errand.question.contains(u"could not be saved"_s));
-        QCOMPARE(errand.Lines(), u"Attic, Zoo"_s);
-        errand.Choose(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        errand.Restart();
-        QCOMPARE(errand.Lines(), u"Attic"_s);
+        const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box->text().contains(u"could not be saved"_s));
+        Act(u"tap Retry; see Attic, Zoo; "_s + kDeleteList);
+        QCOMPARE(errand.ListsAtEnd(), u"Attic 0"_s);
     }
 
     void whatCouldNotBeStoredIsTypedOnlyOnce()
     {
-        FrameErrand errand({ u"Pantry"_s });
-        errand.Tap(0);
-        Page* rows = errand.pages->Top();
-        rows->Trigger(Command::New);
-        QTest::keyClicks(QApplication::focusWidget(), u"Tea"_s);
+        const FrameErrand errand({ u"Pantry"_s });
         const QString away = errand.DataPath() + u".away"_s;
+        Act(u"tap Pantry; tap New; type Tea"_s);
         QVERIFY(QFile::rename(errand.DataPath(), away));
-        errand.PressOk();
-        QVERIFY(errand.pages->Top() != rows);
+        Act(u"tap OK"_s);
         QVERIFY(QFile::rename(away, errand.DataPath()));
-        errand.Answer(QMessageBox::Retry);
-        errand.PressOk();
-        QCOMPARE(errand.pages->Top(), rows);
-        const auto* model = rows->findChild<QTableView*>()->model();
-        QCOMPARE(model->rowCount(), 1);
-        QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
+        Act(u"tap Retry; see valueEdit: Tea; tap OK; see Tea; at Pantry"_s);
     }
 
     void aSheetThatCouldNotBeStoredComesBack()
     {
-        for (const auto& [command, lists] : { std::pair(Command::New, u"Attic 0, Pantry 0"_s),
-                 std::pair(Command::ListProperties, u"Pantry 0"_s) }) {
+        for (const auto& [command, lists] : { std::pair(u"tap New"_s, u"Attic 0, Pantry 0"_s),
+                 std::pair(u"tap Menu; tap List Properties..."_s, u"Pantry 0"_s) }) {
             FrameErrand errand({ u"Attic"_s });
-            errand.Choose(command);
-            auto* field = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
-            field->selectAll();
-            QTest::keyClicks(field, u"Pantry"_s);
+            Act(command + u"; fill listName: Pantry"_s);
             QStringList told;
             {
                 const NoRoom full;
-                errand.PressOk();
+                Act(u"tap OK"_s);
                 QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
                 while (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                     // One at a time, and the one that is seen has the keyboard.
@@ -166,31 +104,24 @@ private Q_SLOTS:
             }
             QCOMPARE(told.last(), u"The change"_s);
             QCOMPARE(told.count(u"The change"_s), 1);
-            field = errand.pages->Top()->findChild<QLineEdit*>(u"listName"_s);
-            QVERIFY(field != nullptr);
-            QCOMPARE(field->text(), u"Pantry"_s);
+            Act(u"see listName: Pantry"_s);
             QVERIFY(errand.pages->Top()->HasUnsavedInput());
-            errand.ComeBack();
-            errand.PressOk();
-            QVERIFY(errand.frame->close());
-            errand.frame.reset();
-            QCOMPARE(ListsIn(errand.DataPath()), lists);
+            Act(u"tap OK"_s);
+            QCOMPARE(errand.ListsAtEnd(), lists);
         }
     }
 
     void whatWasChangedBeforeAWriteFailedIsKept()
     {
         FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
-        errand.Choose(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        errand.Tap(0);
+        Act(kDeleteList + u"; tap Zoo"_s);
         auto* header = errand.pages->Top()->findChild<QTableView*>()->horizontalHeader();
         header->resizeSection(0, header->sectionSize(0) + 10);
         {
             const NoRoom full;
             QVERIFY(!errand.frame->close());
         }
-        errand.Answer(QMessageBox::Cancel);
+        Act(u"tap Cancel"_s);
         QTRY_VERIFY(!errand.frame->isVisible());
         QCOMPARE(errand.NewestCopy(), u"Zoo 0"_s);
     }
@@ -203,28 +134,15 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(errand.DataPath(), older));
         errand.Start();
         errand.Import("Rice\t2\r\nSalt\t5\r\n");
-        errand.PressOk();
-        Page* rows = errand.pages->Top();
-        const auto* model = rows->findChild<QTableView*>()->model();
-        QCOMPARE(model->rowCount(), 2);
-        rows->Trigger(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        rows->Trigger(Command::New);
-        QTest::keyClicks(QApplication::focusWidget(), u"Tea"_s);
+        Act(u"tap OK; see Rice, Salt; press Del; tap Yes; tap New; type Tea"_s);
         errand.ReplaceDataFile(older);
-        errand.PressOk();
-        errand.Answer(QMessageBox::Retry);
-        errand.Answer(QMessageBox::Ok);
-        QVERIFY(errand.question.contains(u"kept as a copy"_s));
+        Act(u"tap OK; tap Retry"_s);
+        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
+        const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box->text().contains(u"kept as a copy"_s));
         QCOMPARE(errand.NewestCopy(), u"Pantry 1"_s);
-        QCOMPARE(model->rowCount(), 0);
-        errand.PressOk();
-        QCOMPARE(errand.pages->Top(), rows);
         // Nothing that was deleted from the old one comes back in this one.
-        errand.ComeBack();
-        QTest::keyClick(rows->findChild<QTableView*>(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(model->rowCount(), 1);
-        QCOMPARE(model->index(0, 0).data().toString(), u"Tea"_s);
+        Act(u"tap OK; see valueEdit: Tea; tap OK; see Tea; press Ctrl+Z; see Tea"_s);
     }
 
     void cancelledWorkEndsWhereItIs()
@@ -239,15 +157,15 @@ private Q_SLOTS:
                 isCancelled = isCancelled || TapCancel(errand.frame->findChild<QProgressDialog*>());
             });
             timer.start(0);
-            errand.PressOk();
+            Act(u"tap OK"_s);
             timer.stop();
             if (!isCancelled)
                 continue;
-            errand.Answer(QMessageBox::Ok);
-            QVERIFY(errand.frame->close());
-            errand.frame.reset();
-            const QString count = ListsIn(errand.DataPath()).section(u' ', 1);
-            QVERIFY(errand.question.startsWith(u"The import was cancelled. %1 row"_s.arg(count)));
+            const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            const QString told = box->text();
+            Act(u"tap OK"_s);
+            const QString count = errand.ListsAtEnd().section(u' ', 1);
+            QVERIFY(told.startsWith(u"The import was cancelled. %1 row"_s.arg(count)));
             // Not when the last one was in.
             isCancelled = count.toInt() < rows;
         }
@@ -256,33 +174,26 @@ private Q_SLOTS:
 
     void aCopyThatCannotBeKeptIsTold()
     {
-        FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
-        errand.Choose(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
+        const FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
+        Act(kDeleteList);
         WriteFileBytes(errand.CopiesFolder(), {});
         QVERIFY(!errand.frame->close());
-        errand.Answer(QMessageBox::Ok);
-        QCOMPARE(errand.question, u"No copy of the data file could be kept. Error: 5"_s);
+        Act(u"see No copy of the data file could be kept. Error: 5; tap OK"_s);
         QTRY_VERIFY(!errand.frame->isVisible());
     }
 
     void aDamagedFileIsReplacedByItsCopy()
     {
         FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
-        errand.Choose(Command::Delete);
-        errand.Answer(QMessageBox::Yes);
-        QVERIFY(errand.frame->close());
-        errand.frame.reset();
+        Act(kDeleteList);
+        QCOMPARE(errand.ListsAtEnd(), u"Zoo 0"_s);
         WriteFileBytes(errand.DataPath(), FileBytes(errand.DataPath()).replace(40, 8, "xxxxxxxx"));
 
         errand.chosenPath = errand.DataPath() + u".new.idb"_s;
         errand.Start();
-        errand.Answer(QMessageBox::Ok);
-        QCOMPARE(errand.question, u"Unable to open data file. Error: 1392"_s);
-        errand.Answer(QMessageBox::Yes);
-        QTRY_COMPARE(errand.Lines(), u"Zoo"_s);
+        Act(u"see Unable to open data file. Error: 1392; tap OK; tap Yes; see Zoo"_s);
         errand.Restart();
-        QCOMPARE(errand.Lines(), u"Zoo"_s);
+        Act(u"see Zoo"_s);
     }
 
     void aListReadInPartSaysSo()
@@ -291,38 +202,30 @@ private Q_SLOTS:
         for (const auto& [page, told] :
             { std::pair(kIndexLeaf, QStringList { u"are shown"_s, u"are shown"_s }),
                 std::pair(kTableLeaf, QStringList { u"summed up"_s, u"are in the file"_s }) }) {
-            FrameErrand errand({ u"Pantry"_s });
             QByteArray rows;
             for (int i = 0; i < 1000; ++i)
                 rows += "Row " + QByteArray::number(10'000 + i) + "\t1\r\n";
-            errand.Import(rows);
-            errand.PressOk();
-            errand.Restart();
-            errand.frame.reset();
+            FrameErrand errand(u"Pantry"_s, rows);
+            QCOMPARE(errand.ListsAtEnd(), u"Pantry 1000"_s);
             DamagePage(errand.DataPath(), page, u"Row 10500"_s);
             errand.Start();
             QStringList heard;
-            const auto hear = [&] {
+            const auto hear = [&heard] {
                 QCoreApplication::processEvents();
-                while (QApplication::activeModalWidget() != nullptr) {
-                    errand.Answer(QMessageBox::Ok);
-                    if (errand.question.contains(u"in part"_s))
-                        heard << errand.question;
+                while (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                    if (box->text().contains(u"in part"_s))
+                        heard << box->text();
+                    Act(u"tap OK"_s);
                 }
-                errand.ComeBack();
             };
-            errand.Tap(0);
-            hear();
-            errand.Choose(Command::ViewSummary);
-            hear();
-            errand.PressOk();
-            errand.Choose(Command::Find);
-            QTest::keyClicks(QApplication::focusWidget(), u"Row"_s);
-            QTest::keyClick(errand.frame->windowHandle(), Qt::Key_Return);
-            hear();
+            for (const QString& steps : { u"tap Pantry"_s, u"tap Menu; tap View Summary..."_s,
+                     u"tap OK; tap Menu; tap Find...; type Row; press Return"_s }) {
+                Act(steps);
+                hear();
+            }
             while (errand.pages->Depth() > 1)
-                errand.PressOk();
-            errand.ChooseFileFor(Command::Export, errand.DataPath() + u".txt"_s);
+                Act(u"tap OK"_s);
+            errand.ChooseFileFor(u"Export List..."_s, errand.DataPath() + u".txt"_s);
             hear();
             QCOMPARE(heard.size(), told.size());
             for (qsizetype i = 0; i < told.size(); ++i)

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "rows/row_editor.h"
 #include "tests/list_fixture.h"
+#include "tests/person.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
 #include "widgets/page_stack.h"
 
 #include <QApplication>
 #include <QCalendarWidget>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTableView>
@@ -23,8 +23,8 @@ private Q_SLOTS:
     void init()
     {
         m_file = std::make_unique<ListFixture>(u"Pantry"_s);
-        m_file->Add({ u"rice"_s, u"2"_s, u"top"_s, u"Checked"_s, u"1234.5"_s, u"7"_s, u"3/1/2026"_s,
-            u""_s });
+        m_row = m_file->Add({ u"rice"_s, u"2"_s, u"top"_s, u"Checked"_s, u"1234.5"_s, u"7"_s,
+            u"3/1/2026"_s, u""_s });
         m_result.reset();
     }
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
 
     void keysGoFromFieldToField()
     {
-        Open(m_file->rows->FillRows().rows.front());
+        Open(m_row);
         QTest::keyClick(Focus(), Qt::Key_Up);
         QCOMPARE(Current(), int { Name });
         QStringList controls;
@@ -87,36 +87,23 @@ private Q_SLOTS:
 
     void anOpenDropDownKeepsItsKeys()
     {
-        Open(m_file->rows->FillRows().rows.front());
-        GoTo(Bio);
-        auto* box = qobject_cast<QComboBox*>(Focus());
-        QVERIFY(box != nullptr);
-        QCOMPARE(box->currentText(), u"Checked"_s);
-        box->showPopup();
-        QTest::keyClick(box, Qt::Key_Down);
-        QCOMPARE(Current(), int { Bio });
-        box->hidePopup();
-        box->setCurrentIndex(0);
-        QTest::keyClick(box, Qt::Key_Down);
-        QCOMPARE(Current(), int { Price });
+        Open(m_row);
+        Act(u"tap Bio; see valueBox: Checked; press Alt+Down; press Up Return; on Bio; "
+            "see valueBox: Unchecked; press Down; on Price"_s);
         QCOMPARE(Shown(Bio), u"Unchecked"_s);
     }
 
     void okWritesTheFields()
     {
-        const auto rows = m_file->rows->FillRows().rows;
-        Open(rows.front());
+        Open(m_row);
         // Every comma is read as a point, also one that parts thousands.
         QCOMPARE(Shown(Price), u"1,234.50"_s);
-        Type(u"brown rice"_s);
-        GoTo(Bio);
-        QTest::keyClick(Focus(), Qt::Key_U);
-        PressOk();
+        Act(u"fill valueEdit: brown rice; tap Bio; press U; tap OK"_s);
         QCOMPARE(m_result, PageResult::Ok);
-        const Record row = m_file->rows->ReadRow(rows.front());
-        QCOMPARE(m_file->Cells(rows), u"brown rice"_s);
-        QCOMPARE(m_file->Cells(rows, Price), u"1.23"_s);
-        QCOMPARE(m_file->Cells(rows, Bought), u"3/1/2026"_s);
+        const Record row = m_file->rows->ReadRow(m_row);
+        QCOMPARE(m_file->Cells({ m_row }), u"brown rice"_s);
+        QCOMPARE(m_file->Cells({ m_row }, Price), u"1.23"_s);
+        QCOMPARE(m_file->Cells({ m_row }, Bought), u"3/1/2026"_s);
         QCOMPARE(FindProperty(row.values, m_file->Column(Bio))->value, PropertyVariant(false));
         QCOMPARE(FindProperty(row.values, m_file->Column(Expiry)), nullptr);
     }
@@ -137,67 +124,52 @@ private Q_SLOTS:
     void typedDatesAreReadOrStayAndKeepThePage()
     {
         const auto [field, typed, shown] = Table<int, QString, QString>::Row();
+        const QString name = m_file->list.columns[static_cast<size_t>(field)].name;
         const bool isDate = shown != typed;
-        const auto rows = m_file->rows->FillRows().rows;
-        const QString before = m_file->Cells(rows, field);
-        Open(rows.front());
-        GoTo(field);
+        const QString before = m_file->Cells({ m_row }, field);
+        Open(m_row);
+        Act(u"tap "_s + name);
         const auto* edit = m_page->findChild<QLineEdit*>(u"dateEdit"_s);
         QCOMPARE(edit->placeholderText(), before.isEmpty() ? u"no date"_s : before);
-        Type(typed);
+        Act(u"fill dateEdit: "_s + typed);
         m_page->findChild<QWidget*>(u"ok"_s)->setFocus();
         QCOMPARE(edit->accessibleDescription(), isDate ? QString() : u"not a date"_s);
-        GoTo(Name);
+        Act(u"tap Name"_s);
         QCOMPARE(Shown(field), shown);
-        PressOk();
+        Act(u"tap OK"_s);
         QCOMPARE(m_result.has_value(), isDate);
         if (isDate) {
-            QCOMPARE(m_file->Cells(rows, field), shown);
+            QCOMPARE(m_file->Cells({ m_row }, field), shown);
             return;
         }
         auto* message = m_stack->findChild<QMessageBox*>();
         QVERIFY(message != nullptr && message->text().contains(typed));
-        QTest::keyClick(message, Qt::Key_Return);
+        Act(u"press Return; on %1; see dateEdit: %2"_s.arg(name, typed));
         QTRY_COMPARE(Focus(), edit);
-        QCOMPARE(Current(), field);
-        QCOMPARE(edit->text(), typed);
         QVERIFY(m_page->HasUnsavedInput());
-        QTest::keyClicks(Focus(), u"4/2/2027"_s);
-        PressOk();
-        QCOMPARE(m_file->Cells(rows, field), u"4/2/2027"_s);
+        Act(u"type 4/2/2027; tap OK"_s);
+        QCOMPARE(m_file->Cells({ m_row }, field), u"4/2/2027"_s);
     }
 
     void aPickedDateIsCommitted()
     {
         Open(kNoObject);
-        GoTo(Bought);
-        QTest::keyClick(Focus(), Qt::Key_F4);
-        auto* days = m_page->findChild<QCalendarWidget*>()->findChild<QTableView*>();
-        // Today is where it starts, and picking nothing commits nothing.
-        QTest::keyClick(days, Qt::Key_Escape);
+        // Picking nothing commits nothing. Today is where it starts.
+        Act(u"tap Bought; press F4; press Esc; see dateEdit: "_s);
         QTRY_COMPARE(m_page->findChild<QCalendarWidget*>(), nullptr);
         QCOMPARE(m_page->Texts()[Bought], QString());
-        m_stack->activateWindow();
-        QTRY_COMPARE(Focus(), m_page->findChild<QWidget*>(u"dateEdit"_s));
-        QTest::keyClick(Focus(), Qt::Key_Down, Qt::AltModifier);
-        days = m_page->findChild<QCalendarWidget*>()->findChild<QTableView*>();
-        QTest::keyClick(days, Qt::Key_Right);
-        QTest::keyClick(days, Qt::Key_Return);
-        QVERIFY(QApplication::activePopupWidget() == nullptr);
+        Act(u"press Alt+Down; press Right Return; see dateEdit: 6/16/2026"_s);
         QCOMPARE(m_page->Texts()[Bought], u"6/16/2026"_s);
         // A row that is not stored yet takes it back.
-        GoTo(Name);
-        GoTo(Bought);
-        Type(u""_s);
-        GoTo(Name);
+        Act(u"tap Name; tap Bought; fill dateEdit: ; tap Name"_s);
         QCOMPARE(Shown(Bought), QString());
         QVERIFY(!m_page->HasUnsavedInput());
     }
 
     void losingTheKeyboardCommits()
     {
-        Open(m_file->rows->FillRows().rows.front());
-        Type(u"salt"_s);
+        Open(m_row);
+        Act(u"fill valueEdit: salt"_s);
         QFocusEvent deactivated(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
         QApplication::sendEvent(Focus(), &deactivated);
         QCOMPARE(Shown(Name), u"rice"_s);
@@ -208,24 +180,20 @@ private Q_SLOTS:
 
     void tapsChooseTheField()
     {
-        Open(m_file->rows->FillRows().rows.front());
-        Type(u"salt"_s);
-        GoTo(Size);
-        QCOMPARE(Current(), int { Size });
+        Open(m_row);
+        Act(u"fill valueEdit: salt; tap Size; on Size; fill valueEdit: 8"_s);
         QCOMPARE(Shown(Name), u"salt"_s);
-        Type(u"8"_s);
         const QPoint belowLines(20, View()->viewport()->height() - 4);
         QVERIFY(!View()->indexAt(belowLines).isValid());
         QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, belowLines);
-        QCOMPARE(Current(), int { Name });
-        QVERIFY(View()->selectionModel()->isRowSelected(Name));
+        Act(u"on Name; see valueEdit: salt"_s);
         QCOMPARE(Shown(Size), u"8"_s);
     }
 
     void theControlStaysInViewWhenThePageShrinks()
     {
-        Open(m_file->rows->FillRows().rows.front());
-        GoTo(Expiry);
+        Open(m_row);
+        Act(u"tap Expiry Date"_s);
         m_stack->resize(360, 240);
         const auto place = [this] {
             const QWidget* control = m_page->findChild<QWidget*>(u"datePicker"_s);
@@ -240,6 +208,7 @@ private:
     std::unique_ptr<PageStack> m_stack;
     RowEditor* m_page = nullptr;
     std::optional<PageResult> m_result;
+    ObjectId m_row = kNoObject;
 
     /// Opens the editor on a row; on a new one for kNoObject. Ok writes it.
     void Open(ObjectId row)
@@ -265,24 +234,6 @@ private:
     [[nodiscard]] QString Shown(int field) const
     {
         return View()->model()->index(field, 1).data().toString();
-    }
-    void GoTo(int field) const
-    {
-        const QRect line = View()->visualRect(View()->model()->index(field, 0));
-        QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, line.center());
-    }
-    /// Types over what the current field holds.
-    void Type(const QString& text) const
-    {
-        auto* edit = qobject_cast<QLineEdit*>(Focus());
-        QVERIFY(edit != nullptr);
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Delete);
-        QTest::keyClicks(edit, text);
-    }
-    void PressOk() const
-    {
-        QTest::mouseClick(m_page->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
     }
 };
 

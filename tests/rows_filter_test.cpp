@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/rows_view_errand.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
 
-#include <QComboBox>
-#include <QLineEdit>
+#include <QMessageBox>
 
 /// Filters and Find of the rows view.
 class RowsFilterTest : public QObject
@@ -22,171 +22,107 @@ private Q_SLOTS:
         add(u"beans"_s, u"5"_s, u"Unchecked"_s, u"0.2"_s, u"3/2/2026"_s);
         add(u"rice flour"_s, u"5"_s, u"Checked"_s, u"0.3"_s, u""_s);
         m_errand->Open();
+        QVERIFY(m_errand->View() != nullptr);
     }
 
-    void aFilterNarrowsTheRows()
+    void onlyRowsThatPassAreSeen_data()
     {
-        const std::array<QString, 4> cases[] { { u"Name"_s, u"contains"_s, u"ric"_s,
-                                                   u"rice flour"_s },
-            // It is equals to.
-            { u"Quantity"_s, u"not equals to"_s, u"5"_s, u"beans rice flour"_s },
-            { u"Price"_s, u"equals to"_s, u"0.1"_s, u"Rice"_s },
-            // A price with a comma is 0.
-            { u"Price"_s, u"equals to"_s, u"0,1"_s, u""_s },
-            { u"Bio"_s, u"not equals to"_s, u"Checked"_s, u"beans"_s },
-            { u"Bought"_s, u"on"_s, u"3/1/2026"_s, u"Rice"_s },
-            // No date fails every date.
-            { u"Bought"_s, u"not on"_s, u"3/1/2026"_s, u"beans"_s } };
-        for (const auto& [field, condition, value, lines] : cases) {
-            Filter(field, condition, value);
-            QCOMPARE(m_errand->stack->Top(), m_errand->page);
-            QCOMPARE(m_errand->Lines(), lines);
-            QVERIFY(m_errand->Message() == nullptr);
-            m_errand->page->Trigger(Command::ClearFilters);
-        }
+        const Table<QString> add;
+        const auto filter = [](const char* condition) {
+            return u"tap Menu; tap Set Filters...; tap Add; %1; tap OK; tap OK; at Pantry; "_s.arg(
+                QLatin1StringView(condition));
+        };
+        const QString bio = filter("choose fieldBox: Bio; choose checkboxValueBox: Unchecked");
+        const QString checked = filter("choose fieldBox: Bio; choose checkboxValueBox: Checked");
+        const QString clear = u"tap Menu; tap Clear Filters; "_s;
+        add("a text", filter("fill valueEdit: ric") + u"see rice flour"_s);
+        add("not equals to a number is equals to",
+            filter("choose fieldBox: Quantity; choose conditionBox: not equals to; "
+                   "fill valueEdit: 5")
+                + u"see beans, rice flour"_s);
+        add("a price", filter("choose fieldBox: Price; fill valueEdit: 0.1") + u"see Rice"_s);
+        add("a price with a comma is 0",
+            filter("choose fieldBox: Price; fill valueEdit: 0,1") + u"see nothing"_s);
+        add("a checkbox",
+            filter("choose fieldBox: Bio; choose conditionBox: not equals to; "
+                   "choose checkboxValueBox: Checked")
+                + u"see beans"_s);
+        add("a date", filter("choose fieldBox: Bought; fill dateEdit: 3/1/2026") + u"see Rice"_s);
+        add("no date fails every date",
+            filter("choose fieldBox: Bought; choose conditionBox: not on; fill dateEdit: 3/1/2026")
+                + u"see beans"_s);
+        add("two, among which writing goes on",
+            u"press Down; on beans; "_s
+                + filter("choose fieldBox: Quantity; choose conditionBox: greater than; "
+                         "fill valueEdit: 3")
+                + bio + u"see beans; press +; see beans; "_s + clear
+                + u"see Rice, beans, rice flour; see Quantity: 3, 6, 5; on beans"_s);
+        add("a cancelled one hides every row, and Escape takes nothing back",
+            u"tap Menu; tap Set Filters...; tap Add; press Esc Esc; at Pantry; see nothing; "
+            "tap Menu; see (Modify...), (Create Copy), (Delete), View Summary..., Find..., "
+            "Set Filters..., Clear Filters; press Esc; press Space Return; at Pantry"_s);
+        add("clearing is offered while there are criteria",
+            u"tap Menu; cannot Clear Filters; press Esc; tap Menu; tap Set Filters...; tap OK; "_s
+                + clear + u"tap Menu; cannot Clear Filters"_s);
+        add("the summary counts what is shown",
+            checked + u"tap Menu; tap View Summary...; see Quantity|8, Price|0.40, Size|2"_s);
+        add("Find searches a filtered list whole, and changes nothing",
+            bio
+                + u"press Ctrl+F; type i; tap OK; see Rice, rice flour; on Rice; "
+                  "press Del + -; hold Rice; see Rice, rice flour; see Quantity: 3, 5; "
+                  "press Esc; at Pantry; see beans"_s);
+        add("what is changed among the results stays there and is seen below",
+            u"see Quantity: 3, 5, 5; tap Menu; tap Find...; choose fieldBox: Quantity; "
+            "choose conditionBox: equals to; fill valueEdit: 3; tap OK; press Space Return; "
+            "press Down; type 9; press Down; tap OK; see Quantity: 9; "
+            "tap OK; see Quantity: 9, 5, 5; at Pantry"_s);
+        add("Find without a match says so",
+            u"tap Menu; tap Find...; at Find; choose conditionBox: equals to; fill valueEdit: tea; "
+            "tap OK; see No record matched the criteria.; tap OK; at Pantry; "
+            "see Rice, beans, rice flour"_s);
     }
 
-    void filtersAreJoinedAndCleared()
+    void onlyRowsThatPassAreSeen()
     {
-        m_errand->View()->selectRow(1);
-        QCOMPARE(m_errand->Text(1, Name), u"beans"_s);
-        Filter(u"Quantity"_s, u"greater than"_s, u"3"_s);
-        Filter(u"Bio"_s, u"equals to"_s, u"Unchecked"_s);
-        QCOMPARE(m_errand->Lines(), u"beans"_s);
-        // Writing goes on among the filtered rows.
-        QTest::keyClick(m_errand->View(), Qt::Key_Plus);
-        // What comes back and does not pass is not seen.
+        const auto [steps] = Table<QString>::Row();
+        Act(steps);
+    }
+
+    void whatComesBackAndDoesNotPassIsNotSeen()
+    {
+        Act(u"tap Menu; tap Set Filters...; tap Add; fill valueEdit: bean; tap OK; tap OK; see beans"_s);
         m_errand->page->ShowRestored(m_errand->file.Add({ u"yeast"_s, u"1"_s }));
-        QCOMPARE(m_errand->Lines(), u"beans"_s);
-        m_errand->page->Trigger(Command::ClearFilters);
-        QCOMPARE(m_errand->Lines(), u"Rice beans rice flour yeast"_s);
-        QCOMPARE(m_errand->View()->currentIndex().row(), 1);
-        QCOMPARE(m_errand->Stored(Count), u"3 6 5 1"_s);
+        Act(u"see beans; tap Menu; tap Clear Filters; see Rice, beans, rice flour, yeast"_s);
     }
 
-    void addThenCancelHidesEveryRow()
+    void aCancelledFindMatchesNothing()
     {
-        m_errand->page->Trigger(Command::SetFilters);
-        m_errand->stack->Top()->Trigger(Command::AddFilter);
-        QTest::keyClick(m_errand->stack->Top(), Qt::Key_Escape);
-        // Leaving the filters by Escape takes nothing back.
-        QTest::keyClick(m_errand->stack->Top(), Qt::Key_Escape);
-        QCOMPARE(m_errand->stack->Top(), m_errand->page);
-        QCOMPARE(m_errand->Lines(), QString());
-        for (const Command command : { Command::Modify, Command::CreateCopy, Command::Delete })
-            QVERIFY(!m_errand->page->ActionOf(command)->isEnabled());
-        QTest::keyClick(m_errand->View(), Qt::Key_Space);
-        QTest::keyClick(m_errand->View(), Qt::Key_Return);
-        QCOMPARE(m_errand->stack->Top(), m_errand->page);
+        Act(u"tap Menu; tap Find...; press Esc; see No record matched the criteria."_s);
+        const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QCOMPARE(box->icon(), QMessageBox::Information);
+        QCOMPARE(m_errand->stack->Depth(), 3);
+        Act(u"tap OK; at Pantry; see Rice, beans, rice flour"_s);
     }
 
-    void theSummaryCountsTheShownRows()
+    void totalsStandOnTheRight()
     {
-        Filter(u"Bio"_s, u"equals to"_s, u"Checked"_s);
-        m_errand->page->Trigger(Command::ViewSummary);
-        QCOMPARE(m_errand->Lines(0), u"Quantity Price Size"_s);
-        QCOMPARE(m_errand->Lines(1), u"8 0.40 2"_s);
+        Act(u"tap Menu; tap View Summary..."_s);
         const QVariant side = m_errand->View()->model()->index(0, 1).data(Qt::TextAlignmentRole);
         QVERIFY(side.value<Qt::Alignment>().testFlag(Qt::AlignRight));
     }
 
-    void clearIsOfferedWhileThereAreCriteria()
+    void findKeepsTheColumnsAsTheyLie()
     {
-        const auto isOffered
-            = [this] { return m_errand->page->ActionOf(Command::ClearFilters)->isEnabled(); };
-        Q_EMIT m_errand->page->MenuAboutToOpen();
-        QVERIFY(!isOffered());
-        m_errand->page->Trigger(Command::SetFilters);
-        m_errand->PressOk();
-        Q_EMIT m_errand->page->MenuAboutToOpen();
-        QVERIFY(isOffered());
-        m_errand->page->Trigger(Command::ClearFilters);
-        Q_EMIT m_errand->page->MenuAboutToOpen();
-        QVERIFY(!isOffered());
-    }
-
-    void findShowsWhatMatches()
-    {
-        // A list narrowed by filters is searched whole.
-        Filter(u"Bio"_s, u"equals to"_s, u"Unchecked"_s);
         m_errand->View()->setColumnWidth(Count, 123);
-        QTest::keyClick(m_errand->View(), Qt::Key_F, Qt::ControlModifier);
-        Choose(u"Name"_s, u"contains"_s, u"i"_s);
-        QVERIFY(m_errand->stack->Top() != m_errand->page);
-        QCOMPARE(m_errand->Lines(), u"Rice rice flour"_s);
+        Act(u"press Ctrl+F; type i; tap OK; see Rice, rice flour"_s);
         QCOMPARE(m_errand->View()->columnWidth(Count), 123);
-        QCOMPARE(m_errand->View()->currentIndex().row(), 0);
-        QVERIFY(!m_errand->Find<QWidget>(QLatin1StringView("softKeys"))->isVisible());
-        for (const auto key : { Qt::Key_Delete, Qt::Key_Plus, Qt::Key_Minus })
-            QTest::keyClick(m_errand->View(), key);
-        QTest::mouseClick(
-            m_errand->View()->viewport(), Qt::RightButton, {}, m_errand->Cell(0, Name).center());
-        QVERIFY(QApplication::activePopupWidget() == nullptr && m_errand->Message() == nullptr);
-        QTest::keyClick(m_errand->View(), Qt::Key_Escape);
-        QCOMPARE(m_errand->stack->Top(), m_errand->page);
-        QCOMPARE(m_errand->Lines(), u"beans"_s);
-        QCOMPARE(m_errand->Stored(Count), u"3 5 5"_s);
-    }
-
-    void whatIsChangedAmongTheResultsIsSeenBelow()
-    {
-        QCOMPARE(m_errand->Text(0, Count), u"3"_s);
-        m_errand->page->Trigger(Command::Find);
-        Choose(u"Quantity"_s, u"equals to"_s, u"3"_s);
-        QTest::keyClick(m_errand->View(), Qt::Key_Space);
-        QTest::keyClick(m_errand->View(), Qt::Key_Return);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-        m_errand->TypeInEditor(u"9"_s, Qt::Key_Down);
-        m_errand->PressOk();
-        // It stays among the results although it no longer matches.
-        QCOMPARE(m_errand->Lines(Count), u"9"_s);
-        m_errand->PressOk();
-        QCOMPARE(m_errand->Lines(Count), u"9 5 5"_s);
+        QVERIFY(!m_errand->stack->Top()->findChild<QWidget*>(u"softKeys"_s)->isVisible());
+        Act(u"press Space; tap OK"_s);
         QVERIFY(!m_errand->IsTicked(0));
-    }
-
-    void findWithoutAMatchSaysSo()
-    {
-        for (const bool isCancelled : { false, true }) {
-            m_errand->page->Trigger(Command::Find);
-            QCOMPARE(m_errand->stack->Top()->Title(), u"Find"_s);
-            if (isCancelled)
-                QTest::keyClick(m_errand->stack->Top(), Qt::Key_Escape);
-            else
-                Choose(u"Name"_s, u"equals to"_s, u"tea"_s);
-            QTRY_VERIFY(m_errand->Message() != nullptr);
-            QCOMPARE(m_errand->Message()->text(), u"No record matched the criteria."_s);
-            QCOMPARE(m_errand->Message()->icon(), QMessageBox::Information);
-            QCOMPARE(m_errand->stack->Depth(), 3);
-            m_errand->Answer(QMessageBox::Ok);
-            QCOMPARE(m_errand->stack->Top(), m_errand->page);
-            QCOMPARE(m_errand->Lines(), u"Rice beans rice flour"_s);
-        }
     }
 
 private:
     std::unique_ptr<RowsErrand> m_errand;
-
-    /// Fills in the condition page that is shown.
-    void Choose(const QString& field, const QString& condition, const QString& value) const
-    {
-        m_errand->Find<QComboBox>(QLatin1StringView("fieldBox"))->setCurrentText(field);
-        m_errand->Find<QComboBox>(QLatin1StringView("conditionBox"))->setCurrentText(condition);
-        auto* edit = m_errand->Find<QLineEdit>(
-            field == u"Bought" ? QLatin1StringView("dateEdit") : QLatin1StringView("valueEdit"));
-        if (edit->isVisible())
-            edit->setText(value);
-        else
-            m_errand->Find<QComboBox>(QLatin1StringView("checkboxValueBox"))->setCurrentText(value);
-        m_errand->PressOk();
-    }
-    void Filter(const QString& field, const QString& condition, const QString& value) const
-    {
-        m_errand->page->Trigger(Command::SetFilters);
-        m_errand->stack->Top()->Trigger(Command::AddFilter);
-        Choose(field, condition, value);
-        m_errand->PressOk();
-    }
 };
 
 QUILLORY_TEST(QApplication, RowsFilterTest)

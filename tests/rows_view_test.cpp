@@ -73,103 +73,66 @@ private Q_SLOTS:
     void aNewRowIsEnteredByKeyboard()
     {
         m_errand->Open();
-        QCOMPARE(Page()->Title(), u"Pantry"_s);
-        QCOMPARE(View()->currentIndex().row(), 0);
+        Act(u"at Pantry; on rice"_s);
         // Return presses the key that has the keyboard; it edits the selected row only elsewhere.
-        m_errand->Find<QWidget>(QLatin1StringView("leftKey"))->setFocus(Qt::TabFocusReason);
-        QTest::keyClick(Stack().windowHandle(), Qt::Key_Return);
-        QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
-        m_errand->TypeInEditor(u"barley"_s, Qt::Key_Return);
-        m_errand->TypeInEditor(u"7"_s, Qt::Key_Return);
-        for (int field = Shelf; field < Expiry; ++field)
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
-        m_errand->TypeInEditor(u"1/5/2027"_s, Qt::Key_Return);
-        QCOMPARE(Stack().Top(), Page());
+        Page()->findChild<QWidget*>(u"leftKey"_s)->setFocus(Qt::TabFocusReason);
         // At the end, until the list is opened again.
-        QCOMPARE(m_errand->Lines(), u"rice salt barley"_s);
-        QCOMPARE(m_errand->Text(2, Count), u"7"_s);
-        QCOMPARE(m_errand->Text(2, Expiry), u"1/5/2027"_s);
+        Act(u"press Return; see valueEdit: ; type barley; press Return; type 7; press Return; "
+            "press Enter Enter Enter Enter Enter; type 1/5/2027; press Return; "
+            "see rice, salt, barley; see Quantity: 0, 5, 7; see Expiry Date: , , 1/5/2027"_s);
         QCOMPARE(m_errand->Stored(), u"barley rice salt"_s);
     }
 
     void whatComesBackStandsInItsPlace()
     {
         m_errand->Open();
-        const auto comesBack = [this](const QString& name, const QString& count) {
+        for (const auto& [name, count, steps] :
+            { std::tuple(u"aaa"_s, u"1"_s, u"see aaa, rice, salt"_s),
+                std::tuple(u"zzz"_s, u"9"_s, u"see aaa, rice, salt, zzz; tap Quantity"_s),
+                std::tuple(u"mmm"_s, u"-5"_s, u"on mmm; see Quantity: -5, 0, 1, 5, 9"_s) }) {
             Page()->ShowRestored(File().Add({ name, count }));
-        };
-        const QString before = m_errand->Lines();
-        comesBack(u"aaa"_s, u"1"_s);
-        comesBack(u"zzz"_s, u"9"_s);
-        QCOMPARE(m_errand->Lines(), u"aaa "_s + before + u" zzz"_s);
-        m_errand->TapHeader(Count);
-        comesBack(u"mmm"_s, u"-5"_s);
-        QCOMPARE(m_errand->Text(0, Name), u"mmm"_s);
-        QCOMPARE(m_errand->View()->currentIndex().row(), 0);
-    }
-
-    void theEditorWritesOnOkAlone()
-    {
-        m_errand->Open();
-        Page()->Trigger(Command::New);
-        QTest::keyClick(Stack().Top(), Qt::Key_Escape);
-        QCOMPARE(Stack().Top(), Page());
-        for (const auto& [button, stored] :
-            { std::pair(u"leftKey"_s, u"rice salt"_s), std::pair(u"ok"_s, u"brown salt"_s) }) {
-            Page()->Trigger(Command::Modify);
-            m_errand->TypeInEditor(u"brown"_s, Qt::Key_Down);
-            QTest::mouseClick(Stack().Top()->findChild<QWidget*>(button), Qt::LeftButton);
-            QCOMPARE(m_errand->Stored(), stored);
-            QCOMPARE(m_errand->Lines(), stored);
+            Act(steps);
         }
-        QCOMPARE(m_errand->Text(0, Price), u"3.00"_s);
-        QCOMPARE(m_errand->Stored(Shelf), u"top top"_s);
-        Page()->Trigger(Command::CreateCopy);
-        QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
-        m_errand->PressOk();
-        QCOMPARE(m_errand->Lines(), u"brown salt brown"_s);
-        QCOMPARE(View()->currentIndex().row(), 2);
     }
 
-    void countsGoToMinusOneAndBack()
+    void whatIsDoneIsSeenAndStored_data()
     {
-        m_errand->Open();
-        QTest::keyClick(View(), Qt::Key_Minus);
-        QCOMPARE(m_errand->Text(0, Count), u"-1"_s);
-        QTest::keyClick(View(), Qt::Key_Plus);
-        QTest::keyClick(View(), Qt::Key_Plus);
-        QCOMPARE(m_errand->Text(0, Count), u"1"_s);
-        QCOMPARE(m_errand->Stored(Count), u"1 5"_s);
+        const Table<QString, QString> add;
+        add("the editor writes on OK alone",
+            u"tap New; press Esc; at Pantry; tap Menu; tap Modify...; type brown; press Down; "
+            "tap Cancel; see rice, salt; tap Menu; tap Modify...; type brown; press Down; tap OK; "
+            "see brown, salt; see Price: 3.00, 1.00; see Shelf: top, top"_s,
+            u"brown salt"_s);
+        add("a copy stands at the end and is edited",
+            u"tap Menu; tap Create Copy; see valueEdit: rice; tap OK; see rice, salt, rice; "
+            "tap Menu; tap Modify...; type oats; tap OK; see rice, salt, oats"_s,
+            u"oats rice salt"_s);
+        add("counts go to -1 and back",
+            u"press -; see Quantity: -1, 5; press + +; see Quantity: 1, 5"_s, u"rice salt"_s);
+        add("deleting asks, with No as default",
+            u"press Del; see Do you want to delete the selected row?; press Return; "
+            "see rice, salt; tap Menu; tap Delete; tap Yes; see salt"_s,
+            u"salt"_s);
+        add("no command needs a row that is not there",
+            u"press Del; tap Yes; press Del; tap Yes; see nothing; tap Menu; see (Modify...), "
+            "(Create Copy), (Delete), View Summary..., Find..., Set Filters..., (Clear Filters); "
+            "press Esc; press + -; tap New; press Esc; see nothing"_s,
+            {});
     }
 
-    void deletingAsksWithNoAsDefault()
+    void whatIsDoneIsSeenAndStored()
     {
+        const auto [steps, stored] = Table<QString, QString>::Row();
         m_errand->Open();
-        QTest::keyClick(View(), Qt::Key_Delete);
-        QMessageBox* box = m_errand->Message();
-        QVERIFY(box != nullptr);
-        QCOMPARE(box->text(), u"Do you want to delete the selected row?"_s);
-        QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
-        m_errand->Answer(QMessageBox::No);
-        QCOMPARE(m_errand->Lines(), u"rice salt"_s);
-        Page()->Trigger(Command::Delete);
-        m_errand->Answer(QMessageBox::Yes);
-        QCOMPARE(m_errand->Lines(), u"salt"_s);
-        QCOMPARE(m_errand->Stored(), u"salt"_s);
-        // No command needs a row that is not there.
-        QTest::keyClick(View(), Qt::Key_Delete);
-        m_errand->Answer(QMessageBox::Yes);
-        for (const Command command : { Command::Modify, Command::CreateCopy, Command::Delete,
-                 Command::AddOne, Command::SubtractOne })
-            QVERIFY(!Page()->ActionOf(command)->isEnabled());
-        QVERIFY(Page()->ActionOf(Command::New)->isEnabled());
+        Act(steps);
+        QCOMPARE(m_errand->Stored(), stored);
     }
 
     void spaceTicksTheOnlyCheckbox()
     {
         m_errand->Open();
         for (const bool isTicked : { true, false }) {
-            QTest::keyClick(View(), Qt::Key_Space);
+            Act(u"press Space"_s);
             QCOMPARE(m_errand->IsTicked(0), isTicked);
         }
     }
@@ -183,15 +146,10 @@ private Q_SLOTS:
         File().OpenList(File().catalogue->CreateList(made).oid);
         File().Add({ u"saw"_s, u"1"_s, u"Unchecked"_s, u"Unchecked"_s });
         m_errand->Open();
-        m_errand->DoubleTap(0, Name);
-        QCOMPARE(Stack().Top()->objectName(), u"rowEditor"_s);
-        m_errand->PressOk();
         // Space ticks the box that the arrows went to.
-        QTest::keyClick(View(), Qt::Key_Space);
+        Act(u"double-tap saw; see valueEdit: saw; tap OK; press Space"_s);
         QVERIFY(!m_errand->IsTicked(0, 2) && !m_errand->IsTicked(0, 3));
-        for (int column = Name; column < 3; ++column)
-            QTest::keyClick(View(), Qt::Key_Right);
-        QTest::keyClick(View(), Qt::Key_Space);
+        Act(u"press Right Right Right Space"_s);
         QVERIFY(!m_errand->IsTicked(0, 2) && m_errand->IsTicked(0, 3));
     }
 
@@ -227,17 +185,13 @@ private Q_SLOTS:
         File().Add({ u"c"_s, u"10"_s, u"c"_s, u"Checked"_s, u"-1"_s, u""_s, u"12/31/2025"_s });
         File().Add({ u"d"_s, u"2"_s, u"A"_s, u"Unchecked"_s, u"8.99"_s, u""_s, u"1/3/2026"_s });
         // The missing date is the first.
-        for (const auto& [column, lines] :
-            { std::pair { Shelf, u"d b a c"_s }, { Count, u"b d a c"_s }, { Bio, u"a b d c"_s },
-                { Price, u"c d b a"_s }, { Bought, u"b c a d"_s } }) {
+        for (const auto& [column, lines] : { std::pair { u"Shelf"_s, u"d, b, a, c"_s },
+                 { u"Quantity"_s, u"b, d, a, c"_s }, { u"Bio"_s, u"a, b, d, c"_s },
+                 { u"Price"_s, u"c, d, b, a"_s }, { u"Bought"_s, u"b, c, a, d"_s } }) {
             m_errand->Open();
-            View()->selectRow(3);
-            for (int taps = 0; taps < 2; ++taps) {
-                m_errand->TapHeader(column);
-                QCOMPARE(m_errand->Lines(), lines);
-                // The selection stays with its row.
-                QCOMPARE(m_errand->Text(View()->currentIndex().row(), Name), u"d"_s);
-            }
+            // The selection stays with its row.
+            const QString sort = u"tap %1; see %2; on d; "_s.arg(column, lines);
+            Act(u"press End; "_s + sort + sort);
         }
     }
 
@@ -256,15 +210,7 @@ private Q_SLOTS:
                 QApplication::sendEvent(View(), &menuKey);
             else
                 QTest::keyClick(View(), Qt::Key_F10, Qt::ShiftModifier);
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            QVERIFY(menu != nullptr);
-            QStringList texts;
-            for (const QAction* action : menu->actions())
-                texts << action->text() + (action->isEnabled() ? u""_s : u"-"_s);
-            QCOMPARE(texts.join(u'|'), u"Add 1|Subtract 1||Modify...|Delete"_s);
-            QTest::keyClick(menu, Qt::Key_Down);
-            QTest::keyClick(menu, Qt::Key_Return);
-            QVERIFY(QApplication::activePopupWidget() == nullptr);
+            Act(u"see Add 1, Subtract 1, Modify..., Delete; press Down Return; see rice, salt"_s);
             QCOMPARE(m_errand->Stored(Count), counts);
         }
     }
@@ -272,24 +218,11 @@ private Q_SLOTS:
     void readOnlyLetsNothingChange()
     {
         m_errand->Open({ .isReadOnly = true });
-        for (const Command command : { Command::New, Command::Modify, Command::CreateCopy,
-                 Command::Delete, Command::AddOne, Command::SubtractOne })
-            QVERIFY(!Page()->ActionOf(command)->isEnabled());
-        QTest::keyClick(View(), Qt::Key_Plus);
-        m_errand->Tap(0, Bio);
-        m_errand->Tap(0, Name);
-        m_errand->DoubleTap(0, Name);
-        for (const auto key : { Qt::Key_Space, Qt::Key_Return, Qt::Key_Delete })
-            QTest::keyClick(View(), key);
-        QContextMenuEvent hold(
-            QContextMenuEvent::Mouse, m_errand->Cell(0, Name).center(), QPoint(), {});
-        QApplication::sendEvent(View()->viewport(), &hold);
-        QVERIFY(QApplication::activePopupWidget() == nullptr);
-        QCOMPARE(Stack().Top(), Page());
-        QVERIFY(m_errand->Message() == nullptr);
-        QCOMPARE(m_errand->Stored(Count), u"0 5"_s);
+        Act(u"cannot New; press +; tap Bio of rice; double-tap rice; press Space Return Del; "
+            "hold rice; tap Menu; see (Modify...), (Create Copy), (Delete), View Summary..., "
+            "Find..., Set Filters..., (Clear Filters); press Esc; at Pantry; "
+            "see Quantity: 0, 5"_s);
         QVERIFY(!m_errand->IsTicked(0));
-        QVERIFY(Page()->ActionOf(Command::Find)->isEnabled());
     }
 
     void columnsAreDraggedByTouch()
@@ -300,10 +233,8 @@ private Q_SLOTS:
         const QPoint from(header->sectionViewportPosition(Price) + 10, y);
         Finger(*header->viewport()).Swipe(from, { 10, y }, 100);
         QCOMPARE(header->visualIndex(Price), 0);
-        QCOMPARE(m_errand->Lines(), u"rice salt"_s);
         // The arrows go as the columns lie.
-        m_errand->Tap(0, Name);
-        QTest::keyClick(View(), Qt::Key_Right);
+        Act(u"see rice, salt; tap rice; press Right"_s);
         QCOMPARE(View()->currentIndex().column(), int { Count });
     }
 
@@ -334,7 +265,7 @@ private Q_SLOTS:
         const int usualBio = header->sectionSize(Bio);
         header->resizeSection(Price, 123);
         header->moveSection(header->visualIndex(Price), 0);
-        QTest::keyClick(Page(), Qt::Key_Escape);
+        Act(u"press Esc"_s);
         QCOMPARE(File().list.columnOrder, (std::vector<quint32> { 4, 0, 1, 2, 3, 5, 6, 7 }));
         QCOMPARE(File().list.TableColSizes.section(u',', Price, Price), u"123"_s);
         // Widths that are missing or absurd are the usual ones.
@@ -411,7 +342,6 @@ private:
     std::unique_ptr<RowsErrand> m_errand;
 
     [[nodiscard]] ListFixture& File() const { return m_errand->file; }
-    [[nodiscard]] PageStack& Stack() const { return *m_errand->stack; }
     [[nodiscard]] RowsView* Page() const { return m_errand->page; }
     [[nodiscard]] QTableView* View() const { return m_errand->View(); }
 };

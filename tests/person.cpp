@@ -1,0 +1,313 @@
+// SPDX-License-Identifier: MIT
+#include "tests/person.h"
+
+#include "widgets/page_stack.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTabBar>
+#include <QTest>
+
+#include <optional>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Where something is that can be tapped.
+struct Spot
+{
+    QWidget* widget;
+    QPoint place;
+    bool isEnabled;
+};
+
+QWidget* InFront()
+{
+    if (QWidget* popup = QApplication::activePopupWidget())
+        return popup;
+    if (QWidget* box = QApplication::activeModalWidget())
+        return box;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        auto* pages = qobject_cast<PageStack*>(window);
+        if (pages == nullptr)
+            pages = window->findChild<PageStack*>();
+        if (pages == nullptr || !window->isVisible())
+            continue;
+        // As a window manager does once a question is answered or a menu gone.
+        window->activateWindow();
+        return QTest::qWaitForWindowActive(window) ? pages->Top() : nullptr;
+    }
+    return nullptr;
+}
+
+template <typename T> QList<T*> SeenIn(const QWidget& front)
+{
+    QList<T*> seen;
+    for (T* widget : front.findChildren<T*>()) {
+        if (widget->isVisible())
+            seen << widget;
+    }
+    return seen;
+}
+
+QAbstractItemView* ViewIn(const QWidget& front)
+{
+    for (auto* view : SeenIn<QAbstractItemView>(front)) {
+        if (qobject_cast<QHeaderView*>(view) == nullptr)
+            return view;
+    }
+    return nullptr;
+}
+
+QHeaderView* HeaderIn(const QWidget& front)
+{
+    for (auto* header : SeenIn<QHeaderView>(front)) {
+        if (header->orientation() == Qt::Horizontal)
+            return header;
+    }
+    return nullptr;
+}
+
+/// The column of that header, -1 if there is none.
+int ColumnOf(const QWidget& front, const QString& title)
+{
+    const QHeaderView* header = HeaderIn(front);
+    int column = header == nullptr ? -1 : header->count() - 1;
+    while (column >= 0 && header->model()->headerData(column, Qt::Horizontal).toString() != title)
+        --column;
+    return column;
+}
+
+QString TextAt(const QAbstractItemView& view, int line, int column)
+{
+    return view.model()->index(line, column).data().toString();
+}
+
+std::optional<Spot> CellSpot(const QWidget& front, const QString& what)
+{
+    QAbstractItemView* view = ViewIn(front);
+    const QAbstractItemModel* model = view == nullptr ? nullptr : view->model();
+    const int wanted = ColumnOf(front, what.section(u" of "_s, 0, 0));
+    for (int line = 0; model != nullptr && line < model->rowCount(); ++line) {
+        for (int column = 0; column < model->columnCount(); ++column) {
+            const bool isNamed
+                = wanted == column && TextAt(*view, line, 0) == what.section(u" of "_s, 1);
+            if (!isNamed && TextAt(*view, line, column) != what)
+                continue;
+            const QModelIndex cell = model->index(line, column);
+            view->scrollTo(cell);
+            return Spot { view->viewport(), view->visualRect(cell).center(), true };
+        }
+    }
+    return {};
+}
+
+std::optional<Spot> HeaderSpot(const QWidget& front, const QString& what)
+{
+    const int column = ColumnOf(front, what);
+    if (column < 0)
+        return {};
+    const QHeaderView* header = HeaderIn(front);
+    const QPoint place(header->sectionViewportPosition(column) + 20, header->height() / 2);
+    return Spot { header->viewport(), place, true };
+}
+
+std::optional<Spot> ControlSpot(const QWidget& front, const QString& what)
+{
+    for (QWidget* widget : SeenIn<QWidget>(front)) {
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        const bool isSo = button != nullptr && button->text().remove(u'&') == what;
+        // Where a checkbox has its square.
+        const int x = button != nullptr && button->isCheckable() ? 10 : widget->width() / 2;
+        if (isSo || widget->objectName() == what)
+            return Spot { widget, { x, widget->height() / 2 }, widget->isEnabled() };
+        auto* tabs = qobject_cast<QTabBar*>(widget);
+        for (int tab = 0; tabs != nullptr && tab < tabs->count(); ++tab) {
+            if (tabs->tabText(tab) == what)
+                return Spot { tabs, tabs->tabRect(tab).center(), true };
+        }
+    }
+    return {};
+}
+
+std::optional<Spot> FindSpot(QWidget& front, const QString& what)
+{
+    if (const auto* menu = qobject_cast<QMenu*>(&front)) {
+        for (QAction* entry : menu->actions()) {
+            if (entry->text() == what)
+                return Spot { &front, menu->actionGeometry(entry).center(), entry->isEnabled() };
+        }
+        return {};
+    }
+    for (const auto find : { ControlSpot, HeaderSpot, CellSpot }) {
+        if (const auto spot = find(front, what))
+            return spot;
+    }
+    return {};
+}
+
+/// What a control holds, as a text.
+QString HeldBy(const QWidget* control)
+{
+    if (const auto* edit = qobject_cast<const QLineEdit*>(control))
+        return edit->text();
+    if (const auto* box = qobject_cast<const QComboBox*>(control))
+        return box->currentText();
+    const auto* button = qobject_cast<const QAbstractButton*>(control);
+    if (button == nullptr)
+        return control->accessibleDescription();
+    if (!button->isCheckable())
+        return button->text();
+    return button->isChecked() ? u"ticked"_s : QString();
+}
+
+QString LineOf(const QWidget& front, int line)
+{
+    const QAbstractItemView& view = *ViewIn(front);
+    QStringList cells { TextAt(view, line, 0) };
+    for (int column = 1; HeaderIn(front) == nullptr && column < view.model()->columnCount();
+         ++column)
+        cells << TextAt(view, line, column);
+    return cells.join(u'|');
+}
+
+/// What is seen of a column or a control of that name; of all that is in front if it is empty.
+QString ReadFrom(const QWidget& front, const QString& name)
+{
+    QStringList seen;
+    const int column = ColumnOf(front, name);
+    const auto* control = name.isEmpty() ? nullptr : front.findChild<QWidget*>(name);
+    if (control != nullptr)
+        seen << HeldBy(control);
+    else if (const auto* box = qobject_cast<const QMessageBox*>(&front))
+        seen << box->text();
+    else if (const auto* menu = qobject_cast<const QMenu*>(&front)) {
+        for (const QAction* entry : menu->actions()) {
+            const QString text = (entry->isChecked() ? u"*"_s : QString()) + entry->text();
+            if (!entry->isSeparator())
+                seen << (entry->isEnabled() ? text : u'(' + text + u')');
+        }
+    } else if (const auto* view = ViewIn(front)) {
+        for (int line = 0; line < view->model()->rowCount(); ++line)
+            seen << (column < 0 ? LineOf(front, line) : TextAt(*view, line, column));
+    }
+    return seen.join(u", "_s);
+}
+
+QString SelectedIn(const QWidget& front)
+{
+    const auto* view = ViewIn(front);
+    const auto lines = view == nullptr ? QModelIndexList() : view->selectionModel()->selectedRows();
+    return lines.isEmpty() ? QString() : TextAt(*view, lines.front().row(), 0);
+}
+
+void Press(QWidget& front, const QString& keys)
+{
+    for (const QString& name : keys.split(u' ')) {
+        const QKeyCombination key = QKeySequence::fromString(name)[0];
+        QWidget* focused = QApplication::focusWidget();
+        const bool isInFront = focused != nullptr && focused->window() == front.window();
+        QTest::keyClick(isInFront ? focused : &front, key.key(), key.keyboardModifiers());
+    }
+}
+
+bool Choose(QComboBox* box, const QString& text)
+{
+    if (box == nullptr || !box->isVisible() || box->findText(text) < 0)
+        return false;
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Home);
+    while (box->currentText() != text)
+        QTest::keyClick(box, Qt::Key_Down);
+    return true;
+}
+
+void Touch(const QString& how, const Spot& spot)
+{
+    if (how == u"hold") {
+        const QPoint place = spot.widget->mapToGlobal(spot.place);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, spot.place, place);
+        QApplication::sendEvent(spot.widget, &event);
+        return;
+    }
+    QTest::mouseClick(spot.widget, Qt::LeftButton, {}, spot.place);
+    if (how == u"double-tap")
+        QTest::mouseDClick(spot.widget, Qt::LeftButton, {}, spot.place);
+}
+
+/// Fills a control, or looks at what it or a column holds.
+bool DoWithNamed(QWidget& front, const QString& verb, const QString& name, const QString& text)
+{
+    if (verb == u"choose")
+        return Choose(front.findChild<QComboBox*>(name), text);
+    if (verb == u"see")
+        return ReadFrom(front, name) == text;
+    const auto spot = ControlSpot(front, name);
+    if (!spot)
+        return false;
+    Touch(u"tap"_s, *spot);
+    Press(front, u"Ctrl+A Del"_s);
+    QTest::keyClicks(QApplication::focusWidget(), text);
+    return true;
+}
+
+/// Whether the step could be done.
+bool DoStep(const QString& verb, const QString& what)
+{
+    QWidget* front = InFront();
+    if (front == nullptr)
+        return false;
+    const QString name = what.section(u": "_s, 0, 0);
+    const bool isNamed = what.contains(u": ")
+        && (ColumnOf(*front, name) >= 0 || front->findChild<QWidget*>(name) != nullptr);
+    if (isNamed)
+        return DoWithNamed(*front, verb, name, what.section(u": "_s, 1));
+    const QString text = what == u"nothing" ? QString() : what;
+    if (verb == u"see")
+        return ReadFrom(*front, {}) == text;
+    if (verb == u"on")
+        return SelectedIn(*front) == text;
+    if (verb == u"at")
+        return qobject_cast<Page*>(front) != nullptr && static_cast<Page*>(front)->Title() == text;
+    if (verb == u"press")
+        return Press(*front, what), true;
+    if (verb == u"type")
+        return QTest::keyClicks(QApplication::focusWidget(), what), true;
+    const auto spot = FindSpot(*front, what);
+    if (!spot || spot->isEnabled == (verb == u"cannot"))
+        return false;
+    if (verb != u"cannot")
+        Touch(verb, *spot);
+    return true;
+}
+
+} // namespace
+
+void Act(const QString& steps)
+{
+    for (const QString& step : steps.split(u"; "_s, Qt::SkipEmptyParts)) {
+        const QString verb = step.section(u' ', 0, 0);
+        const QString what = step.section(u' ', 1);
+        if (QTest::currentTestFailed())
+            return;
+        // Nobody is quicker than what the step before brings about.
+        QTest::qWait(0);
+        if (!QTest::qWaitFor([&] { return DoStep(verb, what); })) {
+            const QWidget* front = InFront();
+            const QString seen = front == nullptr ? u"no window"_s : ReadFrom(*front, {});
+            QTest::qFail(qPrintable(step + u", but seen is "_s + seen), __FILE__, __LINE__);
+        }
+    }
+}
+
+} // namespace Quillory

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Quillory {
+
+/// Does by taps and keys what a person does with what is in front: a pop-up, else a message or a
+/// dialog, else the topmost page. Steps are parted by "; ". The first that is not possible within
+/// some seconds fails the test and ends them.
+///
+/// - `tap X`, `double-tap X`, `hold X`: the control of that object name, or whatever reads so: a
+///   button, an entry, a tab, the header of a column, a cell. "COLUMN of LINE" is a cell, too.
+/// - `fill X: TEXT` types over what a control holds.
+/// - `choose X: TEXT` goes down a drop-down list by keys, until it shows the text.
+/// - `type TEXT` and `press KEYS`, such as "Ctrl+F Down", go to what has the keyboard.
+/// - `see TEXT` waits for a message, a menu (disabled entries in brackets, ticked ones starred), or
+///   the lines of a page: first cells, or all, parted by "|", where columns have no headers.
+/// - `see X: TEXT` waits for the cells of a column, or for what a control holds.
+/// - `on TEXT` waits for the selected line, `at TEXT` for the title of the page. "nothing" is none.
+/// - `cannot X` waits for what reads so and is disabled.
+void Act(const QString& steps);
+
+} // namespace Quillory
