@@ -10,6 +10,7 @@
 #include "rows/rows_view.h"
 #include "rows/summary_page.h"
 #include "tests/list_fixture.h"
+#include "tests/person.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
 #include "widgets/app_style.h"
@@ -21,27 +22,27 @@
 
 #include <QAccessible>
 #include <QHeaderView>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScopeGuard>
 #include <QTableView>
 
 namespace {
 
+/// A page without a title has no header, and nothing to tap there.
+InventoryList NamedList()
+{
+    InventoryList list = NewInventoryList();
+    list.Name = u"Tools"_s;
+    return list;
+}
+
 /// A list, what pages on it are made from, and what they gave.
 struct Subject
 {
     ListFixture file { u"Pantry"_s };
-    InventoryList list = NewInventoryList();
+    InventoryList list = NamedList();
     PageStack stack;
     Page* page = nullptr;
     QList<PageResult> results;
-
-    QPushButton* Answer(QMessageBox::StandardButton button) const
-    {
-        auto* box = qobject_cast<QMessageBox*>(Questions::Of(&stack).Shown());
-        return box == nullptr ? nullptr : qobject_cast<QPushButton*>(box->button(button));
-    }
 };
 
 /// A page that needs no list.
@@ -63,16 +64,15 @@ template <FilterMode kMode> Page* MakeFilter(Subject& subject)
 struct PageCase
 {
     const char* name;
-    /// What there is besides Escape and closing: "ok" and "leftKey" for the buttons, "enter" for
-    /// Return where it is OK.
+    /// What there is besides Escape and closing.
     QStringList ways;
     /// Whether a letter typed first, or Space, is input that could be lost.
     bool takesInput;
     Page* (*make)(Subject& subject);
 };
 
-const QStringList kOk { u"ok"_s, u"enter"_s };
-const QStringList kOkAndCancel { u"ok"_s, u"leftKey"_s, u"enter"_s };
+const QStringList kOk { u"tap ok"_s, u"press Return"_s };
+const QStringList kOkAndCancel { u"tap ok"_s, u"tap leftKey"_s, u"press Return"_s };
 
 const std::array kPages {
     PageCase { "new list", kOkAndCancel, true, MakeSheet<SheetMode::NewList> },
@@ -83,7 +83,7 @@ const std::array kPages {
     PageCase { "import order", kOkAndCancel, false,
         [](Subject& subject) -> Page* { return new ImportOrderPage(subject.list.columns); } },
     // Return takes the selected icon.
-    PageCase { "icon grid", { u"leftKey"_s, u"enter"_s }, false, Make<IconGridPage, 0> },
+    PageCase { "icon grid", { u"tap leftKey"_s, u"press Return"_s }, false, Make<IconGridPage, 0> },
     PageCase { "find", kOkAndCancel, true, MakeFilter<FilterMode::Find> },
     PageCase { "filter", kOkAndCancel, false, MakeFilter<FilterMode::Filter> },
     PageCase { "filters", kOk, false,
@@ -91,12 +91,12 @@ const std::array kPages {
             return new FiltersPage({}, subject.list, subject.file.context);
         } },
     // Return goes on to the next field.
-    PageCase { "row editor", { u"ok"_s, u"leftKey"_s }, true,
+    PageCase { "row editor", { u"tap ok"_s, u"tap leftKey"_s }, true,
         [](Subject& subject) -> Page* {
             return new RowEditor(subject.list, nullptr, subject.file.context);
         } },
     // Return edits the selected row.
-    PageCase { "rows", { u"ok"_s }, false,
+    PageCase { "rows", { u"tap ok"_s }, false,
         [](Subject& subject) -> Page* {
             return new RowsView(*subject.file.rows, subject.file.list, subject.file.context, {});
         } },
@@ -129,22 +129,17 @@ void Show(Subject& subject, const PageCase& page)
 
 void Leave(Subject& subject, const QString& way)
 {
-    QWindow* window = subject.stack.windowHandle();
-    if (way == u"escape")
-        QTest::keyClick(window, Qt::Key_Escape);
-    else if (way == u"enter")
-        QTest::keyClick(window, Qt::Key_Return);
-    else if (way == u"closing")
+    if (way == u"closing")
         subject.stack.CloseAll([] {});
     else
-        QTest::mouseClick(subject.page->findChild<QWidget*>(way), Qt::LeftButton);
+        Act(way);
 }
 
 PageResult ResultOf(const QString& way)
 {
     if (way == u"closing")
         return PageResult::Closing;
-    return way == u"escape" || way == u"leftKey" ? PageResult::Cancel : PageResult::Ok;
+    return way == u"press Esc" || way == u"tap leftKey" ? PageResult::Cancel : PageResult::Ok;
 }
 
 /// Fonts and places of what is seen of a page.
@@ -173,7 +168,7 @@ private Q_SLOTS:
     void everyPageEndsAsItsUserSays_data()
     {
         AddRows([](const PageCase& page) {
-            return page.ways + QStringList { u"escape"_s, u"closing"_s };
+            return page.ways + QStringList { u"press Esc"_s, u"closing"_s };
         });
     }
 
@@ -234,7 +229,7 @@ private Q_SLOTS:
     void inputIsLostOnlyAfterAYes_data()
     {
         AddRows([](const PageCase& page) {
-            return page.takesInput ? QStringList { u"escape"_s, u"closing"_s } : QStringList();
+            return page.takesInput ? QStringList { u"press Esc"_s, u"closing"_s } : QStringList();
         });
     }
 
@@ -244,15 +239,13 @@ private Q_SLOTS:
         Subject subject;
         Show(subject, kPages.at(static_cast<size_t>(page)));
         // Types into a text, ticks a checkbox.
-        QTest::keyClick(subject.stack.windowHandle(), Qt::Key_X);
-        QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Space);
+        Act(u"press X Space"_s);
         Leave(subject, way);
-        QVERIFY(subject.Answer(QMessageBox::No) != nullptr);
-        QTest::mouseClick(subject.Answer(QMessageBox::No), Qt::LeftButton);
+        Act(u"tap No"_s);
         QCOMPARE(subject.stack.Top(), subject.page);
         QVERIFY(subject.page->HasUnsavedInput());
         Leave(subject, way);
-        QTest::mouseClick(subject.Answer(QMessageBox::Yes), Qt::LeftButton);
+        Act(u"tap Yes"_s);
         QCOMPARE(subject.results, QList<PageResult> { ResultOf(way) });
     }
 
@@ -260,7 +253,7 @@ private Q_SLOTS:
     {
         AddRows([](const PageCase& page) {
             QStringList buttons = page.ways;
-            buttons.removeAll(u"enter"_s);
+            buttons.removeAll(u"press Return"_s);
             return buttons;
         });
     }
@@ -270,9 +263,9 @@ private Q_SLOTS:
         const auto [page, button] = Table<int, QString>::Row();
         Subject subject;
         Show(subject, kPages.at(static_cast<size_t>(page)));
-        auto* focused = subject.page->findChild<QWidget*>(button);
+        auto* focused = subject.page->findChild<QWidget*>(button.section(u' ', 1));
         focused->setFocus(Qt::TabFocusReason);
-        QTest::keyClick(subject.stack.windowHandle(), Qt::Key_Return);
+        Act(u"press Return"_s);
         QCOMPARE(subject.results, QList<PageResult> { ResultOf(button) });
     }
 };

@@ -45,23 +45,6 @@ private Q_SLOTS:
             QTRY_COMPARE(heard, then);
         }
     }
-
-    void commandsOfSoftKeysMenusAndShortcutsAreOne()
-    {
-        Page page(u"A page"_s);
-        page.SetSoftKeys(SoftKeysOf(MenuBar::Columns), MenuEntries(MenuId::Columns));
-        QList<int> chosen;
-        connect(&page, &Page::CommandChosen, this,
-            [&](Command command) { chosen << static_cast<int>(command); });
-        page.show();
-        auto* left = page.findChild<QWidget*>(u"leftKey"_s);
-        QTest::mouseClick(left, Qt::LeftButton);
-        page.Trigger(Command::Rename);
-        page.SetCommandEnabled(Command::Insert, false);
-        QVERIFY(!left->isEnabled());
-        page.Trigger(Command::Insert);
-        QCOMPARE(chosen, (QList<int> { 32780, 32777 }));
-    }
 };
 
 QUILLORY_TEST(QApplication, PageStackTest)

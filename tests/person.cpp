@@ -38,14 +38,16 @@ QWidget* InFront()
     if (QWidget* box = QApplication::activeModalWidget())
         return box;
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        auto* pages = qobject_cast<PageStack*>(window);
-        if (pages == nullptr)
-            pages = window->findChild<PageStack*>();
-        if (pages == nullptr || !window->isVisible())
+        if (!window->isVisible() || window->windowType() != Qt::Window)
             continue;
         // As a window manager does once a question is answered or a menu gone.
         window->activateWindow();
-        return QTest::qWaitForWindowActive(window) ? pages->Top() : nullptr;
+        if (!QTest::qWaitForWindowActive(window))
+            return nullptr;
+        auto* pages = qobject_cast<PageStack*>(window);
+        if (pages == nullptr)
+            pages = window->findChild<PageStack*>();
+        return pages == nullptr ? window : pages->Top();
     }
     return nullptr;
 }

@@ -6,8 +6,8 @@
 namespace Quillory {
 
 /// Does by taps and keys what a person does with what is in front: a pop-up, else a message or a
-/// dialog, else the topmost page. Steps are parted by "; ". The first that is not possible within
-/// some seconds fails the test and ends them.
+/// dialog, else the window or its topmost page. Steps are parted by "; ". The first that is not
+/// possible within some seconds fails the test and ends them.
 ///
 /// - `tap X`, `double-tap X`, `hold X`: the control of that object name, or whatever reads so: a
 ///   button, an entry, a tab, the header of a column, a cell. "COLUMN of LINE" is a cell, too.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "listdef/import_order_page.h"
+#include "tests/person.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
 #include "values/column_type.h"
@@ -13,14 +14,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPointingDevice>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
 #include <memory>
-#include <utility>
 
 class PickersTest : public QObject
 {
@@ -138,65 +136,45 @@ private Q_SLOTS:
             QVERIFY(PaletteColour(order.at(i - 1)).rgb() < PaletteColour(order.at(i)).rgb());
     }
 
-    void arrowKeysGoThroughTheColoursInOrder()
+    void coloursAreChosenByKeysAndTaps_data()
     {
-        ColourButton button;
-        const QSignalSpy picked(&button, &ColourButton::ColourPicked);
-        button.SetColour(kAutomaticColour);
-        QTest::keyClick(&button, Qt::Key_Up);
-        QCOMPARE(button.Colour(), kAutomaticColour);
-        QTest::keyClick(&button, Qt::Key_Down);
-        QCOMPARE(button.Colour(), 4U);
-        button.SetColour(22);
-        QTest::keyClick(&button, Qt::Key_Down);
-        QCOMPARE(button.Colour(), 22U);
-        QCOMPARE(picked.count(), 0);
+        // In the grid from the second one of the second column of six; places in order of value.
+        const Table<size_t, QString, size_t, int> add;
+        add("no way up from the first", 0U, u"press Up"_s, 0U, 0);
+        add("down from the first", 0U, u"press Down"_s, 1U, 0);
+        add("no way down from the last", 35U, u"press Down"_s, 35U, 0);
+        add("left in the grid", 7U, u"tap colour; press Left Return"_s, 1U, 1);
+        add("right in the grid", 7U, u"tap colour; press Right Return"_s, 13U, 1);
+        add("up in the grid", 7U, u"tap colour; press Up Return"_s, 6U, 1);
+        add("down in the grid", 7U, u"tap colour; press Down Return"_s, 8U, 1);
+        add("a tap, and one on what is shown already", 7U,
+            u"tap colour; tap colour4; tap colour; tap colour4"_s, 1U, 2);
     }
 
-    void aColourIsPickedInTheGrid()
+    void coloursAreChosenByKeysAndTaps()
     {
-        ColourButton button;
-        QSignalSpy picked(&button, &ColourButton::ColourPicked);
-        button.SetColour(5);
-        button.show();
-        for (const auto& [name, index] : { std::pair { u"colour9"_s, 9U }, { u"colour9"_s, 9U } }) {
-            QTest::mouseClick(&button, Qt::LeftButton);
-            auto* grid = button.findChild<ColourGrid*>();
-            QVERIFY(grid != nullptr && grid->isVisible());
-            QTest::mouseClick(grid->findChild<QWidget*>(name), Qt::LeftButton);
-            QCOMPARE(button.Colour(), index);
-            QTRY_VERIFY(button.findChild<ColourGrid*>() == nullptr);
-        }
-        // The one that was shown already is told again.
-        QCOMPARE(picked.count(), 2);
-        // All of them can be reached in the smallest window, where they are largest.
+        const auto [from, steps, to, times] = Table<size_t, QString, size_t, int>::Row();
+        QWidget window;
+        ColourButton button(&window);
+        button.setObjectName(u"colour"_s);
+        const QSignalSpy picked(&button, &ColourButton::ColourPicked);
+        button.SetColour(ColoursByValue().at(from));
+        window.show();
+        button.setFocus();
+        Act(steps);
+        QCOMPARE(button.Colour(), ColoursByValue().at(to));
+        QCOMPARE(picked.count(), times);
+        QTRY_VERIFY(button.findChild<ColourGrid*>() == nullptr);
+    }
+
+    void allColoursCanBeReachedInTheSmallestWindow()
+    {
+        // Where fingers make them largest.
         const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+        ColourButton button;
         auto* grid = new ColourGrid(5, &button);
         grid->Open({}, QRect(0, 0, 240, 320));
         QVERIFY2(grid->width() <= 240, qPrintable(QString::number(grid->width())));
-    }
-
-    void arrowKeysGoTheirWayThroughTheGrid_data()
-    {
-        const Table<int, size_t> add;
-        // From the second one of the second column of six.
-        add("left", int { Qt::Key_Left }, size_t { 1 });
-        add("right", int { Qt::Key_Right }, size_t { 13 });
-        add("up", int { Qt::Key_Up }, size_t { 6 });
-        add("down", int { Qt::Key_Down }, size_t { 8 });
-    }
-
-    void arrowKeysGoTheirWayThroughTheGrid()
-    {
-        const auto [key, place] = Table<int, size_t>::Row();
-        ColourButton button;
-        button.SetColour(ColoursByValue().at(7));
-        button.show();
-        QTest::mouseClick(&button, Qt::LeftButton);
-        auto* grid = button.findChild<ColourGrid*>();
-        QTest::keyClick(grid->focusWidget(), static_cast<Qt::Key>(key));
-        QTest::keyClick(grid->focusWidget(), Qt::Key_Return);
-        QCOMPARE(button.Colour(), ColoursByValue().at(place));
     }
 
     void aPointerPicksOnlyByWhatItDoesInTheGrid()
@@ -246,22 +224,14 @@ private Q_SLOTS:
             { u"Price"_s, 2, price } });
         const QSignalSpy ended(&page, &Page::Ended);
         page.show();
-        QVERIFY(QTest::qWaitForWindowActive(&page));
-        const auto* up = page.findChild<QPushButton*>(u"moveUp"_s);
-        auto* down = page.findChild<QPushButton*>(u"moveDown"_s);
-        QVERIFY(!up->isEnabled());
-        down->setFocus();
+        Act(u"see Name, Count, Price; cannot moveUp"_s);
+        page.findChild<QWidget*>(u"moveDown"_s)->setFocus();
         // Once too often: what has the keyboard then does nothing.
-        for (int i = 0; i < 3; ++i)
-            QTest::keyClick(page.focusWidget(), Qt::Key_Space);
-        QVERIFY(!down->isEnabled());
+        Act(u"press Space Space Space; cannot moveDown; see Count, Price, Name"_s);
         QCOMPARE(ended.count(), 0);
         QCOMPARE(page.Order(), (std::vector { PropCount, price, PropName }));
-        QTest::keyClick(page.focusWidget(), Qt::Key_Up, Qt::ControlModifier);
-        QTest::keyClick(page.focusWidget(), Qt::Key_Up, Qt::ControlModifier);
-        QTest::keyClick(page.focusWidget(), Qt::Key_Down, Qt::ControlModifier);
+        Act(u"press Ctrl+Up Ctrl+Up Ctrl+Down; see Count, Name, Price"_s);
         QCOMPARE(page.Order(), (std::vector { PropCount, PropName, price }));
-        QCOMPARE(page.findChild<QListWidget*>()->item(1)->text(), u"Name"_s);
     }
 };
 
