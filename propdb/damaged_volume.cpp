@@ -80,7 +80,7 @@ Roots ReadRoots(const PageFile& file)
     });
     // These were made first, in every file.
     for (const auto& [name, root] :
-        { std::pair(u"property_database"_s, 3), { u"property"_s, 4 } }) {
+        { std::pair(u"property_database"_s, 3U), { u"property"_s, 4U } }) {
         if (!roots.tables.contains(name))
             roots.tables.insert(name, root);
     }
