@@ -4,6 +4,7 @@
 #include "tests/page_damage.h"
 #include "tests/test_program.h"
 
+#include <QAbstractButton>
 #include <QHeaderView>
 #include <QProgressDialog>
 #include <QTableView>

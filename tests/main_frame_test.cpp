@@ -4,6 +4,7 @@
 #include "tests/test_program.h"
 
 #include <QDialogButtonBox>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTextBrowser>
 #include <QTimer>
