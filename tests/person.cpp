@@ -276,7 +276,8 @@ bool DoStep(const QString& verb, const QString& what)
         return DoWithNamed(*front, verb, name, what.section(u": "_s, 1));
     const QString text = what == u"nothing" ? QString() : what;
     if (verb == u"see")
-        return ReadFrom(*front, {}) == text;
+        return text.endsWith(u'…') ? ReadFrom(*front, {}).startsWith(text.chopped(1))
+                                   : ReadFrom(*front, {}) == text;
     if (verb == u"on")
         return SelectedIn(*front) == text;
     if (verb == u"at")

@@ -14,7 +14,8 @@ namespace Quillory {
 /// - `fill X: TEXT` types over what a control holds.
 /// - `choose X: TEXT` goes down a drop-down list by keys, until it shows the text.
 /// - `type TEXT` and `press KEYS`, such as "Ctrl+F Down", go to what has the keyboard.
-/// - `see TEXT` waits for a message, a menu (disabled entries in brackets, ticked ones starred), or
+/// - `see TEXT` waits for a message ("…" stands for its rest), a menu (disabled entries in
+/// brackets, ticked ones starred), or
 ///   the lines of a page: first cells, or all, parted by "|", where columns have no headers.
 /// - `see X: TEXT` waits for the cells of a column, or for what a control holds.
 /// - `on TEXT` waits for the selected line, `at TEXT` for the title of the page. "nothing" is none.

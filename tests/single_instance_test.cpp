@@ -216,6 +216,7 @@ private Q_SLOTS:
         add("lock of a run that ended", u"lock"_s, 'f', true);
         add("pipe for a lock", u"lock"_s, 'p', true);
         add("link for a lock", u"lock"_s, 'l', false);
+        add("socket of a run that was killed", u"socket"_s, 's', true);
         add("file for a socket", u"socket"_s, 'f', true);
         add("link for a socket", u"socket"_s, 'l', true);
         add("folder for a socket", u"socket"_s, 'd', false);
@@ -230,6 +231,8 @@ private Q_SLOTS:
             QVERIFY(close(open(path.constData(), O_CREAT | O_WRONLY, 0600)) == 0);
         else if (kind == 'p')
             QCOMPARE(mkfifo(path.constData(), 0600), 0);
+        else if (kind == 's')
+            LeaveSocket(name);
         else if (kind == 'l')
             QCOMPARE(symlink(elsewhere.constData(), path.constData()), 0);
         else
@@ -252,20 +255,6 @@ private Q_SLOTS:
         SingleInstance second(m_folder->path(), kLittle);
         QCOMPARE(second.Start({}), Outcome::HandedOverUnanswered);
         close(held);
-    }
-
-    void aSocketLeftBehindIsReplaced()
-    {
-        {
-            QLocalServer killed;
-            QVERIFY(killed.listen(m_folder->filePath(u"killed"_s)));
-            // A process that was killed leaves its socket without anyone behind it.
-            QVERIFY(
-                QFile::rename(m_folder->filePath(u"killed"_s), m_folder->filePath(u"socket"_s)));
-        }
-        SingleInstance first(m_folder->path());
-        Serve(first);
-        QCOMPARE(StartSecond({ u"Pantry"_s, {} }), Outcome::HandedOver);
     }
 
     void theFolderIsThisUsersAlone()
@@ -309,6 +298,14 @@ private:
         while (!thread->wait(QDeadlineTimer(1)))
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         return outcome.value_or(Outcome::Alone);
+    }
+
+    /// A process that is killed leaves its socket without anyone behind it.
+    void LeaveSocket(const QString& name) const
+    {
+        QLocalServer killed;
+        const QString path = m_folder->filePath(u"killed"_s);
+        QVERIFY(killed.listen(path) && QFile::rename(path, m_folder->filePath(name)));
     }
 
     std::unique_ptr<QLocalSocket> Connect()
