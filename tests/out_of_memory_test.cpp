@@ -72,8 +72,11 @@ private Q_SLOTS:
                 told += box->text() == u"Out of memory!" ? 1 : 0;
                 Act(u"tap OK"_s);
             }
+            // What is closed is there until events are handled: the next list needs memory of its
+            // own.
             while (errand.pages->Depth() > 1)
-                Act(u"tap OK"_s);
+                QTest::mouseClick(
+                    errand.pages->Top()->findChild<QWidget*>(u"ok"_s), Qt::LeftButton);
         }
         QVERIFY(told > 0);
         Act(u"tap Pantry; at Pantry"_s);
