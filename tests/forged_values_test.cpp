@@ -130,8 +130,8 @@ private Q_SLOTS:
         for (const char* change : { "UPDATE property_database SET name = 5",
                  "UPDATE property_database SET table_name = 5",
                  "UPDATE property SET name = x'414243'", "UPDATE property SET column_name = 2.5",
-                 "UPDATE property_database SET table_name = (SELECT table_name FROM "
-                 "property_database WHERE oid = 3) WHERE oid = 6",
+                 R"(UPDATE property_database SET table_name =
+                    (SELECT table_name FROM property_database WHERE oid = 3) WHERE oid = 6)",
                  "UPDATE property_database SET name = 'InvLists'",
                  "UPDATE property_database SET oid = 4294967299 WHERE oid = 3",
                  "UPDATE property_database SET type = type + 4294967296",
@@ -149,8 +149,8 @@ private Q_SLOTS:
                  "UPDATE \"InvLists (1)\" SET \"MapName\" = 'none' WHERE oid = 2",
                  "UPDATE \"InvLists (1)\" SET \"MapName\" = NULL",
                  "UPDATE \"InvLists (1)\" SET \"Name\" = NULL",
-                 "UPDATE \"InvLists (1)\" SET \"MapName\" = (SELECT max(\"MapName\") FROM "
-                 "\"InvLists (1)\")",
+                 R"sql(UPDATE "InvLists (1)" SET "MapName" =
+                    (SELECT max("MapName") FROM "InvLists (1)"))sql",
                  "UPDATE \"InvLists (1)\" SET oid = 4294967298 WHERE oid = 2",
                  "UPDATE \"InvLists (1)\" SET oid = 7 WHERE oid = 2",
                  "UPDATE \"InvLists (1)\" SET oid = -2 WHERE oid = 2",
