@@ -6,6 +6,7 @@
 #include "tests/test_program.h"
 
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QSessionManager>
 #include <QTimer>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/home_list.h"
 #include "app/main_frame.h"
 #include "store/kept_copies.h"
 #include "tests/file_bytes.h"
@@ -10,7 +9,6 @@
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QTest>
 
 namespace Quillory {

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QHeaderView>
+#include <QMessageBox>
 #include <QProgressDialog>
 #include <QTableView>
 #include <QTimer>

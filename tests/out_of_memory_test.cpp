@@ -4,6 +4,7 @@
 #include "tests/main_frame_errand.h"
 #include "tests/test_program.h"
 
+#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTreeView>

@@ -90,9 +90,14 @@ int ColumnOf(const QWidget& front, const QString& title)
     return column;
 }
 
+/// The text of a cell; whether it is ticked if it can be.
 QString TextAt(const QAbstractItemView& view, int line, int column)
 {
-    return view.model()->index(line, column).data().toString();
+    const QModelIndex cell = view.model()->index(line, column);
+    const QVariant tick = cell.data(Qt::CheckStateRole);
+    if (tick.isValid())
+        return tick.toInt() == Qt::Checked ? u"ticked"_s : QString();
+    return cell.data().toString();
 }
 
 std::optional<Spot> CellSpot(const QWidget& front, const QString& what)

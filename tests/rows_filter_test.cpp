@@ -22,7 +22,6 @@ private Q_SLOTS:
         add(u"beans"_s, u"5"_s, u"Unchecked"_s, u"0.2"_s, u"3/2/2026"_s);
         add(u"rice flour"_s, u"5"_s, u"Checked"_s, u"0.3"_s, u""_s);
         m_errand->Open();
-        QVERIFY(m_errand->View() != nullptr);
     }
 
     void onlyRowsThatPassAreSeen_data()
@@ -75,7 +74,7 @@ private Q_SLOTS:
             u"see Quantity: 3, 5, 5; tap Menu; tap Find...; choose fieldBox: Quantity; "
             "choose conditionBox: equals to; fill valueEdit: 3; tap OK; press Space Return; "
             "press Down; type 9; press Down; tap OK; see Quantity: 9; "
-            "tap OK; see Quantity: 9, 5, 5; at Pantry"_s);
+            "tap OK; see Quantity: 9, 5, 5; see Bio: , , ticked; at Pantry"_s);
         add("Find without a match says so",
             u"tap Menu; tap Find...; at Find; choose conditionBox: equals to; fill valueEdit: tea; "
             "tap OK; see No record matched the criteria.; tap OK; at Pantry; "
@@ -117,8 +116,6 @@ private Q_SLOTS:
         Act(u"press Ctrl+F; type i; tap OK; see Rice, rice flour"_s);
         QCOMPARE(m_errand->View()->columnWidth(Count), 123);
         QVERIFY(!m_errand->stack->Top()->findChild<QWidget*>(u"softKeys"_s)->isVisible());
-        Act(u"press Space; tap OK"_s);
-        QVERIFY(!m_errand->IsTicked(0));
     }
 
 private:

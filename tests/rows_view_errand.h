@@ -37,11 +37,6 @@ public:
     {
         return file.Cells(file.rows->FillRows().rows, column);
     }
-    bool IsTicked(int line, int column = Bio) const
-    {
-        const QModelIndex cell = View()->model()->index(line, column);
-        return cell.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-    }
     QRect Cell(int line, int column) const
     {
         return View()->visualRect(View()->model()->index(line, column));
