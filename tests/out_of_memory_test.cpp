@@ -60,7 +60,7 @@ private Q_SLOTS:
         auto* app = qobject_cast<Application*>(QCoreApplication::instance());
         connect(app, &Application::MemoryRanOut, errand.frame.get(), &MainFrame::TellOutOfMemory);
         Act(u"tap OK"_s);
-        const auto* view = errand.frame->findChild<QTreeView*>();
+        const auto* view = errand.pages->findChild<QTreeView*>();
         const QPoint line = view->visualRect(view->model()->index(0, 0)).center();
         int told = 0;
         for (quint64 kilobytes = 0; kilobytes < 4096; kilobytes += 128) {
