@@ -34,6 +34,8 @@ constexpr int kDays = 7;
 void DressCalendar(QCalendarWidget* calendar)
 {
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    // Dates are typed in the field; what is begun here would be lost, memory with it, on closing.
+    calendar->setDateEditEnabled(false);
     calendar->setMinimumWidth(kDays * kMinTouchTarget);
     calendar->setMinimumHeight(kDays * kMinTouchTarget);
     // The cells of lists have room around their texts; here that would leave none for the days.
