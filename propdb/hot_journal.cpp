@@ -84,10 +84,19 @@ bool HotJournal::Read(int descriptor)
     return true;
 }
 
+bool HotJournal::Fits(int fileDescriptor) const
+{
+    struct stat status
+    { };
+    return m_firstPage && fstat(fileDescriptor, &status) == 0
+        && (qint64 { Field(*m_firstPage, HeaderLayout::kPageCount) } - 1) * kPageSize
+        < status.st_size;
+}
+
 bool HotJournal::IsOf(int fileDescriptor) const
 {
     std::array<char, HeaderLayout::kSize> header {};
-    if (!m_firstPage || !ReadAt(fileDescriptor, header.data(), header.size(), 0))
+    if (!Fits(fileDescriptor) || !ReadAt(fileDescriptor, header.data(), header.size(), 0))
         return false;
     const quint32 before = Field(*m_firstPage, HeaderLayout::kChangeCounter);
     const quint32 now = Field(header, HeaderLayout::kChangeCounter);
@@ -98,7 +107,7 @@ bool HotJournal::IsOf(int fileDescriptor) const
 
 bool HotJournal::Mends(int fileDescriptor) const
 {
-    if (!m_firstPage)
+    if (!Fits(fileDescriptor))
         return false;
     const quint32 pageCount = Field(*m_firstPage, HeaderLayout::kPageCount);
     PageBytes page;

@@ -34,6 +34,9 @@ private:
     /// As it was before the transaction; none if it is not whole.
     std::optional<PageBytes> m_firstPage;
 
+    /// Whether the open file reaches as far as before the transaction, its last page torn at most:
+    /// a volume never shrinks.
+    [[nodiscard]] bool Fits(int fileDescriptor) const;
     /// False if SQLite would take it for none yet.
     [[nodiscard]] bool Read(int descriptor);
 };
