@@ -119,7 +119,7 @@ QString Judge(const FaultRun& run, const Script& script, size_t acknowledged)
               return ReadDataFile(path);
           });
     const bool isOwnPutAside
-        = QDir(QFile::decodeName(run.Folder())).entryList({ u"*.left-*"_s }).size() > 0;
+        = !QDir(QFile::decodeName(run.Folder())).entryList({ u"*.left-*"_s }).isEmpty();
     return isOwnPutAside ? u"the file's own journal was put aside"_s : wrong;
 }
 
