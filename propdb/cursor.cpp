@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/cursor.h"
 
+#include "propdb/reading_limit.h"
+
 #include <utility>
 
 namespace Quillory {
@@ -156,13 +158,18 @@ Result<ObjectId> Cursor::SeekTo(ObjectId oid)
 Result<std::vector<ObjectId>> Cursor::List()
 {
     std::vector<ObjectId> oids;
+    ReadingLimit limit;
     for (const Range range : { Range::Keyed, Range::Keyless }) {
         auto statement
             = Statement::Prepare(m_connection, RangeSql(u"oid"_s, range, WalkDirection::Forward));
         if (!statement)
             return statement.Error();
-        while (statement->Next())
+        while (statement->Next()) {
+            // Each takes its bytes in the table too.
+            if (!limit.Add(m_connection, kLeastRecordBytes))
+                return ErrorNumber::FileCorrupt;
             oids.push_back(statement->Oid(0));
+        }
         if (statement->Error() != ErrorNumber::None)
             return statement->Error();
     }

@@ -64,14 +64,17 @@ public:
     }
     [[nodiscard]] Result<void> Run(Statement& statement)
     {
-        return m_state.volume.visit.Run(statement, m_classes, m_visitor);
+        return m_state.volume.visit.Run(statement, m_classes, m_limit, m_visitor);
     }
     /// Whether the visitor wants no more.
     [[nodiscard]] bool IsStopped() const { return m_isStopped; }
+    /// Whether more was read than the file has: the rest would be read just as slowly, for nothing.
+    [[nodiscard]] bool IsLimitPassed() const { return m_limit.IsPassed(); }
 
 private:
     const DatabaseState& m_state;
     bool m_isStopped = false;
+    ReadingLimit m_limit;
     Database::RecordVisitor m_visitor;
     std::vector<ValueClasses> m_classes;
     QString m_select;
@@ -105,13 +108,21 @@ ObjectId Database::Oid() const
 
 Result<qint64> Database::RecordCount()
 {
-    auto count = Statement::Prepare(m_state->volume.connection.get(),
-        u"SELECT count(*) FROM "_s + QuotedName(m_state->schema->tableName));
+    sqlite3* connection = m_state->volume.connection.get();
+    const auto limit = ReadRecordLimit(connection);
+    if (!limit)
+        return limit.Error();
+    auto count = Statement::Prepare(connection,
+        u"SELECT count(*) FROM (SELECT 1 FROM %1 LIMIT ?1)"_s.arg(
+            QuotedName(m_state->schema->tableName)));
     if (!count)
         return count.Error();
+    count->Bind(1, *limit);
     const auto step = count->Step();
     if (!step)
         return step.Error();
+    if (count->Int64(0) == *limit)
+        return ErrorNumber::FileCorrupt;
     return count->Int64(0);
 }
 
@@ -266,7 +277,8 @@ Database::VisitOutcome Database::VisitEach(
     const RoomyCache roomyCache(m_state->volume.connection.get());
     for (const ObjectId oid : oids) {
         statement->Bind(1, oid);
-        const auto done = select.Run(*statement);
+        const Result<void> done
+            = select.IsLimitPassed() ? ErrorNumber::FileCorrupt : select.Run(*statement);
         if (select.IsStopped())
             break;
         if (!done && outcome.passedOver++ == 0)

@@ -12,6 +12,13 @@ namespace Quillory {
 
 namespace {
 
+QByteArrayView ArgumentBytes(sqlite3_value* value)
+{
+    // In this order: the size is that of the bytes that were asked for last.
+    const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
+    return { bytes, bytes == nullptr ? 0 : sqlite3_value_bytes16(value) };
+}
+
 /// The arguments of the function: the identifier, then the properties.
 class ArgumentRecord final : public ScannedRecord
 {
@@ -39,9 +46,7 @@ public:
     }
     [[nodiscard]] QByteArrayView Bytes(size_t place) const override
     {
-        // In this order: the size is that of the bytes that were asked for last.
-        const auto* bytes = static_cast<const char*>(sqlite3_value_blob(m_properties[place]));
-        return { bytes, bytes == nullptr ? 0 : sqlite3_value_bytes16(m_properties[place]) };
+        return ArgumentBytes(m_properties[place]);
     }
 
 private:
@@ -68,7 +73,7 @@ Result<void> RecordVisit::Register(sqlite3* connection)
 void RecordVisit::Visit(sqlite3_context* context, int /*count*/, sqlite3_value** values)
 {
     auto* visit = static_cast<RecordVisit*>(sqlite3_user_data(context));
-    if (!visit->HoldsWhatIsDeclared(values + 1))
+    if (!visit->HoldsWhatIsDeclared(values + 1) || !visit->IsWithinLimit(context, values + 1))
         sqlite3_result_error_code(context, SQLITE_CORRUPT);
     else if (!visit->Visit(ArgumentRecord(values)))
         sqlite3_result_error_code(context, SQLITE_ABORT);
@@ -79,6 +84,17 @@ bool RecordVisit::HoldsWhatIsDeclared(sqlite3_value** properties) const
     return std::ranges::all_of(m_call.classes, [&properties](ValueClasses classes) {
         return IsAmong(sqlite3_value_type(*properties++), classes);
     });
+}
+
+bool RecordVisit::IsWithinLimit(sqlite3_context* context, sqlite3_value** properties) const
+{
+    qint64 bytes = 0;
+    for (size_t i = 0; i < m_call.classes.size(); ++i) {
+        const int valueClass = sqlite3_value_type(properties[i]);
+        if (valueClass == SQLITE_TEXT || valueClass == SQLITE_BLOB)
+            bytes += ArgumentBytes(properties[i]).size();
+    }
+    return m_call.limit->Add(sqlite3_context_db_handle(context), bytes);
 }
 
 bool RecordVisit::Visit(const ScannedRecord& record)
@@ -94,9 +110,9 @@ bool RecordVisit::Visit(const ScannedRecord& record)
 }
 
 Result<void> RecordVisit::Run(Statement& statement, std::span<const ValueClasses> classes,
-    const Database::RecordVisitor& visitor)
+    ReadingLimit& limit, const Database::RecordVisitor& visitor)
 {
-    Call outer = std::exchange(m_call, { classes, &visitor, false, {} });
+    Call outer = std::exchange(m_call, { classes, &limit, &visitor, false, {} });
     const auto done = statement.Run();
     const Call call = std::exchange(m_call, std::move(outer));
     if (call.thrown)

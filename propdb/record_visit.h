@@ -2,6 +2,7 @@
 #pragma once
 
 #include "propdb/database.h"
+#include "propdb/reading_limit.h"
 #include "propdb/statement.h"
 
 #include <exception>
@@ -30,15 +31,17 @@ public:
     /// Makes the function known; it serves this object, which outlives the connection's statements.
     [[nodiscard]] Result<void> Register(sqlite3* connection);
     /// Runs a statement that calls the function on values of these classes; FileCorrupt at the
-    /// first record with one of another class, which is not visited. Ends early, without a failure,
-    /// when the visitor gives false. What it throws comes through. A visitor may itself scan.
+    /// first record with one of another class, which is not visited, and at the one that passes the
+    /// limit. Ends early, without a failure, when the visitor gives false. What it throws comes
+    /// through. A visitor may itself scan.
     [[nodiscard]] Result<void> Run(Statement& statement, std::span<const ValueClasses> classes,
-        const Database::RecordVisitor& visitor);
+        ReadingLimit& limit, const Database::RecordVisitor& visitor);
 
 private:
     struct Call
     {
         std::span<const ValueClasses> classes;
+        ReadingLimit* limit = nullptr;
         const Database::RecordVisitor* visitor = nullptr;
         bool isStopped = false;
         std::exception_ptr thrown;
@@ -48,6 +51,7 @@ private:
 
     static void Visit(sqlite3_context* context, int count, sqlite3_value** values);
     [[nodiscard]] bool HoldsWhatIsDeclared(sqlite3_value** properties) const;
+    [[nodiscard]] bool IsWithinLimit(sqlite3_context* context, sqlite3_value** properties) const;
     [[nodiscard]] bool Visit(const ScannedRecord& record);
 };
 

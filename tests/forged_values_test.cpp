@@ -62,6 +62,34 @@ void MakeForgedRows(VolumeFixture& fixture, const QByteArray& assignment)
     Forge(fixture.Path(), "UPDATE \"rows (1)\" SET " + assignment + " WHERE \"Count\" = 1");
 }
 
+/// Makes every inner page of the only large index lead to one other, and so to the same leaf on
+/// billions of ways.
+void LeadIndexInCircles(const QString& path)
+{
+    constexpr char kInnerIndexPage = 2;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite))
+        qFatal("the file cannot be forged");
+    QByteArray bytes = file.readAll();
+    char* above = nullptr;
+    for (qsizetype place = 0; place < bytes.size(); place += kPageSize) {
+        char* page = bytes.data() + place;
+        if (*page != kInnerIndexPage)
+            continue;
+        if (above != nullptr) {
+            const auto number = static_cast<quint32>(place / kPageSize + 1);
+            const auto cells = qFromBigEndian<quint16>(above + 3);
+            for (int cell = 0; cell < cells; ++cell)
+                qToBigEndian(number, above + qFromBigEndian<quint16>(above + 12 + 2 * cell));
+            qToBigEndian(number, above + 8);
+            SealPage(above, static_cast<quint32>((above - bytes.data()) / kPageSize + 1));
+        }
+        above = page;
+    }
+    file.seek(0);
+    file.write(bytes);
+}
+
 /// Reads what all records hold, one by one.
 ErrorNumber Walk(Database& rows)
 {
@@ -113,6 +141,30 @@ private Q_SLOTS:
             for (const ScanOrder order : { ScanOrder::Any, ScanOrder::Sorted })
                 QVERIFY2(Scan(*rows, kIds, order) == error, assignment);
         }
+    }
+
+    void anIndexThatGoesInCirclesIsDamage()
+    {
+        VolumeFixture fixture;
+        const std::vector<PropertySpec> specs { { kForgedText, u"Name"_s },
+            { kPicture, u"Picture"_s } };
+        Take(fixture.Mount().CreateDatabase(u"rows"_s, DatabaseType { 1 }, specs, kByForgedText));
+        {
+            const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByForgedText.front()));
+            QVERIFY(fixture.volume->BeginTransaction().IsOk());
+            for (int i = 0; i < 300; ++i)
+                Take(rows->Write(kNoObject,
+                    std::vector<PropertyValue> { { kForgedText, 0, QString(400, u'a') },
+                        { kPicture, 0, QByteArray(2000, 'a') } }));
+            QVERIFY(fixture.volume->EndTransaction(true).IsOk());
+        }
+        fixture.volume.reset();
+        LeadIndexInCircles(fixture.Path());
+        fixture.Mount(Disposition::OpenExisting);
+        const auto rows = Take(fixture.volume->OpenDatabase(u"rows"_s, kByForgedText.front()));
+        QCOMPARE(Scan(*rows, { kForgedText }, ScanOrder::Sorted), ErrorNumber::FileCorrupt);
+        QCOMPARE(rows->ListRecords().Error(), ErrorNumber::FileCorrupt);
+        QCOMPARE(rows->RecordCount().Error(), ErrorNumber::FileCorrupt);
     }
 
     void aForgedCatalogueIsNotSound()
