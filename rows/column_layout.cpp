@@ -2,11 +2,14 @@
 #include "rows/column_layout.h"
 
 #include "platform/leading_number.h"
+#include "rows/rows_table.h"
 #include "store/inventory_list.h"
 #include "values/column_type.h"
 #include "widgets/measures.h"
 
+#include <QEvent>
 #include <QHeaderView>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -47,38 +50,106 @@ bool IsPermutation(const std::vector<quint32>& order, size_t count)
 
 } // namespace
 
-void ApplyColumnLayout(QHeaderView& header, const InventoryList& list)
+ColumnLayout::ColumnLayout(RowsTable& view, InventoryList& list)
+    : QObject(&view)
+    , m_view(view)
+    , m_header(*view.horizontalHeader())
+    , m_list(list)
+    , m_isSet(static_cast<size_t>(m_header.count()))
+    , m_needs(m_isSet.size())
 {
-    const QFontMetrics metrics(header.font());
-    for (int column = 0; column < header.count(); ++column) {
-        const ColumnDefinition& definition = list.columns[static_cast<size_t>(column)];
-        const int text = metrics.horizontalAdvance(SampleText(ColumnTypeOf(definition.id)));
-        const int title = metrics.horizontalAdvance(definition.name);
-        header.resizeSection(column, std::max(text, title) + 2 * kGrid + kGrid / 2);
-    }
-    const QStringList widths = list.TableColSizes.split(u',', Qt::SkipEmptyParts);
-    for (int column = 0; column < std::min<int>(static_cast<int>(widths.size()), header.count());
+    TakeOverStored();
+    Measure();
+    Fit();
+    connect(&m_header, &QHeaderView::sectionResized, this, [this](int column) {
+        if (!m_isFitting)
+            m_isSet[static_cast<size_t>(column)] = true;
+    });
+    view.installEventFilter(this);
+    view.viewport()->installEventFilter(this);
+}
+
+void ColumnLayout::TakeOverStored()
+{
+    const QStringList widths = m_list.TableColSizes.split(u',', Qt::SkipEmptyParts);
+    for (int column = 0; column < std::min<int>(static_cast<int>(widths.size()), m_header.count());
          ++column) {
         const int width = LeadingInteger(widths[column]);
-        if (width > 0 && width <= kMaxColumnWidth)
-            header.resizeSection(column, width);
+        m_isSet[static_cast<size_t>(column)] = width > 0 && width <= kMaxColumnWidth;
+        if (m_isSet[static_cast<size_t>(column)])
+            m_header.resizeSection(column, width);
     }
-    if (!IsPermutation(list.columnOrder, list.columns.size()))
+    if (!IsPermutation(m_list.columnOrder, m_list.columns.size()))
         return;
-    for (int place = 0; place < header.count(); ++place) {
-        const auto column = static_cast<int>(list.columnOrder[static_cast<size_t>(place)]);
-        header.moveSection(header.visualIndex(column), place);
+    for (int place = 0; place < m_header.count(); ++place) {
+        const auto column = static_cast<int>(m_list.columnOrder[static_cast<size_t>(place)]);
+        m_header.moveSection(m_header.visualIndex(column), place);
     }
 }
 
-void StoreColumnLayout(const QHeaderView& header, InventoryList& list)
+void ColumnLayout::Measure()
 {
-    list.TableColSizes.clear();
-    list.columnOrder.clear();
-    for (int i = 0; i < header.count(); ++i) {
-        list.TableColSizes += QString::number(header.sectionSize(i)) + u',';
-        list.columnOrder.push_back(static_cast<quint32>(header.logicalIndex(i)));
+    const QFontMetrics metrics(m_header.font());
+    for (int column = 0; column < m_header.count(); ++column) {
+        const ColumnDefinition& definition = m_list.columns[static_cast<size_t>(column)];
+        const int sample = metrics.horizontalAdvance(SampleText(ColumnTypeOf(definition.id)));
+        const int title = metrics.horizontalAdvance(definition.name);
+        m_needs[static_cast<size_t>(column)]
+            = std::max(std::max(sample, title) + 2 * kGrid + kGrid / 2, m_view.NeedOf(column));
     }
+}
+
+void ColumnLayout::Fit()
+{
+    const QScopedValueRollback<bool> fitting(m_isFitting, true);
+    // One long text leaves room for others beside it.
+    const int mostOfView = std::max(m_view.viewport()->width() * 3 / 5, kNarrowPage / 2);
+    int rest = m_view.viewport()->width();
+    int texts = 0;
+    for (int column = 0; column < m_header.count(); ++column) {
+        if (!m_isSet[static_cast<size_t>(column)]) {
+            const int need = m_needs[static_cast<size_t>(column)];
+            m_header.resizeSection(column, std::min(need, mostOfView));
+            texts += IsText(column) ? 1 : 0;
+        }
+        rest -= m_header.sectionSize(column);
+    }
+    for (int column = 0; column < m_header.count() && rest > 0 && texts > 0; ++column) {
+        if (m_isSet[static_cast<size_t>(column)] || !IsText(column))
+            continue;
+        const int share = rest / texts--;
+        m_header.resizeSection(column, m_header.sectionSize(column) + share);
+        rest -= share;
+    }
+}
+
+bool ColumnLayout::IsText(int column) const
+{
+    return ColumnTypeOf(m_list.columns[static_cast<size_t>(column)].id) == ColumnType::String;
+}
+
+bool ColumnLayout::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        Measure();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::Resize)
+        Fit();
+    return QObject::eventFilter(watched, event);
+}
+
+void ColumnLayout::Store() const
+{
+    m_list.columnOrder.clear();
+    QString widths;
+    for (int i = 0; i < m_header.count(); ++i) {
+        const int width = m_isSet[static_cast<size_t>(i)] ? m_header.sectionSize(i) : 0;
+        widths += QString::number(width) + u',';
+        m_list.columnOrder.push_back(static_cast<quint32>(m_header.logicalIndex(i)));
+    }
+    // A list that was only looked at stays as it is.
+    const bool isAnySet = std::ranges::find(m_isSet, true) != m_isSet.end();
+    if (isAnySet || !m_list.TableColSizes.isEmpty())
+        m_list.TableColSizes = widths;
 }
 
 } // namespace Quillory

@@ -31,18 +31,26 @@ QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInde
     return { m_painter.WidthFor(m_model.Text(index.row(), index.column())), option.rect.height() };
 }
 
+RowLook RowDelegate::PaintGround(
+    QPainter& painter, const QRect& place, int line, bool isSelected) const
+{
+    RowFacts facts = m_model.FactsOf(line);
+    facts.isSelected = isSelected;
+    const RowLook look = DecideRowLook(facts, WarningsFor(facts, m_list, m_today), m_colours);
+    painter.fillRect(place, look.ground);
+    painter.fillRect(place.left(), place.bottom(), place.width(), 1, m_colours.rule);
+    return look;
+}
+
 void RowDelegate::paint(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    RowFacts facts = m_model.FactsOf(index.row());
-    facts.isSelected = option.state.testFlag(QStyle::State_Selected);
-    const RowLook look = DecideRowLook(facts, WarningsFor(facts, m_list, m_today), m_colours);
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const QRect& cell = option.rect;
-    painter->fillRect(cell, look.ground);
-    painter->fillRect(cell.left(), cell.bottom(), cell.width(), 1, m_colours.rule);
+    const RowLook look = PaintGround(*painter, cell, index.row(), isSelected);
     if (m_model.IsCheckbox(index.column())) {
         m_painter.DrawCheckbox(
-            *painter, cell, m_model.IsChecked(index.row(), index.column()), facts.isSelected);
+            *painter, cell, m_model.IsChecked(index.row(), index.column()), isSelected);
         if (option.state.testFlag(QStyle::State_HasFocus))
             RowPainter::DrawFocus(*painter, cell, look);
     } else if (m_model.IsNumber(index.column())) {

@@ -26,6 +26,8 @@ public:
     /// To be called before the cells of a frame are painted: works out what they have in common,
     /// the day among it.
     void BeginFrame(const QFont& font, const QPalette& palette);
+    /// Paints a piece of a line without what it holds, and gives how the line looks.
+    RowLook PaintGround(QPainter& painter, const QRect& place, int line, bool isSelected) const;
     /// What a cell's text needs, in a frame.
     [[nodiscard]] QSize sizeHint(
         const QStyleOptionViewItem& option, const QModelIndex& index) const override;

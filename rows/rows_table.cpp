@@ -7,6 +7,8 @@
 #include "widgets/line_view.h"
 
 #include <QHeaderView>
+#include <QPaintEvent>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -31,10 +33,45 @@ RowsTable::RowsTable(RowsModel& model, const InventoryList& list, const ValueCon
 void RowsTable::keyboardSearch(const QString& /*search*/)
 { }
 
+int RowsTable::NeedOf(int column)
+{
+    constexpr int kFirstLines = 50;
+    m_delegate->BeginFrame(font(), palette());
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    int need = 0;
+    for (int line = 0; line < std::min(kFirstLines, model()->rowCount()); ++line)
+        need = std::max(need, m_delegate->sizeHint(option, model()->index(line, column)).width());
+    return need;
+}
+
+QModelIndex RowsTable::indexAt(const QPoint& position) const
+{
+    const int line = rowAt(position.y());
+    if (line < 0 || columnAt(position.x()) >= 0)
+        return QTableView::indexAt(position);
+    return model()->index(line, horizontalHeader()->logicalIndex(0));
+}
+
 void RowsTable::paintEvent(QPaintEvent* event)
 {
     m_delegate->BeginFrame(font(), palette());
     QTableView::paintEvent(event);
+    PaintBesideColumns(event->rect());
+}
+
+void RowsTable::PaintBesideColumns(const QRect& exposed)
+{
+    const int free = viewport()->width() - horizontalHeader()->length();
+    if (free <= 0)
+        return;
+    const int left = isRightToLeft() ? 0 : viewport()->width() - free;
+    QPainter painter(viewport());
+    for (int line = std::max(rowAt(exposed.top()), 0);
+         line < model()->rowCount() && rowViewportPosition(line) <= exposed.bottom(); ++line) {
+        const QRect place(left, rowViewportPosition(line), free, rowHeight(line));
+        m_delegate->PaintGround(painter, place, line, selectionModel()->isRowSelected(line));
+    }
 }
 
 int RowsTable::sizeHintForColumn(int column) const

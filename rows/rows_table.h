@@ -22,6 +22,11 @@ public:
     RowsTable(RowsModel& model, const InventoryList& list, const ValueContext& context,
         bool hasAlternateLines, QWidget* parent = nullptr);
 
+    /// The width that a column needs for what it holds in the first lines.
+    [[nodiscard]] int NeedOf(int column);
+
+    /// A line is as wide as the view: a place beside the columns is one of the first of them.
+    [[nodiscard]] QModelIndex indexAt(const QPoint& position) const override;
     /// Does nothing: looking for what was typed would read every row of the list.
     void keyboardSearch(const QString& search) override;
 
@@ -33,6 +38,8 @@ protected:
 
 private:
     RowDelegate* m_delegate;
+
+    void PaintBesideColumns(const QRect& exposed);
 };
 
 } // namespace Quillory

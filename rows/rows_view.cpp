@@ -87,8 +87,8 @@ RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& cont
     }
     BuildTable();
     BuildCommands();
-    ApplyColumnLayout(*m_view->horizontalHeader(), m_list);
     Fill();
+    m_columns = new ColumnLayout(*m_view, m_list);
     setFocusProxy(m_view);
     // Once the page is on the screen.
     if (m_options.foundBy && m_model->rowCount() == 0)
@@ -170,7 +170,7 @@ void RowsView::TellNothingFound()
 
 bool RowsView::PrepareEnd(PageResult /*result*/)
 {
-    StoreColumnLayout(*m_view->horizontalHeader(), m_list);
+    m_columns->Store();
     return true;
 }
 
@@ -419,7 +419,7 @@ void RowsView::FindRows()
 void RowsView::ShowFound(const FilterEntry& condition)
 {
     // The results come in the columns as they lie now.
-    StoreColumnLayout(*m_view->horizontalHeader(), m_list);
+    m_columns->Store();
     RowsViewOptions options = m_options;
     options.foundBy = condition;
     // What was changed among the results is read again.

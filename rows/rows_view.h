@@ -10,6 +10,7 @@
 
 namespace Quillory {
 
+class ColumnLayout;
 class RowsTable;
 
 struct RowsViewOptions
@@ -69,6 +70,7 @@ private:
     RowDeleter m_deleter;
     RowsModel* m_model;
     RowsTable* m_view;
+    ColumnLayout* m_columns = nullptr;
     /// The criteria of the rows shown; none once filters were cleared, as at first.
     std::optional<FilterSet> m_filters;
     bool m_isPartlyReadTold = false;

@@ -306,9 +306,11 @@ bool ListCatalogue::UpdateListOptions(ObjectId oid, const InventoryList& definit
 {
     const std::vector<PropertyValue> values = OptionValues(definition);
     InventoryList stored;
-    if (oid != kNoObject && ReadListHeader(oid, stored) && HasSameWarnings(stored, definition))
-        return m_volume.WriteLayout(kCatalogueType, oid, values);
-    return WriteOnto(m_volume, oid, values);
+    if (oid == kNoObject || !ReadListHeader(oid, stored) || !HasSameWarnings(stored, definition))
+        return WriteOnto(m_volume, oid, values);
+    const bool isSame = stored.TableColSizes == definition.TableColSizes
+        && stored.columnOrder == definition.columnOrder;
+    return isSame || m_volume.WriteLayout(kCatalogueType, oid, values);
 }
 
 bool ListCatalogue::UpdateList(ObjectId oid, const InventoryList& definition)

@@ -84,7 +84,7 @@ public:
     /// Writes the name alone. This and the two that follow return false, with the record as it was,
     /// if it is not there or cannot be written.
     bool RenameList(ObjectId oid, const QString& name);
-    /// Writes warnings, widths and column order.
+    /// Writes warnings, widths and column order, if any differs from what is stored.
     bool UpdateListOptions(ObjectId oid, const InventoryList& definition);
     /// Writes everything but the map name.
     bool UpdateList(ObjectId oid, const InventoryList& definition);

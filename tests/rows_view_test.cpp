@@ -250,7 +250,7 @@ private Q_SLOTS:
         header->moveSection(header->visualIndex(Price), 0);
         Act(u"press Esc"_s);
         QCOMPARE(File().list.columnOrder, (std::vector<quint32> { 4, 0, 1, 2, 3, 5, 6, 7 }));
-        QCOMPARE(File().list.TableColSizes.section(u',', Price, Price), u"123"_s);
+        QCOMPARE(File().list.TableColSizes, u"0,0,0,0,123,0,0,0,"_s);
         // Widths that are missing or absurd are the usual ones.
         File().list.TableColSizes = u"200,-5,x,99999999999,77"_s;
         m_errand->Open();
@@ -260,6 +260,31 @@ private Q_SLOTS:
         QCOMPARE(header->sectionSize(Bio), usualBio);
         QCOMPARE(header->sectionSize(Price), 77);
         QCOMPARE(header->visualIndex(Price), 0);
+    }
+
+    void aWideViewIsFilled()
+    {
+        File().Add({ QString(60, u'w') });
+        m_errand->Open();
+        QHeaderView* header = View()->horizontalHeader();
+        const int narrow = header->sectionSize(Name);
+        for (const int width : { 2000, 1400 }) {
+            View()->window()->resize(width, 480);
+            QTRY_COMPARE(header->length(), View()->viewport()->width());
+        }
+        QVERIFY(header->sectionSize(Name) > narrow);
+        Act(u"press Esc"_s);
+        // It was only looked at.
+        QCOMPARE(File().list.TableColSizes, QString());
+        // Beside columns of which each was set, a line goes on.
+        File().list.TableColSizes = u"60,60,60,60,60,60,60,60,"_s;
+        m_errand->Open();
+        const QPoint beside(View()->viewport()->width() - 5, View()->rowViewportPosition(1) + 5);
+        const auto ground = [this, beside] { return View()->viewport()->grab().toImage().pixel(beside); };
+        const QRgb before = ground();
+        QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, beside);
+        QVERIFY(ground() != before);
+        Act(u"on salt"_s);
     }
 
     void aVanishedRowShowsErr()
