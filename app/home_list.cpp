@@ -90,9 +90,14 @@ void HomeList::BuildView()
     header->setSectionsClickable(true);
     header->setSortIndicatorShown(true);
     header->setSortIndicator(0, Qt::AscendingOrder);
-    header->setMinimumHeight(CurrentMeasures().headerHeight);
     Body()->addWidget(m_view);
     setFocusProxy(m_view);
+}
+
+void HomeList::resizeEvent(QResizeEvent* event)
+{
+    m_view->header()->setMinimumHeight(FrameMeasures(height()).headerHeight);
+    Page::resizeEvent(event);
 }
 
 void HomeList::BuildHint()

@@ -44,7 +44,9 @@ Q_SIGNALS:
 protected:
     /// The first page is never left.
     [[nodiscard]] bool PrepareEnd(PageResult /*result*/) override { return false; }
+    [[nodiscard]] bool IsAsWideAsWindow() const override { return true; }
     void TakeReturn() override { Q_EMIT ListChosen(); }
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     HomeListModel* m_model;

@@ -3,6 +3,7 @@
 
 #include "res/dialog_table.h"
 #include "res/string_table.h"
+#include "widgets/form.h"
 #include "widgets/icon_set.h"
 #include "widgets/measures.h"
 
@@ -40,18 +41,22 @@ QLabel* NewTextLabel(const QString& text)
     return label;
 }
 
-/// One below the other, a little above the middle of the page.
-void AddCentred(QVBoxLayout& body, std::initializer_list<QWidget*> widgets)
+/// One below the other, a little above the middle of the page; a low page scrolls.
+void AddCentred(QWidget* page, QVBoxLayout& body, std::initializer_list<QWidget*> widgets)
 {
-    body.addStretch(2);
+    auto* content = new QWidget(page);
+    auto* lines = new QVBoxLayout(content);
+    lines->setContentsMargins({});
+    lines->addStretch(2);
     for (QWidget* widget : widgets) {
         auto* line = new QHBoxLayout;
         line->addStretch();
         line->addWidget(widget, 1);
         line->addStretch();
-        body.addLayout(line);
+        lines->addLayout(line);
     }
-    body.addStretch(3);
+    lines->addStretch(3);
+    body.addWidget(MakeScrollable(content));
 }
 
 } // namespace
@@ -60,7 +65,7 @@ WelcomePage::WelcomePage(QWidget* parent)
     : Page(DialogTitle(Dialog::Welcome), parent)
 {
     setObjectName(u"WelcomePage"_s);
-    AddCentred(*Body(), { NewIconLabel(this), NewTextLabel(LoadText(Text::Welcome)) });
+    AddCentred(this, *Body(), { NewIconLabel(this), NewTextLabel(LoadText(Text::Welcome)) });
 }
 
 AboutPage::AboutPage(QWidget* parent)
@@ -73,7 +78,7 @@ AboutPage::AboutPage(QWidget* parent)
     QLabel* version
         = NewTextLabel(LoadText(Text::Version) + u' ' + ControlText(Control::VersionText));
     version->setObjectName(u"VersionText"_s);
-    AddCentred(*Body(), { NewIconLabel(this), m_name, version });
+    AddCentred(this, *Body(), { NewIconLabel(this), m_name, version });
 }
 
 void AboutPage::FitName()
@@ -81,7 +86,13 @@ void AboutPage::FitName()
     QFont large = font();
     large.setPointSizeF(QFontInfo(large).pointSizeF() * 1.6);
     large.setBold(true);
-    m_name->setFont(large);
+    m_name->setFont(FontFitting(large, m_name->text(), width() - 2 * kPageMargin));
+}
+
+void AboutPage::resizeEvent(QResizeEvent* event)
+{
+    FitName();
+    Page::resizeEvent(event);
 }
 
 void AboutPage::changeEvent(QEvent* event)

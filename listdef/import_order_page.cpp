@@ -40,12 +40,14 @@ ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, Q
     , m_list(new QListWidget(this))
     , m_up(new QPushButton(ControlText(Control::MoveUp), this))
     , m_down(new QPushButton(ControlText(Control::MoveDown), this))
+    , m_buttons(new QHBoxLayout)
 {
     setObjectName(u"importOrder"_s);
     SetHelpAnchor(QString::fromLatin1(kHelpImport));
     m_list->setObjectName(u"columnOrder"_s);
     m_list->setAccessibleName(Title());
     m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setMinimumHeight(kMinTouchTarget / 2);
     m_list->setUniformItemSizes(true);
     m_list->setItemDelegate(new OrderDelegate(m_list));
     for (const ColumnDefinition& column : columns)
@@ -55,15 +57,16 @@ ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, Q
 
     m_up->setObjectName(u"moveUp"_s);
     m_down->setObjectName(u"moveDown"_s);
-    auto* buttons = new QHBoxLayout;
-    buttons->setContentsMargins(kPageMargin, kGrid, kPageMargin, kGrid);
-    buttons->setSpacing(kGrid);
+    m_buttons->setContentsMargins(kPageMargin, kGrid, kPageMargin, kGrid);
+    m_buttons->setSpacing(kGrid);
     for (QPushButton* button : { m_up, m_down }) {
         button->setMinimumHeight(CurrentMeasures().lineHeight);
+        // Else the window could not be narrower than both.
+        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         button->setAutoDefault(false);
-        buttons->addWidget(button, 1);
+        m_buttons->addWidget(button, 1);
     }
-    Body()->addLayout(buttons);
+    Body()->addLayout(m_buttons);
     connect(m_up, &QPushButton::clicked, this, [this] { Move(-1); });
     connect(m_down, &QPushButton::clicked, this, [this] { Move(1); });
     for (const auto& [key, button] : { std::pair { Qt::CTRL | Qt::Key_Up, m_up },
@@ -76,6 +79,14 @@ ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, Q
 
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
     setFocusProxy(m_list);
+}
+
+void ImportOrderPage::resizeEvent(QResizeEvent* event)
+{
+    // Large letters have no room beside each other.
+    const int needed = 2 * (m_down->sizeHint().width() + kPageMargin) + kGrid;
+    m_buttons->setDirection(needed > width() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    Page::resizeEvent(event);
 }
 
 void ImportOrderPage::UpdateButtons()

@@ -4,6 +4,7 @@
 #include "store/inventory_list.h"
 #include "widgets/page.h"
 
+class QHBoxLayout;
 class QListWidget;
 class QPushButton;
 
@@ -21,11 +22,15 @@ public:
     /// Every column of the list once, in the order in which they stand.
     [[nodiscard]] std::vector<PropertyId> Order() const;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     std::vector<ColumnDefinition> m_columns;
     QListWidget* m_list;
     QPushButton* m_up;
     QPushButton* m_down;
+    QHBoxLayout* m_buttons;
 
     void Move(int by);
     void UpdateButtons();

@@ -43,7 +43,8 @@ ListSheet::ListSheet(
     m_tabs->setExpanding(true);
     m_tabs->setDrawBase(false);
     m_tabs->setUsesScrollButtons(false);
-    m_tabs->setMinimumHeight(CurrentMeasures().headerHeight);
+    // Their letters follow the window, not the window its tabs.
+    m_tabs->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     Body()->addWidget(m_tabs);
     Body()->addWidget(m_panels, 1);
     AddPanel(DialogTitle(Dialog::General), m_general);
@@ -90,8 +91,28 @@ void ListSheet::ShowPanel(int index)
 
 void ListSheet::resizeEvent(QResizeEvent* event)
 {
-    m_options->FitTo(width());
     Page::resizeEvent(event);
+    m_tabs->setMinimumHeight(FrameMeasures(height()).headerHeight);
+    FitTabs();
+    m_options->FitTo(std::min(width(), kMaxPageWidth));
+}
+
+void ListSheet::changeEvent(QEvent* event)
+{
+    Page::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        FitTabs();
+}
+
+void ListSheet::FitTabs()
+{
+    QString all;
+    for (int i = 0; i < m_tabs->count(); ++i)
+        all += m_tabs->tabText(i);
+    QFont bold = font();
+    bold.setBold(true);
+    const int room = std::min(width(), kMaxPageWidth) - m_tabs->count() * 2 * kGrid;
+    m_tabs->setFont(FontFitting(bold, all, room));
 }
 
 InventoryList ListSheet::Result() const

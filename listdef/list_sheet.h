@@ -39,6 +39,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     InventoryList m_list;
@@ -54,6 +55,7 @@ private:
 
     void AddPanel(const QString& title, QWidget* panel);
     void ShowPanel(int index);
+    void FitTabs();
     [[nodiscard]] bool HasExpiryDate() const;
 };
 

@@ -9,8 +9,8 @@ struct sqlite3;
 
 namespace Quillory {
 
-/// A record takes no less in its table, nor in an index: two bytes for its place on the page, one for
-/// its size, three for the classes of its values, one for its identifier.
+/// A record takes no less in its table, nor in an index: two bytes for its place on the page, one
+/// for its size, three for the classes of its values, one for its identifier.
 constexpr qint64 kLeastRecordBytes = 7;
 
 /// More records than the volume has room for, with what the transaction that runs has added.

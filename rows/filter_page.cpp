@@ -46,11 +46,15 @@ FilterPage::FilterPage(FilterDialogState state, const InventoryList& list,
     m_startEntry = ChosenEntry();
     connect(m_field, &QComboBox::currentIndexChanged, this, &FilterPage::FillConditions);
 
-    Form form(Body());
+    auto* content = new QWidget(this);
+    auto* lines = new QVBoxLayout(content);
+    lines->setContentsMargins({});
+    Form form(lines);
     form.AddLine(LoadText(Text::Field), m_field);
     form.AddLine(LoadText(Text::Condition), m_condition);
     form.AddLine(LoadText(Text::Value), m_value);
-    Body()->addStretch(1);
+    lines->addStretch(1);
+    Body()->addWidget(MakeScrollable(content));
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
     // What is looked for is typed at once, mostly in the field that comes first.
     setFocusProxy(m_state.mode == FilterMode::Find ? static_cast<QWidget*>(m_value) : m_field);

@@ -55,6 +55,7 @@ public:
 
 protected:
     [[nodiscard]] bool PrepareEnd(PageResult result) override;
+    [[nodiscard]] bool IsAsWideAsWindow() const override { return true; }
     /// Edits the selected row.
     void TakeReturn() override { Trigger(Command::Modify); }
 

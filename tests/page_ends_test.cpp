@@ -16,13 +16,19 @@
 #include "widgets/app_style.h"
 #include "widgets/help_page.h"
 #include "widgets/icon_grid_page.h"
+#include "widgets/measures.h"
 #include "widgets/page_stack.h"
 #include "widgets/questions.h"
 #include "widgets/window_style.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
+#include <QComboBox>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QScopeGuard>
+#include <QScrollArea>
+#include <QTabBar>
 #include <QTableView>
 
 namespace {
@@ -158,6 +164,33 @@ QStringList LookOf(const Page& page)
     return lines;
 }
 
+/// What of a page's controls cannot be seen whole, nor scrolled to.
+QStringList CutControls(const Page& page)
+{
+    QStringList cut;
+    const auto* area = page.findChild<QScrollArea*>();
+    for (const QWidget* widget : page.findChildren<QWidget*>()) {
+        const bool isControl = qobject_cast<const QTabBar*>(widget)
+            || qobject_cast<const QAbstractButton*>(widget)
+            || qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget);
+        if (!isControl || !widget->isVisible())
+            continue;
+        const QRect place(widget->mapTo(&page, QPoint()), widget->size());
+        const bool isScrolled = area != nullptr && area->isAncestorOf(widget);
+        const QRect room
+            = isScrolled ? QRect(0, place.y(), page.width(), place.height()) : page.rect();
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        const QFontMetrics metrics = widget->fontMetrics();
+        const int width
+            = button == nullptr ? kMinTouchTarget : metrics.horizontalAdvance(button->text());
+        const int height = button != nullptr && button->text().isEmpty() ? 0 : metrics.height();
+        if (!room.contains(place) || widget->width() < width || widget->height() < height)
+            QDebug(&cut.emplace_back())
+                << widget->metaObject()->className() << widget->objectName() << place;
+    }
+    return cut;
+}
+
 } // namespace
 
 class PageEndsTest : public QObject
@@ -170,6 +203,45 @@ private Q_SLOTS:
         AddRows([](const PageCase& page) {
             return page.ways + QStringList { u"press Esc"_s, u"closing"_s };
         });
+    }
+
+    void everyPageFitsEveryWindow_data()
+    {
+        const Table<int> add;
+        for (int i = 0; const PageCase& page : kPages)
+            add(page.name, i++);
+    }
+
+    void everyPageFitsEveryWindow()
+    {
+        const auto [page] = Table<int>::Row();
+        const QFont before = QApplication::font();
+        const auto restore = qScopeGuard([&before] { QApplication::setFont(before); });
+        QApplication::setStyle(new AppStyle);
+        QStringList cut;
+        for (const int points : { 8, 11, 16, 24 }) {
+            QFont font = before;
+            font.setPointSize(points);
+            QApplication::setFont(font);
+            Subject subject;
+            ApplyWindowStyle(&subject.stack);
+            Show(subject, kPages.at(static_cast<size_t>(page)));
+            for (const QSize size : { QSize(240, 320), QSize(320, 240), QSize(360, 640),
+                     QSize(640, 360), QSize(480, 800), QSize(1600, 900) }) {
+                subject.stack.resize(size);
+                QStringList here;
+                const auto isWhole = [&] {
+                    here = CutControls(*subject.page);
+                    return here.isEmpty();
+                };
+                (void)QTest::qWaitFor(isWhole, 100);
+                if (subject.stack.size() != size)
+                    here << u"the window"_s;
+                for (const QString& control : here)
+                    QDebug(&cut.emplace_back()) << points << size << control;
+            }
+        }
+        QVERIFY2(cut.isEmpty(), qPrintable(u'\n' + cut.join(u'\n')));
     }
 
     void anOpenPageFollowsTheFont_data()

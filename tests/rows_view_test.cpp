@@ -280,7 +280,8 @@ private Q_SLOTS:
         File().list.TableColSizes = u"60,60,60,60,60,60,60,60,"_s;
         m_errand->Open();
         const QPoint beside(View()->viewport()->width() - 5, View()->rowViewportPosition(1) + 5);
-        const auto ground = [this, beside] { return View()->viewport()->grab().toImage().pixel(beside); };
+        const auto ground
+            = [this, beside] { return View()->viewport()->grab().toImage().pixel(beside); };
         const QRgb before = ground();
         QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, beside);
         QVERIFY(ground() != before);

@@ -89,7 +89,18 @@ int AppStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidge
     // Choices drop down below their box. Laid over it they have room for one line and a half.
     if (hint == SH_ComboBox_Popup)
         return 0;
+    // A menu that is higher than the screen scrolls. In columns it would be wider than the screen.
+    if (hint == SH_Menu_Scrollable)
+        return 1;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+int AppStyle::pixelMetric(
+    PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    if (metric == PM_MenuScrollerHeight)
+        return CurrentMeasures().lineHeight;
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 void AppStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

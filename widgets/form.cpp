@@ -66,6 +66,8 @@ void Form::AddLine(const QString& label, QWidget* control)
 {
     control->setAccessibleName(label);
     control->setMinimumHeight(CurrentMeasures().lineHeight);
+    // A drop-down would else be as wide as its longest choice.
+    control->setMinimumWidth(kMinFieldWidth);
     control->setMaximumWidth(kMaxFieldWidth);
     control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* text = new QLabel(label, control->parentWidget());
@@ -93,7 +95,6 @@ QWidget* MakeScrollable(QWidget* content)
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    content->setMaximumWidth(kMaxFormWidth);
     area->setWidget(content);
     area->setFocusPolicy(Qt::NoFocus);
     new TouchBehaviour(area);

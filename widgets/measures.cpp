@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/measures.h"
 
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QInputDevice>
 
@@ -18,9 +19,22 @@ const Measures& CurrentMeasures()
     return hasTouch ? kTouchMeasures : kMouseMeasures;
 }
 
+const Measures& FrameMeasures(int windowHeight)
+{
+    return windowHeight < kLowWindow ? kMouseMeasures : CurrentMeasures();
+}
+
 int LineHeightFor(const QFontMetrics& font)
 {
     return std::max(CurrentMeasures().lineHeight, font.height() + kGrid);
+}
+
+QFont FontFitting(QFont font, const QString& text, int width)
+{
+    const int needed = QFontMetrics(font).horizontalAdvance(text);
+    if (needed > width && width > 0)
+        font.setPointSizeF(QFontInfo(font).pointSizeF() * width / needed);
+    return font;
 }
 
 } // namespace Quillory

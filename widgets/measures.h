@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFont>
+
 class QFontMetrics;
 
 namespace Quillory {
@@ -28,12 +30,20 @@ constexpr int kNarrowPage = 300;
 constexpr int kMinTouchTarget = 44;
 /// Wider than this neither a field nor a page of fields is good to read.
 constexpr int kMaxFieldWidth = 480;
-constexpr int kMaxFormWidth = 640;
+constexpr int kMinFieldWidth = 184;
+constexpr int kMaxPageWidth = 700;
+/// A lower window has no height to spare for its frame.
+constexpr int kLowWindow = 400;
 constexpr int kMinTextPixels = 13;
 
 /// The measures for the devices at hand: touch where there is a touch screen.
 [[nodiscard]] const Measures& CurrentMeasures();
+/// The measures of the header, tabs and soft keys in a window of this height: those for a mouse in
+/// a low one.
+[[nodiscard]] const Measures& FrameMeasures(int windowHeight);
 /// The height of a list's lines: more where the font needs it.
 [[nodiscard]] int LineHeightFor(const QFontMetrics& font);
+/// The font, or so much smaller a one that `text` takes no more than `width`.
+[[nodiscard]] QFont FontFitting(QFont font, const QString& text, int width);
 
 } // namespace Quillory

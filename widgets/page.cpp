@@ -19,6 +19,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace Quillory {
@@ -126,7 +127,6 @@ void Page::BuildHeader(const QString& title)
     m_help->setText(u"?"_s);
     m_help->setAccessibleName(tr("Help"));
     m_help->setAutoRaise(true);
-    m_help->setFixedSize(CurrentMeasures().headerHeight, CurrentMeasures().headerHeight);
     m_help->hide();
     connect(m_help, &QToolButton::clicked, this, [this] { Q_EMIT HelpRequested(m_helpAnchor); });
     line->addWidget(m_help);
@@ -134,11 +134,9 @@ void Page::BuildHeader(const QString& title)
     m_ok->setObjectName(u"ok"_s);
     m_ok->setFont(bold);
     m_ok->setAutoDefault(true);
-    m_ok->setFixedHeight(CurrentMeasures().headerHeight);
     connect(m_ok, &QPushButton::clicked, this, [this] { RequestEnd(PageResult::Ok); });
     line->addWidget(m_ok);
     setFocusProxy(m_ok);
-    m_header->setFixedHeight(CurrentMeasures().headerHeight + 1);
     m_header->setVisible(!title.isEmpty());
     layout()->addWidget(m_header);
 }
@@ -198,7 +196,6 @@ void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
     qDeleteAll(former);
     delete m_softKeys->layout();
     auto* halves = new QHBoxLayout(m_softKeys);
-    halves->setContentsMargins(0, 1, 0, 0);
     halves->setSpacing(0);
     QWidget* left = MakeSoftKey(keys.left, {});
     left->setObjectName(u"leftKey"_s);
@@ -208,8 +205,29 @@ void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
     // Equal halves, whatever their texts.
     halves->addWidget(left, 1);
     halves->addWidget(right, 1);
-    m_softKeys->setFixedHeight(CurrentMeasures().softKeyHeight);
+    FitToWindow();
     m_softKeys->show();
+}
+
+void Page::resizeEvent(QResizeEvent* event)
+{
+    FitToWindow();
+    QWidget::resizeEvent(event);
+}
+
+void Page::FitToWindow()
+{
+    const Measures& frame = FrameMeasures(height());
+    m_help->setFixedSize(frame.headerHeight, frame.headerHeight);
+    m_ok->setFixedHeight(frame.headerHeight);
+    m_header->setFixedHeight(frame.headerHeight + 1);
+    m_softKeys->setFixedHeight(frame.softKeyHeight);
+    const int beside = std::max(0, (width() - kMaxPageWidth) / 2);
+    if (!IsAsWideAsWindow())
+        m_body->setContentsMargins(beside, 0, beside, 0);
+    // The keys are never far from each other.
+    if (m_softKeys->layout() != nullptr)
+        m_softKeys->layout()->setContentsMargins(beside, 1, beside, 0);
 }
 
 QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu)

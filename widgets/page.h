@@ -94,8 +94,12 @@ protected:
     [[nodiscard]] virtual bool PrepareEnd(PageResult /*result*/) { return true; }
     /// What Return does where no button has the keyboard: it is OK.
     virtual void TakeReturn() { RequestEnd(PageResult::Ok); }
+    /// Whether the page's own content goes from edge to edge. Else it stays in the middle of a wide
+    /// window, narrow enough to be read.
+    [[nodiscard]] virtual bool IsAsWideAsWindow() const { return false; }
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QVBoxLayout* m_body = nullptr;
@@ -108,6 +112,7 @@ private:
     QString m_helpAnchor;
 
     void BuildHeader(const QString& title);
+    void FitToWindow();
     [[nodiscard]] QWidget* MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu);
     void FillMenu(QMenu* menu, std::span<const MenuEntry> entries);
     void Carry(Command command);

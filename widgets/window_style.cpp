@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QFile>
+#include <QResizeEvent>
 #include <QWidget>
 
 #include <algorithm>
@@ -41,12 +42,13 @@ QString StyleSheet(const QWidget& window)
     // With the padding and the border of a button.
     set(u"answer-height"_s,
         CurrentMeasures().lineHeight >= kMinTouchTarget ? kMinTouchTarget - 14 : 24);
-    set(u"tab-height"_s, CurrentMeasures().headerHeight - kTabRule);
+    set(u"tab-height"_s, FrameMeasures(window.height()).headerHeight - kTabRule);
     return sheet;
 }
 
 /// Works the colours of the palette into the style again whenever they change. So it does with the
-/// font: a style sheet holds on to the one that it was worked out with.
+/// font: a style sheet holds on to the one that it was worked out with. And where the window
+/// becomes low, or no longer is.
 class StyleKeeper : public QObject
 {
 public:
@@ -58,9 +60,7 @@ public:
     }
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (watched == m_window
-            && (event->type() == QEvent::ApplicationPaletteChange
-                || event->type() == QEvent::ApplicationFontChange)) {
+        if (watched == m_window && IsOutdatedBy(*event)) {
             m_window->setStyleSheet(QString());
             m_window->setStyleSheet(StyleSheet(*m_window));
         }
@@ -69,6 +69,17 @@ public:
 
 private:
     QWidget* m_window;
+
+    [[nodiscard]] static bool IsOutdatedBy(const QEvent& event)
+    {
+        if (event.type() == QEvent::Resize) {
+            const auto& resize = static_cast<const QResizeEvent&>(event);
+            return &FrameMeasures(resize.size().height())
+                != &FrameMeasures(resize.oldSize().height());
+        }
+        return event.type() == QEvent::ApplicationPaletteChange
+            || event.type() == QEvent::ApplicationFontChange;
+    }
 };
 
 } // namespace
