@@ -4,8 +4,8 @@
 #include "app/home_list.h"
 #include "app/main_frame.h"
 #include "bench/bench_data.h"
+#include "desktop/desktop_look.h"
 #include "widgets/app_style.h"
-#include "widgets/desktop_look.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/single_instance.h"
+#include "desktop/single_instance.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/single_instance.h"
+#include "desktop/single_instance.h"
 
 #include "store/inventory_list.h"
 
