@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 
 using namespace Quillory;
 using namespace Qt::StringLiterals;
@@ -49,8 +48,6 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // What the toolkit remarks on such a platform would stand among the figures.
     qputenv("QT_LOGGING_RULES", "default.warning=false");
-    if (argc > 1 && std::strcmp(argv[1], kStartArgument) == 0)
-        return RunStart(argc, argv);
     BenchOptions options;
     PrintHeading();
     {

@@ -46,7 +46,8 @@ std::array<SessionStep, 10> Steps(const InventoryList& list)
         { "sort by a number", u"tap %1"_s.arg(list.columns[1].name), kUsual, 0 },
         { "sort by text", u"tap %1"_s.arg(list.columns[2].name), kSortByText, 0 },
         { "filter",
-            u"tap Menu; tap Set Filters...; tap Add; choose fieldBox: %1; choose conditionBox: greater than; "
+            u"tap Menu; tap Set Filters...; tap Add; choose fieldBox: %1; choose conditionBox: "
+            u"greater than; "
             "fill valueEdit: 500; "
             "tap OK; tap OK; at Bench"_s.arg(list.columns[1].name),
             kUsual, kLarge },
@@ -54,8 +55,7 @@ std::array<SessionStep, 10> Steps(const InventoryList& list)
             kLarge },
         { "clear filters", u"tap Menu; tap Clear Filters; at Bench"_s, kUsual, kLarge },
         { "add 1", u"press +"_s, kUsual, kLarge },
-        { "delete a row and undo", u"press Del; tap Yes; at Bench; tap Undo"_s, kUsual,
-            kLarge },
+        { "delete a row and undo", u"press Del; tap Yes; at Bench; tap Undo"_s, kUsual, kLarge },
         { "leave the list", u"press Esc; on Bench"_s, kUsual, kLarge },
     } };
 }

@@ -7,8 +7,8 @@
 
 namespace Quillory {
 
-/// An application that knows for how long its event loop stood still: for the events that it took in
-/// one turn, during which no input is taken.
+/// An application that knows for how long its event loop stood still: for the events that it took
+/// in one turn, during which no input is taken.
 class WatchedApplication : public QApplication
 {
 public:
