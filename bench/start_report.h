@@ -13,8 +13,8 @@ inline qint64 NowNs()
     return std::chrono::steady_clock::now().time_since_epoch().count();
 }
 
-/// Prints what a program that was started by the benchmark tells it: the milliseconds since then and
-/// the kilobytes of memory that it holds.
+/// Prints what a program that was started by the benchmark tells it: the milliseconds since then
+/// and the kilobytes of memory that it holds.
 inline void ReportStart(qint64 startedNs)
 {
     QFile status(QStringLiteral("/proc/self/status"));

@@ -6,7 +6,8 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
-#include <QLocalSocket>
+#include <QScopeGuard>
+#include <QSocketNotifier>
 #include <QThread>
 #include <QTimer>
 
@@ -14,10 +15,15 @@
 #include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/time.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <utility>
 
 namespace Quillory {
@@ -69,14 +75,64 @@ bool IsBeginOfRequest(const QByteArray& message)
         && QByteArrayView(message).first(common) == kGreeting.first(common);
 }
 
-bool IsOwnPeer(const QLocalSocket& socket)
+bool IsOwnPeer(int socket)
 {
     ucred peer {};
     socklen_t size = sizeof(peer);
-    return getsockopt(
-               static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer, &size)
-        == 0
-        && peer.uid == geteuid();
+    return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == geteuid();
+}
+
+/// What connect() and bind() have in common.
+using AddressCall = int (*)(int socket, const sockaddr* address, socklen_t size);
+bool CallWithAddress(AddressCall call, int socket, const QString& path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    sockaddr_un address {};
+    address.sun_family = AF_UNIX;
+    if (std::cmp_greater_equal(name.size(), sizeof(address.sun_path)))
+        return false;
+    std::memcpy(address.sun_path, name.constData(), static_cast<size_t>(name.size()));
+    return call(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
+}
+
+/// For how long the next calls on a socket wait at most.
+void SetPatience(int socket, const QDeadlineTimer& deadline)
+{
+    // No time at all would be for ever.
+    const qint64 ms = std::max<qint64>(deadline.remainingTime(), 1);
+    const timeval time { ms / 1000, ms % 1000 * 1000 };
+    for (const int direction : { SO_SNDTIMEO, SO_RCVTIMEO })
+        setsockopt(socket, SOL_SOCKET, direction, &time, sizeof(time));
+}
+
+/// False if it could not be sent until then.
+bool SendAll(int socket, QByteArrayView bytes, const QDeadlineTimer& deadline)
+{
+    while (!bytes.isEmpty()) {
+        SetPatience(socket, deadline);
+        const ssize_t sent
+            = send(socket, bytes.data(), static_cast<size_t>(bytes.size()), MSG_NOSIGNAL);
+        if (sent <= 0)
+            return false;
+        bytes = bytes.sliced(sent);
+    }
+    return true;
+}
+
+/// What was received, and whether there may be more.
+struct Received
+{
+    QByteArray bytes;
+    bool isOpen = true;
+};
+
+Received Receive(int socket)
+{
+    std::array<char, 4096> piece {};
+    const ssize_t size = recv(socket, piece.data(), piece.size(), 0);
+    if (size > 0)
+        return { QByteArray(piece.data(), size), true };
+    return { {}, size < 0 && (errno == EAGAIN || errno == EINTR) };
 }
 
 /// Makes the folder if need be; true if nobody else can look into it or replace what is in it.
@@ -100,15 +156,12 @@ void NoteUnknownList(const QString& name)
 SingleInstance::SingleInstance(const QString& folder, double patience)
     : m_folder(folder)
     , m_patience(patience)
-{
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    m_server.setMaxPendingConnections(kMaxConnections);
-    connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::AcceptConnections);
-}
+{ }
 
 SingleInstance::~SingleInstance()
 {
-    m_server.close();
+    for (QSocketNotifier* socket : findChildren<QSocketNotifier*>())
+        Drop(socket);
     if (m_lock >= 0)
         close(m_lock);
 }
@@ -167,69 +220,99 @@ void SingleInstance::Listen()
 {
     const QString path = m_folder + u"/socket"_s;
     // Whoever holds the lock knows that nobody listens there any more.
-    QLocalServer::removeServer(path);
-    if (!m_server.listen(path))
-        qWarning("quillory: later starts cannot be received: %s",
-            qUtf8Printable(m_server.errorString()));
+    QFile::remove(path);
+    const int server = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    // Nobody can connect before it listens.
+    if (!CallWithAddress(bind, server, path)
+        || chmod(QFile::encodeName(path).constData(), S_IRUSR | S_IWUSR) != 0
+        || listen(server, kMaxConnections) != 0) {
+        std::fprintf(
+            stderr, "quillory: later starts cannot be received: %s\n", std::strerror(errno));
+        close(server);
+        return;
+    }
+    const auto* arrivals = new QSocketNotifier(server, QSocketNotifier::Read, this);
+    connect(arrivals, &QSocketNotifier::activated, this, [this, server] { Accept(server); });
 }
 
 std::optional<SingleInstance::Outcome> SingleInstance::HandOver(const StartRequest& request) const
 {
-    QLocalSocket socket;
-    socket.connectToServer(m_folder + u"/socket"_s);
-    if (!socket.waitForConnected(Patiently(kConnectLimitMs)) || !IsOwnPeer(socket))
+    const int connection = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const auto closing = qScopeGuard([connection] { close(connection); });
+    SetPatience(connection, QDeadlineTimer(Patiently(kConnectLimitMs)));
+    if (!CallWithAddress(::connect, connection, m_folder + u"/socket"_s) || !IsOwnPeer(connection))
         return std::nullopt;
-    QDeadlineTimer deadline(Patiently(kAnswerLimitMs));
-    socket.write(WriteRequest(request));
-    while (socket.bytesToWrite() > 0) {
-        if (!socket.waitForBytesWritten(static_cast<int>(deadline.remainingTime())))
-            return std::nullopt;
+    const QDeadlineTimer deadline(Patiently(kAnswerLimitMs));
+    if (!SendAll(connection, WriteRequest(request), deadline))
+        return std::nullopt;
+    QByteArray answer;
+    Received received;
+    while (received.isOpen && !deadline.hasExpired() && answer.size() <= kUnknownList.size()
+        && !answer.endsWith('\n')) {
+        SetPatience(connection, deadline);
+        received = Receive(connection);
+        answer += received.bytes;
     }
-    while (!socket.canReadLine() && socket.bytesAvailable() <= kUnknownList.size()) {
-        if (!socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
-            break;
-    }
-    const QByteArray answer = socket.readLine();
     if (answer == kDone)
         return Outcome::HandedOver;
     if (answer == kUnknownList)
         return Outcome::HandedOverUnknownList;
     // A connection that was cut has lost the request; one that stands will be served in time.
-    if (socket.state() == QLocalSocket::ConnectedState)
+    if (received.isOpen)
         return Outcome::HandedOverUnanswered;
     return std::nullopt;
 }
 
-void SingleInstance::AcceptConnections()
+void SingleInstance::Accept(int server)
 {
-    while (QLocalSocket* socket = m_server.nextPendingConnection()) {
-        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-        const auto open = m_server.findChildren<QLocalSocket*>(Qt::FindDirectChildrenOnly).size();
-        if (open > kMaxConnections || !IsOwnPeer(*socket)) {
-            socket->abort();
-            socket->deleteLater();
+    for (;;) {
+        const int connection = accept4(server, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+        if (connection < 0)
+            return;
+        if (m_connections == kMaxConnections || !IsOwnPeer(connection)) {
+            close(connection);
             continue;
         }
-        socket->setReadBufferSize(kMaxMessage + 1);
-        connect(socket, &QLocalSocket::readyRead, this, [this, socket] { ReadRequest(socket); });
-        QTimer::singleShot(Patiently(kRequestLimitMs), socket, [socket] { socket->abort(); });
-        ReadRequest(socket);
+        ++m_connections;
+        auto* socket = new QSocketNotifier(connection, QSocketNotifier::Read, this);
+        connect(socket, &QSocketNotifier::activated, this,
+            [this, socket, message = QByteArray()]() mutable { ReadRequest(socket, message); });
+        QTimer::singleShot(Patiently(kRequestLimitMs), socket, [this, socket] { Drop(socket); });
     }
 }
 
-void SingleInstance::ReadRequest(QLocalSocket* socket)
+void SingleInstance::ReadRequest(QSocketNotifier* socket, QByteArray& message)
 {
-    const QByteArray message = socket->peek(kMaxMessage + 1);
-    if (IsBeginOfRequest(message))
+    const auto connection = static_cast<int>(socket->socket());
+    const Received received = Receive(connection);
+    message += received.bytes;
+    if (received.isOpen && IsBeginOfRequest(message))
         return;
+    // Whatever comes while the request is carried out, this is the end of it.
+    socket->setEnabled(false);
     const std::optional<StartRequest> request = ParseRequest(message);
-    if (!request || message.size() > kMaxMessage)
-        return socket->abort();
-    socket->readAll();
-    const StartAnswer answer = m_handler ? m_handler(*request) : StartAnswer::Done;
-    const QByteArrayView line = answer == StartAnswer::Done ? kDone : kUnknownList;
-    socket->write(line.data(), line.size());
-    socket->disconnectFromServer();
+    if (request && message.size() <= kMaxMessage) {
+        const StartAnswer answer = m_handler ? m_handler(*request) : StartAnswer::Done;
+        const QByteArrayView line = answer == StartAnswer::Done ? kDone : kUnknownList;
+        static_cast<void>(
+            send(connection, line.data(), static_cast<size_t>(line.size()), MSG_NOSIGNAL));
+    }
+    Close(socket);
+}
+
+void SingleInstance::Drop(QSocketNotifier* socket)
+{
+    if (!socket->isEnabled())
+        return;
+    socket->setEnabled(false);
+    Close(socket);
+}
+
+void SingleInstance::Close(QSocketNotifier* socket)
+{
+    close(static_cast<int>(socket->socket()));
+    socket->deleteLater();
+    --m_connections;
 }
 
 } // namespace Quillory

@@ -4,6 +4,7 @@
 #include "tests/test_program.h"
 
 #include <QFile>
+#include <QLocalServer>
 #include <QLocalSocket>
 #include <QTemporaryDir>
 
