@@ -82,15 +82,18 @@ bool IsOwnPeer(int socket)
     return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == geteuid();
 }
 
-/// What connect() and bind() have in common.
 using AddressCall = int (*)(int socket, const sockaddr* address, socklen_t size);
+
+/// Calls connect() or bind(); false, and errno tells why, if that fails.
 bool CallWithAddress(AddressCall call, int socket, const QString& path)
 {
     const QByteArray name = QFile::encodeName(path);
     sockaddr_un address {};
     address.sun_family = AF_UNIX;
-    if (std::cmp_greater_equal(name.size(), sizeof(address.sun_path)))
+    if (std::cmp_greater_equal(name.size(), sizeof(address.sun_path))) {
+        errno = ENAMETOOLONG;
         return false;
+    }
     std::memcpy(address.sun_path, name.constData(), static_cast<size_t>(name.size()));
     return call(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
 }
@@ -162,8 +165,10 @@ SingleInstance::~SingleInstance()
 {
     for (QSocketNotifier* socket : findChildren<QSocketNotifier*>())
         Drop(socket);
-    if (m_lock >= 0)
-        close(m_lock);
+    if (m_lock < 0)
+        return;
+    QFile::remove(m_folder + u"/socket"_s);
+    close(m_lock);
 }
 
 QString SingleInstance::Folder()
@@ -231,8 +236,8 @@ void SingleInstance::Listen()
         close(server);
         return;
     }
-    const auto* arrivals = new QSocketNotifier(server, QSocketNotifier::Read, this);
-    connect(arrivals, &QSocketNotifier::activated, this, [this, server] { Accept(server); });
+    auto* arrivals = new QSocketNotifier(server, QSocketNotifier::Read, this);
+    connect(arrivals, &QSocketNotifier::activated, this, [this, arrivals] { Accept(*arrivals); });
 }
 
 std::optional<SingleInstance::Outcome> SingleInstance::HandOver(const StartRequest& request) const
@@ -263,12 +268,17 @@ std::optional<SingleInstance::Outcome> SingleInstance::HandOver(const StartReque
     return std::nullopt;
 }
 
-void SingleInstance::Accept(int server)
+void SingleInstance::Accept(QSocketNotifier& arrivals)
 {
     for (;;) {
-        const int connection = accept4(server, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-        if (connection < 0)
+        const int connection = accept4(
+            static_cast<int>(arrivals.socket()), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+        if (connection < 0) {
+            // What cannot be taken would be announced without end.
+            if (errno == EMFILE || errno == ENFILE)
+                arrivals.setEnabled(false);
             return;
+        }
         if (m_connections == kMaxConnections || !IsOwnPeer(connection)) {
             close(connection);
             continue;

@@ -74,7 +74,7 @@ private:
     [[nodiscard]] bool TakeLock();
     void Listen();
     [[nodiscard]] std::optional<Outcome> HandOver(const StartRequest& request) const;
-    void Accept(int server);
+    void Accept(QSocketNotifier& arrivals);
     /// Carries a request out once `message` holds all of it.
     void ReadRequest(QSocketNotifier* socket, QByteArray& message);
     /// Closes a socket unless its request is being carried out, or was.
