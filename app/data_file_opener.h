@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/settings.h"
 #include "store/list_catalogue.h"
+#include "store/settings.h"
 #include "widgets/message_box.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/data_file_session.h"
 
-#include "app/file_dialog.h"
 #include "app/plain_pages.h"
+#include "desktop/file_dialog.h"
 #include "res/string_table.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"

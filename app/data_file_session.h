@@ -2,9 +2,9 @@
 #pragma once
 
 #include "app/data_file_opener.h"
-#include "app/settings.h"
 #include "store/kept_copies.h"
 #include "store/list_catalogue.h"
+#include "store/settings.h"
 #include "widgets/questions.h"
 
 #include <QObject>

@@ -2,8 +2,8 @@
 #include "app/list_transfer.h"
 
 #include "app/data_file_session.h"
-#include "app/file_dialog.h"
 #include "app/transfer_progress.h"
+#include "desktop/file_dialog.h"
 #include "listdef/import_order_page.h"
 #include "res/string_table.h"
 #include "transfer/list_file.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line.h"
 #include "app/start_window.h"
+#include "cli/command_line.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -3,7 +3,6 @@
 
 #include "app/home_list.h"
 #include "app/plain_pages.h"
-#include "app/settings_context.h"
 #include "listdef/display_options_page.h"
 #include "res/dialog_table.h"
 #include "res/string_table.h"

@@ -3,13 +3,13 @@
 
 #include "app/data_file_session.h"
 #include "app/deletions.h"
-#include "app/interruptions.h"
-#include "app/landscape_shape.h"
 #include "app/list_definitions.h"
 #include "app/list_transfer.h"
-#include "app/settings.h"
-#include "app/single_instance.h"
+#include "desktop/interruptions.h"
+#include "desktop/landscape_shape.h"
+#include "desktop/single_instance.h"
 #include "store/row_store.h"
+#include "store/settings.h"
 #include "widgets/page_stack.h"
 #include "widgets/questions.h"
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/start_window.h"
 
-#include "app/application.h"
-#include "app/end_requests.h"
 #include "app/main_frame.h"
-#include "app/settings.h"
-#include "app/single_instance.h"
+#include "desktop/application.h"
+#include "desktop/desktop_look.h"
+#include "desktop/end_requests.h"
+#include "desktop/single_instance.h"
 #include "store/kept_copies.h"
+#include "store/settings.h"
 #include "widgets/app_style.h"
-#include "widgets/desktop_look.h"
 #include "widgets/icon_set.h"
 
 #include <QApplication>
@@ -93,7 +93,7 @@ int RunFrame(Application& app, SingleInstance& instance, const QString& listName
     MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder() });
     instance.SetHandler(
         [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
-    MeetEndRequests(endRequests, frame);
+    MeetEndRequests(endRequests, frame, [&frame] { return frame.LetSessionEnd(); });
     QObject::connect(&app, &Application::MemoryRanOut, &frame, &MainFrame::TellOutOfMemory);
     frame.show();
     // After the window is on the screen.

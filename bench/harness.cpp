@@ -64,28 +64,72 @@ std::vector<Runs> RunAll(const BenchCase& bench, const BenchOptions& options)
     return runs;
 }
 
+int brokenPromises = 0;
+
+/// Ends a line by what of it is over its limit.
+void EndLine(bool isRatioOver, bool isTimeOver, bool growsOver)
+{
+    const bool isBroken = isRatioOver || isTimeOver || growsOver;
+    brokenPromises += isBroken ? 1 : 0;
+    std::printf("%s%s%s%s\n", isBroken ? "  BROKEN:" : "", isRatioOver ? " ratio" : "",
+        isTimeOver ? " figure" : "", growsOver ? " growth" : "");
+    std::fflush(stdout);
+}
+
+/// A figure and its limit, or nothing in its place.
+void PrintLimited(double figure, double limit)
+{
+    if (limit > 0)
+        std::printf(" %9.2f %5.0f", figure, limit);
+    else
+        std::printf(" %9.2f %5s", figure, "-");
+}
+
 void PrintLine(
     const BenchCase& bench, int rows, const Timing& timing, const std::optional<Growth>& growth)
 {
     const double ratio = timing.oursMs / timing.floorMs;
-    const bool isSlow = bench.limitMs > 0 && timing.oursMs > bench.limitMs;
-    std::printf("%-34s %9d %11.2f %11.2f %7.2f %6.2f", qPrintable(bench.name), rows, timing.oursMs,
-        timing.floorMs, ratio, bench.limit);
+    std::printf("%-36s %9d", qPrintable(bench.name), rows);
+    PrintLimited(timing.oursMs, bench.limitMs);
+    std::printf(" %-4s %9.2f %6.2f %5.2f", "ms", timing.floorMs, ratio, bench.limit);
     if (growth)
-        std::printf(" %8.1f %8.1f %6.0f", growth->ours, growth->floor, bench.growthLimit);
+        std::printf(" %7.1f %7.1f %5.0f", growth->ours, growth->floor, bench.growthLimit);
     // Where the floor grows as much, the growth is that of the machine, whose caches hold the small
     // file and not the large one.
     const bool grows = growth && growth->ours > bench.growthLimit && growth->ours > growth->floor;
-    std::printf("%s%s\n", ratio <= bench.limit && !isSlow ? "" : "  OVER", grows ? "  GROWS" : "");
-    std::fflush(stdout);
+    EndLine(ratio > bench.limit, bench.limitMs > 0 && timing.oursMs > bench.limitMs, grows);
 }
 
 } // namespace
 
 void PrintHeading()
 {
-    std::printf("%-34s %9s %11s %11s %7s %6s %8s %8s %6s\n", "case", "rows", "ours ms", "floor ms",
-        "ratio", "limit", "growth", "floor's", "limit");
+    std::printf("%-36s %9s %9s %5s %-4s %9s %6s %5s %7s %7s %5s\n", "case", "rows", "ours", "limit",
+        "", "floor", "ratio", "limit", "growth", "floor's", "limit");
+}
+
+void TellFigure(const QString& name, int rows, double figure, const char* unit, double limit)
+{
+    std::printf("%-36s %9d", qPrintable(name), rows);
+    PrintLimited(figure, limit);
+    std::printf(" %-4s", unit);
+    EndLine(false, limit > 0 && figure > limit, false);
+}
+
+void TellRatio(
+    const QString& name, int rows, const char* unit, double figure, double floor, double limit)
+{
+    std::printf("%-36s %9d", qPrintable(name), rows);
+    PrintLimited(figure, 0);
+    std::printf(" %-4s %9.2f %6.2f", unit, floor, figure / floor);
+    if (limit > 0)
+        std::printf(" %5.2f", limit);
+    EndLine(limit > 0 && figure / floor > limit, false, false);
+}
+
+int BrokenPromises()
+{
+    return brokenPromises;
 }
 
 double MeasureMs(const std::function<void()>& work)

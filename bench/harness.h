@@ -26,7 +26,8 @@ struct BenchCase
     /// How much longer ten times the rows may take.
     double growthLimit = 11;
     std::function<Timing(int rows)> run;
-    /// Milliseconds that must not be exceeded whatever the floor takes; 0 for no such limit.
+    /// Milliseconds that must not be exceeded up to a million rows, whatever the floor takes; 0 for
+    /// no such limit.
     double limitMs = 0;
 };
 
@@ -50,8 +51,18 @@ inline void Require(bool isTrue, const char* what)
 
 void PrintHeading();
 
+/// Prints a figure without a floor, and what it is promised to be at most; 0 for no promise.
+void TellFigure(const QString& name, int rows, double figure, const char* unit, double limit);
+/// The same, and the floor that the figure is promised to be at most so many times.
+void TellRatio(
+    const QString& name, int rows, const char* unit, double figure, double floor, double limit);
+
+/// How many of the promises printed so far are broken.
+[[nodiscard]] int BrokenPromises();
+
 /// Runs the cases whose names hold the filter and prints a line per case and size: the least time
-/// of both sides, their ratio and its limit, and the growth of both between sizes ten times apart.
+/// of both sides, their ratio, the growth of both between sizes ten times apart, and the limits
+/// that are promised.
 void RunCases(const std::vector<BenchCase>& cases, const BenchOptions& options);
 
 } // namespace Quillory

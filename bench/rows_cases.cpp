@@ -17,7 +17,7 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
+#include <cmath>
 #include <malloc.h>
 #include <memory>
 #include <span>
@@ -34,6 +34,7 @@ constexpr int kColumns = 8;
 constexpr int kNameColumn = 0;
 /// A frame that takes longer is seen.
 constexpr double kMaxFrameMs = 8;
+constexpr double kMaxOpenMs = 300;
 constexpr double kMaxBytesPerRow = 12;
 /// More lines than the window has.
 constexpr size_t kScreenful = 64;
@@ -263,8 +264,7 @@ void PrintScrollGrowth(int rows)
     // Caches hold texts of other lengths now and then.
     constexpr double kMaxKilobytes = 64;
     const double grown = HeapGrownByScrolling(BenchList::OfSize(rows)) / kKilobyte;
-    std::printf("%-34s %9d %8.1f KB, at most %.0f%s\n", "growth over 10,000 scrolled pages", rows,
-        grown, kMaxKilobytes, grown > kMaxKilobytes ? "  OVER" : "");
+    TellFigure(u"growth over 10,000 scrolled pages"_s, rows, grown, "KB", kMaxKilobytes);
 }
 
 } // namespace
@@ -273,7 +273,7 @@ std::vector<BenchCase> RowsCases()
 {
     constexpr double kFlatGrowth = 2;
     return {
-        { u"open a list to its first frame"_s, 1.5, 11, OpenToFirstFrame },
+        { u"open a list to its first frame"_s, 1.5, 11, OpenToFirstFrame, kMaxOpenMs },
         { u"a frame while flicking"_s, 2.0, kFlatGrowth, FlickFrame, kMaxFrameMs },
     };
 }
@@ -290,8 +290,8 @@ void PrintRowMemory(const BenchOptions& options)
         static_cast<void>(MemoryOfOpenView(BenchList::OfSize(rows)));
         const double bytes
             = (MemoryOfOpenView(BenchList::OfSize(rows)) - MemoryOfOpenView(few)) / rows;
-        std::printf("%-34s %9d %8.1f bytes, at most %.0f%s\n", qPrintable(name), rows, bytes,
-            kMaxBytesPerRow, bytes > kMaxBytesPerRow ? "  OVER" : "");
+        // Memory is counted in pages, so that more digits would be noise.
+        TellFigure(name, rows, std::round(bytes * 10) / 10, "B", kMaxBytesPerRow);
     }
     // Not worth its time on the few rows of a trial run.
     if (options.sizes.front() >= kScrolledPages)

@@ -8,11 +8,6 @@ namespace Quillory {
 /// The home list of 10,000 lists, whatever the number of rows asked for.
 [[nodiscard]] std::vector<BenchCase> HomeCases();
 
-/// What a process of this program is asked to do instead of benchmarks: open a window and tell how
-/// long that took and how much memory it holds.
-constexpr char kStartArgument[] = "--start-window";
-[[nodiscard]] int RunStart(int argumentCount, char** argumentValues);
-
 /// Starts the program's window with 50 lists, and a bare one, in processes of their own, and prints
 /// the time to the first painted lists and the resident memory of both.
 void PrintStart(int repeat);

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QtEndian>
 
 #include <sqlite3.h>
@@ -97,6 +98,12 @@ Timing ExportList(int rows)
     return timing;
 }
 
+/// What the floors keep rows in.
+const QString kFloorTable
+    = u"CREATE TABLE copy(oid INTEGER PRIMARY KEY, name TEXT, count INTEGER, text TEXT, "
+      "ticked INTEGER, price ANY, day INTEGER) STRICT; CREATE INDEX by_name ON copy(name)"_s;
+constexpr char kFloorInsert[] = "INSERT INTO copy VALUES(NULL, ?1, ?2, ?3, ?4, ?5, ?6)";
+
 /// A row as its bytes go into the database, made before the clock starts.
 struct BoundRow
 {
@@ -132,8 +139,7 @@ std::vector<BoundRow> BoundRows(const BenchList& list)
 void InsertRows(sqlite3* connection, const std::vector<BoundRow>& rows)
 {
     sqlite3_stmt* insert = nullptr;
-    sqlite3_prepare_v3(connection, "INSERT INTO copy VALUES(NULL, ?1, ?2, ?3, ?4, ?5, ?6)", -1,
-        SQLITE_PREPARE_PERSISTENT, &insert, nullptr);
+    sqlite3_prepare_v3(connection, kFloorInsert, -1, SQLITE_PREPARE_PERSISTENT, &insert, nullptr);
     RunSql(connection, u"BEGIN IMMEDIATE"_s);
     int inBatch = 0;
     for (const BoundRow& row : rows) {
@@ -175,12 +181,16 @@ Timing ImportList(int rows)
     const auto bound = BoundRows(list);
     BenchList floor(0);
     floor.WithSqlite([&](sqlite3* connection) {
-        RunSql(connection,
-            u"CREATE TABLE copy(oid INTEGER PRIMARY KEY, name TEXT, count INTEGER, text TEXT, "
-            "ticked INTEGER, price ANY, day INTEGER) STRICT; CREATE INDEX by_name ON copy(name)"_s);
+        RunSql(connection, kFloorTable);
         timing.floorMs = MeasureMs([&] { InsertRows(connection, bound); });
     });
     return timing;
+}
+
+double Megabytes(const QString& path)
+{
+    constexpr double kBytesPerMegabyte = 1024.0 * 1024.0;
+    return static_cast<double>(QFileInfo(path).size()) / kBytesPerMegabyte;
 }
 
 /// The most memory a finished process held, in megabytes; negative if it did not end well.
@@ -210,6 +220,33 @@ double PeakMegabytes(const QStringList& command)
     return status == 0 ? static_cast<double>(usage.ru_maxrss) / kKilobytesPerMegabyte : -1;
 }
 
+/// The megabytes of a plain file with the rows of a list in UTF-8 and the same index.
+double PlainMegabytes(const BenchList& list)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"plain.db"_s);
+    list.WithSqlite([&](sqlite3* source) {
+        sqlite3* plain = nullptr;
+        Require(sqlite3_open(path.toUtf8().constData(), &plain) == SQLITE_OK, "no plain file");
+        RunSql(plain, kFloorTable + u"; BEGIN"_s);
+        sqlite3_stmt* insert = nullptr;
+        sqlite3_prepare_v2(plain, kFloorInsert, -1, &insert, nullptr);
+        const QString sql = u"SELECT %1, %2, %3, %4, %5, %6 FROM %7 ORDER BY oid"_s.arg(
+            list.Column(0), list.Column(1), list.Column(2), list.Column(3), list.Column(4),
+            list.Column(5), list.Table());
+        ForEachRow(source, sql, [&](sqlite3_stmt* row) {
+            for (int column = 0; column < sqlite3_column_count(row); ++column)
+                sqlite3_bind_value(insert, column + 1, sqlite3_column_value(row, column));
+            Require(sqlite3_step(insert) == SQLITE_DONE, "the plain file takes no row");
+            sqlite3_reset(insert);
+        });
+        sqlite3_finalize(insert);
+        RunSql(plain, u"COMMIT"_s);
+        sqlite3_close(plain);
+    });
+    return Megabytes(path);
+}
+
 } // namespace
 
 std::vector<BenchCase> TransferCases()
@@ -230,8 +267,16 @@ void PrintImportMemory(const std::vector<int>& sizes)
         const double peak = PeakMegabytes(
             { program, u"--data"_s, empty.Path(), u"import"_s, u"Bench"_s, TextFile(rows) });
         Require(peak > 0, "the import in a process of its own failed");
-        std::printf("%-34s %9d %8.1f MB, at most %.0f%s\n", "memory of an import", rows, peak,
-            kMaxMegabytes, peak > kMaxMegabytes ? "  OVER" : "");
+        TellFigure(u"memory of an import"_s, rows, peak, "MB", kMaxMegabytes);
+    }
+}
+
+void PrintFileSize(const std::vector<int>& sizes)
+{
+    for (const int rows : sizes) {
+        const BenchList& list = BenchList::OfSize(rows);
+        TellRatio(u"data file, to a plain one in UTF-8"_s, rows, "MB", Megabytes(list.Path()),
+            PlainMegabytes(list), 0);
     }
 }
 

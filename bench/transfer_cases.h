@@ -11,4 +11,7 @@ namespace Quillory {
 /// Prints the most memory that an import in a process of its own took.
 void PrintImportMemory(const std::vector<int>& sizes);
 
+/// Prints the size of the data file beside that of a plain SQLite file with the same rows.
+void PrintFileSize(const std::vector<int>& sizes);
+
 } // namespace Quillory

@@ -22,7 +22,6 @@ include(CheckPIESupported)
 check_pie_supported()
 
 add_library(quillory_options INTERFACE)
-target_include_directories(quillory_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(quillory_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     $<$<BOOL:${QUILLORY_WERROR}>:-Werror>)
@@ -95,11 +94,22 @@ function(quillory_configure target layer)
 endfunction()
 
 # quillory_add_library(NAME core|window SOURCES file... LINKS target... [PRIVATE_LINKS target...])
-# One static library for one folder or a part of it; its target is quillory_NAME.
+# One static library for the folder NAME; its target is quillory_NAME. Its headers are found, as
+# NAME/header.h, by itself and by what links it, and by nobody else.
 function(quillory_add_library name layer)
     cmake_parse_arguments(arg "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+    foreach(link IN LISTS arg_LINKS arg_PRIVATE_LINKS)
+        if(link MATCHES "^quillory_" AND NOT TARGET ${link})
+            message(FATAL_ERROR "${name} links ${link}, which is no folder above it")
+        endif()
+    endforeach()
     add_library(quillory_${name} STATIC ${arg_SOURCES})
     target_link_libraries(quillory_${name} PUBLIC ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
+    # A folder of includes that holds nothing but the library's folder.
+    set(includes ${PROJECT_BINARY_DIR}/include/${name})
+    file(MAKE_DIRECTORY ${includes})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${includes}/${name} SYMBOLIC)
+    target_include_directories(quillory_${name} PUBLIC ${includes})
     quillory_configure(quillory_${name} ${layer})
 endfunction()
 
@@ -113,8 +123,10 @@ if(IS_DIRECTORY /dev/shm)
     list(APPEND QUILLORY_TEST_ENVIRONMENT TMPDIR=/dev/shm)
 endif()
 
-# From 6.8 on the toolkit's own macros for waiting narrow a number of milliseconds.
+# What looks at the program from outside sees all its folders, whatever it links.
 add_library(quillory_test_options INTERFACE)
+target_include_directories(quillory_test_options INTERFACE ${PROJECT_SOURCE_DIR})
+# From 6.8 on the toolkit's own macros for waiting narrow a number of milliseconds.
 if(Qt6_VERSION VERSION_GREATER_EQUAL 6.8)
     target_compile_options(quillory_test_options INTERFACE -Wno-conversion)
 endif()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line.h"
+#include "cli/command_line.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
 #include "tests/page_damage.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/end_requests.h"
+#include "desktop/end_requests.h"
 #include "tests/limit.h"
 #include "tests/main_frame_errand.h"
 #include "tests/table.h"
@@ -347,7 +347,8 @@ private:
         const bool needsChange = !what.told.isEmpty();
         errand.MakeLists(needsChange ? QStringList { u"Attic"_s } + lists : lists);
         errand.Start();
-        MeetEndRequests(m_endRequests, *errand.frame);
+        MeetEndRequests(m_endRequests, *errand.frame,
+            [&frame = *errand.frame] { return frame.LetSessionEnd(); });
         if (needsChange)
             Act(kDeleteList);
     }

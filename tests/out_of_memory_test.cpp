@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/application.h"
+#include "desktop/application.h"
 #include "tests/limit.h"
 #include "tests/main_frame_errand.h"
 #include "tests/test_program.h"

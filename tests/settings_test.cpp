@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/settings.h"
+#include "store/settings.h"
 #include "tests/file_bytes.h"
 #include "tests/test_program.h"
 

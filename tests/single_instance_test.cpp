@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/single_instance.h"
+#include "desktop/single_instance.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
 
 #include <QFile>
+#include <QLocalServer>
 #include <QLocalSocket>
 #include <QTemporaryDir>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line_conditions.h"
+#include "cli/conditions.h"
 
-#include "app/command_line_run.h"
+#include "cli/command_run.h"
 #include "platform/number_text.h"
 #include "res/string_table.h"
 #include "values/column_type.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line_encoding.h"
+#include "cli/encoding.h"
 
-#include "app/command_line_run.h"
+#include "cli/command_run.h"
 #include "platform/code_page.h"
 
 #include <QtEndian>

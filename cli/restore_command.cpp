@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line_run.h"
+#include "cli/command_run.h"
 #include "store/kept_copies.h"
 #include "store/salvage.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/application.h"
+#include "desktop/application.h"
 
 #include <new>
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "values/value_text.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -51,5 +53,9 @@ void ReadSettings(const QString& path, Settings& settings);
 /// Writes everything but code page, kept copies and colour scheme, which are the user's own lines.
 /// A file that cannot be written stays as it is.
 void WriteSettings(const QString& path, const Settings& settings);
+
+/// The context of the environment with what the settings override of it: window and command line
+/// read and write texts alike.
+[[nodiscard]] ValueContext ContextOf(const Settings& settings);
 
 } // namespace Quillory

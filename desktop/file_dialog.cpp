@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/file_dialog.h"
+#include "desktop/file_dialog.h"
 
 #include "widgets/measures.h"
 #include "widgets/questions.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "widgets/desktop_look.h"
+#include "desktop/desktop_look.h"
 
 #include <QApplication>
 #include <QDBusConnection>

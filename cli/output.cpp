@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line_output.h"
+#include "cli/output.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

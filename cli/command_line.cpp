@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line.h"
+#include "cli/command_line.h"
 
-#include "app/command_line_table.h"
-#include "app/settings_context.h"
+#include "cli/sub_command.h"
 #include "store/kept_copies.h"
+#include "store/settings.h"
 
 #include <QDeadlineTimer>
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line_conditions.h"
-#include "app/command_line_encoding.h"
-#include "app/command_line_run.h"
+#include "cli/command_run.h"
+#include "cli/conditions.h"
+#include "cli/encoding.h"
 #include "res/string_table.h"
 #include "store/data_file_check.h"
 #include "transfer/list_file.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/landscape_shape.h"
+#include "desktop/landscape_shape.h"
 
 #include <QScreen>
 #include <QWidget>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/end_requests.h"
-
-#include "app/main_frame.h"
+#include "desktop/end_requests.h"
 
 #include <QGuiApplication>
 #include <QSessionManager>
 #include <QSocketNotifier>
+#include <QWidget>
 
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -24,20 +23,20 @@ int CatchEndRequests()
     return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
-void MeetEndRequests(int endRequests, MainFrame& frame)
+void MeetEndRequests(int endRequests, QWidget& window, const std::function<bool()>& letSessionEnd)
 {
-    const auto* notifier = new QSocketNotifier(endRequests, QSocketNotifier::Read, &frame);
-    QObject::connect(notifier, &QSocketNotifier::activated, &frame, [&frame, endRequests] {
+    const auto* notifier = new QSocketNotifier(endRequests, QSocketNotifier::Read, &window);
+    QObject::connect(notifier, &QSocketNotifier::activated, &window, [&window, endRequests] {
         signalfd_siginfo endRequest;
         while (read(endRequests, &endRequest, sizeof(endRequest)) > 0)
-            frame.close();
+            window.close();
     });
-    QObject::connect(
-        qGuiApp, &QGuiApplication::commitDataRequest, &frame, [&frame](QSessionManager& session) {
-            if (frame.LetSessionEnd() || !session.allowsInteraction())
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &window,
+        [&window, letSessionEnd](QSessionManager& session) {
+            if (letSessionEnd() || !session.allowsInteraction())
                 return;
             session.cancel();
-            frame.close();
+            window.close();
         });
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line_table.h"
+#include "cli/sub_command.h"
 
 #include "platform/number_text.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "app/command_line_conditions.h"
-#include "app/command_line_run.h"
+#include "cli/command_run.h"
+#include "cli/conditions.h"
 #include "store/column_scan.h"
 #include "store/row_store.h"
 #include "store/totals.h"

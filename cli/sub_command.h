@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/command_line_run.h"
+#include "cli/command_run.h"
 
 #include <QByteArray>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/command_line.h"
-#include "app/command_line_output.h"
+#include "cli/command_line.h"
+#include "cli/output.h"
 #include "store/list_catalogue.h"
 
 #include <QCommandLineParser>

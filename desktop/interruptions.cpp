@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/interruptions.h"
+#include "desktop/interruptions.h"
 
 #include <array>
 

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLocalServer>
 #include <QObject>
 #include <QString>
 
 #include <functional>
 #include <optional>
 
-class QLocalSocket;
+class QSocketNotifier;
 
 namespace Quillory {
 
@@ -68,15 +67,19 @@ private:
     QString m_folder;
     double m_patience;
     int m_lock = -1;
-    QLocalServer m_server;
+    qsizetype m_connections = 0;
     Handler m_handler;
 
     [[nodiscard]] int Patiently(int usualMs) const;
     [[nodiscard]] bool TakeLock();
     void Listen();
     [[nodiscard]] std::optional<Outcome> HandOver(const StartRequest& request) const;
-    void AcceptConnections();
-    void ReadRequest(QLocalSocket* socket);
+    void Accept(QSocketNotifier& arrivals);
+    /// Carries a request out once `message` holds all of it.
+    void ReadRequest(QSocketNotifier* socket, QByteArray& message);
+    /// Closes a socket unless its request is being carried out, or was.
+    void Drop(QSocketNotifier* socket);
+    void Close(QSocketNotifier* socket);
 };
 
 } // namespace Quillory

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/settings.h"
+#include "store/settings.h"
 
 #include "platform/code_page.h"
 
@@ -99,6 +99,16 @@ void WriteSettings(const QString& path, const Settings& settings)
     file.setValue(kOrientationKey, settings.ListOrientation);
     file.setValue(kGeometryKey, settings.windowGeometry);
     file.sync();
+}
+
+ValueContext ContextOf(const Settings& settings)
+{
+    ValueContext context = ValueContext::FromEnvironment();
+    if (settings.codePage) {
+        context.userLocale.codePage = *settings.codePage;
+        context.systemLocale.codePage = *settings.codePage;
+    }
+    return context;
 }
 
 } // namespace Quillory
