@@ -36,7 +36,7 @@ struct Limit
 constexpr std::array kLimits {
     Limit { SQLITE_LIMIT_LENGTH, kMaxRecordBytes },
     Limit { SQLITE_LIMIT_SQL_LENGTH, 64 << 10 },
-    Limit { SQLITE_LIMIT_COLUMN, 512 },
+    Limit { SQLITE_LIMIT_COLUMN, 1 + int { kMaxDatabaseProperties } },
     Limit { SQLITE_LIMIT_EXPR_DEPTH, 64 },
     Limit { SQLITE_LIMIT_COMPOUND_SELECT, 4 },
     Limit { SQLITE_LIMIT_FUNCTION_ARG, 1 + int { RecordVisit::kMaxProperties } },
@@ -91,12 +91,10 @@ int Authorize(void* /*context*/, int action, const char* /*first*/, const char* 
     case SQLITE_UPDATE:
     case SQLITE_DELETE:
     case SQLITE_TRANSACTION:
-    case SQLITE_SAVEPOINT:
     case SQLITE_PRAGMA:
     case SQLITE_FUNCTION:
     case SQLITE_CREATE_TABLE:
     case SQLITE_CREATE_INDEX:
-    case SQLITE_ALTER_TABLE:
     case SQLITE_DROP_TABLE:
     case SQLITE_DROP_INDEX:
     case SQLITE_REINDEX:

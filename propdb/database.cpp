@@ -77,11 +77,13 @@ private:
     QString m_select;
 };
 
-ErrorNumber CheckValues(std::span<const PropertyValue> values)
+ErrorNumber CheckValues(const DatabaseSchema& schema, std::span<const PropertyValue> values)
 {
     if (values.empty())
         return ErrorNumber::InvalidParameter;
     for (size_t i = 0; i < values.size(); ++i) {
+        if (schema.Find(values[i].id) == nullptr)
+            return ErrorNumber::InvalidParameter;
         for (size_t k = 0; k < i; ++k) {
             if (values[k].id == values[i].id)
                 return ErrorNumber::AlreadyExists;
@@ -123,6 +125,11 @@ std::vector<PropertySpec> Database::Properties() const
             specs.push_back({ column.id, column.name });
     }
     return specs;
+}
+
+bool Database::Has(PropertyId id) const
+{
+    return m_state->schema->Find(id) != nullptr;
 }
 
 Result<ObjectId> Database::SeekFirst()
@@ -170,17 +177,12 @@ Result<Record> Database::Read(std::span<const PropertyId> ids)
 
 Result<ObjectId> Database::Write(ObjectId oid, std::span<const PropertyValue> values)
 {
-    if (const ErrorNumber error = CheckValues(values); error != ErrorNumber::None)
+    if (const auto error = CheckValues(*m_state->schema, values); error != ErrorNumber::None)
         return error;
     VolumeState& volume = m_state->volume;
     if (const auto begun = volume.BeginWrite(); !begun)
         return begun.Error();
-    Result<ObjectId> written = oid;
-    const auto added = m_state->AddMissingColumns(values);
-    if (!added)
-        written = added.Error();
-    else
-        written = oid == kNoObject ? m_state->Insert(values) : m_state->Update(oid, values);
+    const auto written = oid == kNoObject ? m_state->Insert(values) : m_state->Update(oid, values);
     const auto ended = volume.EndWrite(written.Error());
     return ended ? written : ended.Error();
 }

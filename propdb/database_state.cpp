@@ -63,7 +63,7 @@ void StatementCache::Clear()
 }
 
 DatabaseState::DatabaseState(VolumeState& volumeState,
-    std::shared_ptr<DatabaseSchema> databaseSchema, const SortOrder& sortOrder)
+    std::shared_ptr<const DatabaseSchema> databaseSchema, const SortOrder& sortOrder)
     : volume(volumeState)
     , schema(std::move(databaseSchema))
     , order(sortOrder)
@@ -85,26 +85,6 @@ QString DatabaseState::ColumnList(std::span<const PropertyId> ids) const
         list += u", "_s + (column == nullptr ? u"NULL"_s : QuotedName(column->columnName));
     }
     return list;
-}
-
-Result<void> DatabaseState::AddMissingColumns(std::span<const PropertyValue> values)
-{
-    for (const PropertyValue& value : values) {
-        if (schema->Find(value.id) != nullptr)
-            continue;
-        if (!IsStorableType(PropertyType(value.id)))
-            return ErrorNumber::InvalidParameter;
-        const QString name = u"property %1"_s.arg(PropertyNumber(value.id));
-        PropertyColumn column = MakeColumn(*schema, { value.id, name }, false);
-        Result<void> added = volume.BeginSchemaChange();
-        if (added)
-            added = AddPropertyColumn(volume.connection.get(), *schema, column);
-        if (!added)
-            return added;
-        schema->properties.push_back(std::move(column));
-        selects.Clear();
-    }
-    return {};
 }
 
 Result<ObjectId> DatabaseState::Insert(std::span<const PropertyValue> values)

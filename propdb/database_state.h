@@ -33,14 +33,14 @@ private:
 /// An open database within its volume.
 struct DatabaseState
 {
-    DatabaseState(VolumeState& volumeState, std::shared_ptr<DatabaseSchema> databaseSchema,
+    DatabaseState(VolumeState& volumeState, std::shared_ptr<const DatabaseSchema> databaseSchema,
         const SortOrder& sortOrder);
     ~DatabaseState();
     DatabaseState(const DatabaseState&) = delete;
     DatabaseState& operator=(const DatabaseState&) = delete;
 
     VolumeState& volume;
-    std::shared_ptr<DatabaseSchema> schema;
+    std::shared_ptr<const DatabaseSchema> schema;
     SortOrder order;
     Cursor cursor;
     StatementCache inserts;
@@ -52,8 +52,6 @@ struct DatabaseState
 
     /// The columns so listed, as SQL; NULL for one that the database has no column for.
     [[nodiscard]] QString ColumnList(std::span<const PropertyId> ids) const;
-    /// Gives every property among `values` a column.
-    [[nodiscard]] Result<void> AddMissingColumns(std::span<const PropertyValue> values);
     [[nodiscard]] Result<ObjectId> Insert(std::span<const PropertyValue> values);
     [[nodiscard]] Result<ObjectId> Update(ObjectId oid, std::span<const PropertyValue> values);
     /// Every record in sort order.

@@ -286,7 +286,7 @@ bool IsStorableType(quint16 type)
     }
 }
 
-PropertyColumn MakeColumn(const DatabaseSchema& schema, const PropertySpec& spec, bool isDeclared)
+PropertyColumn MakeColumn(const DatabaseSchema& schema, const PropertySpec& spec)
 {
     const auto isTaken = [&schema](const QString& name) {
         const auto isSame = [&name](const QString& other) {
@@ -301,7 +301,7 @@ PropertyColumn MakeColumn(const DatabaseSchema& schema, const PropertySpec& spec
         columnName += u"_%1"_s.arg(PropertyNumber(spec.id));
     while (isTaken(columnName))
         columnName += u'_';
-    return { spec.id, spec.name, columnName, isDeclared };
+    return { spec.id, spec.name, columnName, spec.isDeclared };
 }
 
 QString MakeTableName(const QString& databaseName, ObjectId oid)
@@ -344,17 +344,6 @@ Result<void> CreateDatabaseSchema(sqlite3* connection, const DatabaseSchema& sch
             done = RunSql(connection, IndexSql(schema, *schema.Find(order.key)));
     }
     return done;
-}
-
-Result<void> AddPropertyColumn(
-    sqlite3* connection, const DatabaseSchema& schema, const PropertyColumn& column)
-{
-    const auto inserted
-        = InsertProperty(connection, schema, column, static_cast<qint64>(schema.properties.size()));
-    if (!inserted)
-        return inserted;
-    return RunSql(connection,
-        u"ALTER TABLE "_s + QuotedName(schema.tableName) + u" ADD COLUMN "_s + ColumnSql(column));
 }
 
 Result<void> RenameDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema)

@@ -22,7 +22,6 @@ struct PropertyColumn
     PropertyId id {};
     QString name;
     QString columnName;
-    /// False for a property that was written without having been declared.
     bool isDeclared = true;
 };
 
@@ -42,7 +41,8 @@ struct DatabaseSchema
 
 /// What a file may hold of each; more is no program's but one that wants to be slow.
 constexpr size_t kMaxDatabases = 25'000;
-constexpr size_t kMaxDatabaseProperties = 512;
+/// The table has a column for the identifier besides.
+constexpr size_t kMaxDatabaseProperties = 511;
 
 /// The layout of a whole volume as its own tables describe it.
 class VolumeSchema
@@ -70,23 +70,20 @@ private:
 /// The name of the index that serves the order by `key`.
 [[nodiscard]] QString IndexName(const DatabaseSchema& schema, const PropertyColumn& key);
 
-/// Whether a property of this type can be stored.
 /// The type that the column of a property is declared to hold.
 [[nodiscard]] const char* DeclaredType(PropertyId id);
+/// Whether a property of this type can be stored.
 [[nodiscard]] bool IsStorableType(quint16 type);
 
 /// A column for a property of `schema`, under a name that no other column of the table has.
-[[nodiscard]] PropertyColumn MakeColumn(
-    const DatabaseSchema& schema, const PropertySpec& spec, bool isDeclared);
+[[nodiscard]] PropertyColumn MakeColumn(const DatabaseSchema& schema, const PropertySpec& spec);
 /// The name of the table of a database.
 [[nodiscard]] QString MakeTableName(const QString& databaseName, ObjectId oid);
 
 /// Makes the tables of an empty volume. The caller holds the transaction of this and of the three
-/// operations that follow.
+/// operations that follow, and undoes it where one of them fails.
 [[nodiscard]] Result<void> CreateVolumeSchema(sqlite3* connection);
 [[nodiscard]] Result<void> CreateDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);
-[[nodiscard]] Result<void> AddPropertyColumn(
-    sqlite3* connection, const DatabaseSchema& schema, const PropertyColumn& column);
 /// Stores the name and type that `schema` has now.
 [[nodiscard]] Result<void> RenameDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);
 [[nodiscard]] Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);

@@ -72,7 +72,8 @@ ErrorNumber CheckSpecs(std::span<const PropertySpec> specs, std::span<const Sort
     }
     const bool haveKeys = std::all_of(sortOrders.begin(), sortOrders.end(),
         [&ids](const SortOrder& order) { return ids.contains(order.key); });
-    const bool isSound = !specs.empty() && sortOrders.size() <= 1 && haveKeys;
+    const bool isSound = !specs.empty() && specs.size() <= kMaxDatabaseProperties
+        && sortOrders.size() <= 1 && haveKeys;
     return isSound ? ErrorNumber::None : ErrorNumber::InvalidParameter;
 }
 
@@ -147,15 +148,16 @@ Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
         return begun.Error();
     const auto oid = m_state->AllocateOid();
     auto schema = std::make_shared<DatabaseSchema>();
-    Result<void> done = oid ? m_state->BeginSchemaChange() : oid.Error();
+    Result<void> done = oid.Error();
     if (done) {
+        m_state->BeginSchemaChange();
         schema->oid = *oid;
         schema->name = name;
         schema->type = type;
         schema->tableName = MakeTableName(name, *oid);
         schema->sortOrders.assign(sortOrders.begin(), sortOrders.end());
         for (const PropertySpec& spec : specs)
-            schema->properties.push_back(MakeColumn(*schema, spec, true));
+            schema->properties.push_back(MakeColumn(*schema, spec));
         m_state->schema.Insert(schema);
         done = CreateDatabaseSchema(m_state->connection.get(), *schema);
     }
@@ -185,12 +187,9 @@ Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseT
         return ErrorNumber::SharingViolation;
     if (const auto begun = m_state->BeginWrite(); !begun)
         return begun;
-    Result<void> done = m_state->BeginSchemaChange();
-    if (done) {
-        m_state->schema.Rename(*schema, name, type);
-        done = RenameDatabaseSchema(m_state->connection.get(), *schema);
-    }
-    return m_state->EndWrite(done);
+    m_state->BeginSchemaChange();
+    m_state->schema.Rename(*schema, name, type);
+    return m_state->EndWrite(RenameDatabaseSchema(m_state->connection.get(), *schema));
 }
 
 Result<void> Volume::DeleteDatabase(ObjectId oid)
@@ -204,12 +203,9 @@ Result<void> Volume::DeleteDatabase(ObjectId oid)
         return ErrorNumber::SharingViolation;
     if (const auto begun = m_state->BeginWrite(); !begun)
         return begun;
-    Result<void> done = m_state->BeginSchemaChange();
-    if (done) {
-        m_state->schema.Remove(*schema);
-        done = DropDatabaseSchema(m_state->connection.get(), *schema);
-    }
-    return m_state->EndWrite(done);
+    m_state->BeginSchemaChange();
+    m_state->schema.Remove(*schema);
+    return m_state->EndWrite(DropDatabaseSchema(m_state->connection.get(), *schema));
 }
 
 Result<std::unique_ptr<Database>> Volume::OpenDatabase(

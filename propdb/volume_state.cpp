@@ -164,39 +164,19 @@ Result<void> VolumeState::KeepFirstPage()
     return kept;
 }
 
-Result<void> VolumeState::BeginSchemaChange()
+void VolumeState::BeginSchemaChange()
 {
     isSchemaChanged = true;
-    if (!isInTransaction || isChangingSchema)
-        return {};
-    const auto marked = Execute(connection.get(), "SAVEPOINT schema_change");
-    isChangingSchema = marked.IsOk();
-    return marked;
-}
-
-Result<void> VolumeState::EndSchemaChange(const Result<void>& outcome)
-{
-    isChangingSchema = false;
-    // A failure can have ended the transaction underneath, and with it the change.
-    if (sqlite3_get_autocommit(connection.get()) != 0)
-        return outcome;
-    Result<void> ended;
-    if (!outcome)
-        ended = Execute(connection.get(), "ROLLBACK TO schema_change");
-    if (ended)
-        ended = Execute(connection.get(), "RELEASE schema_change");
-    if (ended && !outcome)
-        ended = ReloadSchema();
-    if (ended)
-        return outcome;
-    Rollback();
-    return outcome ? ended : outcome;
+    isChangingSchema = true;
 }
 
 Result<void> VolumeState::EndWrite(const Result<void>& outcome)
 {
-    if (isInTransaction)
-        return isChangingSchema ? EndSchemaChange(outcome) : outcome;
+    // What changes the schema takes several statements, of which some may have been done.
+    const bool isPart = isInTransaction && (outcome || !isChangingSchema);
+    isChangingSchema = false;
+    if (isPart)
+        return outcome;
     if (outcome)
         return Commit();
     Rollback();
@@ -309,27 +289,10 @@ Result<void> VolumeState::RefreshSchema()
         if (!version || *version == schemaVersion)
             return version.Error();
     }
-    const auto loaded = ReloadSchema();
+    const auto loaded = LoadSchema();
     if (loaded)
         isSchemaChanged = false;
     return loaded;
-}
-
-Result<void> VolumeState::ReloadSchema()
-{
-    if (const auto loaded = LoadSchema(); !loaded)
-        return loaded;
-    for (DatabaseState* database : openDatabases) {
-        // Open databases go on sharing their layout with the volume.
-        if (const auto current = schema.Find(database->schema->oid)) {
-            *database->schema = *current;
-            schema.Insert(database->schema);
-        }
-        database->inserts.Clear();
-        database->updates.Clear();
-        database->selects.Clear();
-    }
-    return {};
 }
 
 } // namespace Quillory

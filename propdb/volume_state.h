@@ -59,7 +59,7 @@ struct VolumeState
     bool isFirstPageKept = false;
     /// `schema` is not what the file held when the transaction began.
     bool isSchemaChanged = false;
-    /// The write that runs changes the schema within a transaction.
+    /// The write that runs changes the schema.
     bool isChangingSchema = false;
     /// What `readDataVersion` gave when `schema` was read, or before.
     qint64 schemaVersion = 0;
@@ -90,10 +90,9 @@ struct VolumeState
     /// not the one that was opened.
     [[nodiscard]] Result<void> BeginWrite();
     /// Must come, within a write, before the schema is changed.
-    [[nodiscard]] Result<void> BeginSchemaChange();
+    void BeginSchemaChange();
     /// Makes a write of its own durable, or undoes it when `outcome` is a failure. Within a
-    /// transaction passes `outcome` on, a failed change of the schema being undone: the transaction
-    /// ends if it cannot be.
+    /// transaction passes `outcome` on; a failed change of the schema undoes all of it.
     [[nodiscard]] Result<void> EndWrite(const Result<void>& outcome);
 
     /// SharingViolation if something else has written into the file since the last commit: what
@@ -118,9 +117,6 @@ private:
     [[nodiscard]] Result<qint64> ReadFileVersion();
     /// Reads the schema and the number of the state that it is at least as new as.
     [[nodiscard]] Result<void> LoadSchema();
-    /// The same where databases may be open: they learn their layout anew.
-    [[nodiscard]] Result<void> ReloadSchema();
-    [[nodiscard]] Result<void> EndSchemaChange(const Result<void>& outcome);
     /// Has the journal begin with the file's first page, by which a later start knows whose it is.
     [[nodiscard]] Result<void> KeepFirstPage();
     [[nodiscard]] Result<void> FindOutcome(ErrorNumber commitError);

@@ -27,7 +27,8 @@ Result<void> CheckLists(Volume& volume, QSet<QString>& rows, QStringList& faults
     }
     const std::vector<PropertySpec> properties = (*lists)->Properties();
     for (const PropertySpec& spec : ListCatalogue::RecordProperties()) {
-        if (std::ranges::find(properties, spec.id, &PropertySpec::id) == properties.end())
+        if (spec.isDeclared
+            && std::ranges::find(properties, spec.id, &PropertySpec::id) == properties.end())
             faults << u"the list of lists lacks its column “%1”"_s.arg(spec.name);
     }
     const auto oids = (*lists)->ListRecords();
