@@ -115,18 +115,11 @@ Result<void> SetPragma(sqlite3* connection, const Pragma& pragma)
 {
     const QString name = QString::fromLatin1(pragma.name);
     const QString sql = u"PRAGMA %1 = %2"_s.arg(name, QString::fromLatin1(pragma.value));
-    auto change = Statement::Prepare(connection, sql);
-    if (!change)
-        return change.Error();
-    if (const auto done = change->Run(); !done)
-        return done;
-    auto query = Statement::Prepare(connection, u"PRAGMA "_s + name);
-    if (!query)
-        return query.Error();
-    const auto step = query->Step();
-    if (!step)
-        return step.Error();
-    const bool isObeyed = *step && query->Utf8(0) == pragma.answer;
+    QUILLORY_TRY_VALUE(auto change, Statement::Prepare(connection, sql));
+    QUILLORY_TRY(change.Run());
+    QUILLORY_TRY_VALUE(auto query, Statement::Prepare(connection, u"PRAGMA "_s + name));
+    QUILLORY_TRY_VALUE(const bool isAnswered, query.Step());
+    const bool isObeyed = isAnswered && query.Utf8(0) == pragma.answer;
     return isObeyed ? ErrorNumber::None : ErrorNumber::NotSupported;
 }
 
@@ -143,10 +136,8 @@ Result<void> Harden(sqlite3* connection, VolumeAccess access)
             return ErrorNumber::NotSupported;
     }
     sqlite3_set_authorizer(connection, Authorize, nullptr);
-    for (const Pragma& pragma : kPragmas) {
-        if (const auto done = SetPragma(connection, pragma); !done)
-            return done;
-    }
+    for (const Pragma& pragma : kPragmas)
+        QUILLORY_TRY(SetPragma(connection, pragma));
     return {};
 }
 
@@ -183,14 +174,10 @@ Result<ConnectionHandle> OpenConnection(
     // The sanitizers do not see who uses what within the blocks that SQLite cuts up itself.
     sqlite3_db_config(raw, SQLITE_DBCONFIG_LOOKASIDE, nullptr, 0, 0);
 #endif
-    if (isNew) {
-        if (const auto done = PrepareNew(raw); !done)
-            return done.Error();
-    }
-    if (const auto done = Harden(raw, access); !done)
-        return done.Error();
-    if (const auto done = Execute(raw, kUsualCache); !done)
-        return done.Error();
+    if (isNew)
+        QUILLORY_TRY(PrepareNew(raw));
+    QUILLORY_TRY(Harden(raw, access));
+    QUILLORY_TRY(Execute(raw, kUsualCache));
     if (access == VolumeAccess::ReadOnly) {
         if (const auto done = SetPragma(raw, { "query_only", "ON", "1" }); !done)
             return done.Error();

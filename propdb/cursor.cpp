@@ -48,10 +48,8 @@ Result<bool> Cursor::ReadKey(ObjectId oid)
     if (!m_readKey) {
         const QString sql
             = u"SELECT %1 FROM %2 WHERE oid = ?1"_s.arg(KeyName(), QuotedName(m_schema->tableName));
-        auto select = Statement::Prepare(m_connection, sql, true);
-        if (!select)
-            return select.Error();
-        m_readKey = std::move(*select);
+        QUILLORY_TRY_VALUE(auto select, Statement::Prepare(m_connection, sql, true));
+        m_readKey = std::move(select);
     }
     m_readKey.Bind(1, oid);
     const auto step = m_readKey.Step();
@@ -68,11 +66,10 @@ Result<bool> Cursor::Search(Range range, WalkDirection direction)
     Statement& search = m_searches.at(place);
     if (!search) {
         const QString columns = u"oid, "_s + KeyName();
-        auto prepared = Statement::Prepare(
-            m_connection, RangeSql(columns, range, direction) + u" LIMIT 1"_s, true);
-        if (!prepared)
-            return prepared.Error();
-        search = std::move(*prepared);
+        QUILLORY_TRY_VALUE(auto prepared,
+            Statement::Prepare(
+                m_connection, RangeSql(columns, range, direction) + u" LIMIT 1"_s, true));
+        search = std::move(prepared);
     }
     if (range == Range::SameKey || range == Range::OtherKeys) {
         if (m_key.IsMissing())
@@ -94,10 +91,8 @@ Result<bool> Cursor::Search(Range range, WalkDirection direction)
 Result<ObjectId> Cursor::SearchIn(std::initializer_list<Range> ranges, WalkDirection direction)
 {
     for (const Range range : ranges) {
-        const auto isFound = Search(range, direction);
-        if (!isFound)
-            return isFound.Error();
-        if (*isFound)
+        QUILLORY_TRY_VALUE(const auto isFound, Search(range, direction));
+        if (isFound)
             return m_oid;
     }
     return m_oid = kNoObject;
@@ -113,10 +108,8 @@ Result<ObjectId> Cursor::Current()
     const auto place = Place();
     if (!place || *place == kNoObject)
         return place;
-    const auto isThere = ReadKey(*place);
-    if (!isThere)
-        return isThere.Error();
-    return *isThere ? *place : kNoObject;
+    QUILLORY_TRY_VALUE(const bool isThere, ReadKey(*place));
+    return isThere ? *place : kNoObject;
 }
 
 Result<ObjectId> Cursor::First()
@@ -128,8 +121,7 @@ Result<ObjectId> Cursor::First()
 Result<ObjectId> Cursor::Step(WalkDirection direction)
 {
     // The record may have another key by now.
-    if (const auto current = Current(); !current)
-        return current;
+    QUILLORY_TRY(Current());
     const bool isForward = direction == WalkDirection::Forward;
     if (m_oid == kNoObject) {
         if (isForward)
@@ -145,11 +137,9 @@ Result<ObjectId> Cursor::Step(WalkDirection direction)
 
 Result<ObjectId> Cursor::SeekTo(ObjectId oid)
 {
-    const auto isThere = ReadKey(oid);
-    if (!isThere)
-        return isThere.Error();
+    QUILLORY_TRY_VALUE(const bool isThere, ReadKey(oid));
     m_isPlaced = true;
-    m_oid = *isThere ? oid : kNoObject;
+    m_oid = isThere ? oid : kNoObject;
     return m_oid;
 }
 
@@ -157,14 +147,12 @@ Result<std::vector<ObjectId>> Cursor::List()
 {
     std::vector<ObjectId> oids;
     for (const Range range : { Range::Keyed, Range::Keyless }) {
-        auto statement
-            = Statement::Prepare(m_connection, RangeSql(u"oid"_s, range, WalkDirection::Forward));
-        if (!statement)
+        QUILLORY_TRY_VALUE(auto statement,
+            Statement::Prepare(m_connection, RangeSql(u"oid"_s, range, WalkDirection::Forward)));
+        while (statement.Next())
+            oids.push_back(statement.Oid(0));
+        if (statement.Error() != ErrorNumber::None)
             return statement.Error();
-        while (statement->Next())
-            oids.push_back(statement->Oid(0));
-        if (statement->Error() != ErrorNumber::None)
-            return statement->Error();
     }
     return oids;
 }

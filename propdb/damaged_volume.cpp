@@ -221,11 +221,10 @@ Result<DamagedVolume> DamagedVolume::Open(const QString& path)
     const ErrorNumber mounted
         = Volume::Mount(path, Disposition::OpenExisting, VolumeAccess::ReadOnly).Error();
     const bool wasChangedOutside = mounted == ErrorNumber::ChangedOutside;
-    auto file = PageFile::Open(
-        path, wasChangedOutside ? PageFile::Trust::AsItStands : PageFile::Trust::Checksums);
-    if (!file)
-        return file.Error();
-    auto state = std::make_unique<State>(std::move(*file));
+    QUILLORY_TRY_VALUE(auto file,
+        PageFile::Open(
+            path, wasChangedOutside ? PageFile::Trust::AsItStands : PageFile::Trust::Checksums));
+    auto state = std::make_unique<State>(std::move(file));
     state->wasChangedOutside = wasChangedOutside;
     state->Load();
     return DamagedVolume(std::move(state));

@@ -77,7 +77,7 @@ private:
     QString m_select;
 };
 
-ErrorNumber CheckValues(const DatabaseSchema& schema, std::span<const PropertyValue> values)
+Result<void> CheckValues(const DatabaseSchema& schema, std::span<const PropertyValue> values)
 {
     if (values.empty())
         return ErrorNumber::InvalidParameter;
@@ -89,7 +89,7 @@ ErrorNumber CheckValues(const DatabaseSchema& schema, std::span<const PropertyVa
                 return ErrorNumber::AlreadyExists;
         }
     }
-    return ErrorNumber::None;
+    return {};
 }
 
 } // namespace
@@ -107,14 +107,11 @@ ObjectId Database::Oid() const
 
 Result<qint64> Database::RecordCount()
 {
-    auto count = Statement::Prepare(m_state->volume.connection.get(),
-        u"SELECT count(*) FROM "_s + QuotedName(m_state->schema->tableName));
-    if (!count)
-        return count.Error();
-    const auto step = count->Step();
-    if (!step)
-        return step.Error();
-    return count->Int64(0);
+    QUILLORY_TRY_VALUE(auto count,
+        Statement::Prepare(m_state->volume.connection.get(),
+            u"SELECT count(*) FROM "_s + QuotedName(m_state->schema->tableName)));
+    QUILLORY_TRY(count.Step());
+    return count.Int64(0);
 }
 
 std::vector<PropertySpec> Database::Properties() const
@@ -169,19 +166,15 @@ Result<Record> Database::ReadAll()
 
 Result<Record> Database::Read(std::span<const PropertyId> ids)
 {
-    const auto place = m_state->cursor.Place();
-    if (!place)
-        return place.Error();
-    return m_state->ReadRecord(*place, ids);
+    QUILLORY_TRY_VALUE(const auto place, m_state->cursor.Place());
+    return m_state->ReadRecord(place, ids);
 }
 
 Result<ObjectId> Database::Write(ObjectId oid, std::span<const PropertyValue> values)
 {
-    if (const auto error = CheckValues(*m_state->schema, values); error != ErrorNumber::None)
-        return error;
+    QUILLORY_TRY(CheckValues(*m_state->schema, values));
     VolumeState& volume = m_state->volume;
-    if (const auto begun = volume.BeginWrite(); !begun)
-        return begun.Error();
+    QUILLORY_TRY(volume.BeginWrite());
     const auto written = oid == kNoObject ? m_state->Insert(values) : m_state->Update(oid, values);
     const auto ended = volume.EndWrite(written.Error());
     return ended ? written : ended.Error();
@@ -190,8 +183,7 @@ Result<ObjectId> Database::Write(ObjectId oid, std::span<const PropertyValue> va
 Result<void> Database::DeleteRecord(ObjectId oid)
 {
     VolumeState& volume = m_state->volume;
-    if (const auto begun = volume.BeginWrite(); !begun)
-        return begun;
+    QUILLORY_TRY(volume.BeginWrite());
     ++volume.orderChanges;
     // A position on the record notes the key that is about to go.
     const auto current = m_state->cursor.Current();

@@ -44,12 +44,10 @@ Result<Statement*> StatementCache::Find(std::span<const PropertyId> ids, const M
     std::vector<PropertyId> key(ids.begin(), ids.end());
     auto found = m_statements.find(key);
     if (found == m_statements.end()) {
-        auto made = make();
-        if (!made)
-            return made.Error();
+        QUILLORY_TRY_VALUE(auto made, make());
         if (m_statements.size() >= kMaxCachedStatements)
             Clear();
-        found = m_statements.emplace(key, std::move(*made)).first;
+        found = m_statements.emplace(key, std::move(made)).first;
     }
     m_lastIds = std::move(key);
     m_last = &found->second;
@@ -91,7 +89,7 @@ Result<ObjectId> DatabaseState::Insert(std::span<const PropertyValue> values)
 {
     ++volume.orderChanges;
     const auto ids = IdsOf(values);
-    const auto statement = inserts.Find(ids, [&] {
+    const auto make = [&] {
         QString parameters;
         for (size_t i = 0; i < ids.size(); ++i)
             parameters += u", ?%1"_s.arg(i + 2);
@@ -99,19 +97,13 @@ Result<ObjectId> DatabaseState::Insert(std::span<const PropertyValue> values)
             u"INSERT INTO %1(oid%2) VALUES(?1%3)"_s.arg(
                 QuotedName(schema->tableName), ColumnList(ids), parameters),
             true);
-    });
-    if (!statement)
-        return statement.Error();
-    const auto oid = volume.AllocateOid();
-    if (!oid)
-        return oid;
-    (*statement)->Bind(1, *oid);
-    if (const auto bound = BindAll(**statement, 2, values); !bound)
-        return bound.Error();
-    const auto done = (*statement)->Run();
-    if (!done)
-        return done.Error();
-    return *oid;
+    };
+    QUILLORY_TRY_VALUE(Statement* const statement, inserts.Find(ids, make));
+    QUILLORY_TRY_VALUE(const auto oid, volume.AllocateOid());
+    statement->Bind(1, oid);
+    QUILLORY_TRY(BindAll(*statement, 2, values));
+    QUILLORY_TRY(statement->Run());
+    return oid;
 }
 
 Result<ObjectId> DatabaseState::Update(ObjectId oid, std::span<const PropertyValue> values)
@@ -119,7 +111,7 @@ Result<ObjectId> DatabaseState::Update(ObjectId oid, std::span<const PropertyVal
     const auto ids = IdsOf(values);
     if (std::ranges::find(ids, order.key) != ids.end())
         ++volume.orderChanges;
-    const auto statement = updates.Find(ids, [&] {
+    const auto make = [&] {
         QString assignments;
         for (size_t i = 0; i < ids.size(); ++i) {
             assignments += i == 0 ? QString() : u", "_s;
@@ -129,59 +121,47 @@ Result<ObjectId> DatabaseState::Update(ObjectId oid, std::span<const PropertyVal
             u"UPDATE %1 SET %2 WHERE oid = ?1 RETURNING oid"_s.arg(
                 QuotedName(schema->tableName), assignments),
             true);
-    });
-    if (!statement)
-        return statement.Error();
-    (*statement)->Bind(1, oid);
-    if (const auto bound = BindAll(**statement, 2, values); !bound)
-        return bound.Error();
-    const auto isThere = (*statement)->Step();
-    (*statement)->Reset();
-    if (!isThere)
-        return isThere.Error();
-    if (!*isThere)
-        return ErrorNumber::NotFound;
-    return oid;
+    };
+    QUILLORY_TRY_VALUE(Statement* const statement, updates.Find(ids, make));
+    statement->Bind(1, oid);
+    QUILLORY_TRY(BindAll(*statement, 2, values));
+    const auto isThere = statement->Step();
+    statement->Reset();
+    QUILLORY_TRY(isThere);
+    return *isThere ? Result<ObjectId>(oid) : ErrorNumber::NotFound;
 }
 
 Result<std::vector<ObjectId>> DatabaseState::ListRecords()
 {
-    const auto version = volume.ReadOrderVersion();
-    if (!version)
-        return version.Error();
-    if (listingVersion != *version) {
+    QUILLORY_TRY_VALUE(const auto version, volume.ReadOrderVersion());
+    if (listingVersion != version) {
         listingVersion.reset();
-        auto listed = cursor.List();
-        if (!listed)
-            return listed;
-        listing = std::move(*listed);
-        listingVersion = *version;
+        QUILLORY_TRY_VALUE(auto listed, cursor.List());
+        listing = std::move(listed);
+        listingVersion = version;
     }
     return listing;
 }
 
 Result<Record> DatabaseState::ReadRecord(ObjectId oid, std::span<const PropertyId> ids)
 {
-    const auto statement = selects.Find(ids, [&] {
+    const auto make = [&] {
         return Statement::Prepare(volume.connection.get(),
             u"SELECT oid%1 FROM %2 WHERE oid = ?1"_s.arg(
                 ColumnList(ids), QuotedName(schema->tableName)),
             true);
-    });
-    if (!statement)
-        return statement.Error();
-    (*statement)->Bind(1, oid);
-    const auto step = (*statement)->Step();
+    };
+    QUILLORY_TRY_VALUE(Statement* const statement, selects.Find(ids, make));
+    statement->Bind(1, oid);
+    QUILLORY_TRY_VALUE(const auto step, statement->Step());
     if (!step)
-        return step.Error();
-    if (!*step)
         return ErrorNumber::NotFound;
     Record record { oid, std::vector<PropertyValue>(ids.size()) };
     for (size_t i = 0; i < ids.size(); ++i) {
         record.values[i].id = ids[i];
-        (*statement)->ReadProperty(static_cast<int>(i) + 1, record.values[i]);
+        statement->ReadProperty(static_cast<int>(i) + 1, record.values[i]);
     }
-    (*statement)->Reset();
+    statement->Reset();
     return record;
 }
 

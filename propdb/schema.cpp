@@ -74,36 +74,33 @@ QString PlainName(const QString& name)
 
 Result<void> RunSql(sqlite3* connection, const QString& sql)
 {
-    auto statement = Statement::Prepare(connection, sql);
-    return statement ? statement->Run() : statement.Error();
+    QUILLORY_TRY_VALUE(auto statement, Statement::Prepare(connection, sql));
+    return statement.Run();
 }
 
 Result<void> InsertProperty(sqlite3* connection, const DatabaseSchema& schema,
     const PropertyColumn& column, qint64 position)
 {
-    auto insert
-        = Statement::Prepare(connection, u"INSERT INTO property VALUES(?1, ?2, ?3, ?4, ?5, ?6)"_s);
-    if (!insert)
-        return insert.Error();
-    insert->Bind(1, schema.oid);
-    insert->Bind(2, position);
-    insert->Bind(3, static_cast<qint64>(column.id));
-    insert->Bind(4, QStringView(column.name));
-    insert->Bind(5, QStringView(column.columnName));
-    insert->Bind(6, qint64 { column.isDeclared });
-    return insert->Run();
+    QUILLORY_TRY_VALUE(auto insert,
+        Statement::Prepare(connection, u"INSERT INTO property VALUES(?1, ?2, ?3, ?4, ?5, ?6)"_s));
+    insert.Bind(1, schema.oid);
+    insert.Bind(2, position);
+    insert.Bind(3, static_cast<qint64>(column.id));
+    insert.Bind(4, QStringView(column.name));
+    insert.Bind(5, QStringView(column.columnName));
+    insert.Bind(6, qint64 { column.isDeclared });
+    return insert.Run();
 }
 
 Result<void> InsertSortOrder(
     sqlite3* connection, const DatabaseSchema& schema, const SortOrder& order, qint64 position)
 {
-    auto insert = Statement::Prepare(connection, u"INSERT INTO sort_order VALUES(?1, ?2, ?3)"_s);
-    if (!insert)
-        return insert.Error();
-    insert->Bind(1, schema.oid);
-    insert->Bind(2, position);
-    insert->Bind(3, static_cast<qint64>(order.key));
-    return insert->Run();
+    QUILLORY_TRY_VALUE(auto insert,
+        Statement::Prepare(connection, u"INSERT INTO sort_order VALUES(?1, ?2, ?3)"_s));
+    insert.Bind(1, schema.oid);
+    insert.Bind(2, position);
+    insert.Bind(3, static_cast<qint64>(order.key));
+    return insert.Run();
 }
 
 /// Whether the number in a column is one of 32 bits without a sign.
@@ -115,63 +112,59 @@ bool Fits(const Statement& row, int column)
 
 Result<void> LoadDatabases(sqlite3* connection, VolumeSchema& volume)
 {
-    auto select = Statement::Prepare(
-        connection, u"SELECT oid, name, type, table_name FROM property_database ORDER BY oid"_s);
-    if (!select)
-        return select.Error();
+    QUILLORY_TRY_VALUE(auto select,
+        Statement::Prepare(connection,
+            u"SELECT oid, name, type, table_name FROM property_database ORDER BY oid"_s));
     QSet<QString> tables;
-    while (select->Next()) {
+    while (select.Next()) {
         auto schema = std::make_shared<DatabaseSchema>();
-        schema->oid = select->Oid(0);
-        schema->name = select->Text(1);
-        schema->type = static_cast<DatabaseType>(select->Int64(2));
-        schema->tableName = select->Text(3);
-        const bool isOne = Fits(*select, 0) && Fits(*select, 2) && schema->oid != kNoObject
+        schema->oid = select.Oid(0);
+        schema->name = select.Text(1);
+        schema->type = static_cast<DatabaseType>(select.Int64(2));
+        schema->tableName = select.Text(3);
+        const bool isOne = Fits(select, 0) && Fits(select, 2) && schema->oid != kNoObject
             && volume.Find(schema->name) == nullptr && !tables.contains(schema->tableName);
         if (!isOne || volume.All().size() >= kMaxDatabases)
             return ErrorNumber::FileCorrupt;
         tables.insert(schema->tableName);
         volume.Insert(std::move(schema));
     }
-    return select->Error();
+    return select.Error();
 }
 
 Result<void> LoadProperties(sqlite3* connection, const VolumeSchema& volume)
 {
-    auto select = Statement::Prepare(connection,
-        u"SELECT database, id, name, column_name, is_declared FROM property "_s
-        u"ORDER BY database, position"_s);
-    if (!select)
-        return select.Error();
-    while (select->Next()) {
-        const auto schema = volume.Find(select->Oid(0));
-        const auto id = static_cast<PropertyId>(select->Int64(1));
-        const bool isOne = Fits(*select, 0) && Fits(*select, 1) && schema != nullptr
+    QUILLORY_TRY_VALUE(auto select,
+        Statement::Prepare(connection,
+            u"SELECT database, id, name, column_name, is_declared FROM property "_s
+            u"ORDER BY database, position"_s));
+    while (select.Next()) {
+        const auto schema = volume.Find(select.Oid(0));
+        const auto id = static_cast<PropertyId>(select.Int64(1));
+        const bool isOne = Fits(select, 0) && Fits(select, 1) && schema != nullptr
             && schema->Find(id) == nullptr && IsStorableType(PropertyType(id));
         if (!isOne || schema->properties.size() >= kMaxDatabaseProperties)
             return ErrorNumber::FileCorrupt;
-        schema->properties.push_back(
-            { id, select->Text(2), select->Text(3), select->Int64(4) != 0 });
+        schema->properties.push_back({ id, select.Text(2), select.Text(3), select.Int64(4) != 0 });
     }
-    return select->Error();
+    return select.Error();
 }
 
 Result<void> LoadSortOrders(sqlite3* connection, const VolumeSchema& volume)
 {
-    auto select = Statement::Prepare(
-        connection, u"SELECT database, id FROM sort_order ORDER BY database, position"_s);
-    if (!select)
-        return select.Error();
-    while (select->Next()) {
-        const auto schema = volume.Find(select->Oid(0));
-        const auto id = static_cast<PropertyId>(select->Int64(1));
+    QUILLORY_TRY_VALUE(auto select,
+        Statement::Prepare(
+            connection, u"SELECT database, id FROM sort_order ORDER BY database, position"_s));
+    while (select.Next()) {
+        const auto schema = volume.Find(select.Oid(0));
+        const auto id = static_cast<PropertyId>(select.Int64(1));
         // A database has one order at most.
-        if (!Fits(*select, 0) || !Fits(*select, 1) || schema == nullptr
-            || schema->Find(id) == nullptr || !schema->sortOrders.empty())
+        if (!Fits(select, 0) || !Fits(select, 1) || schema == nullptr || schema->Find(id) == nullptr
+            || !schema->sortOrders.empty())
             return ErrorNumber::FileCorrupt;
         schema->sortOrders.push_back({ id });
     }
-    return select->Error();
+    return select.Error();
 }
 
 /// Name and words of everything the file should hold.
@@ -193,13 +186,12 @@ QHash<QString, QString> ExpectedObjects(const VolumeSchema& volume)
 Result<QHash<QString, QString>> ActualObjects(sqlite3* connection)
 {
     QHash<QString, QString> actual;
-    auto select = Statement::Prepare(connection, u"SELECT name, sql FROM sqlite_schema"_s);
-    if (!select)
+    QUILLORY_TRY_VALUE(
+        auto select, Statement::Prepare(connection, u"SELECT name, sql FROM sqlite_schema"_s));
+    while (select.Next())
+        actual.insert(select.Text(0), select.Text(1));
+    if (select.Error() != ErrorNumber::None)
         return select.Error();
-    while (select->Next())
-        actual.insert(select->Text(0), select->Text(1));
-    if (select->Error() != ErrorNumber::None)
-        return select->Error();
     return actual;
 }
 
@@ -315,90 +307,72 @@ QString MakeTableName(const QString& databaseName, ObjectId oid)
 
 Result<void> CreateVolumeSchema(sqlite3* connection)
 {
-    for (const SystemTable& table : kSystemTables) {
-        if (const auto created = Execute(connection, table.sql); !created)
-            return created;
-    }
-    return Execute(connection, "INSERT INTO object_counter VALUES(1)");
+    QUILLORY_TRY(Execute(connection, "BEGIN IMMEDIATE"));
+    for (const SystemTable& table : kSystemTables)
+        QUILLORY_TRY(Execute(connection, table.sql));
+    return Execute(connection, "INSERT INTO object_counter VALUES(1); COMMIT");
 }
 
 Result<void> CreateDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema)
 {
-    auto insert
-        = Statement::Prepare(connection, u"INSERT INTO property_database VALUES(?1, ?2, ?3, ?4)"_s);
-    if (!insert)
-        return insert.Error();
-    insert->Bind(1, schema.oid);
-    insert->Bind(2, QStringView(schema.name));
-    insert->Bind(3, static_cast<qint64>(schema.type));
-    insert->Bind(4, QStringView(schema.tableName));
-    Result<void> done = insert->Run();
-    for (size_t i = 0; done && i < schema.properties.size(); ++i)
-        done = InsertProperty(connection, schema, schema.properties[i], static_cast<qint64>(i));
-    if (done)
-        done = RunSql(connection, TableSql(schema));
-    for (size_t i = 0; done && i < schema.sortOrders.size(); ++i) {
+    QUILLORY_TRY_VALUE(auto insert,
+        Statement::Prepare(connection, u"INSERT INTO property_database VALUES(?1, ?2, ?3, ?4)"_s));
+    insert.Bind(1, schema.oid);
+    insert.Bind(2, QStringView(schema.name));
+    insert.Bind(3, static_cast<qint64>(schema.type));
+    insert.Bind(4, QStringView(schema.tableName));
+    QUILLORY_TRY(insert.Run());
+    for (size_t i = 0; i < schema.properties.size(); ++i)
+        QUILLORY_TRY(
+            InsertProperty(connection, schema, schema.properties[i], static_cast<qint64>(i)));
+    QUILLORY_TRY(RunSql(connection, TableSql(schema)));
+    for (size_t i = 0; i < schema.sortOrders.size(); ++i) {
         const SortOrder& order = schema.sortOrders[i];
-        done = InsertSortOrder(connection, schema, order, static_cast<qint64>(i));
-        if (done)
-            done = RunSql(connection, IndexSql(schema, *schema.Find(order.key)));
+        QUILLORY_TRY(InsertSortOrder(connection, schema, order, static_cast<qint64>(i)));
+        QUILLORY_TRY(RunSql(connection, IndexSql(schema, *schema.Find(order.key))));
     }
-    return done;
+    return {};
 }
 
 Result<void> RenameDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema)
 {
-    auto update = Statement::Prepare(
-        connection, u"UPDATE property_database SET name = ?2, type = ?3 WHERE oid = ?1"_s);
-    if (!update)
-        return update.Error();
-    update->Bind(1, schema.oid);
-    update->Bind(2, QStringView(schema.name));
-    update->Bind(3, static_cast<qint64>(schema.type));
-    return update->Run();
+    QUILLORY_TRY_VALUE(auto update,
+        Statement::Prepare(
+            connection, u"UPDATE property_database SET name = ?2, type = ?3 WHERE oid = ?1"_s));
+    update.Bind(1, schema.oid);
+    update.Bind(2, QStringView(schema.name));
+    update.Bind(3, static_cast<qint64>(schema.type));
+    return update.Run();
 }
 
 Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema)
 {
-    Result<void> done = RunSql(connection, u"DROP TABLE "_s + QuotedName(schema.tableName));
+    QUILLORY_TRY(RunSql(connection, u"DROP TABLE "_s + QuotedName(schema.tableName)));
     for (const QString& sql : { u"DELETE FROM sort_order WHERE database = ?1"_s,
              u"DELETE FROM property WHERE database = ?1"_s,
              u"DELETE FROM property_database WHERE oid = ?1"_s }) {
-        if (!done)
-            return done;
-        auto statement = Statement::Prepare(connection, sql);
-        if (!statement)
-            return statement.Error();
-        statement->Bind(1, schema.oid);
-        done = statement->Run();
+        QUILLORY_TRY_VALUE(auto statement, Statement::Prepare(connection, sql));
+        statement.Bind(1, schema.oid);
+        QUILLORY_TRY(statement.Run());
     }
-    return done;
+    return {};
 }
 
 Result<VolumeSchema> LoadVolumeSchema(sqlite3* connection)
 {
     // While a row is being read no other program's write comes between one table and the next.
-    auto hold = Statement::Prepare(connection, u"SELECT 1 FROM sqlite_schema"_s);
-    if (!hold)
-        return hold.Error();
-    if (const auto held = hold->Step(); !held)
-        return held.Error();
-    const auto actual = ActualObjects(connection);
-    if (!actual)
-        return actual.Error();
+    QUILLORY_TRY_VALUE(auto hold, Statement::Prepare(connection, u"SELECT 1 FROM sqlite_schema"_s));
+    QUILLORY_TRY(hold.Step());
+    QUILLORY_TRY_VALUE(const auto actual, ActualObjects(connection));
     for (const SystemTable& table : kSystemTables) {
-        if (actual->value(QString::fromLatin1(table.name)) != QString::fromLatin1(table.sql))
+        if (actual.value(QString::fromLatin1(table.name)) != QString::fromLatin1(table.sql))
             return ErrorNumber::FileCorrupt;
     }
     VolumeSchema volume;
-    Result<void> loaded = LoadDatabases(connection, volume);
-    if (loaded)
-        loaded = LoadProperties(connection, volume);
-    if (loaded)
-        loaded = LoadSortOrders(connection, volume);
-    if (!loaded)
-        return loaded.Error();
-    if (ExpectedObjects(volume) != *actual)
+    QUILLORY_TRY(LoadDatabases(connection, volume));
+    QUILLORY_TRY(LoadProperties(connection, volume));
+    QUILLORY_TRY(LoadSortOrders(connection, volume));
+    if (ExpectedObjects(volume) != actual)
         return ErrorNumber::FileCorrupt;
     return volume;
 }

@@ -80,9 +80,10 @@ private:
 /// The name of the table of a database.
 [[nodiscard]] QString MakeTableName(const QString& databaseName, ObjectId oid);
 
-/// Makes the tables of an empty volume. The caller holds the transaction of this and of the three
-/// operations that follow, and undoes it where one of them fails.
+/// Makes the tables of an empty volume, in a transaction.
 [[nodiscard]] Result<void> CreateVolumeSchema(sqlite3* connection);
+/// This and the two that follow belong to a transaction of the caller, who undoes it where one of
+/// them fails.
 [[nodiscard]] Result<void> CreateDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);
 /// Stores the name and type that `schema` has now.
 [[nodiscard]] Result<void> RenameDatabaseSchema(sqlite3* connection, const DatabaseSchema& schema);

@@ -33,16 +33,9 @@ Result<void> CreateVolume(const QByteArray& path)
     const auto removeUnfinished = qScopeGuard([&] { unlink(unfinished.constData()); });
     {
         const ConfinedVfs::Permit permit(unfinished);
-        auto connection = OpenConnection(unfinished, VolumeAccess::Exclusive, true, true);
-        if (!connection)
-            return connection.Error();
-        Result<void> done = Execute(connection->get(), "BEGIN IMMEDIATE");
-        if (done)
-            done = CreateVolumeSchema(connection->get());
-        if (done)
-            done = Execute(connection->get(), "COMMIT");
-        if (!done)
-            return done;
+        QUILLORY_TRY_VALUE(
+            auto connection, OpenConnection(unfinished, VolumeAccess::Exclusive, true, true));
+        QUILLORY_TRY(CreateVolumeSchema(connection.get()));
     }
     return PublishFile(unfinished, path);
 }
@@ -61,7 +54,7 @@ Result<VolumeFile> OpenOrCreate(
 }
 
 /// What a database must be like to be made.
-ErrorNumber CheckSpecs(std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
+Result<void> CheckSpecs(std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
 {
     std::set<PropertyId> ids;
     for (const PropertySpec& spec : specs) {
@@ -97,38 +90,30 @@ Volume::~Volume()
 Result<std::unique_ptr<Volume>> Volume::Mount(
     const QString& path, Disposition disposition, VolumeAccess access)
 {
-    const auto realPath = ResolveVolumePath(path);
-    if (!realPath)
-        return realPath.Error();
-    auto file = OpenOrCreate(*realPath, disposition, access);
-    if (!file)
-        return file.Error();
-    auto state = std::make_unique<VolumeState>(std::move(*file), *realPath, access);
+    QUILLORY_TRY_VALUE(const auto realPath, ResolveVolumePath(path));
+    QUILLORY_TRY_VALUE(auto file, OpenOrCreate(realPath, disposition, access));
+    auto state = std::make_unique<VolumeState>(std::move(file), realPath, access);
     if (const auto connected = state->Connect(); !connected) {
         // Looking at the file once more would drop the locks of its connection.
         state.reset();
         const bool isWhole
-            = connected.Error() == ErrorNumber::FileCorrupt && WasChangedOutside(*realPath);
+            = connected.Error() == ErrorNumber::FileCorrupt && WasChangedOutside(realPath);
         return isWhole ? ErrorNumber::ChangedOutside : connected.Error();
     }
     std::unique_ptr<Volume> volume(new Volume(std::move(state)));
     if (volume->m_state->file.HasJournal()) {
-        const auto faults = volume->Check();
-        if (!faults)
-            return faults.Error();
-        if (!faults->empty())
+        QUILLORY_TRY_VALUE(const auto faults, volume->Check());
+        if (!faults.empty())
             return ErrorNumber::FileCorrupt;
         // A journal that only looks like the file's does not make it whole.
-        if (const auto sized = volume->m_state->file.VerifySize(); !sized)
-            return sized.Error();
+        QUILLORY_TRY(volume->m_state->file.VerifySize());
     }
     return volume;
 }
 
 Result<std::vector<Volume::DatabaseInfo>> Volume::Databases()
 {
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed.Error();
+    QUILLORY_TRY(m_state->RefreshSchema());
     std::vector<DatabaseInfo> infos;
     for (const auto& [oid, schema] : m_state->schema.All())
         infos.push_back({ schema->oid, schema->name, schema->type });
@@ -138,14 +123,11 @@ Result<std::vector<Volume::DatabaseInfo>> Volume::Databases()
 Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
     std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
 {
-    if (const ErrorNumber error = CheckSpecs(specs, sortOrders); error != ErrorNumber::None)
-        return error;
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed.Error();
+    QUILLORY_TRY(CheckSpecs(specs, sortOrders));
+    QUILLORY_TRY(m_state->RefreshSchema());
     if (m_state->schema.Find(name) != nullptr)
         return ErrorNumber::DuplicateName;
-    if (const auto begun = m_state->BeginWrite(); !begun)
-        return begun.Error();
+    QUILLORY_TRY(m_state->BeginWrite());
     const auto oid = m_state->AllocateOid();
     auto schema = std::make_shared<DatabaseSchema>();
     Result<void> done = oid.Error();
@@ -161,8 +143,7 @@ Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
         m_state->schema.Insert(schema);
         done = CreateDatabaseSchema(m_state->connection.get(), *schema);
     }
-    if (const auto ended = m_state->EndWrite(done); !ended)
-        return ended.Error();
+    QUILLORY_TRY(m_state->EndWrite(done));
     return schema->oid;
 }
 
@@ -175,8 +156,7 @@ bool Volume::IsOpen(ObjectId database) const
 
 Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseType type)
 {
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed;
+    QUILLORY_TRY(m_state->RefreshSchema());
     const auto schema = m_state->schema.Find(oid);
     if (schema == nullptr)
         return ErrorNumber::NotFound;
@@ -185,8 +165,7 @@ Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseT
         return ErrorNumber::DuplicateName;
     if (IsOpen(oid))
         return ErrorNumber::SharingViolation;
-    if (const auto begun = m_state->BeginWrite(); !begun)
-        return begun;
+    QUILLORY_TRY(m_state->BeginWrite());
     m_state->BeginSchemaChange();
     m_state->schema.Rename(*schema, name, type);
     return m_state->EndWrite(RenameDatabaseSchema(m_state->connection.get(), *schema));
@@ -194,15 +173,13 @@ Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseT
 
 Result<void> Volume::DeleteDatabase(ObjectId oid)
 {
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed;
+    QUILLORY_TRY(m_state->RefreshSchema());
     const auto schema = m_state->schema.Find(oid);
     if (schema == nullptr)
         return ErrorNumber::NotFound;
     if (IsOpen(oid))
         return ErrorNumber::SharingViolation;
-    if (const auto begun = m_state->BeginWrite(); !begun)
-        return begun;
+    QUILLORY_TRY(m_state->BeginWrite());
     m_state->BeginSchemaChange();
     m_state->schema.Remove(*schema);
     return m_state->EndWrite(DropDatabaseSchema(m_state->connection.get(), *schema));
@@ -211,8 +188,7 @@ Result<void> Volume::DeleteDatabase(ObjectId oid)
 Result<std::unique_ptr<Database>> Volume::OpenDatabase(
     const QString& name, const SortOrder& sortOrder)
 {
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed.Error();
+    QUILLORY_TRY(m_state->RefreshSchema());
     const auto schema = m_state->schema.Find(name);
     if (schema == nullptr)
         return ErrorNumber::FileNotFound;
@@ -269,24 +245,20 @@ Result<std::vector<QString>> Volume::CheckPages()
 
 Result<void> Volume::Backup(const QString& path)
 {
-    const auto target = ResolveVolumePath(path);
-    if (!target)
-        return target.Error();
-    if (access(target->constData(), F_OK) == 0)
+    QUILLORY_TRY_VALUE(const auto target, ResolveVolumePath(path));
+    if (access(target.constData(), F_OK) == 0)
         return ErrorNumber::FileExists;
-    const QByteArray unfinished = UnfinishedName(*target);
+    const QByteArray unfinished = UnfinishedName(target);
     const auto removeUnfinished = qScopeGuard([&] { unlink(unfinished.constData()); });
     {
         const ConfinedVfs::Permit permit(unfinished);
-        auto copy = OpenConnection(unfinished, VolumeAccess::Exclusive, true, true);
-        if (!copy)
-            return copy.Error();
-        if (const auto taken = m_state->file.GiveModeTo(unfinished); !taken)
-            return taken;
+        QUILLORY_TRY_VALUE(
+            auto copy, OpenConnection(unfinished, VolumeAccess::Exclusive, true, true));
+        QUILLORY_TRY(m_state->file.GiveModeTo(unfinished));
         sqlite3_backup* backup
-            = sqlite3_backup_init(copy->get(), "main", m_state->connection.get(), "main");
+            = sqlite3_backup_init(copy.get(), "main", m_state->connection.get(), "main");
         if (backup == nullptr)
-            return ErrorFromSqlite(sqlite3_extended_errcode(copy->get()), copy->get());
+            return ErrorFromSqlite(sqlite3_extended_errcode(copy.get()), copy.get());
         // Between two steps a change may come in; the copy then begins again.
         constexpr int kPagesAtOnce = 256;
         constexpr int kPatienceMs = 10'000;
@@ -296,9 +268,9 @@ Result<void> Volume::Backup(const QString& path)
             stepCode = sqlite3_backup_step(backup, patience.hasExpired() ? -1 : kPagesAtOnce);
         const int code = sqlite3_backup_finish(backup);
         if (stepCode != SQLITE_DONE)
-            return ErrorFromSqlite(code == SQLITE_OK ? stepCode : code, copy->get());
+            return ErrorFromSqlite(code == SQLITE_OK ? stepCode : code, copy.get());
     }
-    return PublishFile(unfinished, *target);
+    return PublishFile(unfinished, target);
 }
 
 } // namespace Quillory

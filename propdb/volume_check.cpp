@@ -47,15 +47,14 @@ Result<void> ReadPages(const VolumeState& volume, std::vector<QString>& faults)
 
 Result<void> CheckStructure(const VolumeState& volume, std::vector<QString>& faults)
 {
-    auto check = Statement::Prepare(volume.connection.get(), u"PRAGMA integrity_check"_s);
-    if (!check)
-        return check.Error();
-    while (check->Next()) {
-        const QString line = check->Text(0);
+    QUILLORY_TRY_VALUE(
+        auto check, Statement::Prepare(volume.connection.get(), u"PRAGMA integrity_check"_s));
+    while (check.Next()) {
+        const QString line = check.Text(0);
         if (line != "ok"_L1)
             faults.push_back(line);
     }
-    return check->Error();
+    return check.Error();
 }
 
 /// SQL that is true of a value that no property of this type has.
@@ -86,14 +85,13 @@ Result<void> CheckValues(const VolumeState& volume, const DatabaseSchema& schema
         QuotedName(schema.tableName));
     for (const PropertyColumn& column : schema.properties)
         sql += u", "_s + ImpossibleValue(column);
-    auto select = Statement::Prepare(volume.connection.get(), sql + u") LIMIT 1"_s);
-    if (!select)
-        return select.Error();
-    select->Bind(1, nextOid);
-    if (select->Next())
+    QUILLORY_TRY_VALUE(
+        auto select, Statement::Prepare(volume.connection.get(), sql + u") LIMIT 1"_s));
+    select.Bind(1, nextOid);
+    if (select.Next())
         faults.push_back(
             u"“%1” holds an identifier or a value that no record has"_s.arg(schema.name));
-    return select->Error();
+    return select.Error();
 }
 
 } // namespace
@@ -102,14 +100,10 @@ Result<std::vector<QString>> CheckPages(const VolumeState& volume)
 {
     std::vector<QString> faults;
     // While a row is being read no other program's write comes between.
-    auto hold = Statement::Prepare(volume.connection.get(), u"SELECT 1 FROM sqlite_schema"_s);
-    if (!hold)
-        return hold.Error();
-    Result<void> checked = hold->Step().Error();
-    if (checked)
-        checked = ReadPages(volume, faults);
-    if (!checked)
-        return checked.Error();
+    QUILLORY_TRY_VALUE(
+        auto hold, Statement::Prepare(volume.connection.get(), u"SELECT 1 FROM sqlite_schema"_s));
+    QUILLORY_TRY(hold.Step());
+    QUILLORY_TRY(ReadPages(volume, faults));
     return faults;
 }
 
@@ -117,14 +111,11 @@ Result<std::vector<QString>> CheckVolume(VolumeState& volume)
 {
     std::vector<QString> faults;
     // While a row is being read no other program's write comes between.
-    auto hold
-        = Statement::Prepare(volume.connection.get(), u"SELECT next_oid FROM object_counter"_s);
-    if (!hold)
-        return hold.Error();
-    if (const auto held = hold->Step(); !held)
-        return held.Error();
+    QUILLORY_TRY_VALUE(auto hold,
+        Statement::Prepare(volume.connection.get(), u"SELECT next_oid FROM object_counter"_s));
+    QUILLORY_TRY(hold.Step());
     // Somebody else may have taken more since the mount, or this program since its last commit.
-    const auto nextOid = std::max(static_cast<qint64>(volume.nextOid), hold->Int64(0));
+    const auto nextOid = std::max(static_cast<qint64>(volume.nextOid), hold.Int64(0));
     Result<void> checked = volume.RefreshSchema();
     if (checked)
         checked = CheckStructure(volume, faults);

@@ -77,8 +77,7 @@ Result<QByteArray> PutJournalAside(const QByteArray& path)
     const QByteArray aside = WithRandomEnd(journal + ".left-");
     if (rename(journal.constData(), aside.constData()) != 0)
         return errno == ENOENT ? Result<QByteArray>(QByteArray()) : ErrorFromErrno(errno);
-    if (const auto synced = SyncFolderOf(path); !synced)
-        return synced.Error();
+    QUILLORY_TRY(SyncFolderOf(path));
     return aside;
 }
 
@@ -170,10 +169,8 @@ Result<VolumeFile> VolumeFile::Open(const QByteArray& path, VolumeAccess access)
 {
     VolumeFile file;
     file.m_path = path;
-    if (const auto opened = file.OpenDescriptor(access); !opened)
-        return opened.Error();
-    if (const auto verified = file.Verify(access); !verified)
-        return verified.Error();
+    QUILLORY_TRY(file.OpenDescriptor(access));
+    QUILLORY_TRY(file.Verify(access));
     return file;
 }
 
@@ -275,10 +272,8 @@ Result<void> VolumeFile::VerifyWithJournal(const HotJournal& journal)
             : verified.Error();
     if (journal.IsOf(m_descriptor))
         return {};
-    auto aside = PutJournalAside(m_path);
-    if (!aside)
-        return aside.Error();
-    m_journalPutAside = *aside;
+    QUILLORY_TRY_VALUE(auto aside, PutJournalAside(m_path));
+    m_journalPutAside = aside;
     return VerifySize();
 }
 
@@ -361,10 +356,8 @@ Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
 {
     if (access(to.constData(), F_OK) == 0)
         return ErrorNumber::FileExists;
-    if (const auto drawn = DrawChangeCounter(from); !drawn)
-        return drawn;
-    if (const auto aside = PutJournalAside(to); !aside)
-        return aside.Error();
+    QUILLORY_TRY(DrawChangeCounter(from));
+    QUILLORY_TRY(PutJournalAside(to));
     bool isRenamed
         = renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0;
     // File systems of memory cards know neither this kind of rename nor links.

@@ -33,23 +33,18 @@ VolumeState::VolumeState(VolumeFile volumeFile, QByteArray volumePath, VolumeAcc
 
 Result<void> VolumeState::Connect()
 {
-    auto opened = OpenConnection(path, access, file.IsWritable(), false);
-    if (!opened)
-        return opened.Error();
-    connection = std::move(*opened);
+    QUILLORY_TRY_VALUE(auto opened, OpenConnection(path, access, file.IsWritable(), false));
+    connection = std::move(opened);
     if (access == VolumeAccess::ReadOnly)
         sqlite3_progress_handler(connection.get(), kStepsBetweenLooks, &GiveWay, this);
-    if (const auto registered = visit.Register(connection.get()); !registered)
-        return registered;
+    QUILLORY_TRY(visit.Register(connection.get()));
     // The file that was looked at and locked must be the one that SQLite has opened.
-    if (const auto inPlace = file.VerifyInPlace(); !inPlace)
-        return inPlace;
+    QUILLORY_TRY(file.VerifyInPlace());
     // The tables must prove to be ours before a statement names them.
     if (const auto prepared = PrepareStatements({ { &readDataVersion, "PRAGMA data_version" } });
         !prepared)
         return prepared;
-    if (const auto loaded = LoadSchema(); !loaded)
-        return loaded;
+    QUILLORY_TRY(LoadSchema());
     const QByteArray rewriting = "PRAGMA user_version = " + QByteArray::number(kFormatVersion);
     if (const auto prepared = PrepareStatements({
             { &readNextOid, "SELECT next_oid FROM object_counter" },
@@ -61,8 +56,7 @@ Result<void> VolumeState::Connect()
         });
         !prepared)
         return prepared;
-    if (const auto read = ReadObjectCounter(); !read)
-        return read;
+    QUILLORY_TRY(ReadObjectCounter());
     const auto state = file.ReadState();
     if (state)
         stateSeen = *state;
@@ -72,17 +66,14 @@ Result<void> VolumeState::Connect()
 Result<void> VolumeState::ReadObjectCounter()
 {
     constexpr qint64 kPastLast = qint64 { 1 } << 32;
-    const auto step = readNextOid.Step();
-    if (!step)
-        return step.Error();
-    const qint64 next = *step ? readNextOid.Int64(0) : 0;
-    const auto second = *step ? readNextOid.Step() : step;
+    QUILLORY_TRY_VALUE(const bool isThere, readNextOid.Step());
+    const qint64 next = isThere ? readNextOid.Int64(0) : 0;
+    const auto isAnother = isThere ? readNextOid.Step() : false;
     readNextOid.Reset();
-    if (!second)
-        return second.Error();
+    QUILLORY_TRY(isAnother);
     const auto& databases = schema.All();
     const quint32 latest = databases.empty() ? 0 : static_cast<quint32>(databases.rbegin()->first);
-    if (*second || next <= qint64 { latest } || next > kPastLast)
+    if (*isAnother || next <= qint64 { latest } || next > kPastLast)
         return ErrorNumber::FileCorrupt;
     nextOid = static_cast<quint64>(next);
     return {};
@@ -90,9 +81,7 @@ Result<void> VolumeState::ReadObjectCounter()
 
 Result<qint64> VolumeState::ReadFileVersion()
 {
-    const auto step = readDataVersion.Step();
-    if (!step)
-        return step.Error();
+    QUILLORY_TRY(readDataVersion.Step());
     const qint64 version = readDataVersion.Int64(0);
     readDataVersion.Reset();
     return version;
@@ -102,32 +91,25 @@ Result<void> VolumeState::PrepareStatements(
     std::initializer_list<std::pair<Statement*, const char*>> statements) const
 {
     for (const auto& [statement, sql] : statements) {
-        auto prepared = Statement::Prepare(connection.get(), QString::fromLatin1(sql), true);
-        if (!prepared)
-            return prepared.Error();
-        *statement = std::move(*prepared);
+        QUILLORY_TRY_VALUE(
+            auto prepared, Statement::Prepare(connection.get(), QString::fromLatin1(sql), true));
+        *statement = std::move(prepared);
     }
     return {};
 }
 
 Result<VolumeState::OrderVersion> VolumeState::ReadOrderVersion()
 {
-    const auto version = ReadFileVersion();
-    if (!version)
-        return version.Error();
-    return OrderVersion { orderChanges, *version };
+    QUILLORY_TRY_VALUE(const auto version, ReadFileVersion());
+    return OrderVersion { orderChanges, version };
 }
 
 Result<void> VolumeState::LoadSchema()
 {
-    const auto version = ReadFileVersion();
-    if (!version)
-        return version.Error();
-    auto loaded = LoadVolumeSchema(connection.get());
-    if (!loaded)
-        return loaded.Error();
-    schema = std::move(*loaded);
-    schemaVersion = *version;
+    QUILLORY_TRY_VALUE(const auto version, ReadFileVersion());
+    QUILLORY_TRY_VALUE(auto loaded, LoadVolumeSchema(connection.get()));
+    schema = std::move(loaded);
+    schemaVersion = version;
     return {};
 }
 
@@ -142,8 +124,7 @@ Result<ObjectId> VolumeState::AllocateOid()
 Result<void> VolumeState::BeginWrite()
 {
     if (!isInTransaction) {
-        if (const auto begun = Begin(); !begun)
-            return begun;
+        QUILLORY_TRY(Begin());
         const auto kept = KeepFirstPage();
         if (!kept)
             Rollback();
@@ -187,14 +168,10 @@ Result<void> VolumeState::Begin()
 {
     if (access == VolumeAccess::ReadOnly)
         return ErrorNumber::AccessDenied;
-    if (const auto inPlace = file.VerifyInPlace(); !inPlace)
-        return inPlace;
-    if (const auto settled = SettleDoubt(); !settled)
-        return settled.Error();
-    if (const auto refreshed = RefreshSchema(); !refreshed)
-        return refreshed;
-    if (const auto begun = begin.Run(); !begun)
-        return begun;
+    QUILLORY_TRY(file.VerifyInPlace());
+    QUILLORY_TRY(SettleDoubt());
+    QUILLORY_TRY(RefreshSchema());
+    QUILLORY_TRY(begin.Run());
     const auto state = file.ReadState();
     const bool isOurs = state && *state == stateSeen.value_or(*state);
     if (!isOurs) {
@@ -223,8 +200,7 @@ Result<void> VolumeState::Commit()
     }
     if (const auto committed = commit.Run(); !committed) {
         Rollback();
-        if (const auto found = FindOutcome(committed.Error()); !found)
-            return found;
+        QUILLORY_TRY(FindOutcome(committed.Error()));
     } else {
         const auto state = file.ReadState();
         stateSeen = state ? std::optional(*state) : std::nullopt;
@@ -263,16 +239,12 @@ Result<bool> VolumeState::SettleDoubt()
     // Reading makes SQLite undo what a journal still stands for.
     const auto step = readNextOid.Step();
     readNextOid.Reset();
-    if (!step)
-        return step.Error();
-    const auto state = file.ReadState();
-    if (!state)
-        return state.Error();
-    const bool isDone = !stateSeen || state->changes != stateSeen->changes;
-    const Result<void> durable = isDone ? file.MakeDurable() : Result<void>();
-    if (!durable)
-        return durable.Error();
-    stateSeen = *state;
+    QUILLORY_TRY(step);
+    QUILLORY_TRY_VALUE(const auto state, file.ReadState());
+    const bool isDone = !stateSeen || state.changes != stateSeen->changes;
+    if (isDone)
+        QUILLORY_TRY(file.MakeDurable());
+    stateSeen = state;
     isInDoubt = false;
     return isDone;
 }
