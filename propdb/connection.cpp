@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "propdb/connection.h"
+
+#include "propdb/confined_vfs.h"
+#include "propdb/record_visit.h"
+#include "propdb/schema.h"
 #include "propdb/sqlite_error.h"
-#include "propdb/volume_state.h"
+#include "propdb/volume_file.h"
 
 #include <QString>
 

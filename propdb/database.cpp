@@ -60,11 +60,11 @@ public:
     {
         if (m_classes.size() > RecordVisit::kMaxProperties)
             return ErrorNumber::InvalidParameter;
-        return Statement::Prepare(m_state.volume.connection.get(), m_select + clauses);
+        return Statement::Prepare(m_state.volume.Connection(), m_select + clauses);
     }
     [[nodiscard]] Result<void> Run(Statement& statement)
     {
-        return m_state.volume.visit.Run(statement, m_classes, m_visitor);
+        return m_state.volume.Visit().Run(statement, m_classes, m_visitor);
     }
     /// Whether the visitor wants no more.
     [[nodiscard]] bool IsStopped() const { return m_isStopped; }
@@ -108,7 +108,7 @@ ObjectId Database::Oid() const
 Result<qint64> Database::RecordCount()
 {
     QUILLORY_TRY_VALUE(auto count,
-        Statement::Prepare(m_state->volume.connection.get(),
+        Statement::Prepare(m_state->volume.Connection(),
             u"SELECT count(*) FROM "_s + QuotedName(m_state->schema->tableName)));
     QUILLORY_TRY(count.Step());
     return count.Int64(0);
@@ -173,35 +173,13 @@ Result<Record> Database::Read(std::span<const PropertyId> ids)
 Result<ObjectId> Database::Write(ObjectId oid, std::span<const PropertyValue> values)
 {
     QUILLORY_TRY(CheckValues(*m_state->schema, values));
-    VolumeState& volume = m_state->volume;
-    QUILLORY_TRY(volume.BeginWrite());
-    const auto written = oid == kNoObject ? m_state->Insert(values) : m_state->Update(oid, values);
-    const auto ended = volume.EndWrite(written.Error());
-    return ended ? written : ended.Error();
+    return m_state->volume.Write(
+        [&] { return oid == kNoObject ? m_state->Insert(values) : m_state->Update(oid, values); });
 }
 
 Result<void> Database::DeleteRecord(ObjectId oid)
 {
-    VolumeState& volume = m_state->volume;
-    QUILLORY_TRY(volume.BeginWrite());
-    ++volume.orderChanges;
-    // A position on the record notes the key that is about to go.
-    const auto current = m_state->cursor.Current();
-    Result<void> done = current.Error();
-    if (done) {
-        auto remove = Statement::Prepare(volume.connection.get(),
-            u"DELETE FROM %1 WHERE oid = ?1 RETURNING oid"_s.arg(
-                QuotedName(m_state->schema->tableName)));
-        if (!remove) {
-            done = remove.Error();
-        } else {
-            remove->Bind(1, oid);
-            const auto step = remove->Step();
-            const bool isGone = step && *step;
-            done = isGone || !step ? step.Error() : ErrorNumber::NotFound;
-        }
-    }
-    return volume.EndWrite(done);
+    return m_state->volume.Write([&] { return m_state->Delete(oid); });
 }
 
 Result<std::vector<ObjectId>> Database::ListRecords()
@@ -225,7 +203,7 @@ Result<void> Database::Scan(
 Result<void> Database::ScanInPlace(
     std::span<const PropertyId> ids, ScanOrder order, const RecordVisitor& visitor)
 {
-    sqlite3* connection = m_state->volume.connection.get();
+    sqlite3* connection = m_state->volume.Connection();
     RecordSelect select(*m_state, ids, visitor);
     const auto run = [&](const QString& clauses) -> Result<void> {
         auto statement = select.Prepare(clauses);
@@ -257,7 +235,7 @@ Database::VisitOutcome Database::VisitEach(
         outcome.error = statement.Error();
         return outcome;
     }
-    const RoomyCache roomyCache(m_state->volume.connection.get());
+    const RoomyCache roomyCache(m_state->volume.Connection());
     for (const ObjectId oid : oids) {
         statement->Bind(1, oid);
         const auto done = select.Run(*statement);

@@ -65,14 +65,14 @@ DatabaseState::DatabaseState(VolumeState& volumeState,
     : volume(volumeState)
     , schema(std::move(databaseSchema))
     , order(sortOrder)
-    , cursor(volume.connection.get(), schema, order)
+    , cursor(volume.Connection(), schema, order)
 {
-    volume.openDatabases.push_back(this);
+    volume.NoteOpened(schema->oid);
 }
 
 DatabaseState::~DatabaseState()
 {
-    std::erase(volume.openDatabases, this);
+    volume.NoteClosed(schema->oid);
 }
 
 QString DatabaseState::ColumnList(std::span<const PropertyId> ids) const
@@ -87,13 +87,13 @@ QString DatabaseState::ColumnList(std::span<const PropertyId> ids) const
 
 Result<ObjectId> DatabaseState::Insert(std::span<const PropertyValue> values)
 {
-    ++volume.orderChanges;
+    volume.NoteOrderChange();
     const auto ids = IdsOf(values);
     const auto make = [&] {
         QString parameters;
         for (size_t i = 0; i < ids.size(); ++i)
             parameters += u", ?%1"_s.arg(i + 2);
-        return Statement::Prepare(volume.connection.get(),
+        return Statement::Prepare(volume.Connection(),
             u"INSERT INTO %1(oid%2) VALUES(?1%3)"_s.arg(
                 QuotedName(schema->tableName), ColumnList(ids), parameters),
             true);
@@ -110,14 +110,14 @@ Result<ObjectId> DatabaseState::Update(ObjectId oid, std::span<const PropertyVal
 {
     const auto ids = IdsOf(values);
     if (std::ranges::find(ids, order.key) != ids.end())
-        ++volume.orderChanges;
+        volume.NoteOrderChange();
     const auto make = [&] {
         QString assignments;
         for (size_t i = 0; i < ids.size(); ++i) {
             assignments += i == 0 ? QString() : u", "_s;
             assignments += QuotedName(schema->Find(ids[i])->columnName) + u" = ?%1"_s.arg(i + 2);
         }
-        return Statement::Prepare(volume.connection.get(),
+        return Statement::Prepare(volume.Connection(),
             u"UPDATE %1 SET %2 WHERE oid = ?1 RETURNING oid"_s.arg(
                 QuotedName(schema->tableName), assignments),
             true);
@@ -129,6 +129,19 @@ Result<ObjectId> DatabaseState::Update(ObjectId oid, std::span<const PropertyVal
     statement->Reset();
     QUILLORY_TRY(isThere);
     return *isThere ? Result<ObjectId>(oid) : ErrorNumber::NotFound;
+}
+
+Result<void> DatabaseState::Delete(ObjectId oid)
+{
+    volume.NoteOrderChange();
+    // A position on the record notes the key that is about to go.
+    QUILLORY_TRY(cursor.Current());
+    QUILLORY_TRY_VALUE(auto remove,
+        Statement::Prepare(volume.Connection(),
+            u"DELETE FROM %1 WHERE oid = ?1 RETURNING oid"_s.arg(QuotedName(schema->tableName))));
+    remove.Bind(1, oid);
+    QUILLORY_TRY_VALUE(const bool isGone, remove.Step());
+    return isGone ? ErrorNumber::None : ErrorNumber::NotFound;
 }
 
 Result<std::vector<ObjectId>> DatabaseState::ListRecords()
@@ -146,7 +159,7 @@ Result<std::vector<ObjectId>> DatabaseState::ListRecords()
 Result<Record> DatabaseState::ReadRecord(ObjectId oid, std::span<const PropertyId> ids)
 {
     const auto make = [&] {
-        return Statement::Prepare(volume.connection.get(),
+        return Statement::Prepare(volume.Connection(),
             u"SELECT oid%1 FROM %2 WHERE oid = ?1"_s.arg(
                 ColumnList(ids), QuotedName(schema->tableName)),
             true);

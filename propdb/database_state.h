@@ -52,8 +52,10 @@ struct DatabaseState
 
     /// The columns so listed, as SQL; NULL for one that the database has no column for.
     [[nodiscard]] QString ColumnList(std::span<const PropertyId> ids) const;
+    /// Each within a write.
     [[nodiscard]] Result<ObjectId> Insert(std::span<const PropertyValue> values);
     [[nodiscard]] Result<ObjectId> Update(ObjectId oid, std::span<const PropertyValue> values);
+    [[nodiscard]] Result<void> Delete(ObjectId oid);
     /// Every record in sort order.
     [[nodiscard]] Result<std::vector<ObjectId>> ListRecords();
     [[nodiscard]] Result<Record> ReadRecord(ObjectId oid, std::span<const PropertyId> ids);

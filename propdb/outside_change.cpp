@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/outside_change.h"
 
+#include "propdb/confined_vfs.h"
+#include "propdb/connection.h"
 #include "propdb/page_file.h"
 #include "propdb/schema.h"
-#include "propdb/volume_state.h"
+#include "propdb/statement.h"
 
 #include <QFile>
 

@@ -76,16 +76,7 @@ Volume::Volume(std::unique_ptr<VolumeState> state)
     : m_state(std::move(state))
 { }
 
-Volume::~Volume()
-{
-    if (!m_state->isInTransaction)
-        return;
-    try {
-        m_state->Rollback();
-    } catch (...) {
-        // Most likely for want of memory: the connection's end undoes what was not committed.
-    }
-}
+Volume::~Volume() = default;
 
 Result<std::unique_ptr<Volume>> Volume::Mount(
     const QString& path, Disposition disposition, VolumeAccess access)
@@ -101,22 +92,22 @@ Result<std::unique_ptr<Volume>> Volume::Mount(
         return isWhole ? ErrorNumber::ChangedOutside : connected.Error();
     }
     std::unique_ptr<Volume> volume(new Volume(std::move(state)));
-    if (volume->m_state->file.HasJournal()) {
+    if (volume->m_state->File().HasJournal()) {
         QUILLORY_TRY_VALUE(const auto faults, volume->Check());
         if (!faults.empty())
             return ErrorNumber::FileCorrupt;
         // A journal that only looks like the file's does not make it whole.
-        QUILLORY_TRY(volume->m_state->file.VerifySize());
+        QUILLORY_TRY(volume->m_state->File().VerifySize());
     }
     return volume;
 }
 
 Result<std::vector<Volume::DatabaseInfo>> Volume::Databases()
 {
-    QUILLORY_TRY(m_state->RefreshSchema());
+    QUILLORY_TRY_VALUE(const VolumeSchema* schema, m_state->Schema());
     std::vector<DatabaseInfo> infos;
-    for (const auto& [oid, schema] : m_state->schema.All())
-        infos.push_back({ schema->oid, schema->name, schema->type });
+    for (const auto& [oid, database] : schema->All())
+        infos.push_back({ database->oid, database->name, database->type });
     return infos;
 }
 
@@ -124,113 +115,93 @@ Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
     std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
 {
     QUILLORY_TRY(CheckSpecs(specs, sortOrders));
-    QUILLORY_TRY(m_state->RefreshSchema());
-    if (m_state->schema.Find(name) != nullptr)
+    QUILLORY_TRY_VALUE(const VolumeSchema* before, m_state->Schema());
+    if (before->Find(name) != nullptr)
         return ErrorNumber::DuplicateName;
-    QUILLORY_TRY(m_state->BeginWrite());
-    const auto oid = m_state->AllocateOid();
-    auto schema = std::make_shared<DatabaseSchema>();
-    Result<void> done = oid.Error();
-    if (done) {
-        m_state->BeginSchemaChange();
-        schema->oid = *oid;
-        schema->name = name;
-        schema->type = type;
-        schema->tableName = MakeTableName(name, *oid);
-        schema->sortOrders.assign(sortOrders.begin(), sortOrders.end());
+    return m_state->ChangeSchema([&](VolumeSchema& schema) -> Result<ObjectId> {
+        QUILLORY_TRY_VALUE(const ObjectId oid, m_state->AllocateOid());
+        const auto database = std::make_shared<DatabaseSchema>();
+        database->oid = oid;
+        database->name = name;
+        database->type = type;
+        database->tableName = MakeTableName(name, oid);
+        database->sortOrders.assign(sortOrders.begin(), sortOrders.end());
         for (const PropertySpec& spec : specs)
-            schema->properties.push_back(MakeColumn(*schema, spec));
-        m_state->schema.Insert(schema);
-        done = CreateDatabaseSchema(m_state->connection.get(), *schema);
-    }
-    QUILLORY_TRY(m_state->EndWrite(done));
-    return schema->oid;
-}
-
-bool Volume::IsOpen(ObjectId database) const
-{
-    const auto& open = m_state->openDatabases;
-    return std::any_of(open.begin(), open.end(),
-        [database](const DatabaseState* state) { return state->schema->oid == database; });
+            database->properties.push_back(MakeColumn(*database, spec));
+        schema.Insert(database);
+        QUILLORY_TRY(CreateDatabaseSchema(m_state->Connection(), *database));
+        return oid;
+    });
 }
 
 Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseType type)
 {
-    QUILLORY_TRY(m_state->RefreshSchema());
-    const auto schema = m_state->schema.Find(oid);
-    if (schema == nullptr)
+    QUILLORY_TRY_VALUE(const VolumeSchema* before, m_state->Schema());
+    const auto database = before->Find(oid);
+    if (database == nullptr)
         return ErrorNumber::NotFound;
-    const auto namesake = m_state->schema.Find(name);
-    if (namesake != nullptr && namesake != schema)
+    const auto namesake = before->Find(name);
+    if (namesake != nullptr && namesake != database)
         return ErrorNumber::DuplicateName;
-    if (IsOpen(oid))
+    if (m_state->IsOpen(oid))
         return ErrorNumber::SharingViolation;
-    QUILLORY_TRY(m_state->BeginWrite());
-    m_state->BeginSchemaChange();
-    m_state->schema.Rename(*schema, name, type);
-    return m_state->EndWrite(RenameDatabaseSchema(m_state->connection.get(), *schema));
+    return m_state->ChangeSchema([&](VolumeSchema& schema) {
+        schema.Rename(*database, name, type);
+        return RenameDatabaseSchema(m_state->Connection(), *database);
+    });
 }
 
 Result<void> Volume::DeleteDatabase(ObjectId oid)
 {
-    QUILLORY_TRY(m_state->RefreshSchema());
-    const auto schema = m_state->schema.Find(oid);
-    if (schema == nullptr)
+    QUILLORY_TRY_VALUE(const VolumeSchema* before, m_state->Schema());
+    const auto database = before->Find(oid);
+    if (database == nullptr)
         return ErrorNumber::NotFound;
-    if (IsOpen(oid))
+    if (m_state->IsOpen(oid))
         return ErrorNumber::SharingViolation;
-    QUILLORY_TRY(m_state->BeginWrite());
-    m_state->BeginSchemaChange();
-    m_state->schema.Remove(*schema);
-    return m_state->EndWrite(DropDatabaseSchema(m_state->connection.get(), *schema));
+    return m_state->ChangeSchema([&](VolumeSchema& schema) {
+        schema.Remove(*database);
+        return DropDatabaseSchema(m_state->Connection(), *database);
+    });
 }
 
 Result<std::unique_ptr<Database>> Volume::OpenDatabase(
     const QString& name, const SortOrder& sortOrder)
 {
-    QUILLORY_TRY(m_state->RefreshSchema());
-    const auto schema = m_state->schema.Find(name);
-    if (schema == nullptr)
+    QUILLORY_TRY_VALUE(const VolumeSchema* schema, m_state->Schema());
+    const auto database = schema->Find(name);
+    if (database == nullptr)
         return ErrorNumber::FileNotFound;
-    const auto& orders = schema->sortOrders;
+    const auto& orders = database->sortOrders;
     if (std::find(orders.begin(), orders.end(), sortOrder) == orders.end())
         return ErrorNumber::InvalidParameter;
-    return std::make_unique<Database>(std::make_unique<DatabaseState>(*m_state, schema, sortOrder));
+    return std::make_unique<Database>(
+        std::make_unique<DatabaseState>(*m_state, database, sortOrder));
 }
 
 Result<void> Volume::BeginTransaction()
 {
-    if (m_state->isInTransaction)
-        return ErrorNumber::AlreadyExists;
-    const auto begun = m_state->Begin();
-    m_state->isInTransaction = begun.IsOk();
-    return begun;
+    return m_state->BeginTransaction();
 }
 
 Result<void> Volume::EndTransaction(bool commit)
 {
-    if (!m_state->isInTransaction)
-        return ErrorNumber::InvalidHandle;
-    m_state->isInTransaction = false;
-    if (commit)
-        return m_state->Commit();
-    m_state->Rollback();
-    return {};
+    return m_state->EndTransaction(commit);
 }
 
 bool Volume::HasChanged() const
 {
-    return m_state->hasCommitted;
+    return m_state->Transactions().HasCommitted();
 }
 
 QString Volume::JournalPutAside() const
 {
-    return QFile::decodeName(m_state->file.JournalPutAside());
+    return QFile::decodeName(m_state->File().JournalPutAside());
 }
 
 Result<void> Volume::VerifyInPlace() const
 {
-    return m_state->file.VerifyInPlace();
+    return m_state->File().VerifyInPlace();
 }
 
 Result<std::vector<QString>> Volume::Check()
@@ -254,9 +225,9 @@ Result<void> Volume::Backup(const QString& path)
         const ConfinedVfs::Permit permit(unfinished);
         QUILLORY_TRY_VALUE(
             auto copy, OpenConnection(unfinished, VolumeAccess::Exclusive, true, true));
-        QUILLORY_TRY(m_state->file.GiveModeTo(unfinished));
+        QUILLORY_TRY(m_state->File().GiveModeTo(unfinished));
         sqlite3_backup* backup
-            = sqlite3_backup_init(copy.get(), "main", m_state->connection.get(), "main");
+            = sqlite3_backup_init(copy.get(), "main", m_state->Connection(), "main");
         if (backup == nullptr)
             return ErrorFromSqlite(sqlite3_extended_errcode(copy.get()), copy.get());
         // Between two steps a change may come in; the copy then begins again.

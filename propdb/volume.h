@@ -10,7 +10,7 @@
 namespace Quillory {
 
 class Database;
-struct VolumeState;
+class VolumeState;
 
 /// What to do about a missing file.
 enum class Disposition
@@ -107,8 +107,6 @@ private:
     explicit Volume(std::unique_ptr<VolumeState> state);
 
     std::unique_ptr<VolumeState> m_state;
-
-    [[nodiscard]] bool IsOpen(ObjectId database) const;
 };
 
 } // namespace Quillory

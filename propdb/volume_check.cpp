@@ -26,17 +26,17 @@ Result<void> ReadPages(const VolumeState& volume, std::vector<QString>& faults)
     constexpr sqlite3_int64 kPagesBetweenLooks = 256;
     sqlite3_file* file = nullptr;
     sqlite3_int64 size = 0;
-    sqlite3_file_control(volume.connection.get(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    sqlite3_file_control(volume.Connection(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
     if (const int code = file->pMethods->xFileSize(file, &size); code != SQLITE_OK)
-        return ErrorFromSqlite(code, volume.connection.get());
+        return ErrorFromSqlite(code, volume.Connection());
     std::array<char, kPageSize> page;
     for (sqlite3_int64 i = 0; i * kPageSize < size && faults.size() < kMaxPagesTold; ++i) {
-        if (i % kPagesBetweenLooks == 0 && volume.file.IsAwaitedByWriter())
+        if (i % kPagesBetweenLooks == 0 && volume.File().IsAwaitedByWriter())
             return ErrorNumber::Cancelled;
         if (i == kLockedPage)
             continue;
         const int code = file->pMethods->xRead(file, page.data(), kPageSize, i * kPageSize);
-        const ErrorNumber error = ErrorFromSqlite(code, volume.connection.get());
+        const ErrorNumber error = ErrorFromSqlite(code, volume.Connection());
         if (error == ErrorNumber::FileCorrupt)
             faults.push_back(u"page %1 is not as it was written"_s.arg(i + 1));
         else if (error != ErrorNumber::None)
@@ -48,7 +48,7 @@ Result<void> ReadPages(const VolumeState& volume, std::vector<QString>& faults)
 Result<void> CheckStructure(const VolumeState& volume, std::vector<QString>& faults)
 {
     QUILLORY_TRY_VALUE(
-        auto check, Statement::Prepare(volume.connection.get(), u"PRAGMA integrity_check"_s));
+        auto check, Statement::Prepare(volume.Connection(), u"PRAGMA integrity_check"_s));
     while (check.Next()) {
         const QString line = check.Text(0);
         if (line != "ok"_L1)
@@ -85,13 +85,22 @@ Result<void> CheckValues(const VolumeState& volume, const DatabaseSchema& schema
         QuotedName(schema.tableName));
     for (const PropertyColumn& column : schema.properties)
         sql += u", "_s + ImpossibleValue(column);
-    QUILLORY_TRY_VALUE(
-        auto select, Statement::Prepare(volume.connection.get(), sql + u") LIMIT 1"_s));
+    QUILLORY_TRY_VALUE(auto select, Statement::Prepare(volume.Connection(), sql + u") LIMIT 1"_s));
     select.Bind(1, nextOid);
     if (select.Next())
         faults.push_back(
             u"“%1” holds an identifier or a value that no record has"_s.arg(schema.name));
     return select.Error();
+}
+
+Result<void> CheckAllValues(const VolumeState& volume, const VolumeSchema& schema, qint64 nextOid,
+    std::vector<QString>& faults)
+{
+    for (const auto& [oid, database] : schema.All()) {
+        if (faults.empty())
+            QUILLORY_TRY(CheckValues(volume, *database, nextOid, faults));
+    }
+    return {};
 }
 
 } // namespace
@@ -101,7 +110,7 @@ Result<std::vector<QString>> CheckPages(const VolumeState& volume)
     std::vector<QString> faults;
     // While a row is being read no other program's write comes between.
     QUILLORY_TRY_VALUE(
-        auto hold, Statement::Prepare(volume.connection.get(), u"SELECT 1 FROM sqlite_schema"_s));
+        auto hold, Statement::Prepare(volume.Connection(), u"SELECT 1 FROM sqlite_schema"_s));
     QUILLORY_TRY(hold.Step());
     QUILLORY_TRY(ReadPages(volume, faults));
     return faults;
@@ -112,17 +121,17 @@ Result<std::vector<QString>> CheckVolume(VolumeState& volume)
     std::vector<QString> faults;
     // While a row is being read no other program's write comes between.
     QUILLORY_TRY_VALUE(auto hold,
-        Statement::Prepare(volume.connection.get(), u"SELECT next_oid FROM object_counter"_s));
+        Statement::Prepare(volume.Connection(), u"SELECT next_oid FROM object_counter"_s));
     QUILLORY_TRY(hold.Step());
     // Somebody else may have taken more since the mount, or this program since its last commit.
-    const auto nextOid = std::max(static_cast<qint64>(volume.nextOid), hold.Int64(0));
-    Result<void> checked = volume.RefreshSchema();
+    const auto nextOid
+        = std::max(static_cast<qint64>(volume.Transactions().NextOid()), hold.Int64(0));
+    const auto schema = volume.Schema();
+    Result<void> checked = schema.Error();
     if (checked)
         checked = CheckStructure(volume, faults);
-    for (const auto& [oid, schema] : volume.schema.All()) {
-        if (checked && faults.empty())
-            checked = CheckValues(volume, *schema, nextOid, faults);
-    }
+    if (checked && faults.empty())
+        checked = CheckAllValues(volume, **schema, nextOid, faults);
     if (checked.Error() == ErrorNumber::FileCorrupt)
         faults.push_back(u"the file is damaged"_s);
     else if (!checked)

@@ -9,7 +9,7 @@
 
 namespace Quillory {
 
-struct VolumeState;
+class VolumeState;
 
 /// Reads every page of the file through its checksum, also those that wait to be used again. What
 /// is wrong, a line each; empty if nothing is.

@@ -2,77 +2,39 @@
 #pragma once
 
 #include "propdb/confined_vfs.h"
+#include "propdb/connection.h"
+#include "propdb/file_transaction.h"
 #include "propdb/record_visit.h"
 #include "propdb/schema.h"
-#include "propdb/statement.h"
-#include "propdb/volume_file.h"
 
-#include <initializer_list>
-#include <memory>
-#include <optional>
+#include <set>
 #include <utility>
-#include <vector>
-
-struct sqlite3;
 
 namespace Quillory {
 
-struct DatabaseState;
-
-struct ConnectionCloser
+/// What a volume and its open databases share: the file, the connection to it, the schema, and the
+/// one way by which anything is written.
+class VolumeState
 {
-    void operator()(sqlite3* connection) const;
-};
-using ConnectionHandle = std::unique_ptr<sqlite3, ConnectionCloser>;
+public:
+    VolumeState(VolumeFile file, QByteArray path, VolumeAccess access);
+    /// Undoes a transaction that still runs.
+    ~VolumeState();
+    VolumeState(const VolumeState&) = delete;
+    VolumeState& operator=(const VolumeState&) = delete;
 
-/// Sets the size of the page cache that connections have but for long reads in sort order: 16 MB.
-constexpr char kUsualCache[] = "PRAGMA cache_size = -16384";
-
-/// What a volume and its open databases share. Members end in the reverse of their order:
-/// statements, connection, permit, and last the file with its lock.
-struct VolumeState
-{
-    VolumeState(VolumeFile volumeFile, QByteArray volumePath, VolumeAccess volumeAccess);
-
-    VolumeFile file;
-    QByteArray path;
-    VolumeAccess access;
-    ConfinedVfs::Permit permit;
-    RecordVisit visit;
-    ConnectionHandle connection;
-    VolumeSchema schema;
-    std::vector<DatabaseState*> openDatabases;
-
-    Statement begin;
-    /// Writes what the file's header says already, for the sake of the journal.
-    Statement rewriteHeader;
-    Statement commit;
-    Statement rollback;
-    Statement storeNextOid;
-    Statement readDataVersion;
-    Statement readNextOid;
-
-    quint64 nextOid = 1;
-    bool isNextOidStored = true;
-    bool isInTransaction = false;
-    /// The transaction that runs has the file's first page in its journal.
-    bool isFirstPageKept = false;
-    /// `schema` is not what the file held when the transaction began.
-    bool isSchemaChanged = false;
-    /// The write that runs changes the schema.
-    bool isChangingSchema = false;
-    /// What `readDataVersion` gave when `schema` was read, or before.
-    qint64 schemaVersion = 0;
-    bool hasCommitted = false;
-    /// Counts what may have changed the order of a database's records.
-    quint64 orderChanges = 0;
-    /// The file as this connection left it; none where it is not known.
-    std::optional<VolumeFile::State> stateSeen;
-    /// Whether the latest commit is in the file, and durable, is not known.
-    bool isInDoubt = false;
-
-    /// Opens the connection the hardened way, prepares its statements and reads the schema.
+    /// Opens the connection the hardened way, prepares its statements and reads the schema. Comes
+    /// first, once.
     [[nodiscard]] Result<void> Connect();
+
+    [[nodiscard]] sqlite3* Connection() const { return m_connection.get(); }
+    [[nodiscard]] const VolumeFile& File() const { return m_file; }
+    [[nodiscard]] RecordVisit& Visit() { return m_visit; }
+
+    /// The schema as the file has it now; valid until the next call or write.
+    [[nodiscard]] Result<const VolumeSchema*> Schema();
+    /// For its counter of identifiers, and whether anything was committed.
+    [[nodiscard]] const FileTransaction& Transactions() const { return m_transaction; }
     /// Differs from an earlier one if anything may have changed which records there are or their
     /// order, in this process or another.
     struct OrderVersion
@@ -83,50 +45,102 @@ struct VolumeState
         friend bool operator==(const OrderVersion&, const OrderVersion&) = default;
     };
     [[nodiscard]] Result<OrderVersion> ReadOrderVersion();
-    /// A fresh identifier; the counter is stored with the transaction.
-    [[nodiscard]] Result<ObjectId> AllocateOid();
 
-    /// Starts a write of its own, or joins the transaction that runs. Refused on a file that is
-    /// not the one that was opened.
-    [[nodiscard]] Result<void> BeginWrite();
-    /// Must come, within a write, before the schema is changed.
-    void BeginSchemaChange();
-    /// Makes a write of its own durable, or undoes it when `outcome` is a failure. Within a
-    /// transaction passes `outcome` on; a failed change of the schema undoes all of it.
-    [[nodiscard]] Result<void> EndWrite(const Result<void>& outcome);
+    void NoteOpened(ObjectId database) { m_openDatabases.insert(database); }
+    void NoteClosed(ObjectId database) { m_openDatabases.erase(m_openDatabases.find(database)); }
+    [[nodiscard]] bool IsOpen(ObjectId database) const
+    {
+        return m_openDatabases.contains(database);
+    }
 
-    /// SharingViolation if something else has written into the file since the last commit: what
-    /// is to be written may be meant for records that now are others.
-    [[nodiscard]] Result<void> Begin();
-    /// A commit that SQLite reports to have failed may have been done: then the file tells, and
-    /// what it holds is made durable. A failure means that nothing was changed, unless the medium
-    /// does not answer any more; it is then asked again before the next write.
-    [[nodiscard]] Result<void> Commit();
-    /// Undoes everything since Begin and reads the schema anew if it had changed.
-    void Rollback();
-    /// Reads the schema again if it is not the file's: where an earlier attempt failed, within a
-    /// transaction that a failure has ended underneath, or beside another program that writes.
-    [[nodiscard]] Result<void> RefreshSchema();
+    /// Runs `work`, which gives a Result and changes the file by one statement at most. Outside a
+    /// transaction that is durable when this returns, or undone where anything fails. A transaction
+    /// that runs is joined: what was changed is part of it, and where `work` fails, or throws, it
+    /// goes on as if `work` had not been. Refused on a file that is not the one that was opened.
+    template <typename Work> auto Write(const Work& work) -> decltype(work())
+    {
+        return RunWrite(Extent::OneStatement, work);
+    }
+    /// The same for work that is given the schema, to change it there and in the file, which takes
+    /// several statements: where it fails, the transaction that was joined is undone as a whole.
+    template <typename Work>
+    auto ChangeSchema(const Work& work) -> decltype(work(std::declval<VolumeSchema&>()))
+    {
+        return RunWrite(Extent::Schema, [this, &work] {
+            m_isSchemaChanged = true;
+            return work(m_schema);
+        });
+    }
+    /// Within a write: a fresh identifier.
+    [[nodiscard]] Result<ObjectId> AllocateOid() { return m_transaction.AllocateOid(); }
+    /// Within a write: it may change the order of records.
+    void NoteOrderChange() { ++m_orderChanges; }
+
+    /// AlreadyExists if a transaction is running.
+    [[nodiscard]] Result<void> BeginTransaction();
+    /// InvalidHandle if none is running. None is afterwards.
+    [[nodiscard]] Result<void> EndTransaction(bool commit);
 
 private:
-    [[nodiscard]] Result<void> PrepareStatements(
-        std::initializer_list<std::pair<Statement*, const char*>> statements) const;
-    /// The next object identifier; FileCorrupt if a database has it or a later one.
-    [[nodiscard]] Result<void> ReadObjectCounter();
+    /// Members end in the reverse of their order: statements, connection, permit, and last the file
+    /// with its lock.
+    VolumeFile m_file;
+    QByteArray m_path;
+    VolumeAccess m_access;
+    ConfinedVfs::Permit m_permit;
+    RecordVisit m_visit;
+    ConnectionHandle m_connection;
+    VolumeSchema m_schema;
+    /// Once for each handle.
+    std::multiset<ObjectId> m_openDatabases;
+
+    FileTransaction m_transaction;
+    Statement m_readDataVersion;
+
+    /// Between BeginTransaction() and EndTransaction(), also once a failure has undone it all.
+    bool m_isInTransaction = false;
+    /// `m_schema` is not what the file held when the transaction began.
+    bool m_isSchemaChanged = false;
+    /// What `m_readDataVersion` gave when `m_schema` was read, or before.
+    qint64 m_schemaVersion = 0;
+    /// Counts what may have changed the order of a database's records.
+    quint64 m_orderChanges = 0;
+
+    enum class Extent
+    {
+        OneStatement,
+        Schema,
+    };
+    template <typename Work> auto RunWrite(Extent extent, const Work& work) -> decltype(work());
+
     /// The number of the file's state: another program's commit changes it, this one's do not.
     [[nodiscard]] Result<qint64> ReadFileVersion();
     /// Reads the schema and the number of the state that it is at least as new as.
     [[nodiscard]] Result<void> LoadSchema();
-    /// Has the journal begin with the file's first page, by which a later start knows whose it is.
-    [[nodiscard]] Result<void> KeepFirstPage();
-    [[nodiscard]] Result<void> FindOutcome(ErrorNumber commitError);
-    /// Whether the commit in doubt was done; false too if none is.
-    [[nodiscard]] Result<bool> SettleDoubt();
+    /// Reads the schema again if it is not the file's: where an earlier attempt failed, within a
+    /// transaction that a failure has ended underneath, or beside another program that writes.
+    [[nodiscard]] Result<void> RefreshSchema();
+
+    [[nodiscard]] Result<void> BeginWrite();
+    [[nodiscard]] Result<void> EndWrite(Extent extent, ErrorNumber outcome);
+    [[nodiscard]] Result<void> Begin();
+    [[nodiscard]] Result<void> Commit();
+    /// Undoes everything since Begin() and reads the schema anew if it had changed.
+    void Rollback();
 };
 
-/// Opens a connection to the volume at `path` under the confined VFS, everything dangerous off.
-/// An absent file is made when `isNew`.
-[[nodiscard]] Result<ConnectionHandle> OpenConnection(
-    const QByteArray& path, VolumeAccess access, bool isWritable, bool isNew);
+template <typename Work>
+auto VolumeState::RunWrite(Extent extent, const Work& work) -> decltype(work())
+{
+    QUILLORY_TRY(BeginWrite());
+    try {
+        auto outcome = work();
+        QUILLORY_TRY(EndWrite(extent, outcome.Error()));
+        return outcome;
+    } catch (...) {
+        static_cast<void>(EndWrite(extent, ErrorNumber::NotEnoughMemory).IsOk());
+        throw;
+    }
+}
 
 } // namespace Quillory

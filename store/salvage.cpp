@@ -69,7 +69,7 @@ public:
         for (const ColumnDefinition& column : list.columns)
             m_oldIds.push_back(column.id);
         m_error = Create(catalogue);
-        if (m_error == ErrorNumber::None && !m_data.BeginTransaction())
+        if (m_error == ErrorNumber::None && !m_transaction.emplace(m_data))
             m_error = m_data.LastError();
     }
 
@@ -90,7 +90,7 @@ public:
     }
     [[nodiscard]] Result<void> End()
     {
-        if (m_error == ErrorNumber::None && !m_data.EndTransaction(true))
+        if (m_error == ErrorNumber::None && !m_transaction->Commit())
             m_error = m_data.LastError();
         return m_error;
     }
@@ -100,6 +100,7 @@ private:
     InventoryList m_list;
     std::vector<PropertyId> m_oldIds;
     ErrorNumber m_error = ErrorNumber::None;
+    std::optional<Transaction> m_transaction;
 
     /// Columns get new identifiers, drawn at random.
     [[nodiscard]] ErrorNumber Create(ListCatalogue& catalogue)
