@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/damaged_volume.h"
 
-#include "propdb/page_tree.h"
-#include "propdb/schema.h"
-#include "propdb/stored_record.h"
+#include "propdb/detail/page_tree.h"
+#include "propdb/detail/schema.h"
+#include "propdb/detail/stored_record.h"
 
 #include <QHash>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/database.h"
 
-#include "propdb/database_state.h"
+#include "propdb/detail/database_state.h"
 
 #include <sqlite3.h>
 

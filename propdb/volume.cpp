@@ -2,11 +2,12 @@
 #include "propdb/volume.h"
 
 #include "propdb/database.h"
-#include "propdb/database_state.h"
-#include "propdb/outside_change.h"
-#include "propdb/sqlite_error.h"
-#include "propdb/volume_check.h"
-#include "propdb/volume_state.h"
+#include "propdb/detail/database_state.h"
+#include "propdb/detail/outside_change.h"
+#include "propdb/detail/sqlite_error.h"
+#include "propdb/detail/volume_check.h"
+#include "propdb/detail/volume_state.h"
+#include "propdb/volume_path.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -16,7 +17,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <limits>
 #include <set>
 #include <utility>
 

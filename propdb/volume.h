@@ -33,8 +33,8 @@ enum class VolumeAccess
 ///
 /// Opening trusts nothing in the file: what is foreign, newer or damaged is refused with its reason
 /// and left byte for byte as it was. A journal that is not this file's is given another name, not
-/// played back. At rest a volume is one file; while it is written there is a
-/// journal beside it, which must never be moved or deleted.
+/// played back. At rest a volume is one file; while it is written there is a journal beside it,
+/// which must never be moved or deleted.
 class Volume
 {
 public:

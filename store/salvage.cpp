@@ -2,7 +2,7 @@
 #include "store/salvage.h"
 
 #include "propdb/damaged_volume.h"
-#include "propdb/volume_file.h"
+#include "propdb/volume_path.h"
 #include "store/list_catalogue.h"
 #include "values/column_type.h"
 
