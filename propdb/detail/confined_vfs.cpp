@@ -6,11 +6,12 @@
 
 #include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <xxhash.h>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstring>
 #include <utility>
 
@@ -218,45 +219,22 @@ constexpr sqlite3_io_methods kFileMethods {
     .xUnfetch = nullptr,
 };
 
-using OpenCall = int (*)(const char* path, int flags, int mode);
-/// How SQLite opened files before it was taught to keep why it could not make one.
-OpenCall& OriginalOpen()
+/// Makes the file if there is none; false, and errno, if it cannot be made. SQLite itself would try
+/// again without making it, and then only tell that there is none.
+bool MakeFile(const char* path)
 {
-    static OpenCall original = nullptr;
-    return original;
-}
-
-/// Why this thread's latest attempt to make a file failed. SQLite tries again without making it
-/// and so would only tell that there is none.
-int& CreateError()
-{
-    thread_local int error = 0;
-    return error;
-}
-
-int OpenKeepingError(const char* path, int flags, int mode)
-{
-    const int descriptor = OriginalOpen()(path, flags, mode);
-    if (descriptor < 0 && (flags & O_CREAT) != 0)
-        CreateError() = errno;
-    return descriptor;
-}
-
-void KeepCreateErrors(sqlite3_vfs* real)
-{
-    OriginalOpen() = reinterpret_cast<OpenCall>(real->xGetSystemCall(real, "open"));
-    real->xSetSystemCall(real, "open", reinterpret_cast<sqlite3_syscall_ptr>(&OpenKeepingError));
+    constexpr mode_t kUsualMode = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
+    const int descriptor = open(path, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, kUsualMode);
+    return descriptor >= 0 && close(descriptor) == 0;
 }
 
 int VfsOpen(sqlite3_vfs* vfs, const char* path, sqlite3_file* file, int flags, int* outFlags)
 {
     file->pMethods = nullptr;
-    if (!MayOpen(path, flags))
+    const bool isToBeMade = path != nullptr && (flags & SQLITE_OPEN_CREATE) != 0;
+    if (!MayOpen(path, flags) || (isToBeMade && !MakeFile(path)))
         return SQLITE_CANTOPEN;
-    CreateError() = 0;
     const int code = RealVfs(vfs)->xOpen(RealVfs(vfs), path, RealFile(file), flags, outFlags);
-    if (code != SQLITE_OK && CreateError() != 0)
-        errno = CreateError();
     if (RealFile(file)->pMethods != nullptr) {
         reinterpret_cast<ConfinedFile*>(file)->hasChecksums
             = (flags & SQLITE_OPEN_MAIN_DB) != 0 && IsVerified(path);
@@ -308,7 +286,6 @@ int VfsGetLastError(sqlite3_vfs* vfs, int size, char* text)
 sqlite3_vfs* RegisterVfs()
 {
     sqlite3_vfs* real = sqlite3_vfs_find(nullptr);
-    KeepCreateErrors(real);
     static sqlite3_vfs vfs {};
     vfs.iVersion = 1;
     vfs.szOsFile = static_cast<int>(sizeof(ConfinedFile)) + real->szOsFile;
