@@ -66,25 +66,28 @@ private:
 
 } // namespace Quillory
 
-#define QUILLORY_JOIN_NAMES(first, second) first##second
-#define QUILLORY_NAME_OF_LINE(first, line) QUILLORY_JOIN_NAMES(first, line)
-
-/// Evaluates an expression that gives a Result. Where it is a failure, the function ends with that
-/// failure; its own result can be made from an ErrorNumber. A statement:
+/// Evaluates an expression that gives a Result. Where that is a failure, the function ends with it;
+/// its own result can be made from an ErrorNumber. A statement:
 ///
 ///     QUILLORY_TRY(file.VerifyInPlace());
 #define QUILLORY_TRY(...)                                                                          \
     if (const auto triedResult = (__VA_ARGS__); !triedResult)                                      \
     return triedResult.Error()
 
-/// The same, and declares a variable that takes the value. Not the one statement of an if or a
-/// loop, because it is several:
+/// The same, and gives the value to a variable that it declares, or that there is. Several
+/// statements, so that it cannot be the only one of an if or a loop without braces:
 ///
 ///     QUILLORY_TRY_VALUE(const qint64 version, ReadFileVersion());
-#define QUILLORY_TRY_VALUE(declaration, ...)                                                       \
-    QUILLORY_TRY_VALUE_BY(declaration, QUILLORY_NAME_OF_LINE(triedResult, __LINE__), (__VA_ARGS__))
-#define QUILLORY_TRY_VALUE_BY(declaration, result, expression)                                     \
+#define QUILLORY_TRY_VALUE(variable, ...)                                                          \
+    QUILLORY_TRY_VALUE_BY(variable, QUILLORY_JOIN(triedResult, __LINE__), (__VA_ARGS__))
+
+// Neither names nor declarations can stand in parentheses.
+// NOLINTBEGIN(bugprone-macro-parentheses)
+#define QUILLORY_TRY_VALUE_BY(variable, result, expression)                                        \
     auto result = expression;                                                                      \
     if (!result)                                                                                   \
         return result.Error();                                                                     \
-    declaration = std::move(*result)
+    variable = std::move(*result)
+// NOLINTEND(bugprone-macro-parentheses)
+#define QUILLORY_JOIN(first, second) QUILLORY_JOIN_NAMES(first, second)
+#define QUILLORY_JOIN_NAMES(first, second) first##second
