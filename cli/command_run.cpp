@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/command_run.h"
 
-#include "propdb/volume_file.h"
+#include "propdb/volume_path.h"
 #include "store/kept_copies.h"
 
 #include <utility>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/damaged_volume.h"
 
-#include "propdb/page_tree.h"
-#include "propdb/schema.h"
-#include "propdb/stored_record.h"
+#include "propdb/detail/page_tree.h"
+#include "propdb/detail/schema.h"
+#include "propdb/detail/stored_record.h"
 
 #include <QHash>
 
@@ -221,11 +221,10 @@ Result<DamagedVolume> DamagedVolume::Open(const QString& path)
     const ErrorNumber mounted
         = Volume::Mount(path, Disposition::OpenExisting, VolumeAccess::ReadOnly).Error();
     const bool wasChangedOutside = mounted == ErrorNumber::ChangedOutside;
-    auto file = PageFile::Open(
-        path, wasChangedOutside ? PageFile::Trust::AsItStands : PageFile::Trust::Checksums);
-    if (!file)
-        return file.Error();
-    auto state = std::make_unique<State>(std::move(*file));
+    QUILLORY_TRY_VALUE(auto file,
+        PageFile::Open(
+            path, wasChangedOutside ? PageFile::Trust::AsItStands : PageFile::Trust::Checksums));
+    auto state = std::make_unique<State>(std::move(file));
     state->wasChangedOutside = wasChangedOutside;
     state->Load();
     return DamagedVolume(std::move(state));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/database.h"
 
-#include "propdb/database_state.h"
+#include "propdb/detail/database_state.h"
 
 #include <sqlite3.h>
 
@@ -60,11 +60,11 @@ public:
     {
         if (m_classes.size() > RecordVisit::kMaxProperties)
             return ErrorNumber::InvalidParameter;
-        return Statement::Prepare(m_state.volume.connection.get(), m_select + clauses);
+        return Statement::Prepare(m_state.volume.Connection(), m_select + clauses);
     }
     [[nodiscard]] Result<void> Run(Statement& statement)
     {
-        return m_state.volume.visit.Run(statement, m_classes, m_limit, m_visitor);
+        return m_state.volume.Visit().Run(statement, m_classes, m_limit, m_visitor);
     }
     /// Whether the visitor wants no more.
     [[nodiscard]] bool IsStopped() const { return m_isStopped; }
@@ -80,17 +80,19 @@ private:
     QString m_select;
 };
 
-ErrorNumber CheckValues(std::span<const PropertyValue> values)
+Result<void> CheckValues(const DatabaseSchema& schema, std::span<const PropertyValue> values)
 {
     if (values.empty())
         return ErrorNumber::InvalidParameter;
     for (size_t i = 0; i < values.size(); ++i) {
+        if (schema.Find(values[i].id) == nullptr)
+            return ErrorNumber::InvalidParameter;
         for (size_t k = 0; k < i; ++k) {
             if (values[k].id == values[i].id)
                 return ErrorNumber::AlreadyExists;
         }
     }
-    return ErrorNumber::None;
+    return {};
 }
 
 } // namespace
@@ -108,22 +110,17 @@ ObjectId Database::Oid() const
 
 Result<qint64> Database::RecordCount()
 {
-    sqlite3* connection = m_state->volume.connection.get();
-    const auto limit = ReadRecordLimit(connection);
-    if (!limit)
-        return limit.Error();
-    auto count = Statement::Prepare(connection,
-        u"SELECT count(*) FROM (SELECT 1 FROM %1 LIMIT ?1)"_s.arg(
-            QuotedName(m_state->schema->tableName)));
-    if (!count)
-        return count.Error();
-    count->Bind(1, *limit);
-    const auto step = count->Step();
-    if (!step)
-        return step.Error();
-    if (count->Int64(0) == *limit)
+    sqlite3* connection = m_state->volume.Connection();
+    QUILLORY_TRY_VALUE(const qint64 limit, ReadRecordLimit(connection));
+    QUILLORY_TRY_VALUE(auto count,
+        Statement::Prepare(connection,
+            u"SELECT count(*) FROM (SELECT 1 FROM %1 LIMIT ?1)"_s.arg(
+                QuotedName(m_state->schema->tableName))));
+    count.Bind(1, limit);
+    QUILLORY_TRY(count.Step());
+    if (count.Int64(0) == limit)
         return ErrorNumber::FileCorrupt;
-    return count->Int64(0);
+    return count.Int64(0);
 }
 
 std::vector<PropertySpec> Database::Properties() const
@@ -134,6 +131,11 @@ std::vector<PropertySpec> Database::Properties() const
             specs.push_back({ column.id, column.name });
     }
     return specs;
+}
+
+bool Database::Has(PropertyId id) const
+{
+    return m_state->schema->Find(id) != nullptr;
 }
 
 Result<ObjectId> Database::SeekFirst()
@@ -173,52 +175,20 @@ Result<Record> Database::ReadAll()
 
 Result<Record> Database::Read(std::span<const PropertyId> ids)
 {
-    const auto place = m_state->cursor.Place();
-    if (!place)
-        return place.Error();
-    return m_state->ReadRecord(*place, ids);
+    QUILLORY_TRY_VALUE(const auto place, m_state->cursor.Place());
+    return m_state->ReadRecord(place, ids);
 }
 
 Result<ObjectId> Database::Write(ObjectId oid, std::span<const PropertyValue> values)
 {
-    if (const ErrorNumber error = CheckValues(values); error != ErrorNumber::None)
-        return error;
-    VolumeState& volume = m_state->volume;
-    if (const auto begun = volume.BeginWrite(); !begun)
-        return begun.Error();
-    Result<ObjectId> written = oid;
-    const auto added = m_state->AddMissingColumns(values);
-    if (!added)
-        written = added.Error();
-    else
-        written = oid == kNoObject ? m_state->Insert(values) : m_state->Update(oid, values);
-    const auto ended = volume.EndWrite(written.Error());
-    return ended ? written : ended.Error();
+    QUILLORY_TRY(CheckValues(*m_state->schema, values));
+    return m_state->volume.Write(
+        [&] { return oid == kNoObject ? m_state->Insert(values) : m_state->Update(oid, values); });
 }
 
 Result<void> Database::DeleteRecord(ObjectId oid)
 {
-    VolumeState& volume = m_state->volume;
-    if (const auto begun = volume.BeginWrite(); !begun)
-        return begun;
-    ++volume.orderChanges;
-    // A position on the record notes the key that is about to go.
-    const auto current = m_state->cursor.Current();
-    Result<void> done = current.Error();
-    if (done) {
-        auto remove = Statement::Prepare(volume.connection.get(),
-            u"DELETE FROM %1 WHERE oid = ?1 RETURNING oid"_s.arg(
-                QuotedName(m_state->schema->tableName)));
-        if (!remove) {
-            done = remove.Error();
-        } else {
-            remove->Bind(1, oid);
-            const auto step = remove->Step();
-            const bool isGone = step && *step;
-            done = isGone || !step ? step.Error() : ErrorNumber::NotFound;
-        }
-    }
-    return volume.EndWrite(done);
+    return m_state->volume.Write([&] { return m_state->Delete(oid); });
 }
 
 Result<std::vector<ObjectId>> Database::ListRecords()
@@ -242,7 +212,7 @@ Result<void> Database::Scan(
 Result<void> Database::ScanInPlace(
     std::span<const PropertyId> ids, ScanOrder order, const RecordVisitor& visitor)
 {
-    sqlite3* connection = m_state->volume.connection.get();
+    sqlite3* connection = m_state->volume.Connection();
     RecordSelect select(*m_state, ids, visitor);
     const auto run = [&](const QString& clauses) -> Result<void> {
         auto statement = select.Prepare(clauses);
@@ -274,7 +244,7 @@ Database::VisitOutcome Database::VisitEach(
         outcome.error = statement.Error();
         return outcome;
     }
-    const RoomyCache roomyCache(m_state->volume.connection.get());
+    const RoomyCache roomyCache(m_state->volume.Connection());
     for (const ObjectId oid : oids) {
         statement->Bind(1, oid);
         const Result<void> done

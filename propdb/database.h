@@ -42,6 +42,8 @@ public:
     [[nodiscard]] Result<qint64> RecordCount();
     /// The declared properties in the order of their declaration.
     [[nodiscard]] std::vector<PropertySpec> Properties() const;
+    /// Whether the records can have this property, be it declared or not.
+    [[nodiscard]] bool Has(PropertyId id) const;
 
     /// kNoObject, as a value, where there is no record at that place; a seek that finds none leaves
     /// the position at the end.
@@ -57,10 +59,10 @@ public:
     [[nodiscard]] Result<Record> Read(std::span<const PropertyId> ids);
 
     /// Adds a record (kNoObject) or changes the listed properties of one, and gives its identifier.
-    /// A property new to the database is taken in with it. NotFound if there is no such record,
-    /// InvalidParameter for no values, an unknown type or a value that is not of its type,
-    /// AlreadyExists for a property listed twice, BadLength if the record would be larger than
-    /// 20 MB. Strings are kept up to their first NUL.
+    /// NotFound if there is no such record, InvalidParameter for no values, a property that the
+    /// database does not have or a value that is not of its type, AlreadyExists for a property
+    /// listed twice, BadLength if the record would be larger than 20 MB. Strings are kept up to
+    /// their first NUL.
     [[nodiscard]] Result<ObjectId> Write(ObjectId oid, std::span<const PropertyValue> values);
     /// NotFound if there is no such record.
     [[nodiscard]] Result<void> DeleteRecord(ObjectId oid);

@@ -96,11 +96,14 @@ struct Record
     explicit operator bool() const { return oid != kNoObject; }
 };
 
-/// A declared property of a database: its identifier and its name.
+/// A property that the records of a database can have, from its creation on.
 struct PropertySpec
 {
     PropertyId id {};
     QString name;
+    /// False for one that is read and written as any other but not told of as a property of the
+    /// database.
+    bool isDeclared = true;
 };
 
 /// The one key by which a database keeps its records: ascending by 16-bit unit for strings and by

@@ -8,6 +8,9 @@
 
 namespace Quillory {
 
+/// Ends the program, which took no failure for one.
+[[noreturn]] void EndForWantOfFailure();
+
 /// A value, or the number that says why there is none.
 template <typename T> class [[nodiscard]] Result
 {
@@ -15,9 +18,13 @@ public:
     Result(T value) // NOLINT(google-explicit-constructor): a function returns its value as it is
         : m_state(std::move(value))
     { }
+    /// ErrorNumber::None, which is neither a failure nor a value, ends the program.
     Result(ErrorNumber error) // NOLINT(google-explicit-constructor): or its failure
         : m_state(error)
-    { }
+    {
+        if (error == ErrorNumber::None)
+            EndForWantOfFailure();
+    }
 
     [[nodiscard]] bool IsOk() const { return std::holds_alternative<T>(m_state); }
     explicit operator bool() const { return IsOk(); }
@@ -58,3 +65,29 @@ private:
 };
 
 } // namespace Quillory
+
+/// Evaluates an expression that gives a Result. Where that is a failure, the function ends with it;
+/// its own result can be made from an ErrorNumber. A statement:
+///
+///     QUILLORY_TRY(file.VerifyInPlace());
+#define QUILLORY_TRY(...)                                                                          \
+    if (const auto triedResult = (__VA_ARGS__); !triedResult)                                      \
+    return triedResult.Error()
+
+/// The same, and gives the value to a variable that it declares, or that there is. Several
+/// statements, so that it cannot be the only one of an if or a loop without braces:
+///
+///     QUILLORY_TRY_VALUE(const qint64 version, ReadFileVersion());
+#define QUILLORY_TRY_VALUE(variable, ...)                                                          \
+    QUILLORY_TRY_VALUE_BY(variable, QUILLORY_JOIN(triedResult, __LINE__), (__VA_ARGS__))
+
+// Neither names nor declarations can stand in parentheses.
+// NOLINTBEGIN(bugprone-macro-parentheses)
+#define QUILLORY_TRY_VALUE_BY(variable, result, expression)                                        \
+    auto result = expression;                                                                      \
+    if (!result)                                                                                   \
+        return result.Error();                                                                     \
+    variable = std::move(*result)
+// NOLINTEND(bugprone-macro-parentheses)
+#define QUILLORY_JOIN(first, second) QUILLORY_JOIN_NAMES(first, second)
+#define QUILLORY_JOIN_NAMES(first, second) first##second

@@ -2,11 +2,12 @@
 #include "propdb/volume.h"
 
 #include "propdb/database.h"
-#include "propdb/database_state.h"
-#include "propdb/outside_change.h"
-#include "propdb/sqlite_error.h"
-#include "propdb/volume_check.h"
-#include "propdb/volume_state.h"
+#include "propdb/detail/database_state.h"
+#include "propdb/detail/outside_change.h"
+#include "propdb/detail/sqlite_error.h"
+#include "propdb/detail/volume_check.h"
+#include "propdb/detail/volume_state.h"
+#include "propdb/volume_path.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -16,7 +17,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <limits>
 #include <set>
 #include <utility>
 
@@ -33,16 +33,9 @@ Result<void> CreateVolume(const QByteArray& path)
     const auto removeUnfinished = qScopeGuard([&] { unlink(unfinished.constData()); });
     {
         const ConfinedVfs::Permit permit(unfinished);
-        auto connection = OpenConnection(unfinished, VolumeAccess::Exclusive, true, true);
-        if (!connection)
-            return connection.Error();
-        Result<void> done = Execute(connection->get(), "BEGIN IMMEDIATE");
-        if (done)
-            done = CreateVolumeSchema(connection->get());
-        if (done)
-            done = Execute(connection->get(), "COMMIT");
-        if (!done)
-            return done;
+        QUILLORY_TRY_VALUE(
+            auto connection, OpenConnection(unfinished, VolumeAccess::Exclusive, true, true));
+        QUILLORY_TRY(CreateVolumeSchema(connection.get()));
     }
     return PublishFile(unfinished, path);
 }
@@ -61,7 +54,7 @@ Result<VolumeFile> OpenOrCreate(
 }
 
 /// What a database must be like to be made.
-ErrorNumber CheckSpecs(std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
+Result<void> CheckSpecs(std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
 {
     std::set<PropertyId> ids;
     for (const PropertySpec& spec : specs) {
@@ -72,7 +65,8 @@ ErrorNumber CheckSpecs(std::span<const PropertySpec> specs, std::span<const Sort
     }
     const bool haveKeys = std::all_of(sortOrders.begin(), sortOrders.end(),
         [&ids](const SortOrder& order) { return ids.contains(order.key); });
-    const bool isSound = !specs.empty() && sortOrders.size() <= 1 && haveKeys;
+    const bool isSound = !specs.empty() && specs.size() <= kMaxDatabaseProperties
+        && sortOrders.size() <= 1 && haveKeys;
     return isSound ? ErrorNumber::None : ErrorNumber::InvalidParameter;
 }
 
@@ -82,183 +76,132 @@ Volume::Volume(std::unique_ptr<VolumeState> state)
     : m_state(std::move(state))
 { }
 
-Volume::~Volume()
-{
-    if (!m_state->isInTransaction)
-        return;
-    try {
-        m_state->Rollback();
-    } catch (...) {
-        // Most likely for want of memory: the connection's end undoes what was not committed.
-    }
-}
+Volume::~Volume() = default;
 
 Result<std::unique_ptr<Volume>> Volume::Mount(
     const QString& path, Disposition disposition, VolumeAccess access)
 {
-    const auto realPath = ResolveVolumePath(path);
-    if (!realPath)
-        return realPath.Error();
-    auto file = OpenOrCreate(*realPath, disposition, access);
-    if (!file)
-        return file.Error();
-    auto state = std::make_unique<VolumeState>(std::move(*file), *realPath, access);
+    QUILLORY_TRY_VALUE(const auto realPath, ResolveVolumePath(path));
+    QUILLORY_TRY_VALUE(auto file, OpenOrCreate(realPath, disposition, access));
+    auto state = std::make_unique<VolumeState>(std::move(file), realPath, access);
     if (const auto connected = state->Connect(); !connected) {
         // Looking at the file once more would drop the locks of its connection.
         state.reset();
         const bool isWhole
-            = connected.Error() == ErrorNumber::FileCorrupt && WasChangedOutside(*realPath);
+            = connected.Error() == ErrorNumber::FileCorrupt && WasChangedOutside(realPath);
         return isWhole ? ErrorNumber::ChangedOutside : connected.Error();
     }
     std::unique_ptr<Volume> volume(new Volume(std::move(state)));
-    if (volume->m_state->file.HasJournal()) {
-        const auto faults = volume->Check();
-        if (!faults)
-            return faults.Error();
-        if (!faults->empty())
+    if (volume->m_state->File().HasJournal()) {
+        QUILLORY_TRY_VALUE(const auto faults, volume->Check());
+        if (!faults.empty())
             return ErrorNumber::FileCorrupt;
         // A journal that only looks like the file's does not make it whole.
-        if (const auto sized = volume->m_state->file.VerifySize(); !sized)
-            return sized.Error();
+        QUILLORY_TRY(volume->m_state->File().VerifySize());
     }
     return volume;
 }
 
 Result<std::vector<Volume::DatabaseInfo>> Volume::Databases()
 {
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed.Error();
+    QUILLORY_TRY_VALUE(const VolumeSchema* schema, m_state->Schema());
     std::vector<DatabaseInfo> infos;
-    for (const auto& [oid, schema] : m_state->schema.All())
-        infos.push_back({ schema->oid, schema->name, schema->type });
+    for (const auto& [oid, database] : schema->All())
+        infos.push_back({ database->oid, database->name, database->type });
     return infos;
 }
 
 Result<ObjectId> Volume::CreateDatabase(const QString& name, DatabaseType type,
     std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders)
 {
-    if (const ErrorNumber error = CheckSpecs(specs, sortOrders); error != ErrorNumber::None)
-        return error;
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed.Error();
-    if (m_state->schema.Find(name) != nullptr)
+    QUILLORY_TRY(CheckSpecs(specs, sortOrders));
+    QUILLORY_TRY_VALUE(const VolumeSchema* before, m_state->Schema());
+    if (before->Find(name) != nullptr)
         return ErrorNumber::DuplicateName;
-    if (const auto begun = m_state->BeginWrite(); !begun)
-        return begun.Error();
-    const auto oid = m_state->AllocateOid();
-    auto schema = std::make_shared<DatabaseSchema>();
-    Result<void> done = oid ? m_state->BeginSchemaChange() : oid.Error();
-    if (done) {
-        schema->oid = *oid;
-        schema->name = name;
-        schema->type = type;
-        schema->tableName = MakeTableName(name, *oid);
-        schema->sortOrders.assign(sortOrders.begin(), sortOrders.end());
+    return m_state->ChangeSchema([&](VolumeSchema& schema) -> Result<ObjectId> {
+        QUILLORY_TRY_VALUE(const ObjectId oid, m_state->AllocateOid());
+        const auto database = std::make_shared<DatabaseSchema>();
+        database->oid = oid;
+        database->name = name;
+        database->type = type;
+        database->tableName = MakeTableName(name, oid);
+        database->sortOrders.assign(sortOrders.begin(), sortOrders.end());
         for (const PropertySpec& spec : specs)
-            schema->properties.push_back(MakeColumn(*schema, spec, true));
-        m_state->schema.Insert(schema);
-        done = CreateDatabaseSchema(m_state->connection.get(), *schema);
-    }
-    if (const auto ended = m_state->EndWrite(done); !ended)
-        return ended.Error();
-    return schema->oid;
-}
-
-bool Volume::IsOpen(ObjectId database) const
-{
-    const auto& open = m_state->openDatabases;
-    return std::any_of(open.begin(), open.end(),
-        [database](const DatabaseState* state) { return state->schema->oid == database; });
+            database->properties.push_back(MakeColumn(*database, spec));
+        schema.Insert(database);
+        QUILLORY_TRY(CreateDatabaseSchema(m_state->Connection(), *database));
+        return oid;
+    });
 }
 
 Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseType type)
 {
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed;
-    const auto schema = m_state->schema.Find(oid);
-    if (schema == nullptr)
+    QUILLORY_TRY_VALUE(const VolumeSchema* before, m_state->Schema());
+    const auto database = before->Find(oid);
+    if (database == nullptr)
         return ErrorNumber::NotFound;
-    const auto namesake = m_state->schema.Find(name);
-    if (namesake != nullptr && namesake != schema)
+    const auto namesake = before->Find(name);
+    if (namesake != nullptr && namesake != database)
         return ErrorNumber::DuplicateName;
-    if (IsOpen(oid))
+    if (m_state->IsOpen(oid))
         return ErrorNumber::SharingViolation;
-    if (const auto begun = m_state->BeginWrite(); !begun)
-        return begun;
-    Result<void> done = m_state->BeginSchemaChange();
-    if (done) {
-        m_state->schema.Rename(*schema, name, type);
-        done = RenameDatabaseSchema(m_state->connection.get(), *schema);
-    }
-    return m_state->EndWrite(done);
+    return m_state->ChangeSchema([&](VolumeSchema& schema) {
+        schema.Rename(*database, name, type);
+        return RenameDatabaseSchema(m_state->Connection(), *database);
+    });
 }
 
 Result<void> Volume::DeleteDatabase(ObjectId oid)
 {
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed;
-    const auto schema = m_state->schema.Find(oid);
-    if (schema == nullptr)
+    QUILLORY_TRY_VALUE(const VolumeSchema* before, m_state->Schema());
+    const auto database = before->Find(oid);
+    if (database == nullptr)
         return ErrorNumber::NotFound;
-    if (IsOpen(oid))
+    if (m_state->IsOpen(oid))
         return ErrorNumber::SharingViolation;
-    if (const auto begun = m_state->BeginWrite(); !begun)
-        return begun;
-    Result<void> done = m_state->BeginSchemaChange();
-    if (done) {
-        m_state->schema.Remove(*schema);
-        done = DropDatabaseSchema(m_state->connection.get(), *schema);
-    }
-    return m_state->EndWrite(done);
+    return m_state->ChangeSchema([&](VolumeSchema& schema) {
+        schema.Remove(*database);
+        return DropDatabaseSchema(m_state->Connection(), *database);
+    });
 }
 
 Result<std::unique_ptr<Database>> Volume::OpenDatabase(
     const QString& name, const SortOrder& sortOrder)
 {
-    if (const auto refreshed = m_state->RefreshSchema(); !refreshed)
-        return refreshed.Error();
-    const auto schema = m_state->schema.Find(name);
-    if (schema == nullptr)
+    QUILLORY_TRY_VALUE(const VolumeSchema* schema, m_state->Schema());
+    const auto database = schema->Find(name);
+    if (database == nullptr)
         return ErrorNumber::FileNotFound;
-    const auto& orders = schema->sortOrders;
+    const auto& orders = database->sortOrders;
     if (std::find(orders.begin(), orders.end(), sortOrder) == orders.end())
         return ErrorNumber::InvalidParameter;
-    return std::make_unique<Database>(std::make_unique<DatabaseState>(*m_state, schema, sortOrder));
+    return std::make_unique<Database>(
+        std::make_unique<DatabaseState>(*m_state, database, sortOrder));
 }
 
 Result<void> Volume::BeginTransaction()
 {
-    if (m_state->isInTransaction)
-        return ErrorNumber::AlreadyExists;
-    const auto begun = m_state->Begin();
-    m_state->isInTransaction = begun.IsOk();
-    return begun;
+    return m_state->BeginTransaction();
 }
 
 Result<void> Volume::EndTransaction(bool commit)
 {
-    if (!m_state->isInTransaction)
-        return ErrorNumber::InvalidHandle;
-    m_state->isInTransaction = false;
-    if (commit)
-        return m_state->Commit();
-    m_state->Rollback();
-    return {};
+    return m_state->EndTransaction(commit);
 }
 
 bool Volume::HasChanged() const
 {
-    return m_state->hasCommitted;
+    return m_state->Transactions().HasCommitted();
 }
 
 QString Volume::JournalPutAside() const
 {
-    return QFile::decodeName(m_state->file.JournalPutAside());
+    return QFile::decodeName(m_state->File().JournalPutAside());
 }
 
 Result<void> Volume::VerifyInPlace() const
 {
-    return m_state->file.VerifyInPlace();
+    return m_state->File().VerifyInPlace();
 }
 
 Result<std::vector<QString>> Volume::Check()
@@ -273,24 +216,20 @@ Result<std::vector<QString>> Volume::CheckPages()
 
 Result<void> Volume::Backup(const QString& path)
 {
-    const auto target = ResolveVolumePath(path);
-    if (!target)
-        return target.Error();
-    if (access(target->constData(), F_OK) == 0)
+    QUILLORY_TRY_VALUE(const auto target, ResolveVolumePath(path));
+    if (access(target.constData(), F_OK) == 0)
         return ErrorNumber::FileExists;
-    const QByteArray unfinished = UnfinishedName(*target);
+    const QByteArray unfinished = UnfinishedName(target);
     const auto removeUnfinished = qScopeGuard([&] { unlink(unfinished.constData()); });
     {
         const ConfinedVfs::Permit permit(unfinished);
-        auto copy = OpenConnection(unfinished, VolumeAccess::Exclusive, true, true);
-        if (!copy)
-            return copy.Error();
-        if (const auto taken = m_state->file.GiveModeTo(unfinished); !taken)
-            return taken;
+        QUILLORY_TRY_VALUE(
+            auto copy, OpenConnection(unfinished, VolumeAccess::Exclusive, true, true));
+        QUILLORY_TRY(m_state->File().GiveModeTo(unfinished));
         sqlite3_backup* backup
-            = sqlite3_backup_init(copy->get(), "main", m_state->connection.get(), "main");
+            = sqlite3_backup_init(copy.get(), "main", m_state->Connection(), "main");
         if (backup == nullptr)
-            return ErrorFromSqlite(sqlite3_extended_errcode(copy->get()), copy->get());
+            return ErrorFromSqlite(sqlite3_extended_errcode(copy.get()), copy.get());
         // Between two steps a change may come in; the copy then begins again.
         constexpr int kPagesAtOnce = 256;
         constexpr int kPatienceMs = 10'000;
@@ -300,9 +239,9 @@ Result<void> Volume::Backup(const QString& path)
             stepCode = sqlite3_backup_step(backup, patience.hasExpired() ? -1 : kPagesAtOnce);
         const int code = sqlite3_backup_finish(backup);
         if (stepCode != SQLITE_DONE)
-            return ErrorFromSqlite(code == SQLITE_OK ? stepCode : code, copy->get());
+            return ErrorFromSqlite(code == SQLITE_OK ? stepCode : code, copy.get());
     }
-    return PublishFile(unfinished, *target);
+    return PublishFile(unfinished, target);
 }
 
 } // namespace Quillory

@@ -10,7 +10,7 @@
 namespace Quillory {
 
 class Database;
-struct VolumeState;
+class VolumeState;
 
 /// What to do about a missing file.
 enum class Disposition
@@ -33,8 +33,8 @@ enum class VolumeAccess
 ///
 /// Opening trusts nothing in the file: what is foreign, newer or damaged is refused with its reason
 /// and left byte for byte as it was. A journal that is not this file's is given another name, not
-/// played back. At rest a volume is one file; while it is written there is a
-/// journal beside it, which must never be moved or deleted.
+/// played back. At rest a volume is one file; while it is written there is a journal beside it,
+/// which must never be moved or deleted.
 class Volume
 {
 public:
@@ -63,7 +63,8 @@ public:
     [[nodiscard]] Result<std::vector<DatabaseInfo>> Databases();
 
     /// Makes a database. DuplicateName if one is so named, AlreadyExists if two properties have one
-    /// identifier, InvalidParameter for no or unknown properties or more than one sort order.
+    /// identifier, InvalidParameter for none, unknown ones or more than 511, and for more than one
+    /// sort order.
     [[nodiscard]] Result<ObjectId> CreateDatabase(const QString& name, DatabaseType type,
         std::span<const PropertySpec> specs, std::span<const SortOrder> sortOrders);
     /// Gives a database another name and type; its identifier and records stay. NotFound,
@@ -79,12 +80,12 @@ public:
 
     /// Until the end of a transaction nothing of what is written is durable, and all of it is
     /// undone if the transaction ends without a commit. A call that fails leaves nothing of itself
-    /// behind, and the transaction goes on without it. AlreadyExists if one is running.
+    /// behind, and the transaction goes on without it; a failure of the medium, or amid the making,
+    /// renaming or deleting of a database, may undo all of it. AlreadyExists if one is running.
     [[nodiscard]] Result<void> BeginTransaction();
-    /// InvalidHandle if none is running, and for a commit after a failure that has undone it all
-    /// (of the medium, or for want of memory). No transaction is running afterwards, whatever this
-    /// gives. Of one whose commit failed nothing is kept, unless the medium does not answer any
-    /// more: then either all or nothing is.
+    /// InvalidHandle if none is running, and for a commit after a failure that has undone it all.
+    /// No transaction is running afterwards, whatever this gives. Of one whose commit failed
+    /// nothing is kept, unless the medium does not answer any more: then either all or nothing is.
     [[nodiscard]] Result<void> EndTransaction(bool commit);
     /// Whether anything was committed since the volume was mounted, be it an empty transaction.
     [[nodiscard]] bool HasChanged() const;
@@ -106,8 +107,6 @@ private:
     explicit Volume(std::unique_ptr<VolumeState> state);
 
     std::unique_ptr<VolumeState> m_state;
-
-    [[nodiscard]] bool IsOpen(ObjectId database) const;
 };
 
 } // namespace Quillory

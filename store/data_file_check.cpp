@@ -27,18 +27,15 @@ Result<void> CheckLists(Volume& volume, QSet<QString>& rows, QStringList& faults
     }
     const std::vector<PropertySpec> properties = (*lists)->Properties();
     for (const PropertySpec& spec : ListCatalogue::RecordProperties()) {
-        if (std::ranges::find(properties, spec.id, &PropertySpec::id) == properties.end())
+        if (spec.isDeclared
+            && std::ranges::find(properties, spec.id, &PropertySpec::id) == properties.end())
             faults << u"the list of lists lacks its column “%1”"_s.arg(spec.name);
     }
-    const auto oids = (*lists)->ListRecords();
-    if (!oids)
-        return oids.Error();
-    for (const ObjectId oid : *oids) {
+    QUILLORY_TRY_VALUE(const auto oids, (*lists)->ListRecords());
+    for (const ObjectId oid : oids) {
         const auto place = (*lists)->SeekTo(oid);
-        const auto record = place ? (*lists)->ReadAll() : place.Error();
-        if (!record)
-            return record.Error();
-        const InventoryList list = ListCatalogue::DefinitionOf(record->values);
+        QUILLORY_TRY_VALUE(const auto record, place ? (*lists)->ReadAll() : place.Error());
+        const InventoryList list = ListCatalogue::DefinitionOf(record.values);
         if (list.Name.isEmpty())
             faults << u"a list has no name"_s;
         if (!rows.remove(list.MapName))
@@ -60,13 +57,11 @@ Result<bool> AreRowsSound(Volume& volume, const QString& name)
 
 Result<QStringList> CheckCatalogue(Volume& volume)
 {
-    const auto databases = volume.Databases();
-    if (!databases)
-        return databases.Error();
+    QUILLORY_TRY_VALUE(const auto databases, volume.Databases());
     QStringList faults;
     QSet<QString> rows;
     int catalogues = 0;
-    for (const Info& info : *databases) {
+    for (const Info& info : databases) {
         const bool isCatalogue = info.type == ListCatalogue::kCatalogueType;
         const bool isSetAside = info.type == ListCatalogue::kDeletedRowsType;
         catalogues += isCatalogue ? 1 : 0;
@@ -76,20 +71,18 @@ Result<QStringList> CheckCatalogue(Volume& volume)
             faults << u"the table “%1” is of another kind than its name"_s.arg(info.name);
             continue;
         }
-        const auto isSound = isCatalogue ? Result<bool>(true) : AreRowsSound(volume, info.name);
+        QUILLORY_TRY_VALUE(
+            const auto isSound, isCatalogue ? Result<bool>(true) : AreRowsSound(volume, info.name));
         if (!isSound)
-            return isSound.Error();
-        if (!*isSound)
             faults << u"the rows of “%1” cannot be shown"_s.arg(info.name);
         if (info.type == ListCatalogue::kRowsType)
             rows.insert(info.name);
     }
-    if (catalogues != 1 && !databases->empty())
+    if (catalogues != 1 && !databases.empty())
         faults << u"there is no list of lists"_s;
-    if (!faults.isEmpty() || databases->empty())
+    if (!faults.isEmpty() || databases.empty())
         return faults;
-    if (const auto checked = CheckLists(volume, rows, faults); !checked)
-        return checked.Error();
+    QUILLORY_TRY(CheckLists(volume, rows, faults));
     for (const QString& name : std::as_const(rows))
         faults << u"no list has the rows “%1”"_s.arg(name);
     return faults;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/kept_copies.h"
 
-#include "propdb/volume_file.h"
+#include "propdb/volume_path.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -196,8 +196,7 @@ Result<KeepOutcome> KeepCopy(
         return ErrorNumber::DiskFull;
     if (!WriteOrigin(set, path))
         return ErrorNumber::WriteFault;
-    if (const auto copied = volume->Backup(set.filePath(NextName(set, now))); !copied)
-        return copied.Error();
+    QUILLORY_TRY(volume->Backup(set.filePath(NextName(set, now))));
     Prune(set, count);
     return KeepOutcome::Kept;
 }

@@ -163,9 +163,12 @@ ListCatalogue::OpenOutcome ListCatalogue::OpenCatalogue()
 {
     if (!m_volume.Exists(kCatalogueType) && !CreateCatalogue())
         return OpenOutcome::CannotCreateTable;
-    const bool isOpen
-        = m_volume.OpenSession() && m_volume.Open(kDatabaseName, kCatalogueType, kByListName);
-    return isOpen ? OpenOutcome::Opened : OpenOutcome::CannotOpen;
+    const auto open = [this] {
+        return m_volume.OpenSession() && m_volume.Open(kDatabaseName, kCatalogueType, kByListName);
+    };
+    if (open())
+        CompleteCatalogue();
+    return open() ? OpenOutcome::Opened : OpenOutcome::CannotOpen;
 }
 
 bool ListCatalogue::IsWithoutTables() const
@@ -178,7 +181,7 @@ bool ListCatalogue::IsWithoutTables() const
 
 std::span<const PropertySpec> ListCatalogue::RecordProperties()
 {
-    static const std::array<PropertySpec, 9> specs { {
+    static const std::array<PropertySpec, 10> specs { {
         { kName, u"Name"_s },
         { kMapName, u"MapName"_s },
         { kTableIcon, u"TableIcon"_s },
@@ -188,6 +191,7 @@ std::span<const PropertySpec> ListCatalogue::RecordProperties()
         { kTableColSizes, u"TableColSizes"_s },
         { kTableFilters, u"TableFilters"_s },
         { kTableExpiryColour, u"TableExpiryColour"_s },
+        { kColumnOrder, u"ColumnOrder"_s, false },
     } };
     return specs;
 }
@@ -197,6 +201,19 @@ bool ListCatalogue::CreateCatalogue()
     return m_volume.Create(
                kDatabaseName, kCatalogueType, RecordProperties(), std::span(&kByListName, 1))
         != kNoObject;
+}
+
+void ListCatalogue::CompleteCatalogue()
+{
+    if (m_volume.OpenDatabase(kCatalogueType)->Has(kColumnOrder)
+        || m_volume.RecordCount(kCatalogueType) != 0)
+        return;
+    Transaction transaction(m_volume);
+    const ObjectId catalogue = m_volume.DatabaseOid(kCatalogueType);
+    m_volume.Close(kCatalogueType);
+    // Where this fails the catalogue is as it was, and only the first list cannot be made.
+    if (transaction && m_volume.DeleteDatabase(catalogue) && CreateCatalogue())
+        transaction.Commit();
 }
 
 ListCatalogue::HomeListing ListCatalogue::FillHomeList()

@@ -36,7 +36,7 @@ public:
         CannotCreateTable,
         CannotOpen,
     };
-    /// The properties that a list's record is declared to have.
+    /// The properties that a list's record can have.
     [[nodiscard]] static std::span<const PropertySpec> RecordProperties();
 
     /// Opens the catalogue, making it in a fresh volume (not in one mounted for reading).
@@ -138,6 +138,9 @@ private:
     DataVolume& m_volume;
 
     bool CreateCatalogue();
+    /// Makes a catalogue without lists anew if the version that made it gave it its last property
+    /// only with the first list. One that has that property, or a list, stays as it is.
+    void CompleteCatalogue();
     bool CreateRowDatabase(InventoryList& definition);
     /// The set-aside rows of a list of this map name; kNoObject if there are none.
     [[nodiscard]] ObjectId DeletedRowsOf(const QString& mapName);

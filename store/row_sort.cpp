@@ -96,12 +96,11 @@ Result<std::vector<ObjectId>> SortByColumn(
     Database& database, const std::vector<ObjectId>& rows, PropertyId column, ScanOrder order)
 {
     const bool isText = ColumnTypeOf(column) == ColumnType::String;
-    const auto positions = (isText ? SortTexts : SortNumbers)(database, rows, column, order);
-    if (!positions)
-        return positions.Error();
+    QUILLORY_TRY_VALUE(
+        const auto positions, (isText ? SortTexts : SortNumbers)(database, rows, column, order));
     std::vector<ObjectId> sorted(rows.size());
     std::ranges::transform(
-        *positions, sorted.begin(), [&rows](quint32 position) { return rows[position]; });
+        positions, sorted.begin(), [&rows](quint32 position) { return rows[position]; });
     return sorted;
 }
 

@@ -2,7 +2,7 @@
 #include "store/salvage.h"
 
 #include "propdb/damaged_volume.h"
-#include "propdb/volume_file.h"
+#include "propdb/volume_path.h"
 #include "store/list_catalogue.h"
 #include "values/column_type.h"
 
@@ -69,7 +69,7 @@ public:
         for (const ColumnDefinition& column : list.columns)
             m_oldIds.push_back(column.id);
         m_error = Create(catalogue);
-        if (m_error == ErrorNumber::None && !m_data.BeginTransaction())
+        if (m_error == ErrorNumber::None && !m_transaction.emplace(m_data))
             m_error = m_data.LastError();
     }
 
@@ -90,7 +90,7 @@ public:
     }
     [[nodiscard]] Result<void> End()
     {
-        if (m_error == ErrorNumber::None && !m_data.EndTransaction(true))
+        if (m_error == ErrorNumber::None && !m_transaction->Commit())
             m_error = m_data.LastError();
         return m_error;
     }
@@ -100,6 +100,7 @@ private:
     InventoryList m_list;
     std::vector<PropertyId> m_oldIds;
     ErrorNumber m_error = ErrorNumber::None;
+    std::optional<Transaction> m_transaction;
 
     /// Columns get new identifiers, drawn at random.
     [[nodiscard]] ErrorNumber Create(ListCatalogue& catalogue)
@@ -130,9 +131,8 @@ Result<SalvageReport> Salvage(const DamagedVolume& volume, ListCatalogue* catalo
             if (writer)
                 writer->Write(record);
         });
-        const Result<void> written = writer ? writer->End() : Result<void>();
-        if (!written)
-            return written.Error();
+        if (writer)
+            QUILLORY_TRY(writer->End());
         report.lists.push_back({ list.Name, outcome.records, outcome.lostRecords,
             content.isComplete && outcome.lostPages == 0 });
         definitions.remove(content.info.name);
@@ -150,8 +150,7 @@ Result<SalvageReport> SalvageInto(
     DataVolume data;
     if (const auto error = data.Mount(path, Disposition::OpenAlways); error != ErrorNumber::None)
         return error;
-    if (const auto taken = TakeModeOf(QFile::encodeName(damaged), QFile::encodeName(path)); !taken)
-        return taken.Error();
+    QUILLORY_TRY(TakeModeOf(QFile::encodeName(damaged), QFile::encodeName(path)));
     ListCatalogue catalogue(data);
     if (catalogue.OpenCatalogue() != ListCatalogue::OpenOutcome::Opened)
         return data.LastError();
@@ -162,33 +161,25 @@ Result<SalvageReport> SalvageInto(
 
 Result<SalvageReport> ExamineLists(const QString& damaged)
 {
-    const auto volume = DamagedVolume::Open(damaged);
-    if (!volume)
-        return volume.Error();
-    return Salvage(*volume, nullptr);
+    QUILLORY_TRY_VALUE(const auto volume, DamagedVolume::Open(damaged));
+    return Salvage(volume, nullptr);
 }
 
 Result<SalvageReport> SalvageLists(const QString& damaged, const QString& target)
 {
-    const auto volume = DamagedVolume::Open(damaged);
-    if (!volume)
-        return volume.Error();
-    const auto path = ResolveVolumePath(target);
-    if (!path)
-        return path.Error();
-    if (QFile::exists(QFile::decodeName(*path)))
+    QUILLORY_TRY_VALUE(const auto volume, DamagedVolume::Open(damaged));
+    QUILLORY_TRY_VALUE(const auto path, ResolveVolumePath(target));
+    if (QFile::exists(QFile::decodeName(path)))
         return ErrorNumber::FileExists;
-    const QByteArray unfinished = UnfinishedName(*path);
+    const QByteArray unfinished = UnfinishedName(path);
     const auto removeUnfinished
         = qScopeGuard([&] { QFile::remove(QFile::decodeName(unfinished)); });
-    auto report = SalvageInto(*volume, damaged, QFile::decodeName(unfinished));
+    auto report = SalvageInto(volume, damaged, QFile::decodeName(unfinished));
     const bool isLost = report && (report->mayListsBeLost || !report->lostLists.isEmpty());
     if (isLost && report->lists.empty())
         return ErrorNumber::FileCorrupt;
-    if (report) {
-        if (const auto published = PublishFile(unfinished, *path); !published)
-            return published.Error();
-    }
+    if (report)
+        QUILLORY_TRY(PublishFile(unfinished, path));
     return report;
 }
 

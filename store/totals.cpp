@@ -26,10 +26,8 @@ QString TotalText(PropertyId column, double total)
 Result<std::vector<double>> Sum(Database& rows, std::span<const PropertyId> columns,
     const FilterSet* filters, const ValueContext& context)
 {
-    const auto listed = ListByName(rows);
-    if (!listed)
-        return listed.Error();
-    std::vector<RecordMap<double>> numbers(columns.size(), RecordMap<double>(*listed, 0.0));
+    QUILLORY_TRY_VALUE(const auto listed, ListByName(rows));
+    std::vector<RecordMap<double>> numbers(columns.size(), RecordMap<double>(listed, 0.0));
     const auto scanned = ScanFilteredInPlace(
         rows, columns, filters, context, ScanOrder::Any, [&numbers](const ScannedRecord& record) {
             for (size_t i = 0; i < numbers.size(); ++i)
@@ -42,7 +40,7 @@ Result<std::vector<double>> Sum(Database& rows, std::span<const PropertyId> colu
     totals.reserve(columns.size());
     for (const RecordMap<double>& column : numbers) {
         double total = 0;
-        for (const ObjectId row : *listed)
+        for (const ObjectId row : listed)
             total += column.Find(row);
         totals.push_back(total);
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "propdb/confined_vfs.h"
+#include "propdb/detail/confined_vfs.h"
 #include "tests/file_bytes.h"
 #include "tests/test_program.h"
 #include "tests/volume_fixture.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "propdb/confined_vfs.h"
+#include "propdb/detail/confined_vfs.h"
 #include "store/data_file_check.h"
 #include "tests/list_fixture.h"
 #include "tests/test_program.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "propdb/confined_vfs.h"
+#include "propdb/detail/confined_vfs.h"
 #include "store/kept_copies.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"

@@ -159,6 +159,32 @@ private Q_SLOTS:
         QVERIFY(told > 0);
     }
 
+    void aCatalogueOfAnEarlierVersionKeepsOrdersOfColumns()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"early.idb"_s);
+        const auto properties = ListCatalogue::RecordProperties();
+        const std::vector<quint32> order { 1, 0 };
+        for (const bool isEarly : { true, false }) {
+            DataVolume data;
+            ListCatalogue catalogue(data);
+            QCOMPARE(data.Mount(path, Disposition::OpenAlways), ErrorNumber::None);
+            InventoryList list = Named(u"Pantry"_s);
+            list.columnOrder = order;
+            if (isEarly)
+                data.Create(ListCatalogue::kDatabaseName, ListCatalogue::kCatalogueType,
+                    properties.first(properties.size() - 1),
+                    std::span(&ListCatalogue::kByListName, 1));
+            QCOMPARE(catalogue.OpenCatalogue(), ListCatalogue::OpenOutcome::Opened);
+            QCOMPARE(HomeList(catalogue), isEarly ? QString() : u"Pantry"_s);
+            if (isEarly)
+                QVERIFY(catalogue.CreateList(list).isCommitted);
+            QVERIFY(catalogue.OpenList(catalogue.FindList(u"Pantry"_s), list));
+            QCOMPARE(list.columnOrder, order);
+            QCOMPARE(data.PropertyCount(ListCatalogue::kCatalogueType), 9);
+        }
+    }
+
     void aListWithoutItsRowsCannotBeDeletedOrOpened()
     {
         ListFixture file;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "propdb/confined_vfs.h"
+#include "propdb/detail/confined_vfs.h"
 #include "store/salvage.h"
 #include "tests/file_bytes.h"
 #include "tests/list_fixture.h"
@@ -333,9 +333,9 @@ private Q_SLOTS:
     void whatIsAsItMustBeIsBelieved()
     {
         const Damage sound;
-        // Page 1 before its tree begins, where its cells do not reach, and the last bytes of the
+        // Page 1 before its tree begins and where its first record ends, and the last bytes of the
         // pages that say which lists and columns there are.
-        for (const auto& [page, from, size] : { std::tuple(0, 0, 100), { 0, 300, 100 },
+        for (const auto& [page, from, size] : { std::tuple(0, 0, 100), { 0, 4072, 16 },
                  { 2, 200, 100 }, { 3, 200, 16 }, { 2, 4088, 8 }, { 3, 4088, 8 } }) {
             Damage file;
             file.Lose(page, from, size);

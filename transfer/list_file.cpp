@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "transfer/list_file.h"
 
-#include "propdb/volume_file.h"
+#include "propdb/volume_path.h"
 
 #include <QFile>
 #include <QFileInfo>

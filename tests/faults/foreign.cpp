@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "propdb/confined_vfs.h"
+#include "propdb/detail/confined_vfs.h"
 #include "tests/faults/sealed_file.h"
 
 #include <sqlite3.h>

@@ -147,15 +147,26 @@ int CountHeapAllocations(const FaultRun& run, const Script& script, size_t step)
     return theHeap.count;
 }
 
+/// What the doomed process ends with if nothing can be written after a step that lacked memory.
+constexpr int kIsStuck = 3;
+
 /// What the doomed process does: an acknowledgement for each step that is done.
 void DoSteps(const FaultRun& run, const Script& script, size_t firstStep, int acknowledgements)
 {
     Session session;
     if (session.Start(run.DataFile()) != ErrorNumber::None)
         return;
-    for (size_t i = firstStep; i < script.steps.size(); ++i) {
-        if (!session.Run(script.steps[i]).isDone || write(acknowledgements, "+", 1) != 1)
-            return;
+    try {
+        for (size_t i = firstStep; i < script.steps.size(); ++i) {
+            if (!session.Run(script.steps[i]).isDone || write(acknowledgements, "+", 1) != 1)
+                return;
+        }
+    } catch (const std::bad_alloc&) {
+        // The window goes on after such a step.
+        theHeap = {};
+        if (!session.CanWrite())
+            _exit(kIsStuck);
+        throw;
     }
 }
 
@@ -187,7 +198,10 @@ Verdict ExhaustHeapAt(
     for (char sign = 0; read(ends[0], &sign, 1) == 1;)
         ++acknowledged;
     close(ends[0]);
-    waitpid(process, nullptr, 0);
+    int status = 0;
+    waitpid(process, &status, 0);
+    if (WIFEXITED(status) && WEXITSTATUS(status) == kIsStuck)
+        return [] { return u"no change can be made any more"_s; };
     return [&run, &script, acknowledged] { return Judge(run, script, acknowledged); };
 }
 

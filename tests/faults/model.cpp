@@ -175,7 +175,16 @@ void Model::ApplyToRow(List& list, const Step& step)
 
 void Model::ApplyImport(const Step& step, size_t rowCount)
 {
-    for (const ModelRow& row : std::span(step.rows).first(std::min(rowCount, step.rows.size())))
+    auto rows = step.rows;
+    rows.resize(std::min(rowCount, rows.size()));
+    // Each batch is stored in the order of names, which tells rows apart that are named alike
+    // later.
+    for (size_t begin = 0; begin < rows.size(); begin += kImportBatch) {
+        const auto batch
+            = std::span(rows).subspan(begin, std::min(kImportBatch, rows.size() - begin));
+        std::ranges::stable_sort(batch, {}, &ModelRow::name);
+    }
+    for (const ModelRow& row : rows)
         Add(*Find(step.list), row);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "propdb/confined_vfs.h"
+#include "propdb/detail/confined_vfs.h"
 #include "tests/faults/believer.h"
 #include "tests/faults/fault_run.h"
 #include "values/column_type.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/faults/sealed_file.h"
 
-#include "propdb/confined_vfs.h"
+#include "propdb/detail/confined_vfs.h"
 
 #include <QtEndian>
 

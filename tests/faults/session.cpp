@@ -188,6 +188,11 @@ Result<QByteArray> Session::Contents()
     return whole.toUtf8();
 }
 
+bool Session::CanWrite()
+{
+    return m_volume.BeginTransaction() && m_volume.EndTransaction(true);
+}
+
 ErrorNumber Session::Check()
 {
     const auto faults = m_volume.MountedVolume()->Check();

@@ -39,6 +39,8 @@ public:
     [[nodiscard]] std::vector<ListText> ReadLists();
     /// Every list with its options and rows, or why something is missing.
     [[nodiscard]] Result<QByteArray> Contents();
+    /// Whether a change, of nothing, is taken.
+    [[nodiscard]] bool CanWrite();
     /// What is wrong with what the file holds: None or FileCorrupt, or why it could not look.
     [[nodiscard]] ErrorNumber Check();
     /// The same as `quillory check` finds it, which reads free pages too.
