@@ -23,6 +23,8 @@ namespace {
 
 /// Screens narrower than this have no room for the dialog's list of places.
 constexpr int kNarrowScreen = 500;
+/// On smaller ones the dialog takes all there is.
+constexpr QSize kRoomyScreen(700, 600);
 
 /// Makes the controls of the toolkit's own dialog high enough for a finger.
 void FitToFingers(const QFileDialog& dialog)
@@ -40,12 +42,17 @@ void FitToFingers(const QFileDialog& dialog)
 /// Keeps the toolkit's own dialog, where the desktop brings none, on a phone's screen.
 void FitToScreen(QFileDialog& dialog)
 {
-    const QRect free = dialog.screen()->availableGeometry();
-    auto* places = dialog.findChild<QWidget*>(u"sidebar"_s);
-    if (places == nullptr || free.width() >= kNarrowScreen)
+    const QSize free = dialog.screen()->availableGeometry().size();
+    if (dialog.findChild<QWidget*>(u"sidebar"_s) == nullptr
+        || free.boundedTo(kRoomyScreen) == kRoomyScreen)
         return;
-    for (const auto& name : { u"sidebar"_s, u"lookInLabel"_s, u"forwardButton"_s,
-             u"listModeButton"_s, u"detailModeButton"_s }) {
+    QStringList spares;
+    if (free.width() < kNarrowScreen)
+        spares << u"sidebar"_s << u"lookInLabel"_s << u"forwardButton"_s << u"listModeButton"_s
+               << u"detailModeButton"_s;
+    if (free.width() < kNarrowPage)
+        spares << u"backButton"_s << u"fileNameLabel"_s << u"fileTypeLabel"_s;
+    for (const QString& name : spares) {
         if (auto* spare = dialog.findChild<QWidget*>(name))
             spare->hide();
     }

@@ -30,14 +30,16 @@ constexpr int kFirstYear = 1601;
 
 constexpr int kDays = 7;
 
-/// Days that fingers can hit, in the colours of the palette alone.
-void DressCalendar(QCalendarWidget* calendar)
+/// Days that fingers can hit where `room` allows it, in the colours of the palette alone.
+void DressCalendar(QCalendarWidget* calendar, const QSize& room)
 {
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     // Dates are typed in the field; what is begun here would be lost, memory with it, on closing.
     calendar->setDateEditEnabled(false);
-    calendar->setMinimumWidth(kDays * kMinTouchTarget);
-    calendar->setMinimumHeight(kDays * kMinTouchTarget);
+    const QSize usual = QSize(kDays, kDays) * kMinTouchTarget;
+    calendar->setFont(FontFitting(
+        calendar->font(), QString(4 * kDays, u'0'), std::min(room.width(), usual.width())));
+    calendar->setFixedSize(calendar->minimumSizeHint().expandedTo(usual).boundedTo(room));
     // The cells of lists have room around their texts; here that would leave none for the days.
     calendar->setStyleSheet(u"QTableView::item { padding: 0; }"
                             "#qt_calendar_prevmonth, #qt_calendar_nextmonth {"
@@ -173,11 +175,13 @@ void DateField::OpenCalendar()
     auto* calendar = new QCalendarWidget(popup);
     calendar->setObjectName(u"calendar"_s);
     calendar->setAccessibleName(accessibleName());
-    DressCalendar(calendar);
+    const QRect room = screen()->availableGeometry();
+    constexpr int kFrame = 1;
+    DressCalendar(calendar, room.size() - 2 * QSize(kFrame, kFrame));
     calendar->setMinimumDate(QDate(kFirstYear, 1, 1));
     calendar->setSelectedDate(Read(Entry()).value_or(m_context.clock().date));
     auto* layout = new QVBoxLayout(popup);
-    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setContentsMargins(kFrame, kFrame, kFrame, kFrame);
     layout->addWidget(calendar);
     const auto pick = [this, popup](QDate date) {
         popup->close();
@@ -189,7 +193,6 @@ void DateField::OpenCalendar()
     connect(popup, &QObject::destroyed, m_edit, [this] { m_edit->setFocus(Qt::PopupFocusReason); });
 
     const QSize size = popup->sizeHint();
-    const QRect room = screen()->availableGeometry();
     QPoint place = mapToGlobal(QPoint(width() - size.width(), height()));
     if (place.y() + size.height() > room.bottom())
         place.setY(mapToGlobal(QPoint()).y() - size.height());
