@@ -2,6 +2,7 @@
 #include "app/home_list.h"
 
 #include "res/string_table.h"
+#include "widgets/empty_hint.h"
 #include "widgets/line_delegate.h"
 #include "widgets/line_view.h"
 #include "widgets/measures.h"
@@ -9,7 +10,6 @@
 #include "widgets/touch.h"
 
 #include <QHeaderView>
-#include <QLabel>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -60,10 +60,9 @@ HomeList::HomeList(QWidget* parent)
     : Page(QString(), parent)
     , m_model(new HomeListModel(this))
     , m_view(new QTreeView(this))
-    , m_hint(new QLabel(m_view->viewport()))
 {
     BuildView();
-    BuildHint();
+    (new EmptyHint(m_view))->Say(tr("No lists yet. Tap New to make one."));
     ConnectView();
     SetSoftKeys(SoftKeysOf(MenuBar::Main), MenuEntries(MenuId::Main));
 }
@@ -98,24 +97,6 @@ void HomeList::resizeEvent(QResizeEvent* event)
 {
     m_view->header()->setMinimumHeight(FrameMeasures(height()).headerHeight);
     Page::resizeEvent(event);
-}
-
-void HomeList::BuildHint()
-{
-    m_hint->setObjectName(u"hint"_s);
-    m_hint->setText(tr("No lists yet. Tap New to make one."));
-    m_hint->setAlignment(Qt::AlignCenter);
-    m_hint->setWordWrap(true);
-    m_hint->setMargin(kPageMargin);
-    m_hint->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_hint->setForegroundRole(QPalette::Dark);
-    m_hint->hide();
-    auto* room = new QVBoxLayout(m_view->viewport());
-    room->addWidget(m_hint);
-    const auto update = [this] { m_hint->setVisible(m_model->rowCount() == 0); };
-    connect(m_model, &QAbstractItemModel::modelReset, this, update);
-    connect(m_model, &QAbstractItemModel::rowsInserted, this, update);
-    connect(m_model, &QAbstractItemModel::rowsRemoved, this, update);
 }
 
 void HomeList::ConnectView()

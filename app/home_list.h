@@ -4,7 +4,6 @@
 #include "app/home_list_model.h"
 #include "widgets/page.h"
 
-class QLabel;
 class QTreeView;
 
 namespace Quillory {
@@ -51,11 +50,9 @@ protected:
 private:
     HomeListModel* m_model;
     QTreeView* m_view;
-    QLabel* m_hint;
     SortDirection m_direction = SortDirection::Ascending;
 
     void BuildView();
-    void BuildHint();
     void ConnectView();
     void Sort();
     void FlipDirection();

@@ -10,6 +10,7 @@
 #include "widgets/form.h"
 #include "widgets/measures.h"
 
+#include <QEvent>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>

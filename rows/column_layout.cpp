@@ -93,7 +93,9 @@ void ColumnLayout::Measure()
     for (int column = 0; column < m_header.count(); ++column) {
         const ColumnDefinition& definition = m_list.columns[static_cast<size_t>(column)];
         const int sample = metrics.horizontalAdvance(SampleText(ColumnTypeOf(definition.id)));
-        const int title = metrics.horizontalAdvance(definition.name);
+        // With room for the mark of the order.
+        const int title = metrics.horizontalAdvance(definition.name)
+            + m_header.style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &m_header);
         m_needs[static_cast<size_t>(column)]
             = std::max(std::max(sample, title) + 2 * kGrid + kGrid / 2, m_view.NeedOf(column));
     }

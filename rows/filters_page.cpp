@@ -5,6 +5,7 @@
 #include "res/string_table.h"
 #include "rows/filter_page.h"
 #include "values/column_type.h"
+#include "widgets/empty_hint.h"
 #include "widgets/line_delegate.h"
 #include "widgets/line_view.h"
 #include "widgets/page_stack.h"
@@ -56,6 +57,7 @@ void FiltersPage::BuildTable()
     m_view->horizontalHeader()->hide();
     m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     new TouchBehaviour(m_view);
+    (new EmptyHint(m_view))->Say(tr("No filters yet. Tap Add to make one."));
     Body()->addWidget(m_view, 1);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rows/rows_model.h"
 
+#include "store/column_scan.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
 
@@ -215,6 +216,22 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const
     default:
         return {};
     }
+}
+
+QModelIndexList RowsModel::match(const QModelIndex& start, int /*role*/, const QVariant& value,
+    int /*hits*/, Qt::MatchFlags /*flags*/) const
+{
+    const std::vector<ObjectId> named = m_store.RowsNamed(value.toString());
+    if (named.empty())
+        return {};
+    const RowSet found(named);
+    const int lines = rowCount();
+    for (int i = 0; i < lines; ++i) {
+        const int line = (start.row() + i) % lines;
+        if (found.Contains(RowAt(line)))
+            return { index(line, start.column()) };
+    }
+    return {};
 }
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -47,6 +47,10 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    /// The line, from `start` on and round again, whose row has a name that begins with `value`:
+    /// what is typed in a list leads there. One scan of the names, not a look at each row.
+    [[nodiscard]] QModelIndexList match(const QModelIndex& start, int role, const QVariant& value,
+        int hits, Qt::MatchFlags flags) const override;
     [[nodiscard]] QVariant headerData(
         int section, Qt::Orientation orientation, int role) const override;
 

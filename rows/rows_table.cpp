@@ -27,11 +27,9 @@ RowsTable::RowsTable(RowsModel& model, const InventoryList& list, const ValueCon
     DressLineView(this);
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setSortIndicatorShown(true);
     horizontalHeader()->setMaximumSectionSize(kMaxColumnWidth);
 }
-
-void RowsTable::keyboardSearch(const QString& /*search*/)
-{ }
 
 int RowsTable::NeedOf(int column)
 {

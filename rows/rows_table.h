@@ -27,8 +27,6 @@ public:
 
     /// A line is as wide as the view: a place beside the columns is one of the first of them.
     [[nodiscard]] QModelIndex indexAt(const QPoint& position) const override;
-    /// Does nothing: looking for what was typed would read every row of the list.
-    void keyboardSearch(const QString& search) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

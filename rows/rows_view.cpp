@@ -10,6 +10,8 @@
 #include "rows/row_painter.h"
 #include "rows/rows_table.h"
 #include "rows/summary_page.h"
+#include "values/column_type.h"
+#include "widgets/empty_hint.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 #include "widgets/touch.h"
@@ -74,6 +76,7 @@ RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& cont
     , m_deleter([this](ObjectId row) { return m_store.DeleteRow(row); })
     , m_model(new RowsModel(rows, list, context, this))
     , m_view(new RowsTable(*m_model, list, context, options.hasAlternateLines, this))
+    , m_hint(new EmptyHint(m_view))
 {
     setObjectName(u"rows"_s);
     if (m_options.foundBy) {
@@ -155,6 +158,13 @@ void RowsView::Fill()
     const ObjectId selected = SelectedRow();
     m_model->SetRows(ReadRows());
     m_sortColumn.reset();
+    MarkSorted(PropName);
+    if (m_filters && !m_filters->entries.empty())
+        m_hint->Say(tr("No row meets the filters. Menu, Clear Filters shows all rows."));
+    else if (m_options.isReadOnly)
+        m_hint->Say(tr("This list has no rows."));
+    else
+        m_hint->Say(tr("No rows yet. Tap New to add one."));
     if (m_model->rowCount() > 0)
         Select(std::max(LineOf(selected), 0));
 }
@@ -256,9 +266,11 @@ void RowsView::NewRow()
 {
     OpenEditor(std::nullopt, [this](const std::vector<QString>& texts) {
         const ObjectId row = m_store.WriteNewRow(texts);
-        if (row != kNoObject)
-            m_model->Insert(m_model->rowCount(), row);
-        return row != kNoObject;
+        if (row == kNoObject)
+            return false;
+        m_model->Insert(m_model->rowCount(), row);
+        m_view->scrollToBottom();
+        return true;
     });
 }
 
@@ -328,11 +340,20 @@ void RowsView::AdjustCount(qint32 step)
         m_model->Refresh(line);
 }
 
+void RowsView::MarkSorted(PropertyId id)
+{
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (m_list.columns[static_cast<size_t>(column)].id == id)
+            m_view->horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
+    }
+}
+
 void RowsView::SortByColumn(int column)
 {
     const WaitCursor wait;
     const ObjectId selected = SelectedRow();
     m_sortColumn = m_list.columns[static_cast<size_t>(column)].id;
+    MarkSorted(*m_sortColumn);
     m_model->SetRows(m_store.SortRows(m_model->Rows(), *m_sortColumn).rows);
     if (const int line = LineOf(selected); line >= 0)
         Select(line);

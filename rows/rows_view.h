@@ -11,6 +11,7 @@
 namespace Quillory {
 
 class ColumnLayout;
+class EmptyHint;
 class RowsTable;
 
 struct RowsViewOptions
@@ -72,6 +73,7 @@ private:
     RowsModel* m_model;
     RowsTable* m_view;
     ColumnLayout* m_columns = nullptr;
+    EmptyHint* m_hint;
     /// The criteria of the rows shown; none once filters were cleared, as at first.
     std::optional<FilterSet> m_filters;
     bool m_isPartlyReadTold = false;
@@ -109,6 +111,8 @@ private:
     void SubtractOne() { AdjustCount(-1); }
     void AdjustCount(qint32 step);
     void SortByColumn(int column);
+    /// Marks the column by which the lines stand in order, always ascending.
+    void MarkSorted(PropertyId id);
     void TapCell(const QModelIndex& index);
     void DoubleTapCell(const QModelIndex& index);
     void ToggleCheckbox(int line, int column);

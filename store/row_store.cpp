@@ -75,6 +75,25 @@ Listing RowStore::FillFilteredRows(const FilterSet& filters)
     return listing;
 }
 
+std::vector<ObjectId> RowStore::RowsNamed(const QString& beginning)
+{
+    Database* database = m_volume.OpenDatabase(kRows);
+    std::vector<ObjectId> named;
+    if (database == nullptr)
+        return named;
+    PropertyValue name { PropName, 0, {} };
+    const std::array kIds { PropName };
+    const auto scanned
+        = database->ScanInPlace(kIds, ScanOrder::Any, [&](const ScannedRecord& record) {
+              record.Read(0, name);
+              const auto* text = std::get_if<QString>(&name.value);
+              if (text != nullptr && text->startsWith(beginning, Qt::CaseInsensitive))
+                  named.push_back(record.Oid());
+              return true;
+          });
+    return scanned ? named : std::vector<ObjectId>();
+}
+
 Listing RowStore::SortRows(std::vector<ObjectId> rows, PropertyId column)
 {
     Database* database = m_volume.OpenDatabase(kRows);

@@ -37,6 +37,9 @@ public:
     /// The rows that pass, in the order of names; a row that cannot be read ends the listing, as
     /// above.
     [[nodiscard]] Listing FillFilteredRows(const FilterSet& filters);
+    /// The rows whose names begin with a text, whatever its case, in no order; none where they
+    /// cannot be read.
+    [[nodiscard]] std::vector<ObjectId> RowsNamed(const QString& beginning);
     /// `rows` ordered by a column, ascending; rows equal in it keep their order. A missing value
     /// counts as 0, unchecked or the empty text. Reads the column once, not row by row. Where it
     /// cannot be read, `rows` as they were.

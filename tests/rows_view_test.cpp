@@ -6,6 +6,7 @@
 #include "tests/test_program.h"
 #include "values/file_date.h"
 
+#include <QLabel>
 #include <QScrollBar>
 
 #include <tuple>
@@ -163,6 +164,39 @@ private Q_SLOTS:
             QVERIFY(place.top() >= 0 && place.bottom() < View()->viewport()->height());
             QCOMPARE(View()->indexAt(place.center()), current);
         }
+    }
+
+    void whatIsTypedLeadsToAName()
+    {
+        for (const QString& name : { u"Salami"_s, u"semolina"_s })
+            File().Add({ name, u"1"_s, u"top"_s });
+        m_errand->Open();
+        Act(u"see Salami, rice, salt, semolina; tap Quantity; see rice, Salami, semolina, salt"_s);
+        const int pause = QApplication::keyboardInputInterval();
+        QApplication::setKeyboardInputInterval(50);
+        for (const auto& [typed, found] :
+            { std::pair(u"SE"_s, u"semolina"_s), { u"s"_s, u"salt"_s }, { u"s"_s, u"Salami"_s },
+                { u"sal"_s, u"salt"_s }, { u"x"_s, u"salt"_s }, { u"r"_s, u"rice"_s } }) {
+            Act(u"type "_s + typed + u"; on "_s + found);
+            QTest::qWait(100);
+        }
+        QApplication::setKeyboardInputInterval(pause);
+    }
+
+    void anEmptyListSaysWhatToDo()
+    {
+        for (const ObjectId row : File().rows->FillRows().rows)
+            File().rows->DeleteRow(row);
+        m_errand->Open();
+        const auto* hint = Page()->findChild<QLabel*>(u"hint"_s);
+        QVERIFY(hint->isVisible());
+        QCOMPARE(View()->accessibleDescription(), u"No rows yet. Tap New to add one."_s);
+        Act(u"tap New; see valueEdit: ; type rice; tap OK; see rice"_s);
+        QVERIFY(!hint->isVisible());
+        QCOMPARE(View()->accessibleDescription(), QString());
+        Act(u"tap Menu; tap Set Filters...; tap Add; fill valueEdit: zz; tap OK; tap OK; "
+            "see nothing"_s);
+        QVERIFY(View()->accessibleDescription().startsWith(u"No row meets"_s));
     }
 
     void aTapOnTheHeaderSorts()

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+class QAbstractItemView;
+
+namespace Quillory {
+
+/// What an empty list says in place of lines: what to do next. Assistive technology reads it as the
+/// description of the list.
+class EmptyHint : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// Belongs to the view, which has its model already.
+    explicit EmptyHint(QAbstractItemView* view);
+
+    /// What is said from now on, while there are no lines.
+    void Say(const QString& hint);
+
+private:
+    QAbstractItemView* m_view;
+
+    void Update();
+};
+
+} // namespace Quillory
