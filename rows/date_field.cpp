@@ -37,8 +37,8 @@ void DressCalendar(QCalendarWidget* calendar, const QSize& room)
     // Dates are typed in the field; what is begun here would be lost, memory with it, on closing.
     calendar->setDateEditEnabled(false);
     const QSize usual = QSize(kDays, kDays) * kMinTouchTarget;
-    calendar->setFont(FontFitting(
-        calendar->font(), QString(4 * kDays, u'0'), std::min(room.width(), usual.width())));
+    calendar->setFont(FontFitting(calendar->font(), QString(qsizetype { 4 } * kDays, u'0'),
+        std::min(room.width(), usual.width())));
     calendar->setFixedSize(calendar->minimumSizeHint().expandedTo(usual).boundedTo(room));
     // The cells of lists have room around their texts; here that would leave none for the days.
     calendar->setStyleSheet(u"QTableView::item { padding: 0; }"

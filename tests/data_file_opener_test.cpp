@@ -11,7 +11,7 @@
 
 namespace {
 
-using Outcome = DataFileOpener::Outcome;
+using OpenOutcome = DataFileOpener::Outcome;
 
 /// A start whose questions are answered from a list, and what came of it.
 class Start
@@ -21,7 +21,7 @@ public:
     void Run()
     {
         DataFileOpener opener(
-            m_catalogue, settings, Path(u"copies"_s), Answering(), [this](Outcome end) {
+            m_catalogue, settings, Path(u"copies"_s), Answering(), [this](OpenOutcome end) {
                 outcome = end;
                 ++ends;
             });
@@ -37,7 +37,7 @@ public:
     std::function<void()> beforeAnswer;
 
     QStringList shown;
-    std::optional<Outcome> outcome;
+    std::optional<OpenOutcome> outcome;
     int ends = 0;
 
 private:
@@ -81,7 +81,7 @@ private Q_SLOTS:
         start.chosen = start.Path();
         start.Run();
         QCOMPARE(start.shown, QStringList({ u"welcome"_s, u"chooser"_s }));
-        QCOMPARE(start.outcome, Outcome::Opened);
+        QCOMPARE(start.outcome, OpenOutcome::Opened);
         QCOMPARE(start.settings.DbPath, start.Path());
         QVERIFY(QFile::exists(start.Path()));
 
@@ -99,7 +99,7 @@ private Q_SLOTS:
         start.chosen = start.Path();
         MakeLists(start.Path(), { u"Pantry"_s });
         start.Run();
-        QCOMPARE(start.outcome, Outcome::Opened);
+        QCOMPARE(start.outcome, OpenOutcome::Opened);
         start.End();
         QCOMPARE(ListsIn(start.Path()), u"Pantry 0"_s);
     }
@@ -112,7 +112,7 @@ private Q_SLOTS:
         WriteFileBytes(start.Path(u"data.idb-journal"_s), "a letter");
         start.Run();
         QCOMPARE(start.shown, QStringList { u"Beside the data file lay"_s });
-        QCOMPARE(start.outcome, Outcome::Opened);
+        QCOMPARE(start.outcome, OpenOutcome::Opened);
         const QStringList aside
             = QFileInfo(start.Path()).dir().entryList({ u"data.idb-journal*"_s });
         QCOMPARE(aside.size(), 1);
@@ -124,7 +124,7 @@ private Q_SLOTS:
     {
         Start start;
         start.Run();
-        QCOMPARE(start.outcome, Outcome::NothingChosen);
+        QCOMPARE(start.outcome, OpenOutcome::NothingChosen);
         QCOMPARE(start.settings.DbPath, QString());
     }
 
@@ -136,7 +136,7 @@ private Q_SLOTS:
         start.chosen = start.Path(u"letter.txt"_s);
         start.Run();
         QCOMPARE(start.shown.last(), kFailure);
-        QCOMPARE(start.outcome, Outcome::Failed);
+        QCOMPARE(start.outcome, OpenOutcome::Failed);
         QCOMPARE(start.settings.DbPath, QString());
 
         // As the data file of earlier starts it stays named: it may be mended.
@@ -169,7 +169,7 @@ private Q_SLOTS:
             start.answers.append(answers);
             start.Run();
             QCOMPARE(start.shown, QStringList(answers.size(), kNoFile));
-            QCOMPARE(start.outcome, isMade ? Outcome::Opened : Outcome::Failed);
+            QCOMPARE(start.outcome, isMade ? OpenOutcome::Opened : OpenOutcome::Failed);
             QCOMPARE(QFile::exists(start.Path()), isMade);
             QCOMPARE(start.settings.DbPath, start.Path());
         }
@@ -186,13 +186,13 @@ private Q_SLOTS:
         };
         start.Run();
         QCOMPARE(start.shown, QStringList({ kNoFolder, kNoFolder, kNoFile }));
-        QCOMPARE(start.outcome, Outcome::Opened);
+        QCOMPARE(start.outcome, OpenOutcome::Opened);
 
         Start cancelled;
         cancelled.settings.DbPath = cancelled.Path(u"card/data.idb"_s);
         cancelled.answers.append(MessageAnswer::Cancel);
         cancelled.Run();
-        QCOMPARE(cancelled.outcome, Outcome::Failed);
+        QCOMPARE(cancelled.outcome, OpenOutcome::Failed);
         QVERIFY(!QFile::exists(cancelled.settings.DbPath));
     }
 };

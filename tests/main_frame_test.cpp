@@ -29,75 +29,32 @@ private Q_SLOTS:
         Act(u"at nothing; see nothing"_s);
     }
 
-    void whatIsDoneIsThereAfterARestart_data()
+    void errandsEndAsTheyAreWritten_data()
     {
-        const Table<QString, QString, QString> add;
-        add("a new list is there and selected, a cancelled one is not", u"Attic Zoo"_s,
-            u"tap New; type Pantry; tap OK; see Attic, Pantry, Zoo; on Pantry; tap New; tap Cancel"_s,
-            u"see Attic, Pantry, Zoo; on Attic"_s);
-        add("a list is renamed in place", u"Attic Pantry"_s,
-            u"tap Menu; tap Rename List; press Del Return; see Attic, Pantry; "
-            "tap Menu; tap Rename List; type Barn; press Esc; see Attic, Pantry; "
-            "tap Menu; tap Rename List; type Barn; press Return; see Barn, Pantry"_s,
-            u"see Barn, Pantry"_s);
-        add("a command takes over what is typed before it begins", u"Attic Pantry"_s,
-            u"tap Menu; tap Rename List; type Shed; tap Menu; tap List Properties...; tap OK; "
-            "see Pantry, Shed; on Shed"_s,
-            u"see Pantry, Shed"_s);
-        add("the header turns the order round", u"apple cherry Banana"_s,
-            u"tap Inventory List; see cherry, apple, Banana; on Banana; tap Inventory List"_s,
-            u"see Banana, apple, cherry"_s);
-        add("commands on a list need one", {},
-            u"tap Menu; see (List Properties...), (Rename List), (Import List...), "
-            "(Export List...), (Delete List...), (Delete All Records...), Open Read Only, "
-            "Options..., About...; press Esc; tap New; tap Cancel"_s,
-            u"see nothing"_s);
-        add("a list that was open is selected", u"Attic Pantry"_s,
-            u"tap Pantry; at Pantry; tap OK; at nothing; on Pantry; press Return; at Pantry"_s,
-            u"see Attic, Pantry"_s);
-        add("properties are the list's on OK alone", u"Attic Pantry"_s,
-            u"tap Menu; tap List Properties...; at Inventory List Options; "
-            "fill listName: Zoo; tap nextIcon; tap Cancel; see Attic, Pantry; "
-            "tap Menu; tap List Properties...; see listIcon: List; "
-            "fill listName: Zoo; tap nextIcon; tap OK; see Pantry, Zoo; on Zoo"_s,
-            u"see Pantry, Zoo; press Down; tap Menu; tap List Properties...; see listIcon: Box"_s);
-        add("options are kept on OK alone", u"Attic"_s,
-            u"tap Menu; tap Options...; cannot landscapeLeft; tap landscape; tap landscapeLeft; "
-            "tap alternateColour; tap OK; tap Menu; tap Options...; tap alternateColour; "
-            "tap Cancel"_s,
-            u"tap Menu; tap Options...; see landscape: ticked; see landscapeLeft: ticked; "
-            "see alternateColour: ticked"_s);
-        const QString ticked = u"tap Menu; see List Properties..., Rename List, Import List..., "
-                               "Export List..., Delete List..., Delete All Records..., %1, "
-                               "Options..., About..."_s;
-        add("lists are opened read-only", u"Attic"_s, u"tap Menu; tap Open Read Only"_s,
-            ticked.arg(u"*Open Read Only"_s) + u"; press Esc; tap Attic; cannot New"_s);
-        add("and not any more", u"Attic"_s,
-            u"tap Menu; tap Open Read Only; tap Menu; tap Open Read Only"_s,
-            ticked.arg(u"Open Read Only"_s));
+        const Table<QString> add;
+        const QString all
+            = QString::fromUtf8(FileBytes(QStringLiteral(QUILLORY_TEST_FOLDER "/errands.txt")));
+        for (const QString& errand : all.split(u"\n\n"_s))
+            add(qPrintable(errand.section(u'\n', 0, 0)), errand.trimmed());
     }
 
-    void whatIsDoneIsThereAfterARestart()
+    /// After its title an errand names its lists ("lists") and goes on by steps of a person, starts
+    /// anew ("restart"), and what the file holds at the end ("holds").
+    void errandsEndAsTheyAreWritten()
     {
-        const auto [lists, done, seen] = Table<QString, QString, QString>::Row();
-        FrameErrand errand(lists.split(u' ', Qt::SkipEmptyParts));
-        Act(done);
-        errand.Restart();
-        Act(seen);
-    }
-
-    void listsAndRowsAreDeletedOnlyOnYes()
-    {
-        FrameErrand errand(u"Pantry"_s, "Tea\t3\r\n");
-        const QString deleteRows = u"tap Menu; tap Delete All Records...; "
-                                   "see Do you want to delete all rows in list 'Pantry'?; "_s;
-        Act(u"tap OK; tap Menu; tap Delete List...; "
-            "see Do you want to delete list 'Pantry' and all its data?; tap No; see Pantry; "_s
-            + deleteRows + u"tap No"_s);
-        QCOMPARE(errand.ListsAtEnd(), u"Pantry 1"_s);
-        errand.Start();
-        Act(deleteRows + u"tap Yes; see Pantry"_s);
-        QCOMPARE(errand.ListsAtEnd(), u"Pantry 0"_s);
+        const auto [text] = Table<QString>::Row();
+        const QStringList lines = text.split(u'\n');
+        FrameErrand errand(lines[1].split(u' ', Qt::SkipEmptyParts).sliced(1));
+        for (const QString& line : lines.sliced(2)) {
+            if (line == u"restart")
+                errand.Restart();
+            else if (line.startsWith(u"holds "))
+                QCOMPARE(errand.ListsAtEnd(), line.sliced(6));
+            else
+                Act(line);
+            if (QTest::currentTestFailed())
+                return;
+        }
     }
 
     void aLaterStartOpensTheListItNames()

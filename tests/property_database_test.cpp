@@ -261,29 +261,6 @@ private Q_SLOTS:
         QCOMPARE(Take(rows.rows->SeekNext(1)), b);
     }
 
-    void aRollbackKeepsThePosition()
-    {
-        Rows rows;
-        const ObjectId b = rows.Add({ Text(u"b"_s) });
-        const ObjectId c = rows.Add({ Text(u"c"_s) });
-        const ObjectId d = rows.Add({ Text(u"d"_s) });
-        // On one that was deleted.
-        Take(rows.rows->SeekTo(c));
-        QVERIFY(rows.volume->BeginTransaction().IsOk());
-        QVERIFY(rows.rows->DeleteRecord(c).IsOk());
-        QVERIFY(rows.volume->EndTransaction(false).IsOk());
-        QCOMPARE(Take(rows.rows->ReadAll()).oid, c);
-        QCOMPARE(Take(rows.rows->SeekNext(1)), d);
-        // On one that was added, first and last.
-        for (const auto& [name, next] : { std::pair(u"a"_s, b), std::pair(u"e"_s, kNoObject) }) {
-            QVERIFY(rows.volume->BeginTransaction().IsOk());
-            Take(rows.rows->SeekTo(rows.Add({ Text(name) })));
-            QVERIFY(rows.volume->EndTransaction(false).IsOk());
-            QCOMPARE(rows.rows->ReadAll().Error(), ErrorNumber::NotFound);
-            QCOMPARE(Take(rows.rows->SeekNext(1)), next);
-        }
-    }
-
     void writingSomePropertiesLeavesTheOthers()
     {
         Rows rows;
@@ -452,33 +429,6 @@ private Q_SLOTS:
         QCOMPARE(pairs.size(), 1 + 2 + 3);
         QCOMPARE(counts(ScanOrder::Sorted), QStringList({ u"-"_s, u"2"_s, u"3"_s }));
         QCOMPARE(counts(ScanOrder::Any), QStringList({ u"2"_s, u"3"_s, u"-"_s }));
-    }
-
-    void aListingFollowsEveryWrite()
-    {
-        Rows rows;
-        const auto names = [&] {
-            QString text;
-            for (const ObjectId oid : Take(rows.rows->ListRecords())) {
-                const auto found = rows.rows->SeekTo(oid);
-                const auto record = rows.rows->Read(std::array { kRowName });
-                text += found && record ? std::get<QString>(record->values.front().value) : u"?"_s;
-            }
-            return text;
-        };
-        const ObjectId b = rows.Add({ Text(u"b"_s), Quantity(1) });
-        QCOMPARE(names(), u"b"_s);
-        const ObjectId a = rows.Add({ Text(u"a"_s) });
-        QCOMPARE(names(), u"ab"_s);
-        QVERIFY(rows.rows->Write(b, std::array { Quantity(2) }).IsOk());
-        QCOMPARE(names(), u"ab"_s);
-        QVERIFY(rows.volume->BeginTransaction().IsOk());
-        QVERIFY(rows.rows->Write(a, std::array { Text(u"c"_s) }).IsOk());
-        QCOMPARE(names(), u"bc"_s);
-        QVERIFY(rows.volume->EndTransaction(false).IsOk());
-        QCOMPARE(names(), u"ab"_s);
-        QVERIFY(rows.rows->DeleteRecord(a).IsOk());
-        QCOMPARE(names(), u"b"_s);
     }
 };
 

@@ -7,7 +7,6 @@
 #include "tests/test_program.h"
 
 #include <sqlite3.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <tuple>
@@ -174,24 +173,6 @@ class SalvageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void whatIsSavedTakesTheModeOfTheDamagedFile()
-    {
-        const Damage damage;
-        constexpr auto kOwnerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner
-            | QFileDevice::ReadUser | QFileDevice::WriteUser;
-        QVERIFY(QFile::setPermissions(damage.Path(), kOwnerOnly));
-        QVERIFY(SalvageLists(damage.Path(), damage.Target()).IsOk());
-        QCOMPARE(QFile::permissions(damage.Target()), kOwnerOnly);
-    }
-
-    void aPipeIsNotWaitedFor()
-    {
-        const QTemporaryDir folder;
-        const QString pipe = folder.filePath(u"pipe"_s);
-        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-        QCOMPARE(ExamineLists(pipe).Error(), ErrorNumber::BadFormat);
-    }
-
     void whatCanBeReadIsSaved()
     {
         enum Damaged
@@ -383,14 +364,6 @@ private Q_SLOTS:
         WriteFileBytes(file.Path() + u"-journal"_s, journal);
         QVERIFY(SalvageLists(file.Path(), file.Target()));
         QCOMPARE(Saved(file.Target()), kWhole);
-    }
-
-    void anExistingFileIsNotReplaced()
-    {
-        Damage file;
-        WriteFileBytes(file.Target(), "mine");
-        QCOMPARE(SalvageLists(file.Path(), file.Target()).Error(), ErrorNumber::FileExists);
-        QCOMPARE(FileBytes(file.Target()), "mine"_ba);
     }
 };
 

@@ -33,12 +33,6 @@ QByteArray SampleFile()
     return FileBytes(fixture.Path());
 }
 
-QByteArray WithByte(QByteArray bytes, qsizetype at, char value)
-{
-    bytes[at] = value;
-    return bytes;
-}
-
 /// Reads everything that the file holds; the first failure, or None.
 ErrorNumber ReadThrough(const QString& path)
 {
@@ -69,59 +63,6 @@ class VolumeFileTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void refusedFilesAreLeftAsTheyWere()
-    {
-        const QByteArray sample = SampleFile();
-        const std::pair<QByteArray, quint32> cases[] {
-            // No data file, one of another program, a newer one.
-            { {}, 11 }, { QByteArray("Larder\r\n").repeated(50), 11 },
-            { WithByte(sample, 68, 'X'), 11 }, { WithByte(sample, 63, 2), 50 },
-            // No version, a write-ahead log, another page size, no checksums, another encoding.
-            { WithByte(sample, 63, 0), 1392 }, { WithByte(sample, 18, 2), 1392 },
-            { WithByte(sample, 16, 8), 1392 }, { WithByte(sample, 20, 0), 1392 },
-            { WithByte(sample, 59, 1), 1392 },
-            // A damaged schema, a header without pages.
-            { WithByte(sample, 3000, 'x'), 1392 }, { sample.left(100), 1392 }
-        };
-        for (const auto& [bytes, number] : cases) {
-            for (const auto disposition : { Disposition::OpenExisting, Disposition::OpenAlways }) {
-                const VolumeFixture fixture;
-                WriteFileBytes(fixture.Path(), bytes);
-                const auto volume
-                    = Volume::Mount(fixture.Path(), disposition, VolumeAccess::Exclusive);
-                QCOMPARE(static_cast<quint32>(volume.Error()), number);
-                QCOMPARE(FileBytes(fixture.Path()), bytes);
-                QCOMPARE(QDir(fixture.Folder()).entryList(QDir::Files).size(), 1);
-            }
-        }
-    }
-
-    void missingFilesAndFoldersAreTold()
-    {
-        const VolumeFixture fixture;
-        const auto mount = [&](const QString& name, Disposition disposition) {
-            const auto volume
-                = Volume::Mount(fixture.Path(name), disposition, VolumeAccess::Exclusive);
-            return static_cast<quint32>(volume.Error());
-        };
-        QCOMPARE(mount(u"a.idb"_s, Disposition::OpenExisting), 2U);
-        QCOMPARE(mount(u"none/a.idb"_s, Disposition::OpenExisting), 3U);
-        QCOMPARE(mount(u"none/a.idb"_s, Disposition::OpenAlways), 3U);
-        QCOMPARE(mount(u"."_s, Disposition::OpenAlways), 5U);
-        QCOMPARE(mount(u"a.idb/"_s, Disposition::OpenAlways), 123U);
-        QCOMPARE(mount(QString(300, u'n'), Disposition::OpenAlways), 206U);
-        QVERIFY(QFile::link(u"/nowhere/at/all"_s, fixture.Path(u"link.idb"_s)));
-        QCOMPARE(mount(u"link.idb"_s, Disposition::OpenAlways), 3U);
-        QCOMPARE(mkfifo(QFile::encodeName(fixture.Path(u"pipe.idb"_s)).constData(), 0600), 0);
-        QCOMPARE(mount(u"pipe.idb"_s, Disposition::OpenAlways), 11U);
-        WriteFileBytes(fixture.Path(u"two.idb"_s), SampleFile());
-        QCOMPARE(link(QFile::encodeName(fixture.Path(u"two.idb"_s)).constData(),
-                     QFile::encodeName(fixture.Path(u"names.idb"_s)).constData()),
-            0);
-        QCOMPARE(mount(u"two.idb"_s, Disposition::OpenExisting), 1142U);
-        QVERIFY(!QFile::exists(fixture.Path(u"a.idb"_s)));
-    }
-
     void aFolderThatTakesNoFileIsTold()
     {
         const VolumeFixture fixture;
@@ -141,16 +82,6 @@ private Q_SLOTS:
         waitpid(process, &status, 0);
         QCOMPARE(chmod(folder.constData(), 0755), 0);
         QCOMPARE(WEXITSTATUS(status), 5);
-    }
-
-    void aNewFileIsWholeFromTheStart()
-    {
-        VolumeFixture fixture;
-        fixture.Mount();
-        QCOMPARE(QDir(fixture.Folder()).entryList(QDir::Files | QDir::Hidden),
-            QStringList { u"data.idb"_s });
-        fixture.volume.reset();
-        QCOMPARE(ReadThrough(fixture.Path()), ErrorNumber::None);
     }
 
     void aReaderSeesWhatAWriterMakes()
