@@ -79,7 +79,7 @@ void LeadIndexInCircles(const QString& path)
         if (above != nullptr) {
             const auto number = static_cast<quint32>(place / kPageSize + 1);
             const auto cells = qFromBigEndian<quint16>(above + 3);
-            for (int cell = 0; cell < cells; ++cell)
+            for (qsizetype cell = 0; cell < cells; ++cell)
                 qToBigEndian(number, above + qFromBigEndian<quint16>(above + 12 + 2 * cell));
             qToBigEndian(number, above + 8);
             SealPage(above, static_cast<quint32>((above - bytes.data()) / kPageSize + 1));
