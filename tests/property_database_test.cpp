@@ -430,6 +430,33 @@ private Q_SLOTS:
         QCOMPARE(counts(ScanOrder::Sorted), QStringList({ u"-"_s, u"2"_s, u"3"_s }));
         QCOMPARE(counts(ScanOrder::Any), QStringList({ u"2"_s, u"3"_s, u"-"_s }));
     }
+
+    void aListingFollowsEveryWrite()
+    {
+        Rows rows;
+        const auto names = [&] {
+            QString text;
+            for (const ObjectId oid : Take(rows.rows->ListRecords())) {
+                const auto found = rows.rows->SeekTo(oid);
+                const auto record = rows.rows->Read(std::array { kRowName });
+                text += found && record ? std::get<QString>(record->values.front().value) : u"?"_s;
+            }
+            return text;
+        };
+        const ObjectId b = rows.Add({ Text(u"b"_s), Quantity(1) });
+        QCOMPARE(names(), u"b"_s);
+        const ObjectId a = rows.Add({ Text(u"a"_s) });
+        QCOMPARE(names(), u"ab"_s);
+        QVERIFY(rows.rows->Write(b, std::array { Quantity(2) }).IsOk());
+        QCOMPARE(names(), u"ab"_s);
+        QVERIFY(rows.volume->BeginTransaction().IsOk());
+        QVERIFY(rows.rows->Write(a, std::array { Text(u"c"_s) }).IsOk());
+        QCOMPARE(names(), u"bc"_s);
+        QVERIFY(rows.volume->EndTransaction(false).IsOk());
+        QCOMPARE(names(), u"ab"_s);
+        QVERIFY(rows.rows->DeleteRecord(a).IsOk());
+        QCOMPARE(names(), u"b"_s);
+    }
 };
 
 QUILLORY_TEST(QCoreApplication, PropertyDatabaseTest)
