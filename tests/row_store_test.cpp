@@ -190,12 +190,13 @@ private Q_SLOTS:
     void totalsAreAddedInTheOrderOfNamesWhereItShows()
     {
         ListFixture file(u"l"_s);
-        // By name 1e17 swallows the small ones; in any other order they would add up first.
-        file.Add({ u"b"_s, {}, {}, {}, u"1"_s });
-        file.Add({ u"c"_s, {}, {}, {}, u"1"_s });
-        file.Add({ u"d"_s, {}, {}, {}, u"-1e17"_s });
+        // 1e17 swallows a 1 that is added to it: b's in the order of names, none as they were
+        // added, both from the last name to the first.
+        file.Add({ u"c"_s, {}, {}, {}, u"-1e17"_s });
         file.Add({ u"a"_s, {}, {}, {}, u"1e17"_s });
-        QCOMPARE(Totals(file), u"Quantity=0 Price=0.00 Size=0"_s);
+        file.Add({ u"b"_s, {}, {}, {}, u"1"_s });
+        file.Add({ u"d"_s, {}, {}, {}, u"1"_s });
+        QCOMPARE(Totals(file), u"Quantity=0 Price=1.00 Size=0"_s);
         file.Add({ u"e"_s, {}, {}, {}, u"1e999"_s });
         QVERIFY(Totals(file).contains(u"1.#"_s));
     }
