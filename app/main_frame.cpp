@@ -55,7 +55,7 @@ const MainFrame::CommandEntry MainFrame::kCommands[] {
     { Command::Delete, Qt::Key_Delete, Needs::List, &MainFrame::DeleteList },
     { Command::DeleteAllRecords, {}, Needs::List, &MainFrame::DeleteAllRecords },
     { Command::OpenReadOnly, {}, Needs::DataFile, &MainFrame::ToggleReadOnly },
-    { Command::Options, {}, Needs::DataFile, &MainFrame::ShowOptions },
+    { Command::Options, Qt::CTRL | Qt::Key_Comma, Needs::DataFile, &MainFrame::ShowOptions },
     { Command::About, {}, Needs::DataFile, &MainFrame::ShowAbout },
 };
 
@@ -108,16 +108,26 @@ void MainFrame::BuildHome()
     }
     m_home->ActionOf(Command::OpenReadOnly)->setCheckable(true);
     connect(m_pages, &PageStack::HelpRequested, this, &MainFrame::ShowHelp);
+    connect(m_pages, &PageStack::currentChanged, this, &MainFrame::NameWindow);
     m_pages->Push(m_home);
     UpdateCommands();
 }
 
 void MainFrame::RestoreWindow()
 {
-    setWindowTitle(LoadText(Text::Caption));
     resize(kFirstSize);
     if (!m_settings.windowGeometry.isEmpty())
         restoreGeometry(m_settings.windowGeometry);
+}
+
+void MainFrame::NameWindow()
+{
+    const QString program = LoadText(Text::Caption);
+    const QString page = m_pages->Top() == nullptr ? QString() : m_pages->Top()->Title();
+    // The toolkit takes "[*]" for a mark of its own, and two of them for one.
+    setWindowTitle(page.isEmpty() || page == program
+            ? program
+            : tr("%1 – %2").arg(QString(page).replace(u"[*]"_s, u"[*][*]"_s), program));
 }
 
 void MainFrame::RunCommand(Command command)

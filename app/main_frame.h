@@ -88,6 +88,8 @@ private:
 
     void BuildHome();
     void RestoreWindow();
+    /// By the page that is seen.
+    void NameWindow();
     void RunCommand(Command command);
     void UpdateCommands();
     void ShowLists();

@@ -56,7 +56,7 @@ struct RowsView::CommandEntry
 const RowsView::CommandEntry RowsView::kCommands[] {
     { Command::New, Qt::CTRL | Qt::Key_N, NeedsOfRows::Writing, &RowsView::NewRow },
     { Command::Modify, {}, NeedsOfRows::Row, &RowsView::ModifyRow },
-    { Command::CreateCopy, {}, NeedsOfRows::Row, &RowsView::CopyRow },
+    { Command::CreateCopy, Qt::CTRL | Qt::Key_D, NeedsOfRows::Row, &RowsView::CopyRow },
     { Command::Delete, Qt::Key_Delete, NeedsOfRows::Row, &RowsView::DeleteRow },
     { Command::AddOne, Qt::Key_Plus, NeedsOfRows::Row, &RowsView::AddOne },
     { Command::SubtractOne, Qt::Key_Minus, NeedsOfRows::Row, &RowsView::SubtractOne },

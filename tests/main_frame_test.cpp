@@ -63,6 +63,7 @@ private Q_SLOTS:
         errand.MakeLists({ u"Attic"_s, u"Pantry"_s });
         errand.Start(u"Attic"_s);
         Act(u"at Attic"_s);
+        QCOMPARE(errand.frame->windowTitle(), u"Attic – Quillory"_s);
         QCOMPARE(errand.frame->TakeStartRequest({ u"Cellar"_s, {} }), StartAnswer::UnknownList);
         Act(u"at Attic"_s);
         QCOMPARE(errand.frame->TakeStartRequest({ u"Pantry"_s, {} }), StartAnswer::Done);

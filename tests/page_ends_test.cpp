@@ -184,7 +184,8 @@ QStringList CutControls(const Page& page)
         const int width
             = button == nullptr ? kMinTouchTarget : metrics.horizontalAdvance(button->text());
         const int height = button != nullptr && button->text().isEmpty() ? 0 : metrics.height();
-        if (!room.contains(place) || widget->width() < width || widget->height() < height)
+        if (!room.contains(place) || widget->width() > kMaxPageWidth || widget->width() < width
+            || widget->height() < height)
             QDebug(&cut.emplace_back())
                 << widget->metaObject()->className() << widget->objectName() << place;
     }

@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -104,6 +105,10 @@ Page::Page(const QString& title, QWidget* parent)
     m_softKeys->setObjectName(u"softKeys"_s);
     m_softKeys->hide();
     layout->addWidget(m_softKeys);
+    // As in other programs; lists would take an arrow for themselves.
+    for (const QKeyCombination key : { Qt::CTRL | Qt::Key_W, Qt::ALT | Qt::Key_Left })
+        connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
+            &QShortcut::activated, this, &Page::GoBack);
 }
 
 void Page::BuildHeader(const QString& title)
@@ -328,6 +333,14 @@ void Page::RequestEnd(PageResult result)
         Q_EMIT Ended(result);
 }
 
+void Page::GoBack()
+{
+    if (HasUnsavedInput())
+        AskToDiscard([this] { RequestEnd(PageResult::Cancel); });
+    else
+        RequestEnd(PageResult::Cancel);
+}
+
 void Page::AskToDiscard(const std::function<void()>& then)
 {
     ShowMessage(this, tr("Do you want to discard what you have entered?"), MessageIcon::Exclamation,
@@ -364,11 +377,7 @@ void Page::keyPressEvent(QKeyEvent* event)
     QWidget* focused = focusWidget();
     switch (event->key()) {
     case Qt::Key_Escape:
-        if (HasUnsavedInput())
-            AskToDiscard([this] { RequestEnd(PageResult::Cancel); });
-        else
-            RequestEnd(PageResult::Cancel);
-        return;
+        return GoBack();
     case Qt::Key_F1:
         Q_EMIT HelpRequested(m_helpAnchor);
         return;
