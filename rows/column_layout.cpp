@@ -92,12 +92,13 @@ void ColumnLayout::Measure()
     const QFontMetrics metrics(m_header.font());
     for (int column = 0; column < m_header.count(); ++column) {
         const ColumnDefinition& definition = m_list.columns[static_cast<size_t>(column)];
+        const int title = metrics.horizontalAdvance(definition.name);
         const int sample = metrics.horizontalAdvance(SampleText(ColumnTypeOf(definition.id)));
-        // With room for the mark of the order.
-        const int title = metrics.horizontalAdvance(definition.name)
-            + m_header.style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &m_header);
-        m_needs[static_cast<size_t>(column)]
-            = std::max(std::max(sample, title) + 2 * kGrid + kGrid / 2, m_view.NeedOf(column));
+        const int held = m_view.NeedOf(column);
+        // Texts differ too much for a sample to say more than what is there.
+        const bool isSampled = held == 0 || !IsText(column);
+        const int need = std::max(title, isSampled ? sample : 0) + 2 * kGrid + kGrid / 2;
+        m_needs[static_cast<size_t>(column)] = std::max(need, held);
     }
 }
 
@@ -108,20 +109,28 @@ void ColumnLayout::Fit()
     const int mostOfView = std::max(m_view.viewport()->width() * 3 / 5, kNarrowPage / 2);
     int rest = m_view.viewport()->width();
     int texts = 0;
+    int others = 0;
     for (int column = 0; column < m_header.count(); ++column) {
         if (!m_isSet[static_cast<size_t>(column)]) {
             const int need = m_needs[static_cast<size_t>(column)];
             m_header.resizeSection(column, std::min(need, mostOfView));
-            texts += IsText(column) ? 1 : 0;
+            ++(IsText(column) ? texts : others);
         }
         rest -= m_header.sectionSize(column);
     }
-    for (int column = 0; column < m_header.count() && rest > 0 && texts > 0; ++column) {
-        if (m_isSet[static_cast<size_t>(column)] || !IsText(column))
+    // Where there is room, titles that fill their column get some for the mark of the order.
+    const int mark = m_header.style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &m_header);
+    const int share = rest < others * mark ? 0 : mark;
+    rest -= others * share;
+    for (int column = 0; column < m_header.count(); ++column) {
+        if (m_isSet[static_cast<size_t>(column)])
             continue;
-        const int share = rest / texts--;
-        m_header.resizeSection(column, m_header.sectionSize(column) + share);
-        rest -= share;
+        int more = share;
+        if (IsText(column)) {
+            more = std::max(rest, 0) / texts--;
+            rest -= more;
+        }
+        m_header.resizeSection(column, m_header.sectionSize(column) + more);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "res/dialog_table.h"
 #include "res/string_table.h"
 #include "rows/column_layout.h"
+#include "rows/filter_bar.h"
 #include "rows/filter_page.h"
 #include "rows/filters_page.h"
 #include "rows/row_editor.h"
@@ -77,6 +78,7 @@ RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& cont
     , m_model(new RowsModel(rows, list, context, this))
     , m_view(new RowsTable(*m_model, list, context, options.hasAlternateLines, this))
     , m_hint(new EmptyHint(m_view))
+    , m_filterBar(new FilterBar(this))
 {
     setObjectName(u"rows"_s);
     if (m_options.foundBy) {
@@ -109,6 +111,11 @@ void RowsView::BuildTable()
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
     Body()->addWidget(m_view, 1);
+    Body()->addWidget(m_filterBar);
+    connect(m_filterBar, &FilterBar::ClearChosen, this, &RowsView::ClearFilters);
+    for (const auto signal :
+        { &QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved })
+        connect(m_model, signal, this, &RowsView::UpdateFilterBar);
 }
 
 void RowsView::BuildCommands()
@@ -160,11 +167,12 @@ void RowsView::Fill()
     m_sortColumn.reset();
     MarkSorted(PropName);
     if (m_filters && !m_filters->entries.empty())
-        m_hint->Say(tr("No row meets the filters. Menu, Clear Filters shows all rows."));
+        m_hint->Say(tr("No row meets the filters."));
     else if (m_options.isReadOnly)
         m_hint->Say(tr("This list has no rows."));
     else
         m_hint->Say(tr("No rows yet. Tap New to add one."));
+    UpdateFilterBar();
     if (m_model->rowCount() > 0)
         Select(std::max(LineOf(selected), 0));
 }
@@ -228,6 +236,14 @@ void RowsView::UpdateCommands()
     };
     for (const CommandEntry& entry : kCommands)
         SetCommandEnabled(entry.command, isMet(entry.needs));
+}
+
+void RowsView::UpdateFilterBar()
+{
+    if (!m_filters || m_filters->entries.empty())
+        m_filterBar->hide();
+    else
+        m_filterBar->Tell(m_model->rowCount(), m_store.RowCount(), !m_options.foundBy);
 }
 
 void RowsView::Run(Command command)

@@ -12,6 +12,7 @@ namespace Quillory {
 
 class ColumnLayout;
 class EmptyHint;
+class FilterBar;
 class RowsTable;
 
 struct RowsViewOptions
@@ -74,6 +75,7 @@ private:
     RowsTable* m_view;
     ColumnLayout* m_columns = nullptr;
     EmptyHint* m_hint;
+    FilterBar* m_filterBar;
     /// The criteria of the rows shown; none once filters were cleared, as at first.
     std::optional<FilterSet> m_filters;
     bool m_isPartlyReadTold = false;
@@ -89,6 +91,8 @@ private:
 
     void Run(Command command);
     void UpdateCommands();
+    /// Tells how many rows a filter or a search leaves.
+    void UpdateFilterBar();
     void OpenRowMenu(const QPoint& position);
     /// -1 if none is selected.
     [[nodiscard]] int SelectedLine() const;

@@ -75,6 +75,11 @@ Listing RowStore::FillFilteredRows(const FilterSet& filters)
     return listing;
 }
 
+qint64 RowStore::RowCount()
+{
+    return std::max<qint64>(m_volume.RecordCount(kRows), 0);
+}
+
 std::vector<ObjectId> RowStore::RowsNamed(const QString& beginning)
 {
     Database* database = m_volume.OpenDatabase(kRows);

@@ -37,6 +37,8 @@ public:
     /// The rows that pass, in the order of names; a row that cannot be read ends the listing, as
     /// above.
     [[nodiscard]] Listing FillFilteredRows(const FilterSet& filters);
+    /// How many rows the list has; 0 where that cannot be read.
+    [[nodiscard]] qint64 RowCount();
     /// The rows whose names begin with a text, whatever its case, in no order; none where they
     /// cannot be read.
     [[nodiscard]] std::vector<ObjectId> RowsNamed(const QString& beginning);

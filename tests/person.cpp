@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -170,6 +171,8 @@ QString HeldBy(const QWidget* control)
         return edit->text();
     if (const auto* box = qobject_cast<const QComboBox*>(control))
         return box->currentText();
+    if (const auto* label = qobject_cast<const QLabel*>(control))
+        return label->text();
     const auto* button = qobject_cast<const QAbstractButton*>(control);
     if (button == nullptr)
         return control->accessibleDescription();
