@@ -5,6 +5,7 @@
 #include "bench/bench_data.h"
 #include "bench/start_report.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 
 #include <sqlite3.h>

@@ -2,6 +2,7 @@
 #include "desktop/interruptions.h"
 
 #include <array>
+#include <cstddef>
 
 namespace Quillory {
 
@@ -21,7 +22,7 @@ constexpr std::array<std::array<Response, 5>, 4> kResponses { {
 
 Response ResponseTo(Interruption what, Front front)
 {
-    return kResponses.at(static_cast<size_t>(what)).at(static_cast<size_t>(front));
+    return kResponses.at(static_cast<std::size_t>(what)).at(static_cast<std::size_t>(front));
 }
 
 } // namespace Quillory
