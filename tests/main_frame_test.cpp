@@ -6,6 +6,7 @@
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTableView>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -55,6 +56,21 @@ private Q_SLOTS:
             if (QTest::currentTestFailed())
                 return;
         }
+    }
+
+    void everySecondLineHasAColourOfItsOwnIfWanted()
+    {
+        FrameErrand errand(u"Pantry"_s, "Tea\t1\r\nSalt\t2\r\nOil\t3\r\n");
+        const auto isStriped = [&errand] {
+            const auto* view = errand.pages->Top()->findChild<QTableView*>();
+            const QImage image = view->viewport()->grab().toImage();
+            const auto ground
+                = [&](int line) { return image.pixel(2, view->rowViewportPosition(line) + 2); };
+            return ground(1) != ground(2);
+        };
+        QVERIFY(!isStriped());
+        Act(u"tap OK; tap Menu; tap Options...; tap alternateColour; tap OK; tap Pantry"_s);
+        QVERIFY(isStriped());
     }
 
     void aLaterStartOpensTheListItNames()
