@@ -108,30 +108,28 @@ void ColumnLayout::Fit()
     // One long text leaves room for others beside it.
     const int mostOfView = std::max(m_view.viewport()->width() * 3 / 5, kNarrowPage / 2);
     int rest = m_view.viewport()->width();
-    int texts = 0;
-    int others = 0;
+    std::vector<int> texts;
+    std::vector<int> others;
     for (int column = 0; column < m_header.count(); ++column) {
         if (!m_isSet[static_cast<size_t>(column)]) {
             const int need = m_needs[static_cast<size_t>(column)];
             m_header.resizeSection(column, std::min(need, mostOfView));
-            ++(IsText(column) ? texts : others);
+            (IsText(column) ? texts : others).push_back(column);
         }
         rest -= m_header.sectionSize(column);
     }
+    const auto widen = [&](int column, int by) {
+        m_header.resizeSection(column, m_header.sectionSize(column) + by);
+        rest -= by;
+    };
     // Where there is room, titles that fill their column get some for the mark of the order.
     const int mark = m_header.style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &m_header);
-    const int share = rest < others * mark ? 0 : mark;
-    rest -= others * share;
-    for (int column = 0; column < m_header.count(); ++column) {
-        if (m_isSet[static_cast<size_t>(column)])
-            continue;
-        int more = share;
-        if (IsText(column)) {
-            more = std::max(rest, 0) / texts--;
-            rest -= more;
-        }
-        m_header.resizeSection(column, m_header.sectionSize(column) + more);
+    if (rest >= static_cast<int>(others.size()) * mark) {
+        for (const int column : others)
+            widen(column, mark);
     }
+    for (size_t i = 0; i < texts.size() && rest > 0; ++i)
+        widen(texts[i], rest / static_cast<int>(texts.size() - i));
 }
 
 bool ColumnLayout::IsText(int column) const
