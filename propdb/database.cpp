@@ -43,10 +43,7 @@ public:
     RecordSelect(const DatabaseState& state, std::span<const PropertyId> ids,
         const Database::RecordVisitor& visitor)
         : m_state(state)
-        , m_visitor([this, &visitor](const ScannedRecord& record) {
-            m_isStopped = !visitor(record);
-            return !m_isStopped;
-        })
+        , m_visitor(visitor)
     {
         for (const PropertyId id : ids)
             m_classes.push_back(ClassesOfDeclaration(DeclaredType(id)));
@@ -62,20 +59,18 @@ public:
             return ErrorNumber::InvalidParameter;
         return Statement::Prepare(m_state.volume.Connection(), m_select + clauses);
     }
-    [[nodiscard]] Result<void> Run(Statement& statement)
+    /// False where the visitor wants no more.
+    [[nodiscard]] Result<bool> Run(Statement& statement)
     {
         return m_state.volume.Visit().Run(statement, m_classes, m_limit, m_visitor);
     }
-    /// Whether the visitor wants no more.
-    [[nodiscard]] bool IsStopped() const { return m_isStopped; }
     /// Whether more was read than the file has: the rest would be read just as slowly, for nothing.
     [[nodiscard]] bool IsLimitPassed() const { return m_limit.IsPassed(); }
 
 private:
     const DatabaseState& m_state;
-    bool m_isStopped = false;
     ReadingLimit m_limit;
-    Database::RecordVisitor m_visitor;
+    const Database::RecordVisitor& m_visitor;
     std::vector<ValueClasses> m_classes;
     QString m_select;
 };
@@ -214,12 +209,12 @@ Result<void> Database::ScanInPlace(
 {
     sqlite3* connection = m_state->volume.Connection();
     RecordSelect select(*m_state, ids, visitor);
-    const auto run = [&](const QString& clauses) -> Result<void> {
-        auto statement = select.Prepare(clauses);
-        return statement ? select.Run(*statement) : statement.Error();
+    const auto run = [&select](const QString& clauses) -> Result<bool> {
+        QUILLORY_TRY_VALUE(auto statement, select.Prepare(clauses));
+        return select.Run(statement);
     };
     if (order != ScanOrder::Sorted)
-        return run(order == ScanOrder::Stored ? u" NOT INDEXED"_s : QString());
+        return run(order == ScanOrder::Stored ? u" NOT INDEXED"_s : QString()).Error();
     const PropertyColumn& keyColumn = *m_state->schema->Find(m_state->order.key);
     const QString key = QuotedName(keyColumn.columnName);
     // A record is visited when it is read, not once it would be sorted: the index has to lead.
@@ -228,8 +223,9 @@ Result<void> Database::ScanInPlace(
     const RoomyCache roomyCache(connection);
     for (const QString& part :
         { u" IS NOT NULL ORDER BY %1, oid"_s.arg(key), u" IS NULL ORDER BY oid"_s }) {
-        if (const auto done = run(byIndex + part); !done || select.IsStopped())
-            return done;
+        QUILLORY_TRY_VALUE(const bool goesOn, run(byIndex + part));
+        if (!goesOn)
+            break;
     }
     return {};
 }
@@ -247,9 +243,9 @@ Database::VisitOutcome Database::VisitEach(
     const RoomyCache roomyCache(m_state->volume.Connection());
     for (const ObjectId oid : oids) {
         statement->Bind(1, oid);
-        const Result<void> done
+        const Result<bool> done
             = select.IsLimitPassed() ? ErrorNumber::FileCorrupt : select.Run(*statement);
-        if (select.IsStopped())
+        if (done && !*done)
             break;
         if (!done && outcome.passedOver++ == 0)
             outcome.error = done.Error();

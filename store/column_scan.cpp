@@ -78,6 +78,8 @@ Result<void> ScanFilteredInPlace(Database& rows, std::span<const PropertyId> col
     const FilterSet* filters, const ValueContext& context, ScanOrder order,
     const Database::RecordVisitor& visitor)
 {
+    if (filters == nullptr)
+        return rows.ScanInPlace(columns, order, visitor);
     const FilteredVisit visit(columns, filters, context, visitor);
     return rows.ScanInPlace(visit.Ids(), order, std::cref(visit));
 }

@@ -27,13 +27,10 @@ Result<qint64> ReadRecordLimit(sqlite3* connection)
     return size / kLeastRecordBytes;
 }
 
-bool ReadingLimit::Add(sqlite3* connection, qint64 bytes)
+bool ReadingLimit::IsWithinSizeNow(sqlite3* connection)
 {
-    m_bytesRead += kLeastRecordBytes + bytes;
-    if (IsPassed()) {
-        const auto size = ReadVolumeSize(connection);
-        m_knownSize = size ? *size : 0;
-    }
+    const auto size = ReadVolumeSize(connection);
+    m_knownSize = size ? *size : 0;
     return !IsPassed();
 }
 

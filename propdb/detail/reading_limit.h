@@ -23,13 +23,19 @@ class ReadingLimit
 {
 public:
     /// Adds a record with values of `bytes`; false if that is more than the file has.
-    [[nodiscard]] bool Add(sqlite3* connection, qint64 bytes);
+    [[nodiscard]] bool Add(sqlite3* connection, qint64 bytes)
+    {
+        m_bytesRead += kLeastRecordBytes + bytes;
+        return !IsPassed() || IsWithinSizeNow(connection);
+    }
     [[nodiscard]] bool IsPassed() const { return m_bytesRead > m_knownSize; }
 
 private:
     qint64 m_bytesRead = 0;
     /// The file is asked for its size again where this is passed.
     qint64 m_knownSize = 0;
+
+    [[nodiscard]] bool IsWithinSizeNow(sqlite3* connection);
 };
 
 } // namespace Quillory

@@ -5,7 +5,6 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace Quillory {
@@ -73,26 +72,22 @@ Result<void> RecordVisit::Register(sqlite3* connection)
 void RecordVisit::Visit(sqlite3_context* context, int /*count*/, sqlite3_value** values)
 {
     auto* visit = static_cast<RecordVisit*>(sqlite3_user_data(context));
-    if (!visit->HoldsWhatIsDeclared(values + 1) || !visit->IsWithinLimit(context, values + 1))
+    if (!visit->IsSound(context, values + 1))
         sqlite3_result_error_code(context, SQLITE_CORRUPT);
     else if (!visit->Visit(ArgumentRecord(values)))
         sqlite3_result_error_code(context, SQLITE_ABORT);
 }
 
-bool RecordVisit::HoldsWhatIsDeclared(sqlite3_value** properties) const
-{
-    return std::ranges::all_of(m_call.classes, [&properties](ValueClasses classes) {
-        return IsAmong(sqlite3_value_type(*properties++), classes);
-    });
-}
-
-bool RecordVisit::IsWithinLimit(sqlite3_context* context, sqlite3_value** properties) const
+bool RecordVisit::IsSound(sqlite3_context* context, sqlite3_value** properties) const
 {
     qint64 bytes = 0;
-    for (size_t i = 0; i < m_call.classes.size(); ++i) {
-        const int valueClass = sqlite3_value_type(properties[i]);
+    for (const ValueClasses declared : m_call.classes) {
+        sqlite3_value* property = *properties++;
+        const int valueClass = sqlite3_value_type(property);
+        if (!IsAmong(valueClass, declared))
+            return false;
         if (valueClass == SQLITE_TEXT || valueClass == SQLITE_BLOB)
-            bytes += ArgumentBytes(properties[i]).size();
+            bytes += ArgumentBytes(property).size();
     }
     return m_call.limit->Add(sqlite3_context_db_handle(context), bytes);
 }
@@ -109,7 +104,7 @@ bool RecordVisit::Visit(const ScannedRecord& record)
     return !m_call.isStopped;
 }
 
-Result<void> RecordVisit::Run(Statement& statement, std::span<const ValueClasses> classes,
+Result<bool> RecordVisit::Run(Statement& statement, std::span<const ValueClasses> classes,
     ReadingLimit& limit, const Database::RecordVisitor& visitor)
 {
     Call outer = std::exchange(m_call, { classes, &limit, &visitor, false, {} });
@@ -117,7 +112,9 @@ Result<void> RecordVisit::Run(Statement& statement, std::span<const ValueClasses
     const Call call = std::exchange(m_call, std::move(outer));
     if (call.thrown)
         std::rethrow_exception(call.thrown);
-    return call.isStopped ? ErrorNumber::None : done.Error();
+    if (!done && !call.isStopped)
+        return done.Error();
+    return !call.isStopped;
 }
 
 } // namespace Quillory

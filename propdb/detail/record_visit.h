@@ -32,9 +32,9 @@ public:
     [[nodiscard]] Result<void> Register(sqlite3* connection);
     /// Runs a statement that calls the function on values of these classes; FileCorrupt at the
     /// first record with one of another class, which is not visited, and at the one that passes the
-    /// limit. Ends early, without a failure, when the visitor gives false. What it throws comes
-    /// through. A visitor may itself scan.
-    [[nodiscard]] Result<void> Run(Statement& statement, std::span<const ValueClasses> classes,
+    /// limit. False where the visitor gave false and so ended it. What it throws comes through. A
+    /// visitor may itself scan.
+    [[nodiscard]] Result<bool> Run(Statement& statement, std::span<const ValueClasses> classes,
         ReadingLimit& limit, const Database::RecordVisitor& visitor);
 
 private:
@@ -50,8 +50,8 @@ private:
     Call m_call;
 
     static void Visit(sqlite3_context* context, int count, sqlite3_value** values);
-    [[nodiscard]] bool HoldsWhatIsDeclared(sqlite3_value** properties) const;
-    [[nodiscard]] bool IsWithinLimit(sqlite3_context* context, sqlite3_value** properties) const;
+    /// Whether all values are of the classes that are declared, and within the limit.
+    [[nodiscard]] bool IsSound(sqlite3_context* context, sqlite3_value** properties) const;
     [[nodiscard]] bool Visit(const ScannedRecord& record);
 };
 
