@@ -87,7 +87,10 @@ Result<Statement> Statement::Prepare(sqlite3* connection, const QString& sql, bo
         static_cast<int>(utf8.size()) + 1, flags, &statement.m_statement, nullptr);
     if (code != SQLITE_OK)
         return ErrorFromSqlite(sqlite3_extended_errcode(connection), connection);
-    const int columns = sqlite3_column_count(statement.m_statement);
+    // An identifier that stands alone is its row's, which cannot be of another class.
+    int columns = sqlite3_column_count(statement.m_statement);
+    if (columns == 1 && qstrcmp(sqlite3_column_name(statement.m_statement, 0), "oid") == 0)
+        columns = 0;
     for (int i = 0; i < columns; ++i)
         statement.m_classes.push_back(
             ClassesOfDeclaration(sqlite3_column_decltype(statement.m_statement, i)));
