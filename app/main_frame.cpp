@@ -108,7 +108,8 @@ void MainFrame::BuildHome()
     }
     m_home->ActionOf(Command::OpenReadOnly)->setCheckable(true);
     connect(m_pages, &PageStack::HelpRequested, this, &MainFrame::ShowHelp);
-    connect(m_pages, &PageStack::currentChanged, this, &MainFrame::NameWindow);
+    connect(m_pages, &PageStack::TopChanged, this, &MainFrame::NameWindow);
+    m_pages->SetHint(tr("Choose a list to see its rows."));
     m_pages->Push(m_home);
     UpdateCommands();
 }
@@ -229,11 +230,16 @@ StartAnswer MainFrame::TakeStartRequest(const StartRequest& request)
     if (oid == kNoObject)
         return StartAnswer::UnknownList;
     if (oid != m_openList)
-        Meet(Interruption::StartWithList, [this, oid] {
-            m_home->Select(oid);
-            OpenList(oid);
-        });
+        GoToList(oid);
     return StartAnswer::Done;
+}
+
+void MainFrame::GoToList(ObjectId oid)
+{
+    Meet(Interruption::StartWithList, [this, oid] {
+        m_home->Select(oid);
+        OpenList(oid);
+    });
 }
 
 void MainFrame::BringToFront(const QString& activationToken)
@@ -315,8 +321,13 @@ void MainFrame::RefreshPages()
 void MainFrame::OpenSelectedList()
 {
     const ObjectId oid = m_home->SelectedList();
-    if (oid != kNoObject)
-        OpenList(oid);
+    if (oid == kNoObject)
+        return;
+    if (oid == m_openList)
+        return m_pages->FocusTop();
+    // Beside the open list its line stays the selected one until it is left.
+    m_home->Select(m_openList);
+    GoToList(oid);
 }
 
 void MainFrame::OpenList(ObjectId oid)
@@ -328,7 +339,7 @@ void MainFrame::OpenList(ObjectId oid)
     m_rows = std::make_unique<RowStore>(m_session.Volume(), m_list, m_context);
     const RowsViewOptions options { m_settings.Options.test(kReadOnlyOption),
         m_settings.Options.test(kAlternateColourOption) };
-    auto* view = new RowsView(*m_rows, m_list, m_context, options);
+    auto* view = new RowsView(*m_rows, m_list, m_context, options, m_pages);
     view->SetRowDeleter([this](ObjectId row) { return m_deletions.DeleteRow(*m_rows, row); });
     // Not before all that needs much memory is there.
     m_openList = oid;

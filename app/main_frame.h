@@ -105,6 +105,8 @@ private:
     void RefreshPages();
 
     void OpenSelectedList();
+    /// Leaves whatever is open first, asking where input would be lost.
+    void GoToList(ObjectId oid);
     void OpenList(ObjectId oid);
     void CloseList();
     void NewList() { m_definitions.MakeList(); }

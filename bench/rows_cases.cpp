@@ -126,7 +126,8 @@ public:
     {
         m_list = WithEightColumns(definition);
         m_rows = std::make_unique<RowStore>(data, m_list, m_context);
-        m_stack.Push(new RowsView(*m_rows, m_list, m_context, { .hasAlternateLines = true }));
+        m_stack.Push(
+            new RowsView(*m_rows, m_list, m_context, { .hasAlternateLines = true }, &m_stack));
         PaintPending(m_stack);
     }
     [[nodiscard]] QTableView& View() const { return *m_stack.Top()->findChild<QTableView*>(); }

@@ -33,7 +33,7 @@ RowsTable::RowsTable(RowsModel& model, const InventoryList& list, const ValueCon
 
 int RowsTable::NeedOf(int column)
 {
-    constexpr int kFirstLines = 50;
+    constexpr int kFirstLines = 30;
     m_delegate->BeginFrame(font(), palette());
     QStyleOptionViewItem option;
     initViewItemOption(&option);

@@ -32,6 +32,13 @@ struct Spot
     bool isEnabled;
 };
 
+/// The pages of the window that can be seen; null where there is none.
+PageStack* PagesOf(QWidget* window)
+{
+    auto* pages = qobject_cast<PageStack*>(window);
+    return pages == nullptr ? window->findChild<PageStack*>() : pages;
+}
+
 QWidget* InFront()
 {
     if (QWidget* popup = QApplication::activePopupWidget())
@@ -45,9 +52,7 @@ QWidget* InFront()
         window->activateWindow();
         if (!QTest::qWaitForWindowActive(window))
             return nullptr;
-        auto* pages = qobject_cast<PageStack*>(window);
-        if (pages == nullptr)
-            pages = window->findChild<PageStack*>();
+        const PageStack* pages = PagesOf(window);
         return pages == nullptr ? window : pages->Top();
     }
     return nullptr;
@@ -271,12 +276,27 @@ bool DoWithNamed(QWidget& front, const QString& verb, const QString& name, const
     return true;
 }
 
-/// Whether the step could be done.
-bool DoStep(const QString& verb, const QString& what)
+/// The page that is seen beside the topmost; null where there is none.
+QWidget* Beside(QWidget* top)
 {
-    QWidget* front = InFront();
+    for (Page* page : PagesOf(top->window())->findChildren<Page*>()) {
+        if (page != top && page->isVisible())
+            return page;
+    }
+    return nullptr;
+}
+
+/// Whether the step could be done.
+bool DoStep(QWidget* front, const QString& verb, const QString& what)
+{
     if (front == nullptr)
         return false;
+    if (verb == u"beside")
+        return DoStep(Beside(front), what.section(u' ', 0, 0), what.section(u' ', 1));
+    if (verb == u"size") {
+        front->window()->resize(what.section(u'x', 0, 0).toInt(), what.section(u'x', 1).toInt());
+        return true;
+    }
     const QString name = what.section(u": "_s, 0, 0);
     const bool isNamed = what.contains(u": ")
         && (ColumnOf(*front, name) >= 0 || front->findChild<QWidget*>(name) != nullptr);
@@ -313,7 +333,7 @@ void Act(const QString& steps)
             return;
         // Nobody is quicker than what the step before brings about.
         QTest::qWait(0);
-        if (!QTest::qWaitFor([&] { return DoStep(verb, what); })) {
+        if (!QTest::qWaitFor([&] { return DoStep(InFront(), verb, what); })) {
             const QWidget* front = InFront();
             const QString seen = front == nullptr ? u"no window"_s : ReadFrom(*front, {});
             QTest::qFail(qPrintable(step + u", but seen is "_s + seen), __FILE__, __LINE__);

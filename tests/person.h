@@ -20,6 +20,7 @@ namespace Quillory {
 /// - `see X: TEXT` waits for the cells of a column, or for what a control holds.
 /// - `on TEXT` waits for the selected line, `at TEXT` for the title of the page. "nothing" is none.
 /// - `cannot X` waits for what reads so and is disabled.
+/// - `beside STEP` is a step on the page beside the topmost; `size WxH` gives the window that size.
 void Act(const QString& steps);
 
 } // namespace Quillory

@@ -302,7 +302,7 @@ private Q_SLOTS:
         m_errand->Open();
         QHeaderView* header = View()->horizontalHeader();
         const int narrow = header->sectionSize(Name);
-        for (const int width : { 2000, 1400 }) {
+        for (const int width : { 2400, 1800 }) {
             View()->window()->resize(width, 480);
             QTRY_COMPARE(header->length(), View()->viewport()->width());
         }

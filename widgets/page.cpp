@@ -81,7 +81,9 @@ void OpenFromKey(QMenu& menu, const QWidget& key)
     if (lines * CurrentMeasures().lineHeight > key.window()->height())
         menu.setStyleSheet(u"QMenu::item { padding: 7px 24px; }"_s);
     const QSize size = menu.sizeHint();
-    menu.popup(key.mapToGlobal(QPoint(key.width() - size.width(), -size.height())));
+    QPoint place = key.mapToGlobal(QPoint(key.width() - size.width(), -size.height()));
+    place.setX(std::max(place.x(), key.window()->mapToGlobal(QPoint()).x()));
+    menu.popup(place);
 }
 
 } // namespace
@@ -183,7 +185,7 @@ QAction* Page::ActionOf(Command command)
 
 void Page::Carry(Command command)
 {
-    if (!isVisible())
+    if (!isVisible() || m_isBeside)
         return;
     if (command == Command::Cancel)
         return RequestEnd(PageResult::Cancel);
@@ -211,7 +213,21 @@ void Page::SetSoftKeys(const SoftKeys& keys, std::span<const MenuEntry> menu)
     halves->addWidget(left, 1);
     halves->addWidget(right, 1);
     FitToWindow();
-    m_softKeys->show();
+    ShowSoftKeys();
+}
+
+void Page::ShowSoftKeys()
+{
+    m_softKeys->setVisible(m_softKeys->layout() != nullptr && !m_isBeside);
+}
+
+void Page::SetBeside(bool isBeside)
+{
+    m_isBeside = isBeside;
+    ShowSoftKeys();
+    // What was deleted here cannot be brought back from there.
+    if (isBeside)
+        WithdrawUndo();
 }
 
 void Page::resizeEvent(QResizeEvent* event)
@@ -307,6 +323,8 @@ void Page::Trigger(Command command)
 
 void Page::OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& globalPosition)
 {
+    if (m_isBeside)
+        return;
     Q_EMIT MenuAboutToOpen();
     auto* menu = new HoldMenu(this);
     menu->setObjectName(u"contextMenu"_s);
@@ -377,7 +395,7 @@ void Page::keyPressEvent(QKeyEvent* event)
     QWidget* focused = focusWidget();
     switch (event->key()) {
     case Qt::Key_Escape:
-        return GoBack();
+        return m_isBeside ? event->ignore() : GoBack();
     case Qt::Key_F1:
         Q_EMIT HelpRequested(m_helpAnchor);
         return;

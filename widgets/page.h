@@ -74,6 +74,9 @@ public:
     void AskToDiscard(const std::function<void()>& then);
     /// Takes over what is typed in the place of a line's text, as a tap elsewhere does.
     void CommitInPlace();
+    /// Whether the page stands beside the one that is in use: without soft keys and commands, to
+    /// show what it has and to choose from it. Escape is left to what it stands in.
+    void SetBeside(bool isBeside);
     /// Whether something was typed or chosen that would be lost without an Ok.
     [[nodiscard]] virtual bool HasUnsavedInput() const { return false; }
 
@@ -110,9 +113,11 @@ private:
     UndoBar* m_undoBar = nullptr;
     QWidget* m_softKeys = nullptr;
     QString m_helpAnchor;
+    bool m_isBeside = false;
 
     void BuildHeader(const QString& title);
     void FitToWindow();
+    void ShowSoftKeys();
     /// What Escape does.
     void GoBack();
     [[nodiscard]] QWidget* MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> menu);

@@ -1,21 +1,55 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/page_stack.h"
 
+#include "widgets/measures.h"
 #include "widgets/questions.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QFrame>
+#include <QHBoxLayout>
 #include <QInputMethod>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace Quillory {
 
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMinBesideWidth = 240;
+constexpr int kMaxBesideWidth = 320;
+/// Of the window's width.
+constexpr int kBesideShare = 4;
+
+} // namespace
+
 PageStack::PageStack(QWidget* parent)
-    : QStackedWidget(parent)
+    : QWidget(parent)
+    , m_edge(new QFrame(this))
+    , m_hint(new QLabel(this))
 {
-    setObjectName(QStringLiteral("pageStack"));
-    const QInputMethod* keyboard = QGuiApplication::inputMethod();
+    setObjectName(u"pageStack"_s);
+    m_edge->setObjectName(u"paneEdge"_s);
+    m_edge->setFixedWidth(1);
+    m_hint->setObjectName(u"noPage"_s);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setWordWrap(true);
+    m_hint->setMargin(kPageMargin);
+    // All pages lie in one line, of which one or two are seen.
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(0);
+    // Two pages need not fit before the window has become so narrow that one is hidden.
+    line->setSizeConstraint(QLayout::SetNoConstraint);
+    line->addWidget(m_edge);
+    line->addWidget(m_hint, 1);
+    Arrange();
+    const QInputMethod* keyboard = QApplication::inputMethod();
     connect(keyboard, &QInputMethod::keyboardRectangleChanged, this, &PageStack::FitAboveKeyboard);
     connect(keyboard, &QInputMethod::visibleChanged, this, &PageStack::FitAboveKeyboard);
 }
@@ -28,13 +62,55 @@ PageStack& PageStack::Of(const QWidget* widget)
     return *qobject_cast<PageStack*>(parent);
 }
 
+void PageStack::SetHint(const QString& hint)
+{
+    m_hint->setText(hint);
+}
+
 void PageStack::FitAboveKeyboard()
 {
-    const QInputMethod* keyboard = QGuiApplication::inputMethod();
+    const QInputMethod* keyboard = QApplication::inputMethod();
     const QRectF covered = keyboard->isVisible() ? keyboard->keyboardRectangle() : QRectF();
     const QRect own(mapTo(window(), QPoint()), size());
     const QRect overlap = own & covered.toAlignedRect();
     setContentsMargins(0, 0, 0, overlap.height());
+}
+
+void PageStack::Arrange()
+{
+    const bool isWide = width() >= kWideWindow;
+    setUpdatesEnabled(false);
+    m_edge->setVisible(isWide);
+    m_hint->setVisible(isWide && Depth() <= 1);
+    if (Page* top = Top()) {
+        Page* first = m_pages.front();
+        first->setMinimumWidth(
+            isWide ? std::clamp(width() / kBesideShare, kMinBesideWidth, kMaxBesideWidth) : 0);
+        first->setMaximumWidth(isWide ? first->minimumWidth() : QWIDGETSIZE_MAX);
+        first->SetBeside(isWide && top != first);
+        top->show();
+        for (Page* page : m_pages)
+            page->setVisible(page == top || (isWide && page == first));
+    }
+    setUpdatesEnabled(true);
+}
+
+void PageStack::resizeEvent(QResizeEvent* event)
+{
+    const bool hadKeyboard = isAncestorOf(QApplication::focusWidget());
+    Arrange();
+    // With the page that is hidden now the keyboard would be gone.
+    if (hadKeyboard && Top() != nullptr && !m_pages.front()->isVisible())
+        FocusTop();
+    QWidget::resizeEvent(event);
+}
+
+QSize PageStack::minimumSizeHint() const
+{
+    QSize needed(0, 0);
+    for (const Page* page : m_pages)
+        needed = needed.expandedTo(page->minimumSizeHint());
+    return needed;
 }
 
 void PageStack::Push(Page* page, std::function<void(PageResult)> then)
@@ -46,30 +122,50 @@ void PageStack::Push(Page* page, std::function<void(PageResult)> then)
     connect(page, &Page::HelpRequested, this, &PageStack::HelpRequested);
     connect(page, &Page::Ended, this,
         [this, page, below = QPointer<QWidget>(below), then = std::move(then)](PageResult result) {
-            removeWidget(page);
+            Remove(page);
             if (below != nullptr)
                 below->setFocus();
             if (then)
                 then(result);
             page->deleteLater();
         });
-    addWidget(page);
-    setCurrentWidget(page);
+    auto* line = qobject_cast<QHBoxLayout*>(layout());
+    if (m_pages.empty())
+        line->insertWidget(0, page, 1);
+    else
+        line->addWidget(page, 1);
+    m_pages.push_back(page);
+    Arrange();
     page->setFocus();
+    Q_EMIT TopChanged();
 }
 
-Page* PageStack::Top() const
+void PageStack::Remove(Page* page)
 {
-    return qobject_cast<Page*>(currentWidget());
+    std::erase(m_pages, page);
+    layout()->removeWidget(page);
+    Arrange();
+    page->hide();
+    Q_EMIT TopChanged();
 }
 
 bool PageStack::HasUnsavedInput() const
 {
-    for (int depth = 0; depth < Depth(); ++depth) {
-        if (qobject_cast<const Page*>(widget(depth))->HasUnsavedInput())
-            return true;
-    }
-    return false;
+    return std::ranges::any_of(m_pages, [](const Page* page) { return page->HasUnsavedInput(); });
+}
+
+void PageStack::FocusTop()
+{
+    QWidget* last = Top()->focusWidget();
+    (last == nullptr ? Top() : last)->setFocus();
+}
+
+void PageStack::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && Top() != nullptr)
+        FocusTop();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void PageStack::CloseAll(const std::function<void()>& then)
