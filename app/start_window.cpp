@@ -121,7 +121,7 @@ int RunWindow(int argumentCount, char** argumentValues)
     QApplication::setApplicationName(u"quillory"_s);
     QApplication::setApplicationDisplayName(u"Quillory"_s);
     QApplication::setApplicationVersion(QStringLiteral(QUILLORY_VERSION));
-    QApplication::setDesktopFileName(u"quillory"_s);
+    QApplication::setDesktopFileName(u"org.quillory.Quillory"_s);
     QApplication::setWindowIcon(ApplicationIcon());
 
     QStringList operands = QApplication::arguments().mid(1);
