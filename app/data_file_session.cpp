@@ -147,7 +147,8 @@ void DataFileSession::End(const std::function<void()>& then)
             [then](MessageAnswer) { then(); });
     }
     const auto finish = [this, then] {
-        const auto kept = Keep();
+        // Files of one run are tried out, sent and mended: theirs are no copies to keep.
+        const auto kept = m_settings.isPathForThisRun ? KeepOutcome::NotNeeded : Keep();
         if (kept)
             return then();
         ShowMessage(&m_pages,

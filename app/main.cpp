@@ -36,7 +36,7 @@ int main(int argumentCount, char** argumentValues)
         }
         arguments << QString::fromUtf8(argumentValues[i]);
     }
-    if (Quillory::IsCommandLine(arguments))
-        return Quillory::RunCommandLine(arguments);
-    return Quillory::RunWindow(argumentCount, argumentValues);
+    if (const auto call = Quillory::ReadWindowCall(arguments))
+        return Quillory::RunWindow(argumentCount, argumentValues, *call);
+    return Quillory::RunCommandLine(arguments);
 }

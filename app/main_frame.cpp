@@ -154,9 +154,9 @@ void MainFrame::SetFileChooser(DataFileSession::FileChooser chooser)
     m_session.SetFileChooser(std::move(chooser));
 }
 
-void MainFrame::OpenDataFile(const QString& listName)
+void MainFrame::OpenDataFile(const StartRequest& wanted)
 {
-    m_wantedList = listName;
+    m_wanted = wanted;
     m_session.Open();
 }
 
@@ -168,9 +168,9 @@ void MainFrame::ShowLists()
     // What a program that was killed had kept aside; once the lists are on the screen.
     QMetaObject::invokeMethod(
         this, [this] { m_deletions.Forget(); }, Qt::QueuedConnection);
-    if (!m_wantedList.isEmpty()
-        && TakeStartRequest({ m_wantedList, {} }) == StartAnswer::UnknownList)
-        NoteUnknownList(m_wantedList);
+    const StartRequest wanted = std::exchange(m_wanted, {});
+    if (wanted.NamesPage() && TakeStartRequest(wanted) == StartAnswer::UnknownList)
+        NoteUnknownList(wanted.listName);
 }
 
 void MainFrame::FillHome()
@@ -220,10 +220,14 @@ void MainFrame::Meet(Interruption what, const std::function<void()>& act)
 StartAnswer MainFrame::TakeStartRequest(const StartRequest& request)
 {
     Meet(Interruption::Start, [this, token = request.activationToken] { BringToFront(token); });
-    if (request.listName.isEmpty())
+    if (!request.NamesPage())
         return StartAnswer::Done;
     if (!m_session.IsOpen()) {
-        m_wantedList = request.listName;
+        m_wanted = request;
+        return StartAnswer::Done;
+    }
+    if (request.isNewList) {
+        Meet(Interruption::StartWithList, [this] { NewList(); });
         return StartAnswer::Done;
     }
     const ObjectId oid = m_session.Catalogue().FindList(request.listName);

@@ -42,11 +42,11 @@ public:
     /// Replaces the file dialog of the first start.
     void SetFileChooser(DataFileSession::FileChooser chooser);
 
-    /// Opens the data file, asking where need be, and then the list so named unless it is empty.
-    /// A failure closes the window.
-    void OpenDataFile(const QString& listName);
+    /// Opens the data file, asking where need be, and then what the start asks for. A failure
+    /// closes the window.
+    void OpenDataFile(const StartRequest& wanted);
 
-    /// Comes to the front, and opens the list that a later start names as soon as that can be.
+    /// Comes to the front, and opens what a later start asks for as soon as that can be.
     StartAnswer TakeStartRequest(const StartRequest& request);
 
     /// A command ended for want of memory.
@@ -76,8 +76,8 @@ private:
     ListDefinitions m_definitions;
     ListTransfer m_transfer { m_session, *m_pages, m_context };
     LandscapeShape m_landscape;
-    /// The list to open once the data file is.
-    QString m_wantedList;
+    /// What to open once the data file is.
+    StartRequest m_wanted;
     bool m_mayClose = false;
     bool m_isInCloseEvent = false;
 

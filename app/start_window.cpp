@@ -6,12 +6,15 @@
 #include "desktop/desktop_look.h"
 #include "desktop/end_requests.h"
 #include "desktop/single_instance.h"
+#include "propdb/volume_path.h"
 #include "store/kept_copies.h"
 #include "store/settings.h"
 #include "widgets/app_style.h"
 #include "widgets/icon_set.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QFileInfo>
 
 #include <unistd.h>
 
@@ -85,10 +88,29 @@ std::optional<ColourScheme> FixedScheme(const Settings& settings)
     return std::nullopt;
 }
 
-int RunFrame(Application& app, SingleInstance& instance, const QString& listName, int endRequests)
+Settings SettingsFor(const WindowCall& call)
 {
     Settings settings;
     ReadSettings(SettingsPath(), settings);
+    if (!call.dataFile.isEmpty() && !IsSameVolume(call.dataFile, settings.DbPath)) {
+        settings.DbPath = QFileInfo(call.dataFile).absoluteFilePath();
+        settings.isPathForThisRun = true;
+    }
+    return settings;
+}
+
+/// Where starts on the same data file meet.
+QString MeetingFolder(const Settings& settings)
+{
+    if (!settings.isPathForThisRun)
+        return SingleInstance::Folder();
+    const auto real = ResolveVolumePath(settings.DbPath);
+    return SingleInstance::Folder(VolumeKey(real ? *real : QFile::encodeName(settings.DbPath)));
+}
+
+int RunFrame(Application& app, SingleInstance& instance, const Settings& settings,
+    const StartRequest& request, int endRequests)
+{
     const DesktopLook look(FixedScheme(settings));
     MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder() });
     instance.SetHandler(
@@ -98,13 +120,13 @@ int RunFrame(Application& app, SingleInstance& instance, const QString& listName
     frame.show();
     // After the window is on the screen.
     QMetaObject::invokeMethod(
-        &frame, [&frame, &listName] { frame.OpenDataFile(listName); }, Qt::QueuedConnection);
+        &frame, [&frame, &request] { frame.OpenDataFile(request); }, Qt::QueuedConnection);
     return QApplication::exec();
 }
 
 } // namespace
 
-int RunWindow(int argumentCount, char** argumentValues)
+int RunWindow(int argumentCount, char** argumentValues, const WindowCall& call)
 {
     const int endRequests = CatchEndRequests();
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
@@ -124,15 +146,14 @@ int RunWindow(int argumentCount, char** argumentValues)
     QApplication::setDesktopFileName(u"org.quillory.Quillory"_s);
     QApplication::setWindowIcon(ApplicationIcon());
 
-    QStringList operands = QApplication::arguments().mid(1);
-    operands.removeOne(u"--"_s);
-    const StartRequest request { operands.value(0), token };
-    SingleInstance instance(SingleInstance::Folder());
+    const Settings settings = SettingsFor(call);
+    const StartRequest request { call.listName, token, call.isNewList };
+    SingleInstance instance(MeetingFolder(settings));
     const SingleInstance::Outcome outcome = instance.Start(request);
     if (outcome != SingleInstance::Outcome::Alone)
         return ExitCodeOf(outcome, request.listName);
 
-    return RunFrame(app, instance, request.listName, endRequests);
+    return RunFrame(app, instance, settings, request, endRequests);
 }
 
 } // namespace Quillory

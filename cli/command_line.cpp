@@ -22,6 +22,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kEmptyArgument = u"an argument is empty"_s;
+const QString kEmptyValue = u"--%1 has an empty value"_s;
+constexpr auto kDataPrefix = "--data="_L1;
 
 /// The place of the first argument that is neither an option nor the value of one; -1 if there is
 /// none, or only behind "--".
@@ -36,25 +38,44 @@ qsizetype SubCommandPlace(const QStringList& arguments)
     return -1;
 }
 
-/// What a call names that is no command: all but options, and the values of the toolkit's.
-QStringList WindowOperands(const QStringList& arguments)
+/// A call that names no sub-command, by its parts. Options of the toolkit's are left out.
+struct BareCall
 {
-    constexpr std::array kValueOptions { "--data", "-platform", "-platformpluginpath",
-        "-platformtheme", "-plugin", "-qwindowgeometry", "-qwindowicon", "-qwindowtitle",
-        "-geometry", "-title", "-icon", "-style", "-stylesheet", "-session", "-display" };
+    bool isNewList = false;
+    /// Empty where it is said to be nothing.
+    std::optional<QString> dataFile;
+    QStringList otherOptions;
     QStringList operands;
+};
+
+BareCall ReadBareCall(const QStringList& arguments)
+{
+    constexpr std::array kToolkitOptions { "-platform", "-platformpluginpath", "-platformtheme",
+        "-plugin", "-qwindowgeometry", "-qwindowicon", "-qwindowtitle", "-geometry", "-title",
+        "-icon", "-style", "-stylesheet", "-session", "-display" };
+    BareCall call;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments[i];
-        if (argument == u"--")
-            return operands + arguments.mid(i + 1);
-        const bool takesNext = std::any_of(kValueOptions.begin(), kValueOptions.end(),
+        if (argument == u"--") {
+            call.operands << arguments.mid(i + 1);
+            break;
+        }
+        const bool takesNext = std::any_of(kToolkitOptions.begin(), kToolkitOptions.end(),
             [&argument](const char* option) { return argument == QLatin1StringView(option); });
         if (takesNext)
             ++i;
+        else if (argument == u"--data")
+            call.dataFile = arguments.value(++i);
+        else if (argument.startsWith(kDataPrefix))
+            call.dataFile = argument.mid(kDataPrefix.size());
+        else if (argument == u"--new-list")
+            call.isNewList = true;
+        else if (argument.startsWith(u"--") || argument == u"-h" || argument == u"-v")
+            call.otherOptions << argument;
         else if (!argument.startsWith(u'-'))
-            operands << argument;
+            call.operands << argument;
     }
-    return operands;
+    return call;
 }
 
 void AddOptions(QCommandLineParser& parser, const SubCommand* command)
@@ -62,8 +83,10 @@ void AddOptions(QCommandLineParser& parser, const SubCommand* command)
     parser.addOption({ u"data"_s, {}, u"FILE"_s });
     parser.addOption(QCommandLineOption(QStringList { u"h"_s, u"help"_s }));
     parser.addOption(QCommandLineOption(QStringList { u"v"_s, u"version"_s }));
-    if (command == nullptr)
+    if (command == nullptr) {
+        parser.addOption(QCommandLineOption(u"new-list"_s));
         return;
+    }
     for (const char* flag : command->flags)
         parser.addOption(QCommandLineOption(QString::fromLatin1(flag)));
     for (const char* option : command->valueOptions)
@@ -85,7 +108,7 @@ void CheckArguments(
                    command.valueOptions.begin(), command.valueOptions.end(), option.toStdString())
                 != command.valueOptions.end();
         if (hasValue && parser.values(option).contains(QString()))
-            FailUsage(u"--%1 has an empty value"_s.arg(option));
+            FailUsage(kEmptyValue.arg(option));
     }
     if (operands.contains(QString()))
         FailUsage(kEmptyArgument);
@@ -95,7 +118,8 @@ void CheckArguments(
         FailUsage(u"“%1” is one argument too many"_s.arg(operands[command.maxOperands]));
 }
 
-/// Runs a call that names no sub-command there is, which can only ask for help or the version.
+/// Runs a call that names no sub-command there is and is none of the window either: it can only ask
+/// for help or the version.
 void RunBare(
     const QStringList& arguments, const CommandEnvironment& environment, TextOutput& output)
 {
@@ -106,15 +130,22 @@ void RunBare(
         return output.WriteRaw(HelpText(environment));
     if (isRight && parser.isSet(u"version"_s))
         return output.WriteRaw("quillory " QUILLORY_VERSION "\n");
-    const QStringList operands = WindowOperands(arguments);
+    const BareCall call = ReadBareCall(arguments);
+    const QStringList& operands = call.operands;
     if (operands.contains(QString()))
         FailUsage(kEmptyArgument);
+    if (isRight && call.dataFile && call.dataFile->isEmpty())
+        FailUsage(kEmptyValue.arg(u"data"));
     const QString word = operands.value(0);
     if (const SubCommand* near = FindNearSubCommand(word))
         FailUsage(u"there is no command “%1”; the nearest is “%2”"_s.arg(
             word, QLatin1StringView(near->name)));
     if (operands.size() > 1)
         FailUsage(u"there is no command “%1”, and one list can be named at most"_s.arg(word));
+    if (call.isNewList && !word.isEmpty())
+        FailUsage(u"a new list and “%1” cannot both be opened"_s.arg(word));
+    if (!word.isEmpty() && !call.otherOptions.isEmpty())
+        FailUsage(u"the window has no option “%1”"_s.arg(call.otherOptions.front()));
     if (!word.isEmpty())
         FailUsage(u"there is no command “%1”"_s.arg(word));
     FailUsage(isRight ? u"no command is named"_s : parser.errorText());
@@ -174,39 +205,42 @@ ExitCode RunOnce(const QStringList& arguments, const CommandEnvironment& environ
 
 } // namespace
 
-bool IsListOfConfiguredFile(const QString& name)
+bool IsListOfFile(const QString& name, const QString& path)
 {
     Settings settings;
     ReadSettings(SettingsPath(), settings);
     QFile errors;
     static_cast<void>(errors.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered));
     try {
-        CommandData data(
-            settings.DbPath, VolumeAccess::ReadOnly, Disposition::OpenExisting, errors);
+        CommandData data(path.isEmpty() ? settings.DbPath : path, VolumeAccess::ReadOnly,
+            Disposition::OpenExisting, errors);
         return data.catalogue.FindList(name) != kNoObject;
     } catch (const WriterWaits&) {
-        return IsListOfConfiguredFile(name);
+        return IsListOfFile(name, path);
     } catch (const CommandFailure&) {
         return false;
     }
 }
 
-bool IsCommandLine(const QStringList& arguments, const std::function<bool(const QString&)>& isList)
+std::optional<WindowCall> ReadWindowCall(const QStringList& arguments,
+    const std::function<bool(const QString& name, const QString& path)>& isList)
 {
-    if (arguments.isEmpty())
-        return false;
-    // The toolkit's own options, which the window passes on, begin with a single dash.
-    const QString& first = arguments.front();
-    if ((first.startsWith(u"--") && first != u"--") || first == u"-h" || first == u"-v")
-        return true;
     const qsizetype place = SubCommandPlace(arguments);
     if (place >= 0 && FindSubCommand(arguments[place]) != nullptr)
-        return true;
-    const QStringList operands = WindowOperands(arguments);
-    if (operands.size() > 1 || operands.contains(QString()))
-        return true;
-    return place >= 0 && FindNearSubCommand(arguments[place]) != nullptr
-        && operands.contains(arguments[place]) && !isList(arguments[place]);
+        return std::nullopt;
+    const BareCall call = ReadBareCall(arguments);
+    const bool hasEmpty
+        = call.operands.contains(QString()) || (call.dataFile && call.dataFile->isEmpty());
+    const qsizetype mostOperands = call.isNewList ? 0 : 1;
+    if (!call.otherOptions.isEmpty() || hasEmpty || call.operands.size() > mostOperands)
+        return std::nullopt;
+    const WindowCall window { call.dataFile.value_or(QString()), call.operands.value(0),
+        call.isNewList };
+    const bool isNearCommand = place >= 0 && arguments[place] == window.listName
+        && FindNearSubCommand(window.listName) != nullptr;
+    if (isNearCommand && !isList(window.listName, window.dataFile))
+        return std::nullopt;
+    return window;
 }
 
 ExitCode RunCommandLine(const QStringList& arguments, const CommandEnvironment& environment)

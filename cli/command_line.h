@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace Quillory {
 
@@ -32,12 +33,23 @@ struct CommandEnvironment
     int keptCopies = 3;
 };
 
-/// Whether the configured data file has a list of this name.
-[[nodiscard]] bool IsListOfConfiguredFile(const QString& name);
-/// Whether the program's arguments (without its own name) are a command, right or wrong, not a call
-/// of the window. A word near a command's name is one unless it is a list's.
-[[nodiscard]] bool IsCommandLine(const QStringList& arguments,
-    const std::function<bool(const QString& name)>& isList = IsListOfConfiguredFile);
+/// What a call of the window asks for.
+struct WindowCall
+{
+    /// The data file of this run; empty for the configured one.
+    QString dataFile;
+    /// The list to open; empty for none.
+    QString listName;
+    /// Whether a new list is to be made.
+    bool isNewList = false;
+};
+
+/// Whether a data file, the configured one if `path` is empty, has a list of this name.
+[[nodiscard]] bool IsListOfFile(const QString& name, const QString& path);
+/// Reads the program's arguments (without its own name); nothing if they are a command, right or
+/// wrong. A word near a command's name is one unless it is a list's.
+[[nodiscard]] std::optional<WindowCall> ReadWindowCall(const QStringList& arguments,
+    const std::function<bool(const QString& name, const QString& path)>& isList = IsListOfFile);
 
 /// Runs a command with the process's own streams, locale and settings; the process's exit code.
 /// Ignores SIGPIPE and SIGXFSZ from here on. Needs no display and no application object.

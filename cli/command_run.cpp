@@ -179,9 +179,7 @@ void CommandRun::RefuseJournal(const QString& path) const
 void CommandRun::KeepCopyOf(CommandData& data) const
 {
     // Other files are tried out, sent and mended; what they hold is not this program's to keep.
-    const auto configured = ResolveVolumePath(environment.dataFile);
-    const auto changed = ResolveVolumePath(data.Path());
-    if (!configured || !changed || *configured != *changed)
+    if (!IsSameVolume(environment.dataFile, data.Path()))
         return;
     const auto kept = KeepCopy(data.volume, data.Path(), environment.copiesFolder,
         QDateTime::currentDateTimeUtc(), environment.keptCopies);

@@ -203,7 +203,7 @@ const SubCommand* FindNearSubCommand(QStringView word)
 QByteArray UsageText(const SubCommand* command)
 {
     if (command == nullptr)
-        return "usage: quillory [LIST]\n"
+        return "usage: quillory [--data FILE] [LIST | --new-list]\n"
                "       quillory COMMAND [--data FILE] [ARGUMENTS]\n";
     return "usage: quillory " + Words(*command) + " [--data FILE]\n";
 }
@@ -211,7 +211,9 @@ QByteArray UsageText(const SubCommand* command)
 QByteArray HelpText(const CommandEnvironment& environment)
 {
     QByteArray text = UsageText(nullptr);
-    text += "\nOpens the window, showing LIST if it is named. The commands work without it:\n\n";
+    text += "\nOpens the window, showing LIST or the page of a new list if one is named. The "
+            "commands\n"
+            "work without it:\n\n";
     for (const SubCommand& command : kSubCommands)
         text += "  quillory " + Words(command) + '\n';
     text += "\n  --help               help, on a command if one is named\n"

@@ -15,7 +15,7 @@ enum class Interruption
     SessionEnd,
     /// A second start of the program.
     Start,
-    /// A second start that names a list.
+    /// A second start that names a list, or asks for a new one.
     StartWithList,
 };
 

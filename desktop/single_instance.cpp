@@ -45,8 +45,10 @@ constexpr QByteArrayView kGreeting = "quillory";
 constexpr QByteArrayView kDone = "done\n";
 constexpr QByteArrayView kUnknownList = "unknown\n";
 
-/// A request is the greeting, the list's name and the token, each ended by a NUL.
-constexpr qsizetype kFieldCount = 3;
+/// A request is the greeting, the list's name, the token and the word for a new list or nothing,
+/// each ended by a NUL.
+constexpr qsizetype kFieldCount = 4;
+constexpr QByteArrayView kNewList = "new";
 
 QByteArray WriteRequest(const StartRequest& request)
 {
@@ -56,15 +58,17 @@ QByteArray WriteRequest(const StartRequest& request)
     const QString listName = request.listName.left(kMaxListNameLength + 1);
     message.append(listName.toUtf8()).append('\0');
     message.append(request.activationToken.toUtf8()).append('\0');
+    message.append(request.isNewList ? kNewList : QByteArrayView()).append('\0');
     return message;
 }
 
 std::optional<StartRequest> ParseRequest(const QByteArray& message)
 {
     const QList<QByteArray> fields = message.split('\0');
-    if (fields.size() != kFieldCount + 1 || fields[0] != kGreeting || !fields[3].isEmpty())
+    if (fields.size() != kFieldCount + 1 || fields[0] != kGreeting || !fields.back().isEmpty())
         return std::nullopt;
-    return StartRequest { QString::fromUtf8(fields[1]), QString::fromUtf8(fields[2]) };
+    return StartRequest { QString::fromUtf8(fields[1]), QString::fromUtf8(fields[2]),
+        fields[3] == kNewList };
 }
 
 /// Whether what has come so far may become a request.
@@ -171,13 +175,17 @@ SingleInstance::~SingleInstance()
     close(m_lock);
 }
 
-QString SingleInstance::Folder()
+QString SingleInstance::Folder(const QString& key)
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (QDir::isAbsolutePath(runtime) && IsPrivateFolder(runtime + u"/quillory"_s))
-        return runtime + u"/quillory"_s;
-    const QString own = QDir::tempPath() + u"/quillory-%1"_s.arg(geteuid());
-    return IsPrivateFolder(own) ? own : QString();
+    QString folder = runtime + u"/quillory"_s;
+    if (!QDir::isAbsolutePath(runtime) || !IsPrivateFolder(folder))
+        folder = QDir::tempPath() + u"/quillory-%1"_s.arg(geteuid());
+    if (!IsPrivateFolder(folder))
+        return {};
+    if (!key.isEmpty())
+        folder += u'/' + key;
+    return IsPrivateFolder(folder) ? folder : QString();
 }
 
 SingleInstance::Outcome SingleInstance::Start(const StartRequest& request)

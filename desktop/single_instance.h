@@ -18,6 +18,11 @@ struct StartRequest
     QString listName;
     /// The desktop's permission to come to the front; empty if there is none.
     QString activationToken;
+    /// The page of a new list is to be opened.
+    bool isNewList = false;
+
+    /// Whether more is asked for than to come to the front.
+    [[nodiscard]] bool NamesPage() const { return isNewList || !listName.isEmpty(); }
 };
 
 /// How the running program answered.
@@ -30,8 +35,8 @@ enum class StartAnswer
 /// Says on standard error that there is no list so named.
 void NoteUnknownList(const QString& name);
 
-/// Keeps the program to one process per user: a lock file tells who is first, and a local socket
-/// beside it brings the requests of later starts to the first one.
+/// Keeps the program to one process per user and data file: a lock file tells who is first, and a
+/// local socket beside it brings the requests of later starts to the first one.
 class SingleInstance : public QObject
 {
     Q_OBJECT
@@ -43,8 +48,9 @@ public:
     ~SingleInstance() override;
 
     /// The folder for lock and socket in the runtime folder, or else in the temporary one; made if
-    /// missing. Empty if neither can be had or another user could reach into it.
-    [[nodiscard]] static QString Folder();
+    /// missing. Empty if neither can be had or another user could reach into it. One of its own
+    /// within that for a data file that is not the configured one, by its key.
+    [[nodiscard]] static QString Folder(const QString& key = {});
 
     enum class Outcome
     {

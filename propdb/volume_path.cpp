@@ -5,6 +5,7 @@
 #include "propdb/detail/hot_journal.h"
 #include "propdb/detail/volume_file.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -73,6 +74,20 @@ Result<QByteArray> ResolveVolumePath(const QString& path)
     if (target.isEmpty())
         return ErrorFromErrno(errno, true);
     return target;
+}
+
+bool IsSameVolume(const QString& path, const QString& other)
+{
+    const auto real = ResolveVolumePath(path);
+    const auto realOther = ResolveVolumePath(other);
+    return real && realOther && *real == *realOther;
+}
+
+QString VolumeKey(const QByteArray& realPath)
+{
+    constexpr qsizetype kCharacters = 16;
+    return QString::fromLatin1(
+        QCryptographicHash::hash(realPath, QCryptographicHash::Sha256).toHex().left(kCharacters));
 }
 
 bool IsJournalOf(const QString& path, const QString& volume)

@@ -13,6 +13,11 @@ namespace Quillory {
 /// the last step is a link to nothing.
 [[nodiscard]] Result<QByteArray> ResolveVolumePath(const QString& path);
 
+/// Whether both lead to one file, as far as that can be told.
+[[nodiscard]] bool IsSameVolume(const QString& path, const QString& other);
+/// Some characters that stand for a real path, fit for a file's name.
+[[nodiscard]] QString VolumeKey(const QByteArray& realPath);
+
 /// Whether `path` is where SQLite keeps the journal of the volume at `volume`, or would.
 [[nodiscard]] bool IsJournalOf(const QString& path, const QString& volume);
 

@@ -3,7 +3,6 @@
 
 #include "propdb/volume_path.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -52,11 +51,9 @@ QString SetFolder(const QString& path, const QString& folder)
     const auto real = ResolveVolumePath(path);
     if (!real || folder.isEmpty())
         return {};
-    constexpr qsizetype kHashCharacters = 16;
-    const QByteArray hash
-        = QCryptographicHash::hash(*real, QCryptographicHash::Sha256).toHex().left(kHashCharacters);
+    constexpr qsizetype kNameCharacters = 16;
     const QString name = QFileInfo(QFile::decodeName(*real)).completeBaseName();
-    return QDir(folder).filePath(name.left(kHashCharacters) + u'-' + QString::fromLatin1(hash));
+    return QDir(folder).filePath(name.left(kNameCharacters) + u'-' + VolumeKey(*real));
 }
 
 bool MakeFolder(const QString& folder)

@@ -94,7 +94,8 @@ void WriteSettings(const QString& path, const Settings& settings)
     QDir().mkpath(info.absolutePath());
     QSettings file(path, QSettings::IniFormat);
     file.setValue(kVersionKey, kVersion);
-    file.setValue(kPathKey, settings.DbPath);
+    if (!settings.isPathForThisRun)
+        file.setValue(kPathKey, settings.DbPath);
     file.setValue(kOptionsKey, static_cast<quint32>(settings.Options.to_ulong()));
     file.setValue(kOrientationKey, settings.ListOrientation);
     file.setValue(kGeometryKey, settings.windowGeometry);

@@ -41,6 +41,8 @@ struct Settings
     QString colourScheme;
     /// How many copies of the data file are kept, 0 to 9; set by hand in the file.
     int keptCopies = 3;
+    /// DbPath was named for this run alone: it is not written.
+    bool isPathForThisRun = false;
 };
 
 /// quillory/quillory.conf in the user's folder of settings.

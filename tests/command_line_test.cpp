@@ -97,8 +97,14 @@ private:
         if (name == u"quillory")
             return RunQuillory(words, input);
         if (name == u"test-is-command") {
-            const auto isList = [](const QString& list) { return list == u"Shew"; };
-            return { 0, IsCommandLine(words, isList) ? "command\n" : "window\n" };
+            const auto isList = [](const QString& list, const QString&) { return list == u"Shew"; };
+            const auto call = ReadWindowCall(words, isList);
+            if (!call)
+                return { 0, "command\n" };
+            QStringList parts { u"window"_s, call->dataFile, call->listName };
+            parts << (call->isNewList ? u"new"_s : QString());
+            parts.removeAll(QString());
+            return { 0, parts.join(u' ').toUtf8() + '\n' };
         }
         if (name == u"test-open")
             return { static_cast<int>(m_window.Mount(words[0], Disposition::OpenAlways)) };

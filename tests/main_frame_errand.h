@@ -57,7 +57,7 @@ public:
         frame = std::make_unique<MainFrame>(settings, MainFrame::Places { Conf(), CopiesFolder() });
         frame->SetFileChooser([this](const auto& then) { then(chosenPath); });
         frame->show();
-        frame->OpenDataFile(listName);
+        frame->OpenDataFile({ listName, {} });
         pages = frame->findChild<PageStack*>();
         QVERIFY(QTest::qWaitForWindowActive(frame.get()));
     }

@@ -84,6 +84,12 @@ private Q_SLOTS:
         Act(u"at Attic"_s);
         QCOMPARE(errand.frame->TakeStartRequest({ u"Pantry"_s, {} }), StartAnswer::Done);
         Act(u"at Pantry; tap OK; on Pantry"_s);
+        QCOMPARE(errand.frame->TakeStartRequest({ {}, {}, true }), StartAnswer::Done);
+        Act(u"at New Inventory List; type Shed"_s);
+        // What is entered is not lost to a second one.
+        QCOMPARE(errand.frame->TakeStartRequest({ {}, {}, true }), StartAnswer::Done);
+        Act(u"see Do you want to discard what you have entered?; tap Yes"_s);
+        Act(u"at New Inventory List; see listName: ; tap Cancel; see Attic, Pantry"_s);
         // One that comes while the data file is asked for waits for it.
         FrameErrand first;
         MakeLists(first.DataPath(), { u"Pantry"_s });

@@ -104,8 +104,9 @@ private Q_SLOTS:
                 { u"Vorräte 備"_s, Outcome::HandedOverUnknownList },
                 { QString(100'000, u'x'), Outcome::HandedOverUnknownList } }) {
             m_requests.clear();
-            QCOMPARE(StartSecond({ list, u"token"_s }), outcome);
+            QCOMPARE(StartSecond({ list, u"token"_s, list.isEmpty() }), outcome);
             QCOMPARE(m_requests.size(), 1U);
+            QCOMPARE(m_requests[0].isNewList, list.isEmpty());
             QCOMPARE(m_requests[0].listName, list.left(129));
             QCOMPARE(m_requests[0].activationToken, u"token"_s);
         }
@@ -117,7 +118,7 @@ private Q_SLOTS:
         Serve(first);
         for (const QByteArray& message :
             { ""_ba, "GET / HTTP/1.1\r\n\r\n"_ba, QByteArray(100, '\0'), "quillory\0Pan"_ba,
-                "quillory\0Pantry\0\0x\0"_ba, "quillory\0"_ba + QByteArray(1 << 26, 'x') }) {
+                "quillory\0Pantry\0\0\0x\0"_ba, "quillory\0"_ba + QByteArray(1 << 26, 'x') }) {
             const std::unique_ptr<QLocalSocket> socket = Connect();
             QVERIFY(socket->waitForConnected());
             socket->write(message);
@@ -178,7 +179,7 @@ private Q_SLOTS:
             const int connection = ConnectPlainly(path);
             if (connection < 0)
                 return 1;
-            static_cast<void>(send(connection, "quillory\0Pantry\0\0", 17, MSG_NOSIGNAL));
+            static_cast<void>(send(connection, "quillory\0Pantry\0\0\0", 18, MSG_NOSIGNAL));
             char answer = 0;
             return recv(connection, &answer, 1, 0) <= 0 ? 2 : 3;
         };
@@ -263,6 +264,7 @@ private Q_SLOTS:
         qputenv("XDG_RUNTIME_DIR", m_folder->path().toLocal8Bit());
         const QString folder = SingleInstance::Folder();
         QCOMPARE(folder, m_folder->filePath(u"quillory"_s));
+        QCOMPARE(SingleInstance::Folder(u"key"_s), m_folder->filePath(u"quillory/key"_s));
         // The temporary folder takes its place when others could reach into it.
         qputenv("TMPDIR", m_folder->path().toLocal8Bit());
         QCOMPARE(chmod(QFile::encodeName(folder).constData(), 0755), 0);
