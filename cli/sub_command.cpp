@@ -211,12 +211,11 @@ QByteArray UsageText(const SubCommand* command)
 QByteArray HelpText(const CommandEnvironment& environment)
 {
     QByteArray text = UsageText(nullptr);
-    text += "\nOpens the window, showing LIST or the page of a new list if one is named. The "
-            "commands\n"
-            "work without it:\n\n";
+    text += "\nOpens the window, showing LIST if it is named. The commands work without it:\n\n";
     for (const SubCommand& command : kSubCommands)
         text += "  quillory " + Words(command) + '\n';
-    text += "\n  --help               help, on a command if one is named\n"
+    text += "\n  --new-list           opens the window with the page of a new list\n"
+            "  --help               help, on a command if one is named\n"
             "  --version            the version\n";
     text += FormsText(environment);
     return text + "\nExit status: 0 done, 1 failed, 2 wrong usage.\n";

@@ -61,6 +61,7 @@ public:
     {
         QDir::setCurrent(m_folder.path());
         qputenv("VERSION", QUILLORY_VERSION);
+        qputenv("MANUAL", QUILLORY_TEST_FOLDER "/../packaging/installed/quillory.1");
         for (const char* name : { "XDG_CONFIG_HOME", "XDG_STATE_HOME" })
             qputenv(name, QFile::encodeName(m_folder.path()));
     }
