@@ -2,6 +2,7 @@
 #include "store/kept_copies.h"
 
 #include "propdb/volume_path.h"
+#include "store/user_folders.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,8 +24,6 @@ namespace {
 constexpr auto kSuffix = ".idb"_L1;
 constexpr auto kOriginName = "copy-of.txt"_L1;
 constexpr auto kGoneName = "gone-since.txt"_L1;
-constexpr QFileDevice::Permissions kOwnerOnly
-    = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 /// A copy's name is its time; the order of the names is that of the times.
 constexpr QStringView kDateFormat = u"yyyyMMdd";
 constexpr QStringView kTimeFormat = u"'T'HHmmsszzz'Z'";
@@ -56,18 +55,11 @@ QString SetFolder(const QString& path, const QString& folder)
     return QDir(folder).filePath(name.left(kNameCharacters) + u'-' + VolumeKey(*real));
 }
 
-bool MakeFolder(const QString& folder)
-{
-    const QFileInfo info(folder);
-    if (info.isDir())
-        return info.isWritable();
-    return QDir().mkpath(folder) && QFile::setPermissions(folder, kOwnerOnly);
-}
-
 bool WriteLine(const QString& path, const QString& line)
 {
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(line.toUtf8() + '\n') > 0 && file.commit();
+    return file.open(QIODevice::WriteOnly) && file.setPermissions(kOwnerOnly)
+        && file.write(line.toUtf8() + '\n') > 0 && file.commit();
 }
 
 /// Without its end; empty if there is none.
@@ -167,10 +159,7 @@ QString NextName(const QDir& set, const QDateTime& now)
 
 QString DefaultCopiesFolder()
 {
-    QString state = qEnvironmentVariable("XDG_STATE_HOME");
-    if (!QDir::isAbsolutePath(state))
-        state = QDir::home().filePath(u".local/state"_s);
-    return QDir(state).filePath(u"quillory/copies"_s);
+    return UserFolder("XDG_STATE_HOME", u".local/state"_s) + u"/quillory/copies"_s;
 }
 
 Result<KeepOutcome> KeepCopy(
@@ -183,7 +172,7 @@ Result<KeepOutcome> KeepCopy(
     const QString setFolder = SetFolder(path, folder);
     if (setFolder.isEmpty())
         return ErrorNumber::PathNotFound;
-    if (!MakeFolder(setFolder))
+    if (!MakeUserFolder(setFolder))
         return ErrorNumber::AccessDenied;
     QDir set(setFolder);
     Prune(set, count);
@@ -193,7 +182,9 @@ Result<KeepOutcome> KeepCopy(
         return ErrorNumber::DiskFull;
     if (!WriteOrigin(set, path))
         return ErrorNumber::WriteFault;
-    QUILLORY_TRY(volume->Backup(set.filePath(NextName(set, now))));
+    const QString copy = set.filePath(NextName(set, now));
+    QUILLORY_TRY(volume->Backup(copy));
+    QFile::setPermissions(copy, kOwnerOnly);
     Prune(set, count);
     return KeepOutcome::Kept;
 }

@@ -2,11 +2,11 @@
 #include "store/settings.h"
 
 #include "platform/code_page.h"
+#include "store/user_folders.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
-#include <QStandardPaths>
 
 namespace Quillory {
 
@@ -60,8 +60,7 @@ std::optional<int> ReadCodePage(const QSettings& file)
 
 QString SettingsPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-        + u"/quillory/quillory.conf"_s;
+    return UserFolder("XDG_CONFIG_HOME", u".config"_s) + u"/quillory/quillory.conf"_s;
 }
 
 void ReadSettings(const QString& path, Settings& settings)
@@ -89,9 +88,10 @@ void ReadSettings(const QString& path, Settings& settings)
 void WriteSettings(const QString& path, const Settings& settings)
 {
     const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
+    const bool isNew = !info.exists();
+    if (!isNew && !info.isFile())
         return;
-    QDir().mkpath(info.absolutePath());
+    static_cast<void>(MakeUserFolder(info.absolutePath()));
     QSettings file(path, QSettings::IniFormat);
     file.setValue(kVersionKey, kVersion);
     if (!settings.isPathForThisRun)
@@ -100,6 +100,9 @@ void WriteSettings(const QString& path, const Settings& settings)
     file.setValue(kOrientationKey, settings.ListOrientation);
     file.setValue(kGeometryKey, settings.windowGeometry);
     file.sync();
+    // A file that was there keeps who may read it.
+    if (isNew)
+        QFile::setPermissions(path, kOwnerOnly);
 }
 
 ValueContext ContextOf(const Settings& settings)

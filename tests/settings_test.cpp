@@ -31,6 +31,9 @@ private Q_SLOTS:
         QCOMPARE(read.ListOrientation, written.ListOrientation);
         QCOMPARE(read.windowGeometry, written.windowGeometry);
         QVERIFY(FileBytes(path).contains("Version=100\n"));
+        constexpr auto kOthers = QFileDevice::Permissions(0x77);
+        for (const QString& made : { path, Path(u"new/folder"_s), Path(u"new"_s) })
+            QCOMPARE(QFile::permissions(made) & kOthers, QFileDevice::Permissions());
     }
 
     void damagedAndForeignValuesReadAsDefaults()

@@ -62,11 +62,17 @@ bool IsVerified(const char* path)
     return !Permitted().unverified.contains(QByteArray(path));
 }
 
+constexpr QByteArrayView kJournalSuffix("-journal");
+
+QByteArray VolumeOfJournal(const char* path)
+{
+    return QByteArray(path).chopped(kJournalSuffix.size());
+}
+
 bool IsPermittedJournal(const char* path)
 {
-    constexpr QByteArrayView kSuffix("-journal");
-    const QByteArray name(path);
-    return name.endsWith(kSuffix) && IsPermittedVolume(name.chopped(kSuffix.size()).constData());
+    return QByteArrayView(path).endsWith(kJournalSuffix)
+        && IsPermittedVolume(VolumeOfJournal(path).constData());
 }
 
 bool MayOpen(const char* path, int flags)
@@ -219,12 +225,23 @@ constexpr sqlite3_io_methods kFileMethods {
     .xUnfetch = nullptr,
 };
 
+/// A new volume is its owner's alone. A journal holds what the volume does, and whoever may use
+/// that must be able to play it back.
+mode_t ModeOfNew(const char* path)
+{
+    constexpr mode_t kAll = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    struct stat status
+    { };
+    const bool hasVolume
+        = IsPermittedJournal(path) && stat(VolumeOfJournal(path).constData(), &status) == 0;
+    return hasVolume ? status.st_mode & kAll : S_IRUSR | S_IWUSR;
+}
+
 /// Makes the file if there is none; false, and errno, if it cannot be made. SQLite itself would try
 /// again without making it, and then only tell that there is none.
 bool MakeFile(const char* path)
 {
-    constexpr mode_t kUsualMode = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
-    const int descriptor = open(path, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, kUsualMode);
+    const int descriptor = open(path, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ModeOfNew(path));
     return descriptor >= 0 && close(descriptor) == 0;
 }
 
