@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <optional>
 
 namespace Quillory {
 
@@ -108,23 +107,18 @@ void SetWarnings(InventoryList& list, const QCommandLineParser& parser)
 void RunLists(const CommandRun& run)
 {
     const auto data = run.OpenForReading();
-    std::optional<JsonArrayWriter> json;
-    if (run.IsJson())
-        json.emplace(run.output);
+    JsonArrayWriter json(run.output, run.IsJson());
     const auto print = [&](const ListCatalogue::HomeListEntry& entry) {
         const auto count = data->Rows().RecordCount();
         if (!count)
             Fail(u"cannot count the rows: %1"_s.arg(ReadErrorText(count.Error())));
-        if (json)
-            json->Add({ { u"name"_s, entry.name }, { u"rows"_s, *count }, { u"icon"_s, entry.icon },
+        if (json.IsWanted())
+            json.Add({ { u"name"_s, entry.name }, { u"rows"_s, *count }, { u"icon"_s, entry.icon },
                 { u"columns"_s, JsonColumns(data->list) } });
         else
             run.output.WriteFields({ entry.name, QString::number(*count) });
     };
-    run.VisitLists(*data, print, [&json] {
-        if (json)
-            json->End();
-    });
+    run.VisitLists(*data, print, [&json] { json.End(); });
 }
 
 void RunNew(const CommandRun& run)

@@ -113,10 +113,12 @@ void TextOutput::WriteTo(QIODevice& target, QByteArrayView bytes)
     }
 }
 
-JsonArrayWriter::JsonArrayWriter(TextOutput& output)
+JsonArrayWriter::JsonArrayWriter(TextOutput& output, bool isWanted)
     : m_output(output)
+    , m_isWanted(isWanted)
 {
-    m_output.WriteRaw("[");
+    if (m_isWanted)
+        m_output.WriteRaw("[");
 }
 
 void JsonArrayWriter::Add(const JsonMembers& members)
@@ -133,7 +135,8 @@ void JsonArrayWriter::Add(const JsonMembers& members)
 
 void JsonArrayWriter::End()
 {
-    m_output.WriteRaw(m_isEmpty ? "]\n" : "\n]\n");
+    if (m_isWanted)
+        m_output.WriteRaw(m_isEmpty ? "]\n" : "\n]\n");
 }
 
 } // namespace Quillory

@@ -52,17 +52,20 @@ private:
 /// The members of a JSON object in the order in which they are written.
 using JsonMembers = QList<std::pair<QString, QJsonValue>>;
 
-/// Writes a JSON array of objects one by one, an object per line.
+/// Writes a JSON array of objects one by one, an object per line, where JSON is wanted.
 class JsonArrayWriter
 {
 public:
-    explicit JsonArrayWriter(TextOutput& output);
+    JsonArrayWriter(TextOutput& output, bool isWanted);
 
+    [[nodiscard]] bool IsWanted() const { return m_isWanted; }
+    /// Only where it is wanted.
     void Add(const JsonMembers& members);
     void End();
 
 private:
     TextOutput& m_output;
+    bool m_isWanted;
     bool m_isEmpty = true;
 };
 

@@ -3,8 +3,6 @@
 #include "store/kept_copies.h"
 #include "store/salvage.h"
 
-#include <optional>
-
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
@@ -17,18 +15,16 @@ class RestorePrinter
 public:
     explicit RestorePrinter(const CommandRun& run)
         : m_run(run)
-    {
-        if (run.IsJson())
-            m_json.emplace(run.output);
-    }
+        , m_json(run.output, run.IsJson())
+    { }
 
     void PrintCopies(const std::vector<KeptCopy>& copies)
     {
         for (size_t i = 0; i < copies.size(); ++i) {
             const auto number = static_cast<qint64>(i) + 1;
             const QString time = copies[i].time.toLocalTime().toString(u"yyyy-MM-dd HH:mm:ss"_s);
-            if (m_json)
-                m_json->Add(
+            if (m_json.IsWanted())
+                m_json.Add(
                     { { u"copy"_s, number }, { u"time"_s, copies[i].time.toString(Qt::ISODate) },
                         { u"bytes"_s, copies[i].bytes } });
             else
@@ -44,20 +40,16 @@ public:
         for (const QString& name : report.lostLists)
             PrintList({ name, 0, 0, false }, lead);
     }
-    void End()
-    {
-        if (m_json)
-            m_json->End();
-    }
+    void End() { m_json.End(); }
 
 private:
     const CommandRun& m_run;
-    std::optional<JsonArrayWriter> m_json;
+    JsonArrayWriter m_json;
 
     void PrintList(const SalvageReport::List& list, const QStringList& lead)
     {
-        if (m_json) {
-            m_json->Add({ { u"salvage"_s, list.name }, { u"rows"_s, list.rows },
+        if (m_json.IsWanted()) {
+            m_json.Add({ { u"salvage"_s, list.name }, { u"rows"_s, list.rows },
                 { u"lost"_s, list.lostRows }, { u"complete"_s, list.isComplete } });
             return;
         }

@@ -79,6 +79,7 @@ class RowPrinter
 public:
     RowPrinter(const CommandRun& run, const std::vector<ColumnDefinition>& columns)
         : m_run(run)
+        , m_json(run.output, run.IsJson())
     {
         QStringList names;
         for (const ColumnDefinition& column : columns) {
@@ -86,12 +87,10 @@ public:
             m_values.push_back({ column.id, 0, {} });
             names << column.name;
         }
-        if (run.IsJson()) {
+        if (m_json.IsWanted())
             m_keys = UniqueKeys(names);
-            m_json.emplace(run.output);
-        } else {
+        else
             run.output.WriteFields(names);
-        }
     }
 
     [[nodiscard]] const std::vector<PropertyId>& Ids() const { return m_ids; }
@@ -101,11 +100,11 @@ public:
     {
         for (size_t i = 0; i < m_values.size(); ++i)
             row.Read(i, m_values[i]);
-        if (m_json) {
+        if (m_json.IsWanted()) {
             JsonMembers members;
             for (qsizetype i = 0; i < m_keys.size(); ++i)
                 members.append({ m_keys[i], JsonOf(m_values[static_cast<size_t>(i)]) });
-            m_json->Add(members);
+            m_json.Add(members);
         } else {
             QStringList fields;
             for (const PropertyValue& value : m_values)
@@ -114,11 +113,7 @@ public:
         }
         return !m_run.output.HasFailed();
     }
-    void End()
-    {
-        if (m_json)
-            m_json->End();
-    }
+    void End() { m_json.End(); }
 
 private:
     const CommandRun& m_run;
@@ -126,7 +121,7 @@ private:
     /// The row that is printed.
     std::vector<PropertyValue> m_values;
     QStringList m_keys;
-    std::optional<JsonArrayWriter> m_json;
+    JsonArrayWriter m_json;
 
     /// Columns may share a name, keys may not: the second "Size" becomes "Size (2)".
     static QStringList UniqueKeys(const QStringList& names)
@@ -176,12 +171,11 @@ class DuePrinter
 public:
     DuePrinter(const CommandRun& run, qint32 days)
         : m_run(run)
+        , m_json(run.output, run.IsJson())
     {
         const QDate today = run.environment.context.clock().date;
         m_today = DateToFileTime(today).value_or(FileTime {});
         m_limit = DateToFileTime(today.addDays(days)).value_or(FileTime {});
-        if (run.IsJson())
-            m_json.emplace(run.output);
     }
 
     void PrintList(CommandData& data)
@@ -201,17 +195,13 @@ public:
                 return !m_run.output.HasFailed();
             }));
     }
-    void End()
-    {
-        if (m_json)
-            m_json->End();
-    }
+    void End() { m_json.End(); }
 
 private:
     const CommandRun& m_run;
     FileTime m_today;
     FileTime m_limit;
-    std::optional<JsonArrayWriter> m_json;
+    JsonArrayWriter m_json;
 
     void PrintRow(const InventoryList& list, std::span<const PropertyValue> values)
     {
@@ -234,8 +224,8 @@ private:
     void Print(const InventoryList& list, const QString& row, const QString& state,
         const QString& text, const std::pair<QString, QJsonValue>& detail)
     {
-        if (m_json)
-            m_json->Add({ { u"list"_s, list.Name }, { u"row"_s, row }, { u"state"_s, state },
+        if (m_json.IsWanted())
+            m_json.Add({ { u"list"_s, list.Name }, { u"row"_s, row }, { u"state"_s, state },
                 { detail.first, detail.second } });
         else
             m_run.output.WriteFields({ list.Name, row, text });
@@ -269,17 +259,14 @@ void RunSummary(const CommandRun& run)
     const ListTotals totals = ComputeTotals(data->volume, data->list, &filters, context);
     if (totals.error != ErrorNumber::None)
         Fail(u"the rows cannot be totalled: %1"_s.arg(ReadErrorText(totals.error)));
-    std::optional<JsonArrayWriter> json;
-    if (run.IsJson())
-        json.emplace(run.output);
+    JsonArrayWriter json(run.output, run.IsJson());
     for (const ColumnTotal& total : totals.lines) {
-        if (json)
-            json->Add({ { u"name"_s, total.name }, { u"total"_s, JsonTotal(total.text) } });
+        if (json.IsWanted())
+            json.Add({ { u"name"_s, total.name }, { u"total"_s, JsonTotal(total.text) } });
         else
             run.output.WriteFields({ total.name, total.text });
     }
-    if (json)
-        json->End();
+    json.End();
 }
 
 void RunDue(const CommandRun& run)
