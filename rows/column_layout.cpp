@@ -139,9 +139,12 @@ bool ColumnLayout::IsText(int column) const
 
 bool ColumnLayout::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::FontChange)
+    // The viewport is what is left for columns; it hears of a new font, too.
+    const bool isNewFont = watched == &m_view && event->type() == QEvent::FontChange;
+    const bool isNewRoom = watched != &m_view && event->type() == QEvent::Resize;
+    if (isNewFont)
         Measure();
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::Resize)
+    if (isNewFont || isNewRoom)
         Fit();
     return QObject::eventFilter(watched, event);
 }
