@@ -241,9 +241,10 @@ void RowsView::UpdateCommands()
 void RowsView::UpdateFilterBar()
 {
     if (!m_filters || m_filters->entries.empty())
-        m_filterBar->hide();
-    else
-        m_filterBar->Tell(m_model->rowCount(), m_store.RowCount(), !m_options.foundBy);
+        return m_filterBar->hide();
+    // A list that can be read only in part may not be counted, either.
+    const int shown = m_model->rowCount();
+    m_filterBar->Tell(shown, std::max<qint64>(m_store.RowCount(), shown), !m_options.foundBy);
 }
 
 void RowsView::Run(Command command)

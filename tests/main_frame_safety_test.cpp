@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTableView>
@@ -222,6 +223,9 @@ private Q_SLOTS:
                 Act(steps);
                 hear();
             }
+            Act(u"tap OK; tap Menu; tap Set Filters...; tap Add; fill valueEdit: Row; tap OK; tap OK"_s);
+            const auto* left = errand.pages->Top()->findChild<QLabel*>(u"filterText"_s);
+            QCOMPARE(left->text().section(u' ', 0, 0), left->text().section(u' ', 2, 2));
             while (errand.pages->Depth() > 1)
                 Act(u"tap OK"_s);
             errand.ChooseFileFor(u"Export List..."_s, errand.DataPath() + u".txt"_s);
