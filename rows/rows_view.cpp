@@ -113,9 +113,8 @@ void RowsView::BuildTable()
     Body()->addWidget(m_view, 1);
     Body()->addWidget(m_filterBar);
     connect(m_filterBar, &FilterBar::ClearChosen, this, &RowsView::ClearFilters);
-    for (const auto signal :
-        { &QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved })
-        connect(m_model, signal, this, &RowsView::UpdateFilterBar);
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, [this] { UpdateFilterBar(1); });
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, [this] { UpdateFilterBar(-1); });
 }
 
 void RowsView::BuildCommands()
@@ -166,13 +165,14 @@ void RowsView::Fill()
     m_model->SetRows(ReadRows());
     m_sortColumn.reset();
     MarkSorted(PropName);
-    if (m_filters && !m_filters->entries.empty())
+    if (HasCriteria())
         m_hint->Say(tr("No row meets the filters."));
     else if (m_options.isReadOnly)
         m_hint->Say(tr("This list has no rows."));
     else
         m_hint->Say(tr("No rows yet. Tap New to add one."));
-    UpdateFilterBar();
+    m_rowCount = HasCriteria() ? m_store.RowCount() : 0;
+    UpdateFilterBar(0);
     if (m_model->rowCount() > 0)
         Select(std::max(LineOf(selected), 0));
 }
@@ -238,13 +238,19 @@ void RowsView::UpdateCommands()
         SetCommandEnabled(entry.command, isMet(entry.needs));
 }
 
-void RowsView::UpdateFilterBar()
+bool RowsView::HasCriteria() const
 {
-    if (!m_filters || m_filters->entries.empty())
-        return m_filterBar->hide();
+    return m_filters && !m_filters->entries.empty();
+}
+
+void RowsView::UpdateFilterBar(int gained)
+{
     // A list that can be read only in part may not be counted, either.
-    const int shown = m_model->rowCount();
-    m_filterBar->Tell(shown, std::max<qint64>(m_store.RowCount(), shown), !m_options.foundBy);
+    m_rowCount = std::max<qint64>(m_rowCount + gained, m_model->rowCount());
+    if (HasCriteria())
+        m_filterBar->Tell(m_model->rowCount(), m_rowCount, !m_options.foundBy);
+    else
+        m_filterBar->hide();
 }
 
 void RowsView::Run(Command command)
@@ -340,7 +346,7 @@ void RowsView::ShowRestored(ObjectId row)
         order = m_store.SortRows(std::move(order), *m_sortColumn).rows;
     const auto place = std::find(order.begin(), order.end(), row);
     if (place == order.end())
-        return;
+        return UpdateFilterBar(1);
     // Behind the nearest of those before it; rows that were added since they were put in order
     // stand at the end.
     int line = -1;

@@ -78,6 +78,9 @@ private:
     FilterBar* m_filterBar;
     /// The criteria of the rows shown; none once filters were cleared, as at first.
     std::optional<FilterSet> m_filters;
+    /// How many rows the list has, where criteria leave some of them. To count them takes as long
+    /// as to read them all.
+    qint64 m_rowCount = 0;
     bool m_isPartlyReadTold = false;
     /// The column by which the lines were sorted since they were filled.
     std::optional<PropertyId> m_sortColumn;
@@ -91,8 +94,10 @@ private:
 
     void Run(Command command);
     void UpdateCommands();
-    /// Tells how many rows a filter or a search leaves.
-    void UpdateFilterBar();
+    [[nodiscard]] bool HasCriteria() const;
+    /// Tells how many rows a filter or a search leaves; a list that has lost or gained some is not
+    /// counted again.
+    void UpdateFilterBar(int gained);
     void OpenRowMenu(const QPoint& position);
     /// -1 if none is selected.
     [[nodiscard]] int SelectedLine() const;
