@@ -65,7 +65,7 @@ ColumnLayout::ColumnLayout(RowsTable& view, InventoryList& list)
         if (!m_isFitting)
             m_isSet[static_cast<size_t>(column)] = true;
     });
-    view.installEventFilter(this);
+    m_header.installEventFilter(this);
     view.viewport()->installEventFilter(this);
 }
 
@@ -139,9 +139,9 @@ bool ColumnLayout::IsText(int column) const
 
 bool ColumnLayout::eventFilter(QObject* watched, QEvent* event)
 {
-    // The viewport is what is left for columns; it hears of a new font, too.
-    const bool isNewFont = watched == &m_view && event->type() == QEvent::FontChange;
-    const bool isNewRoom = watched != &m_view && event->type() == QEvent::Resize;
+    // The header hears of a new font after the lines do; the viewport is what is left for columns.
+    const bool isNewFont = watched == &m_header && event->type() == QEvent::FontChange;
+    const bool isNewRoom = watched != &m_header && event->type() == QEvent::Resize;
     if (isNewFont)
         Measure();
     if (isNewFont || isNewRoom)

@@ -28,6 +28,7 @@
 #include <QLineEdit>
 #include <QScopeGuard>
 #include <QScrollArea>
+#include <QSignalSpy>
 #include <QTabBar>
 #include <QTableView>
 
@@ -74,6 +75,8 @@ struct PageCase
     QStringList ways;
     /// Whether a letter typed first, or Space, is input that could be lost.
     bool takesInput;
+    /// Where its help begins.
+    QString help;
     Page* (*make)(Subject& subject);
 };
 
@@ -81,35 +84,38 @@ const QStringList kOk { u"tap ok"_s, u"press Return"_s };
 const QStringList kOkAndCancel { u"tap ok"_s, u"tap leftKey"_s, u"press Return"_s };
 
 const std::array kPages {
-    PageCase { "new list", kOkAndCancel, true, MakeSheet<SheetMode::NewList> },
-    PageCase { "list properties", kOkAndCancel, true, MakeSheet<SheetMode::ExistingList> },
-    PageCase { "column definition", kOkAndCancel, true, Make<ColumnDefinitionPage> },
-    PageCase { "options", kOkAndCancel, true,
+    PageCase { "new list", kOkAndCancel, true, u"newlist"_s, MakeSheet<SheetMode::NewList> },
+    PageCase {
+        "list properties", kOkAndCancel, true, u"newlist"_s, MakeSheet<SheetMode::ExistingList> },
+    PageCase { "column definition", kOkAndCancel, true, {}, Make<ColumnDefinitionPage> },
+    PageCase { "options", kOkAndCancel, true, u"options"_s,
         [](Subject&) -> Page* { return new DisplayOptionsPage({}); } },
-    PageCase { "import order", kOkAndCancel, false,
+    PageCase { "import order", kOkAndCancel, false, u"importlist"_s,
         [](Subject& subject) -> Page* { return new ImportOrderPage(subject.list.columns); } },
     // Return takes the selected icon.
-    PageCase { "icon grid", { u"tap leftKey"_s, u"press Return"_s }, false, Make<IconGridPage, 0> },
-    PageCase { "find", kOkAndCancel, true, MakeFilter<FilterMode::Find> },
-    PageCase { "filter", kOkAndCancel, false, MakeFilter<FilterMode::Filter> },
-    PageCase { "filters", kOk, false,
+    PageCase {
+        "icon grid", { u"tap leftKey"_s, u"press Return"_s }, false, {}, Make<IconGridPage, 0> },
+    PageCase { "find", kOkAndCancel, true, {}, MakeFilter<FilterMode::Find> },
+    PageCase { "filter", kOkAndCancel, false, {}, MakeFilter<FilterMode::Filter> },
+    PageCase { "filters", kOk, false, {},
         [](Subject& subject) -> Page* {
             return new FiltersPage({}, subject.list, subject.file.context);
         } },
     // Return goes on to the next field.
-    PageCase { "row editor", { u"tap ok"_s, u"tap leftKey"_s }, true,
+    PageCase { "row editor", { u"tap ok"_s, u"tap leftKey"_s }, true, u"editlist"_s,
         [](Subject& subject) -> Page* {
             return new RowEditor(subject.list, nullptr, subject.file.context);
         } },
     // Return edits the selected row.
-    PageCase { "rows", { u"tap ok"_s }, false,
+    PageCase { "rows", { u"tap ok"_s }, false, u"editlist"_s,
         [](Subject& subject) -> Page* {
             return new RowsView(*subject.file.rows, subject.file.list, subject.file.context, {});
         } },
-    PageCase { "summary", kOk, false, [](Subject&) -> Page* { return new SummaryPage({}); } },
-    PageCase { "help", kOk, false, [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); } },
-    PageCase { "about", kOk, false, Make<AboutPage> },
-    PageCase { "welcome", kOk, false, Make<WelcomePage> },
+    PageCase { "summary", kOk, false, {}, [](Subject&) -> Page* { return new SummaryPage({}); } },
+    PageCase {
+        "help", kOk, false, {}, [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); } },
+    PageCase { "about", kOk, false, u"Main_Contents"_s, Make<AboutPage> },
+    PageCase { "welcome", kOk, false, {}, Make<WelcomePage> },
 };
 
 /// A row of a test's table for each page and each of the ways that are meant of it.
@@ -159,7 +165,8 @@ QStringList LookOf(const Page& page)
         QDebug(&lines.emplace_back())
             << widget->metaObject()->className() << widget->objectName()
             << widget->font().toString() << widget->geometry()
-            << (table == nullptr ? 0 : table->verticalHeader()->defaultSectionSize());
+            << (table == nullptr ? 0 : table->verticalHeader()->defaultSectionSize())
+            << (table == nullptr ? 0 : table->horizontalHeader()->length());
     }
     return lines;
 }
@@ -271,6 +278,18 @@ private Q_SLOTS:
         ApplyWindowStyle(&fresh.stack);
         Show(fresh, kPages.at(static_cast<size_t>(page)));
         QTRY_COMPARE_WITH_TIMEOUT(LookOf(*open.page), LookOf(*fresh.page), 500);
+    }
+
+    void everyPageKnowsItsHelp_data() { anOpenPageFollowsTheFont_data(); }
+
+    void everyPageKnowsItsHelp()
+    {
+        const auto [page] = Table<int>::Row();
+        Subject subject;
+        const QSignalSpy asked(&subject.stack, &PageStack::HelpRequested);
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        Act(u"press F1"_s);
+        QCOMPARE(asked.value(0).value(0).toString(), kPages.at(static_cast<size_t>(page)).help);
     }
 
     void everyControlHasAName_data() { anOpenPageFollowsTheFont_data(); }
