@@ -57,6 +57,8 @@ private Q_SLOTS:
         const QString expiry = u"tap Menu; tap Add Expiry Date Column; "_s;
         add("an empty name inserts nothing",
             u"tap Insert; tap OK; tap Insert; press Esc; at New Inventory List; see Name, Quantity"_s);
+        add("a type alone is not lost either",
+            u"tap Insert; choose columnType: Price; press Esc; tap No; see columnType: Price"_s);
         add("the first, of one's own, and the built-in last",
             expiry
                 + u"see Expiry Date, Name, Quantity; on Expiry Date; tap Menu; "
@@ -104,8 +106,8 @@ private Q_SLOTS:
     void keysChangeColumnsOnTheirPanelAlone()
     {
         Act(Define(u"Price"_s, u"Price"_s)
-            + u"see Price, Name, Quantity; press Ctrl+Down; see Name, Price, Quantity; "
-              "press Ctrl+Tab"_s);
+            + u"see Price, Name, Quantity; press Ctrl+Down Ctrl+Up Ctrl+Down; "
+              "see Name, Price, Quantity; press Ctrl+Tab"_s);
         QTRY_VERIFY(Find<QWidget>(u"warnOnCount"_s)->hasFocus());
         Act(u"press Del Ctrl+Up; tap Columns; see Name, Price, Quantity; "
             "press Del; see Name, Quantity"_s);
@@ -160,7 +162,7 @@ private Q_SLOTS:
         QCOMPARE(icon(), 42);
         Act(u"tap nextIcon"_s);
         QCOMPARE(icon(), 0);
-        Act(u"tap allIcons"_s);
+        Act(u"press Space; at Icon; press Esc; tap allIcons"_s);
         auto* grid = m_stack->Top()->findChild<IconGrid*>();
         QVERIFY(grid != nullptr);
         QCOMPARE(grid->SelectedIcon(), 0);
@@ -216,18 +218,19 @@ private Q_SLOTS:
         add("the largest", u"2147483647"_s, {}, 2147483647);
         add("one too large", u"2147483648"_s, {}, 0);
         add("more than 16 characters", u"00000000000000123"_s, {}, 12);
-        add("up to the limit, no further", u"32766"_s, u"Up Up"_s, 32767);
-        add("down to nothing", u"1"_s, u"Down"_s, 0);
-        add("up from the largest", u"2147483647"_s, u"Up"_s, 32767);
-        add("down from the smallest", u"-2147483648"_s, u"Down"_s, -32767);
+        add("up to the limit, no further", u"32766"_s, u"press Up Up"_s, 32767);
+        add("down to nothing", u"1"_s, u"press Down"_s, 0);
+        add("up from the largest", u"2147483647"_s, u"press Up"_s, 32767);
+        add("down from the smallest", u"-2147483648"_s, u"press Down"_s, -32767);
+        add("by taps", u"5"_s, u"tap +; tap +; tap \u2212"_s, 6);
     }
 
     void thresholdsAreReadAsNumbersAndStepped()
     {
-        const auto [typed, keys, threshold] = Table<QString, QString, int>::Row();
+        const auto [typed, steps, threshold] = Table<QString, QString, int>::Row();
         Act(u"tap Options; tap warnOnCount; fill threshold: "_s + typed);
-        if (!keys.isEmpty())
-            Act(u"press %1; see threshold: %2"_s.arg(keys).arg(threshold));
+        if (!steps.isEmpty())
+            Act(u"%1; see threshold: %2"_s.arg(steps).arg(threshold));
         QCOMPARE(m_page->Result().TableWarnStart, threshold);
     }
 

@@ -139,7 +139,9 @@ std::optional<Spot> ControlSpot(const QWidget& front, const QString& what)
 {
     for (QWidget* widget : SeenIn<QWidget>(front)) {
         const auto* button = qobject_cast<QAbstractButton*>(widget);
-        const bool isSo = button != nullptr && button->text().remove(u'&') == what;
+        const auto* label = qobject_cast<QLabel*>(widget);
+        const bool isSo = (button != nullptr && button->text().remove(u'&') == what)
+            || (label != nullptr && label->text() == what);
         // Where a checkbox has its square.
         const int x = button != nullptr && button->isCheckable() ? 10 : widget->width() / 2;
         if (isSo || widget->objectName() == what)
@@ -223,7 +225,10 @@ QString SelectedIn(const QWidget& front)
 {
     const auto* view = ViewIn(front);
     const auto lines = view == nullptr ? QModelIndexList() : view->selectionModel()->selectedRows();
-    return lines.isEmpty() ? QString() : TextAt(*view, lines.front().row(), 0);
+    if (lines.isEmpty())
+        return {};
+    const bool isSeen = view->viewport()->rect().intersects(view->visualRect(lines.front()));
+    return isSeen ? TextAt(*view, lines.front().row(), 0) : u"a line out of sight"_s;
 }
 
 void Press(QWidget& front, const QString& keys)

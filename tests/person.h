@@ -10,7 +10,8 @@ namespace Quillory {
 /// possible within some seconds fails the test and ends them.
 ///
 /// - `tap X`, `double-tap X`, `hold X`: the control of that object name, or whatever reads so: a
-///   button, an entry, a tab, the header of a column, a cell. "COLUMN of LINE" is a cell, too.
+///   button, a label, an entry, a tab, the header of a column, a cell. "COLUMN of LINE" is a cell,
+///   too.
 /// - `fill X: TEXT` types over what a control holds.
 /// - `choose X: TEXT` goes down a drop-down list by keys, until it shows the text.
 /// - `type TEXT` and `press KEYS`, such as "Ctrl+F Down", go to what has the keyboard.
@@ -18,7 +19,8 @@ namespace Quillory {
 /// brackets, ticked ones starred), or
 ///   the lines of a page: first cells, or all, parted by "|", where columns have no headers.
 /// - `see X: TEXT` waits for the cells of a column, or for what a control holds.
-/// - `on TEXT` waits for the selected line, `at TEXT` for the title of the page. "nothing" is none.
+/// - `on TEXT` waits for the selected line to be in sight, `at TEXT` for the title of the page.
+/// "nothing" is none.
 /// - `cannot X` waits for what reads so and is disabled.
 /// - `beside STEP` is a step on the page beside the topmost; `size WxH` gives the window that size.
 void Act(const QString& steps);

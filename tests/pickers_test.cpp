@@ -100,11 +100,11 @@ private Q_SLOTS:
         auto* grid = new IconGrid(&window);
         auto* other = new QLineEdit(&window);
         window.setPalette(palette);
-        grid->resize(300, 300);
+        grid->resize(300, 100);
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        grid->SelectIcon(3);
-        const QRect cell = grid->visualRect(grid->model()->index(3, 0));
+        grid->SelectIcon(40);
+        const QRect cell = grid->visualRect(grid->model()->index(40, 0));
         const auto picture = [grid, cell] { return grid->viewport()->grab(cell).toImage(); };
         grid->setFocus();
         const QImage focused = picture();
@@ -147,6 +147,7 @@ private Q_SLOTS:
         add("right in the grid", 7U, u"tap colour; press Right Return"_s, 13U, 1);
         add("up in the grid", 7U, u"tap colour; press Up Return"_s, 6U, 1);
         add("down in the grid", 7U, u"tap colour; press Down Return"_s, 8U, 1);
+        add("not beyond its last line", 5U, u"tap colour; press Down Return"_s, 5U, 1);
         add("a tap, and one on what is shown already", 7U,
             u"tap colour; tap colour4; tap colour; tap colour4"_s, 1U, 2);
     }

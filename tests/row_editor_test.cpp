@@ -149,6 +149,7 @@ private Q_SLOTS:
         QCOMPARE(m_page->Texts()[Bought], QString());
         Act(u"press Alt+Down; press Right Return; see dateEdit: 6/16/2026"_s);
         QCOMPARE(m_page->Texts()[Bought], u"6/16/2026"_s);
+        Act(u"press Alt+Down; press Right Return; see dateEdit: 6/17/2026"_s);
         // A row that is not stored yet takes it back.
         Act(u"tap Name; tap Bought; fill dateEdit: ; tap Name"_s);
         QCOMPARE(Shown(Bought), QString());

@@ -141,9 +141,14 @@ private Q_SLOTS:
         File().OpenList(File().catalogue->CreateList(made).oid);
         File().Add({ u"saw"_s, u"1"_s, u"Unchecked"_s, u"Unchecked"_s });
         m_errand->Open();
-        // Space ticks the box that the arrows went to.
-        Act(u"double-tap saw; see valueEdit: saw; tap OK; press Space; see Left: ; see Right: ; "
-            "press Right Right Right Space; see Left: ; see Right: ticked"_s);
+        Act(u"double-tap saw; see valueEdit: saw; tap OK; press Space; see Left: ; see Right: "_s);
+        const auto box
+            = [this] { return View()->viewport()->grab(m_errand->Cell(0, 3)).toImage(); };
+        const QImage before = box();
+        // Space ticks the box that the arrows went to, and a frame tells which.
+        Act(u"press Right Right Right"_s);
+        QVERIFY(box() != before);
+        Act(u"press Space; see Left: ; see Right: ticked"_s);
     }
 
     void keysMoveThroughALongList()
@@ -164,6 +169,8 @@ private Q_SLOTS:
             QVERIFY(place.top() >= 0 && place.bottom() < View()->viewport()->height());
             QCOMPARE(View()->indexAt(place.center()), current);
         }
+        Act(u"tap New; type oats; tap OK; at Pantry"_s);
+        QCOMPARE(View()->verticalScrollBar()->value(), View()->verticalScrollBar()->maximum());
     }
 
     void whatIsTypedLeadsToAName()
@@ -215,6 +222,10 @@ private Q_SLOTS:
             // The selection stays with its row.
             const QString sort = u"tap %1; see %2; on d; "_s.arg(column, lines);
             Act(u"press End; "_s + sort + sort);
+            const QHeaderView* header = View()->horizontalHeader();
+            QVERIFY(header->isSortIndicatorShown());
+            QCOMPARE(View()->model()->headerData(header->sortIndicatorSection(), Qt::Horizontal),
+                column);
         }
     }
 
