@@ -154,7 +154,7 @@ bool PageStack::HasUnsavedInput() const
     return std::ranges::any_of(m_pages, [](const Page* page) { return page->HasUnsavedInput(); });
 }
 
-void PageStack::FocusTop()
+void PageStack::FocusTop() const
 {
     QWidget* last = Top()->focusWidget();
     (last == nullptr ? Top() : last)->setFocus();

@@ -42,7 +42,7 @@ public:
     /// Whether a page, the topmost or one below, would lose what is entered on it.
     [[nodiscard]] bool HasUnsavedInput() const;
     /// Gives the topmost page the keyboard, where it was on it last.
-    void FocusTop();
+    void FocusTop() const;
 
     /// Ends the pages above the first from the top, each with Closing, asking first where input
     /// would be lost. `then` is called once the first is left alone; not if an answer keeps a page.
