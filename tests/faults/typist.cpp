@@ -64,8 +64,10 @@ QString Screen()
         }
     }
     if (texts.isEmpty()) {
-        for (const auto* label : window->findChildren<QLabel*>())
-            texts << (label->isVisible() ? label->text().simplified() : QString());
+        for (const auto* label : window->findChildren<QLabel*>()) {
+            if (label->isVisible())
+                texts << label->text().simplified();
+        }
     }
     return texts.join(u'|');
 }
