@@ -27,12 +27,12 @@ private:
     rlimit m_before {};
 };
 
-/// No file grows, as on a full disk.
+/// No file grows beyond its size, as on a full disk.
 class NoRoom : public Limit
 {
 public:
-    NoRoom()
-        : Limit(RLIMIT_FSIZE, 512)
+    explicit NoRoom(rlim_t most = 512)
+        : Limit(RLIMIT_FSIZE, most)
     {
         std::signal(SIGXFSZ, SIG_IGN);
     }

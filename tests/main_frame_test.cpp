@@ -169,13 +169,10 @@ private Q_SLOTS:
         for (const auto& [steps, anchor] : { std::pair { u"press F1"_s, u"Main_Contents"_s },
                  { u"tap New; tap ?"_s, u"newlist"_s } }) {
             Act(steps);
-            auto* text = errand.pages->Top()->findChild<QTextBrowser*>();
+            const auto* text = errand.pages->Top()->findChild<QTextBrowser*>();
             QVERIFY(text != nullptr);
             QCOMPARE(text->source().fragment(), anchor);
             QTRY_VERIFY(text->verticalScrollBar()->value() > 0);
-            const int place = text->verticalScrollBar()->value();
-            text->scrollToAnchor(anchor);
-            QCOMPARE(text->verticalScrollBar()->value(), place);
             Act(u"tap OK"_s);
         }
     }
