@@ -108,8 +108,6 @@ int IconGrid::SelectedIcon() const
 void IconGrid::SelectIcon(int index)
 {
     setCurrentIndex(model()->index(index, 0));
-    if (index >= 0)
-        scrollTo(currentIndex(), EnsureVisible);
     viewport()->update();
 }
 
