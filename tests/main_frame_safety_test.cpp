@@ -95,7 +95,8 @@ private Q_SLOTS:
             {
                 // For the journal of a new list there is room, not for the list.
                 const bool isNew = command == u"tap New";
-                const NoRoom full(isNew ? FileBytes(errand.DataPath()).size() : 512);
+                const auto size = static_cast<rlim_t>(FileBytes(errand.DataPath()).size());
+                const NoRoom full(isNew ? size : 512);
                 Act(u"tap OK"_s);
                 QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
                 while (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
