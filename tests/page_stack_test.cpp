@@ -6,6 +6,8 @@
 
 #include <QLineEdit>
 
+#include <array>
+
 class PageStackTest : public QObject
 {
     Q_OBJECT
@@ -27,6 +29,27 @@ private Q_SLOTS:
         QCOMPARE(stack.Depth(), 1);
         // The keyboard is where it was before.
         QCOMPARE(stack.focusWidget(), &lower);
+    }
+
+    void aNarrowWindowLeavesTheKeyboardWhereItWasOnThePage()
+    {
+        PageStack stack;
+        stack.resize(1000, 600);
+        stack.show();
+        QVERIFY(QTest::qWaitForWindowActive(&stack));
+        std::array<QLineEdit*, 4> fields {};
+        for (size_t i = 0; i < fields.size(); ++i) {
+            if (i % 2 == 0)
+                stack.Push(new Page(u"page"_s));
+            fields[i] = new QLineEdit(stack.Top());
+            fields[i]->move(0, i % 2 == 0 ? 100 : 200);
+            fields[i]->show();
+        }
+        for (QLineEdit* field : { fields[3], fields[1] })
+            QTest::mouseClick(field, Qt::LeftButton);
+        QVERIFY(fields[1]->hasFocus());
+        stack.resize(500, 600);
+        QVERIFY(!fields[1]->isVisible() && fields[3]->hasFocus());
     }
 
     void whoWaitsIsHeardOnceNothingIsAsked()

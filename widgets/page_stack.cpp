@@ -97,11 +97,11 @@ void PageStack::Arrange()
 
 void PageStack::resizeEvent(QResizeEvent* event)
 {
-    const bool hadKeyboard = isAncestorOf(QApplication::focusWidget());
-    Arrange();
-    // With the page that is hidden now the keyboard would be gone.
-    if (hadKeyboard && Top() != nullptr && !m_pages.front()->isVisible())
+    // With the page that is about to be hidden the keyboard would be gone.
+    const bool isHiding = Depth() > 1 && width() < kWideWindow;
+    if (isHiding && m_pages.front()->isAncestorOf(QApplication::focusWidget()))
         FocusTop();
+    Arrange();
     QWidget::resizeEvent(event);
 }
 
