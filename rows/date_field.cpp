@@ -41,9 +41,7 @@ void DressCalendar(QCalendarWidget* calendar, const QSize& room)
         std::min(room.width(), usual.width())));
     calendar->setFixedSize(calendar->minimumSizeHint().expandedTo(usual).boundedTo(room));
     // The cells of lists have room around their texts; here that would leave none for the days.
-    calendar->setStyleSheet(u"QTableView::item { padding: 0; }"
-                            "#qt_calendar_prevmonth, #qt_calendar_nextmonth {"
-                            " color: palette(highlighted-text); font-weight: bold; }"_s);
+    calendar->setStyleSheet(u"QTableView::item { padding: 0; }"_s);
     for (const auto day : { Qt::Saturday, Qt::Sunday })
         calendar->setWeekdayTextFormat(day, calendar->weekdayTextFormat(Qt::Monday));
     for (const auto& [name, text] : { std::pair(u"qt_calendar_prevmonth"_s, u"‹"_s),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rows/row_delegate.h"
 
+#include "rows/column_layout.h"
 #include "rows/rows_model.h"
 #include "values/file_date.h"
 
@@ -28,7 +29,21 @@ void RowDelegate::BeginFrame(const QFont& font, const QPalette& palette)
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    return { m_painter.WidthFor(m_model.Text(index.row(), index.column())), option.rect.height() };
+    const int width = m_painter.WidthFor(m_model.Text(index.row(), index.column()))
+        + m_painter.WidthForMark(MarkOf(index, kMaxColumnWidth));
+    return { width, option.rect.height() };
+}
+
+QString RowDelegate::MarkOf(const QModelIndex& index, int room) const
+{
+    if (!m_model.IsName(index.column()))
+        return {};
+    RowWarnings warnings = WarningsFor(m_model.FactsOf(index.row()), m_list, m_today);
+    const int taken = m_painter.WidthFor(m_model.Text(index.row(), index.column()));
+    // That it is low too, the slant of a row's letters says.
+    if (warnings.isExpired && taken + m_painter.WidthForMark(WarningText(warnings)) > room)
+        warnings.isLow = false;
+    return WarningText(warnings);
 }
 
 RowLook RowDelegate::PaintGround(
@@ -56,7 +71,8 @@ void RowDelegate::paint(
     } else if (m_model.IsNumber(index.column())) {
         m_painter.DrawNumber(*painter, cell, m_model.Text(index.row(), index.column()), look);
     } else {
-        m_painter.DrawLabel(*painter, cell, m_model.Text(index.row(), index.column()), look);
+        const QString name = m_model.Text(index.row(), index.column());
+        m_painter.DrawName(*painter, cell, name, MarkOf(index, cell.width()), look);
     }
 }
 

@@ -42,6 +42,10 @@ private:
     RowColours m_colours;
     FileTime m_today {};
     RowPainter m_painter;
+
+    /// What a row warns of, for the cell of its name, as much as there is room for; empty for every
+    /// other.
+    [[nodiscard]] QString MarkOf(const QModelIndex& index, int room) const;
 };
 
 } // namespace Quillory

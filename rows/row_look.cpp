@@ -2,8 +2,14 @@
 #include "rows/row_look.h"
 
 #include "widgets/colour_palette.h"
+#include "widgets/ink.h"
+
+#include <QCoreApplication>
+#include <QStringList>
 
 namespace Quillory {
+
+using namespace Qt::StringLiterals;
 
 RowWarnings WarningsFor(const RowFacts& row, const InventoryList& list, FileTime today)
 {
@@ -14,27 +20,42 @@ RowWarnings WarningsFor(const RowFacts& row, const InventoryList& list, FileTime
     return warnings;
 }
 
+QString WarningText(const RowWarnings& warnings)
+{
+    QStringList words;
+    if (warnings.isLow)
+        words << QCoreApplication::translate("Warnings", "low");
+    if (warnings.isExpired)
+        words << QCoreApplication::translate("Warnings", "expired");
+    return words.join(u", "_s);
+}
+
 RowColours ColoursFor(const InventoryList& list, bool hasAlternateLines, const QPalette& palette)
 {
-    const QColor ground = palette.color(QPalette::Base);
-    return { palette.color(QPalette::Text), ground,
-        hasAlternateLines ? AlternateRowColour(palette) : ground,
-        TextColour(list.TableWarnColour, palette), TextColour(list.TableExpiryColour, palette),
+    const auto on = [&](const QColor& ground) {
+        return LineColours { ground, FitTo(palette.color(QPalette::Text), { ground }),
+            TextColour(list.TableWarnColour, palette, ground),
+            TextColour(list.TableExpiryColour, palette, ground),
+            FitTo(palette.color(QPalette::PlaceholderText), { ground }) };
+    };
+    const LineColours plain = on(palette.color(QPalette::Base));
+    return { plain, hasAlternateLines ? on(AlternateRowColour(palette)) : plain,
         palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight),
-        palette.color(QPalette::Midlight) };
+        HairlineColour(palette) };
 }
 
 RowLook DecideRowLook(const RowFacts& row, const RowWarnings& warnings, const RowColours& colours)
 {
-    RowLook look { colours.text, row.line % 2 == 0 ? colours.alternateGround : colours.ground,
-        warnings.isLow && warnings.isExpired };
+    const LineColours& line = row.line % 2 == 0 ? colours.alternate : colours.plain;
+    RowLook look { line.text, line.ground, line.mark, warnings.isLow && warnings.isExpired };
     if (warnings.isLow)
-        look.text = colours.lowText;
+        look.text = line.lowText;
     if (warnings.isExpired)
-        look.text = colours.expiredText;
+        look.text = line.expiredText;
     if (row.isSelected) {
         look.text = colours.selectedText;
         look.ground = colours.selectedGround;
+        look.mark = colours.selectedText;
     }
     return look;
 }

@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QString>
 
 #include <optional>
 
@@ -30,14 +31,22 @@ struct RowWarnings
     friend bool operator==(const RowWarnings&, const RowWarnings&) = default;
 };
 
+/// The colours that lines of one ground may have.
+struct LineColours
+{
+    QColor ground;
+    QColor text;
+    QColor lowText;
+    QColor expiredText;
+    /// Of the word that says what a row warns of.
+    QColor mark;
+};
+
 /// The colours that the rows of a list may have, worked out once for many of them.
 struct RowColours
 {
-    QColor text;
-    QColor ground;
-    QColor alternateGround;
-    QColor lowText;
-    QColor expiredText;
+    LineColours plain;
+    LineColours alternate;
     QColor selectedText;
     QColor selectedGround;
     /// The hairlines between the rows.
@@ -48,12 +57,16 @@ struct RowLook
 {
     QColor text;
     QColor ground;
+    QColor mark;
     bool isItalic = false;
 };
 
 /// Which warnings of the list hold for a row. `today` is midnight of the day.
 [[nodiscard]] RowWarnings WarningsFor(
     const RowFacts& row, const InventoryList& list, FileTime today);
+
+/// The warnings that colours show, in words; empty for none.
+[[nodiscard]] QString WarningText(const RowWarnings& warnings);
 
 /// With `hasAlternateLines` the alternate ground is one of its own.
 [[nodiscard]] RowColours ColoursFor(

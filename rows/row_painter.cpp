@@ -20,6 +20,9 @@ QFont Slanted(QFont font)
     return font;
 }
 
+/// Within the outline of a mark, on either side.
+constexpr int kMarkPadding = 5;
+
 bool IsFigure(QChar character)
 {
     return character >= u'0' && character <= u'9';
@@ -110,6 +113,36 @@ void RowPainter::DrawLabel(
     painter.setFont(face.font);
     painter.setPen(look.text);
     painter.drawText(room.left(), face.BaseLine(room), Cut(face, text, room.width()));
+}
+
+int RowPainter::WidthForMark(const QString& mark) const
+{
+    return mark.isEmpty() ? 0 : kGrid + m_upright.RoughWidth(mark) + 2 * kMarkPadding;
+}
+
+void RowPainter::DrawName(QPainter& painter, const QRect& cell, const QString& name,
+    const QString& mark, const RowLook& look) const
+{
+    const QRect room = TextRoom(cell);
+    const int forName = std::min(FaceOf(look).RoughWidth(name),
+        std::max(room.width() - WidthForMark(mark), room.width() / 2));
+    DrawLabel(
+        painter, QRect(cell.topLeft(), QSize(forName + 2 * Margin(), cell.height())), name, look);
+    if (mark.isEmpty())
+        return;
+    const int forMark = std::min(room.width() - forName, WidthForMark(mark)) - kGrid;
+    const QString word = Cut(m_upright, mark, forMark - 2 * kMarkPadding);
+    const QRect outline(room.left() + forName + kGrid,
+        room.top() + (room.height() - m_upright.metrics.height()) / 2 - 1, forMark,
+        m_upright.metrics.height() + 2);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(m_upright.font);
+    painter.setPen(look.mark);
+    painter.drawRoundedRect(
+        QRectF(outline).adjusted(.5, .5, -.5, -.5), kCornerRadius, kCornerRadius);
+    painter.drawText(outline.left() + kMarkPadding, m_upright.BaseLine(room), word);
+    painter.restore();
 }
 
 void RowPainter::DrawNumber(

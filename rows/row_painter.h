@@ -26,7 +26,11 @@ public:
     /// One line of text, vertically centred, with an ellipsis where it is cut.
     void DrawLabel(
         QPainter& painter, const QRect& cell, const QString& text, const RowLook& look) const;
-    /// The same at the right, in figures of one width.
+    /// A name, and beside it in an outline what its row warns of, if it does. Neither takes more
+    /// than half of a cell that has no room for both.
+    void DrawName(QPainter& painter, const QRect& cell, const QString& name, const QString& mark,
+        const RowLook& look) const;
+    /// A label at the right, in figures of one width.
     void DrawNumber(
         QPainter& painter, const QRect& cell, const QString& text, const RowLook& look) const;
     void DrawCheckbox(QPainter& painter, const QRect& cell, bool isChecked, bool isSelected) const;
@@ -35,6 +39,8 @@ public:
 
     /// The width of a cell in which no text of DrawLabel or DrawNumber is cut.
     [[nodiscard]] int WidthFor(const QString& text) const;
+    /// What a mark beside a name takes of the cell; nothing if it is empty.
+    [[nodiscard]] int WidthForMark(const QString& mark) const;
 
     /// The square of a checkbox within its cell: what a tap must hit.
     [[nodiscard]] static QRect CheckboxSquare(const QRect& cell);

@@ -147,6 +147,11 @@ bool RowsModel::IsNumber(int column) const
     return type == ColumnType::Integer || type == ColumnType::Price;
 }
 
+bool RowsModel::IsName(int column) const
+{
+    return ColumnId(column) == PropName;
+}
+
 QString RowsModel::Text(int line, int column) const
 {
     return Shown(line).texts[static_cast<size_t>(column)];
@@ -184,16 +189,10 @@ QString RowsModel::AccessibleText(int line, int column) const
     return Text(line, column);
 }
 
-QString RowsModel::WarningText(int line) const
+RowWarnings RowsModel::WarningsOf(int line) const
 {
     const auto today = DateToFileTime(m_context.clock().date).value_or(FileTime {});
-    const RowWarnings warnings = WarningsFor(FactsOf(line), m_list, today);
-    QStringList words;
-    if (warnings.isLow)
-        words << tr("low");
-    if (warnings.isExpired)
-        words << tr("expired");
-    return words.join(u", "_s);
+    return WarningsFor(FactsOf(line), m_list, today);
 }
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const
@@ -208,7 +207,7 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const
     case Qt::AccessibleTextRole:
         return AccessibleText(index.row(), index.column());
     case Qt::AccessibleDescriptionRole:
-        return WarningText(index.row());
+        return WarningText(WarningsOf(index.row()));
     case Qt::CheckStateRole:
         if (IsCheckbox(index.column()))
             return IsChecked(index.row(), index.column()) ? Qt::Checked : Qt::Unchecked;

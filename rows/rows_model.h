@@ -37,6 +37,8 @@ public:
     void RefreshAll();
 
     [[nodiscard]] RowFacts FactsOf(int line) const;
+    /// Whether a column holds the rows' names.
+    [[nodiscard]] bool IsName(int column) const;
     [[nodiscard]] bool IsCheckbox(int column) const;
     /// Whether a column holds whole numbers or prices.
     [[nodiscard]] bool IsNumber(int column) const;
@@ -76,8 +78,7 @@ private:
     [[nodiscard]] PropertyId ColumnId(int column) const;
     [[nodiscard]] Qt::Alignment AlignmentOf(int column) const;
     [[nodiscard]] QString AccessibleText(int line, int column) const;
-    /// The warnings that colours show, in words.
-    [[nodiscard]] QString WarningText(int line) const;
+    [[nodiscard]] RowWarnings WarningsOf(int line) const;
 };
 
 } // namespace Quillory

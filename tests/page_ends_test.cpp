@@ -1,23 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/plain_pages.h"
-#include "listdef/column_definition_page.h"
-#include "listdef/display_options_page.h"
-#include "listdef/import_order_page.h"
-#include "listdef/list_sheet.h"
-#include "rows/filter_page.h"
-#include "rows/filters_page.h"
-#include "rows/row_editor.h"
-#include "rows/rows_view.h"
-#include "rows/summary_page.h"
-#include "tests/list_fixture.h"
+#include "tests/every_page.h"
 #include "tests/person.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
 #include "widgets/app_style.h"
-#include "widgets/help_page.h"
-#include "widgets/icon_grid_page.h"
 #include "widgets/measures.h"
-#include "widgets/page_stack.h"
 #include "widgets/questions.h"
 #include "widgets/window_style.h"
 
@@ -34,90 +21,6 @@
 
 namespace {
 
-/// A page without a title has no header, and nothing to tap there.
-InventoryList NamedList()
-{
-    InventoryList list = NewInventoryList();
-    list.Name = u"Tools"_s;
-    return list;
-}
-
-/// A list, what pages on it are made from, and what they gave.
-struct Subject
-{
-    ListFixture file { u"Pantry"_s };
-    InventoryList list = NamedList();
-    PageStack stack;
-    Page* page = nullptr;
-    QList<PageResult> results;
-};
-
-/// A page that needs no list.
-template <typename Type, auto... kArguments> Page* Make(Subject& /*subject*/)
-{
-    return new Type(kArguments...);
-}
-
-template <SheetMode kMode> Page* MakeSheet(Subject& subject)
-{
-    return new ListSheet(kMode, subject.list, subject.list);
-}
-
-template <FilterMode kMode> Page* MakeFilter(Subject& subject)
-{
-    return new FilterPage({ kMode, {} }, subject.list, subject.file.context);
-}
-
-struct PageCase
-{
-    const char* name;
-    /// What there is besides Escape and closing.
-    QStringList ways;
-    /// Whether a letter typed first, or Space, is input that could be lost.
-    bool takesInput;
-    /// Where its help begins.
-    QString help;
-    Page* (*make)(Subject& subject);
-};
-
-const QStringList kOk { u"tap ok"_s, u"press Return"_s };
-const QStringList kOkAndCancel { u"tap ok"_s, u"tap leftKey"_s, u"press Return"_s };
-
-const std::array kPages {
-    PageCase { "new list", kOkAndCancel, true, u"newlist"_s, MakeSheet<SheetMode::NewList> },
-    PageCase {
-        "list properties", kOkAndCancel, true, u"newlist"_s, MakeSheet<SheetMode::ExistingList> },
-    PageCase { "column definition", kOkAndCancel, true, {}, Make<ColumnDefinitionPage> },
-    PageCase { "options", kOkAndCancel, true, u"options"_s,
-        [](Subject&) -> Page* { return new DisplayOptionsPage({}); } },
-    PageCase { "import order", kOkAndCancel, false, u"importlist"_s,
-        [](Subject& subject) -> Page* { return new ImportOrderPage(subject.list.columns); } },
-    // Return takes the selected icon.
-    PageCase {
-        "icon grid", { u"tap leftKey"_s, u"press Return"_s }, false, {}, Make<IconGridPage, 0> },
-    PageCase { "find", kOkAndCancel, true, {}, MakeFilter<FilterMode::Find> },
-    PageCase { "filter", kOkAndCancel, false, {}, MakeFilter<FilterMode::Filter> },
-    PageCase { "filters", kOk, false, {},
-        [](Subject& subject) -> Page* {
-            return new FiltersPage({}, subject.list, subject.file.context);
-        } },
-    // Return goes on to the next field.
-    PageCase { "row editor", { u"tap ok"_s, u"tap leftKey"_s }, true, u"editlist"_s,
-        [](Subject& subject) -> Page* {
-            return new RowEditor(subject.list, nullptr, subject.file.context);
-        } },
-    // Return edits the selected row.
-    PageCase { "rows", { u"tap ok"_s }, false, u"editlist"_s,
-        [](Subject& subject) -> Page* {
-            return new RowsView(*subject.file.rows, subject.file.list, subject.file.context, {});
-        } },
-    PageCase { "summary", kOk, false, {}, [](Subject&) -> Page* { return new SummaryPage({}); } },
-    PageCase {
-        "help", kOk, false, {}, [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); } },
-    PageCase { "about", kOk, false, u"Main_Contents"_s, Make<AboutPage> },
-    PageCase { "welcome", kOk, false, {}, Make<WelcomePage> },
-};
-
 /// A row of a test's table for each page and each of the ways that are meant of it.
 void AddRows(QStringList (*waysOf)(const PageCase& page))
 {
@@ -127,16 +30,6 @@ void AddRows(QStringList (*waysOf)(const PageCase& page))
             add(qPrintable(u"%1, %2"_s.arg(QLatin1StringView(page.name), way)), i, way);
         ++i;
     }
-}
-
-void Show(Subject& subject, const PageCase& page)
-{
-    subject.stack.resize(360, 640);
-    subject.stack.Push(new Page(QString()));
-    subject.page = page.make(subject);
-    subject.stack.Push(subject.page, [&subject](PageResult result) { subject.results << result; });
-    subject.stack.show();
-    QVERIFY(QTest::qWaitForWindowActive(&subject.stack));
 }
 
 void Leave(Subject& subject, const QString& way)

@@ -5,6 +5,7 @@
 #include "tests/table.h"
 #include "tests/test_program.h"
 #include "values/file_date.h"
+#include "widgets/colour_palette.h"
 
 #include <QLabel>
 #include <QScrollBar>
@@ -390,6 +391,22 @@ private Q_SLOTS:
             QCOMPARE(off.text, subject.row.isSelected ? QColor(Qt::yellow) : QColor(Qt::black));
             QVERIFY(!off.isItalic);
         }
+    }
+
+    void aWarningIsAWordBesideTheName()
+    {
+        // In the colour of every row.
+        File().list.TableWarnColour = kAutomaticColour;
+        m_errand->Open();
+        View()->selectRow(1);
+        const auto seen = [this](int column) {
+            return View()->viewport()->grab(m_errand->Cell(0, column)).toImage();
+        };
+        const QImage name = seen(Name);
+        const QImage shelf = seen(Shelf);
+        File().list.TableOption = kWarnOnCount;
+        QVERIFY(seen(Name) != name);
+        QCOMPARE(seen(Shelf), shelf);
     }
 
 private:

@@ -2,6 +2,7 @@
 #include "widgets/app_style.h"
 
 #include "widgets/icon_set.h"
+#include "widgets/ink.h"
 #include "widgets/measures.h"
 
 #include <QAbstractItemView>
@@ -19,10 +20,11 @@ void DrawRadio(QPainter& painter, const QStyleOption& option)
 {
     const bool isOn = option.state.testFlag(QStyle::State_On);
     const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
-    const QColor accent = isEnabled ? option.palette.color(QPalette::Active, QPalette::Highlight)
+    const QColor accent = isEnabled ? AccentInk(option.palette)
                                     : option.palette.color(QPalette::Disabled, QPalette::Text);
-    const QColor line
-        = isEnabled && !isOn ? option.palette.color(QPalette::Active, QPalette::Dark) : accent;
+    const QColor line = isEnabled && !isOn
+        ? option.palette.color(QPalette::Active, QPalette::PlaceholderText)
+        : accent;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF circle = QRectF(option.rect).adjusted(2, 2, -2, -2);
@@ -64,6 +66,12 @@ public:
 AppStyle::AppStyle()
     : QProxyStyle(QStringLiteral("fusion"))
 { }
+
+void AppStyle::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    palette = LegiblePalette(palette);
+}
 
 void AppStyle::polish(QWidget* widget)
 {

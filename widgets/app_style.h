@@ -16,6 +16,8 @@ public:
     AppStyle();
 
     using QProxyStyle::polish;
+    /// What of a desktop's palette could not be read is made so.
+    void polish(QPalette& palette) override;
     void polish(QWidget* widget) override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
         QStyleHintReturn* returnData) const override;

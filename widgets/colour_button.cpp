@@ -3,6 +3,7 @@
 
 #include "widgets/colour_grid.h"
 #include "widgets/colour_palette.h"
+#include "widgets/ink.h"
 #include "widgets/measures.h"
 
 #include <QKeyEvent>
@@ -46,7 +47,8 @@ void ColourButton::SetColour(quint32 index)
 
 QSize ColourButton::sizeHint() const
 {
-    const int height = std::max(CurrentMeasures().lineHeight, kMinTextPixels + 2 * kGrid);
+    const int height
+        = std::max(CurrentMeasures().lineHeight, CurrentMeasures().textSize + 2 * kGrid);
     return { height + (kMarkPlace + kMarkGap) * kUnit, height };
 }
 
@@ -107,7 +109,9 @@ void ColourButton::paintEvent(QPaintEvent* /*event*/)
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     QPainterPath frame;
     frame.addRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), kGrid / 2., kGrid / 2.);
-    painter.setPen(palette().color(group, hasFocus() ? QPalette::Highlight : QPalette::Mid));
+    painter.setPen(hasFocus() ? AccentInk(palette())
+            : isEnabled()     ? OutlineColour(palette())
+                              : HairlineColour(palette()));
     painter.setBrush(palette().color(group, QPalette::Base));
     painter.drawPath(frame);
     const QRect inner = rect().adjusted(1, 1, -1, -1);

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/colour_palette.h"
 
+#include "widgets/ink.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cmath>
 #include <numeric>
 
 namespace Quillory {
@@ -56,44 +57,7 @@ constexpr std::array<ColourEntry, kColourCount> kColours { {
     { qRgb(0, 64, 0), QT_TRANSLATE_NOOP("Colours", "Dark green") },
 } };
 
-/// Relative luminance by the formula of WCAG 2.
-double Luminance(const QColor& colour)
-{
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
-}
-
-double Contrast(const QColor& a, const QColor& b)
-{
-    const double lighter = std::max(Luminance(a), Luminance(b));
-    const double darker = std::min(Luminance(a), Luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-QColor LightenedFor(QColor colour, const QColor& ground)
-{
-    constexpr double kReadable = 4.5;
-    constexpr float kStep = 0.02F;
-    float hue = 0;
-    float saturation = 0;
-    float lightness = 0;
-    colour.getHslF(&hue, &saturation, &lightness);
-    while (Contrast(colour, ground) < kReadable && lightness < 1) {
-        lightness = std::min(1.0F, lightness + kStep);
-        colour.setHslF(hue, saturation, lightness);
-    }
-    return colour;
-}
-
 } // namespace
-
-bool IsDark(const QPalette& palette)
-{
-    return palette.color(QPalette::Base).lightnessF() < palette.color(QPalette::Text).lightnessF();
-}
 
 QColor PaletteColour(quint32 index)
 {
@@ -118,13 +82,13 @@ const std::array<quint32, kColourCount>& ColoursByValue()
     return order;
 }
 
-QColor TextColour(quint32 index, const QPalette& palette)
+QColor TextColour(quint32 index, const QPalette& palette, const QColor& ground)
 {
     const bool isDark = IsDark(palette);
     if (index == kAutomaticColour || index >= kColourCount)
-        return isDark ? palette.color(QPalette::Text) : PaletteColour(kAutomaticColour);
-    const QColor colour = PaletteColour(index);
-    return isDark ? LightenedFor(colour, palette.color(QPalette::Base)) : colour;
+        return isDark ? FitTo(palette.color(QPalette::Text), { ground })
+                      : PaletteColour(kAutomaticColour);
+    return isDark ? FitTo(PaletteColour(index), { ground }) : PaletteColour(index);
 }
 
 QColor AlternateRowColour(const QPalette& palette)

@@ -15,8 +15,6 @@ constexpr quint32 kAutomaticColour = 0;
 /// The ground of every other row, where that is asked for.
 constexpr QRgb kAlternateRowColour = qRgb(207, 217, 246);
 
-/// Whether text is lighter than its ground.
-[[nodiscard]] bool IsDark(const QPalette& palette);
 /// The colour of an index as it is defined; black for one outside the palette.
 [[nodiscard]] QColor PaletteColour(quint32 index);
 /// What a colour is called, for those who cannot see it.
@@ -26,8 +24,9 @@ constexpr QRgb kAlternateRowColour = qRgb(207, 217, 246);
 [[nodiscard]] const std::array<quint32, kColourCount>& ColoursByValue();
 
 /// The colour that a list stores as an index; the automatic one for an index outside the palette.
-/// On a dark ground it is made as much lighter as it takes to be read.
-[[nodiscard]] QColor TextColour(quint32 index, const QPalette& palette);
+/// In a dark palette it is made as much lighter as it takes to be read on `ground`; in a light one
+/// it is what it is.
+[[nodiscard]] QColor TextColour(quint32 index, const QPalette& palette, const QColor& ground);
 /// kAlternateRowColour, or on a dark ground its like.
 [[nodiscard]] QColor AlternateRowColour(const QPalette& palette);
 

@@ -17,7 +17,7 @@ EmptyHint::EmptyHint(QAbstractItemView* view)
     setWordWrap(true);
     setMargin(kPageMargin);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setForegroundRole(QPalette::Dark);
+    setForegroundRole(QPalette::PlaceholderText);
     auto* room = new QVBoxLayout(view->viewport());
     room->setContentsMargins({});
     room->addWidget(this);

@@ -3,6 +3,7 @@
 
 #include "widgets/icon_grid_page.h"
 #include "widgets/icon_set.h"
+#include "widgets/ink.h"
 #include "widgets/measures.h"
 #include "widgets/page_stack.h"
 
@@ -59,7 +60,8 @@ public:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const QColor ink = palette().color(isDown() ? QPalette::Base : QPalette::Text);
-        painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+        painter.setPen(
+            QPen(hasFocus() ? AccentInk(palette()) : OutlineColour(palette()), hasFocus() ? 2 : 1));
         painter.setBrush(palette().color(isDown() ? QPalette::Text : QPalette::Base));
         painter.drawRoundedRect(
             QRectF(rect()).adjusted(.5, .5, -.5, -.5), kCornerRadius, kCornerRadius);
@@ -192,7 +194,7 @@ void IconPicker::paintEvent(QPaintEvent* /*event*/)
     const auto* firstButton = findChild<QWidget*>(u"nextIcon"_s);
     QRect face = rect();
     face.setRight(firstButton->x() - 3);
-    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+    painter.setPen(hasFocus() ? AccentInk(palette()) : OutlineColour(palette()));
     painter.setBrush(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Base));
     painter.drawRoundedRect(QRectF(face).adjusted(.5, .5, -.5, -.5), kCornerRadius, kCornerRadius);
     if (m_icon < 0)

@@ -2,6 +2,7 @@
 #include "widgets/icon_set.h"
 
 #include "widgets/colour_palette.h"
+#include "widgets/ink.h"
 
 #include <QGuiApplication>
 #include <QIconEngine>
@@ -156,7 +157,7 @@ QIcon ListIcon(int index)
     const quint32 colour = kListIcons.at(static_cast<size_t>(known)).colour;
     return QIcon(new DrawnIcon(u":/icons/list_%1.svg"_s.arg(known, 2, 10, QLatin1Char('0')),
         [colour](const QPalette& palette) {
-            return IsDark(palette) ? palette.color(QPalette::Text) : TextColour(colour, palette);
+            return IsDark(palette) ? palette.color(QPalette::Text) : PaletteColour(colour);
         }));
 }
 
@@ -169,10 +170,11 @@ QString ListIconName(int index)
 QIcon CheckboxIcon(bool isChecked)
 {
     LoadIconResources();
-    const QPalette::ColorRole role = isChecked ? QPalette::Highlight : QPalette::Dark;
     return QIcon(
         new DrawnIcon(isChecked ? u":/icons/box_checked.svg"_s : u":/icons/box_empty.svg"_s,
-            [role](const QPalette& palette) { return palette.color(role); }));
+            [isChecked](const QPalette& palette) {
+                return isChecked ? AccentInk(palette) : palette.color(QPalette::PlaceholderText);
+            }));
 }
 
 QIcon ApplicationIcon()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/line_delegate.h"
 
+#include "widgets/ink.h"
 #include "widgets/measures.h"
 
 #include <QPainter>
@@ -15,8 +16,7 @@ QRect LineDelegate::TextRoom(const QRect& cell, int column)
 void LineDelegate::DrawHairline(QPainter& painter, const QStyleOptionViewItem& option)
 {
     const QRect& cell = option.rect;
-    painter.fillRect(
-        cell.left(), cell.bottom(), cell.width(), 1, option.palette.color(QPalette::Midlight));
+    painter.fillRect(cell.left(), cell.bottom(), cell.width(), 1, HairlineColour(option.palette));
 }
 
 void LineDelegate::DrawLabel(QPainter& painter, const QStyleOptionViewItem& option,

@@ -14,10 +14,12 @@ struct Measures
     int softKeyHeight;
     int lineHeight;
     int iconSize;
+    /// The least size of letters.
+    int textSize;
 };
 
-constexpr Measures kTouchMeasures { 48, 56, 48, 24 };
-constexpr Measures kMouseMeasures { 40, 44, 28, 16 };
+constexpr Measures kTouchMeasures { 48, 56, 48, 24, 15 };
+constexpr Measures kMouseMeasures { 40, 44, 28, 16, 13 };
 
 constexpr int kGrid = 8;
 constexpr int kPageMargin = 16;
@@ -34,7 +36,6 @@ constexpr int kMinFieldWidth = 184;
 constexpr int kMaxPageWidth = 700;
 /// A lower window has no height to spare for its frame.
 constexpr int kLowWindow = 400;
-constexpr int kMinTextPixels = 13;
 
 /// The measures for the devices at hand: touch where there is a touch screen.
 [[nodiscard]] const Measures& CurrentMeasures();

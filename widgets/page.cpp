@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/page.h"
 
+#include "widgets/ink.h"
 #include "widgets/measures.h"
 #include "widgets/message_box.h"
 #include "widgets/undo_bar.h"
@@ -39,7 +40,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        painter.setPen(palette().color(QPalette::Highlight));
+        painter.setPen(AccentInk(palette()));
         painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
             fontMetrics().elidedText(text(), Qt::ElideRight, width()));
     }

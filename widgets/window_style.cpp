@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/window_style.h"
 
+#include "widgets/ink.h"
 #include "widgets/measures.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFile>
+#include <QFont>
+#include <QFontInfo>
+#include <QPalette>
 #include <QResizeEvent>
 #include <QWidget>
 
@@ -35,15 +40,36 @@ QString StyleSheet(const QWidget& window)
     // Menu entries are as high as the lines of lists.
     const int text = window.fontMetrics().height();
     const int padding = std::max(4, (CurrentMeasures().lineHeight - text) / 2);
-    const auto set = [&sheet](const QString& name, int pixels) {
-        sheet.replace(u'@' + name + u'@', QString::number(pixels) + u"px"_s);
+    const auto replace = [&sheet](const QString& name, const QString& value) {
+        sheet.replace(u'@' + name + u'@', value);
+    };
+    const auto set = [&replace](const QString& name, int pixels) {
+        replace(name, QString::number(pixels) + u"px"_s);
     };
     set(u"menu-padding"_s, padding);
     // With the padding and the border of a button.
     set(u"answer-height"_s,
         CurrentMeasures().lineHeight >= kMinTouchTarget ? kMinTouchTarget - 14 : 24);
     set(u"tab-height"_s, FrameMeasures(window.height()).headerHeight - kTabRule);
+    const QPalette palette = window.palette();
+    replace(u"accent"_s, AccentInk(palette).name());
+    replace(u"quiet"_s, palette.color(QPalette::PlaceholderText).name());
+    replace(u"disabled"_s, palette.color(QPalette::Disabled, QPalette::Text).name());
+    replace(u"disabled-button"_s, palette.color(QPalette::Disabled, QPalette::ButtonText).name());
+    replace(u"tint"_s, TintedGround(palette).name());
+    replace(u"outline"_s, OutlineColour(palette).name());
+    replace(u"hairline"_s, HairlineColour(palette).name());
     return sheet;
+}
+
+/// Gives the application letters that are large enough where the desktop's are not.
+void EnlargeLetters()
+{
+    QFont font = QApplication::font();
+    if (QFontInfo(font).pixelSize() >= CurrentMeasures().textSize)
+        return;
+    font.setPixelSize(CurrentMeasures().textSize);
+    QApplication::setFont(font);
 }
 
 /// Works the colours of the palette into the style again whenever they change. So it does with the
@@ -60,6 +86,8 @@ public:
     }
     bool eventFilter(QObject* watched, QEvent* event) override
     {
+        if (watched == m_window && event->type() == QEvent::ApplicationFontChange)
+            EnlargeLetters();
         if (watched == m_window && IsOutdatedBy(*event)) {
             m_window->setStyleSheet(QString());
             m_window->setStyleSheet(StyleSheet(*m_window));
@@ -86,6 +114,7 @@ private:
 
 void ApplyWindowStyle(QWidget* window)
 {
+    EnlargeLetters();
     window->setStyleSheet(StyleSheet(*window));
     new StyleKeeper(window);
 }
