@@ -69,6 +69,7 @@ HomeList::HomeList(QWidget* parent)
 
 void HomeList::BuildView()
 {
+    setAccessibleName(LoadString(StringId::InventoryList));
     m_view->setObjectName(u"HomeList"_s);
     m_view->setAccessibleName(LoadString(StringId::InventoryList));
     m_view->setModel(m_model);

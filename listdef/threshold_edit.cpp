@@ -2,6 +2,7 @@
 #include "listdef/threshold_edit.h"
 
 #include "res/dialog_table.h"
+#include "widgets/accessibility.h"
 #include "widgets/measures.h"
 
 #include <QHBoxLayout>
@@ -20,7 +21,31 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kMaxCharacters = 16;
-constexpr qint64 kMaxStep = 32767;
+constexpr qint32 kMaxStep = 32767;
+
+/// The number as assistive technology meets it, around the line in which it is typed.
+class AccessibleThreshold : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleThreshold(ThresholdEdit* edit)
+        : QAccessibleWidget(edit, QAccessible::SpinBox)
+        , m_edit(edit)
+    { }
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    [[nodiscard]] QVariant currentValue() const override { return m_edit->Value(); }
+    void setCurrentValue(const QVariant& value) override { m_edit->SetValue(value.toInt()); }
+    [[nodiscard]] QVariant minimumValue() const override { return qint32 { -kMaxStep }; }
+    [[nodiscard]] QVariant maximumValue() const override { return qint32 { kMaxStep }; }
+    [[nodiscard]] QVariant minimumStepSize() const override { return 1; }
+
+private:
+    ThresholdEdit* m_edit;
+};
 
 } // namespace
 
@@ -28,8 +53,11 @@ ThresholdEdit::ThresholdEdit(qint32 value, QWidget* parent)
     : QWidget(parent)
     , m_edit(new QLineEdit(QString::number(value), this))
 {
+    MeetAs<AccessibleThreshold, ThresholdEdit>();
+    setAccessibleName(ControlText(Control::WarnOnCount));
     m_edit->setObjectName(u"threshold"_s);
     m_edit->setAccessibleName(ControlText(Control::WarnOnCount));
+    m_edit->setAccessibleDescription(tr("%1 to %2").arg(-kMaxStep).arg(kMaxStep));
     m_edit->setMaxLength(kMaxCharacters);
     m_edit->setInputMethodHints(Qt::ImhPreferNumbers);
     auto* line = new QHBoxLayout(this);
@@ -76,10 +104,15 @@ qint32 ThresholdEdit::Value() const
     return wide < kRange.min() || wide > kRange.max() ? 0 : static_cast<qint32>(wide);
 }
 
+void ThresholdEdit::SetValue(qint64 value)
+{
+    m_edit->setText(QString::number(std::clamp<qint64>(value, -kMaxStep, kMaxStep)));
+}
+
 void ThresholdEdit::Step(int by)
 {
-    const qint64 stepped = qint64 { Value() } + by;
-    m_edit->setText(QString::number(std::clamp(stepped, -kMaxStep, kMaxStep)));
+    SetValue(qint64 { Value() } + by);
+    Announce(m_edit->text());
 }
 
 void ThresholdEdit::keyPressEvent(QKeyEvent* event)

@@ -17,6 +17,8 @@ public:
 
     /// The number that the text begins with; 0 if it begins with none, or with one beyond 32 bits.
     [[nodiscard]] qint32 Value() const;
+    /// Shows the number, or the nearest of those that can be stepped to.
+    void SetValue(qint64 value);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -189,6 +189,19 @@ QString RowsModel::AccessibleText(int line, int column) const
     return Text(line, column);
 }
 
+QString RowsModel::Spoken(int line, PropertyId id) const
+{
+    QStringList parts;
+    for (int column = 0; column < columnCount(); ++column) {
+        if (ColumnId(column) == id)
+            parts << headerData(column, Qt::Horizontal, Qt::DisplayRole).toString() + u' '
+                    + AccessibleText(line, column);
+    }
+    parts << WarningText(WarningsOf(line));
+    parts.removeAll(QString());
+    return parts.join(u", "_s);
+}
+
 RowWarnings RowsModel::WarningsOf(int line) const
 {
     const auto today = DateToFileTime(m_context.clock().date).value_or(FileTime {});

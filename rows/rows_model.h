@@ -37,6 +37,8 @@ public:
     void RefreshAll();
 
     [[nodiscard]] RowFacts FactsOf(int line) const;
+    /// A column's name, what a row holds in it, and what the row warns of.
+    [[nodiscard]] QString Spoken(int line, PropertyId id) const;
     /// Whether a column holds the rows' names.
     [[nodiscard]] bool IsName(int column) const;
     [[nodiscard]] bool IsCheckbox(int column) const;

@@ -12,6 +12,7 @@
 #include "rows/rows_table.h"
 #include "rows/summary_page.h"
 #include "values/column_type.h"
+#include "widgets/accessibility.h"
 #include "widgets/empty_hint.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
@@ -360,7 +361,13 @@ void RowsView::AdjustCount(qint32 step)
 {
     const int line = SelectedLine();
     if (m_store.AdjustCount(m_model->RowAt(line), step).has_value())
-        m_model->Refresh(line);
+        ShowChange(line, PropCount);
+}
+
+void RowsView::ShowChange(int line, PropertyId id)
+{
+    m_model->Refresh(line);
+    Announce(m_model->Spoken(line, id));
 }
 
 void RowsView::MarkSorted(PropertyId id)
@@ -406,7 +413,7 @@ void RowsView::ToggleCheckbox(int line, int column)
 {
     const PropertyId id = m_list.columns[static_cast<size_t>(column)].id;
     if (m_store.SetCheckboxValue(m_model->RowAt(line), id, !m_model->IsChecked(line, column)))
-        m_model->Refresh(line);
+        ShowChange(line, id);
 }
 
 void RowsView::ToggleByKey()

@@ -119,6 +119,8 @@ private:
     void AddOne() { AdjustCount(1); }
     void SubtractOne() { AdjustCount(-1); }
     void AdjustCount(qint32 step);
+    /// Shows what a command stored in a column, and has a screen reader say it.
+    void ShowChange(int line, PropertyId id);
     void SortByColumn(int column);
     /// Marks the column by which the lines stand in order, always ascending.
     void MarkSorted(PropertyId id);

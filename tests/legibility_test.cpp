@@ -42,8 +42,8 @@ double ContrastSeen(const QImage& picture)
             ++colours[picture.pixel(x, y)];
     }
     const QList<QRgb> all = colours.keys();
-    const QColor ground(*std::max_element(all.begin(), all.end(),
-        [&](QRgb a, QRgb b) { return colours[a] < colours[b]; }));
+    const QColor ground(*std::max_element(
+        all.begin(), all.end(), [&](QRgb a, QRgb b) { return colours[a] < colours[b]; }));
     double seen = 1;
     for (const QRgb colour : all)
         seen = std::max(seen, Contrast(QColor(colour), ground));
@@ -55,9 +55,11 @@ bool IsWritten(const QWidget& widget)
     const auto* label = qobject_cast<const QLabel*>(&widget);
     const auto* button = qobject_cast<const QAbstractButton*>(&widget);
     const bool hasText = (label != nullptr && !label->text().isEmpty())
-        || (button != nullptr && button->text().size() > 1 && !button->inherits("Quillory::ColourButton"));
+        || (button != nullptr && button->text().size() > 1
+            && !button->inherits("Quillory::ColourButton"));
     return widget.isVisible()
-        && (hasText || qobject_cast<const QHeaderView*>(&widget) || qobject_cast<const QTabBar*>(&widget));
+        && (hasText || qobject_cast<const QHeaderView*>(&widget)
+            || qobject_cast<const QTabBar*>(&widget));
 }
 
 } // namespace
@@ -88,8 +90,8 @@ private Q_SLOTS:
     void everyTextOfAPageCanBeRead()
     {
         const auto [palette] = Table<QPalette>::Row();
-        const auto restore = qScopeGuard(
-            [font = QApplication::font()] { QApplication::setFont(font); });
+        const auto restore
+            = qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
         // Strokes of several pixels have the very colour that they are drawn in.
         QApplication::setFont(QFont(QString(), 20, QFont::Bold));
         QApplication::setStyle(new AppStyle);
@@ -106,8 +108,8 @@ private Q_SLOTS:
                 const QRect place(widget->mapTo(&subject.stack, QPoint()), widget->size());
                 const double seen = ContrastSeen(picture.copy(place & picture.rect()));
                 if (seen < kReadable)
-                    QDebug(&faint.emplace_back())
-                        << page.name << widget->metaObject()->className() << widget->objectName() << seen;
+                    QDebug(&faint.emplace_back()) << page.name << widget->metaObject()->className()
+                                                  << widget->objectName() << seen;
             }
         }
         QVERIFY2(faint.isEmpty(), qPrintable(u'\n' + faint.join(u'\n')));
@@ -158,7 +160,8 @@ private Q_SLOTS:
                 note(text, plain.text, plain.ground);
                 note(line, palette.color(QPalette::PlaceholderText), colours.alternate.ground);
                 note(line, AccentInk(palette), colours.alternate.ground);
-                for (const RowWarnings warnings : { RowWarnings { true, false }, { false, true } }) {
+                for (const RowWarnings warnings :
+                    { RowWarnings { true, false }, { false, true } }) {
                     const RowLook look = DecideRowLook(row, warnings, colours);
                     note(text, look.mark, look.ground);
                     note(IsDark(palette) || row.isSelected ? text : kept, look.text, look.ground);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/app_style.h"
 
+#include "widgets/accessibility.h"
+#include "widgets/accessible_choice.h"
 #include "widgets/icon_set.h"
 #include "widgets/ink.h"
 #include "widgets/measures.h"
@@ -65,7 +67,9 @@ public:
 
 AppStyle::AppStyle()
     : QProxyStyle(QStringLiteral("fusion"))
-{ }
+{
+    MeetAs<AccessibleChoice, QComboBox>();
+}
 
 void AppStyle::polish(QPalette& palette)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/colour_button.h"
 
+#include "widgets/accessibility.h"
 #include "widgets/colour_grid.h"
 #include "widgets/colour_palette.h"
 #include "widgets/ink.h"
@@ -75,6 +76,7 @@ void ColourButton::Step(int by)
     const auto place = static_cast<int>(found - order.begin()) + by;
     if (place >= 0 && place < static_cast<int>(order.size()))
         SetColour(order.at(static_cast<size_t>(place)));
+    Announce(text());
 }
 
 void ColourButton::keyPressEvent(QKeyEvent* event)

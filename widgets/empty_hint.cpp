@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/empty_hint.h"
 
+#include "widgets/accessibility.h"
 #include "widgets/measures.h"
 
 #include <QAbstractItemView>
@@ -37,6 +38,8 @@ void EmptyHint::Say(const QString& hint)
 void EmptyHint::Update()
 {
     const bool isEmpty = m_view->model()->rowCount() == 0;
+    if (isEmpty && isHidden() && m_view->isVisible())
+        Announce(text());
     setVisible(isEmpty);
     m_view->setAccessibleDescription(isEmpty ? text() : QString());
 }

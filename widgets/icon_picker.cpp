@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/icon_picker.h"
 
+#include "widgets/accessibility.h"
 #include "widgets/icon_grid_page.h"
 #include "widgets/icon_set.h"
 #include "widgets/ink.h"
@@ -85,9 +86,48 @@ private:
 
 } // namespace
 
+/// The picker as assistive technology meets it: a button, which has a value too.
+class AccessibleIconPicker : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleIconPicker(IconPicker* picker)
+        : QAccessibleWidget(picker, QAccessible::Button)
+        , m_picker(picker)
+    { }
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_picker->accessibleDescription()
+                                          : QAccessibleWidget::text(kind);
+    }
+    [[nodiscard]] QVariant currentValue() const override { return m_picker->Icon(); }
+    void setCurrentValue(const QVariant& value) override
+    {
+        m_picker->SetIcon(std::clamp(value.toInt(), 0, kListIconCount - 1));
+    }
+    [[nodiscard]] QVariant minimumValue() const override { return 0; }
+    [[nodiscard]] QVariant maximumValue() const override { return kListIconCount - 1; }
+    [[nodiscard]] QVariant minimumStepSize() const override { return 1; }
+    [[nodiscard]] QStringList actionNames() const override { return { pressAction() }; }
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction())
+            m_picker->OpenGrid();
+    }
+
+private:
+    IconPicker* m_picker;
+};
+
 IconPicker::IconPicker(QWidget* parent)
     : QWidget(parent)
 {
+    MeetAs<AccessibleIconPicker, IconPicker>();
     setFocusPolicy(Qt::StrongFocus);
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 1, 1, 1);
@@ -131,6 +171,7 @@ void IconPicker::Choose(int index)
 {
     SetIcon(index);
     setFocus();
+    Announce(accessibleDescription());
 }
 
 void IconPicker::NextIcon()

@@ -18,6 +18,9 @@ public:
     [[nodiscard]] int Icon() const { return m_icon; }
     void SetIcon(int index);
 
+    /// Opens the grid of all icons.
+    void OpenGrid();
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -35,7 +38,6 @@ private:
     void Choose(int index);
     void NextIcon();
     void PreviousIcon();
-    void OpenGrid();
 };
 
 } // namespace Quillory

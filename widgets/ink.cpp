@@ -68,9 +68,8 @@ double Contrast(const QColor& a, const QColor& b)
 
 QColor Mix(const QColor& colour, const QColor& ground, double share)
 {
-    const auto part = [share](float a, float b) {
-        return static_cast<float>(a * share + b * (1 - share));
-    };
+    const auto part
+        = [share](float a, float b) { return static_cast<float>(a * share + b * (1 - share)); };
     return QColor::fromRgbF(part(colour.redF(), ground.redF()),
         part(colour.greenF(), ground.greenF()), part(colour.blueF(), ground.blueF()));
 }
@@ -84,7 +83,8 @@ QColor FitTo(QColor colour, std::initializer_list<QColor> grounds, double contra
         float saturation = 0;
         float lightness = 0;
         colour.getHslF(&hue, &saturation, &lightness);
-        while (Contrast(colour, ground) < contrast && lightness == std::clamp(lightness, 0.F, 1.F)) {
+        while (
+            Contrast(colour, ground) < contrast && lightness == std::clamp(lightness, 0.F, 1.F)) {
             lightness += step;
             colour.setHslF(hue, saturation, std::clamp(lightness, 0.F, 1.F));
         }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/page.h"
 
+#include "widgets/accessibility.h"
 #include "widgets/ink.h"
 #include "widgets/measures.h"
 #include "widgets/message_box.h"
@@ -68,6 +69,44 @@ private:
     bool m_isPressed = false;
 };
 
+/// A menu as assistive technology meets it: a button that says that it opens something.
+class AccessibleMenuKey : public QAccessibleWidget
+{
+public:
+    explicit AccessibleMenuKey(QToolButton* key)
+        : QAccessibleWidget(key, QAccessible::Button, key->text())
+        , m_key(key)
+    { }
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.hasPopup = true;
+        return state;
+    }
+    [[nodiscard]] QStringList actionNames() const override { return { pressAction() }; }
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction())
+            m_key->click();
+    }
+
+private:
+    QToolButton* m_key;
+};
+
+/// The soft key of a menu.
+class MenuKey : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    explicit MenuKey(QWidget* parent)
+        : QToolButton(parent)
+    {
+        MeetAs<AccessibleMenuKey, MenuKey>();
+    }
+};
+
 /// Opens a menu upward from a soft key, within the window, wherever that stands. In a window that
 /// is too low for it the entries lie closer together; in one that is too narrow they tell no keys.
 void OpenFromKey(QMenu& menu, const QWidget& key)
@@ -92,7 +131,9 @@ void OpenFromKey(QMenu& menu, const QWidget& key)
 Page::Page(const QString& title, QWidget* parent)
     : QWidget(parent)
 {
+    MeetAs<AccessibleAs<QAccessible::Pane>, Page>();
     setAttribute(Qt::WA_StyledBackground);
+    setAccessibleName(title);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -157,6 +198,7 @@ QString Page::Title() const
 void Page::SetTitle(const QString& title)
 {
     m_title->setText(title);
+    setAccessibleName(title);
     m_header->setVisible(!title.isEmpty());
 }
 
@@ -256,12 +298,13 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
 {
     if (entry.command == Command::Separator)
         return new QWidget(m_softKeys);
-    auto* button = new QToolButton(m_softKeys);
+    const bool isMenu = entry.command == Command::Menu;
+    auto* button = isMenu ? new MenuKey(m_softKeys) : new QToolButton(m_softKeys);
     button->setText(entry.Text());
     button->setFocusPolicy(Qt::TabFocus);
     button->setAutoRaise(true);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-    if (entry.command == Command::Menu) {
+    if (isMenu) {
         button->setShortcut(Qt::Key_F10);
         auto* popup = new QMenu(button);
         connect(button, &QToolButton::clicked, popup, [this, button, popup, menu] {
@@ -415,3 +458,5 @@ void Page::keyPressEvent(QKeyEvent* event)
 }
 
 } // namespace Quillory
+
+#include "page.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/page_stack.h"
 
+#include "widgets/accessibility.h"
 #include "widgets/measures.h"
 #include "widgets/questions.h"
 
@@ -136,8 +137,15 @@ void PageStack::Push(Page* page, std::function<void(PageResult)> then)
         line->addWidget(page, 1);
     m_pages.push_back(page);
     Arrange();
+    AnnounceTop();
     page->setFocus();
     Q_EMIT TopChanged();
+}
+
+void PageStack::AnnounceTop() const
+{
+    if (isVisible() && Top() != nullptr)
+        Announce(Top()->accessibleName());
 }
 
 void PageStack::Remove(Page* page)
@@ -146,6 +154,7 @@ void PageStack::Remove(Page* page)
     layout()->removeWidget(page);
     Arrange();
     page->hide();
+    AnnounceTop();
     Q_EMIT TopChanged();
 }
 

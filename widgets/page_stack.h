@@ -69,6 +69,8 @@ private:
 
     void Arrange();
     void Remove(Page* page);
+    /// Has a screen reader say which page is on top.
+    void AnnounceTop() const;
     void FitAboveKeyboard();
 };
 

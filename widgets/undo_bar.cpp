@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/undo_bar.h"
 
+#include "widgets/accessibility.h"
 #include "widgets/measures.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -27,6 +27,7 @@ UndoBar::UndoBar(QWidget* parent)
     , m_button(new QPushButton(tr("Undo"), this))
     , m_timer(new QTimer(this))
 {
+    MeetAs<AccessibleAs<QAccessible::Notification>, UndoBar>();
     setObjectName(u"undoBar"_s);
     setAttribute(Qt::WA_StyledBackground);
     m_text->setTextFormat(Qt::PlainText);
@@ -55,10 +56,10 @@ void UndoBar::Offer(const QString& text, std::function<void()> undo)
     m_undo = std::move(undo);
     m_text->setText(text);
     setAccessibleName(text);
+    // A notification is told when it comes up.
+    hide();
     show();
     m_timer->start();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
 }
 
 } // namespace Quillory
