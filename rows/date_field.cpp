@@ -2,6 +2,7 @@
 #include "rows/date_field.h"
 
 #include "platform/date_reader.h"
+#include "rows/accessible_calendar.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
 #include "widgets/measures.h"
@@ -168,11 +169,14 @@ void DateField::OpenCalendar()
 {
     auto* popup = new QFrame(this, Qt::Popup);
     popup->setObjectName(u"calendarPopup"_s);
+    popup->setAccessibleName(tr("Calendar"));
     popup->setAttribute(Qt::WA_DeleteOnClose);
     popup->setFrameShape(QFrame::StyledPanel);
+    MeetDays();
     auto* calendar = new QCalendarWidget(popup);
     calendar->setObjectName(u"calendar"_s);
     calendar->setAccessibleName(accessibleName());
+    NameParts(*calendar);
     const QRect room = screen()->availableGeometry();
     constexpr int kFrame = 1;
     DressCalendar(calendar, room.size() - 2 * QSize(kFrame, kFrame));
