@@ -170,8 +170,8 @@ void NameParts(QCalendarWidget& calendar)
     name(u"qt_calendar_prevmonth"_s, QCoreApplication::translate("Calendar", "Previous month"));
     name(u"qt_calendar_nextmonth"_s, QCoreApplication::translate("Calendar", "Next month"));
     name(u"qt_calendar_yearedit"_s, QCoreApplication::translate("Calendar", "Year"));
-    QObject::connect(
-        &calendar, &QCalendarWidget::currentPageChanged, &calendar, [&calendar](int year, int month) {
+    QObject::connect(&calendar, &QCalendarWidget::currentPageChanged, &calendar,
+        [&calendar](int year, int month) {
             Announce(calendar.locale().toString(QDate(year, month, 1), u"MMMM yyyy"_s));
         });
 }

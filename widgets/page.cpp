@@ -74,19 +74,26 @@ class AccessibleMenuKey : public QAccessibleWidget
 {
 public:
     explicit AccessibleMenuKey(QToolButton* key)
-        : QAccessibleWidget(key, QAccessible::Button, key->text())
+        : QAccessibleWidget(key, QAccessible::Button)
         , m_key(key)
     { }
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? m_key->text() : QAccessibleWidget::text(kind);
+    }
     [[nodiscard]] QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
         state.hasPopup = true;
         return state;
     }
-    [[nodiscard]] QStringList actionNames() const override { return { pressAction() }; }
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return { pressAction(), showMenuAction() };
+    }
     void doAction(const QString& name) override
     {
-        if (name == pressAction())
+        if (actionNames().contains(name))
             m_key->click();
     }
 
@@ -104,6 +111,8 @@ public:
         : QToolButton(parent)
     {
         MeetAs<AccessibleMenuKey, MenuKey>();
+        // Older toolkits keep the state to themselves.
+        setAccessibleDescription(tr("opens a menu"));
     }
 };
 

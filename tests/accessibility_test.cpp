@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "rows/date_field.h"
+#include "tests/every_page.h"
+#include "tests/rows_view_errand.h"
+#include "tests/test_program.h"
+#include "widgets/app_style.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QToolButton>
+
+namespace {
+
+/// Name, role and state of what assistive technology meets, its text or its range.
+QString Met(QObject* object)
+{
+    QAccessibleInterface* met = QAccessible::queryAccessibleInterface(object);
+    QStringList words { QVariant::fromValue(met->role()).toString(), met->text(QAccessible::Name) };
+    if (met->state().hasPopup)
+        words << u"opens"_s;
+    if (auto* text = met->textInterface())
+        words << text->text(0, text->characterCount());
+    if (auto* value = met->valueInterface())
+        words << value->minimumValue().toString() << value->currentValue().toString()
+              << value->maximumValue().toString();
+    return words.join(u'|');
+}
+
+} // namespace
+
+class AccessibilityTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everythingSaysWhatItIs()
+    {
+        QApplication::setStyle(new AppStyle);
+        Subject sheet;
+        Show(sheet, kPages.front());
+        RowsErrand rows;
+        rows.Open();
+        rows.file.context.clock = [] { return LocalTime { QDate(2026, 6, 15), QTime() }; };
+        DateField date(rows.file.context);
+        date.OpenCalendar();
+        auto* days = date.findChild<QTableView*>();
+        const auto find = [](const QWidget& page, const char* type) {
+            const auto all = page.findChildren<QWidget*>();
+            return *std::find_if(all.begin(), all.end(), [type](QWidget* w) { return w->inherits(type); });
+        };
+        QComboBox choice;
+        choice.setAccessibleName(u"Type"_s);
+        choice.addItem(u"Price"_s);
+        const QString met[][2] {
+            { Met(sheet.page), u"Pane|New Inventory List"_s },
+            { Met(find(*sheet.page, "Quillory::IconPicker")), u"Button|Icon|0|0|42"_s },
+            { Met(find(*sheet.page, "Quillory::ThresholdEdit")), u"SpinBox|Enable row colour when count is less than or equal to|-32767|0|32767"_s },
+            { Met(&choice), u"ComboBox|Type|opens|Price"_s },
+            { Met(rows.page->findChild<QToolButton*>(u"rightKey"_s)), u"Button|Menu|opens"_s },
+            { Met(find(*rows.page, "Quillory::UndoBar")), u"Notification|"_s },
+        };
+        for (const auto& [is, expected] : met)
+            QCOMPARE(is, expected);
+        QAccessibleInterface* day = QAccessible::queryAccessibleInterface(days)->focusChild();
+        QCOMPARE(day->text(QAccessible::Name), QLocale().toString(QDate(2026, 6, 15), QLocale::LongFormat));
+    }
+
+    void aChangedCellIsSpokenWithItsColumn()
+    {
+        RowsErrand rows;
+        rows.file.list.TableOption = kWarnOnCount;
+        rows.file.Add({ u"rice"_s, u"0"_s, u"top"_s, u"Checked"_s });
+        rows.Open();
+        const auto* model = qobject_cast<RowsModel*>(rows.View()->model());
+        QCOMPARE(model->Spoken(0, PropCount), u"Quantity 0, low"_s);
+        QCOMPARE(model->Spoken(0, rows.file.list.columns[Bio].id), u"Bio Checked, low"_s);
+    }
+};
+
+QUILLORY_TEST(QApplication, AccessibilityTest)
+#include "accessibility_test.moc"
