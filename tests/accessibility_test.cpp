@@ -46,7 +46,8 @@ private Q_SLOTS:
         auto* days = date.findChild<QTableView*>();
         const auto find = [](const QWidget& page, const char* type) {
             const auto all = page.findChildren<QWidget*>();
-            return *std::find_if(all.begin(), all.end(), [type](QWidget* w) { return w->inherits(type); });
+            return *std::find_if(
+                all.begin(), all.end(), [type](QWidget* w) { return w->inherits(type); });
         };
         QComboBox choice;
         choice.setAccessibleName(u"Type"_s);
@@ -54,7 +55,8 @@ private Q_SLOTS:
         const QString met[][2] {
             { Met(sheet.page), u"Pane|New Inventory List"_s },
             { Met(find(*sheet.page, "Quillory::IconPicker")), u"Button|Icon|0|0|42"_s },
-            { Met(find(*sheet.page, "Quillory::ThresholdEdit")), u"SpinBox|Enable row colour when count is less than or equal to|-32767|0|32767"_s },
+            { Met(find(*sheet.page, "Quillory::ThresholdEdit")),
+                u"SpinBox|Enable row colour when count is less than or equal to|-32767|0|32767"_s },
             { Met(&choice), u"ComboBox|Type|opens|Price"_s },
             { Met(rows.page->findChild<QToolButton*>(u"rightKey"_s)), u"Button|Menu|opens"_s },
             { Met(find(*rows.page, "Quillory::UndoBar")), u"Notification|"_s },
@@ -62,7 +64,8 @@ private Q_SLOTS:
         for (const auto& [is, expected] : met)
             QCOMPARE(is, expected);
         QAccessibleInterface* day = QAccessible::queryAccessibleInterface(days)->focusChild();
-        QCOMPARE(day->text(QAccessible::Name), QLocale().toString(QDate(2026, 6, 15), QLocale::LongFormat));
+        QCOMPARE(day->text(QAccessible::Name),
+            QLocale().toString(QDate(2026, 6, 15), QLocale::LongFormat));
     }
 
     void aChangedCellIsSpokenWithItsColumn()

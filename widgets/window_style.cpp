@@ -51,7 +51,7 @@ QString StyleSheet(const QWidget& window)
     set(u"answer-height"_s,
         CurrentMeasures().lineHeight >= kMinTouchTarget ? kMinTouchTarget - 14 : 24);
     set(u"tab-height"_s, FrameMeasures(window.height()).headerHeight - kTabRule);
-    const QPalette palette = window.palette();
+    const QPalette& palette = window.palette();
     replace(u"accent"_s, AccentInk(palette).name());
     replace(u"quiet"_s, palette.color(QPalette::PlaceholderText).name());
     replace(u"disabled"_s, palette.color(QPalette::Disabled, QPalette::Text).name());
