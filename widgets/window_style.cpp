@@ -88,15 +88,28 @@ public:
     {
         if (watched == m_window && event->type() == QEvent::ApplicationFontChange)
             EnlargeLetters();
-        if (watched == m_window && IsOutdatedBy(*event)) {
-            m_window->setStyleSheet(QString());
-            m_window->setStyleSheet(StyleSheet(*m_window));
-        }
+        if (watched == m_window && IsOutdatedBy(*event))
+            Dress();
         return QObject::eventFilter(watched, event);
+    }
+
+    /// Works the style out. A change that is told again, as at the start, costs nothing.
+    void Dress()
+    {
+        const QString sheet = StyleSheet(*m_window);
+        if (sheet == m_window->styleSheet() && QApplication::font() == m_font
+            && QApplication::palette() == m_palette)
+            return;
+        m_font = QApplication::font();
+        m_palette = QApplication::palette();
+        m_window->setStyleSheet(QString());
+        m_window->setStyleSheet(sheet);
     }
 
 private:
     QWidget* m_window;
+    QFont m_font;
+    QPalette m_palette;
 
     [[nodiscard]] static bool IsOutdatedBy(const QEvent& event)
     {
@@ -115,8 +128,7 @@ private:
 void ApplyWindowStyle(QWidget* window)
 {
     EnlargeLetters();
-    window->setStyleSheet(StyleSheet(*window));
-    new StyleKeeper(window);
+    (new StyleKeeper(window))->Dress();
 }
 
 } // namespace Quillory
