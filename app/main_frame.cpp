@@ -169,6 +169,12 @@ void MainFrame::ShowLists()
     QMetaObject::invokeMethod(
         this, [this] { m_deletions.Forget(); }, Qt::QueuedConnection);
     const StartRequest wanted = std::exchange(m_wanted, {});
+    const QString lastList = std::exchange(m_settings.lastList, QString());
+    if (!lastList.isEmpty() && !wanted.NamesPage()) {
+        const ObjectId oid = m_session.Catalogue().FindList(lastList);
+        if (oid != kNoObject)
+            GoToList(oid);
+    }
     if (wanted.NamesPage() && TakeStartRequest(wanted) == StartAnswer::UnknownList)
         NoteUnknownList(wanted.listName);
 }
@@ -350,11 +356,12 @@ void MainFrame::OpenList(ObjectId oid)
     m_deletions.SetOpenList(oid);
     if (m_settings.Options.test(kLandscapeOption))
         m_landscape.Enter();
-    m_pages->Push(view, [this](PageResult) { CloseList(); });
+    m_pages->Push(view, [this](PageResult result) { CloseList(result); });
 }
 
-void MainFrame::CloseList()
+void MainFrame::CloseList(PageResult result)
 {
+    m_settings.lastList = result == PageResult::Closing ? m_list.Name : QString();
     // The rows stay behind: the page that is leaving still refers to them.
     m_session.Catalogue().UpdateListOptions(m_openList, m_list);
     m_session.Catalogue().CloseRows();

@@ -108,7 +108,7 @@ private:
     /// Leaves whatever is open first, asking where input would be lost.
     void GoToList(ObjectId oid);
     void OpenList(ObjectId oid);
-    void CloseList();
+    void CloseList(PageResult result);
     void NewList() { m_definitions.MakeList(); }
     void ShowProperties() { m_definitions.ShowProperties(); }
     void RenameList();

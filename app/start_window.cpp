@@ -95,6 +95,7 @@ Settings SettingsFor(const WindowCall& call)
     if (!call.dataFile.isEmpty() && !IsSameVolume(call.dataFile, settings.DbPath)) {
         settings.DbPath = QFileInfo(call.dataFile).absoluteFilePath();
         settings.isPathForThisRun = true;
+        settings.lastList.clear();
     }
     return settings;
 }

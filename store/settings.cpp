@@ -23,6 +23,7 @@ constexpr auto kPathKey = "DbPath"_L1;
 constexpr auto kOptionsKey = "Options"_L1;
 constexpr auto kOrientationKey = "ListOrientation"_L1;
 constexpr auto kGeometryKey = "WindowGeometry"_L1;
+constexpr auto kLastListKey = "LastList"_L1;
 constexpr auto kCodePageKey = "CodePage"_L1;
 constexpr auto kKeptCopiesKey = "KeptCopies"_L1;
 constexpr auto kColourSchemeKey = "ColourScheme"_L1;
@@ -80,6 +81,7 @@ void ReadSettings(const QString& path, Settings& settings)
     settings.Options = AppOptions(ReadNumber(file, kOptionsKey, 0));
     settings.ListOrientation = ReadNumber(file, kOrientationKey, kLandscapeRightHanded);
     settings.windowGeometry = file.value(kGeometryKey).toByteArray();
+    settings.lastList = file.value(kLastListKey).toString();
     settings.codePage = ReadCodePage(file);
     settings.keptCopies = ReadKeptCopies(file);
     settings.colourScheme = file.value(kColourSchemeKey).toString().toLower();
@@ -94,8 +96,10 @@ void WriteSettings(const QString& path, const Settings& settings)
     static_cast<void>(MakeUserFolder(info.absolutePath()));
     QSettings file(path, QSettings::IniFormat);
     file.setValue(kVersionKey, kVersion);
-    if (!settings.isPathForThisRun)
+    if (!settings.isPathForThisRun) {
         file.setValue(kPathKey, settings.DbPath);
+        file.setValue(kLastListKey, settings.lastList);
+    }
     file.setValue(kOptionsKey, static_cast<quint32>(settings.Options.to_ulong()));
     file.setValue(kOrientationKey, settings.ListOrientation);
     file.setValue(kGeometryKey, settings.windowGeometry);

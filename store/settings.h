@@ -35,13 +35,15 @@ struct Settings
     quint32 ListOrientation = kLandscapeRightHanded;
     /// As the window toolkit wrote it; empty before the first end of the program.
     QByteArray windowGeometry;
+    /// The list that was open when the window closed; empty for none.
+    QString lastList;
     /// Overrides the code page of the locale for reading text files; set by hand in the file.
     std::optional<int> codePage;
     /// "light" or "dark" overrides the desktop's colours; set by hand in the file.
     QString colourScheme;
     /// How many copies of the data file are kept, 0 to 9; set by hand in the file.
     int keptCopies = 3;
-    /// DbPath was named for this run alone: it is not written.
+    /// DbPath was named for this run alone: neither it nor what was open in it is written.
     bool isPathForThisRun = false;
 };
 

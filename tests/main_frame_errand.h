@@ -43,7 +43,9 @@ public:
     void MakeLists(const QStringList& names)
     {
         Quillory::MakeLists(DataPath(), names);
-        WriteSettings(Conf(), { DataPath(), {}, kLandscapeRightHanded, {}, {}, {} });
+        Settings settings;
+        settings.DbPath = DataPath();
+        WriteSettings(Conf(), settings);
     }
     /// Puts a file in the place of the data file, as programs do that keep folders alike.
     void ReplaceDataFile(const QString& by) const

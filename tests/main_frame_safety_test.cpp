@@ -213,6 +213,7 @@ private Q_SLOTS:
             for (int i = 0; i < 1000; ++i)
                 rows += "Row " + QByteArray::number(10'000 + i) + "\t1\r\n";
             FrameErrand errand(u"Pantry"_s, rows);
+            Act(u"tap OK"_s);
             QCOMPARE(errand.ListsAtEnd(), u"Pantry 1000"_s);
             DamagePage(errand.DataPath(), page, u"Row 10500"_s);
             errand.Start();

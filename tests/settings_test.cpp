@@ -22,11 +22,13 @@ private Q_SLOTS:
         written.Options.set(kReadOnlyOption).set(31);
         written.ListOrientation = kLandscapeLeftHanded;
         written.windowGeometry = QByteArray("\0\1\xff geometry", 12);
+        written.lastList = u"@Käse, \"备\""_s;
         WriteSettings(path, written);
 
         Settings read;
         ReadSettings(path, read);
         QCOMPARE(read.DbPath, written.DbPath);
+        QCOMPARE(read.lastList, written.lastList);
         QCOMPARE(read.Options, written.Options);
         QCOMPARE(read.ListOrientation, written.ListOrientation);
         QCOMPARE(read.windowGeometry, written.windowGeometry);
