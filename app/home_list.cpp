@@ -82,6 +82,7 @@ void HomeList::BuildView()
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_view->setTextElideMode(Qt::ElideRight);
+    KeepCurrentInSight(m_view);
     const int icon = CurrentMeasures().iconSize;
     m_view->setIconSize({ icon, icon });
 
@@ -198,7 +199,10 @@ void HomeList::FlipDirection()
 
 void HomeList::OpenListMenu(const QPoint& position)
 {
-    if (SelectedList() != kNoObject)
+    // Beside the open list lines are there to be opened: a hold is a slow tap.
+    if (IsBeside())
+        Q_EMIT ListChosen();
+    else if (SelectedList() != kNoObject)
         OpenContextMenu(
             MenuEntries(MenuId::ListContext), m_view->viewport()->mapToGlobal(position));
 }

@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QHeaderView>
+#include <QResizeEvent>
+#include <QScrollBar>
 #include <QTableView>
 
 namespace Quillory {
@@ -47,7 +49,44 @@ private:
     }
 };
 
+class SightKeeper : public QObject
+{
+public:
+    explicit SightKeeper(QAbstractItemView* view)
+        : QObject(view)
+        , m_view(view)
+    {
+        view->viewport()->installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize) {
+            const QSize before = static_cast<QResizeEvent*>(event)->oldSize();
+            const QRect line = m_view->visualRect(m_view->currentIndex());
+            // What was scrolled away stays away.
+            if (line.bottom() < before.height() && line.bottom() >= m_view->viewport()->height())
+                QMetaObject::invokeMethod(this, &SightKeeper::Show, Qt::QueuedConnection);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QAbstractItemView* m_view;
+
+    void Show()
+    {
+        const int column = m_view->horizontalScrollBar()->value();
+        m_view->scrollTo(m_view->currentIndex());
+        m_view->horizontalScrollBar()->setValue(column);
+    }
+};
+
 } // namespace
+
+void KeepCurrentInSight(QAbstractItemView* view)
+{
+    new SightKeeper(view);
+}
 
 void DressLineView(QTableView* view)
 {
@@ -61,6 +100,7 @@ void DressLineView(QTableView* view)
     view->setTabKeyNavigation(false);
     view->verticalHeader()->hide();
     new LineHeightKeeper(view);
+    KeepCurrentInSight(view);
     QHeaderView* header = view->horizontalHeader();
     header->setHighlightSections(false);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);

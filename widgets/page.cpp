@@ -376,8 +376,6 @@ void Page::Trigger(Command command)
 
 void Page::OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& globalPosition)
 {
-    if (m_isBeside)
-        return;
     Q_EMIT MenuAboutToOpen();
     auto* menu = new HoldMenu(this);
     menu->setObjectName(u"contextMenu"_s);

@@ -95,6 +95,7 @@ protected:
     /// Takes over what is being edited before the page ends. False keeps the page, which has told
     /// why; not if the result is Closing.
     [[nodiscard]] virtual bool PrepareEnd(PageResult /*result*/) { return true; }
+    [[nodiscard]] bool IsBeside() const { return m_isBeside; }
     /// What Return does where no button has the keyboard: it is OK.
     virtual void TakeReturn() { RequestEnd(PageResult::Ok); }
     /// Whether the page's own content goes from edge to edge. Else it stays in the middle of a wide
