@@ -9,6 +9,7 @@
 namespace Quillory {
 
 class RowDelegate;
+class RowsHeader;
 class RowsModel;
 
 /// The table of a rows view: whole lines of one height, with as little of its own as a list of a
@@ -25,8 +26,11 @@ public:
     /// The width that a column needs for what it holds in the first lines.
     [[nodiscard]] int NeedOf(int column);
 
-    /// A line is as wide as the view: a place beside the columns is one of the first of them.
+    /// A line is as wide as the view: a place beside the columns is one of the first of them, one
+    /// on pinned names is the name's.
     [[nodiscard]] QModelIndex indexAt(const QPoint& position) const override;
+    /// Not behind pinned names.
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -36,8 +40,11 @@ protected:
 
 private:
     RowDelegate* m_delegate;
+    RowsHeader* m_header;
 
-    void PaintBesideColumns(const QRect& exposed);
+    void PinNames();
+    void PaintBesideColumns(QPainter& painter, const QRect& line, int row) const;
+    void PaintPinnedName(QPainter& painter, const QRect& line, int row) const;
 };
 
 } // namespace Quillory

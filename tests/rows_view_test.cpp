@@ -308,6 +308,46 @@ private Q_SLOTS:
         QCOMPARE(header->visualIndex(Price), 0);
     }
 
+    void namesStayInSightBesideWhatIsScrolledTo()
+    {
+        File().Add({ u"a tea"_s, u"9"_s });
+        File().list.TableColSizes = u"150,90,90,90,90,90,90,90,"_s;
+        for (const auto direction : { Qt::LeftToRight, Qt::RightToLeft }) {
+            QGuiApplication::setLayoutDirection(direction);
+            m_errand->Open();
+            m_errand->stack->resize(400, 300);
+            const auto place = [this, direction](const QWidget* in, int x, int y) {
+                return QPoint(direction == Qt::LeftToRight ? x : in->width() - 1 - x, y);
+            };
+            QWidget* lines = View()->viewport();
+            QWidget* titles = View()->horizontalHeader()->viewport();
+            const auto names = [&lines, place] {
+                const QRect pinned(place(lines, 0, 0), place(lines, 140, 60));
+                return lines->grab(pinned.normalized()).toImage();
+            };
+            Act(u"tap Quantity; see rice, salt, a tea; press Home Down; on salt"_s);
+            const QImage before = names();
+            const QString on = direction == Qt::LeftToRight ? u"Right"_s : u"Left"_s;
+            const QString back = direction == Qt::LeftToRight ? u"Left"_s : u"Right"_s;
+            const auto go = [&lines, this](const QString& key, int column) {
+                while (View()->currentIndex().column() != column)
+                    Act(u"press "_s + key);
+                return lines->rect().intersected(m_errand->Cell(1, column));
+            };
+            // What the keyboard comes to does not stay behind the names.
+            QCOMPARE(go(on, View()->model()->columnCount() - 1).width(), 90);
+            QCOMPARE(names(), before);
+            QVERIFY(!go(back, Count).contains(place(lines, 75, m_errand->Cell(1, 0).center().y())));
+            go(on, View()->model()->columnCount() - 1);
+            QTest::mouseClick(titles, Qt::LeftButton, {}, place(titles, 75, 10));
+            Act(u"see a tea, rice, salt; on salt"_s);
+            QTest::mouseClick(
+                lines, Qt::LeftButton, {}, place(lines, 75, m_errand->Cell(1, 0).center().y()));
+            Act(u"on rice"_s);
+        }
+        QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
+    }
+
     void aWideViewIsFilled()
     {
         File().Add({ QString(60, u'w') });

@@ -5,6 +5,7 @@
 #include "tests/rows_view_errand.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
+#include "widgets/app_style.h"
 #include "widgets/colour_button.h"
 #include "widgets/form.h"
 #include "widgets/icon_grid_page.h"
@@ -27,6 +28,7 @@ class TouchTest : public QObject
 private Q_SLOTS:
     void initTestCase() const
     {
+        QApplication::setStyle(new AppStyle);
         for (int i = 0; i < kLines; ++i)
             m_errand.file.Add({ u"row"_s, u"1"_s, u"top"_s, u"Unchecked"_s, u"1"_s });
     }
@@ -80,6 +82,22 @@ private Q_SLOTS:
         QTest::mouseDClick(below, Qt::LeftButton, {}, line);
         QTest::mouseRelease(below, Qt::LeftButton, {}, line);
         QCOMPARE(rows->currentIndex().row(), 0);
+    }
+
+    void aDividerIsMovedWhereATapSorts()
+    {
+        Open(List::Rows);
+        const auto* rows = qobject_cast<QTableView*>(m_view);
+        const QHeaderView* header = rows->horizontalHeader();
+        const int end = header->sectionViewportPosition(Name) + header->sectionSize(Name);
+        const int width = header->sectionSize(Name);
+        const Finger finger(*header->viewport());
+        const QPoint near(end - kMinTouchTarget / 2 + 1, 10);
+        finger.Swipe(near, near - QPoint(40, 0), 100);
+        QCOMPARE(header->sectionSize(Name), width - 40);
+        finger.Tap(QPoint(end - 40 + kMinTouchTarget / 2 - 2, 10));
+        QCOMPARE(header->sortIndicatorSection(), int(Count));
+        QCOMPARE(header->sectionSize(Name), width - 40);
     }
 
     void controlsOfAFormActOnATapAlone()
