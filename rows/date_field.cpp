@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "rows/date_field.h"
 
-#include "platform/date_reader.h"
 #include "rows/accessible_calendar.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
+#include "values/typed_date.h"
 #include "widgets/measures.h"
 #include "widgets/message_box.h"
 
@@ -12,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QToolButton>
 
@@ -123,13 +122,7 @@ QString DateField::Entry() const
 
 std::optional<QDate> DateField::Read(const QString& text) const
 {
-    const auto time = ParseDateText(text, m_context);
-    const auto date = time ? FileTimeToDate(*time) : std::nullopt;
-    // That is also what a time alone is read as; the day itself needs its four figures.
-    static const QRegularExpression year(u"[0-9]{4}"_s);
-    if (date == QDate::fromJulianDay(kDayZeroJulian) && !text.contains(year))
-        return std::nullopt;
-    return date;
+    return ReadTypedDate(text, tr("today"), m_context);
 }
 
 bool DateField::IsUnread(const QString& stored, const QString& text) const

@@ -12,7 +12,7 @@ class QLineEdit;
 
 namespace Quillory {
 
-/// A date: typed in any form that the user's locale reads, or picked from a calendar, which starts
+/// A date: typed as ReadTypedDate() reads it, or picked from a calendar, which starts
 /// at today where there is no date. A typed text that names no day stays, struck out once the field
 /// is left.
 class DateField : public QWidget
@@ -31,8 +31,7 @@ public:
     /// other text as it was typed.
     [[nodiscard]] QString Entry() const;
 
-    /// The day that a text names; nothing if it names none that can be stored. A time alone names
-    /// none.
+    /// The day that a text names; nothing if it names none.
     [[nodiscard]] std::optional<QDate> Read(const QString& text) const;
     /// Whether something was typed over `stored` that names no day.
     [[nodiscard]] bool IsUnread(const QString& stored, const QString& text) const;

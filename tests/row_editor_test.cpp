@@ -108,6 +108,7 @@ private Q_SLOTS:
         add("a time over a day", Bought, u"12:30"_s, u"12:30"_s);
         add("nothing over a day", Bought, u""_s, u"3/1/2026"_s);
         add("a day over nothing", Expiry, u"2 April 2027"_s, u"4/2/2027"_s);
+        add("a week from today over nothing", Expiry, u"+7"_s, u"6/22/2026"_s);
         add("30 February over nothing", Expiry, u"2/30/2026"_s, u"2/30/2026"_s);
         add("blanks over nothing", Expiry, u"  "_s, u""_s);
     }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/list_fixture.h"
 #include "tests/test_program.h"
+#include "tests/vectors.h"
 #include "values/file_date.h"
+#include "values/typed_date.h"
 #include "values/value_text.h"
 
 #include <limits>
@@ -51,6 +53,18 @@ private Q_SLOTS:
             QCOMPARE(FileTimeToDate({ ticks }), date);
             QCOMPARE(FileTimeToDate({ ticks + 863'999'999'999 }), date);
         }
+    }
+
+    void datesAreReadAsPeopleTypeThem()
+    {
+        CheckVectors(u"typed_dates"_s, [](const Vector& row) {
+            ValueContext context = TestContext();
+            context.userLocale = LocaleProfile::For(row["locale"]);
+            context.clock = [] { return LocalTime { QDate(2026, 6, 15), QTime(12, 0) }; };
+            const QString today = row["locale"] == u"de_DE" ? u"heute"_s : u"today"_s;
+            const auto day = ReadTypedDate(row["text"], today, context);
+            return day ? day->toString(Qt::ISODate) : u"none"_s;
+        });
     }
 
     void daysOutsideTheFileTimesHaveNone()
