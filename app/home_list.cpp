@@ -9,7 +9,9 @@
 #include "widgets/text_line.h"
 #include "widgets/touch.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -91,13 +93,20 @@ void HomeList::BuildView()
     header->setSectionsClickable(true);
     header->setSortIndicatorShown(true);
     header->setSortIndicator(0, Qt::AscendingOrder);
+    m_help = MakeHelpButton(header->viewport());
+    auto* end = new QHBoxLayout(header->viewport());
+    end->setContentsMargins(0, 0, 2 * kGrid, 1);
+    end->addStretch(1);
+    end->addWidget(m_help);
     Body()->addWidget(m_view);
     setFocusProxy(m_view);
 }
 
 void HomeList::resizeEvent(QResizeEvent* event)
 {
-    m_view->header()->setMinimumHeight(FrameMeasures(height()).headerHeight);
+    const int high = FrameMeasures(height()).headerHeight;
+    m_view->header()->setMinimumHeight(high);
+    m_help->setFixedSize(high, high - 1);
     Page::resizeEvent(event);
 }
 

@@ -4,6 +4,7 @@
 #include "app/home_list_model.h"
 #include "widgets/page.h"
 
+class QToolButton;
 class QTreeView;
 
 namespace Quillory {
@@ -50,6 +51,7 @@ protected:
 private:
     HomeListModel* m_model;
     QTreeView* m_view;
+    QToolButton* m_help = nullptr;
     SortDirection m_direction = SortDirection::Ascending;
 
     void BuildView();

@@ -5,13 +5,16 @@
 #include "listdef/column_table_model.h"
 #include "res/dialog_table.h"
 #include "res/string_table.h"
+#include "widgets/form.h"
 #include "widgets/line_delegate.h"
 #include "widgets/line_view.h"
+#include "widgets/measures.h"
 #include "widgets/page_stack.h"
 #include "widgets/text_line.h"
 #include "widgets/touch.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -49,6 +52,8 @@ ColumnsPanel::ColumnsPanel(const std::vector<ColumnDefinition>& columns, Page& p
     , m_page(page)
     , m_view(new QTableView(this))
     , m_columns(new ColumnTableModel(columns, this))
+    , m_note(MakeNote(
+          tr("A new column goes before the selected one. Once the list is made its columns stay.")))
 {
     BuildView();
     for (const auto signal :
@@ -83,7 +88,15 @@ void ColumnsPanel::BuildView()
     auto* body = new QVBoxLayout(this);
     body->setContentsMargins(0, 0, 0, 0);
     body->addWidget(m_view, 1);
+    m_note->setContentsMargins(kPageMargin, kGrid, kPageMargin, kGrid);
+    body->addWidget(m_note);
     Select(0);
+}
+
+void ColumnsPanel::resizeEvent(QResizeEvent* event)
+{
+    m_note->setVisible(window()->height() >= kLowWindow);
+    QWidget::resizeEvent(event);
 }
 
 std::vector<ColumnDefinition> ColumnsPanel::Columns() const

@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QTableView;
 
 namespace Quillory {
@@ -30,10 +31,14 @@ public:
     /// Enables the commands that the selected column allows.
     void UpdateCommands();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     Page& m_page;
     QTableView* m_view;
     ColumnTableModel* m_columns;
+    QLabel* m_note;
 
     void BuildView();
     void DefineColumn();

@@ -28,6 +28,7 @@ OptionsPanel::OptionsPanel(const InventoryList& list, QWidget* parent)
     , m_countLine(MakeCountLine())
     , m_warnOnExpiry(new QCheckBox(this))
     , m_expiryColour(new ColourButton(this))
+    , m_noExpiry(MakeNote(tr("Only lists with an expiry date column can warn of dates.")))
 {
     Build();
     m_countColour->SetColour(list.TableWarnColour);
@@ -59,6 +60,7 @@ void OptionsPanel::Build()
     expiry->addStretch(1);
     expiry->addWidget(m_expiryColour);
     body->addLayout(expiry);
+    body->addWidget(m_noExpiry);
     body->addStretch(1);
 }
 
@@ -98,6 +100,7 @@ void OptionsPanel::UpdateEnabled()
     m_toColour->setEnabled(warnsOnCount);
     m_countColour->setEnabled(warnsOnCount);
     m_warnOnExpiry->setEnabled(m_hasExpiryDate);
+    m_noExpiry->setVisible(!m_hasExpiryDate);
     m_expiryColour->setEnabled(m_hasExpiryDate && m_warnOnExpiry->isChecked());
 }
 

@@ -38,6 +38,7 @@ private:
     QBoxLayout* m_countLine;
     QCheckBox* m_warnOnExpiry;
     ColourButton* m_expiryColour;
+    QLabel* m_noExpiry;
     bool m_hasExpiryDate = false;
 
     void Build();

@@ -82,6 +82,8 @@ RowsView::RowsView(RowStore& rows, InventoryList& list, const ValueContext& cont
     , m_filterBar(new FilterBar(this))
 {
     setObjectName(u"rows"_s);
+    if (m_options.isReadOnly)
+        SetNote(tr("read-only"));
     if (m_options.foundBy) {
         m_filters.emplace();
         AddFilter(*m_filters, m_options.foundBy->column, m_options.foundBy->condition,

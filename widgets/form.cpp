@@ -89,6 +89,14 @@ void AddButtonLine(QVBoxLayout& body, QAbstractButton& button, const QString& te
     body.addLayout(line);
 }
 
+QLabel* MakeNote(const QString& text)
+{
+    auto* note = new QLabel(text);
+    note->setWordWrap(true);
+    note->setForegroundRole(QPalette::PlaceholderText);
+    return note;
+}
+
 QWidget* MakeScrollable(QWidget* content)
 {
     auto* area = new QScrollArea(content->parentWidget());

@@ -5,6 +5,7 @@
 
 class QAbstractButton;
 class QFormLayout;
+class QLabel;
 class QVBoxLayout;
 class QWidget;
 
@@ -30,6 +31,9 @@ private:
 /// Adds a checkbox or radio button and its text, which wraps where it is longer than the page is
 /// wide; a tap on the text is one on the button, and the text is as grey as that.
 void AddButtonLine(QVBoxLayout& body, QAbstractButton& button, const QString& text, int indent = 0);
+
+/// A quiet sentence that explains what is above it.
+[[nodiscard]] QLabel* MakeNote(const QString& text);
 
 /// `content` in an area that scrolls, by a finger too, where the page is not high enough for it.
 [[nodiscard]] QWidget* MakeScrollable(QWidget* content);

@@ -179,14 +179,16 @@ void Page::BuildHeader(const QString& title)
     m_title->setFont(bold);
     m_title->setMinimumWidth(0);
     m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    line->addWidget(m_title, 1);
-    m_help = new QToolButton(m_header);
-    m_help->setObjectName(u"help"_s);
-    m_help->setText(u"?"_s);
-    m_help->setAccessibleName(tr("Help"));
-    m_help->setAutoRaise(true);
+    m_note = new QLabel(m_header);
+    m_note->setObjectName(u"note"_s);
+    m_note->setForegroundRole(QPalette::PlaceholderText);
+    m_note->hide();
+    m_titleLine = new QBoxLayout(QBoxLayout::LeftToRight);
+    m_titleLine->addWidget(m_title, 1);
+    m_titleLine->addWidget(m_note);
+    line->addLayout(m_titleLine, 1);
+    m_help = MakeHelpButton(m_header);
     m_help->hide();
-    connect(m_help, &QToolButton::clicked, this, [this] { Q_EMIT HelpRequested(m_helpAnchor); });
     line->addWidget(m_help);
     m_ok = new QPushButton(tr("OK"), m_header);
     m_ok->setObjectName(u"ok"_s);
@@ -209,6 +211,24 @@ void Page::SetTitle(const QString& title)
     m_title->setText(title);
     setAccessibleName(title);
     m_header->setVisible(!title.isEmpty());
+}
+
+void Page::SetNote(const QString& note)
+{
+    m_note->setText(note);
+    m_note->setVisible(!note.isEmpty());
+    setAccessibleDescription(note);
+}
+
+QToolButton* Page::MakeHelpButton(QWidget* parent)
+{
+    auto* button = new QToolButton(parent);
+    button->setObjectName(u"help"_s);
+    button->setText(u"?"_s);
+    button->setAccessibleName(tr("Help"));
+    button->setAutoRaise(true);
+    connect(button, &QToolButton::clicked, this, [this] { Q_EMIT HelpRequested(m_helpAnchor); });
+    return button;
 }
 
 void Page::ShowOkButton(bool isShown)
@@ -295,6 +315,9 @@ void Page::FitToWindow()
     m_ok->setFixedHeight(frame.headerHeight);
     m_header->setFixedHeight(frame.headerHeight + 1);
     m_softKeys->setFixedHeight(frame.softKeyHeight);
+    const bool isNarrow = width() < kNarrowPage;
+    m_titleLine->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_titleLine->setSpacing(isNarrow ? 0 : kGrid);
     const int beside = std::max(0, (width() - kMaxPageWidth) / 2);
     if (!IsAsWideAsWindow())
         m_body->setContentsMargins(beside, 0, beside, 0);

@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class QBoxLayout;
 class QLabel;
 class QMenu;
 class QPushButton;
@@ -44,6 +45,8 @@ public:
 
     [[nodiscard]] QString Title() const;
     void SetTitle(const QString& title);
+    /// Says something about the page in its header, quietly, beside the title.
+    void SetNote(const QString& note);
     /// Whether the header has an OK button; it does unless told otherwise.
     void ShowOkButton(bool isShown);
     /// Gives the header a "?" that opens help at this anchor, as F1 does.
@@ -95,6 +98,8 @@ protected:
     /// Takes over what is being edited before the page ends. False keeps the page, which has told
     /// why; not if the result is Closing.
     [[nodiscard]] virtual bool PrepareEnd(PageResult /*result*/) { return true; }
+    /// A "?" for a page that has no header.
+    [[nodiscard]] QToolButton* MakeHelpButton(QWidget* parent);
     [[nodiscard]] bool IsBeside() const { return m_isBeside; }
     /// What Return does where no button has the keyboard: it is OK.
     virtual void TakeReturn() { RequestEnd(PageResult::Ok); }
@@ -109,6 +114,9 @@ private:
     QVBoxLayout* m_body = nullptr;
     QWidget* m_header = nullptr;
     QLabel* m_title = nullptr;
+    QLabel* m_note = nullptr;
+    /// With the note, which stands below the title of a narrow page.
+    QBoxLayout* m_titleLine = nullptr;
     QPushButton* m_ok = nullptr;
     QToolButton* m_help = nullptr;
     UndoBar* m_undoBar = nullptr;
