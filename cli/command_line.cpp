@@ -152,7 +152,7 @@ void RunBare(
 }
 
 void Dispatch(const QStringList& arguments, const SubCommand* command,
-    const CommandEnvironment& environment, TextOutput& output)
+    const CommandEnvironment& environment, TextOutput& output, bool& found)
 {
     if (command == nullptr)
         return RunBare(arguments, environment, output);
@@ -168,7 +168,7 @@ void Dispatch(const QStringList& arguments, const SubCommand* command,
         return RunBare({ u"--version"_s }, environment, output);
     const QStringList operands = parser.positionalArguments();
     CheckArguments(*command, parser, operands);
-    command->run({ environment, parser, operands, output });
+    command->run({ environment, parser, operands, output, found });
 }
 
 ExitCode Finish(TextOutput& output, const CommandEnvironment& environment)
@@ -188,9 +188,11 @@ ExitCode RunOnce(const QStringList& arguments, const CommandEnvironment& environ
     const qsizetype place = SubCommandPlace(arguments);
     const SubCommand* command = place < 0 ? nullptr : FindSubCommand(arguments[place]);
     TextOutput output(environment.output);
+    bool found = false;
     try {
-        Dispatch(arguments, command, environment, output);
-        return Finish(output, environment);
+        Dispatch(arguments, command, environment, output, found);
+        const ExitCode end = Finish(output, environment);
+        return found && end == ExitCode::Done ? ExitCode::Due : end;
     } catch (const CommandFailure& failure) {
         Finish(output, environment);
         Complain(environment.errors, failure.Message());

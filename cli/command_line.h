@@ -17,6 +17,8 @@ enum class ExitCode
     Done = 0,
     Failed = 1,
     WrongUsage = 2,
+    /// Something is due.
+    Due = 3,
 };
 
 /// What a command reads, writes and depends on; replaced in tests.

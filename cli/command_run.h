@@ -84,6 +84,8 @@ struct CommandRun
     /// After the sub-command's name.
     QStringList operands;
     TextOutput& output;
+    /// Set by a command whose exit code tells whether there was something.
+    bool& found;
 
     [[nodiscard]] QString DataFile() const;
     /// The data file opened for reading, also beside another process that has it.

@@ -165,73 +165,6 @@ private:
                                                   : printed;
 }
 
-/// Prints what is due in one list after another.
-class DuePrinter
-{
-public:
-    DuePrinter(const CommandRun& run, qint32 days)
-        : m_run(run)
-        , m_json(run.output, run.IsJson())
-    {
-        const QDate today = run.environment.context.clock().date;
-        m_today = DateToFileTime(today).value_or(FileTime {});
-        m_limit = DateToFileTime(today.addDays(days)).value_or(FileTime {});
-    }
-
-    void PrintList(CommandData& data)
-    {
-        constexpr std::array kIds { PropName, PropCount, PropExpiryDate };
-        const InventoryList& list = data.list;
-        if ((list.TableOption & (kWarnOnCount | kWarnOnExpiry)) == 0)
-            return;
-        std::array<PropertyValue, kIds.size()> values;
-        for (size_t i = 0; i < kIds.size(); ++i)
-            values[i].id = kIds[i];
-        FailIfRowsAreMissing(ScanPastDamage(
-            data.Rows(), kIds, nullptr, m_run.environment.context, [&](const ScannedRecord& row) {
-                for (size_t i = 0; i < kIds.size(); ++i)
-                    row.Read(i, values[i]);
-                PrintRow(list, values);
-                return !m_run.output.HasFailed();
-            }));
-    }
-    void End() { m_json.End(); }
-
-private:
-    const CommandRun& m_run;
-    FileTime m_today;
-    FileTime m_limit;
-    JsonArrayWriter m_json;
-
-    void PrintRow(const InventoryList& list, std::span<const PropertyValue> values)
-    {
-        const auto* name = std::get_if<QString>(&values[0].value);
-        const auto* count = std::get_if<qint32>(&values[1].value);
-        const auto* expiry = std::get_if<FileTime>(&values[2].value);
-        const QString row = name == nullptr ? QString() : *name;
-        // A row without a count counts as 0, as its colour in the rows view says.
-        const qint32 number = count == nullptr ? 0 : *count;
-        if ((list.TableOption & kWarnOnCount) != 0 && number <= list.TableWarnStart)
-            Print(list, row, u"low"_s, u"low"_s, { u"count"_s, number });
-        if ((list.TableOption & kWarnOnExpiry) == 0 || expiry == nullptr
-            || expiry->ticks > m_limit.ticks)
-            return;
-        const bool isExpired = expiry->ticks <= m_today.ticks;
-        const QString state = isExpired ? u"expired"_s : u"expiring"_s;
-        const QString text = isExpired ? state : CellText(values[2], m_run.environment.context);
-        Print(list, row, state, text, { u"date"_s, IsoDate(*expiry) });
-    }
-    void Print(const InventoryList& list, const QString& row, const QString& state,
-        const QString& text, const std::pair<QString, QJsonValue>& detail)
-    {
-        if (m_json.IsWanted())
-            m_json.Add({ { u"list"_s, list.Name }, { u"row"_s, row }, { u"state"_s, state },
-                { detail.first, detail.second } });
-        else
-            m_run.output.WriteFields({ list.Name, row, text });
-    }
-};
-
 } // namespace
 
 void RunShow(const CommandRun& run)
@@ -267,18 +200,6 @@ void RunSummary(const CommandRun& run)
             run.output.WriteFields({ total.name, total.text });
     }
     json.End();
-}
-
-void RunDue(const CommandRun& run)
-{
-    constexpr qint32 kMostDays = 36'525;
-    const bool isWithin = run.parser.isSet(u"within"_s);
-    const qint32 days = isWithin ? ReadInteger(run.parser, u"within"_s, 0, kMostDays) : 0;
-    const auto data = run.OpenForReading();
-    DuePrinter printer(run, days);
-    run.VisitLists(
-        *data, [&](const ListCatalogue::HomeListEntry&) { printer.PrintList(*data); },
-        [&printer] { printer.End(); });
 }
 
 } // namespace Quillory

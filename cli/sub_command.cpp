@@ -22,6 +22,7 @@ constexpr std::array kShowOptions { "sort", "where" };
 constexpr std::array kImportFlags { "dry-run" };
 constexpr std::array kImportOptions { "columns", "encoding" };
 constexpr std::array kSummaryOptions { "where" };
+constexpr std::array kDueFlags { "ics", "json", "notify" };
 constexpr std::array kDueOptions { "within" };
 constexpr std::array kRestoreFlags { "json", "salvage" };
 constexpr std::array kRestoreOptions { "from" };
@@ -84,7 +85,20 @@ constexpr const char* kDueHelp
       "on which the row expires.\n"
       "\n"
       "  --within DAYS        also rows that expire in so many days\n"
-      "  --json               list, row, state and count or date of each\n";
+      "  --json               list, row, state and count or date of each\n"
+      "  --ics                prints a calendar of all expiry dates instead, as iCalendar; with\n"
+      "                       --within only those until then\n"
+      "  --notify             prints nothing, but shows what is due since it was shown last, once "
+      "a\n"
+      "                       day at most, as a notification of the desktop. A tap on that opens "
+      "the\n"
+      "                       list; until then or until it is closed the command waits.\n"
+      "\n"
+      "Exits with 3 if something is due, with 0 if nothing is.\n";
+
+constexpr const char* kRemindersHelp
+    = "Turns a notification each morning of what is due on or off, or prints whether it is on.\n"
+      "Needs systemd, whose timer quillory-reminders then runs \"quillory due --notify\".\n";
 
 constexpr const char* kCheckHelp
     = "Reads the whole data file. Prints \"ok\", or what is wrong and exits with 1.\n";
@@ -120,8 +134,9 @@ constexpr std::array kSubCommands {
         kImportHelp, 2, 2, kImportFlags, kImportOptions, &RunImport },
     SubCommand { "summary", "LIST [--where CONDITION]... [--json]", kSummaryHelp, 1, 1, kJsonFlag,
         kSummaryOptions, &RunSummary },
-    SubCommand {
-        "due", "[--within DAYS] [--json]", kDueHelp, 0, 0, kJsonFlag, kDueOptions, &RunDue },
+    SubCommand { "due", "[--within DAYS] [--json | --ics | --notify]", kDueHelp, 0, 0, kDueFlags,
+        kDueOptions, &RunDue },
+    SubCommand { "reminders", "[on | off]", kRemindersHelp, 0, 1, {}, {}, &RunReminders },
     SubCommand { "check", "", kCheckHelp, 0, 0, {}, {}, &RunCheck },
     SubCommand { "backup", "FILE", kBackupHelp, 1, 1, {}, {}, &RunBackup },
     SubCommand { "restore", "[--json | FILE --from N | FILE --salvage]", kRestoreHelp, 0, 1,
@@ -218,7 +233,7 @@ QByteArray HelpText(const CommandEnvironment& environment)
             "  --help               help, on a command if one is named\n"
             "  --version            the version\n";
     text += FormsText(environment);
-    return text + "\nExit status: 0 done, 1 failed, 2 wrong usage.\n";
+    return text + "\nExit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.\n";
 }
 
 QByteArray HelpText(const SubCommand& command, const CommandEnvironment& environment)

@@ -31,6 +31,7 @@ void RunExport(const CommandRun& run);
 void RunImport(const CommandRun& run);
 void RunSummary(const CommandRun& run);
 void RunDue(const CommandRun& run);
+void RunReminders(const CommandRun& run);
 void RunCheck(const CommandRun& run);
 void RunBackup(const CommandRun& run);
 void RunRestore(const CommandRun& run);

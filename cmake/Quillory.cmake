@@ -84,7 +84,7 @@ quillory_precompile(core Qt6::Core)
 quillory_precompile(window Qt6::Widgets)
 
 # quillory_configure(TARGET core|window) is what libraries and programs have in common. Objects with
-# signals are the window's.
+# signals are the window's, but for one of the command line's.
 function(quillory_configure target layer)
     target_link_libraries(${target} PRIVATE quillory_options)
     target_precompile_headers(${target} REUSE_FROM quillory_${layer}_headers)
