@@ -11,6 +11,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QShortcut>
 #include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -118,6 +119,9 @@ void HomeList::ConnectView()
         &HomeList::SelectionChanged);
     connect(m_model, &QAbstractItemModel::modelReset, this, &HomeList::SelectionChanged);
     connect(m_model, &HomeListModel::Renamed, this, &HomeList::Sort, Qt::QueuedConnection);
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S, m_view, nullptr, nullptr,
+                Qt::WidgetShortcut),
+        &QShortcut::activated, this, &HomeList::FlipDirection);
     auto* touch = new TouchBehaviour(m_view);
     connect(touch, &TouchBehaviour::Held, this, &HomeList::OpenListMenu);
 }

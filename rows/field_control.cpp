@@ -16,14 +16,12 @@ namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 Qt::InputMethodHints HintsFor(PropertyId column)
 {
     switch (ColumnTypeOf(column)) {
     case ColumnType::Integer:
-        return Qt::ImhPreferNumbers;
     case ColumnType::Price:
+        // Other hints for numbers do not pass through Wayland.
         return Qt::ImhFormattedNumbersOnly;
     case ColumnType::Date:
         return Qt::ImhDate;
@@ -33,8 +31,6 @@ Qt::InputMethodHints HintsFor(PropertyId column)
     }
     return Qt::ImhNone;
 }
-
-} // namespace
 
 FieldControl::FieldControl(const ValueContext& context, QWidget* place)
     : QObject(place)

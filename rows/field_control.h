@@ -14,6 +14,9 @@ namespace Quillory {
 class DateField;
 class TextLine;
 
+/// What an on-screen keyboard is to offer for values of a column.
+[[nodiscard]] Qt::InputMethodHints HintsFor(PropertyId column);
+
 /// The control that edits one field of a row in its place: a line of text, the two states of a
 /// checkbox, or a date. One of the three is shown at a time.
 class FieldControl : public QObject

@@ -4,6 +4,7 @@
 #include "res/dialog_table.h"
 #include "res/string_table.h"
 #include "rows/date_field.h"
+#include "rows/field_control.h"
 #include "values/column_type.h"
 #include "widgets/form.h"
 #include "widgets/text_line.h"
@@ -119,6 +120,7 @@ void FilterPage::ShowValueControl()
         shown = m_date;
     for (QWidget* control : std::array<QWidget*, 3> { m_text, m_checkbox, m_date })
         control->setEnabled(control == shown);
+    m_text->setInputMethodHints(HintsFor(ChosenColumn()));
     m_value->setCurrentWidget(shown);
     m_value->setFocusProxy(shown);
 }

@@ -66,14 +66,18 @@ void RowDelegate::paint(
     if (m_model.IsCheckbox(index.column())) {
         m_painter.DrawCheckbox(
             *painter, cell, m_model.IsChecked(index.row(), index.column()), isSelected);
-        if (option.state.testFlag(QStyle::State_HasFocus))
-            RowPainter::DrawFocus(*painter, cell, look);
     } else if (m_model.IsNumber(index.column())) {
         m_painter.DrawNumber(*painter, cell, m_model.Text(index.row(), index.column()), look);
     } else {
         const QString name = m_model.Text(index.row(), index.column());
         m_painter.DrawName(*painter, cell, name, MarkOf(index, cell.width()), look);
     }
+    if (!option.state.testFlag(QStyle::State_HasFocus))
+        return;
+    if (m_model.IsCheckbox(index.column()))
+        RowPainter::DrawFocus(*painter, RowPainter::CheckboxSquare(cell), look);
+    else if (m_showsCurrentCell)
+        RowPainter::DrawFocus(*painter, cell.adjusted(4, 4, -5, -5), look);
 }
 
 } // namespace Quillory

@@ -26,6 +26,8 @@ public:
     /// To be called before the cells of a frame are painted: works out what they have in common,
     /// the day among it.
     void BeginFrame(const QFont& font, const QPalette& palette);
+    /// Whether the cell that has the keyboard is framed, whatever it holds; a checkbox always is.
+    void ShowCurrentCell(bool isShown) { m_showsCurrentCell = isShown; }
     /// Paints a piece of a line without what it holds, and gives how the line looks.
     RowLook PaintGround(QPainter& painter, const QRect& place, int line, bool isSelected) const;
     /// What a cell's text needs, in a frame.
@@ -39,6 +41,7 @@ private:
     const InventoryList& m_list;
     const ValueContext& m_context;
     bool m_hasAlternateLines;
+    bool m_showsCurrentCell = false;
     RowColours m_colours;
     FileTime m_today {};
     RowPainter m_painter;

@@ -174,11 +174,11 @@ void RowPainter::DrawCheckbox(
             isSelected ? QIcon::Selected : QIcon::Normal);
 }
 
-void RowPainter::DrawFocus(QPainter& painter, const QRect& cell, const RowLook& look)
+void RowPainter::DrawFocus(QPainter& painter, const QRect& around, const RowLook& look)
 {
     constexpr int kDistance = 3;
     painter.setPen(look.text);
-    painter.drawRect(CheckboxSquare(cell).adjusted(-kDistance, -kDistance, kDistance, kDistance));
+    painter.drawRect(around.adjusted(-kDistance, -kDistance, kDistance, kDistance));
 }
 
 } // namespace Quillory

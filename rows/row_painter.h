@@ -34,8 +34,8 @@ public:
     void DrawNumber(
         QPainter& painter, const QRect& cell, const QString& text, const RowLook& look) const;
     void DrawCheckbox(QPainter& painter, const QRect& cell, bool isChecked, bool isSelected) const;
-    /// Marks the checkbox that the keyboard would tick.
-    static void DrawFocus(QPainter& painter, const QRect& cell, const RowLook& look);
+    /// Frames what the keyboard acts upon.
+    static void DrawFocus(QPainter& painter, const QRect& around, const RowLook& look);
 
     /// The width of a cell in which no text of DrawLabel or DrawNumber is cut.
     [[nodiscard]] int WidthFor(const QString& text) const;

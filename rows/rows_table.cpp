@@ -6,7 +6,9 @@
 #include "rows/rows_header.h"
 #include "rows/rows_model.h"
 #include "widgets/line_view.h"
+#include "widgets/measures.h"
 
+#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -134,6 +136,52 @@ void RowsTable::PaintPinnedName(QPainter& painter, const QRect& line, int row) c
     m_delegate->paint(&painter, option, model()->index(row, m_header->NameColumn()));
 }
 
+bool RowsTable::ChangeColumnBy(int key)
+{
+    const int column = currentIndex().column();
+    if (column < 0)
+        return false;
+    const int place = m_header->visualIndex(column);
+    const int width = m_header->sectionSize(column);
+    const int toEnd = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;
+    switch (key) {
+    case Qt::Key_S:
+        Q_EMIT m_header->sectionClicked(column);
+        return true;
+    case Qt::Key_Up:
+        m_header->resizeSection(column, width + kGrid);
+        return true;
+    case Qt::Key_Down:
+        m_header->resizeSection(column, std::max(width - kGrid, m_header->minimumSectionSize()));
+        return true;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        m_header->moveSection(
+            place, std::clamp(place + (key == toEnd ? 1 : -1), 0, m_header->count() - 1));
+        scrollTo(currentIndex());
+        return true;
+    default:
+        return false;
+    }
+}
+
+void RowsTable::keyPressEvent(QKeyEvent* event)
+{
+    const bool isForColumn = event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+    if (isForColumn && ChangeColumnBy(event->key())) {
+        m_delegate->ShowCurrentCell(true);
+        viewport()->update();
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void RowsTable::mousePressEvent(QMouseEvent* event)
+{
+    m_delegate->ShowCurrentCell(false);
+    QTableView::mousePressEvent(event);
+}
+
 int RowsTable::sizeHintForColumn(int column) const
 {
     m_delegate->BeginFrame(font(), palette());
@@ -142,6 +190,8 @@ int RowsTable::sizeHintForColumn(int column) const
 
 QModelIndex RowsTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
+    if (action == MoveLeft || action == MoveRight)
+        m_delegate->ShowCurrentCell(true);
     if (action != MoveHome && action != MoveEnd)
         return QTableView::moveCursor(action, modifiers);
     const int line = action == MoveHome ? 0 : model()->rowCount() - 1;

@@ -33,6 +33,10 @@ public:
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
 protected:
+    /// With Ctrl and Shift, S sorts by the column of the current cell, the arrows to the sides move
+    /// it, and those up and down make it wider and narrower.
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     [[nodiscard]] int sizeHintForColumn(int column) const override;
     /// Home and End go to the first and to the last line.
@@ -43,6 +47,8 @@ private:
     RowsHeader* m_header;
 
     void PinNames();
+    /// False if the key is none for columns.
+    [[nodiscard]] bool ChangeColumnBy(int key);
     void PaintBesideColumns(QPainter& painter, const QRect& line, int row) const;
     void PaintPinnedName(QPainter& painter, const QRect& line, int row) const;
 };

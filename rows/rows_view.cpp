@@ -214,9 +214,10 @@ int RowsView::LineOf(ObjectId row) const
     return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
 }
 
-void RowsView::Select(int line)
+void RowsView::Select(int line, int column)
 {
-    const QModelIndex index = m_model->index(line, m_view->horizontalHeader()->logicalIndex(0));
+    const QModelIndex index = m_model->index(
+        line, column < 0 ? m_view->horizontalHeader()->logicalIndex(0) : column);
     m_view->setCurrentIndex(index);
     m_view->scrollTo(index);
 }
@@ -387,8 +388,9 @@ void RowsView::SortByColumn(int column)
     m_sortColumn = m_list.columns[static_cast<size_t>(column)].id;
     MarkSorted(*m_sortColumn);
     m_model->SetRows(m_store.SortRows(m_model->Rows(), *m_sortColumn).rows);
+    // A view that was scrolled to the column stays there.
     if (const int line = LineOf(selected); line >= 0)
-        Select(line);
+        Select(line, column);
 }
 
 void RowsView::TapCell(const QModelIndex& index)

@@ -103,7 +103,8 @@ private:
     [[nodiscard]] int SelectedLine() const;
     /// kNoObject if none is selected.
     [[nodiscard]] ObjectId SelectedRow() const;
-    void Select(int line);
+    /// The cell of `column` becomes the current one, of the first column if it is -1.
+    void Select(int line, int column = -1);
     /// -1 if the row is not shown.
     [[nodiscard]] int LineOf(ObjectId row) const;
     /// The rows to be shown, in the order of names.

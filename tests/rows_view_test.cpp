@@ -286,6 +286,19 @@ private Q_SLOTS:
         }
     }
 
+    void columnsAreReachedByKeys()
+    {
+        m_errand->Open();
+        const int width = View()->horizontalHeader()->sectionSize(Count);
+        Act(u"see rice, salt; press + + + + + +; press Right Ctrl+Shift+S; see salt, rice; on rice"_s);
+        const QImage framed = View()->viewport()->grab(m_errand->Cell(1, Count)).toImage();
+        Act(u"press Ctrl+Shift+Right Ctrl+Shift+Up Ctrl+Shift+Up Ctrl+Shift+Down; tap rice"_s);
+        QVERIFY(framed != View()->viewport()->grab(m_errand->Cell(1, Count)).toImage());
+        Act(u"press Esc"_s);
+        QCOMPARE(File().list.columnOrder, (std::vector<quint32> { 0, 2, 1, 3, 4, 5, 6, 7 }));
+        QCOMPARE(File().list.TableColSizes, u"0,%1,0,0,0,0,0,0,"_s.arg(width + 8));
+    }
+
     void widthsAndOrderAreKept()
     {
         m_errand->Open();
