@@ -119,8 +119,8 @@ void HomeList::ConnectView()
         &HomeList::SelectionChanged);
     connect(m_model, &QAbstractItemModel::modelReset, this, &HomeList::SelectionChanged);
     connect(m_model, &HomeListModel::Renamed, this, &HomeList::Sort, Qt::QueuedConnection);
-    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S, m_view, nullptr, nullptr,
-                Qt::WidgetShortcut),
+    connect(new QShortcut(
+                Qt::CTRL | Qt::SHIFT | Qt::Key_S, m_view, nullptr, nullptr, Qt::WidgetShortcut),
         &QShortcut::activated, this, &HomeList::FlipDirection);
     auto* touch = new TouchBehaviour(m_view);
     connect(touch, &TouchBehaviour::Held, this, &HomeList::OpenListMenu);

@@ -53,13 +53,13 @@ void PrintDue(const CommandRun& run, const DueRow& row, JsonArrayWriter& json)
 }
 
 /// Adds every row of the open list that has an expiry date, up to the last day if there is one.
-void AddExpiries(const CommandRun& run, CommandData& data, ObjectId list,
-    std::optional<QDate> last, ExpiryCalendar& calendar)
+void AddExpiries(const CommandRun& run, CommandData& data, ObjectId list, std::optional<QDate> last,
+    ExpiryCalendar& calendar)
 {
     constexpr std::array kColumns { PropName, PropExpiryDate };
     PropertyValue name { PropName, 0, {} };
-    FailIfRowsAreMissing(ScanPastDamage(data.Rows(), kColumns, nullptr, run.environment.context,
-        [&](const ScannedRecord& record) {
+    FailIfRowsAreMissing(ScanPastDamage(
+        data.Rows(), kColumns, nullptr, run.environment.context, [&](const ScannedRecord& record) {
             record.Read(0, name);
             const auto* text = std::get_if<QString>(&name.value);
             const auto day = FileTimeToDate({ static_cast<quint64>(record.Integer(1)) });
@@ -120,8 +120,7 @@ void Notify(const CommandRun& run, const QList<ReminderRow>& due)
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         Fail(u"no notification can be shown: %1"_s.arg(bus.lastError().message()));
-    const ReminderAnswer answer = Remind(
-        bus, news, kMostReminderMs, [&] { store(today); });
+    const ReminderAnswer answer = Remind(bus, news, kMostReminderMs, [&] { store(today); });
     if (!answer.failure.isEmpty())
         Fail(u"no notification can be shown: %1"_s.arg(answer.failure));
     if (!answer.list.isEmpty())
@@ -136,8 +135,7 @@ void RunDue(const CommandRun& run)
     const auto isSet = [&run](const QString& option) { return run.parser.isSet(option); };
     if (isSet(u"json"_s) + isSet(u"ics"_s) + isSet(u"notify"_s) > 1)
         FailUsage(u"only one of --ics, --json and --notify can be given"_s);
-    const qint32 days
-        = isSet(u"within"_s) ? ReadInteger(run.parser, u"within"_s, 0, kMostDays) : 0;
+    const qint32 days = isSet(u"within"_s) ? ReadInteger(run.parser, u"within"_s, 0, kMostDays) : 0;
     const QDate last = run.environment.context.clock().date.addDays(days);
     if (isSet(u"ics"_s))
         return WriteCalendar(run, isSet(u"within"_s) ? std::optional(last) : std::nullopt);

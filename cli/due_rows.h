@@ -32,8 +32,8 @@ struct DueRow
 
 using DueVisitor = std::function<void(const DueRow&)>;
 
-/// Visits what is due on the day `last` in the open list, by the list's own warnings. Fails if rows could
-/// not be read, after those that could.
+/// Visits what is due on the day `last` in the open list, by the list's own warnings. Fails if rows
+/// could not be read, after those that could.
 void VisitDueRows(const CommandRun& run, CommandData& data, QDate last, const DueVisitor& visit);
 
 /// "low", "expired" or "expiring".

@@ -92,10 +92,10 @@ public:
         const std::function<void()>& shown)
     {
         // Before it can be answered. The sender goes unnamed, for a service may start anew.
-        bus.connect(QString(), kPath, kService, u"ActionInvoked"_s, this,
-            SLOT(TakeAction(uint, QString)));
-        bus.connect(QString(), kPath, kService, u"ActivationToken"_s, this,
-            SLOT(TakeToken(uint, QString)));
+        bus.connect(
+            QString(), kPath, kService, u"ActionInvoked"_s, this, SLOT(TakeAction(uint, QString)));
+        bus.connect(
+            QString(), kPath, kService, u"ActivationToken"_s, this, SLOT(TakeToken(uint, QString)));
         bus.connect(
             QString(), kPath, kService, u"NotificationClosed"_s, this, SLOT(TakeEnd(uint, uint)));
         auto call = QDBusMessage::createMethodCall(kService, kPath, kService, u"Notify"_s);

@@ -15,7 +15,8 @@ namespace {
 /// `printed`; what it has to say of errors it tells itself.
 bool ControlTimer(const QString& what, QByteArray* printed = nullptr)
 {
-    FILE* pipe = popen(qPrintable(u"systemctl --user %1 quillory-reminders.timer"_s.arg(what)), "r");
+    FILE* pipe
+        = popen(qPrintable(u"systemctl --user %1 quillory-reminders.timer"_s.arg(what)), "r");
     if (pipe == nullptr)
         Fail(u"reminders need systemctl, which cannot be started"_s);
     QByteArray output(64, '\0');

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionHeader>
 
 #include <algorithm>
 #include <utility>
@@ -59,6 +60,37 @@ void RowsHeader::paintEvent(QPaintEvent* event)
     QPainter painter(viewport());
     paintSection(&painter, pinned, m_nameColumn);
     PaintPinnedEdge(painter, height());
+}
+
+void RowsHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int column) const
+{
+    QHeaderView::initStyleOptionForIndex(option, column);
+    option->sortIndicator = QStyleOptionHeader::None;
+}
+
+void RowsHeader::paintSection(QPainter* painter, const QRect& rect, int column) const
+{
+    // The style leaves a painter that clips everything.
+    painter->save();
+    QHeaderView::paintSection(painter, rect, column);
+    painter->restore();
+    if (!isSortIndicatorShown() || column != sortIndicatorSection())
+        return;
+    constexpr int kSize = 8;
+    constexpr int kMargin = 6;
+    const QVariant alignment = model()->headerData(column, orientation(), Qt::TextAlignmentRole);
+    const QString title = model()->headerData(column, orientation()).toString();
+    const int taken = kMargin + fontMetrics().horizontalAdvance(title) + kMargin / 2;
+    const bool isAtEnd = (alignment.toInt() & Qt::AlignRight) != 0;
+    const int fromLeft = isAtEnd ? std::max(0, rect.width() - taken - kSize)
+                                 : std::min(taken, rect.width() - kSize);
+    const QRect mark = QStyle::visualRect(layoutDirection(), rect,
+        { rect.left() + fromLeft, rect.center().y() - kSize / 4, kSize, kSize / 2 });
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(palette().color(QPalette::Text));
+    painter->drawPolygon(
+        QPolygonF({ QPointF(mark.left(), mark.top()), QPointF(mark.left() + kSize, mark.top()),
+            QPointF(mark.left() + kSize / 2.0, mark.bottom() + 1) }));
 }
 
 int RowsHeader::TapAt(const QPoint& place) const

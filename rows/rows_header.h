@@ -27,6 +27,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    /// The mark of the order stands beside its title, where the column has room: not upon it.
+    void paintSection(QPainter* painter, const QRect& rect, int column) const override;
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int column) const override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

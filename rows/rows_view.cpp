@@ -216,8 +216,8 @@ int RowsView::LineOf(ObjectId row) const
 
 void RowsView::Select(int line, int column)
 {
-    const QModelIndex index = m_model->index(
-        line, column < 0 ? m_view->horizontalHeader()->logicalIndex(0) : column);
+    const QModelIndex index
+        = m_model->index(line, column < 0 ? m_view->horizontalHeader()->logicalIndex(0) : column);
     m_view->setCurrentIndex(index);
     m_view->scrollTo(index);
 }
