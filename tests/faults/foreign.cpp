@@ -78,8 +78,10 @@ constexpr std::array kBeginnings {
     "Name\tQuantity\r\n",
 };
 
-/// The program must refuse the file, say why, and leave it and its folder as they were.
-void Refuse(FaultRun& run, const QString& what, const Files& files)
+/// The program must refuse the file, say why, and leave it and its folder as they were. `reason` is
+/// the one it has to give; None for any.
+void Refuse(FaultRun& run, const QString& what, const Files& files,
+    ErrorNumber reason = ErrorNumber::None)
 {
     run.Place(files);
     ErrorNumber error = ErrorNumber::None;
@@ -90,7 +92,7 @@ void Refuse(FaultRun& run, const QString& what, const Files& files)
     run.Count();
     if (error == ErrorNumber::None)
         run.Blame(what + u": it is opened"_s, files);
-    else if (HasNoReason(error))
+    else if (HasNoReason(error) || (reason != ErrorNumber::None && error != reason))
         run.Blame(what + u": it is refused for no known reason"_s, files);
     else if (run.Taken() != files)
         run.Blame(what + u": it is refused and changed"_s, files);
@@ -138,6 +140,15 @@ void RefuseForeignFiles(FaultRun& run)
     for (const char* sql : kVolumeChanges)
         Refuse(run, QString::fromLatin1(sql),
             { { "data.idb", WithSql(run, sample.bytes, sql, true) } });
+    // Whole but for the checksums: another program wrote what this one could have written.
+    for (const char* sql : { "UPDATE object_counter SET next_oid = next_oid + 1", "VACUUM" })
+        Refuse(run, QString::fromLatin1(sql),
+            { { "data.idb", WithSql(run, sample.bytes, sql, false) } },
+            ErrorNumber::ChangedOutside);
+    // Not where a table came that is none of this program's.
+    Refuse(run, u"a guest without checksums"_s,
+        { { "data.idb", WithSql(run, sample.bytes, kVolumeChanges.front(), false) } },
+        ErrorNumber::FileCorrupt);
     for (const char* beginning : kBeginnings)
         Refuse(run, u"a file of another kind"_s,
             { { "data.idb", QByteArray(beginning) + QByteArray(beginning).repeated(500) } });
