@@ -163,6 +163,28 @@ private Q_SLOTS:
             "tap OK; at Pantry"_s);
     }
 
+    void columnsLieAsTheyWereLeft()
+    {
+        FrameErrand errand(u"Pantry"_s, "Tea\t1\r\n");
+        const auto header = [&errand] {
+            return errand.pages->Top()->findChild<QTableView*>()->horizontalHeader();
+        };
+        const auto drag = [&header](const QPoint& from, const QPoint& to) {
+            QTest::mousePress(header()->viewport(), Qt::LeftButton, {}, from);
+            QTest::mouseMove(header()->viewport(), (from + to) / 2);
+            QTest::mouseMove(header()->viewport(), to);
+            QTest::mouseRelease(header()->viewport(), Qt::LeftButton, {}, to);
+        };
+        const int end = header()->sectionSize(0) - 1;
+        drag({ end, 10 }, { 150, 10 });
+        drag({ 170, 10 }, { 10, 10 });
+        const QList<int> left { header()->sectionSize(0), header()->visualIndex(0) };
+        QCOMPARE(left, (QList { 151, 1 }));
+        errand.Restart();
+        Act(u"tap Pantry; at Pantry"_s);
+        QCOMPARE((QList { header()->sectionSize(0), header()->visualIndex(0) }), left);
+    }
+
     void helpOpensAtThePageItWasAskedFrom()
     {
         const FrameErrand errand(QStringList {});

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "desktop/desktop_look.h"
 #include "tests/every_page.h"
 #include "tests/person.h"
 #include "tests/table.h"
@@ -171,6 +172,62 @@ private Q_SLOTS:
         ApplyWindowStyle(&fresh.stack);
         Show(fresh, kPages.at(static_cast<size_t>(page)));
         QTRY_COMPARE_WITH_TIMEOUT(LookOf(*open.page), LookOf(*fresh.page), 500);
+    }
+
+    void anOpenPageFollowsTheColours_data() { anOpenPageFollowsTheFont_data(); }
+    void anOpenPageFollowsTheColours()
+    {
+        const auto [page] = Table<int>::Row();
+        const auto restore
+            = qScopeGuard([before = QApplication::palette()] { QApplication::setPalette(before); });
+        QApplication::setStyle(new AppStyle);
+        Subject open;
+        ApplyWindowStyle(&open.stack);
+        Show(open, kPages.at(static_cast<size_t>(page)));
+        const auto seen = [](Subject& subject) {
+            subject.stack.activateWindow();
+            return QTest::qWaitForWindowActive(&subject.stack) ? subject.stack.grab().toImage()
+                                                               : QImage();
+        };
+        const QImage light = seen(open);
+        QApplication::setPalette(PaletteOf(ColourScheme::Dark));
+        Subject fresh;
+        ApplyWindowStyle(&fresh.stack);
+        Show(fresh, kPages.at(static_cast<size_t>(page)));
+        QVERIFY(seen(open) != light);
+        QTRY_VERIFY(seen(open) == seen(fresh));
+    }
+
+    /// Tab goes through all controls, whose names are told, and each shows that it has the
+    /// keyboard.
+    void tabGoesWhereItIsSeen_data() { anOpenPageFollowsTheFont_data(); }
+    void tabGoesWhereItIsSeen()
+    {
+        const auto [page] = Table<int>::Row();
+        const PageCase& asked = kPages.at(static_cast<size_t>(page));
+        const auto restore = qScopeGuard([before = QApplication::cursorFlashTime()] {
+            QApplication::setCursorFlashTime(before);
+        });
+        QApplication::setCursorFlashTime(0);
+        QApplication::setStyle(new AppStyle);
+        Subject subject;
+        ApplyWindowStyle(&subject.stack);
+        Show(subject, asked);
+        QTest::keyClick(subject.stack.focusWidget(), Qt::Key_Tab);
+        QStringList stops;
+        for (const QWidget* first = subject.stack.focusWidget(); stops.size() < 20;) {
+            QWidget* stop = subject.stack.focusWidget();
+            const QImage before = stop->grab().toImage();
+            QTest::keyClick(stop, Qt::Key_Tab);
+            // In lists the selected line tells it.
+            if (subject.stack.focusWidget() != stop && stop->grab().toImage() == before
+                && !stop->inherits("QAbstractItemView"))
+                stops << u"unseen:"_s;
+            stops << QAccessible::queryAccessibleInterface(stop)->text(QAccessible::Name);
+            if (subject.stack.focusWidget() == first)
+                break;
+        }
+        QCOMPARE(stops.join(u", "_s), asked.stops);
     }
 
     void everyPageKnowsItsHelp_data() { anOpenPageFollowsTheFont_data(); }

@@ -6,6 +6,7 @@
 #include "tests/test_program.h"
 #include "values/file_date.h"
 #include "widgets/colour_palette.h"
+#include "widgets/window_style.h"
 
 #include <QLabel>
 #include <QScrollBar>
@@ -332,6 +333,43 @@ private Q_SLOTS:
         QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, beside);
         QVERIFY(ground() != before);
         Act(u"on salt"_s);
+    }
+
+    void everyTypeHasItsSide()
+    {
+        File().Add(
+            { u"a"_s, u"1"_s, u"b"_s, u"Checked"_s, u"1"_s, u"2"_s, u"1/2/2026"_s, u"1/2/2026"_s });
+        File().list.TableColSizes = u"150,150,150,150,150,150,150,150,"_s;
+        m_errand->Open();
+        ApplyWindowStyle(View()->window());
+        View()->window()->resize(1600, 480);
+        QTRY_VERIFY(View()->viewport()->width() > 1200);
+        // Left, right or in the middle: where there is more than the ground.
+        const auto sideOf = [](QImage image) {
+            image = image.copy(3, 3, image.width() - 6, image.height() - 6);
+            const auto isEmpty = [&image](int x) {
+                return image.copy(x, 0, 1, image.height()) == image.copy(0, 0, 1, image.height());
+            };
+            int left = 0;
+            int right = image.width() - 1;
+            while (left < right && isEmpty(left))
+                ++left;
+            while (left < right && isEmpty(right))
+                --right;
+            const int beyond = image.width() - 1 - right;
+            return std::abs(left - beyond) < 10 ? u'c' : left < beyond ? u'l' : u'r';
+        };
+        QString cells;
+        QString titles;
+        auto* header = View()->horizontalHeader();
+        for (int column = 0; column < header->count(); ++column) {
+            cells += sideOf(View()->viewport()->grab(m_errand->Cell(0, column)).toImage());
+            titles += sideOf(
+                header->viewport()->grab({ 150 * column, 0, 150, header->height() }).toImage());
+        }
+        QCOMPARE(cells, u"lrlcrrll"_s);
+        // Beside the mark of the order.
+        QCOMPARE(titles.mid(1), u"rlcrrll"_s);
     }
 
     void aVanishedRowShowsErr()
