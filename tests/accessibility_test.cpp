@@ -60,9 +60,28 @@ private Q_SLOTS:
             { Met(&choice), u"ComboBox|Type|opens|Price"_s },
             { Met(rows.page->findChild<QToolButton*>(u"rightKey"_s)), u"Button|Menu|opens"_s },
             { Met(find(*rows.page, "Quillory::UndoBar")), u"Notification|"_s },
+            { Met(date.findChild<QWidget*>(u"qt_calendar_prevmonth"_s)),
+                u"Button|Previous month"_s },
+            { Met(date.findChild<QWidget*>(u"qt_calendar_nextmonth"_s)), u"Button|Next month"_s },
+            { Met(date.findChild<QWidget*>(u"qt_calendar_yearedit"_s)),
+                u"SpinBox|Year|2026|1601|2026|9999"_s },
         };
         for (const auto& [is, expected] : met)
             QCOMPARE(is, expected);
+        const auto* table = QAccessible::queryAccessibleInterface(days);
+        QDate last;
+        for (int i = 0; i < table->childCount(); ++i) {
+            const QAccessibleInterface* place = table->child(i);
+            const QDate named = place == nullptr
+                ? QDate()
+                : QLocale().toDate(place->text(QAccessible::Name), QLocale::LongFormat);
+            if (!named.isValid())
+                continue;
+            QVERIFY(last.isNull() || named == last.addDays(1));
+            QCOMPARE(place->state().selected, named == QDate(2026, 6, 15));
+            last = named;
+        }
+        QVERIFY(last > QDate(2026, 6, 30));
         QAccessibleInterface* day = QAccessible::queryAccessibleInterface(days)->focusChild();
         QCOMPARE(day->text(QAccessible::Name),
             QLocale().toString(QDate(2026, 6, 15), QLocale::LongFormat));
@@ -75,6 +94,9 @@ private Q_SLOTS:
         rows.file.Add({ u"rice"_s, u"0"_s, u"top"_s, u"Checked"_s });
         rows.Open();
         const auto* model = qobject_cast<RowsModel*>(rows.View()->model());
+        auto* cells = QAccessible::queryAccessibleInterface(rows.View())->tableInterface();
+        QCOMPARE(cells->cellAt(0, Bio)->text(QAccessible::Name), u"Checked"_s);
+        QCOMPARE(cells->cellAt(0, Name)->text(QAccessible::Description), u"low"_s);
         QCOMPARE(model->Spoken(0, PropCount), u"Quantity 0, low"_s);
         QCOMPARE(model->Spoken(0, rows.file.list.columns[Bio].id), u"Bio Checked, low"_s);
     }

@@ -2,6 +2,7 @@
 #include "tests/limit.h"
 #include "tests/main_frame_errand.h"
 #include "tests/page_damage.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
 
 #include <QAbstractButton>
@@ -186,8 +187,16 @@ private Q_SLOTS:
         QTRY_VERIFY(!errand.frame->isVisible());
     }
 
-    void aDamagedFileIsReplacedByItsCopy()
+    void aDamagedFileIsReplacedByItsCopyOrItsRest_data()
     {
+        const Table<QString> add;
+        add("copy", u"see The data file is damaged. There is a good copy of…; tap Yes"_s);
+        add("rest",
+            u"tap No; see Of the damaged file 0 row(s) in 1 list(s) can still be read.…; tap Yes"_s);
+    }
+    void aDamagedFileIsReplacedByItsCopyOrItsRest()
+    {
+        const auto [steps] = Table<QString>::Row();
         FrameErrand errand({ u"Attic"_s, u"Barn"_s, u"Zoo"_s });
         Act(kDeleteList);
         errand.Restart();
@@ -198,7 +207,11 @@ private Q_SLOTS:
 
         errand.chosenPath = errand.DataPath() + u".new.idb"_s;
         errand.Start();
-        Act(u"see Unable to open data file. Error: 1392; tap OK; tap Yes; see Zoo"_s);
+        WriteFileBytes(errand.chosenPath, {});
+        Act(u"see Unable to open data file. Error: 1392; tap OK; "_s + steps
+            + u"; see The new file could not be written. Error: 80"_s);
+        QVERIFY(QFile::remove(errand.chosenPath));
+        Act(u"tap OK; see Zoo"_s);
         errand.Restart();
         Act(u"see Zoo"_s);
     }

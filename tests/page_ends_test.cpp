@@ -230,6 +230,30 @@ private Q_SLOTS:
         QCOMPARE(stops.join(u", "_s), asked.stops);
     }
 
+    void fingersHitEveryControl_data() { anOpenPageFollowsTheFont_data(); }
+    void fingersHitEveryControl()
+    {
+        const auto [page] = Table<int>::Row();
+        const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+        Subject subject;
+        ApplyWindowStyle(&subject.stack);
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        for (const QSize size : { QSize(360, 640), QSize(640, 360) }) {
+            subject.stack.resize(size);
+            const Measures& frame = size.height() < kLowWindow ? kMouseMeasures : kTouchMeasures;
+            QTRY_COMPARE(
+                subject.page->findChild<QWidget*>(u"header"_s)->height(), frame.headerHeight + 1);
+            QCOMPARE(
+                subject.page->findChild<QWidget*>(u"softKeys"_s)->height(), frame.softKeyHeight);
+            for (const QWidget* control : subject.page->findChildren<QWidget*>()) {
+                const bool isInBody = control->inherits("QAbstractButton")
+                    || control->inherits("QLineEdit") || control->inherits("QComboBox");
+                if (control->isVisible() && isInBody)
+                    QVERIFY2(control->height() >= 40, qPrintable(control->objectName()));
+            }
+        }
+    }
+
     void everyPageKnowsItsHelp_data() { anOpenPageFollowsTheFont_data(); }
 
     void everyPageKnowsItsHelp()

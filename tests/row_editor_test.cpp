@@ -133,7 +133,8 @@ private Q_SLOTS:
             QCOMPARE(m_file->Cells({ m_row }, field), shown);
             return;
         }
-        Act(u"see \"%1\" is not a date…; press Return; on %2; see dateEdit: %1"_s.arg(typed, name));
+        Act(u"see \"%1\" is not a date. Type it as in 6/15/2026, or pick it from the calendar.; press Return; on %2; see dateEdit: %1"_s
+                .arg(typed, name));
         QTRY_COMPARE(Focus(), edit);
         QVERIFY(m_page->HasUnsavedInput());
         Act(u"type 4/2/2027; tap OK"_s);
@@ -149,7 +150,9 @@ private Q_SLOTS:
         QCOMPARE(m_page->Texts()[Bought], QString());
         Act(u"press Alt+Down; press Right Return; see dateEdit: 6/16/2026"_s);
         QCOMPARE(m_page->Texts()[Bought], u"6/16/2026"_s);
-        Act(u"press Alt+Down; press Right Return; see dateEdit: 6/17/2026"_s);
+        Act(u"press Alt+Down; press Right Return; see dateEdit: 6/17/2026; "
+            "tap openCalendar; tap 20; see dateEdit: 6/20/2026; tap openCalendar; tap ›; "
+            "hear July 2026; tap 15; see dateEdit: 7/15/2026"_s);
         // A row that is not stored yet takes it back.
         Act(u"tap Name; tap Bought; fill dateEdit: ; tap Name"_s);
         QCOMPARE(Shown(Bought), QString());
