@@ -20,9 +20,11 @@ QString Met(QObject* object)
         words << u"opens"_s;
     if (auto* text = met->textInterface())
         words << text->text(0, text->characterCount());
-    if (auto* value = met->valueInterface())
-        words << value->minimumValue().toString() << value->currentValue().toString()
-              << value->maximumValue().toString();
+    if (auto* value = met->valueInterface()) {
+        words << value->minimumValue().toString() << value->currentValue().toString();
+        value->setCurrentValue(value->maximumValue());
+        words << value->currentValue().toString();
+    }
     return words.join(u'|');
 }
 
@@ -85,6 +87,26 @@ private Q_SLOTS:
         QAccessibleInterface* day = QAccessible::queryAccessibleInterface(days)->focusChild();
         QCOMPARE(day->text(QAccessible::Name),
             QLocale().toString(QDate(2026, 6, 15), QLocale::LongFormat));
+    }
+
+    void whatOpensIsOpenedByItsActions()
+    {
+        QApplication::setStyle(new AppStyle);
+        for (const QString& name : { u"listIcon"_s, u"columnType"_s, u"rightKey"_s }) {
+            Subject subject;
+            const size_t place = name == u"listIcon" ? 0 : name == u"columnType" ? 2 : 10;
+            Show(subject, kPages.at(place));
+            auto* met
+                = QAccessible::queryAccessibleInterface(subject.page->findChild<QWidget*>(name));
+            for (const QString& action : met->actionInterface()->actionNames()) {
+                if (action == QAccessibleActionInterface::setFocusAction())
+                    continue;
+                met->actionInterface()->doAction(action);
+                QVERIFY(QApplication::activePopupWidget() != nullptr
+                    || subject.stack.Top() != subject.page);
+                Act(u"press Esc"_s);
+            }
+        }
     }
 
     void aChangedCellIsSpokenWithItsColumn()

@@ -37,6 +37,8 @@ private Q_SLOTS:
         Act(kDeleteList);
         auto* bar = errand.pages->Top()->findChild<QWidget*>(u"undoBar"_s);
         QVERIFY(bar->isVisible());
+        const auto* keys = errand.pages->Top()->findChild<QWidget*>(u"softKeys"_s);
+        QCOMPARE(bar->geometry().bottom() + 1, keys->y());
         Act(u"tap undo; see Attic, Pantry; on Attic"_s);
         QVERIFY(!bar->isVisible());
         // The offer goes of itself, and the keys undo all the same.

@@ -93,6 +93,14 @@ private Q_SLOTS:
         // One that comes while the data file is asked for waits for it.
         FrameErrand first;
         MakeLists(first.DataPath(), { u"Pantry"_s });
+        // Wherever the window is, it comes to the front with the keyboard.
+        QWidget other;
+        other.show();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        errand.frame->showMinimized();
+        errand.frame->TakeStartRequest({});
+        QVERIFY(!errand.frame->isMinimized() && QTest::qWaitForWindowActive(errand.frame.get()));
+        other.close();
         errand.frame.reset();
         first.Start();
         QCOMPARE(first.frame->TakeStartRequest({ u"Pantry"_s, {} }), StartAnswer::Done);
@@ -161,6 +169,21 @@ private Q_SLOTS:
         errand.ChooseFileFor(u"Import List..."_s, pipe);
         Act(u"tap OK; see Import is completed with errors. Data may not be imported properly.; "
             "tap OK; at Pantry"_s);
+    }
+
+    void linesPartWhatStandsBesideEachOther()
+    {
+        const FrameErrand errand({ u"Pantry"_s });
+        Act(u"size 1000x600; tap Pantry"_s);
+        const QImage picture = errand.pages->grab().toImage();
+        const auto* top = errand.pages->Top();
+        const int edge = errand.pages->findChild<QWidget*>(u"paneEdge"_s)->x();
+        const int header = top->findChild<QWidget*>(u"header"_s)->height();
+        const int keys = top->findChild<QWidget*>(u"softKeys"_s)->y();
+        for (const auto& [line, beside] : { std::pair(QPoint(edge, 300), QPoint(1, 0)),
+                 { { edge + 300, header - 1 }, { 0, 1 } }, { { edge + 300, keys }, { 0, 1 } } })
+            QVERIFY(picture.pixel(line) != picture.pixel(line - beside)
+                && picture.pixel(line) != picture.pixel(line + beside));
     }
 
     void columnsLieAsTheyWereLeft()

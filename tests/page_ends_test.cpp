@@ -213,6 +213,8 @@ private Q_SLOTS:
         Subject subject;
         ApplyWindowStyle(&subject.stack);
         Show(subject, asked);
+        const QWidget* opened = QApplication::focusWidget();
+        QVERIFY(opened != subject.page && subject.page->isAncestorOf(opened));
         QTest::keyClick(subject.stack.focusWidget(), Qt::Key_Tab);
         QStringList stops;
         for (const QWidget* first = subject.stack.focusWidget(); stops.size() < 20;) {

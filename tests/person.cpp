@@ -412,8 +412,12 @@ bool DoStep(QWidget* front, const QString& verb, const QString& what)
         return LooksSo(*front, verb, what);
     if (verb == u"press")
         return Press(*front, what), true;
-    if (verb == u"type")
-        return QTest::keyClicks(QApplication::focusWidget(), what), true;
+    if (verb == u"type") {
+        // Whoever does not see it is told where he types.
+        QWidget* typed = QApplication::focusWidget();
+        QTest::keyClicks(typed, what);
+        return !QAccessible::queryAccessibleInterface(typed)->text(QAccessible::Name).isEmpty();
+    }
     const auto spot = FindSpot(*front, what);
     if (!spot || spot->isEnabled == (verb == u"cannot"))
         return false;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "listdef/import_order_page.h"
+#include "listdef/list_sheet.h"
 #include "tests/person.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
@@ -10,11 +11,14 @@
 #include "widgets/colour_palette.h"
 #include "widgets/icon_grid.h"
 #include "widgets/icon_set.h"
+#include "widgets/page_stack.h"
+#include "widgets/window_style.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPointingDevice>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -110,6 +114,39 @@ private Q_SLOTS:
         const QImage focused = picture();
         other->setFocus();
         QVERIFY(focused != picture());
+    }
+
+    void whatIsDrawnByHandIsThere()
+    {
+        QApplication::setStyle(new AppStyle);
+        PageStack stack;
+        ApplyWindowStyle(&stack);
+        auto* page = new ListSheet(SheetMode::NewList, NewInventoryList(), NewInventoryList());
+        stack.Push(page);
+        auto* grid = new IconGrid(&stack);
+        stack.resize(360, 640);
+        stack.show();
+        Act(u"tap Options; tap warnOnCount"_s);
+        // Shares of a control that are of one colour, or of more.
+        const auto isDrawn = [](QWidget* control, double left, double right) {
+            const int x = static_cast<int>(control->width() * left);
+            const QImage part = control
+                                    ->grab({ x, 6, static_cast<int>(control->width() * right) - x,
+                                        control->height() - 12 })
+                                    .toImage();
+            return part != part.copy(0, 0, 1, 1).scaled(part.size());
+        };
+        const std::tuple<QString, double, double> parts[] { { u"title"_s, 0, .5 },
+            { u"warnOnCount"_s, .1, .9 }, { u"countColour"_s, .2, .5 },
+            { u"countColour"_s, .7, .9 }, { u"listIcon"_s, .1, .5 }, { u"nextIcon"_s, .3, .7 },
+            { u"previousIcon"_s, .3, .7 }, { u"allIcons"_s, .3, .7 }, { u"tabs"_s, 0, .3 } };
+        for (const auto& [name, left, right] : parts)
+            QVERIFY2(isDrawn(page->findChild<QWidget*>(name), left, right), qPrintable(name));
+        grid->show();
+        grid->resize(60, 100);
+        QVERIFY(isDrawn(grid->verticalScrollBar(), 0, 1));
+        grid->resize(600, 600);
+        QVERIFY(!isDrawn(grid->verticalScrollBar(), 0, 1));
     }
 
     void everyIconHasADrawingAndANameOfItsOwn()

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTableView>
 
@@ -50,6 +51,10 @@ private Q_SLOTS:
         for (const QString& key : u"Down Tab Down Tab Down Tab Down Down"_s.split(u' ')) {
             Act(u"press "_s + key);
             controls << QString::number(View()->currentIndex().row()) + Focus()->objectName();
+            const auto hints = qobject_cast<QComboBox*>(Focus()) == nullptr
+                ? Focus()->inputMethodQuery(Qt::ImHints).toInt()
+                : 0;
+            controls.back() += QString::number(hints, 16);
         }
         QCOMPARE(controls.join(u' '),
             u"1valueEdit 2valueEdit 3valueBox 4valueEdit 5valueEdit 6dateEdit 7dateEdit 7dateEdit"_s);

@@ -372,6 +372,35 @@ private Q_SLOTS:
         QCOMPARE(titles.mid(1), u"rlcrrll"_s);
     }
 
+    void textsKeepOffTheEdgesOfTheirCells()
+    {
+        const QString name(90, u'w');
+        File().Add({ name, u"1234567890"_s, name, u"Checked"_s, u"1234567890"_s, u"1234567890"_s,
+            u"12/31/2026"_s, u"12/31/2026"_s });
+        File().list.TableOption = kWarnOnExpiry | kWarnOnCount;
+        File().list.TableColSizes = u"50,50,50,50,50,50,50,50,"_s;
+        m_errand->Open();
+        for (int column = 0; column < View()->model()->columnCount(); ++column) {
+            const QRect cell = m_errand->Cell(2, column).adjusted(0, 0, 0, -2);
+            for (const int x : { cell.left(), cell.right() - 2 }) {
+                const QImage edge
+                    = View()->viewport()->grab({ x, cell.y(), 3, cell.height() }).toImage();
+                QCOMPARE(edge, edge.copy(0, 0, 1, 1).scaled(edge.size()));
+            }
+        }
+    }
+
+    void columnsOfAnEmptyListHaveRoom()
+    {
+        for (const ObjectId row : File().rows->FillRows().rows)
+            File().rows->DeleteRow(row);
+        m_errand->Open();
+        for (const auto& [column, usual] :
+            { std::pair { Name, u"an ordinary name"_s }, { Count, u"10000"_s },
+                { Price, u"1,000.00"_s }, { Size, u"10000"_s }, { Bought, u"00/00/0000"_s } })
+            QVERIFY(View()->columnWidth(column) > View()->fontMetrics().horizontalAdvance(usual));
+    }
+
     void aVanishedRowShowsErr()
     {
         m_errand->Open();
