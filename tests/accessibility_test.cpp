@@ -18,6 +18,8 @@ QString Met(QObject* object)
     QStringList words { QVariant::fromValue(met->role()).toString(), met->text(QAccessible::Name) };
     if (met->state().hasPopup)
         words << u"opens"_s;
+    if (!met->text(QAccessible::Value).isEmpty())
+        words << met->text(QAccessible::Value);
     if (auto* text = met->textInterface())
         words << text->text(0, text->characterCount());
     if (auto* value = met->valueInterface()) {
@@ -56,17 +58,17 @@ private Q_SLOTS:
         choice.addItem(u"Price"_s);
         const QString met[][2] {
             { Met(sheet.page), u"Pane|New Inventory List"_s },
-            { Met(find(*sheet.page, "Quillory::IconPicker")), u"Button|Icon|0|0|42"_s },
+            { Met(find(*sheet.page, "Quillory::IconPicker")), u"Button|Icon|List|0|0|42"_s },
             { Met(find(*sheet.page, "Quillory::ThresholdEdit")),
                 u"SpinBox|Enable row colour when count is less than or equal to|-32767|0|32767"_s },
-            { Met(&choice), u"ComboBox|Type|opens|Price"_s },
+            { Met(&choice), u"ComboBox|Type|opens|Price|Price"_s },
             { Met(rows.page->findChild<QToolButton*>(u"rightKey"_s)), u"Button|Menu|opens"_s },
             { Met(find(*rows.page, "Quillory::UndoBar")), u"Notification|"_s },
             { Met(date.findChild<QWidget*>(u"qt_calendar_prevmonth"_s)),
                 u"Button|Previous month"_s },
             { Met(date.findChild<QWidget*>(u"qt_calendar_nextmonth"_s)), u"Button|Next month"_s },
             { Met(date.findChild<QWidget*>(u"qt_calendar_yearedit"_s)),
-                u"SpinBox|Year|2026|1601|2026|9999"_s },
+                u"SpinBox|Year|2026|2026|1601|2026|9999"_s },
         };
         for (const auto& [is, expected] : met)
             QCOMPARE(is, expected);

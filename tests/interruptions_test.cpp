@@ -311,6 +311,8 @@ private Q_SLOTS:
                 Act(u"see X, Zoo"_s);
             else
                 QCOMPARE(Seen(errand), seen);
+            const QWidget* box = QApplication::activeModalWidget();
+            QVERIFY(box == nullptr || box->isActiveWindow());
             if (outcome != AfterTheAnswer)
                 return;
             QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);

@@ -12,6 +12,7 @@
 #include <QAbstractButton>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScopeGuard>
 #include <QTabBar>
 
@@ -57,9 +58,10 @@ bool IsWritten(const QWidget& widget)
     const bool hasText = (label != nullptr && !label->text().isEmpty())
         || (button != nullptr && button->text().size() > 1
             && !button->inherits("Quillory::ColourButton"));
+    const auto* edit = qobject_cast<const QLineEdit*>(&widget);
     return widget.isVisible()
-        && (hasText || qobject_cast<const QHeaderView*>(&widget)
-            || qobject_cast<const QTabBar*>(&widget));
+        && (hasText || (edit != nullptr && !edit->text().isEmpty())
+            || qobject_cast<const QHeaderView*>(&widget) || qobject_cast<const QTabBar*>(&widget));
 }
 
 } // namespace
@@ -101,6 +103,8 @@ private Q_SLOTS:
             Subject subject;
             ApplyWindowStyle(&subject.stack);
             Show(subject, page);
+            for (auto* edit : subject.page->findChildren<QLineEdit*>())
+                edit->selectAll();
             const QImage picture = subject.stack.grab().toImage();
             for (const QWidget* widget : subject.page->findChildren<QWidget*>()) {
                 if (!IsWritten(*widget))

@@ -6,6 +6,7 @@
 #include "widgets/questions.h"
 #include "widgets/window_style.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -83,6 +84,17 @@ private Q_SLOTS:
             }
             QCOMPARE(given, answers);
         }
+    }
+
+    void aLongTitleEndsInDots()
+    {
+        PageStack stack;
+        stack.Push(new Page(QString(100, u'w')));
+        stack.resize(300, 300);
+        stack.show();
+        const QImage cut = stack.Top()->findChild<QLabel*>(u"title"_s)->grab().toImage();
+        const QImage end = cut.copy(cut.width() - 2, 0, 2, cut.height());
+        QCOMPARE(end, end.copy(0, 0, 1, 1).scaled(end.size()));
     }
 
     void whoWaitsIsHeardOnceNothingIsAsked()

@@ -11,6 +11,7 @@
 #include "widgets/colour_palette.h"
 #include "widgets/icon_grid.h"
 #include "widgets/icon_set.h"
+#include "widgets/ink.h"
 #include "widgets/page_stack.h"
 #include "widgets/window_style.h"
 
@@ -142,6 +143,13 @@ private Q_SLOTS:
             { u"previousIcon"_s, .3, .7 }, { u"allIcons"_s, .3, .7 }, { u"tabs"_s, 0, .3 } };
         for (const auto& [name, left, right] : parts)
             QVERIFY2(isDrawn(page->findChild<QWidget*>(name), left, right), qPrintable(name));
+        // A tick has the colour of what is chosen.
+        const QImage ticked = page->findChild<QWidget*>(u"warnOnCount"_s)->grab().toImage();
+        const QRgb accent = AccentInk(QApplication::palette()).rgb();
+        int accents = 0;
+        for (int place = 0; place < ticked.width() * ticked.height(); ++place)
+            accents += ticked.pixel(place % ticked.width(), place / ticked.width()) == accent;
+        QVERIFY(accents > 0);
         grid->show();
         grid->resize(60, 100);
         QVERIFY(isDrawn(grid->verticalScrollBar(), 0, 1));
