@@ -79,6 +79,7 @@ private Q_SLOTS:
             const QDate named = place == nullptr
                 ? QDate()
                 : QLocale().toDate(place->text(QAccessible::Name), QLocale::LongFormat);
+            QVERIFY(place == nullptr || !place->text(QAccessible::Name).isEmpty());
             if (!named.isValid())
                 continue;
             QVERIFY(last.isNull() || named == last.addDays(1));

@@ -247,6 +247,10 @@ private Q_SLOTS:
                 subject.page->findChild<QWidget*>(u"header"_s)->height(), frame.headerHeight + 1);
             QCOMPARE(
                 subject.page->findChild<QWidget*>(u"softKeys"_s)->height(), frame.softKeyHeight);
+            for (const auto* view : subject.page->findChildren<QAbstractItemView*>())
+                QVERIFY(view->model()->rowCount() == 0 || !view->isVisible()
+                    || view->inherits("QHeaderView")
+                    || view->visualRect(view->model()->index(0, 0)).height() >= kMinTouchTarget);
             for (const QWidget* control : subject.page->findChildren<QWidget*>()) {
                 const bool isInBody = control->inherits("QAbstractButton")
                     || control->inherits("QLineEdit") || control->inherits("QComboBox");
