@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/home_list.h"
 #include "app/plain_pages.h"
 #include "listdef/column_definition_page.h"
 #include "listdef/display_options_page.h"
@@ -116,6 +117,13 @@ inline const std::array kPages {
     PageCase { "help", kOk, false, {}, u"Help"_s,
         [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); } },
     PageCase { "about", kOk, false, u"Main_Contents"_s, u"Help, OK"_s, Make<AboutPage> },
+    // Return opens the selected list.
+    PageCase { "lists", {}, false, {}, u"New, Menu, Inventory List"_s,
+        [](Subject& subject) -> Page* {
+            auto* page = new HomeList;
+            page->Fill(subject.file.catalogue->FillHomeList().lists);
+            return page;
+        } },
     PageCase { "welcome", kOk, false, {}, u"OK"_s, Make<WelcomePage> },
 };
 

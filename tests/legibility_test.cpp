@@ -10,6 +10,7 @@
 #include "widgets/window_style.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -103,6 +104,15 @@ private Q_SLOTS:
             Subject subject;
             ApplyWindowStyle(&subject.stack);
             Show(subject, page);
+            for (auto* view : subject.page->findChildren<QAbstractItemView*>()) {
+                const QModelIndex first = view->model()->index(0, 0);
+                if (first.data(Qt::DecorationRole).isNull())
+                    continue;
+                view->setCurrentIndex(first);
+                const QRect icon(view->visualRect(first).topLeft(), QSize(30, 28));
+                if (ContrastSeen(view->viewport()->grab(icon).toImage()) < kVisible)
+                    QDebug(&faint.emplace_back()) << page.name << "icon";
+            }
             for (auto* edit : subject.page->findChildren<QLineEdit*>())
                 edit->selectAll();
             const QImage picture = subject.stack.grab().toImage();

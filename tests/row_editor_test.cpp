@@ -51,6 +51,10 @@ private Q_SLOTS:
         for (const QString& key : u"Down Tab Down Tab Down Tab Down Down"_s.split(u' ')) {
             Act(u"press "_s + key);
             controls << QString::number(View()->currentIndex().row()) + Focus()->objectName();
+            int shown = 0;
+            for (const QString& name : { u"valueEdit"_s, u"valueBox"_s, u"datePicker"_s })
+                shown += m_page->findChild<QWidget*>(name)->isVisible() ? 1 : 0;
+            QCOMPARE(shown, 1);
             const auto hints = qobject_cast<QComboBox*>(Focus()) == nullptr
                 ? Focus()->inputMethodQuery(Qt::ImHints).toInt()
                 : 0;
