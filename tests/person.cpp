@@ -442,7 +442,7 @@ void Act(const QString& steps)
             const QString name = what.contains(u": ") ? what.section(u": "_s, 0, 0) : QString();
             const QString seen = front == nullptr ? u"no window"_s : ReadFrom(*front, name);
             QTest::qFail(qPrintable(step + u", but seen is "_s + seen + u", heard "_s
-                             + latestHeard.join(u", "_s)),
+                             + latestHeard.join(u", "_s).right(100)),
                 __FILE__, __LINE__);
         }
     }
