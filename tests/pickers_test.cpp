@@ -192,6 +192,7 @@ private Q_SLOTS:
         add("right in the grid", 7U, u"tap colour; press Right Return"_s, 13U, 1);
         add("up in the grid", 7U, u"tap colour; press Up Return"_s, 6U, 1);
         add("down in the grid", 7U, u"tap colour; press Down Return"_s, 8U, 1);
+        add("nor beyond its first", 6U, u"tap colour; press Up Return"_s, 6U, 1);
         add("not beyond its last line", 5U, u"tap colour; press Down Return"_s, 5U, 1);
         add("a tap, and one on what is shown already", 7U,
             u"tap colour; tap colour4; tap colour; tap colour4"_s, 1U, 2);
