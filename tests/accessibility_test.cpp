@@ -18,11 +18,15 @@ QString Met(QObject* object)
     QStringList words { QVariant::fromValue(met->role()).toString(), met->text(QAccessible::Name) };
     if (met->state().hasPopup)
         words << u"opens"_s;
+    if (!met->text(QAccessible::Value).isEmpty())
+        words << met->text(QAccessible::Value);
     if (auto* text = met->textInterface())
         words << text->text(0, text->characterCount());
-    if (auto* value = met->valueInterface())
-        words << value->minimumValue().toString() << value->currentValue().toString()
-              << value->maximumValue().toString();
+    if (auto* value = met->valueInterface()) {
+        words << value->minimumValue().toString() << value->currentValue().toString();
+        value->setCurrentValue(value->maximumValue());
+        words << value->currentValue().toString();
+    }
     return words.join(u'|');
 }
 
@@ -54,18 +58,58 @@ private Q_SLOTS:
         choice.addItem(u"Price"_s);
         const QString met[][2] {
             { Met(sheet.page), u"Pane|New Inventory List"_s },
-            { Met(find(*sheet.page, "Quillory::IconPicker")), u"Button|Icon|0|0|42"_s },
+            { Met(find(*sheet.page, "Quillory::IconPicker")), u"Button|Icon|List|0|0|42"_s },
             { Met(find(*sheet.page, "Quillory::ThresholdEdit")),
                 u"SpinBox|Enable row colour when count is less than or equal to|-32767|0|32767"_s },
-            { Met(&choice), u"ComboBox|Type|opens|Price"_s },
+            { Met(&choice), u"ComboBox|Type|opens|Price|Price"_s },
             { Met(rows.page->findChild<QToolButton*>(u"rightKey"_s)), u"Button|Menu|opens"_s },
             { Met(find(*rows.page, "Quillory::UndoBar")), u"Notification|"_s },
+            { Met(date.findChild<QWidget*>(u"qt_calendar_prevmonth"_s)),
+                u"Button|Previous month"_s },
+            { Met(date.findChild<QWidget*>(u"qt_calendar_nextmonth"_s)), u"Button|Next month"_s },
+            { Met(date.findChild<QWidget*>(u"qt_calendar_yearedit"_s)),
+                u"SpinBox|Year|2026|2026|1601|2026|9999"_s },
         };
         for (const auto& [is, expected] : met)
             QCOMPARE(is, expected);
+        const auto* table = QAccessible::queryAccessibleInterface(days);
+        QDate last;
+        for (int i = 0; i < table->childCount(); ++i) {
+            const QAccessibleInterface* place = table->child(i);
+            const QDate named = place == nullptr
+                ? QDate()
+                : QLocale().toDate(place->text(QAccessible::Name), QLocale::LongFormat);
+            QVERIFY(place == nullptr || !place->text(QAccessible::Name).isEmpty());
+            if (!named.isValid())
+                continue;
+            QVERIFY(last.isNull() || named == last.addDays(1));
+            QCOMPARE(place->state().selected, named == QDate(2026, 6, 15));
+            last = named;
+        }
+        QVERIFY(last > QDate(2026, 6, 30));
         QAccessibleInterface* day = QAccessible::queryAccessibleInterface(days)->focusChild();
         QCOMPARE(day->text(QAccessible::Name),
             QLocale().toString(QDate(2026, 6, 15), QLocale::LongFormat));
+    }
+
+    void whatOpensIsOpenedByItsActions()
+    {
+        QApplication::setStyle(new AppStyle);
+        for (const QString& name : { u"listIcon"_s, u"columnType"_s, u"rightKey"_s }) {
+            Subject subject;
+            const size_t place = name == u"listIcon" ? 0 : name == u"columnType" ? 2 : 10;
+            Show(subject, kPages.at(place));
+            auto* met
+                = QAccessible::queryAccessibleInterface(subject.page->findChild<QWidget*>(name));
+            for (const QString& action : met->actionInterface()->actionNames()) {
+                if (action == QAccessibleActionInterface::setFocusAction())
+                    continue;
+                met->actionInterface()->doAction(action);
+                QVERIFY(QApplication::activePopupWidget() != nullptr
+                    || subject.stack.Top() != subject.page);
+                Act(u"press Esc"_s);
+            }
+        }
     }
 
     void aChangedCellIsSpokenWithItsColumn()
@@ -75,6 +119,9 @@ private Q_SLOTS:
         rows.file.Add({ u"rice"_s, u"0"_s, u"top"_s, u"Checked"_s });
         rows.Open();
         const auto* model = qobject_cast<RowsModel*>(rows.View()->model());
+        auto* cells = QAccessible::queryAccessibleInterface(rows.View())->tableInterface();
+        QCOMPARE(cells->cellAt(0, Bio)->text(QAccessible::Name), u"Checked"_s);
+        QCOMPARE(cells->cellAt(0, Name)->text(QAccessible::Description), u"low"_s);
         QCOMPARE(model->Spoken(0, PropCount), u"Quantity 0, low"_s);
         QCOMPARE(model->Spoken(0, rows.file.list.columns[Bio].id), u"Bio Checked, low"_s);
     }

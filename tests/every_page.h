@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/home_list.h"
 #include "app/plain_pages.h"
 #include "listdef/column_definition_page.h"
 #include "listdef/display_options_page.h"
@@ -67,6 +68,8 @@ struct PageCase
     bool takesInput;
     /// Where its help begins.
     QString help;
+    /// The names of what Tab goes through.
+    QString stops;
     Page* (*make)(Subject& subject);
 };
 
@@ -74,38 +77,54 @@ inline const QStringList kOk { u"tap ok"_s, u"press Return"_s };
 inline const QStringList kOkAndCancel { u"tap ok"_s, u"tap leftKey"_s, u"press Return"_s };
 
 inline const std::array kPages {
-    PageCase { "new list", kOkAndCancel, true, u"newlist"_s, MakeSheet<SheetMode::NewList> },
-    PageCase {
-        "list properties", kOkAndCancel, true, u"newlist"_s, MakeSheet<SheetMode::ExistingList> },
-    PageCase { "column definition", kOkAndCancel, true, {}, Make<ColumnDefinitionPage> },
+    PageCase { "new list", kOkAndCancel, true, u"newlist"_s,
+        u"Icon, Next icon, Previous icon, All icons, Cancel, Help, OK, General, Name"_s,
+        MakeSheet<SheetMode::NewList> },
+    PageCase { "list properties", kOkAndCancel, true, u"newlist"_s,
+        u"Icon, Next icon, Previous icon, All icons, Cancel, Help, OK, General, Name"_s,
+        MakeSheet<SheetMode::ExistingList> },
+    PageCase { "column definition", kOkAndCancel, true, {}, u"Type, Cancel, OK, Name"_s,
+        Make<ColumnDefinitionPage> },
     PageCase { "options", kOkAndCancel, true, u"options"_s,
+        u"Use alternate row colour, Cancel, Help, OK, Display list using landscape mode"_s,
         [](Subject&) -> Page* { return new DisplayOptionsPage({}); } },
     PageCase { "import order", kOkAndCancel, false, u"importlist"_s,
+        u"Move Down, Cancel, Help, OK, Import Column Order"_s,
         [](Subject& subject) -> Page* { return new ImportOrderPage(subject.list.columns); } },
     // Return takes the selected icon.
-    PageCase {
-        "icon grid", { u"tap leftKey"_s, u"press Return"_s }, false, {}, Make<IconGridPage, 0> },
-    PageCase { "find", kOkAndCancel, true, {}, MakeFilter<FilterMode::Find> },
-    PageCase { "filter", kOkAndCancel, false, {}, MakeFilter<FilterMode::Filter> },
-    PageCase { "filters", kOk, false, {},
+    PageCase { "icon grid", { u"tap leftKey"_s, u"press Return"_s }, false, {}, u"Cancel, Icons"_s,
+        Make<IconGridPage, 0> },
+    PageCase { "find", kOkAndCancel, true, {}, u"Cancel, OK, Field:, Condition:, Value:"_s,
+        MakeFilter<FilterMode::Find> },
+    PageCase { "filter", kOkAndCancel, false, {}, u"Condition:, Value:, Cancel, OK, Field:"_s,
+        MakeFilter<FilterMode::Filter> },
+    PageCase { "filters", kOk, false, {}, u"Add, Menu, OK, Filters"_s,
         [](Subject& subject) -> Page* {
             return new FiltersPage({}, subject.list, subject.file.context);
         } },
     // Return goes on to the next field.
-    PageCase { "row editor", { u"tap ok"_s, u"tap leftKey"_s }, true, u"editlist"_s,
+    PageCase { "row editor", { u"tap ok"_s, u"tap leftKey"_s }, true, u"editlist"_s, u"Quantity"_s,
         [](Subject& subject) -> Page* {
             return new RowEditor(subject.list, nullptr, subject.file.context);
         } },
     // Return edits the selected row.
-    PageCase { "rows", { u"tap ok"_s }, false, u"editlist"_s,
+    PageCase { "rows", { u"tap ok"_s }, false, u"editlist"_s, u"New, Menu, Help, OK, Pantry"_s,
         [](Subject& subject) -> Page* {
             return new RowsView(*subject.file.rows, subject.file.list, subject.file.context, {});
         } },
-    PageCase { "summary", kOk, false, {}, [](Subject&) -> Page* { return new SummaryPage({}); } },
-    PageCase {
-        "help", kOk, false, {}, [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); } },
-    PageCase { "about", kOk, false, u"Main_Contents"_s, Make<AboutPage> },
-    PageCase { "welcome", kOk, false, {}, Make<WelcomePage> },
+    PageCase { "summary", kOk, false, {}, u"OK, Totals"_s,
+        [](Subject&) -> Page* { return new SummaryPage({}); } },
+    PageCase { "help", kOk, false, {}, u"Help"_s,
+        [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); } },
+    PageCase { "about", kOk, false, u"Main_Contents"_s, u"Help, OK"_s, Make<AboutPage> },
+    // Return opens the selected list.
+    PageCase { "lists", {}, false, {}, u"New, Menu, Inventory List"_s,
+        [](Subject& subject) -> Page* {
+            auto* page = new HomeList;
+            page->Fill(subject.file.catalogue->FillHomeList().lists);
+            return page;
+        } },
+    PageCase { "welcome", kOk, false, {}, u"OK"_s, Make<WelcomePage> },
 };
 
 inline void Show(Subject& subject, const PageCase& page)

@@ -202,11 +202,11 @@ const std::array kInterruptions {
         },
         Effect::EndsPages, IsZooOpen },
     InterruptionCase { "the file gone", CloseAfter<RemoveFile>, Effect::EndsPages, IsGone,
-        { u"The data file is no longer in its place."_s } },
+        { u"The data file is no longer in its place. What it held is kept as a copy; \"quillory restore\" lists the copies."_s } },
     InterruptionCase { "the folder gone", CloseAfter<RemoveFolder>, Effect::EndsPages, IsGone,
-        { u"The data file is no longer in its place."_s } },
+        { u"The data file is no longer in its place. No copy could be kept of it."_s } },
     InterruptionCase { "the file replaced", CloseAfter<ReplaceFile>, Effect::EndsPages, IsGone,
-        { u"Another file was put in the place of the data file."_s } },
+        { u"Another file was put in the place of the data file. The old one is kept as a copy; \"quillory restore\" lists the copies."_s } },
     InterruptionCase { "a failed write", CloseAfter<FillDisk>, Effect::EndsPages, IsGone,
         { u"The change could not be saved."_s, u"No copy of the data file could be kept."_s } },
     InterruptionCase { "other colours",
@@ -311,6 +311,8 @@ private Q_SLOTS:
                 Act(u"see X, Zoo"_s);
             else
                 QCOMPARE(Seen(errand), seen);
+            const QWidget* box = QApplication::activeModalWidget();
+            QVERIFY(box == nullptr || box->isActiveWindow());
             if (outcome != AfterTheAnswer)
                 return;
             QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
@@ -353,13 +355,13 @@ private:
             Act(kDeleteList);
     }
 
-    /// The first sentence of each box until then.
+    /// What each box says until then, but for numbers.
     static QStringList ToldUntilDone(FrameErrand& errand, const InterruptionCase& what)
     {
         QStringList told;
         const auto isDone = [&] {
             if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                told << box->text().section(u'.', 0, 0) + u'.';
+                told << box->text().section(u'\n', 0, 0).section(u" Error:"_s, 0, 0);
                 QTest::keyClick(box, Qt::Key_Escape);
             }
             return what.isDone(errand) && QApplication::activeModalWidget() == nullptr;
@@ -402,7 +404,9 @@ private:
             return false;
         const bool losesFile = !what.told.isEmpty();
         const QStringList due
-            = (losesFile ? QStringList { u"Import is completed with errors."_s } : QStringList())
+            = (losesFile
+                      ? QStringList { u"Import is completed with errors. Data may not be imported properly."_s }
+                      : QStringList())
             + what.told;
         const QStringList told = all.size() == 1 ? ToldUntilDone(errand, what) : QStringList();
         const bool isMet = isVisible && told == due && (all.size() == 1 || IsVisible(errand));

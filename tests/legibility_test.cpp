@@ -10,8 +10,10 @@
 #include "widgets/window_style.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScopeGuard>
 #include <QTabBar>
 
@@ -57,9 +59,10 @@ bool IsWritten(const QWidget& widget)
     const bool hasText = (label != nullptr && !label->text().isEmpty())
         || (button != nullptr && button->text().size() > 1
             && !button->inherits("Quillory::ColourButton"));
+    const auto* edit = qobject_cast<const QLineEdit*>(&widget);
     return widget.isVisible()
-        && (hasText || qobject_cast<const QHeaderView*>(&widget)
-            || qobject_cast<const QTabBar*>(&widget));
+        && (hasText || (edit != nullptr && !edit->text().isEmpty())
+            || qobject_cast<const QHeaderView*>(&widget) || qobject_cast<const QTabBar*>(&widget));
 }
 
 } // namespace
@@ -101,6 +104,17 @@ private Q_SLOTS:
             Subject subject;
             ApplyWindowStyle(&subject.stack);
             Show(subject, page);
+            for (auto* view : subject.page->findChildren<QAbstractItemView*>()) {
+                const QModelIndex first = view->model()->index(0, 0);
+                if (first.data(Qt::DecorationRole).isNull())
+                    continue;
+                view->setCurrentIndex(first);
+                const QRect icon(view->visualRect(first).topLeft(), QSize(30, 28));
+                if (ContrastSeen(view->viewport()->grab(icon).toImage()) < kVisible)
+                    QDebug(&faint.emplace_back()) << page.name << "icon";
+            }
+            for (auto* edit : subject.page->findChildren<QLineEdit*>())
+                edit->selectAll();
             const QImage picture = subject.stack.grab().toImage();
             for (const QWidget* widget : subject.page->findChildren<QWidget*>()) {
                 if (!IsWritten(*widget))

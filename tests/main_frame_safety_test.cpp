@@ -2,6 +2,7 @@
 #include "tests/limit.h"
 #include "tests/main_frame_errand.h"
 #include "tests/page_damage.h"
+#include "tests/table.h"
 #include "tests/test_program.h"
 
 #include <QAbstractButton>
@@ -36,6 +37,8 @@ private Q_SLOTS:
         Act(kDeleteList);
         auto* bar = errand.pages->Top()->findChild<QWidget*>(u"undoBar"_s);
         QVERIFY(bar->isVisible());
+        const auto* keys = errand.pages->Top()->findChild<QWidget*>(u"softKeys"_s);
+        QCOMPARE(bar->geometry().bottom() + 1, keys->y());
         Act(u"tap undo; see Attic, Pantry; on Attic"_s);
         QVERIFY(!bar->isVisible());
         // The offer goes of itself, and the keys undo all the same.
@@ -186,8 +189,17 @@ private Q_SLOTS:
         QTRY_VERIFY(!errand.frame->isVisible());
     }
 
-    void aDamagedFileIsReplacedByItsCopy()
+    void aDamagedFileIsReplacedByItsCopyOrItsRest_data()
     {
+        const Table<QString> add;
+        add("nothing", u"tap No; tap No"_s);
+        add("copy", u"see The data file is damaged. There is a good copy of…; tap Yes"_s);
+        add("rest",
+            u"tap No; see Of the damaged file 0 row(s) in 1 list(s) can still be read.…; tap Yes"_s);
+    }
+    void aDamagedFileIsReplacedByItsCopyOrItsRest()
+    {
+        const auto [steps] = Table<QString>::Row();
         FrameErrand errand({ u"Attic"_s, u"Barn"_s, u"Zoo"_s });
         Act(kDeleteList);
         errand.Restart();
@@ -198,7 +210,15 @@ private Q_SLOTS:
 
         errand.chosenPath = errand.DataPath() + u".new.idb"_s;
         errand.Start();
-        Act(u"see Unable to open data file. Error: 1392; tap OK; tap Yes; see Zoo"_s);
+        WriteFileBytes(errand.chosenPath, {});
+        Act(u"see Unable to open data file. Error: 1392; tap OK; "_s + steps);
+        if (steps.endsWith(u"No"_s)) {
+            QTRY_VERIFY(!errand.frame->isVisible());
+            return;
+        }
+        Act(u"see The new file could not be written. Error: 80"_s);
+        QVERIFY(QFile::remove(errand.chosenPath));
+        Act(u"tap OK; see Zoo"_s);
         errand.Restart();
         Act(u"see Zoo"_s);
     }

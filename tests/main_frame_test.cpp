@@ -93,6 +93,14 @@ private Q_SLOTS:
         // One that comes while the data file is asked for waits for it.
         FrameErrand first;
         MakeLists(first.DataPath(), { u"Pantry"_s });
+        // Wherever the window is, it comes to the front with the keyboard.
+        QWidget other;
+        other.show();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        errand.frame->showMinimized();
+        errand.frame->TakeStartRequest({});
+        QVERIFY(!errand.frame->isMinimized() && QTest::qWaitForWindowActive(errand.frame.get()));
+        other.close();
         errand.frame.reset();
         first.Start();
         QCOMPARE(first.frame->TakeStartRequest({ u"Pantry"_s, {} }), StartAnswer::Done);
@@ -161,6 +169,43 @@ private Q_SLOTS:
         errand.ChooseFileFor(u"Import List..."_s, pipe);
         Act(u"tap OK; see Import is completed with errors. Data may not be imported properly.; "
             "tap OK; at Pantry"_s);
+    }
+
+    void linesPartWhatStandsBesideEachOther()
+    {
+        const FrameErrand errand({ u"Pantry"_s });
+        Act(u"size 1000x600; tap Pantry"_s);
+        const QImage picture = errand.pages->grab().toImage();
+        const auto* top = errand.pages->Top();
+        const int edge = errand.pages->findChild<QWidget*>(u"paneEdge"_s)->x();
+        const int header = top->findChild<QWidget*>(u"header"_s)->height();
+        const int keys = top->findChild<QWidget*>(u"softKeys"_s)->y();
+        for (const auto& [line, beside] : { std::pair(QPoint(edge, 300), QPoint(1, 0)),
+                 { { edge + 300, header - 1 }, { 0, 1 } }, { { edge + 300, keys }, { 0, 1 } } })
+            QVERIFY(picture.pixel(line) != picture.pixel(line - beside)
+                && picture.pixel(line) != picture.pixel(line + beside));
+    }
+
+    void columnsLieAsTheyWereLeft()
+    {
+        FrameErrand errand(u"Pantry"_s, "Tea\t1\r\n");
+        const auto header = [&errand] {
+            return errand.pages->Top()->findChild<QTableView*>()->horizontalHeader();
+        };
+        const auto drag = [&header](const QPoint& from, const QPoint& to) {
+            QTest::mousePress(header()->viewport(), Qt::LeftButton, {}, from);
+            QTest::mouseMove(header()->viewport(), (from + to) / 2);
+            QTest::mouseMove(header()->viewport(), to);
+            QTest::mouseRelease(header()->viewport(), Qt::LeftButton, {}, to);
+        };
+        const int end = header()->sectionSize(0) - 1;
+        drag({ end, 10 }, { 150, 10 });
+        drag({ 170, 10 }, { 10, 10 });
+        const QList<int> left { header()->sectionSize(0), header()->visualIndex(0) };
+        QCOMPARE(left, (QList { 151, 1 }));
+        errand.Restart();
+        Act(u"tap Pantry; at Pantry"_s);
+        QCOMPARE((QList { header()->sectionSize(0), header()->visualIndex(0) }), left);
     }
 
     void helpOpensAtThePageItWasAskedFrom()

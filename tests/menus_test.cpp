@@ -93,6 +93,13 @@ private Q_SLOTS:
             for (int opening = 0; opening < 2; ++opening) {
                 Act(subject.open);
                 QCOMPARE(HeardEntries(), wanted);
+                QWidget* menu = QApplication::activePopupWidget();
+                const QRect window(stack.mapToGlobal(QPoint()), stack.size());
+                QVERIFY(subject.open.contains(u"hold"_s) || window.contains(menu->geometry()));
+                // What a held finger opened stays when it is lifted.
+                if (subject.open.contains(u"hold"_s))
+                    QTest::mouseRelease(menu, Qt::LeftButton, {}, { 20, 20 });
+                QVERIFY(menu->isVisible());
                 Act(u"press Esc"_s);
                 QVERIFY(QApplication::activePopupWidget() == nullptr);
             }

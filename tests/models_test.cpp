@@ -20,6 +20,8 @@ private Q_SLOTS:
         model.SetLists({ { ObjectId(1), u"a"_s, 0 }, { ObjectId(2), u"b"_s, 1 } });
         model.Add({ ObjectId(3), u"A"_s, 2 });
         const QPersistentModelIndex last = model.Find(ObjectId(3));
+        // Where there is no room for it, it is read whole when it is pointed at.
+        QCOMPARE(model.data(last, Qt::ToolTipRole), u"A"_s);
         model.Sort(SortDirection::Ascending);
         QCOMPARE(last.row(), 0);
         model.Sort(SortDirection::Descending);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "desktop/desktop_look.h"
 #include "tests/every_page.h"
 #include "tests/person.h"
 #include "tests/table.h"
@@ -102,7 +103,9 @@ private Q_SLOTS:
     void everyPageEndsAsItsUserSays_data()
     {
         AddRows([](const PageCase& page) {
-            return page.ways + QStringList { u"press Esc"_s, u"closing"_s };
+            // The lists stay as long as the window does.
+            return page.ways.isEmpty() ? QStringList()
+                                       : page.ways + QStringList { u"press Esc"_s, u"closing"_s };
         });
     }
 
@@ -171,6 +174,123 @@ private Q_SLOTS:
         ApplyWindowStyle(&fresh.stack);
         Show(fresh, kPages.at(static_cast<size_t>(page)));
         QTRY_COMPARE_WITH_TIMEOUT(LookOf(*open.page), LookOf(*fresh.page), 500);
+    }
+
+    void anOpenPageFollowsTheColours_data() { anOpenPageFollowsTheFont_data(); }
+    void anOpenPageFollowsTheColours()
+    {
+        const auto [page] = Table<int>::Row();
+        const auto restore
+            = qScopeGuard([before = QApplication::palette()] { QApplication::setPalette(before); });
+        QApplication::setStyle(new AppStyle);
+        Subject open;
+        ApplyWindowStyle(&open.stack);
+        Show(open, kPages.at(static_cast<size_t>(page)));
+        const auto seen = [](Subject& subject) {
+            subject.stack.activateWindow();
+            return QTest::qWaitForWindowActive(&subject.stack) ? subject.stack.grab().toImage()
+                                                               : QImage();
+        };
+        const QImage light = seen(open);
+        QApplication::setPalette(PaletteOf(ColourScheme::Dark));
+        Subject fresh;
+        ApplyWindowStyle(&fresh.stack);
+        Show(fresh, kPages.at(static_cast<size_t>(page)));
+        QVERIFY(seen(open) != light);
+        QTRY_VERIFY(seen(open) == seen(fresh));
+    }
+
+    /// Tab goes through all controls, whose names are told, and each shows that it has the
+    /// keyboard.
+    void tabGoesWhereItIsSeen_data() { anOpenPageFollowsTheFont_data(); }
+    void tabGoesWhereItIsSeen()
+    {
+        const auto [page] = Table<int>::Row();
+        const PageCase& asked = kPages.at(static_cast<size_t>(page));
+        const auto restore = qScopeGuard([before = QApplication::cursorFlashTime()] {
+            QApplication::setCursorFlashTime(before);
+        });
+        QApplication::setCursorFlashTime(0);
+        QApplication::setStyle(new AppStyle);
+        Subject subject;
+        ApplyWindowStyle(&subject.stack);
+        Show(subject, asked);
+        const QWidget* opened = QApplication::focusWidget();
+        QVERIFY(opened != subject.page && subject.page->isAncestorOf(opened));
+        QTest::keyClick(subject.stack.focusWidget(), Qt::Key_Tab);
+        QStringList stops;
+        for (const QWidget* first = subject.stack.focusWidget(); stops.size() < 20;) {
+            QWidget* stop = subject.stack.focusWidget();
+            const QImage before = stop->grab().toImage();
+            QTest::keyClick(stop, Qt::Key_Tab);
+            // In lists the selected line tells it.
+            if (subject.stack.focusWidget() != stop && stop->grab().toImage() == before
+                && !stop->inherits("QAbstractItemView"))
+                stops << u"unseen:"_s;
+            stops << QAccessible::queryAccessibleInterface(stop)->text(QAccessible::Name);
+            if (subject.stack.focusWidget() == first)
+                break;
+        }
+        QCOMPARE(stops.join(u", "_s), asked.stops);
+    }
+
+    void fingersHitEveryControl_data() { anOpenPageFollowsTheFont_data(); }
+    void fingersHitEveryControl()
+    {
+        const auto [page] = Table<int>::Row();
+        const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+        Subject subject;
+        ApplyWindowStyle(&subject.stack);
+        Show(subject, kPages.at(static_cast<size_t>(page)));
+        for (const QSize size : { QSize(360, 640), QSize(640, 360) }) {
+            subject.stack.resize(size);
+            const Measures& frame = size.height() < kLowWindow ? kMouseMeasures : kTouchMeasures;
+            QTRY_COMPARE(
+                subject.page->findChild<QWidget*>(u"header"_s)->height(), frame.headerHeight + 1);
+            QCOMPARE(
+                subject.page->findChild<QWidget*>(u"softKeys"_s)->height(), frame.softKeyHeight);
+            for (const auto* view : subject.page->findChildren<QAbstractItemView*>())
+                QVERIFY(view->model()->rowCount() == 0 || !view->isVisible()
+                    || view->inherits("QHeaderView")
+                    || view->visualRect(view->model()->index(0, 0)).height() >= kMinTouchTarget);
+            for (const QWidget* control : subject.page->findChildren<QWidget*>()) {
+                const bool isInBody = control->inherits("QAbstractButton")
+                    || control->inherits("QLineEdit") || control->inherits("QComboBox");
+                if (control->isVisible() && isInBody)
+                    QVERIFY2(control->height() >= 40, qPrintable(control->objectName()));
+            }
+        }
+    }
+
+    void everyStateIsSeen_data() { anOpenPageFollowsTheFont_data(); }
+    void everyStateIsSeen()
+    {
+        const auto [place] = Table<int>::Row();
+        QApplication::setStyle(new AppStyle);
+        Subject subject;
+        ApplyWindowStyle(&subject.stack);
+        Show(subject, kPages.at(static_cast<size_t>(place)));
+        const Page& page = *subject.page;
+        QVERIFY(page.findChild<QWidget*>(u"title"_s)->font().bold());
+        for (auto* view : page.findChildren<QAbstractItemView*>()) {
+            if (!view->isVisible() || view->model()->rowCount() == 0
+                || view->inherits("QHeaderView") || view->inherits("QTextBrowser"))
+                continue;
+            view->setCurrentIndex(view->model()->index(0, 0));
+            const QImage marked = view->grab().toImage();
+            view->setCurrentIndex({});
+            QVERIFY(view->grab().toImage() != marked);
+        }
+        for (auto* control : page.findChildren<QAbstractButton*>()) {
+            if (!control->isVisible() || !control->isEnabled()
+                || control->parentWidget()->objectName() == u"header")
+                continue;
+            control->setChecked(true);
+            const QImage enabled = control->grab().toImage();
+            control->setEnabled(false);
+            const QImage greyed = control->grab().toImage();
+            QVERIFY2(greyed != enabled, qPrintable(control->objectName()));
+        }
     }
 
     void everyPageKnowsItsHelp_data() { anOpenPageFollowsTheFont_data(); }

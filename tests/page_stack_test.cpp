@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include "tests/person.h"
 #include "tests/test_program.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 #include "widgets/questions.h"
+#include "widgets/window_style.h"
 
+#include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 
 #include <array>
 
@@ -50,6 +54,47 @@ private Q_SLOTS:
         QVERIFY(fields[1]->hasFocus());
         stack.resize(500, 600);
         QVERIFY(!fields[1]->isVisible() && fields[3]->hasFocus());
+    }
+
+    void everyQuestionHasItsAnswers()
+    {
+        PageStack stack;
+        ApplyWindowStyle(&stack);
+        stack.resize(240, 320);
+        stack.show();
+        using enum MessageAnswer;
+        const std::tuple<MessageButtons, QString, QList<MessageAnswer>> cases[] {
+            { MessageButtons::Ok, u"tap OK"_s, { Ok, Ok, Ok } },
+            { MessageButtons::YesNo, u"tap Yes; tap No"_s, { No, No, Yes, No } },
+            { MessageButtons::YesNoCancel, u"tap Yes; tap No; tap Cancel"_s,
+                { Yes, Cancel, Yes, No, Cancel } },
+            { MessageButtons::RetryCancel, u"tap Retry; tap Cancel"_s,
+                { Retry, Cancel, Retry, Cancel } },
+        };
+        for (const auto& [buttons, taps, answers] : cases) {
+            QList<MessageAnswer> given;
+            for (const QString& way : (u"press Return; press Esc; "_s + taps).split(u"; "_s)) {
+                ShowMessage(&stack, QString(300, u'x').replace(150, 1, u" "_s), MessageIcon::Stop,
+                    buttons, [&given](MessageAnswer answer) { given << answer; });
+                const auto* box = qobject_cast<QMessageBox*>(Questions::Of(&stack).Shown());
+                QVERIFY(box->icon() == QMessageBox::Critical && box->windowTitle() == u"Quillory");
+                QVERIFY2(
+                    box->width() <= stack.width(), qPrintable(way + QString::number(box->width())));
+                Act(way);
+            }
+            QCOMPARE(given, answers);
+        }
+    }
+
+    void aLongTitleEndsInDots()
+    {
+        PageStack stack;
+        stack.Push(new Page(QString(100, u'w')));
+        stack.resize(300, 300);
+        stack.show();
+        const QImage cut = stack.Top()->findChild<QLabel*>(u"title"_s)->grab().toImage();
+        const QImage end = cut.copy(cut.width() - 2, 0, 2, cut.height());
+        QCOMPARE(end, end.copy(0, 0, 1, 1).scaled(end.size()));
     }
 
     void whoWaitsIsHeardOnceNothingIsAsked()

@@ -1,22 +1,46 @@
 // SPDX-License-Identifier: MIT
 #include "tests/person.h"
 
+#include "widgets/colour_palette.h"
 #include "widgets/page_stack.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTabBar>
 #include <QTest>
 
+#include <cstdlib>
 #include <optional>
+
+namespace {
+
+/// What a screen reader was told since somebody listened.
+QStringList latestHeard;
+
+} // namespace
+
+bool QAccessible::isActive()
+{
+    return true;
+}
+
+void QAccessible::updateAccessibility(QAccessibleEvent* event)
+{
+    const QAccessibleInterface* told
+        = event->type() == QAccessible::NameChanged ? event->accessibleInterface() : nullptr;
+    if (told != nullptr && told->role() == QAccessible::Notification)
+        latestHeard << told->text(QAccessible::Name);
+}
 
 namespace Quillory {
 
@@ -30,7 +54,12 @@ struct Spot
     QWidget* widget;
     QPoint place;
     bool isEnabled;
+    /// All of it.
+    QRect area;
 };
+
+/// What was looked at last.
+QImage latestLook;
 
 /// The pages of the window that can be seen; null where there is none.
 PageStack* PagesOf(QWidget* window)
@@ -119,7 +148,8 @@ std::optional<Spot> CellSpot(const QWidget& front, const QString& what)
                 continue;
             const QModelIndex cell = model->index(line, column);
             view->scrollTo(cell);
-            return Spot { view->viewport(), view->visualRect(cell).center(), true };
+            const QRect area = view->visualRect(cell);
+            return Spot { view->viewport(), area.center(), true, area };
         }
     }
     return {};
@@ -131,8 +161,9 @@ std::optional<Spot> HeaderSpot(const QWidget& front, const QString& what)
     if (column < 0)
         return {};
     const QHeaderView* header = HeaderIn(front);
-    const QPoint place(header->sectionViewportPosition(column) + 20, header->height() / 2);
-    return Spot { header->viewport(), place, true };
+    const int left = header->sectionViewportPosition(column);
+    return Spot { header->viewport(), QPoint(left + 20, header->height() / 2), true,
+        QRect(left, 0, header->sectionSize(column), header->height()) };
 }
 
 std::optional<Spot> ControlSpot(const QWidget& front, const QString& what)
@@ -145,11 +176,12 @@ std::optional<Spot> ControlSpot(const QWidget& front, const QString& what)
         // Where a checkbox has its square.
         const int x = button != nullptr && button->isCheckable() ? 10 : widget->width() / 2;
         if (isSo || widget->objectName() == what)
-            return Spot { widget, { x, widget->height() / 2 }, widget->isEnabled() };
+            return Spot { widget, { x, widget->height() / 2 }, widget->isEnabled(),
+                widget->rect() };
         auto* tabs = qobject_cast<QTabBar*>(widget);
         for (int tab = 0; tabs != nullptr && tab < tabs->count(); ++tab) {
             if (tabs->tabText(tab) == what)
-                return Spot { tabs, tabs->tabRect(tab).center(), true };
+                return Spot { tabs, tabs->tabRect(tab).center(), true, tabs->tabRect(tab) };
         }
     }
     return {};
@@ -159,8 +191,9 @@ std::optional<Spot> FindSpot(QWidget& front, const QString& what)
 {
     if (const auto* menu = qobject_cast<QMenu*>(&front)) {
         for (QAction* entry : menu->actions()) {
+            const QRect area = menu->actionGeometry(entry);
             if (entry->text() == what)
-                return Spot { &front, menu->actionGeometry(entry).center(), entry->isEnabled() };
+                return Spot { &front, area.center(), entry->isEnabled(), area };
         }
         return {};
     }
@@ -182,10 +215,23 @@ QString HeldBy(const QWidget* control)
         return label->text();
     const auto* button = qobject_cast<const QAbstractButton*>(control);
     if (button == nullptr)
-        return control->accessibleDescription();
+        return control->accessibleDescription().isEmpty() ? control->accessibleName()
+                                                          : control->accessibleDescription();
     if (!button->isCheckable())
         return button->text();
     return button->isChecked() ? u"ticked"_s : QString();
+}
+
+/// A control of that name that is seen on the page, or else beside it; null where there is none.
+QWidget* Named(const QWidget& front, const QString& name)
+{
+    for (const QWidget* place : { &front, static_cast<const QWidget*>(front.window()) }) {
+        for (QWidget* widget : SeenIn<QWidget>(*place)) {
+            if (!name.isEmpty() && widget->objectName() == name)
+                return widget;
+        }
+    }
+    return nullptr;
 }
 
 QString LineOf(const QWidget& front, int line)
@@ -203,7 +249,7 @@ QString ReadFrom(const QWidget& front, const QString& name)
 {
     QStringList seen;
     const int column = ColumnOf(front, name);
-    const auto* control = name.isEmpty() ? nullptr : front.findChild<QWidget*>(name);
+    const QWidget* control = Named(front, name);
     if (control != nullptr)
         seen << HeldBy(control);
     else if (const auto* box = qobject_cast<const QMessageBox*>(&front))
@@ -281,6 +327,51 @@ bool DoWithNamed(QWidget& front, const QString& verb, const QString& name, const
     return true;
 }
 
+/// Whether a picture has a colour of that name, but for the shades at the edges of letters.
+bool HasInk(const QImage& picture, const QString& name)
+{
+    quint32 wanted = 0;
+    while (wanted < kColourCount && ColourName(wanted) != name)
+        ++wanted;
+    const auto isNear = [ink = PaletteColour(wanted).rgb()](QRgb seen) {
+        return std::abs(qRed(seen) - qRed(ink)) + std::abs(qGreen(seen) - qGreen(ink))
+            + std::abs(qBlue(seen) - qBlue(ink))
+            < 60;
+    };
+    for (int y = 0; wanted < kColourCount && y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (isNear(picture.pixel(x, y)))
+                return true;
+        }
+    }
+    return false;
+}
+
+/// Whether the look of something is as it is said to be; "look" takes it as it is.
+bool LooksSo(QWidget& front, const QString& verb, const QString& what)
+{
+    const auto spot = FindSpot(front, verb == u"ink" ? what.section(u" of "_s, 1) : what);
+    if (!spot)
+        return false;
+    const QImage seen = spot->widget->grab(spot->area).toImage();
+    if (verb == u"ink")
+        return HasInk(seen, what.section(u" of "_s, 0, 0));
+    const bool isSo = verb == u"look" || (seen == latestLook) == (verb == u"same");
+    if (isSo)
+        latestLook = seen;
+    return isSo;
+}
+
+/// Whether that page is in front, and its window is named after it.
+bool IsAt(const QWidget& front, const QString& title)
+{
+    const auto* page = qobject_cast<const Page*>(&front);
+    const bool isNamed = qobject_cast<const QMainWindow*>(front.window()) == nullptr
+        || front.window()->windowTitle()
+            == (title.isEmpty() || title == u"Quillory" ? u"Quillory"_s : title + u" – Quillory"_s);
+    return page != nullptr && page->Title() == title && isNamed;
+}
+
 /// The page that is seen beside the topmost; null where there is none.
 QWidget* Beside(QWidget* top)
 {
@@ -303,8 +394,8 @@ bool DoStep(QWidget* front, const QString& verb, const QString& what)
         return true;
     }
     const QString name = what.section(u": "_s, 0, 0);
-    const bool isNamed = what.contains(u": ")
-        && (ColumnOf(*front, name) >= 0 || front->findChild<QWidget*>(name) != nullptr);
+    const bool isNamed
+        = what.contains(u": ") && (ColumnOf(*front, name) >= 0 || Named(*front, name) != nullptr);
     if (isNamed)
         return DoWithNamed(*front, verb, name, what.section(u": "_s, 1));
     const QString text = what == u"nothing" ? QString() : what;
@@ -314,11 +405,19 @@ bool DoStep(QWidget* front, const QString& verb, const QString& what)
     if (verb == u"on")
         return SelectedIn(*front) == text;
     if (verb == u"at")
-        return qobject_cast<Page*>(front) != nullptr && static_cast<Page*>(front)->Title() == text;
+        return IsAt(*front, text);
+    if (verb == u"hear")
+        return latestHeard.contains(text) && (latestHeard.clear(), true);
+    if (verb == u"look" || verb == u"same" || verb == u"other" || verb == u"ink")
+        return LooksSo(*front, verb, what);
     if (verb == u"press")
         return Press(*front, what), true;
-    if (verb == u"type")
-        return QTest::keyClicks(QApplication::focusWidget(), what), true;
+    if (verb == u"type") {
+        // Whoever does not see it is told where he types.
+        QWidget* typed = QApplication::focusWidget();
+        QTest::keyClicks(typed, what);
+        return !QAccessible::queryAccessibleInterface(typed)->text(QAccessible::Name).isEmpty();
+    }
     const auto spot = FindSpot(*front, what);
     if (!spot || spot->isEnabled == (verb == u"cannot"))
         return false;
@@ -340,8 +439,11 @@ void Act(const QString& steps)
         QTest::qWait(0);
         if (!QTest::qWaitFor([&] { return DoStep(InFront(), verb, what); })) {
             const QWidget* front = InFront();
-            const QString seen = front == nullptr ? u"no window"_s : ReadFrom(*front, {});
-            QTest::qFail(qPrintable(step + u", but seen is "_s + seen), __FILE__, __LINE__);
+            const QString name = what.contains(u": ") ? what.section(u": "_s, 0, 0) : QString();
+            const QString seen = front == nullptr ? u"no window"_s : ReadFrom(*front, name);
+            QTest::qFail(qPrintable(step + u", but seen is "_s + seen + u", heard "_s
+                             + latestHeard.join(u", "_s).right(100)),
+                __FILE__, __LINE__);
         }
     }
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "listdef/import_order_page.h"
+#include "listdef/list_sheet.h"
 #include "tests/person.h"
 #include "tests/table.h"
 #include "tests/test_program.h"
@@ -10,11 +11,15 @@
 #include "widgets/colour_palette.h"
 #include "widgets/icon_grid.h"
 #include "widgets/icon_set.h"
+#include "widgets/ink.h"
+#include "widgets/page_stack.h"
+#include "widgets/window_style.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPointingDevice>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -112,6 +117,46 @@ private Q_SLOTS:
         QVERIFY(focused != picture());
     }
 
+    void whatIsDrawnByHandIsThere()
+    {
+        QApplication::setStyle(new AppStyle);
+        PageStack stack;
+        ApplyWindowStyle(&stack);
+        auto* page = new ListSheet(SheetMode::NewList, NewInventoryList(), NewInventoryList());
+        stack.Push(page);
+        auto* grid = new IconGrid(&stack);
+        stack.resize(360, 640);
+        stack.show();
+        Act(u"tap Options; tap warnOnCount"_s);
+        // Shares of a control that are of one colour, or of more.
+        const auto isDrawn = [](QWidget* control, double left, double right) {
+            const int x = static_cast<int>(control->width() * left);
+            const QImage part = control
+                                    ->grab({ x, 6, static_cast<int>(control->width() * right) - x,
+                                        control->height() - 12 })
+                                    .toImage();
+            return part != part.copy(0, 0, 1, 1).scaled(part.size());
+        };
+        const std::tuple<QString, double, double> parts[] { { u"title"_s, 0, .5 },
+            { u"warnOnCount"_s, .1, .9 }, { u"countColour"_s, .2, .5 },
+            { u"countColour"_s, .7, .9 }, { u"listIcon"_s, .1, .5 }, { u"nextIcon"_s, .3, .7 },
+            { u"previousIcon"_s, .3, .7 }, { u"allIcons"_s, .3, .7 }, { u"tabs"_s, 0, .3 } };
+        for (const auto& [name, left, right] : parts)
+            QVERIFY2(isDrawn(page->findChild<QWidget*>(name), left, right), qPrintable(name));
+        // A tick has the colour of what is chosen.
+        const QImage ticked = page->findChild<QWidget*>(u"warnOnCount"_s)->grab().toImage();
+        const QRgb accent = AccentInk(QApplication::palette()).rgb();
+        int accents = 0;
+        for (int place = 0; place < ticked.width() * ticked.height(); ++place)
+            accents += ticked.pixel(place % ticked.width(), place / ticked.width()) == accent;
+        QVERIFY(accents > 0);
+        grid->show();
+        grid->resize(60, 100);
+        QVERIFY(isDrawn(grid->verticalScrollBar(), 0, 1));
+        grid->resize(600, 600);
+        QVERIFY(!isDrawn(grid->verticalScrollBar(), 0, 1));
+    }
+
     void everyIconHasADrawingAndANameOfItsOwn()
     {
         QSet<QByteArray> drawings;
@@ -147,6 +192,7 @@ private Q_SLOTS:
         add("right in the grid", 7U, u"tap colour; press Right Return"_s, 13U, 1);
         add("up in the grid", 7U, u"tap colour; press Up Return"_s, 6U, 1);
         add("down in the grid", 7U, u"tap colour; press Down Return"_s, 8U, 1);
+        add("nor beyond its first", 6U, u"tap colour; press Up Return"_s, 6U, 1);
         add("not beyond its last line", 5U, u"tap colour; press Down Return"_s, 5U, 1);
         add("a tap, and one on what is shown already", 7U,
             u"tap colour; tap colour4; tap colour; tap colour4"_s, 1U, 2);

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTableView>
 
@@ -50,9 +51,18 @@ private Q_SLOTS:
         for (const QString& key : u"Down Tab Down Tab Down Tab Down Down"_s.split(u' ')) {
             Act(u"press "_s + key);
             controls << QString::number(View()->currentIndex().row()) + Focus()->objectName();
+            int shown = 0;
+            for (const QString& name : { u"valueEdit"_s, u"valueBox"_s, u"datePicker"_s })
+                shown += m_page->findChild<QWidget*>(name)->isVisible() ? 1 : 0;
+            QCOMPARE(shown, 1);
+            const auto hints = qobject_cast<QComboBox*>(Focus()) == nullptr
+                ? Focus()->inputMethodQuery(Qt::ImHints).toInt()
+                : 0;
+            controls.back() += QString::number(hints, 16);
         }
         QCOMPARE(controls.join(u' '),
-            u"1valueEdit 2valueEdit 3valueBox 4valueEdit 5valueEdit 6dateEdit 7dateEdit 7dateEdit"_s);
+            u"1valueEdit8 2valueEdit0 3valueBox0 4valueEdit20000 5valueEdit8 6dateEdit80 "
+            "7dateEdit80 7dateEdit80"_s);
         Act(u"press Up; on Bought; press Up; on Size; press Up; on Price; press Up; on Bio; "
             "press Up; on Shelf; press Up Up; on Name"_s);
         QVERIFY(!m_page->HasUnsavedInput());
@@ -134,7 +144,8 @@ private Q_SLOTS:
             QCOMPARE(m_file->Cells({ m_row }, field), shown);
             return;
         }
-        Act(u"see \"%1\" is not a date…; press Return; on %2; see dateEdit: %1"_s.arg(typed, name));
+        Act(u"see \"%1\" is not a date. Type it as in 6/15/2026, or pick it from the calendar.; press Return; on %2; see dateEdit: %1"_s
+                .arg(typed, name));
         QTRY_COMPARE(Focus(), edit);
         QVERIFY(m_page->HasUnsavedInput());
         Act(u"type 4/2/2027; tap OK"_s);
@@ -150,7 +161,9 @@ private Q_SLOTS:
         QCOMPARE(m_page->Texts()[Bought], QString());
         Act(u"press Alt+Down; press Right Return; see dateEdit: 6/16/2026"_s);
         QCOMPARE(m_page->Texts()[Bought], u"6/16/2026"_s);
-        Act(u"press Alt+Down; press Right Return; see dateEdit: 6/17/2026"_s);
+        Act(u"press Alt+Down; press Right Return; see dateEdit: 6/17/2026; "
+            "tap openCalendar; tap 20; see dateEdit: 6/20/2026; tap openCalendar; tap ›; "
+            "hear July 2026; tap 15; see dateEdit: 7/15/2026"_s);
         // A row that is not stored yet takes it back.
         Act(u"tap Name; tap Bought; fill dateEdit: ; tap Name"_s);
         QCOMPARE(Shown(Bought), QString());

@@ -6,6 +6,7 @@
 #include "tests/test_program.h"
 #include "values/file_date.h"
 #include "widgets/colour_palette.h"
+#include "widgets/window_style.h"
 
 #include <QLabel>
 #include <QScrollBar>
@@ -18,15 +19,16 @@ class PaintCounter : public QObject
 {
 public:
     explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
-    [[nodiscard]] int Count() const { return m_count; }
+    [[nodiscard]] bool Has(const QRect& place) const { return m_painted.contains(place.center()); }
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        m_count += event->type() == QEvent::Paint ? 1 : 0;
+        if (event->type() == QEvent::Paint)
+            m_painted += static_cast<QPaintEvent*>(event)->region();
         return QObject::eventFilter(watched, event);
     }
 
 private:
-    int m_count = 0;
+    QRegion m_painted;
 };
 
 } // namespace
@@ -68,7 +70,9 @@ private Q_SLOTS:
             Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
         else if (today == QDate(2026, 6, 15))
             QTest::keyClick(View(), Qt::Key_Plus);
-        QTRY_VERIFY_WITH_TIMEOUT(paints.Count() > 0, 1000);
+        // All rows may have other colours on another day, the last one has.
+        const int line = today == QDate(2026, 6, 15) ? 0 : 3;
+        QTRY_VERIFY_WITH_TIMEOUT(paints.Has(m_errand->Cell(line, Name)), 1000);
         QVERIFY(View()->viewport()->grab().toImage() != before);
     }
 
@@ -385,6 +389,76 @@ private Q_SLOTS:
         QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, beside);
         QVERIFY(ground() != before);
         Act(u"on salt"_s);
+    }
+
+    void everyTypeHasItsSide()
+    {
+        File().Add(
+            { u"a"_s, u"1"_s, u"b"_s, u"Checked"_s, u"1"_s, u"2"_s, u"1/2/2026"_s, u"1/2/2026"_s });
+        File().list.TableColSizes = u"150,150,150,150,150,150,150,150,"_s;
+        m_errand->Open();
+        ApplyWindowStyle(View()->window());
+        View()->window()->resize(1600, 480);
+        QTRY_VERIFY(View()->viewport()->width() > 1200);
+        // Left, right or in the middle: where there is more than the ground.
+        const auto sideOf = [](QImage image) {
+            image = image.copy(3, 3, image.width() - 6, image.height() - 6);
+            const auto isEmpty = [&image](int x) {
+                return image.copy(x, 0, 1, image.height()) == image.copy(0, 0, 1, image.height());
+            };
+            int left = 0;
+            int right = image.width() - 1;
+            while (left < right && isEmpty(left))
+                ++left;
+            while (left < right && isEmpty(right))
+                --right;
+            const int beyond = image.width() - 1 - right;
+            return std::abs(left - beyond) < 10 ? u'c' : left < beyond ? u'l' : u'r';
+        };
+        QString cells;
+        QString titles;
+        auto* header = View()->horizontalHeader();
+        for (int column = 0; column < header->count(); ++column) {
+            cells += sideOf(View()->viewport()->grab(m_errand->Cell(0, column)).toImage());
+            titles += sideOf(
+                header->viewport()->grab({ 150 * column, 0, 150, header->height() }).toImage());
+        }
+        QCOMPARE(cells, u"lrlcrrll"_s);
+        // Beside the mark of the order.
+        QCOMPARE(titles.mid(1), u"rlcrrll"_s);
+    }
+
+    void textsKeepOffTheEdgesOfTheirCells()
+    {
+        const QString name(90, u'w');
+        File().Add({ name, u"1234567890"_s, name, u"Checked"_s, u"1234567890"_s, u"1234567890"_s,
+            u"12/31/2026"_s, u"12/31/2026"_s });
+        File().list.TableOption = kWarnOnExpiry | kWarnOnCount;
+        File().list.TableColSizes = u"50,50,50,50,50,50,50,50,"_s;
+        m_errand->Open();
+        for (int column = 0; column < View()->model()->columnCount(); ++column) {
+            const QRect cell = m_errand->Cell(2, column).adjusted(0, 0, 0, -2);
+            for (const int x : { cell.left(), cell.right() - 2 }) {
+                const QImage edge
+                    = View()->viewport()->grab({ x, cell.y(), 3, cell.height() }).toImage();
+                QCOMPARE(edge, edge.copy(0, 0, 1, 1).scaled(edge.size()));
+            }
+        }
+    }
+
+    void columnsHaveRoom()
+    {
+        File().Add({ u"rice"_s, u"1234567890"_s });
+        m_errand->Open();
+        QVERIFY(
+            View()->columnWidth(Count) > View()->fontMetrics().horizontalAdvance(u"1234567890"_s));
+        for (const ObjectId row : File().rows->FillRows().rows)
+            File().rows->DeleteRow(row);
+        m_errand->Open();
+        for (const auto& [column, usual] :
+            { std::pair { Name, u"an ordinary name"_s }, { Count, u"10000"_s },
+                { Price, u"1,000.00"_s }, { Size, u"10000"_s }, { Bought, u"00/00/0000"_s } })
+            QVERIFY(View()->columnWidth(column) > View()->fontMetrics().horizontalAdvance(usual));
     }
 
     void aVanishedRowShowsErr()

@@ -64,7 +64,9 @@ private Q_SLOTS:
     {
         const auto [list, gesture, seen] = Table<List, Gesture, QString>::Row();
         Open(list);
+        m_page->findChild<QWidget*>(u"ok"_s)->setFocus();
         Do(gesture);
+        QVERIFY(gesture != Gesture::Tap || m_errand.stack->Top() != m_page || m_view->hasFocus());
         QCOMPARE(Seen(), seen);
     }
 

@@ -5,6 +5,7 @@
 #include "widgets/measures.h"
 #include "widgets/questions.h"
 
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QLabel>
 #include <QLayout>
@@ -88,6 +89,10 @@ protected:
         const int text = label->fontMetrics().horizontalAdvance(label->text()) + kGrid;
         const int room = parentWidget()->width() - beside - 2 * kGrid;
         m_isFitted = true;
+        // Answers that have no room beside each other lie one below the other.
+        auto* answers = findChild<QDialogButtonBox*>();
+        if (answers->sizeHint().width() > parentWidget()->width() - 4 * kGrid)
+            answers->setOrientation(Qt::Vertical);
         label->setWordWrap(true);
         label->setFixedWidth(std::max(kLeastText, std::min({ text, room, kMostText })));
         layout()->activate();
