@@ -94,9 +94,10 @@ void HomeList::BuildView()
     header->setSectionsClickable(true);
     header->setSortIndicatorShown(true);
     header->setSortIndicator(0, Qt::AscendingOrder);
-    m_help = MakeHelpButton(header->viewport());
-    auto* end = new QHBoxLayout(header->viewport());
-    end->setContentsMargins(0, 0, 2 * kGrid, 1);
+    // Not in the viewport, which moves what lies in it when it scrolls.
+    m_help = MakeHelpButton(header);
+    auto* end = new QHBoxLayout(header);
+    end->setContentsMargins(0, 0, 2 * kGrid, 0);
     end->addStretch(1);
     end->addWidget(m_help);
     Body()->addWidget(m_view);
@@ -107,7 +108,7 @@ void HomeList::resizeEvent(QResizeEvent* event)
 {
     const int high = FrameMeasures(height()).headerHeight;
     m_view->header()->setMinimumHeight(high);
-    m_help->setFixedSize(high, high - 1);
+    m_help->setFixedSize(high, high);
     Page::resizeEvent(event);
 }
 

@@ -118,7 +118,7 @@ inline const std::array kPages {
         [](Subject&) -> Page* { return new HelpPage(u"newlist"_s); } },
     PageCase { "about", kOk, false, u"Main_Contents"_s, u"Help, OK"_s, Make<AboutPage> },
     // Return opens the selected list.
-    PageCase { "lists", {}, false, {}, u"New, Menu, Inventory List"_s,
+    PageCase { "lists", {}, false, {}, u"Help, New, Menu, Inventory List"_s,
         [](Subject& subject) -> Page* {
             auto* page = new HomeList;
             page->Fill(subject.file.catalogue->FillHomeList().lists);

@@ -283,7 +283,8 @@ private Q_SLOTS:
         }
         for (auto* control : page.findChildren<QAbstractButton*>()) {
             if (!control->isVisible() || !control->isEnabled()
-                || control->parentWidget()->objectName() == u"header")
+                || control->parentWidget()->objectName() == u"header"
+                || control->objectName() == u"help")
                 continue;
             control->setChecked(true);
             const QImage enabled = control->grab().toImage();

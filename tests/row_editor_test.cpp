@@ -61,7 +61,7 @@ private Q_SLOTS:
             controls.back() += QString::number(hints, 16);
         }
         QCOMPARE(controls.join(u' '),
-            u"1valueEdit8 2valueEdit0 3valueBox0 4valueEdit20000 5valueEdit8 6dateEdit80 "
+            u"1valueEdit20000 2valueEdit0 3valueBox0 4valueEdit20000 5valueEdit20000 6dateEdit80 "
             "7dateEdit80 7dateEdit80"_s);
         Act(u"press Up; on Bought; press Up; on Size; press Up; on Price; press Up; on Bio; "
             "press Up; on Shelf; press Up Up; on Name"_s);

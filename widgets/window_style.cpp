@@ -96,18 +96,21 @@ public:
     /// Works the style out. A change that is told again, as at the start, costs nothing.
     void Dress()
     {
-        const QString sheet = StyleSheet(*m_window);
-        if (sheet == m_window->styleSheet() && QApplication::font() == m_font
+        const Measures* frame = &FrameMeasures(m_window->height());
+        if (frame == m_frame && QApplication::font() == m_font
             && QApplication::palette() == m_palette)
             return;
+        m_frame = frame;
         m_font = QApplication::font();
         m_palette = QApplication::palette();
+        // The colours of a dressed window are partly the style's own.
         m_window->setStyleSheet(QString());
-        m_window->setStyleSheet(sheet);
+        m_window->setStyleSheet(StyleSheet(*m_window));
     }
 
 private:
     QWidget* m_window;
+    const Measures* m_frame = nullptr;
     QFont m_font;
     QPalette m_palette;
 

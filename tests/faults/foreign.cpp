@@ -80,8 +80,8 @@ constexpr std::array kBeginnings {
 
 /// The program must refuse the file, say why, and leave it and its folder as they were. `reason` is
 /// the one it has to give; None for any.
-void Refuse(FaultRun& run, const QString& what, const Files& files,
-    ErrorNumber reason = ErrorNumber::None)
+void Refuse(
+    FaultRun& run, const QString& what, const Files& files, ErrorNumber reason = ErrorNumber::None)
 {
     run.Place(files);
     ErrorNumber error = ErrorNumber::None;
