@@ -306,21 +306,6 @@ private Q_SLOTS:
         QCOMPARE(asked.value(0).value(0).toString(), kPages.at(static_cast<size_t>(page)).help);
     }
 
-    void everyControlHasAName_data() { anOpenPageFollowsTheFont_data(); }
-
-    void everyControlHasAName()
-    {
-        const auto [page] = Table<int>::Row();
-        Subject subject;
-        Show(subject, kPages.at(static_cast<size_t>(page)));
-        for (QWidget* control : subject.page->findChildren<QWidget*>()) {
-            const auto* heard = QAccessible::queryAccessibleInterface(control);
-            if (control->isVisible() && control->focusPolicy() != Qt::NoFocus)
-                QVERIFY2(
-                    !heard->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
-        }
-    }
-
     void everyPageEndsAsItsUserSays()
     {
         const auto [page, way] = Table<int, QString>::Row();
