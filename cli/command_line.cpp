@@ -7,6 +7,7 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QRegularExpression>
 
 #include <unistd.h>
 
@@ -151,6 +152,26 @@ void RunBare(
     FailUsage(isRight ? u"no command is named"_s : parser.errorText());
 }
 
+/// A number below 0 is an operand, no option: it goes behind all options. Not where it is the value
+/// of one.
+QStringList WithNumbersLast(QStringList arguments, const SubCommand& command)
+{
+    static const QRegularExpression number(u"^-[0-9]+$"_s);
+    QStringList numbers;
+    for (qsizetype i = arguments.size() - 1; i >= 0; --i) {
+        const QString before = arguments.value(i - 1);
+        const bool isValue = before == u"--data"
+            || std::ranges::any_of(command.valueOptions, [&before](const char* option) {
+                   return before == u"--"_s + QLatin1StringView(option);
+               });
+        if (number.match(arguments[i]).hasMatch() && !isValue)
+            numbers.prepend(arguments.takeAt(i));
+    }
+    if (!numbers.isEmpty() && !arguments.contains(u"--"))
+        arguments << u"--"_s;
+    return arguments + numbers;
+}
+
 void Dispatch(const QStringList& arguments, const SubCommand* command,
     const CommandEnvironment& environment, TextOutput& output, bool& found)
 {
@@ -160,7 +181,7 @@ void Dispatch(const QStringList& arguments, const SubCommand* command,
     rest.removeAt(SubCommandPlace(arguments));
     QCommandLineParser parser;
     AddOptions(parser, command);
-    if (!Parse(parser, rest))
+    if (!Parse(parser, WithNumbersLast(rest, *command)))
         FailUsage(parser.errorText());
     if (parser.isSet(u"help"_s))
         return output.WriteRaw(HelpText(*command, environment));

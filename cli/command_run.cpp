@@ -25,6 +25,12 @@ void FailUsage(const QString& message)
     throw CommandFailure(ExitCode::WrongUsage, message);
 }
 
+void CheckListName(const QString& name)
+{
+    if (name.isEmpty() || name.size() > kMaxListNameLength)
+        FailUsage(u"a list's name has 1 to %1 characters"_s.arg(kMaxListNameLength));
+}
+
 void Complain(QIODevice& errors, const QString& message)
 {
     errors.write("quillory: " + message.toUtf8() + '\n');

@@ -35,6 +35,8 @@ class WriterWaits : public std::exception
 
 [[noreturn]] void Fail(const QString& message);
 [[noreturn]] void FailUsage(const QString& message);
+/// Ends the command unless a list may have this name.
+void CheckListName(const QString& name);
 /// Writes a message as a line of its own to standard error.
 void Complain(QIODevice& errors, const QString& message);
 /// Fails if a listing of the catalogue lacks lists. What could be read was shown.

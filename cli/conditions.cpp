@@ -158,6 +158,30 @@ FilterSet ReadConditions(
     return filters;
 }
 
+PropertyValue ReadAssignment(
+    const QString& text, const InventoryList& list, const ValueContext& context)
+{
+    const auto columns = ColumnsBeginning(text, list);
+    const auto named = std::ranges::find_if(columns,
+        [&text](const auto* column) { return text.sliced(column->name.size()).startsWith(u'='); });
+    if (named == columns.end())
+        FailUsage(u"“%1” is not COLUMN=VALUE with one of the list's columns"_s.arg(text));
+    const PropertyId id = (*named)->id;
+    const QString value = FilterValue(id, text.sliced((*named)->name.size() + 1), context);
+    if (ColumnTypeOf(id) == ColumnType::Checkbox)
+        return { id, 0, value == u"T" };
+    // With a point before decimals, as a filter has it.
+    return ParseImportText(id, value, context).value_or(PropertyValue { id, 0, {} });
+}
+
+const ColumnDefinition& FindColumn(PropertyId id, const InventoryList& list)
+{
+    const auto found = std::ranges::find(list.columns, id, &ColumnDefinition::id);
+    if (found == list.columns.end())
+        Fail(u"the list has no such column"_s);
+    return *found;
+}
+
 const ColumnDefinition& FindColumn(const QString& name, const InventoryList& list)
 {
     const auto found = std::find_if(list.columns.begin(), list.columns.end(),

@@ -126,8 +126,7 @@ void RunNew(const CommandRun& run)
     constexpr qint32 kLastIcon = 42;
     InventoryList list = NewInventoryList();
     list.Name = run.operands.front();
-    if (list.Name.isEmpty() || list.Name.size() > kMaxListNameLength)
-        FailUsage(u"a list's name has 1 to %1 characters"_s.arg(kMaxListNameLength));
+    CheckListName(list.Name);
     AddColumns(list, run.parser.values(u"column"_s));
     SetWarnings(list, run.parser);
     if (run.parser.isSet(u"icon"_s))

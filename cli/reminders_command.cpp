@@ -3,6 +3,7 @@
 
 #include <sys/wait.h>
 
+#include <array>
 #include <cstdio>
 
 namespace Quillory {
@@ -19,10 +20,10 @@ bool ControlTimer(const QString& what, QByteArray* printed = nullptr)
         = popen(qPrintable(u"systemctl --user %1 quillory-reminders.timer"_s.arg(what)), "r");
     if (pipe == nullptr)
         Fail(u"reminders need systemctl, which cannot be started"_s);
-    QByteArray output(64, '\0');
-    output.truncate(static_cast<qsizetype>(fread(output.data(), 1, output.size(), pipe)));
+    std::array<char, 64> output {};
+    const size_t length = fread(output.data(), 1, output.size(), pipe);
     if (printed != nullptr)
-        *printed = output.trimmed();
+        *printed = QByteArray(output.data(), static_cast<qsizetype>(length)).trimmed();
     const int status = pclose(pipe);
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }

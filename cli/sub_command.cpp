@@ -24,6 +24,8 @@ constexpr std::array kImportOptions { "columns", "encoding" };
 constexpr std::array kSummaryOptions { "where" };
 constexpr std::array kDueFlags { "ics", "json", "notify" };
 constexpr std::array kDueOptions { "within" };
+constexpr std::array kChangeFlags { "dry-run" };
+constexpr std::array kWhereOption { "where" };
 constexpr std::array kRestoreFlags { "json", "salvage" };
 constexpr std::array kRestoreOptions { "from" };
 
@@ -100,6 +102,39 @@ constexpr const char* kRemindersHelp
     = "Turns a notification each morning of what is due on or off, or prints whether it is on.\n"
       "Needs systemd, whose timer quillory-reminders then runs \"quillory due --notify\".\n";
 
+constexpr const char* kAddHelp = "Adds a row with these values and prints 1. Numbers are read as "
+                                 "they are shown, a checkbox is\n"
+                                 "Checked or Unchecked.\n"
+                                 "\n"
+                                 "  --dry-run            stores nothing\n";
+
+constexpr const char* kSetHelp
+    = "Gives all rows that meet the conditions these values, or none of them if one cannot be\n"
+      "stored, and prints how many there are.\n"
+      "\n"
+      "  --dry-run            stores nothing\n";
+
+constexpr const char* kCountHelp
+    = "Counts all rows that meet the conditions up by +N or down by -N, or none of them if one\n"
+      "cannot be stored, and prints how many there are.\n"
+      "\n"
+      "  --dry-run            stores nothing\n";
+
+constexpr const char* kDeleteHelp = "Deletes all rows that meet the conditions, or none of them if "
+                                    "one cannot be, and prints how\n"
+                                    "many there are.\n"
+                                    "\n"
+                                    "  --dry-run            deletes nothing\n";
+
+constexpr const char* kRenameHelp = "Gives a list another name and prints nothing.\n"
+                                    "\n"
+                                    "  --dry-run            stores nothing\n";
+
+constexpr const char* kRemoveHelp
+    = "Deletes a list with all its rows and prints how many these are.\n"
+      "\n"
+      "  --dry-run            deletes nothing\n";
+
 constexpr const char* kCheckHelp
     = "Reads the whole data file. Prints \"ok\", or what is wrong and exits with 1.\n";
 
@@ -122,6 +157,9 @@ constexpr const char* kRestoreHelp
       "                       is; the data file is only read\n"
       "  --json               an object per copy and per list\n";
 
+/// The list, and a value for each column.
+constexpr qsizetype kMostOperands = 1 + qsizetype { kMaxColumns };
+
 constexpr std::array kSubCommands {
     SubCommand { "lists", "[--json]", kListsHelp, 0, 0, kJsonFlag, {}, &RunLists },
     SubCommand { "new",
@@ -137,6 +175,17 @@ constexpr std::array kSubCommands {
     SubCommand { "due", "[--within DAYS] [--json | --ics | --notify]", kDueHelp, 0, 0, kDueFlags,
         kDueOptions, &RunDue },
     SubCommand { "reminders", "[on | off]", kRemindersHelp, 0, 1, {}, {}, &RunReminders },
+    SubCommand { "add", "LIST COLUMN=VALUE... [--dry-run]", kAddHelp, 1, kMostOperands,
+        kChangeFlags, {}, &RunAdd },
+    SubCommand { "set", "LIST --where CONDITION... COLUMN=VALUE... [--dry-run]", kSetHelp, 1,
+        kMostOperands, kChangeFlags, kWhereOption, &RunSet },
+    SubCommand { "count", "LIST --where CONDITION... +N|-N [--dry-run]", kCountHelp, 2, 2,
+        kChangeFlags, kWhereOption, &RunCount },
+    SubCommand { "delete", "LIST --where CONDITION... [--dry-run]", kDeleteHelp, 1, 1, kChangeFlags,
+        kWhereOption, &RunDelete },
+    SubCommand {
+        "rename", "LIST NAME [--dry-run]", kRenameHelp, 2, 2, kChangeFlags, {}, &RunRename },
+    SubCommand { "remove", "LIST [--dry-run]", kRemoveHelp, 1, 1, kChangeFlags, {}, &RunRemove },
     SubCommand { "check", "", kCheckHelp, 0, 0, {}, {}, &RunCheck },
     SubCommand { "backup", "FILE", kBackupHelp, 1, 1, {}, {}, &RunBackup },
     SubCommand { "restore", "[--json | FILE --from N | FILE --salvage]", kRestoreHelp, 0, 1,

@@ -66,7 +66,7 @@ complete -c quillory -n 'string match -q -- "-*" (commandline -ct)' -a '(__quill
 set -l value --data --sort --columns --where --encoding --column --icon --warn-count --within --from
 complete -c quillory -n "not __quillory_after $value; and test (count (__quillory_words)) = 0" \
     -a '(__quillory_commands) (__quillory_lists)'
-complete -c quillory -n "not __quillory_after $value; and __quillory_wants 1 show export import summary" \
+complete -c quillory -n "not __quillory_after $value; and __quillory_wants 1 show export import summary add set count delete rename remove" \
     -a '(__quillory_lists)'
 complete -c quillory -n "not __quillory_after $value; and __quillory_wants 2 export import" -F
 complete -c quillory -n "not __quillory_after $value; and __quillory_wants 1 backup restore" -F
