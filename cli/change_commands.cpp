@@ -47,8 +47,8 @@ public:
     {
         if (!m_isDryRun && !rows.empty()) {
             Transaction transaction(m_data->volume);
-            const bool isDone = transaction && std::ranges::all_of(rows, change)
-                && transaction.Commit();
+            const bool isDone
+                = transaction && std::ranges::all_of(rows, change) && transaction.Commit();
             if (!isDone)
                 FailToWrite();
             m_run.KeepCopyOf(*m_data);
@@ -109,9 +109,8 @@ void RunSet(const CommandRun& run)
 {
     const ChangedList changed(run);
     const auto values = ReadAssignments(run, changed.Data().list);
-    changed.Change(changed.ChosenRows(), [&](ObjectId row) {
-        return changed.Data().volume.Write(kRowRecords, row, values) == row;
-    });
+    changed.Change(changed.ChosenRows(),
+        [&](ObjectId row) { return changed.Data().volume.Write(kRowRecords, row, values) == row; });
 }
 
 void RunCount(const CommandRun& run)
@@ -130,8 +129,9 @@ void RunCount(const CommandRun& run)
         const qint64 count = step + (stored.IsMissing() ? 0 : std::get<qint32>(stored.value));
         if (count != static_cast<qint32>(count))
             Fail(u"nothing was changed: a quantity would be %1"_s.arg(count));
-        const std::array<PropertyValue, 1> values { { { PropCount, 0,
-            static_cast<qint32>(count) } } };
+        const std::array<PropertyValue, 1> values {
+            { { PropCount, 0, static_cast<qint32>(count) } }
+        };
         return volume.Write(kRowRecords, row, values) == row;
     });
 }
@@ -139,9 +139,8 @@ void RunCount(const CommandRun& run)
 void RunDelete(const CommandRun& run)
 {
     const ChangedList changed(run);
-    changed.Change(changed.ChosenRows(), [&](ObjectId row) {
-        return changed.Data().volume.DeleteRecord(kRowRecords, row);
-    });
+    changed.Change(changed.ChosenRows(),
+        [&](ObjectId row) { return changed.Data().volume.DeleteRecord(kRowRecords, row); });
 }
 
 void RunRename(const CommandRun& run)

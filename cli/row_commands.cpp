@@ -89,7 +89,7 @@ public:
         }
         if (m_json.IsWanted())
             m_keys = UniqueKeys(names);
-        else
+        else if (!run.parser.isSet(u"no-header"_s))
             run.output.WriteFields(names);
     }
 
@@ -144,9 +144,46 @@ private:
         [&printer](const ScannedRecord& row) { return printer.Print(row); });
 }
 
+/// A text without what differs in case or accents alone.
+QString Folded(const QString& text)
+{
+    QString folded = text.normalized(QString::NormalizationForm_KD);
+    folded.removeIf([](QChar unit) { return unit.category() == QChar::Mark_NonSpacing; });
+    return folded.toCaseFolded();
+}
+
+/// Visits the texts of each row of the open list, in the order of its columns.
+[[nodiscard]] Database::VisitOutcome VisitCellTexts(
+    const CommandRun& run, CommandData& data, const std::function<void(const QStringList&)>& visit)
+{
+    std::vector<PropertyId> ids;
+    std::vector<PropertyValue> values;
+    for (const ColumnDefinition& column : data.list.columns) {
+        ids.push_back(column.id);
+        values.push_back({ column.id, 0, {} });
+    }
+    const ValueContext& context = run.environment.context;
+    return ScanPastDamage(data.Rows(), ids, nullptr, context, [&](const ScannedRecord& row) {
+        QStringList texts;
+        for (size_t i = 0; i < values.size(); ++i) {
+            row.Read(i, values[i]);
+            texts << CellText(values[i], context);
+        }
+        visit(texts);
+        return !run.output.HasFailed();
+    });
+}
+
+/// Another order than that of names.
+struct RowOrder
+{
+    std::optional<PropertyId> column;
+    bool isDescending = false;
+};
+
 /// Holds the identifiers of the rows, not the rows.
 [[nodiscard]] Database::VisitOutcome PrintSorted(CommandData& data, const FilterSet& filters,
-    PropertyId column, const ValueContext& context, RowPrinter& printer)
+    const RowOrder& order, const ValueContext& context, RowPrinter& printer)
 {
     std::vector<ObjectId> rows;
     const auto listed
@@ -154,8 +191,12 @@ private:
               rows.push_back(row.Oid());
               return true;
           });
-    const Listing sorted
-        = RowStore(data.volume, data.list, context).SortRows(std::move(rows), column);
+    Listing sorted { std::move(rows) };
+    if (order.column)
+        sorted = RowStore(data.volume, data.list, context)
+                     .SortRows(std::move(sorted.rows), *order.column);
+    if (order.isDescending)
+        std::ranges::reverse(sorted.rows);
     const auto printed = data.Rows().VisitEach(sorted.rows, printer.Ids(),
         [&printer](const ScannedRecord& row) { return printer.Print(row); });
     // Rows that cannot be read cannot be sorted either: the others are in the order of names then.
@@ -173,12 +214,13 @@ void RunShow(const CommandRun& run)
     const auto data = run.OpenForReading();
     data->OpenList(run.operands.front());
     const FilterSet filters = ReadConditions(run.parser.values(u"where"_s), data->list, context);
-    std::optional<PropertyId> sortColumn;
+    RowOrder order { {}, run.parser.isSet(u"descending"_s) };
     if (run.parser.isSet(u"sort"_s))
-        sortColumn = FindColumn(run.parser.value(u"sort"_s), data->list).id;
+        order.column = FindColumn(run.parser.value(u"sort"_s), data->list).id;
     RowPrinter printer(run, ShownColumns(data->list));
-    const auto printed = sortColumn ? PrintSorted(*data, filters, *sortColumn, context, printer)
-                                    : PrintByName(*data, filters, context, printer);
+    const auto printed = order.column || order.isDescending
+        ? PrintSorted(*data, filters, order, context, printer)
+        : PrintByName(*data, filters, context, printer);
     printer.End();
     FailIfRowsAreMissing(printed);
 }
@@ -200,6 +242,34 @@ void RunSummary(const CommandRun& run)
             run.output.WriteFields({ total.name, total.text });
     }
     json.End();
+}
+
+void RunFind(const CommandRun& run)
+{
+    const QString wanted = Folded(run.operands.front());
+    const auto data = run.OpenForReading();
+    JsonArrayWriter json(run.output, run.IsJson());
+    const auto findInRow = [&](const QStringList& texts) {
+        const InventoryList& list = data->list;
+        const auto name = std::ranges::find(list.columns, PropName, &ColumnDefinition::id);
+        const QString row = texts.value(name - list.columns.begin());
+        for (qsizetype i = 0; i < texts.size(); ++i) {
+            const QString& column = list.columns[static_cast<size_t>(i)].name;
+            if (!Folded(texts[i]).contains(wanted))
+                continue;
+            if (json.IsWanted())
+                json.Add({ { u"list"_s, list.Name }, { u"row"_s, row }, { u"column"_s, column },
+                    { u"text"_s, texts[i] } });
+            else
+                run.output.WriteFields({ list.Name, row, column, texts[i] });
+        }
+    };
+    run.VisitLists(
+        *data,
+        [&](const ListCatalogue::HomeListEntry&) {
+            FailIfRowsAreMissing(VisitCellTexts(run, *data, findInRow));
+        },
+        [&json] { json.End(); });
 }
 
 } // namespace Quillory

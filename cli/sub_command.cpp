@@ -18,6 +18,7 @@ namespace {
 constexpr std::array kJsonFlag { "json" };
 constexpr std::array kNewFlags { "create", "warn-expiry" };
 constexpr std::array kNewOptions { "column", "icon", "warn-count" };
+constexpr std::array kShowFlags { "descending", "json", "no-header" };
 constexpr std::array kShowOptions { "sort", "where" };
 constexpr std::array kImportFlags { "dry-run" };
 constexpr std::array kImportOptions { "columns", "encoding" };
@@ -57,7 +58,15 @@ constexpr const char* kShowHelp
       "fields. Control characters in texts are shown as blanks.\n"
       "\n"
       "  --sort COLUMN        in ascending order of a column\n"
+      "  --descending         the other way round\n"
+      "  --no-header          without the line of column names\n"
       "  --json               an object per row; dates as YYYY-MM-DD, missing values as null\n";
+
+constexpr const char* kFindHelp = "Looks for a text in every column of every list, whatever its "
+                                  "case and accents, and prints a\n"
+                                  "line per value that has it: list TAB row TAB column TAB value.\n"
+                                  "\n"
+                                  "  --json               list, row, column and text of each\n";
 
 constexpr const char* kExportHelp
     = "Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each\n"
@@ -165,8 +174,10 @@ constexpr std::array kSubCommands {
     SubCommand { "new",
         "LIST [--column NAME:TYPE]... [--warn-count N] [--warn-expiry] [--icon N] [--create]",
         kNewHelp, 1, 1, kNewFlags, kNewOptions, &RunNew },
-    SubCommand { "show", "LIST [--where CONDITION]... [--sort COLUMN] [--json]", kShowHelp, 1, 1,
-        kJsonFlag, kShowOptions, &RunShow },
+    SubCommand { "show",
+        "LIST [--where CONDITION]... [--sort COLUMN] [--descending] [--no-header | --json]",
+        kShowHelp, 1, 1, kShowFlags, kShowOptions, &RunShow },
+    SubCommand { "find", "TEXT [--json]", kFindHelp, 1, 1, kJsonFlag, {}, &RunFind },
     SubCommand { "export", "LIST [FILE]", kExportHelp, 1, 2, {}, {}, &RunExport },
     SubCommand { "import", "LIST FILE [--columns \"A,B\"] [--encoding NAME] [--dry-run]",
         kImportHelp, 2, 2, kImportFlags, kImportOptions, &RunImport },

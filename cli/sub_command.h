@@ -26,6 +26,7 @@ struct SubCommand
 
 void RunLists(const CommandRun& run);
 void RunNew(const CommandRun& run);
+void RunFind(const CommandRun& run);
 void RunShow(const CommandRun& run);
 void RunExport(const CommandRun& run);
 void RunImport(const CommandRun& run);
