@@ -333,7 +333,7 @@ private Q_SLOTS:
             QGuiApplication::setLayoutDirection(direction);
             m_errand->Open();
             m_errand->stack->resize(400, 300);
-            const auto place = [this, direction](const QWidget* in, int x, int y) {
+            const auto place = [direction](const QWidget* in, int x, int y) {
                 return QPoint(direction == Qt::LeftToRight ? x : in->width() - 1 - x, y);
             };
             QWidget* lines = View()->viewport();
