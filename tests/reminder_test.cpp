@@ -9,7 +9,7 @@
 
 namespace {
 
-const QList<ReminderRow> kRows { { u"Pantry"_s, u"Salt & <b>"_s, u"low"_s },
+const QList<ReminderRow> kReminded { { u"Pantry"_s, u"Salt & <b>"_s, u"low"_s },
     { u"Drugs"_s, u"Pills"_s, u"expired"_s }, { u"Pantry"_s, u"Tea"_s, u"low"_s } };
 
 /// The desktop's side: shows nothing and answers by a key.
@@ -70,7 +70,7 @@ private Q_SLOTS:
                  { u"list-1"_s, u"Drugs"_s }, { u"list-9"_s, u""_s }, { u""_s, u""_s } }) {
             desktop.answer = answer;
             int shown = 0;
-            const ReminderAnswer heard = Remind(bus, kRows, 10000, [&shown] { ++shown; });
+            const ReminderAnswer heard = Remind(bus, kReminded, 10000, [&shown] { ++shown; });
             QCOMPARE(heard.list, list);
             QCOMPARE(heard.failure, QString());
             QCOMPARE(heard.activationToken, answer.isEmpty() ? QString() : u"may come"_s);
@@ -80,7 +80,7 @@ private Q_SLOTS:
             (QStringList { u"Quillory"_s, u"3 rows are due"_s,
                 u"Pantry: Salt &amp; &lt;b&gt; (low), Tea (low)\nDrugs: Pills (expired)"_s,
                 u"default"_s, u"Open"_s, u"list-0"_s, u"Pantry"_s, u"list-1"_s, u"Drugs"_s }));
-        static_cast<void>(Remind(bus, kRows.mid(1, 1), 10000, [] {}));
+        static_cast<void>(Remind(bus, kReminded.mid(1, 1), 10000, [] {}));
         QCOMPARE(desktop.shown[1], u"Pills has expired"_s);
         QDBusConnection::disconnectFromPeer(u"desktop"_s);
     }
@@ -90,16 +90,16 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"quillory/reminded"_s);
         const QDate monday(2026, 6, 15);
-        QCOMPARE(ReminderMemory(path).NewsIn(kRows).size(), 3);
-        QVERIFY(ReminderMemory(path).Store(kRows.mid(1), monday));
+        QCOMPARE(ReminderMemory(path).NewsIn(kReminded).size(), 3);
+        QVERIFY(ReminderMemory(path).Store(kReminded.mid(1), monday));
         QVERIFY(ReminderMemory(path).WasToldOn(monday));
         QVERIFY(!ReminderMemory(path).WasToldOn(monday.addDays(1)));
-        QCOMPARE(ReminderMemory(path).NewsIn(kRows).size(), 1);
-        QCOMPARE(ReminderMemory(path).NewsIn(kRows).front().row, u"Salt & <b>"_s);
+        QCOMPARE(ReminderMemory(path).NewsIn(kReminded).size(), 1);
+        QCOMPARE(ReminderMemory(path).NewsIn(kReminded).front().row, u"Salt & <b>"_s);
         // What was bought and ran low again is news; the day stays.
         QVERIFY(ReminderMemory(path).Store({}));
         QVERIFY(ReminderMemory(path).WasToldOn(monday));
-        QCOMPARE(ReminderMemory(path).NewsIn(kRows).size(), 3);
+        QCOMPARE(ReminderMemory(path).NewsIn(kReminded).size(), 3);
     }
 };
 
