@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "transfer/separated_text.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QChar kQuote(u'"');
+
+} // namespace
+
+void AppendSeparatedField(QString& line, const QString& field, QChar separator)
+{
+    const bool isPlain = !field.isEmpty() && std::ranges::none_of(field, [separator](QChar unit) {
+        return unit == separator || unit == kQuote || unit == u'\r' || unit == u'\n'
+            || unit == QChar::ByteOrderMark;
+    });
+    if (isPlain) {
+        line += field;
+        return;
+    }
+    QString doubled = field;
+    line += kQuote + doubled.replace(kQuote, u"\"\""_s) + kQuote;
+}
+
+SeparatedReader::SeparatedReader(QIODevice& source)
+    : m_source(source)
+{
+    if (HasUnit() && m_text.front() == QChar::ByteOrderMark)
+        m_text.remove(0, 1);
+}
+
+bool SeparatedReader::Next()
+{
+    // What is in front of the row is let go of now and then, so that each goes once.
+    if (m_place > m_text.size() / 2) {
+        m_text.remove(0, m_place);
+        m_place = 0;
+    }
+    m_rowPlace = m_place;
+    m_rowLine = m_line;
+    m_fields.clear();
+    while (SkipLineEnd()) { }
+    if (!m_fault.isEmpty() || !HasUnit())
+        return false;
+    do {
+        ReadField();
+    } while (m_fault.isEmpty() && HasUnit() && m_text[m_place] == m_separator
+        && ++m_place > 0);
+    if (m_fault.isEmpty() && !IsAtLineEnd())
+        m_fault = u"a closing quote is followed by text"_s;
+    if (m_fault.isEmpty())
+        SkipLineEnd();
+    return m_fault.isEmpty();
+}
+
+void SeparatedReader::GoBack()
+{
+    m_place = m_rowPlace;
+    m_line = m_rowLine;
+    m_fault.clear();
+}
+
+/// Whether there is a unit at the current place.
+bool SeparatedReader::HasUnit()
+{
+    constexpr qint64 kPartBytes = 65'536;
+    if (m_place < m_text.size())
+        return true;
+    QByteArray bytes;
+    do {
+        const QByteArray part = m_source.read(bytes.isEmpty() ? kPartBytes : 1);
+        if (part.isEmpty())
+            break;
+        bytes += part;
+    } while (bytes.size() % qsizetype { sizeof(char16_t) } != 0);
+    const qsizetype units = bytes.size() / qsizetype { sizeof(char16_t) };
+    const qsizetype before = m_text.size();
+    m_text.resize(before + units);
+    qFromLittleEndian<quint16>(bytes.constData(), units, m_text.data() + before);
+    return units > 0;
+}
+
+bool SeparatedReader::IsAtLineEnd()
+{
+    return !HasUnit() || m_text[m_place] == u'\r' || m_text[m_place] == u'\n';
+}
+
+/// False where there is no end of a line.
+bool SeparatedReader::SkipLineEnd()
+{
+    if (!HasUnit() || !IsAtLineEnd())
+        return false;
+    QString skipped;
+    Take(skipped);
+    if (skipped == u"\r" && HasUnit() && m_text[m_place] == u'\n')
+        Take(skipped);
+    return true;
+}
+
+/// Takes a unit, and counts the line that it may begin.
+void SeparatedReader::Take(QString& text)
+{
+    const QChar unit = m_text[m_place++];
+    const bool isAfterReturn = m_place > 1 && m_text[m_place - 2] == u'\r';
+    m_line += unit == u'\r' || (unit == u'\n' && !isAfterReturn) ? 1 : 0;
+    text += unit;
+}
+
+void SeparatedReader::ReadQuoted(SeparatedField& field)
+{
+    field.isQuoted = true;
+    ++m_place;
+    while (field.text.size() <= kMaxSeparatedField) {
+        if (!HasUnit()) {
+            m_line = field.line;
+            m_fault = u"a quote is not closed"_s;
+            return;
+        }
+        if (m_text[m_place] == kQuote) {
+            ++m_place;
+            if (!HasUnit() || m_text[m_place] != kQuote)
+                return;
+        }
+        Take(field.text);
+    }
+}
+
+void SeparatedReader::ReadField()
+{
+    SeparatedField& field = m_fields.emplace_back();
+    field.line = m_line;
+    if (HasUnit() && m_text[m_place] == kQuote) {
+        ReadQuoted(field);
+    } else {
+        while (!IsAtLineEnd() && m_text[m_place] != m_separator
+            && field.text.size() <= kMaxSeparatedField)
+            field.text += m_text[m_place++];
+    }
+    if (field.text.size() > kMaxSeparatedField) {
+        m_line = field.line;
+        m_fault = u"a field is longer than %1 characters"_s.arg(kMaxSeparatedField);
+    }
+}
+
+} // namespace Quillory
