@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/command_run.h"
 #include "cli/conditions.h"
-#include "cli/encoding.h"
+#include "cli/table_files.h"
+#include "cli/text_source.h"
 #include "res/string_table.h"
 #include "store/data_file_check.h"
-#include "transfer/list_file.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
 
@@ -15,37 +15,6 @@ namespace Quillory {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// An operand or option value that stands for a standard stream.
-bool IsStream(const QString& path)
-{
-    return path == u"-";
-}
-
-/// Writes what can be read of the list. Nothing waits for whoever reads the target.
-[[nodiscard]] Database::VisitOutcome ExportTo(const CommandRun& run, TextOutput& target)
-{
-    const auto data = run.OpenForReading();
-    data->OpenList(run.operands.front());
-    const ExportOutcome outcome
-        = ExportRows(data->Rows(), data->list, run.environment.context, target);
-    return { outcome.passedOver, outcome.readError };
-}
-
-/// Runs an import from a file or the standard input.
-template <typename Import>
-ImportOutcome ImportFrom(const CommandRun& run, const QString& path,
-    const std::optional<QStringConverter::Encoding>& unicode, const Import& import)
-{
-    const ListFile file = IsStream(path) ? ListFile() : OpenListFile(path, run.DataFile());
-    if (!file.failure.isEmpty())
-        Fail(u"cannot open %1: %2"_s.arg(path, file.failure));
-    QIODevice& source = file.file == nullptr ? run.environment.input : *file.file;
-    if (!unicode)
-        return import(source);
-    RecodedText text(source, *unicode);
-    return import(text);
-}
 
 void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
 {
@@ -71,36 +40,35 @@ std::vector<PropertyId> ColumnOrder(const CommandRun& run, const InventoryList& 
 
 void RunExport(const CommandRun& run)
 {
-    const QString path = run.operands.value(1, u"-"_s);
-    if (IsStream(path))
-        return FailIfRowsAreMissing(ExportTo(run, run.output));
-    const ListFile target = CreateListFile(path, run.DataFile());
-    if (target.file == nullptr)
-        Fail(u"cannot make %1: %2"_s.arg(path, target.failure));
-    TextOutput text(*target.file);
-    const auto missing = ExportTo(run, text);
-    QString failure = text.Flush();
-    if (failure.isEmpty())
-        failure = target.Commit();
-    if (!failure.isEmpty())
-        Fail(u"cannot write %1: %2"_s.arg(path, failure));
-    FailIfRowsAreMissing(missing);
+    const auto format = ReadTableFormat(run);
+    const ValueContext& context = run.environment.context;
+    const auto write = [&](TextOutput& target) -> Database::VisitOutcome {
+        const auto data = run.OpenForReading();
+        data->OpenList(run.operands.front());
+        if (format)
+            return WriteTable(*data, *format, context, target);
+        const ExportOutcome outcome = ExportRows(data->Rows(), data->list, context, target);
+        return { outcome.passedOver, outcome.readError };
+    };
+    FailIfRowsAreMissing(WriteTextFile(run, run.operands.value(1, u"-"_s), write));
 }
 
 void RunImport(const CommandRun& run)
 {
+    if (const auto format = ReadTableFormat(run))
+        return ImportTableFile(run, *format);
+    if (run.parser.isSet(u"match"_s))
+        FailUsage(u"rows are matched by --format csv or tsv"_s);
     const auto [unicode, context]
         = ReadEncoding(run.parser.value(u"encoding"_s), run.environment.context);
     const bool isDryRun = run.parser.isSet(u"dry-run"_s);
     const auto data = isDryRun ? run.OpenForReading() : run.OpenForWriting();
     const ObjectId oid = data->OpenList(run.operands[0]);
     const auto columns = ColumnOrder(run, data->list);
-    const ImportOutcome outcome = ImportFrom(
-        run, run.operands[1], unicode, [&, &rules = context](QIODevice& source) -> ImportOutcome {
-            if (isDryRun)
-                return CountImportRows(columns, rules, source);
-            return ImportRows(data->volume, columns, rules, source);
-        });
+    const TextSource source(run, run.operands[1], unicode);
+    const ImportOutcome outcome = isDryRun
+        ? CountImportRows(columns, context, source.Device())
+        : ImportRows(data->volume, columns, context, source.Device());
     if (!isDryRun && outcome.writeError == ErrorNumber::None) {
         data->StoreColumnOrder(oid);
         run.KeepCopyOf(*data);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "cli/column_words.h"
 #include "cli/command_run.h"
 #include "res/string_table.h"
 #include "values/column_type.h"
@@ -16,37 +17,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct TypeWord
-{
-    ColumnType type;
-    QLatin1StringView word;
-};
-constexpr std::array kTypeWords {
-    TypeWord { ColumnType::String, QLatin1StringView("string") },
-    TypeWord { ColumnType::Checkbox, QLatin1StringView("checkbox") },
-    TypeWord { ColumnType::Price, QLatin1StringView("price") },
-    TypeWord { ColumnType::Integer, QLatin1StringView("integer") },
-    TypeWord { ColumnType::Date, QLatin1StringView("date") },
-};
-constexpr QLatin1StringView kExpiryWord("expiry");
-
-QString WordFor(PropertyId column)
-{
-    if (column == PropExpiryDate)
-        return kExpiryWord;
-    for (const TypeWord& entry : kTypeWords) {
-        if (entry.type == ColumnTypeOf(column))
-            return entry.word;
-    }
-    return {};
-}
-
 QJsonArray JsonColumns(const InventoryList& list)
 {
     QJsonArray columns;
     for (const ColumnDefinition& column : list.columns)
         columns.append(
-            QJsonObject { { u"name"_s, column.name }, { u"type"_s, WordFor(column.id) } });
+            QJsonObject { { u"name"_s, column.name }, { u"type"_s, WordForColumn(column.id) } });
     return columns;
 }
 
@@ -57,17 +33,12 @@ ColumnDefinition ReadColumnDefinition(const QString& text)
     const QString word = text.mid(colon + 1);
     ColumnDefinition column;
     column.name = colon < 0 ? QString() : text.left(colon);
-    if (word == kExpiryWord) {
-        if (column.name.isEmpty())
-            column.name = LoadString(StringId::TypeExpiryDate);
-        column.id = PropExpiryDate;
-    } else {
-        const auto known = std::find_if(kTypeWords.begin(), kTypeWords.end(),
-            [&word](const TypeWord& entry) { return entry.word == word; });
-        if (known == kTypeWords.end())
-            FailUsage(u"“%1” ends in no column type"_s.arg(text));
-        column.id = MakePropertyId(0, StorageType(known->type));
-    }
+    const auto id = ColumnForWord(word);
+    if (!id)
+        FailUsage(u"“%1” ends in no column type"_s.arg(text));
+    column.id = *id;
+    if (column.id == PropExpiryDate && column.name.isEmpty())
+        column.name = LoadString(StringId::TypeExpiryDate);
     if (column.name.isEmpty())
         FailUsage(u"“%1” names no column"_s.arg(text));
     if (column.name.size() > kMaxColumnNameLength)

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "cli/command_run.h"
 #include "cli/conditions.h"
+#include "cli/row_printer.h"
 #include "store/column_scan.h"
 #include "store/row_store.h"
 #include "store/totals.h"
 #include "values/column_type.h"
-#include "values/file_date.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -19,52 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The columns as the rows view shows them: in the stored order, those it leaves out at the end.
-std::vector<ColumnDefinition> ShownColumns(const InventoryList& list)
-{
-    std::vector<quint32> order = list.columnOrder;
-    const auto natural = NaturalColumnOrder(list);
-    order.insert(order.end(), natural.begin(), natural.end());
-    std::vector<ColumnDefinition> columns;
-    std::vector<bool> isShown(list.columns.size());
-    for (const quint32 index : order) {
-        if (index >= isShown.size() || isShown[index])
-            continue;
-        isShown[index] = true;
-        columns.push_back(list.columns[index]);
-    }
-    return columns;
-}
-
-QString CellText(const PropertyValue& value, const ValueContext& context)
-{
-    if (ColumnTypeOf(value.id) == ColumnType::Checkbox)
-        return FormatExportText(value, context);
-    return FormatCellText(value.IsMissing() ? nullptr : &value, value.id, context);
-}
-
-QString IsoDate(FileTime time)
-{
-    const auto date = FileTimeToDate(time);
-    return date ? date->toString(Qt::ISODate) : QString();
-}
-
-/// Null for a missing value and for a price that is no finite number.
-QJsonValue JsonOf(const PropertyValue& value)
-{
-    if (const auto* text = std::get_if<QString>(&value.value))
-        return *text;
-    if (const auto* number = std::get_if<qint32>(&value.value))
-        return *number;
-    if (const auto* price = std::get_if<double>(&value.value))
-        return std::isfinite(*price) ? QJsonValue(*price) : QJsonValue();
-    if (const auto* isChecked = std::get_if<bool>(&value.value))
-        return *isChecked;
-    if (const auto* time = std::get_if<FileTime>(&value.value))
-        return IsoDate(*time);
-    return {};
-}
-
 /// Null for a total that is no finite number.
 QJsonValue JsonTotal(const QString& text)
 {
@@ -72,70 +24,6 @@ QJsonValue JsonTotal(const QString& text)
     const double total = text.toDouble(&isNumber);
     return isNumber ? QJsonValue(total) : QJsonValue();
 }
-
-/// Writes rows as they come, as lines or as JSON.
-class RowPrinter
-{
-public:
-    RowPrinter(const CommandRun& run, const std::vector<ColumnDefinition>& columns)
-        : m_run(run)
-        , m_json(run.output, run.IsJson())
-    {
-        QStringList names;
-        for (const ColumnDefinition& column : columns) {
-            m_ids.push_back(column.id);
-            m_values.push_back({ column.id, 0, {} });
-            names << column.name;
-        }
-        if (m_json.IsWanted())
-            m_keys = UniqueKeys(names);
-        else if (!run.parser.isSet(u"no-header"_s))
-            run.output.WriteFields(names);
-    }
-
-    [[nodiscard]] const std::vector<PropertyId>& Ids() const { return m_ids; }
-
-    /// False when no more can be printed.
-    bool Print(const ScannedRecord& row)
-    {
-        for (size_t i = 0; i < m_values.size(); ++i)
-            row.Read(i, m_values[i]);
-        if (m_json.IsWanted()) {
-            JsonMembers members;
-            for (qsizetype i = 0; i < m_keys.size(); ++i)
-                members.append({ m_keys[i], JsonOf(m_values[static_cast<size_t>(i)]) });
-            m_json.Add(members);
-        } else {
-            QStringList fields;
-            for (const PropertyValue& value : m_values)
-                fields << CellText(value, m_run.environment.context);
-            m_run.output.WriteFields(fields);
-        }
-        return !m_run.output.HasFailed();
-    }
-    void End() { m_json.End(); }
-
-private:
-    const CommandRun& m_run;
-    std::vector<PropertyId> m_ids;
-    /// The row that is printed.
-    std::vector<PropertyValue> m_values;
-    QStringList m_keys;
-    JsonArrayWriter m_json;
-
-    /// Columns may share a name, keys may not: the second "Size" becomes "Size (2)".
-    static QStringList UniqueKeys(const QStringList& names)
-    {
-        QStringList keys;
-        for (const QString& name : names) {
-            QString key = name;
-            for (int number = 2; keys.contains(key); ++number)
-                key = u"%1 (%2)"_s.arg(name).arg(number);
-            keys << key;
-        }
-        return keys;
-    }
-};
 
 [[nodiscard]] Database::VisitOutcome PrintByName(
     CommandData& data, const FilterSet& filters, const ValueContext& context, RowPrinter& printer)
@@ -217,7 +105,9 @@ void RunShow(const CommandRun& run)
     RowOrder order { {}, run.parser.isSet(u"descending"_s) };
     if (run.parser.isSet(u"sort"_s))
         order.column = FindColumn(run.parser.value(u"sort"_s), data->list).id;
-    RowPrinter printer(run, ShownColumns(data->list));
+    const RowForm lines
+        = run.parser.isSet(u"no-header"_s) ? RowForm::LinesWithoutNames : RowForm::Lines;
+    RowPrinter printer(run.output, run.IsJson() ? RowForm::Json : lines, data->list, context);
     const auto printed = order.column || order.isDescending
         ? PrintSorted(*data, filters, order, context, printer)
         : PrintByName(*data, filters, context, printer);

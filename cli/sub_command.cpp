@@ -20,8 +20,9 @@ constexpr std::array kNewFlags { "create", "warn-expiry" };
 constexpr std::array kNewOptions { "column", "icon", "warn-count" };
 constexpr std::array kShowFlags { "descending", "json", "no-header" };
 constexpr std::array kShowOptions { "sort", "where" };
+constexpr std::array kExportOptions { "format" };
 constexpr std::array kImportFlags { "dry-run" };
-constexpr std::array kImportOptions { "columns", "encoding" };
+constexpr std::array kImportOptions { "columns", "encoding", "format", "match" };
 constexpr std::array kSummaryOptions { "where" };
 constexpr std::array kDueFlags { "ics", "json", "notify" };
 constexpr std::array kDueOptions { "within" };
@@ -70,7 +71,13 @@ constexpr const char* kFindHelp = "Looks for a text in every column of every lis
 
 constexpr const char* kExportHelp
     = "Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each\n"
-      "row. Without FILE, or with -, to standard output. An existing FILE is replaced.\n";
+      "row. Without FILE, or with -, to standard output. An existing FILE is replaced.\n"
+      "\n"
+      "  --format NAME        csv or tsv, a table for other programs in UTF-8 behind a line of "
+      "column\n"
+      "                       names: dates as YYYY-MM-DD, a point before decimals, true and "
+      "false;\n"
+      "                       json, as show prints it; or html, a page to read\n";
 
 constexpr const char* kImportHelp
     = "Adds a row for each line of a text file, as Import List does, and prints how many came in.\n"
@@ -82,6 +89,13 @@ constexpr const char* kImportHelp
       "  --encoding NAME      what the file is in: utf-8, utf-16, or the number of a code page "
       "such\n"
       "                       as 1252\n"
+      "  --format NAME        csv or tsv, tables as export writes them: the first line names "
+      "columns;\n"
+      "                       of csv comma, semicolon or TAB part the fields. All rows come in, or "
+      "none\n"
+      "  --match COLUMN       of a table: changes the row that has the same value in this column, "
+      "and\n"
+      "                       adds one where none has\n"
       "  --dry-run            stores nothing, prints how many rows would come in\n";
 
 constexpr const char* kSummaryHelp
@@ -178,8 +192,11 @@ constexpr std::array kSubCommands {
         "LIST [--where CONDITION]... [--sort COLUMN] [--descending] [--no-header | --json]",
         kShowHelp, 1, 1, kShowFlags, kShowOptions, &RunShow },
     SubCommand { "find", "TEXT [--json]", kFindHelp, 1, 1, kJsonFlag, {}, &RunFind },
-    SubCommand { "export", "LIST [FILE]", kExportHelp, 1, 2, {}, {}, &RunExport },
-    SubCommand { "import", "LIST FILE [--columns \"A,B\"] [--encoding NAME] [--dry-run]",
+    SubCommand { "export", "LIST [FILE] [--format NAME]", kExportHelp, 1, 2, {}, kExportOptions,
+        &RunExport },
+    SubCommand { "import",
+        "LIST FILE [--columns \"A,B\"] [--encoding NAME] [--format NAME] [--match COLUMN] "
+        "[--dry-run]",
         kImportHelp, 2, 2, kImportFlags, kImportOptions, &RunImport },
     SubCommand { "summary", "LIST [--where CONDITION]... [--json]", kSummaryHelp, 1, 1, kJsonFlag,
         kSummaryOptions, &RunSummary },

@@ -25,4 +25,20 @@ std::vector<quint32> NaturalColumnOrder(const InventoryList& list)
     return order;
 }
 
+std::vector<ColumnDefinition> ShownColumns(const InventoryList& list)
+{
+    std::vector<quint32> order = list.columnOrder;
+    const auto natural = NaturalColumnOrder(list);
+    order.insert(order.end(), natural.begin(), natural.end());
+    std::vector<ColumnDefinition> columns;
+    std::vector<bool> isShown(list.columns.size());
+    for (const quint32 index : order) {
+        if (index >= isShown.size() || isShown[index])
+            continue;
+        isShown[index] = true;
+        columns.push_back(list.columns[index]);
+    }
+    return columns;
+}
+
 } // namespace Quillory

@@ -61,4 +61,7 @@ struct InventoryList
 /// The indices 0 to n-1 for a list of n columns.
 [[nodiscard]] std::vector<quint32> NaturalColumnOrder(const InventoryList& list);
 
+/// The columns as the rows view shows them: in the stored order, those it leaves out at the end.
+[[nodiscard]] std::vector<ColumnDefinition> ShownColumns(const InventoryList& list);
+
 } // namespace Quillory

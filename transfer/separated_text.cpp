@@ -47,17 +47,13 @@ bool SeparatedReader::Next()
     m_rowLine = m_line;
     m_fields.clear();
     while (SkipLineEnd()) { }
-    if (!m_fault.isEmpty() || !HasUnit())
-        return false;
-    do {
-        ReadField();
-    } while (m_fault.isEmpty() && HasUnit() && m_text[m_place] == m_separator
-        && ++m_place > 0);
-    if (m_fault.isEmpty() && !IsAtLineEnd())
-        m_fault = u"a closing quote is followed by text"_s;
-    if (m_fault.isEmpty())
-        SkipLineEnd();
-    return m_fault.isEmpty();
+    if (m_fault.isEmpty() && HasUnit())
+        ReadRow();
+    if (!m_sourceFault.isEmpty()) {
+        m_fault = m_sourceFault;
+        m_line = 0;
+    }
+    return m_fault.isEmpty() && !m_fields.empty();
 }
 
 void SeparatedReader::GoBack()
@@ -73,14 +69,17 @@ bool SeparatedReader::HasUnit()
     constexpr qint64 kPartBytes = 65'536;
     if (m_place < m_text.size())
         return true;
-    QByteArray bytes;
+    QByteArray bytes(kPartBytes, Qt::Uninitialized);
+    qint64 size = 0;
     do {
-        const QByteArray part = m_source.read(bytes.isEmpty() ? kPartBytes : 1);
-        if (part.isEmpty())
+        const qint64 got = m_source.read(bytes.data() + size, size == 0 ? kPartBytes : 1);
+        if (got < 0)
+            m_sourceFault = m_source.errorString();
+        if (got <= 0)
             break;
-        bytes += part;
-    } while (bytes.size() % qsizetype { sizeof(char16_t) } != 0);
-    const qsizetype units = bytes.size() / qsizetype { sizeof(char16_t) };
+        size += got;
+    } while (size % qsizetype { sizeof(char16_t) } != 0);
+    const qsizetype units = size / qsizetype { sizeof(char16_t) };
     const qsizetype before = m_text.size();
     m_text.resize(before + units);
     qFromLittleEndian<quint16>(bytes.constData(), units, m_text.data() + before);
@@ -130,6 +129,19 @@ void SeparatedReader::ReadQuoted(SeparatedField& field)
         }
         Take(field.text);
     }
+}
+
+void SeparatedReader::ReadRow()
+{
+    ReadField();
+    while (m_fault.isEmpty() && HasUnit() && m_text[m_place] == m_separator) {
+        ++m_place;
+        ReadField();
+    }
+    if (m_fault.isEmpty() && !IsAtLineEnd())
+        m_fault = u"a closing quote is followed by text"_s;
+    if (m_fault.isEmpty())
+        SkipLineEnd();
 }
 
 void SeparatedReader::ReadField()

@@ -50,7 +50,7 @@ public:
     [[nodiscard]] const std::vector<SeparatedField>& Fields() const { return m_fields; }
     /// Why the text could not be read to its end, for a person; empty if it could so far.
     [[nodiscard]] const QString& Fault() const { return m_fault; }
-    /// The line that is being read.
+    /// The line that is being read; 0 where the source itself failed.
     [[nodiscard]] qint64 Line() const { return m_line; }
 
 private:
@@ -65,6 +65,7 @@ private:
     qint64 m_rowLine = 1;
     std::vector<SeparatedField> m_fields;
     QString m_fault;
+    QString m_sourceFault;
 
     [[nodiscard]] bool HasUnit();
     [[nodiscard]] bool IsAtLineEnd();
@@ -72,6 +73,7 @@ private:
     void Take(QString& text);
     void ReadQuoted(SeparatedField& field);
     void ReadField();
+    void ReadRow();
 };
 
 } // namespace Quillory

@@ -31,7 +31,7 @@ _quillory() {
                 word=${COMP_WORDS[++i]}
                 data=(--data "${word/#\~\//$HOME/}")
                 ;;
-            --column | --columns | --encoding | --from | --icon | --sort | --warn-count | --where \
+            --column | --columns | --encoding | --format | --from | --icon | --match | --sort | --warn-count | --where \
                 | --within) ((++i)) ;;
             -*) ;;
             *)
@@ -47,12 +47,16 @@ _quillory() {
             compopt -o default
             return
             ;;
-        --sort | --columns | --where)
+        --sort | --columns | --match | --where)
             _quillory_offer < <(_quillory_columns "${words[1]:-}")
             return
             ;;
         --encoding)
             _quillory_offer <<<$'utf-8\nutf-16'
+            return
+            ;;
+        --format)
+            _quillory_offer <<<$'csv\ntsv\njson\nhtml'
             return
             ;;
         --from)
