@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/command_run.h"
 #include "cli/conditions.h"
+#include "cli/list_folder.h"
 #include "cli/table_files.h"
 #include "cli/text_source.h"
 #include "res/string_table.h"
@@ -36,11 +37,20 @@ std::vector<PropertyId> ColumnOrder(const CommandRun& run, const InventoryList& 
     return ReadColumnOrder(run.parser.value(u"columns"_s), list);
 }
 
+void RequireOperands(const CommandRun& run, qsizetype count)
+{
+    if (run.operands.size() < count)
+        FailUsage(u"an argument is missing"_s);
+}
+
 } // namespace
 
 void RunExport(const CommandRun& run)
 {
     const auto format = ReadTableFormat(run);
+    if (run.parser.isSet(u"all"_s))
+        return ExportAllLists(run, format.value_or(TableFormat::Csv));
+    RequireOperands(run, 1);
     const ValueContext& context = run.environment.context;
     const auto write = [&](TextOutput& target) -> Database::VisitOutcome {
         const auto data = run.OpenForReading();
@@ -55,6 +65,11 @@ void RunExport(const CommandRun& run)
 
 void RunImport(const CommandRun& run)
 {
+    if (run.parser.isSet(u"all"_s))
+        return ImportAllLists(run);
+    RequireOperands(run, 2);
+    if (run.parser.isSet(u"create"_s))
+        FailUsage(u"--create goes with --all"_s);
     if (const auto format = ReadTableFormat(run))
         return ImportTableFile(run, *format);
     if (run.parser.isSet(u"match"_s))

@@ -20,9 +20,9 @@ constexpr std::array kNewFlags { "create", "warn-expiry" };
 constexpr std::array kNewOptions { "column", "icon", "warn-count" };
 constexpr std::array kShowFlags { "descending", "json", "no-header" };
 constexpr std::array kShowOptions { "sort", "where" };
-constexpr std::array kExportOptions { "format" };
-constexpr std::array kImportFlags { "dry-run" };
-constexpr std::array kImportOptions { "columns", "encoding", "format", "match" };
+constexpr std::array kExportOptions { "all", "format" };
+constexpr std::array kImportFlags { "create", "dry-run" };
+constexpr std::array kImportOptions { "all", "columns", "encoding", "format", "match" };
 constexpr std::array kSummaryOptions { "where" };
 constexpr std::array kDueFlags { "ics", "json", "notify" };
 constexpr std::array kDueOptions { "within" };
@@ -77,7 +77,10 @@ constexpr const char* kExportHelp
       "column\n"
       "                       names: dates as YYYY-MM-DD, a point before decimals, true and "
       "false;\n"
-      "                       json, as show prints it; or html, a page to read\n";
+      "                       json, as show prints it; or html, a page to read\n"
+      "  --all DIR            every list into a folder, which is made if need be: a file for each, "
+      "as csv\n"
+      "                       unless told otherwise, and lists.json, which tells of them\n";
 
 constexpr const char* kImportHelp
     = "Adds a row for each line of a text file, as Import List does, and prints how many came in.\n"
@@ -96,6 +99,9 @@ constexpr const char* kImportHelp
       "  --match COLUMN       of a table: changes the row that has the same value in this column, "
       "and\n"
       "                       adds one where none has\n"
+      "  --all DIR            makes every list that lists.json in a folder tells of, and prints "
+      "them\n"
+      "  --create             with --all: makes the data file if there is none\n"
       "  --dry-run            stores nothing, prints how many rows would come in\n";
 
 constexpr const char* kSummaryHelp
@@ -192,12 +198,12 @@ constexpr std::array kSubCommands {
         "LIST [--where CONDITION]... [--sort COLUMN] [--descending] [--no-header | --json]",
         kShowHelp, 1, 1, kShowFlags, kShowOptions, &RunShow },
     SubCommand { "find", "TEXT [--json]", kFindHelp, 1, 1, kJsonFlag, {}, &RunFind },
-    SubCommand { "export", "LIST [FILE] [--format NAME]", kExportHelp, 1, 2, {}, kExportOptions,
-        &RunExport },
+    SubCommand { "export", "LIST [FILE] [--format NAME] | --all DIR [--format NAME]", kExportHelp,
+        0, 2, {}, kExportOptions, &RunExport },
     SubCommand { "import",
         "LIST FILE [--columns \"A,B\"] [--encoding NAME] [--format NAME] [--match COLUMN] "
-        "[--dry-run]",
-        kImportHelp, 2, 2, kImportFlags, kImportOptions, &RunImport },
+        "[--dry-run] | --all DIR [--create] [--dry-run]",
+        kImportHelp, 0, 2, kImportFlags, kImportOptions, &RunImport },
     SubCommand { "summary", "LIST [--where CONDITION]... [--json]", kSummaryHelp, 1, 1, kJsonFlag,
         kSummaryOptions, &RunSummary },
     SubCommand { "due", "[--within DAYS] [--json | --ics | --notify]", kDueHelp, 0, 0, kDueFlags,

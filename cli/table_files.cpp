@@ -25,37 +25,6 @@ constexpr std::array kFormatWords {
     std::pair(TableFormat::Html, QLatin1StringView("html")),
 };
 
-/// Null where the file says itself what parts its fields.
-QChar SeparatorToRead(TableFormat format)
-{
-    return format == TableFormat::Tsv ? QChar(u'\t') : QChar();
-}
-
-/// Tells of each fault by its place in the file.
-void TellFaults(const CommandRun& run, const TableImportOutcome& outcome)
-{
-    for (const TableFault& fault : outcome.faults) {
-        QString place = fault.line == 0 ? QString() : u"line %1"_s.arg(fault.line);
-        if (!fault.column.isEmpty())
-            place += u", column “%1”"_s.arg(fault.column);
-        Complain(
-            run.environment.errors, place.isEmpty() ? fault.what : place + u": "_s + fault.what);
-    }
-    const qint64 untold = outcome.faultCount - std::ssize(outcome.faults);
-    if (untold > 0)
-        Complain(run.environment.errors, u"%1 more such lines"_s.arg(untold));
-}
-
-/// Ends the command where nothing came in.
-void FailIfNotImported(const CommandRun& run, const TableImportOutcome& outcome)
-{
-    TellFaults(run, outcome);
-    if (outcome.error != ErrorNumber::None)
-        Fail(u"the rows cannot be stored: %1"_s.arg(ErrorText(outcome.error)));
-    if (!outcome.IsDone())
-        Fail(u"nothing was imported"_s);
-}
-
 /// The encoding of a table, which is Unicode.
 QStringConverter::Encoding TableEncoding(const CommandRun& run)
 {
@@ -72,7 +41,11 @@ std::optional<TableFormat> ReadTableFormat(const CommandRun& run)
 {
     if (!run.parser.isSet(u"format"_s))
         return std::nullopt;
-    const QString word = run.parser.value(u"format"_s);
+    return TableFormatOf(run.parser.value(u"format"_s));
+}
+
+TableFormat TableFormatOf(const QString& word)
+{
     for (const auto& [format, known] : kFormatWords) {
         if (word == known)
             return format;
@@ -85,6 +58,32 @@ QString TableFormatWord(TableFormat format)
     return std::ranges::find(kFormatWords, format, [](const auto& entry) {
         return entry.first;
     })->second;
+}
+
+TableImportRules RulesToRead(TableFormat format)
+{
+    if (format != TableFormat::Csv && format != TableFormat::Tsv)
+        FailUsage(u"“%1” is not read, csv and tsv are"_s.arg(TableFormatWord(format)));
+    return { format == TableFormat::Tsv ? QChar(u'\t') : QChar(), {}, false };
+}
+
+bool TellFaults(const CommandRun& run, const TableImportOutcome& outcome, const QString& fileName)
+{
+    const auto tell = [&](const QString& text) { Complain(run.environment.errors, text); };
+    for (const TableFault& fault : outcome.faults) {
+        QStringList place;
+        if (!fileName.isEmpty())
+            place << fileName;
+        if (fault.line != 0)
+            place << u"line %1"_s.arg(fault.line);
+        if (!fault.column.isEmpty())
+            place << u"column “%1”"_s.arg(fault.column);
+        tell(place.isEmpty() ? fault.what : place.join(u", "_s) + u": "_s + fault.what);
+    }
+    const qint64 untold = outcome.faultCount - std::ssize(outcome.faults);
+    if (untold > 0)
+        tell(u"and %1 more"_s.arg(untold));
+    return outcome.faultCount == 0;
 }
 
 Database::VisitOutcome WriteTable(
@@ -103,18 +102,20 @@ Database::VisitOutcome WriteTable(
 
 void ImportTableFile(const CommandRun& run, TableFormat format)
 {
-    if (format != TableFormat::Csv && format != TableFormat::Tsv)
-        FailUsage(u"“%1” is not read, csv and tsv are"_s.arg(TableFormatWord(format)));
+    TableImportRules rules = RulesToRead(format);
     if (run.parser.isSet(u"columns"_s))
         FailUsage(u"the first line of a table names its columns, not --columns"_s);
-    TableImportRules rules { SeparatorToRead(format), {}, run.parser.isSet(u"dry-run"_s) };
+    rules.isDryRun = run.parser.isSet(u"dry-run"_s);
     const auto data = rules.isDryRun ? run.OpenForReading() : run.OpenForWriting();
     const ObjectId oid = data->OpenList(run.operands[0]);
     if (run.parser.isSet(u"match"_s))
         rules.match = FindColumn(run.parser.value(u"match"_s), data->list).id;
     const TextSource source(run, run.operands[1], TableEncoding(run));
     const auto outcome = ImportTable(data->volume, data->list, rules, source.Device());
-    FailIfNotImported(run, outcome);
+    if (!TellFaults(run, outcome))
+        Fail(u"nothing was imported"_s);
+    if (outcome.error != ErrorNumber::None)
+        Fail(u"the rows cannot be stored: %1"_s.arg(ErrorText(outcome.error)));
     if (!rules.isDryRun) {
         data->StoreColumnOrder(oid);
         run.KeepCopyOf(*data);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/command_run.h"
+#include "transfer/table_import.h"
 
 #include <optional>
 
@@ -18,8 +19,16 @@ enum class TableFormat
 
 /// Nothing if the option is not there; ends the command if it names no format.
 [[nodiscard]] std::optional<TableFormat> ReadTableFormat(const CommandRun& run);
+/// The format of such a word; ends the command if there is none.
+[[nodiscard]] TableFormat TableFormatOf(const QString& word);
 /// As the option has it, and what the names of such files end in.
 [[nodiscard]] QString TableFormatWord(TableFormat format);
+
+/// How an import reads such a table; ends the command if it cannot.
+[[nodiscard]] TableImportRules RulesToRead(TableFormat format);
+/// Tells of all faults, which stand in a file if one is named, and gives whether there is none.
+bool TellFaults(
+    const CommandRun& run, const TableImportOutcome& outcome, const QString& fileName = {});
 
 /// Writes the open list.
 [[nodiscard]] Database::VisitOutcome WriteTable(

@@ -101,12 +101,12 @@ public:
 
     TableImportOutcome Run()
     {
-        Database* rows = m_volume.OpenDatabase(ListCatalogue::kRowsType);
-        if (rows == nullptr)
-            return FailStoring(m_volume.LastError());
         if (!ReadHeader())
             return m_outcome;
         if (m_rules.match) {
+            Database* rows = m_volume.OpenDatabase(ListCatalogue::kRowsType);
+            if (rows == nullptr)
+                return FailStoring(m_volume.LastError());
             if (const auto loaded = m_keys.Load(*rows, *m_rules.match); !loaded)
                 return FailStoring(loaded.Error());
         }

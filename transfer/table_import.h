@@ -19,7 +19,7 @@ struct TableImportRules
     /// Rows with the value that a line has in this column are changed by it; without one, or
     /// without such a row, it adds one.
     std::optional<PropertyId> match;
-    /// Nothing is stored.
+    /// Nothing is stored; without a column to match the list need not be there.
     bool isDryRun = false;
 };
 

@@ -31,8 +31,8 @@ _quillory() {
                 word=${COMP_WORDS[++i]}
                 data=(--data "${word/#\~\//$HOME/}")
                 ;;
-            --column | --columns | --encoding | --format | --from | --icon | --match | --sort | --warn-count | --where \
-                | --within) ((++i)) ;;
+            --all | --column | --columns | --encoding | --format | --from | --icon | --match | --sort \
+                | --warn-count | --where | --within) ((++i)) ;;
             -*) ;;
             *)
                 # As the shell would pass it on, without what it may run.
@@ -43,7 +43,7 @@ _quillory() {
     done
     local command=${words[0]:-}
     case $previous in
-        --data)
+        --all | --data)
             compopt -o default
             return
             ;;
