@@ -97,7 +97,8 @@ private Q_SLOTS:
     {
         constexpr int kRounds = 300;
         const int wanted = qEnvironmentVariableIntValue("QUILLORY_RANDOM_LISTS");
-        QRandomGenerator random(wanted == 0 ? 1 : QRandomGenerator::global()->generate());
+        const quint32 seed = wanted == 0 ? 1 : QRandomGenerator::global()->generate();
+        QRandomGenerator random(seed);
         ListFixture file(u"L"_s);
         for (int round = 0; round < std::max(wanted, kRounds); ++round) {
             for (ColumnDefinition& column : file.list.columns)
@@ -131,7 +132,8 @@ private Q_SLOTS:
                 && read.added == count - others && ReadRows(file) == before;
             if (!isSame && !read.faults.empty())
                 qWarning() << read.faults.front().line << read.faults.front().what;
-            QVERIFY2(isSame, QByteArray::number(round) + ": " + table.data());
+            const QString list = u"list %1 of seed %2: "_s.arg(round).arg(seed);
+            QVERIFY2(isSame, list.toUtf8() + table.data());
         }
     }
 };

@@ -4,6 +4,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <utility>
 
 namespace Quillory {
 
@@ -31,10 +32,7 @@ void AppendSeparatedField(QString& line, const QString& field, QChar separator)
 
 SeparatedReader::SeparatedReader(QIODevice& source)
     : m_source(source)
-{
-    if (HasUnit() && m_text.front() == QChar::ByteOrderMark)
-        m_text.remove(0, 1);
-}
+{ }
 
 bool SeparatedReader::Next()
 {
@@ -83,6 +81,10 @@ bool SeparatedReader::HasUnit()
     const qsizetype before = m_text.size();
     m_text.resize(before + units);
     qFromLittleEndian<quint16>(bytes.constData(), units, m_text.data() + before);
+    if (units > 0 && std::exchange(m_isAtStart, false) && m_text.front() == QChar::ByteOrderMark) {
+        m_text.remove(0, 1);
+        return HasUnit();
+    }
     return units > 0;
 }
 

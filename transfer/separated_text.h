@@ -37,7 +37,8 @@ struct SeparatedField
 class SeparatedReader
 {
 public:
-    /// `source` gives UTF-16, low byte first, with or without a byte-order mark.
+    /// `source` gives UTF-16, low byte first, with or without a byte-order mark; it is read only
+    /// when a row is asked for.
     explicit SeparatedReader(QIODevice& source);
 
     void SetSeparator(QChar separator) { m_separator = separator; }
@@ -55,6 +56,7 @@ public:
 
 private:
     QIODevice& m_source;
+    bool m_isAtStart = true;
     QChar m_separator = u',';
     /// What was read and is still needed.
     QString m_text;

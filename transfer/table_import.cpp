@@ -101,8 +101,7 @@ public:
 
     TableImportOutcome Run()
     {
-        if (!ReadHeader())
-            return m_outcome;
+        // A reader that has to make way begins again; the source can be read but once.
         if (m_rules.match) {
             Database* rows = m_volume.OpenDatabase(ListCatalogue::kRowsType);
             if (rows == nullptr)
@@ -110,6 +109,8 @@ public:
             if (const auto loaded = m_keys.Load(*rows, *m_rules.match); !loaded)
                 return FailStoring(loaded.Error());
         }
+        if (!ReadHeader())
+            return m_outcome;
         if (m_rules.isDryRun) {
             ReadRows();
             return m_outcome;
