@@ -113,18 +113,14 @@ void DataFileOpener::OfferSalvage()
     qint64 rows = 0;
     for (const SalvageReport::List& list : report->lists)
         rows += list.rows;
-    const int count = static_cast<int>(rows);
     const QString question = report->wasChangedOutside
-        ? tr("Another program has written into the data file. As it stands it holds %n row(s) in "
-             "%1 list(s).\n\nDo you want to go on with them? They are written to a new file; "
-             "the old one stays as it is.",
-            nullptr, count)
-        : tr("Of the damaged file %n row(s) in %1 list(s) can still be read.\n\nDo you want "
-             "to go on with them? They are written to a new file; the damaged one stays as "
-             "it is.",
-            nullptr, count);
+        ? tr("Another program has written into the data file. What it holds now: %1, %2.\n\nDo "
+             "you want to go on with that? It is written to a new file; the old one stays as it is.")
+        : tr("What can still be read of the damaged file: %1, %2.\n\nDo you want to go on with "
+             "that? It is written to a new file; the damaged one stays as it is.");
     AskToRestore(
-        question.arg(report->lists.size()),
+        question.arg(tr("%n row(s)", nullptr, static_cast<int>(rows)),
+            tr("%n list(s)", nullptr, static_cast<int>(report->lists.size()))),
         [damaged = m_settings.DbPath](
             const QString& target) { return SalvageLists(damaged, target).Error(); },
         [this] { GiveUp(); });

@@ -63,7 +63,8 @@ void ListTransfer::AskForOrder(
 ImportOutcome ListTransfer::ImportFrom(
     const QString& path, const QString& title, const std::vector<PropertyId>& order)
 {
-    ImportOutcome outcome { ImportResult::Failed };
+    ImportOutcome outcome;
+    outcome.result = ImportResult::Failed;
     const ListFile source = IsPlainFile(path) ? OpenListFile(path, m_session.Path()) : ListFile();
     if (source.file != nullptr) {
         TransferProgress progress(m_pages.window(), title);
@@ -91,6 +92,11 @@ void ListTransfer::TellImport(const ImportOutcome& outcome, const std::function<
     else if (outcome.result == ImportResult::Cancelled)
         tell(tr("The import was cancelled. %n row(s) are in the list already.", nullptr,
                  static_cast<int>(outcome.rows)),
+            MessageIcon::Information);
+    else if (!outcome.ambiguousDate.isEmpty())
+        //: %1 is such as 10/05/2026, %2 such as dd/MM/yyyy.
+        tell(tr("Dates such as %1 were read in the form %2.")
+                 .arg(outcome.ambiguousDate, m_context.userLocale.shortDatePicture),
             MessageIcon::Information);
     else
         then();

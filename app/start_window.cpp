@@ -7,10 +7,12 @@
 #include "desktop/end_requests.h"
 #include "desktop/single_instance.h"
 #include "propdb/volume_path.h"
+#include "res/language.h"
 #include "store/kept_copies.h"
 #include "store/settings.h"
 #include "widgets/app_style.h"
 #include "widgets/icon_set.h"
+#include "widgets/window_style.h"
 
 #include <QApplication>
 #include <QFile>
@@ -113,6 +115,7 @@ int RunFrame(Application& app, SingleInstance& instance, const Settings& setting
     const StartRequest& request, int endRequests)
 {
     const DesktopLook look(FixedScheme(settings));
+    EnlargeLetters();
     MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder() });
     instance.SetHandler(
         [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
@@ -141,6 +144,7 @@ int RunWindow(int argumentCount, char** argumentValues, const WindowCall& call)
     Application app(argumentCount, argumentValues);
     qInstallMessageHandler(ownHandler);
     QApplication::setStyle(new AppStyle);
+    SpeakLanguage();
     QApplication::setApplicationName(u"quillory"_s);
     QApplication::setApplicationDisplayName(u"Quillory"_s);
     QApplication::setApplicationVersion(QStringLiteral(QUILLORY_VERSION));

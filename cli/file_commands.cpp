@@ -20,6 +20,11 @@ namespace {
 void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
 {
     run.output.WriteLine(QString::number(outcome.rows));
+    if (!outcome.ambiguousDate.isEmpty())
+        Complain(run.environment.errors,
+            u"dates such as %1 were read as %2; \"export --dates iso\" writes dates that are read "
+            "alike everywhere"_s.arg(outcome.ambiguousDate,
+                run.environment.context.userLocale.shortDatePicture));
     if (outcome.writeError != ErrorNumber::None)
         Fail(u"the rows cannot be stored: %1"_s.arg(ErrorText(outcome.writeError)));
     if (outcome.result == ImportResult::Failed)
@@ -30,6 +35,21 @@ void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
         Fail(u"the last line is not in: it does not end with a carriage return and a line feed"_s);
     if (outcome.rows == 0)
         Fail(u"no line gives a value"_s);
+}
+
+/// How an export writes values; ends the command if `--dates` names no form, or none is to be
+/// chosen.
+ValueContext ExportContext(const CommandRun& run, bool isTable)
+{
+    ValueContext context = run.environment.context;
+    if (!run.parser.isSet(u"dates"_s))
+        return context;
+    if (run.parser.value(u"dates"_s) != u"iso")
+        FailUsage(u"“%1” is no form of dates"_s.arg(run.parser.value(u"dates"_s)));
+    if (isTable)
+        FailUsage(u"--dates does not go with --format and --all"_s);
+    context.systemLocale.shortDatePicture = u"yyyy-MM-dd"_s;
+    return context;
 }
 
 std::vector<PropertyId> ColumnOrder(const CommandRun& run, const InventoryList& list)
@@ -48,10 +68,11 @@ void RequireOperands(const CommandRun& run, qsizetype count)
 void RunExport(const CommandRun& run)
 {
     const auto format = ReadTableFormat(run);
-    if (run.parser.isSet(u"all"_s))
+    const bool isAll = run.parser.isSet(u"all"_s);
+    const ValueContext context = ExportContext(run, format || isAll);
+    if (isAll)
         return ExportAllLists(run, format.value_or(TableFormat::Csv));
     RequireOperands(run, 1);
-    const ValueContext& context = run.environment.context;
     const auto write = [&](TextOutput& target) -> Database::VisitOutcome {
         const auto data = run.OpenForReading();
         data->OpenList(run.operands.front());

@@ -2,6 +2,9 @@
 #include "cli/sub_command.h"
 
 #include "platform/number_text.h"
+#include "res/language.h"
+
+#include <QTranslator>
 
 #include <algorithm>
 #include <array>
@@ -20,7 +23,7 @@ constexpr std::array kNewFlags { "create", "warn-expiry" };
 constexpr std::array kNewOptions { "column", "icon", "warn-count" };
 constexpr std::array kShowFlags { "descending", "json", "no-header" };
 constexpr std::array kShowOptions { "sort", "where" };
-constexpr std::array kExportOptions { "all", "format" };
+constexpr std::array kExportOptions { "all", "dates", "format" };
 constexpr std::array kImportFlags { "create", "dry-run" };
 constexpr std::array kImportOptions { "all", "columns", "encoding", "format", "match" };
 constexpr std::array kSummaryOptions { "where" };
@@ -32,47 +35,48 @@ constexpr std::array kRestoreFlags { "json", "salvage" };
 constexpr std::array kRestoreOptions { "from" };
 
 constexpr const char* kListsHelp
-    = "Prints a line per list, in the order of their names: name TAB number of rows.\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "Prints a line per list, in the order of their names: name TAB number of rows.\n"
       "\n"
-      "  --json               name, rows, icon and columns of each list\n";
+      "  --json               name, rows, icon and columns of each list\n");
 
 constexpr const char* kNewHelp
-    = "Makes a list and prints nothing. Its first columns are Name and Quantity.\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "Makes a list and prints nothing. Its first columns are Name and Quantity.\n"
       "\n"
       "  --column NAME:TYPE   adds a column; TYPE is string, checkbox, price, integer, date or\n"
       "                       expiry (which needs no NAME). May be given several times.\n"
       "  --warn-count N       warns of rows whose quantity is N or less\n"
       "  --warn-expiry        warns of rows whose expiry date is reached\n"
       "  --icon N             icon 0 to 42\n"
-      "  --create             makes the data file if there is none\n";
+      "  --create             makes the data file if there is none\n");
 
 constexpr const char* kWhereHelp
-    = "  --where CONDITION    only rows that meet it: \"COLUMN CONDITION VALUE\", as in\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "  --where CONDITION    only rows that meet it: \"COLUMN CONDITION VALUE\", as in\n"
       "                       \"Name contains tea\", \"Quantity < 3\", \"Opened = Checked\".\n"
       "                       Conditions are those of the program's filters, by their words or\n"
       "                       as = != > >= < <=. As there, != on text, numbers and prices finds\n"
       "                       what = finds. Numbers are read as they are shown. May be given\n"
-      "                       several times: all must hold.\n";
+      "                       several times: all must hold.\n");
 
 constexpr const char* kShowHelp
-    = "Prints a line of column names, then the rows in the order of names, with TAB between\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "Prints a line of column names, then the rows in the order of names, with TAB between\n"
       "fields. Control characters in texts are shown as blanks.\n"
       "\n"
       "  --sort COLUMN        in ascending order of a column\n"
       "  --descending         the other way round\n"
       "  --no-header          without the line of column names\n"
-      "  --json               an object per row; dates as YYYY-MM-DD, missing values as null\n";
+      "  --json               an object per row; dates as YYYY-MM-DD, missing values as null\n");
 
-constexpr const char* kFindHelp = "Looks for a text in every column of every list, whatever its "
+constexpr const char* kFindHelp = QT_TRANSLATE_NOOP("CommandHelp", "Looks for a text in every column of every list, whatever its "
                                   "case and accents, and prints a\n"
                                   "line per value that has it: list TAB row TAB column TAB value.\n"
                                   "\n"
-                                  "  --json               list, row, column and text of each\n";
+                                  "  --json               list, row, column and text of each\n");
 
 constexpr const char* kExportHelp
-    = "Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each\n"
       "row. Without FILE, or with -, to standard output. An existing FILE is replaced.\n"
       "\n"
+      "  --dates iso          dates as YYYY-MM-DD, which every locale reads alike\n"
       "  --format NAME        csv or tsv, a table for other programs in UTF-8 behind a line of "
       "column\n"
       "                       names: dates as YYYY-MM-DD, a point before decimals, true and "
@@ -80,10 +84,10 @@ constexpr const char* kExportHelp
       "                       json, as show prints it; or html, a page to read\n"
       "  --all DIR            every list into a folder, which is made if need be: a file for each, "
       "as csv\n"
-      "                       unless told otherwise, and lists.json, which tells of them\n";
+      "                       unless told otherwise, and lists.json, which tells of them\n");
 
 constexpr const char* kImportHelp
-    = "Adds a row for each line of a text file, as Import List does, and prints how many came in.\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "Adds a row for each line of a text file, as Import List does, and prints how many came in.\n"
       "FILE - is standard input. Each line must end in CR LF, the last one too.\n"
       "\n"
       "  --columns \"A,B\"      the columns that the fields of a line fill; those not named "
@@ -102,16 +106,16 @@ constexpr const char* kImportHelp
       "  --all DIR            makes every list that lists.json in a folder tells of, and prints "
       "them\n"
       "  --create             with --all: makes the data file if there is none\n"
-      "  --dry-run            stores nothing, prints how many rows would come in\n";
+      "  --dry-run            stores nothing, prints how many rows would come in\n");
 
 constexpr const char* kSummaryHelp
-    = "Prints a line per total of a number or price column: name TAB total, with a point before\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "Prints a line per total of a number or price column: name TAB total, with a point before\n"
       "decimals.\n"
       "\n"
-      "  --json               name and total of each\n";
+      "  --json               name and total of each\n");
 
 constexpr const char* kDueHelp
-    = "Prints rows of lists whose warnings are on: list TAB row TAB \"low\", \"expired\" or the "
+    = QT_TRANSLATE_NOOP("CommandHelp", "Prints rows of lists whose warnings are on: list TAB row TAB \"low\", \"expired\" or the "
       "date\n"
       "on which the row expires.\n"
       "\n"
@@ -125,53 +129,53 @@ constexpr const char* kDueHelp
       "the\n"
       "                       list; until then or until it is closed the command waits.\n"
       "\n"
-      "Exits with 3 if something is due, with 0 if nothing is.\n";
+      "Exits with 3 if something is due, with 0 if nothing is.\n");
 
 constexpr const char* kRemindersHelp
-    = "Turns a notification each morning of what is due on or off, or prints whether it is on.\n"
-      "Needs systemd, whose timer quillory-reminders then runs \"quillory due --notify\".\n";
+    = QT_TRANSLATE_NOOP("CommandHelp", "Turns a notification each morning of what is due on or off, or prints whether it is on.\n"
+      "Needs systemd, whose timer quillory-reminders then runs \"quillory due --notify\".\n");
 
-constexpr const char* kAddHelp = "Adds a row with these values and prints 1. Numbers are read as "
+constexpr const char* kAddHelp = QT_TRANSLATE_NOOP("CommandHelp", "Adds a row with these values and prints 1. Numbers are read as "
                                  "they are shown, a checkbox is\n"
                                  "Checked or Unchecked.\n"
                                  "\n"
-                                 "  --dry-run            stores nothing\n";
+                                 "  --dry-run            stores nothing\n");
 
 constexpr const char* kSetHelp
-    = "Gives all rows that meet the conditions these values, or none of them if one cannot be\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "Gives all rows that meet the conditions these values, or none of them if one cannot be\n"
       "stored, and prints how many there are.\n"
       "\n"
-      "  --dry-run            stores nothing\n";
+      "  --dry-run            stores nothing\n");
 
 constexpr const char* kCountHelp
-    = "Counts all rows that meet the conditions up by +N or down by -N, or none of them if one\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "Counts all rows that meet the conditions up by +N or down by -N, or none of them if one\n"
       "cannot be stored, and prints how many there are.\n"
       "\n"
-      "  --dry-run            stores nothing\n";
+      "  --dry-run            stores nothing\n");
 
-constexpr const char* kDeleteHelp = "Deletes all rows that meet the conditions, or none of them if "
+constexpr const char* kDeleteHelp = QT_TRANSLATE_NOOP("CommandHelp", "Deletes all rows that meet the conditions, or none of them if "
                                     "one cannot be, and prints how\n"
                                     "many there are.\n"
                                     "\n"
-                                    "  --dry-run            deletes nothing\n";
+                                    "  --dry-run            deletes nothing\n");
 
-constexpr const char* kRenameHelp = "Gives a list another name and prints nothing.\n"
+constexpr const char* kRenameHelp = QT_TRANSLATE_NOOP("CommandHelp", "Gives a list another name and prints nothing.\n"
                                     "\n"
-                                    "  --dry-run            stores nothing\n";
+                                    "  --dry-run            stores nothing\n");
 
 constexpr const char* kRemoveHelp
-    = "Deletes a list with all its rows and prints how many these are.\n"
+    = QT_TRANSLATE_NOOP("CommandHelp", "Deletes a list with all its rows and prints how many these are.\n"
       "\n"
-      "  --dry-run            deletes nothing\n";
+      "  --dry-run            deletes nothing\n");
 
 constexpr const char* kCheckHelp
-    = "Reads the whole data file. Prints \"ok\", or what is wrong and exits with 1.\n";
+    = QT_TRANSLATE_NOOP("CommandHelp", "Reads the whole data file. Prints \"ok\", or what is wrong and exits with 1.\n");
 
 constexpr const char* kBackupHelp
-    = "Writes a consistent copy of the data file, also while it is in use. FILE must not exist.\n";
+    = QT_TRANSLATE_NOOP("CommandHelp", "Writes a consistent copy of the data file, also while it is in use. FILE must not exist.\n");
 
 constexpr const char* kRestoreHelp
-    = "After each run that changed lists or rows of the configured data file a copy of it is "
+    = QT_TRANSLATE_NOOP("CommandHelp", "After each run that changed lists or rows of the configured data file a copy of it is "
       "kept,\n"
       "the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90\n"
       "days after the file is found to be gone.\n"
@@ -184,7 +188,7 @@ constexpr const char* kRestoreHelp
       "  --from N             from copy N\n"
       "  --salvage            from what can still be read of the data file, and prints what that\n"
       "                       is; the data file is only read\n"
-      "  --json               an object per copy and per list\n";
+      "  --json               an object per copy and per list\n");
 
 /// The list, and a value for each column.
 constexpr qsizetype kMostOperands = 1 + qsizetype { kMaxColumns };
@@ -198,7 +202,7 @@ constexpr std::array kSubCommands {
         "LIST [--where CONDITION]... [--sort COLUMN] [--descending] [--no-header | --json]",
         kShowHelp, 1, 1, kShowFlags, kShowOptions, &RunShow },
     SubCommand { "find", "TEXT [--json]", kFindHelp, 1, 1, kJsonFlag, {}, &RunFind },
-    SubCommand { "export", "LIST [FILE] [--format NAME] | --all DIR [--format NAME]", kExportHelp,
+    SubCommand { "export", "LIST [FILE] [--dates iso | --format NAME] | --all DIR [--format NAME]", kExportHelp,
         0, 2, {}, kExportOptions, &RunExport },
     SubCommand { "import",
         "LIST FILE [--columns \"A,B\"] [--encoding NAME] [--format NAME] [--match COLUMN] "
@@ -256,21 +260,40 @@ QByteArray Words(const SubCommand& command)
     return QByteArray(command.name) + (*command.usage == '\0' ? "" : " ") + command.usage;
 }
 
+/// Puts help into the language that the person reads.
+class HelpLanguage
+{
+public:
+    HelpLanguage() { LoadLanguage(m_translator); }
+    [[nodiscard]] QString operator()(const char* text) const
+    {
+        const QString translated = m_translator.translate(kContext, text);
+        return translated.isEmpty() ? QString::fromUtf8(text) : translated;
+    }
+
+private:
+    static constexpr auto kContext = "CommandHelp";
+    QTranslator m_translator;
+};
+
 /// What depends on the user's settings and locale.
-QByteArray FormsText(const CommandEnvironment& environment)
+QString FormsText(const CommandEnvironment& environment, const HelpLanguage& language)
 {
     const LocaleProfile& locale = environment.context.userLocale;
-    const QString file = environment.dataFile.isEmpty() ? u"none so far"_s : environment.dataFile;
-    const QString text
-        = u"  --data FILE          works on another data file than the configured one (%1)\n"
-          "\n"
-          "Here dates are written %2 and numbers %3, but in text files with a point and no\n"
-          "groups. Text files are written in UTF-16 behind a byte-order mark, and read in code "
-          "page\n"
-          "%4 where there is none.\n"_s.arg(file, environment.context.systemLocale.shortDatePicture,
-              FormatNumber(u"1234.5", locale).value_or(QString()),
-              QString::number(locale.codePage));
-    return text.toUtf8();
+    const QString file = environment.dataFile.isEmpty()
+        ? language(QT_TRANSLATE_NOOP("CommandHelp", "none so far"))
+        : environment.dataFile;
+    //: %1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.
+    return language(
+        QT_TRANSLATE_NOOP("CommandHelp",
+            "  --data FILE          works on another data file than the configured one (%1)\n"
+            "\n"
+            "Here dates are written %2 and numbers %3, but in text files with a point and no\n"
+            "groups. Text files are written in UTF-16 behind a byte-order mark, and read in code "
+            "page\n"
+            "%4 where there is none.\n"))
+        .arg(file, environment.context.systemLocale.shortDatePicture,
+            FormatNumber(u"1234.5", locale).value_or(QString()), QString::number(locale.codePage));
 }
 
 } // namespace
@@ -308,27 +331,33 @@ QByteArray UsageText(const SubCommand* command)
 
 QByteArray HelpText(const CommandEnvironment& environment)
 {
-    QByteArray text = UsageText(nullptr);
-    text += "\nOpens the window, showing LIST if it is named. The commands work without it:\n\n";
+    const HelpLanguage language;
+    QString text = QString::fromUtf8(UsageText(nullptr));
+    text += language(QT_TRANSLATE_NOOP("CommandHelp",
+        "\nOpens the window, showing LIST if it is named. The commands work without it:\n\n"));
     for (const SubCommand& command : kSubCommands)
-        text += "  quillory " + Words(command) + '\n';
-    text += "\n  --new-list           opens the window with the page of a new list\n"
-            "  --help               help, on a command if one is named\n"
-            "  --version            the version\n";
-    text += FormsText(environment);
-    return text + "\nExit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.\n";
+        text += u"  quillory "_s + QString::fromUtf8(Words(command)) + u'\n';
+    text += language(QT_TRANSLATE_NOOP("CommandHelp",
+        "\n  --new-list           opens the window with the page of a new list\n"
+        "  --help               help, on a command if one is named\n"
+        "  --version            the version\n"));
+    text += FormsText(environment, language);
+    text += language(QT_TRANSLATE_NOOP("CommandHelp",
+        "\nExit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.\n"));
+    return text.toUtf8();
 }
 
 QByteArray HelpText(const SubCommand& command, const CommandEnvironment& environment)
 {
-    QByteArray text = UsageText(&command) + '\n' + command.help;
-    if (!text.contains("\n  --"))
-        text += '\n';
+    const HelpLanguage language;
+    QString text = QString::fromUtf8(UsageText(&command)) + u'\n' + language(command.help);
+    if (!text.contains(u"\n  --"))
+        text += u'\n';
     if (std::find(
             command.valueOptions.begin(), command.valueOptions.end(), std::string_view("where"))
         != command.valueOptions.end())
-        text += kWhereHelp;
-    return text + FormsText(environment);
+        text += language(kWhereHelp);
+    return (text + FormsText(environment, language)).toUtf8();
 }
 
 } // namespace Quillory

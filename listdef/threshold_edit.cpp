@@ -57,6 +57,7 @@ ThresholdEdit::ThresholdEdit(qint32 value, QWidget* parent)
     setAccessibleName(ControlText(Control::WarnOnCount));
     m_edit->setObjectName(u"threshold"_s);
     m_edit->setAccessibleName(ControlText(Control::WarnOnCount));
+    //: The least and the greatest number that can be typed.
     m_edit->setAccessibleDescription(tr("%1 to %2").arg(-kMaxStep).arg(kMaxStep));
     m_edit->setMaxLength(kMaxCharacters);
     m_edit->setInputMethodHints(Qt::ImhPreferNumbers);

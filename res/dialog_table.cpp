@@ -25,7 +25,7 @@ const char* TitleSource(Dialog dialog)
     case Dialog::DisplayOptions:
         return QT_TRANSLATE_NOOP("Dialogs", "Options");
     case Dialog::Summary:
-        return QT_TRANSLATE_NOOP("Dialogs", "Quillory");
+        return "Quillory";
     case Dialog::Filters:
         return QT_TRANSLATE_NOOP("Dialogs", "Filters");
     case Dialog::Filter:
@@ -47,7 +47,7 @@ struct ControlEntry
 };
 
 constexpr std::array kControls {
-    ControlEntry { Control::VersionText, QT_TRANSLATE_NOOP("Controls", "1.00.034") },
+    ControlEntry { Control::VersionText, "1.00.034" },
     ControlEntry { Control::WarnOnCount,
         QT_TRANSLATE_NOOP("Controls", "Enable row colour when count is less than or equal to") },
     ControlEntry { Control::WarnOnExpiry,

@@ -42,7 +42,7 @@ constexpr std::array kStrings {
     Entry { 115,
         QT_TRANSLATE_NOOP(
             "Strings", "Import is completed with errors. Data may not be imported properly.") },
-    Entry { 128, QT_TRANSLATE_NOOP("Strings", "Quillory") },
+    Entry { 128, "Quillory" },
     Entry { 200, QT_TRANSLATE_NOOP("Strings", "String") },
     Entry { 201, QT_TRANSLATE_NOOP("Strings", "Checkbox") },
     Entry { 202, QT_TRANSLATE_NOOP("Strings", "Price") },
@@ -53,6 +53,7 @@ constexpr std::array kStrings {
     Entry { 222, QT_TRANSLATE_NOOP("Strings", "Expiry Date") },
     Entry { 240, QT_TRANSLATE_NOOP("Strings", "Unchecked") },
     Entry { 241, QT_TRANSLATE_NOOP("Strings", "Checked") },
+    //: The conditions stand between a column and a value: Price "greater than" 3.50.
     Entry { 3000, QT_TRANSLATE_NOOP("Strings", "contains") },
     Entry { 3001, QT_TRANSLATE_NOOP("Strings", "equals to") },
     Entry { 3002, QT_TRANSLATE_NOOP("Strings", "not equals to") },
@@ -60,6 +61,7 @@ constexpr std::array kStrings {
     Entry { 3004, QT_TRANSLATE_NOOP("Strings", "greater than or equals to") },
     Entry { 3005, QT_TRANSLATE_NOOP("Strings", "less than") },
     Entry { 3006, QT_TRANSLATE_NOOP("Strings", "less than or equals to") },
+    //: These stand before a date: Opened "on or after" 10 May.
     Entry { 3100, QT_TRANSLATE_NOOP("Strings", "on") },
     Entry { 3101, QT_TRANSLATE_NOOP("Strings", "not on") },
     Entry { 3102, QT_TRANSLATE_NOOP("Strings", "after") },
@@ -74,7 +76,7 @@ constexpr std::array kStrings {
 
 /// In the order of Text.
 constexpr std::array kTexts {
-    QT_TRANSLATE_NOOP("Texts", "Quillory"),
+    "Quillory",
     QT_TRANSLATE_NOOP("Texts", "Unable to create list table!"),
     QT_TRANSLATE_NOOP("Texts", "Unable to create user database!"),
     QT_TRANSLATE_NOOP("Texts", "Unable to create inventory table!"),
@@ -85,6 +87,8 @@ constexpr std::array kTexts {
         "lists. Tap OK to continue."),
     QT_TRANSLATE_NOOP("Texts", "Version"),
     QT_TRANSLATE_NOOP("Texts", "Find"),
+    //: Stands between a number and a colour: "Enable row colour when count is less than or equal to"
+    //: 3 "to colour" red.
     QT_TRANSLATE_NOOP("Texts", "to colour"),
     QT_TRANSLATE_NOOP("Texts", "Field:"),
     QT_TRANSLATE_NOOP("Texts", "Condition:"),

@@ -122,6 +122,7 @@ QString DateField::Entry() const
 
 std::optional<QDate> DateField::Read(const QString& text) const
 {
+    //: Typed in place of a date, in small letters.
     return ReadTypedDate(text, tr("today"), m_context);
 }
 

@@ -24,8 +24,10 @@ QString WarningText(const RowWarnings& warnings)
 {
     QStringList words;
     if (warnings.isLow)
+        //: Beside the name of a row of which few are left; short.
         words << QCoreApplication::translate("Warnings", "low");
     if (warnings.isExpired)
+        //: Beside the name of a row whose expiry date is reached; short.
         words << QCoreApplication::translate("Warnings", "expired");
     return words.join(u", "_s);
 }

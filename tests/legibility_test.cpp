@@ -17,6 +17,8 @@
 #include <QScopeGuard>
 #include <QTabBar>
 
+#include <algorithm>
+
 namespace {
 
 /// As desktops have them; the shades of a button are the toolkit's.
@@ -133,6 +135,7 @@ private Q_SLOTS:
     {
         const auto restore
             = qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
+        QApplication::setStyle(new AppStyle);
         QWidget window;
         ApplyWindowStyle(&window);
         window.show();
@@ -144,6 +147,22 @@ private Q_SLOTS:
         QVERIFY(isSizeAt(7, 13));
         QVERIFY(isSizeAt(24, 32));
         QTest::createTouchDevice();
+        for (const PageCase& page : kPages) {
+            // Before anything of the program has enlarged it.
+            QApplication::setFont(QFont(QString(), 7));
+            Subject subject;
+            Show(subject, page);
+            ApplyWindowStyle(&subject.stack);
+            const auto areLarge = [&subject] {
+                const auto widgets = subject.page->findChildren<QWidget*>();
+                return std::ranges::all_of(widgets, [](const QWidget* widget) {
+                    const bool isList = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+                    return (!isList && !IsWritten(*widget))
+                        || QFontInfo(widget->font()).pixelSize() >= 15;
+                });
+            };
+            QVERIFY2(QTest::qWaitFor(areLarge, 500), page.name);
+        }
         QVERIFY(isSizeAt(7, 15));
         QVERIFY(isSizeAt(24, 32));
     }

@@ -195,7 +195,7 @@ private Q_SLOTS:
         add("nothing", u"tap No; tap No"_s);
         add("copy", u"see The data file is damaged. There is a good copy of…; tap Yes"_s);
         add("rest",
-            u"tap No; see Of the damaged file 0 row(s) in 1 list(s) can still be read.…; tap Yes"_s);
+            u"tap No; see What can still be read of the damaged file: 0 row(s), 1 list(s).…; tap Yes"_s);
     }
     void aDamagedFileIsReplacedByItsCopyOrItsRest()
     {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/desktop_look.h"
+#include "tests/cut_controls.h"
 #include "tests/every_page.h"
 #include "tests/person.h"
 #include "tests/table.h"
@@ -15,9 +16,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QScopeGuard>
-#include <QScrollArea>
 #include <QSignalSpy>
-#include <QTabBar>
 #include <QTableView>
 
 namespace {
@@ -63,34 +62,6 @@ QStringList LookOf(const Page& page)
             << (table == nullptr ? 0 : table->horizontalHeader()->length());
     }
     return lines;
-}
-
-/// What of a page's controls cannot be seen whole, nor scrolled to.
-QStringList CutControls(const Page& page)
-{
-    QStringList cut;
-    const auto* area = page.findChild<QScrollArea*>();
-    for (const QWidget* widget : page.findChildren<QWidget*>()) {
-        const bool isControl = qobject_cast<const QTabBar*>(widget)
-            || qobject_cast<const QAbstractButton*>(widget)
-            || qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget);
-        if (!isControl || !widget->isVisible())
-            continue;
-        const QRect place(widget->mapTo(&page, QPoint()), widget->size());
-        const bool isScrolled = area != nullptr && area->isAncestorOf(widget);
-        const QRect room
-            = isScrolled ? QRect(0, place.y(), page.width(), place.height()) : page.rect();
-        const auto* button = qobject_cast<const QAbstractButton*>(widget);
-        const QFontMetrics metrics = widget->fontMetrics();
-        const int width
-            = button == nullptr ? kMinTouchTarget : metrics.horizontalAdvance(button->text());
-        const int height = button != nullptr && button->text().isEmpty() ? 0 : metrics.height();
-        if (!room.contains(place) || widget->width() > kMaxPageWidth || widget->width() < width
-            || widget->height() < height)
-            QDebug(&cut.emplace_back())
-                << widget->metaObject()->className() << widget->objectName() << place;
-    }
-    return cut;
 }
 
 } // namespace

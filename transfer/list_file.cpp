@@ -3,6 +3,7 @@
 
 #include "propdb/volume_path.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -33,9 +34,9 @@ ListFile Open(std::unique_ptr<QFileDevice> file, const QString& dataFile, QIODev
 {
     const QString path = file->fileName();
     if (IsSameFile(path, dataFile))
-        return { nullptr, u"it is the data file itself"_s };
+        return { nullptr, QCoreApplication::translate("ListFile", "it is the data file itself") };
     if (IsJournalOf(path, dataFile))
-        return { nullptr, u"it is the name of the data file's journal"_s };
+        return { nullptr, QCoreApplication::translate("ListFile", "it is the name of the data file's journal") };
     if (!file->open(mode | QIODevice::Unbuffered))
         return { nullptr, file->errorString() };
     return { std::move(file), {} };

@@ -2,6 +2,7 @@
 #include "transfer/text_import.h"
 
 #include "store/list_catalogue.h"
+#include "transfer/ambiguous_dates.h"
 #include "transfer/import_batch.h"
 #include "transfer/import_rows.h"
 
@@ -104,6 +105,7 @@ public:
         : m_monitor(monitor)
         , m_reader(source, columns.size(), context.userLocale.codePage, limits.line)
         , m_batch(columns, limits)
+        , m_dates(columns, context)
         , m_writer(volume, columns, context)
     {
         m_progress.bytesTotal = source.isSequential() ? 0 : source.size();
@@ -113,6 +115,7 @@ public:
     {
         while (IsGoingOn() && m_reader.Next()) {
             m_batch.Add(m_reader.Fields());
+            m_dates.Look(m_reader.Fields());
             ++m_progress.lines;
             if (Report() && m_batch.IsFull())
                 StoreBatch();
@@ -124,6 +127,7 @@ public:
         m_outcome.rows = m_writer.Rows();
         m_outcome.lines = m_reader.LinesRead();
         m_outcome.isLastLineOpen = m_reader.HasOpenLine();
+        m_outcome.ambiguousDate = m_dates.First();
         m_outcome.writeError = m_writer.Error();
         return m_outcome;
     }
@@ -132,6 +136,7 @@ private:
     const ImportMonitor& m_monitor;
     ImportFieldReader m_reader;
     ImportBatch m_batch;
+    AmbiguousDates m_dates;
     RowWriter m_writer;
     ImportProgress m_progress;
     ImportOutcome m_outcome;
@@ -177,14 +182,17 @@ ImportOutcome CountImportRows(
     std::span<const PropertyId> columns, const ValueContext& context, QIODevice& source)
 {
     ImportFieldReader reader(source, columns.size(), context.userLocale.codePage);
+    AmbiguousDates dates(columns, context);
     std::vector<PropertyValue> values;
     ImportOutcome outcome;
     while (reader.Next()) {
         ReadFields(reader.Fields(), columns, context, values);
         outcome.rows += values.empty() ? 0 : 1;
+        dates.Look(reader.Fields());
     }
     outcome.lines = reader.LinesRead();
     outcome.isLastLineOpen = reader.HasOpenLine();
+    outcome.ambiguousDate = dates.First();
     if (reader.HasFailed())
         outcome.result = ImportResult::Failed;
     return outcome;

@@ -35,6 +35,18 @@ void EmptyHint::Say(const QString& hint)
     Update();
 }
 
+void EmptyHint::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    setFont(m_view->font());
+    QFont fitting = font();
+    for (int size = QFontInfo(fitting).pixelSize();
+         size > CurrentMeasures().textSize && heightForWidth(width()) > height(); --size) {
+        fitting.setPixelSize(size - 1);
+        setFont(fitting);
+    }
+}
+
 void EmptyHint::Update()
 {
     const bool isEmpty = m_view->model()->rowCount() == 0;

@@ -20,6 +20,10 @@ public:
     /// What is said from now on, while there are no lines.
     void Say(const QString& hint);
 
+protected:
+    /// Where all of it does not fit the letters are smaller.
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QAbstractItemView* m_view;
 

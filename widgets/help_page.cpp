@@ -33,7 +33,8 @@ HelpPage::HelpPage(const QString& anchor, QWidget* parent)
     new TouchBehaviour(text);
     Body()->addWidget(text, 1);
     setFocusProxy(text);
-    const QUrl place(u"qrc:/help/Quillory.htm#"_s + anchor);
+    //: The file of the help, such as Quillory_de.htm where it is there in German.
+    const QUrl place(u"qrc:/help/%1#%2"_s.arg(tr("Quillory.htm"), anchor));
     text->setSource(place);
     // Where an anchor stands is known once the page has its width.
     QTimer::singleShot(0, text, [text, place] { text->scrollToAnchor(place.fragment()); });

@@ -31,19 +31,50 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The title of a page, cut at its end where the header has no room for all of it.
+/// The title of a page: in two lines of smaller letters where the header has no room for it in one.
+/// Where it has none for these either the title is cut at its end, and a tip tells all of it.
 class TitleLabel : public QLabel
 {
 public:
     using QLabel::QLabel;
 
 protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::ToolTip)
+            setToolTip(WholeLines() == 0 ? text() : QString());
+        return QLabel::event(event);
+    }
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
         painter.setPen(AccentInk(palette()));
-        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-            fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+        if (WholeLines() == 2) {
+            painter.setFont(SmallFont());
+            painter.drawText(
+                rect(), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextWordWrap, text());
+        } else {
+            painter.drawText(rect(), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
+                fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+        }
+    }
+
+private:
+    /// In how many lines it is whole; 0 where it is cut.
+    [[nodiscard]] int WholeLines() const
+    {
+        if (fontMetrics().horizontalAdvance(text()) <= width())
+            return 1;
+        const QSize two = QFontMetrics(SmallFont())
+                              .boundingRect(QRect(0, 0, width(), 0), Qt::TextWordWrap, text())
+                              .size();
+        return two.width() <= width() && two.height() <= height() ? 2 : 0;
+    }
+    [[nodiscard]] QFont SmallFont() const
+    {
+        QFont small = font();
+        small.setPixelSize(std::max(CurrentMeasures().textSize, QFontInfo(small).pixelSize() * 3 / 4));
+        return small;
     }
 };
 
@@ -128,7 +159,7 @@ void OpenFromKey(QMenu& menu, const QWidget& key)
     // The menu's own size hint never goes beyond the screen.
     const auto lines = static_cast<int>(menu.actions().size());
     if (lines * CurrentMeasures().lineHeight > key.window()->height())
-        menu.setStyleSheet(u"QMenu::item { padding: 7px 24px; }"_s);
+        menu.setStyleSheet(u"QMenu::item { padding: 7px 16px 7px 2px; }"_s);
     const QSize size = menu.sizeHint();
     QPoint place = key.mapToGlobal(QPoint(key.width() - size.width(), -size.height()));
     place.setX(std::max(place.x(), key.window()->mapToGlobal(QPoint()).x()));
@@ -170,8 +201,6 @@ void Page::BuildHeader(const QString& title)
     m_header->setAttribute(Qt::WA_StyledBackground);
     m_header->setObjectName(u"header"_s);
     auto* line = new QHBoxLayout(m_header);
-    line->setContentsMargins(kPageMargin, 0, kGrid, 0);
-    line->setSpacing(kGrid);
     m_title = new TitleLabel(title, m_header);
     m_title->setObjectName(u"title"_s);
     QFont bold = m_title->font();
@@ -318,6 +347,9 @@ void Page::FitToWindow()
     const bool isNarrow = width() < kNarrowPage;
     m_titleLine->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     m_titleLine->setSpacing(isNarrow ? 0 : kGrid);
+    m_header->layout()->setContentsMargins(
+        isNarrow ? kNarrowMargin : kPageMargin, 0, isNarrow ? 0 : kGrid, 0);
+    m_header->layout()->setSpacing(isNarrow ? 0 : kGrid);
     const int beside = std::max(0, (width() - kMaxPageWidth) / 2);
     if (!IsAsWideAsWindow())
         m_body->setContentsMargins(beside, 0, beside, 0);

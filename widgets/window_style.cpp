@@ -62,7 +62,8 @@ QString StyleSheet(const QWidget& window)
     return sheet;
 }
 
-/// Gives the application letters that are large enough where the desktop's are not.
+} // namespace
+
 void EnlargeLetters()
 {
     QFont font = QApplication::font();
@@ -71,6 +72,8 @@ void EnlargeLetters()
     font.setPixelSize(CurrentMeasures().textSize);
     QApplication::setFont(font);
 }
+
+namespace {
 
 /// Works the colours of the palette into the style again whenever they change. So it does with the
 /// font: a style sheet holds on to the one that it was worked out with. And where the window
@@ -97,11 +100,10 @@ public:
     void Dress()
     {
         const Measures* frame = &FrameMeasures(m_window->height());
-        if (frame == m_frame && QApplication::font() == m_font
-            && QApplication::palette() == m_palette)
+        if (frame == m_frame && m_window->font() == m_font && QApplication::palette() == m_palette)
             return;
         m_frame = frame;
-        m_font = QApplication::font();
+        m_font = m_window->font();
         m_palette = QApplication::palette();
         // The colours of a dressed window are partly the style's own.
         m_window->setStyleSheet(QString());
@@ -121,8 +123,9 @@ private:
             return &FrameMeasures(resize.size().height())
                 != &FrameMeasures(resize.oldSize().height());
         }
+        // The application's font is the window's only once this has come.
         return event.type() == QEvent::ApplicationPaletteChange
-            || event.type() == QEvent::ApplicationFontChange;
+            || event.type() == QEvent::FontChange;
     }
 };
 

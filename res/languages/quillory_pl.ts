@@ -1,0 +1,1340 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl">
+<context>
+    <name>Calendar</name>
+    <message>
+        <source>Previous month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Colours</name>
+    <message>
+        <source>Automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Navy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Azure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Midnight blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maroon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pale pink</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slate blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark plum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pale cyan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bright green</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Olive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pale blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Periwinkle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pale orange</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dusky blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sky blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leaf green</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pale green</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lavender</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mauve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amber</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Raspberry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark green</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommandHelp</name>
+    <message>
+        <source>Prints a line per list, in the order of their names: name TAB number of rows.
+
+  --json               name, rows, icon and columns of each list
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes a list and prints nothing. Its first columns are Name and Quantity.
+
+  --column NAME:TYPE   adds a column; TYPE is string, checkbox, price, integer, date or
+                       expiry (which needs no NAME). May be given several times.
+  --warn-count N       warns of rows whose quantity is N or less
+  --warn-expiry        warns of rows whose expiry date is reached
+  --icon N             icon 0 to 42
+  --create             makes the data file if there is none
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  --where CONDITION    only rows that meet it: &quot;COLUMN CONDITION VALUE&quot;, as in
+                       &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened = Checked&quot;.
+                       Conditions are those of the program&apos;s filters, by their words or
+                       as = != &gt; &gt;= &lt; &lt;=. As there, != on text, numbers and prices finds
+                       what = finds. Numbers are read as they are shown. May be given
+                       several times: all must hold.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints a line of column names, then the rows in the order of names, with TAB between
+fields. Control characters in texts are shown as blanks.
+
+  --sort COLUMN        in ascending order of a column
+  --descending         the other way round
+  --no-header          without the line of column names
+  --json               an object per row; dates as YYYY-MM-DD, missing values as null
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks for a text in every column of every list, whatever its case and accents, and prints a
+line per value that has it: list TAB row TAB column TAB value.
+
+  --json               list, row, column and text of each
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each
+row. Without FILE, or with -, to standard output. An existing FILE is replaced.
+
+  --dates iso          dates as YYYY-MM-DD, which every locale reads alike
+  --format NAME        csv or tsv, a table for other programs in UTF-8 behind a line of column
+                       names: dates as YYYY-MM-DD, a point before decimals, true and false;
+                       json, as show prints it; or html, a page to read
+  --all DIR            every list into a folder, which is made if need be: a file for each, as csv
+                       unless told otherwise, and lists.json, which tells of them
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds a row for each line of a text file, as Import List does, and prints how many came in.
+FILE - is standard input. Each line must end in CR LF, the last one too.
+
+  --columns &quot;A,B&quot;      the columns that the fields of a line fill; those not named follow
+                       in the list&apos;s order, which is also what holds without this option
+  --encoding NAME      what the file is in: utf-8, utf-16, or the number of a code page such
+                       as 1252
+  --format NAME        csv or tsv, tables as export writes them: the first line names columns;
+                       of csv comma, semicolon or TAB part the fields. All rows come in, or none
+  --match COLUMN       of a table: changes the row that has the same value in this column, and
+                       adds one where none has
+  --all DIR            makes every list that lists.json in a folder tells of, and prints them
+  --create             with --all: makes the data file if there is none
+  --dry-run            stores nothing, prints how many rows would come in
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints a line per total of a number or price column: name TAB total, with a point before
+decimals.
+
+  --json               name and total of each
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints rows of lists whose warnings are on: list TAB row TAB &quot;low&quot;, &quot;expired&quot; or the date
+on which the row expires.
+
+  --within DAYS        also rows that expire in so many days
+  --json               list, row, state and count or date of each
+  --ics                prints a calendar of all expiry dates instead, as iCalendar; with
+                       --within only those until then
+  --notify             prints nothing, but shows what is due since it was shown last, once a
+                       day at most, as a notification of the desktop. A tap on that opens the
+                       list; until then or until it is closed the command waits.
+
+Exits with 3 if something is due, with 0 if nothing is.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
+Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds a row with these values and prints 1. Numbers are read as they are shown, a checkbox is
+Checked or Unchecked.
+
+  --dry-run            stores nothing
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives all rows that meet the conditions these values, or none of them if one cannot be
+stored, and prints how many there are.
+
+  --dry-run            stores nothing
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counts all rows that meet the conditions up by +N or down by -N, or none of them if one
+cannot be stored, and prints how many there are.
+
+  --dry-run            stores nothing
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deletes all rows that meet the conditions, or none of them if one cannot be, and prints how
+many there are.
+
+  --dry-run            deletes nothing
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives a list another name and prints nothing.
+
+  --dry-run            stores nothing
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deletes a list with all its rows and prints how many these are.
+
+  --dry-run            deletes nothing
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads the whole data file. Prints &quot;ok&quot;, or what is wrong and exits with 1.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes a consistent copy of the data file, also while it is in use. FILE must not exist.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
+the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90
+days after the file is found to be gone.
+
+Without options prints a line per copy, the newest first: number TAB time TAB bytes, and
+then a line per list that can be read from the data file itself, also if that is damaged:
+salvage TAB list TAB rows TAB what is lost. Otherwise makes the new data file FILE, which
+must not exist:
+
+  --from N             from copy N
+  --salvage            from what can still be read of the data file, and prints what that
+                       is; the data file is only read
+  --json               an object per copy and per list
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none so far</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  --data FILE          works on another data file than the configured one (%1)
+
+Here dates are written %2 and numbers %3, but in text files with a point and no
+groups. Text files are written in UTF-16 behind a byte-order mark, and read in code page
+%4 where there is none.
+</source>
+        <extracomment>%1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Opens the window, showing LIST if it is named. The commands work without it:
+
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+  --new-list           opens the window with the page of a new list
+  --help               help, on a command if one is named
+  --version            the version
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Controls</name>
+    <message>
+        <source>Enable row colour when count is less than or equal to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enable row colour when expiry date is reached to colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display list using landscape mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Landscape (right-handed)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Landscape (left-handed)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use alternate row colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DataFileOpener</name>
+    <message>
+        <source>The data file is damaged. There is a good copy of %1.
+
+Do you want to go on with it? It is written to a new file; the damaged one stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The new file could not be written. Error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Beside the data file lay the journal of another file. It is kept as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has written into the data file. What it holds now: %1, %2.
+
+Do you want to go on with that? It is written to a new file; the old one stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What can still be read of the damaged file: %1, %2.
+
+Do you want to go on with that? It is written to a new file; the damaged one stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n list(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Deletions</name>
+    <message>
+        <source>The list &apos;%1&apos; was deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All rows of &apos;%1&apos; were deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Dialogs</name>
+    <message>
+        <source>Welcome to Quillory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column Definition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Column Order</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Icons</name>
+    <message>
+        <source>List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refrigerator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Freezer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apple</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Carrot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bread</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Meat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Milk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coffee</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Baby bottle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pills</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First aid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cosmetics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cleaning spray</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shirt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shoe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jewel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stamp</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Book</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Game pad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puzzle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plug</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bulb</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hammer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Screw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Car</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ListFile</name>
+    <message>
+        <source>it is the data file itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is the name of the data file&apos;s journal</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ListTransfer</name>
+    <message numerus="yes">
+        <source>The import was cancelled. %n row(s) are in the list already.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Dates such as %1 were read in the form %2.</source>
+        <extracomment>%1 is such as 10/05/2026, %2 such as dd/MM/yyyy.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is no plain file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file could not be written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>This list can be read only in part: %n row(s) are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Menus</name>
+    <message>
+        <source>List Properties...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import List...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export List...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete List...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete All Records...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Read Only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Expiry Date Column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Modify...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View Summary...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Filters...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear Filters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtract 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::ColourGrid</name>
+    <message>
+        <source>Colours</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::ColumnsPanel</name>
+    <message>
+        <source>A new column goes before the selected one. Once the list is made its columns stay.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::DataFileSession</name>
+    <message>
+        <source>The change could not be saved. Error: %1
+
+Tap Retry to open the data file again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another file was put in the place of the data file. The old one is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another file was put in the place of the data file. No copy could be kept of the old one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The data file is no longer in its place. What it held is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The data file is no longer in its place. No copy could be kept of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No copy of the data file could be kept. Error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::DateField</name>
+    <message>
+        <source>Calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>today</source>
+        <extracomment>Typed in place of a date, in small letters.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not a date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date. Type it as in %2, or pick it from the calendar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::FilterBar</name>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::FiltersPage</name>
+    <message>
+        <source>No filters yet. Tap Add to make one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::GeneralPanel</name>
+    <message>
+        <source>Icon</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::HelpPage</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillory.htm</source>
+        <extracomment>The file of the help, such as Quillory_de.htm where it is there in German.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::HomeList</name>
+    <message>
+        <source>No lists yet. Tap New to make one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::IconGrid</name>
+    <message>
+        <source>Icons</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::IconGridPage</name>
+    <message>
+        <source>Icon</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::IconPicker</name>
+    <message>
+        <source>Next icon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous icon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All icons</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::MainFrame</name>
+    <message>
+        <source>Choose a list to see its rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some lists cannot be read. Error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::MenuKey</name>
+    <message>
+        <source>opens a menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::OptionsPanel</name>
+    <message>
+        <source>Only lists with an expiry date column can warn of dates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::Page</name>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to discard what you have entered?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::RowsView</name>
+    <message>
+        <source>read-only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No row meets the filters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list has no rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No rows yet. Tap New to add one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list can be read only in part, so nothing is summed up. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::SummaryPage</name>
+    <message>
+        <source>Totals</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::ThresholdEdit</name>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>The least and the greatest number that can be typed.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::UndoBar</name>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Strings</name>
+    <message>
+        <source>Inventory List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to delete the selected row?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Inventory List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please specifiy a name. Empty name is not allowed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to delete all rows in list &apos;%s&apos;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to delete list &apos;%s&apos; and all its data?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inventory List Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quillory is unable to open the data file. Please make sure the storage card is inserted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The data file cannot be found. Do you want to create a new data file at the same location? Tap No to try to locate it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No record matched the criteria.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import is completed with errors. Data may not be imported properly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checkbox</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expiry Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unchecked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <extracomment>The conditions stand between a column and a value: Price &quot;greater than&quot; 3.50.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>equals to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not equals to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>greater than or equals to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>less than or equals to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on</source>
+        <extracomment>These stand before a date: Opened &quot;on or after&quot; 10 May.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on or after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on or before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Texts</name>
+    <message>
+        <source>Unable to create list table!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unable to create user database!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unable to create inventory table!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unable to open data file. Error: %d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Out of memory!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To begin using Quillory, please choose a name and location to store all your inventory lists. Tap OK to continue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>to colour</source>
+        <extracomment>Stands between a number and a colour: &quot;Enable row colour when count is less than or equal to&quot; 3 &quot;to colour&quot; red.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Condition:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inventory Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Warnings</name>
+    <message>
+        <source>low</source>
+        <extracomment>Beside the name of a row of which few are left; short.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expired</source>
+        <extracomment>Beside the name of a row whose expiry date is reached; short.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
