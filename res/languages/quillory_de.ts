@@ -5,162 +5,162 @@
     <name>Calendar</name>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorheriger Monat</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Monat</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
 </context>
 <context>
     <name>Colours</name>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>Navy</source>
-        <translation type="unfinished"></translation>
+        <translation>Marineblau</translation>
     </message>
     <message>
         <source>Azure</source>
-        <translation type="unfinished"></translation>
+        <translation>Azurblau</translation>
     </message>
     <message>
         <source>Midnight blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitternachtsblau</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Maroon</source>
-        <translation type="unfinished"></translation>
+        <translation>Weinrot</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>Pale pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Blassrosa</translation>
     </message>
     <message>
         <source>Slate blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Schieferblau</translation>
     </message>
     <message>
         <source>Dark plum</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelviolett</translation>
     </message>
     <message>
         <source>Pale cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Blasscyan</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Brown</source>
-        <translation type="unfinished"></translation>
+        <translation>Braun</translation>
     </message>
     <message>
         <source>Bright green</source>
-        <translation type="unfinished"></translation>
+        <translation>Hellgrün</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Teal</source>
-        <translation type="unfinished"></translation>
+        <translation>Blaugrün</translation>
     </message>
     <message>
         <source>Olive</source>
-        <translation type="unfinished"></translation>
+        <translation>Oliv</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelb</translation>
     </message>
     <message>
         <source>Pale blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blassblau</translation>
     </message>
     <message>
         <source>Periwinkle</source>
-        <translation type="unfinished"></translation>
+        <translation>Immergrün</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa</translation>
     </message>
     <message>
         <source>Pale orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Blassorange</translation>
     </message>
     <message>
         <source>Dusky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Taubenblau</translation>
     </message>
     <message>
         <source>Sky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Himmelblau</translation>
     </message>
     <message>
         <source>Leaf green</source>
-        <translation type="unfinished"></translation>
+        <translation>Laubgrün</translation>
     </message>
     <message>
         <source>Pale green</source>
-        <translation type="unfinished"></translation>
+        <translation>Blassgrün</translation>
     </message>
     <message>
         <source>Lavender</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavendel</translation>
     </message>
     <message>
         <source>Violet</source>
-        <translation type="unfinished"></translation>
+        <translation>Violett</translation>
     </message>
     <message>
         <source>Mauve</source>
-        <translation type="unfinished"></translation>
+        <translation>Malve</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Purpur</translation>
     </message>
     <message>
         <source>Amber</source>
-        <translation type="unfinished"></translation>
+        <translation>Bernstein</translation>
     </message>
     <message>
         <source>Sage</source>
-        <translation type="unfinished"></translation>
+        <translation>Salbei</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Grau</translation>
     </message>
     <message>
         <source>Raspberry</source>
-        <translation type="unfinished"></translation>
+        <translation>Himbeere</translation>
     </message>
     <message>
         <source>Dark green</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkelgrün</translation>
     </message>
 </context>
 <context>
@@ -387,35 +387,35 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
     <name>Controls</name>
     <message>
         <source>Enable row colour when count is less than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile einfärben, wenn die Anzahl höchstens so groß ist:</translation>
     </message>
     <message>
         <source>Enable row colour when expiry date is reached to colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile einfärben, wenn das Ablaufdatum erreicht ist, in</translation>
     </message>
     <message>
         <source>Display list using landscape mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen im Querformat zeigen</translation>
     </message>
     <message>
         <source>Landscape (right-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat (rechte Hand)</translation>
     </message>
     <message>
         <source>Landscape (left-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat (linke Hand)</translation>
     </message>
     <message>
         <source>Use alternate row colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede zweite Zeile tönen</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach oben</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach unten</translation>
     </message>
 </context>
 <context>
@@ -424,40 +424,46 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
         <source>The data file is damaged. There is a good copy of %1.
 
 Do you want to go on with it? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datendatei ist beschädigt. Es gibt eine gute Kopie vom %1.
+
+Mit ihr weitermachen? Sie wird in eine neue Datei geschrieben; die beschädigte bleibt, wie sie ist.</translation>
     </message>
     <message>
         <source>The new file could not be written. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die neue Datei konnte nicht geschrieben werden. Fehler: %1</translation>
     </message>
     <message>
         <source>Beside the data file lay the journal of another file. It is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neben der Datendatei lag das Journal einer anderen Datei. Es ist aufbewahrt als %1.</translation>
     </message>
     <message>
         <source>Another program has written into the data file. What it holds now: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the old one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat in die Datendatei geschrieben. Ihr Inhalt jetzt: %1, %2.
+
+Damit weitermachen? Er wird in eine neue Datei geschrieben; die alte bleibt, wie sie ist.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was von der beschädigten Datei noch lesbar ist: %1, %2.
+
+Damit weitermachen? Es wird in eine neue Datei geschrieben; die beschädigte bleibt, wie sie ist.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n list(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Liste</numerusform>
+            <numerusform>%n Listen</numerusform>
         </translation>
     </message>
 </context>
@@ -465,265 +471,265 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Deletions</name>
     <message>
         <source>The list &apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste „%1“ wurde gelöscht.</translation>
     </message>
     <message>
         <source>All rows of &apos;%1&apos; were deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zeilen von „%1“ wurden gelöscht.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde gelöscht.</translation>
     </message>
 </context>
 <context>
     <name>Dialogs</name>
     <message>
         <source>Welcome to Quillory</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen bei Quillory</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten</translation>
     </message>
     <message>
         <source>Column Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Import Column Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Import: Spalten</translation>
     </message>
 </context>
 <context>
     <name>Icons</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Schachtel</translation>
     </message>
     <message>
         <source>Jar</source>
-        <translation type="unfinished"></translation>
+        <translation>Glas</translation>
     </message>
     <message>
         <source>Refrigerator</source>
-        <translation type="unfinished"></translation>
+        <translation>Kühlschrank</translation>
     </message>
     <message>
         <source>Freezer</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefriertruhe</translation>
     </message>
     <message>
         <source>Apple</source>
-        <translation type="unfinished"></translation>
+        <translation>Apfel</translation>
     </message>
     <message>
         <source>Carrot</source>
-        <translation type="unfinished"></translation>
+        <translation>Karotte</translation>
     </message>
     <message>
         <source>Bread</source>
-        <translation type="unfinished"></translation>
+        <translation>Brot</translation>
     </message>
     <message>
         <source>Meat</source>
-        <translation type="unfinished"></translation>
+        <translation>Fleisch</translation>
     </message>
     <message>
         <source>Fish</source>
-        <translation type="unfinished"></translation>
+        <translation>Fisch</translation>
     </message>
     <message>
         <source>Milk</source>
-        <translation type="unfinished"></translation>
+        <translation>Milch</translation>
     </message>
     <message>
         <source>Bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>Flasche</translation>
     </message>
     <message>
         <source>Wine</source>
-        <translation type="unfinished"></translation>
+        <translation>Wein</translation>
     </message>
     <message>
         <source>Coffee</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaffee</translation>
     </message>
     <message>
         <source>Baby bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>Babyflasche</translation>
     </message>
     <message>
         <source>Pills</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabletten</translation>
     </message>
     <message>
         <source>First aid</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Hilfe</translation>
     </message>
     <message>
         <source>Cosmetics</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosmetik</translation>
     </message>
     <message>
         <source>Cleaning spray</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprühflasche</translation>
     </message>
     <message>
         <source>Shirt</source>
-        <translation type="unfinished"></translation>
+        <translation>Hemd</translation>
     </message>
     <message>
         <source>Shoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Schuh</translation>
     </message>
     <message>
         <source>Jewel</source>
-        <translation type="unfinished"></translation>
+        <translation>Juwel</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhr</translation>
     </message>
     <message>
         <source>Coins</source>
-        <translation type="unfinished"></translation>
+        <translation>Münzen</translation>
     </message>
     <message>
         <source>Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Briefmarke</translation>
     </message>
     <message>
         <source>Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Buch</translation>
     </message>
     <message>
         <source>Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Scheibe</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Game pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielgerät</translation>
     </message>
     <message>
         <source>Puzzle</source>
-        <translation type="unfinished"></translation>
+        <translation>Puzzle</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefon</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Plug</source>
-        <translation type="unfinished"></translation>
+        <translation>Stecker</translation>
     </message>
     <message>
         <source>Bulb</source>
-        <translation type="unfinished"></translation>
+        <translation>Glühbirne</translation>
     </message>
     <message>
         <source>Hammer</source>
-        <translation type="unfinished"></translation>
+        <translation>Hammer</translation>
     </message>
     <message>
         <source>Screw</source>
-        <translation type="unfinished"></translation>
+        <translation>Schraube</translation>
     </message>
     <message>
         <source>Paint</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>Plant</source>
-        <translation type="unfinished"></translation>
+        <translation>Pflanze</translation>
     </message>
     <message>
         <source>Paw</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfote</translation>
     </message>
     <message>
         <source>Car</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel</translation>
     </message>
 </context>
 <context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist die Datendatei selbst</translation>
     </message>
     <message>
         <source>it is the name of the data file&apos;s journal</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist der Name des Journals der Datendatei</translation>
     </message>
 </context>
 <context>
     <name>ListTransfer</name>
     <message numerus="yes">
         <source>The import was cancelled. %n row(s) are in the list already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Der Import wurde abgebrochen. %n Zeile ist schon in der Liste.</numerusform>
+            <numerusform>Der Import wurde abgebrochen. %n Zeilen sind schon in der Liste.</numerusform>
         </translation>
     </message>
     <message>
         <source>Dates such as %1 were read in the form %2.</source>
         <extracomment>%1 is such as 10/05/2026, %2 such as dd/MM/yyyy.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Daten wie %1 wurden in der Form %2 gelesen.</translation>
     </message>
     <message>
         <source>It is no plain file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
         <source>The file could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei konnte nicht geschrieben werden: %1</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Diese Liste ist nur zum Teil lesbar: %n Zeile steht in der Datei. „quillory restore“ zeigt Kopien und was zu retten ist.</numerusform>
+            <numerusform>Diese Liste ist nur zum Teil lesbar: %n Zeilen stehen in der Datei. „quillory restore“ zeigt Kopien und was zu retten ist.</numerusform>
         </translation>
     </message>
 </context>
@@ -731,137 +737,137 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Menus</name>
     <message>
         <source>List Properties...</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften...</translation>
     </message>
     <message>
         <source>Rename List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste umbenennen</translation>
     </message>
     <message>
         <source>Import List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste importieren...</translation>
     </message>
     <message>
         <source>Export List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste exportieren...</translation>
     </message>
     <message>
         <source>Delete List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste löschen...</translation>
     </message>
     <message>
         <source>Delete All Records...</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zeilen löschen...</translation>
     </message>
     <message>
         <source>Open Read Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur lesend öffnen</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen...</translation>
     </message>
     <message>
         <source>About...</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Quillory...</translation>
     </message>
     <message>
         <source>Add Expiry Date Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablaufdatum hinzufügen</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach oben</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach unten</translation>
     </message>
     <message>
         <source>Modify...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten...</translation>
     </message>
     <message>
         <source>Create Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie anlegen</translation>
     </message>
     <message>
         <source>View Summary...</source>
-        <translation type="unfinished"></translation>
+        <translation>Summen anzeigen...</translation>
     </message>
     <message>
         <source>Find...</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen...</translation>
     </message>
     <message>
         <source>Set Filters...</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter setzen...</translation>
     </message>
     <message>
         <source>Clear Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter aufheben</translation>
     </message>
     <message>
         <source>Add 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1 mehr</translation>
     </message>
     <message>
         <source>Subtract 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1 weniger</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle entfernen</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColourGrid</name>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColumnsPanel</name>
     <message>
         <source>A new column goes before the selected one. Once the list is made its columns stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neue Spalte kommt vor die ausgewählte. Ist die Liste angelegt, bleiben ihre Spalten, wie sie sind.</translation>
     </message>
 </context>
 <context>
@@ -870,205 +876,207 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
         <source>The change could not be saved. Error: %1
 
 Tap Retry to open the data file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderung konnte nicht gespeichert werden. Fehler: %1
+
+Mit „Wiederholen“ wird die Datendatei erneut geöffnet.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. The old one is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>An die Stelle der Datendatei wurde eine andere Datei gesetzt. Die alte ist als Kopie aufbewahrt; „quillory restore“ zeigt die Kopien.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. No copy could be kept of the old one.</source>
-        <translation type="unfinished"></translation>
+        <translation>An die Stelle der Datendatei wurde eine andere Datei gesetzt. Von der alten konnte keine Kopie aufbewahrt werden.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. What it held is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datendatei ist nicht mehr an ihrem Platz. Ihr Inhalt ist als Kopie aufbewahrt; „quillory restore“ zeigt die Kopien.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. No copy could be kept of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datendatei ist nicht mehr an ihrem Platz. Eine Kopie konnte nicht aufbewahrt werden.</translation>
     </message>
     <message>
         <source>No copy of the data file could be kept. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es konnte keine Kopie der Datendatei aufbewahrt werden. Fehler: %1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::DateField</name>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>no date</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Datum</translation>
     </message>
     <message>
         <source>today</source>
         <extracomment>Typed in place of a date, in small letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>heute</translation>
     </message>
     <message>
         <source>not a date</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Datum</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date. Type it as in %2, or pick it from the calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Datum. Tippen Sie es wie %2, oder wählen Sie es im Kalender.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufheben</translation>
     </message>
     <message>
         <source>%1 of %2 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Zeilen</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FiltersPage</name>
     <message>
         <source>No filters yet. Tap Add to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Filter. „Neu“ legt einen an.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::GeneralPanel</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HelpPage</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Quillory.htm</source>
         <extracomment>The file of the help, such as Quillory_de.htm where it is there in German.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillory_de.htm</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HomeList</name>
     <message>
         <source>No lists yet. Tap New to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Listen. „Neu“ legt eine an.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGrid</name>
     <message>
         <source>Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGridPage</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconPicker</name>
     <message>
         <source>Next icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächstes Symbol</translation>
     </message>
     <message>
         <source>Previous icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorheriges Symbol</translation>
     </message>
     <message>
         <source>All icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Symbole</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MainFrame</name>
     <message>
         <source>Choose a list to see its rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine Liste, um ihre Zeilen zu sehen.</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>Some lists cannot be read. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Listen sind nicht lesbar. Fehler: %1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>
     <message>
         <source>opens a menu</source>
-        <translation type="unfinished"></translation>
+        <translation>öffnet ein Menü</translation>
     </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>
     <message>
         <source>Only lists with an expiry date column can warn of dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Listen mit einem Ablaufdatum können davor warnen.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::Page</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Do you want to discard what you have entered?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingaben verwerfen?</translation>
     </message>
 </context>
 <context>
     <name>Quillory::RowsView</name>
     <message>
         <source>read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>nur lesend</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Diese Liste ist nur zum Teil lesbar: %n Zeile wird gezeigt. „quillory restore“ zeigt Kopien und was zu retten ist.</numerusform>
+            <numerusform>Diese Liste ist nur zum Teil lesbar: %n Zeilen werden gezeigt. „quillory restore“ zeigt Kopien und was zu retten ist.</numerusform>
         </translation>
     </message>
     <message>
         <source>No row meets the filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zeile erfüllt die Filter.</translation>
     </message>
     <message>
         <source>This list has no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Liste hat keine Zeilen.</translation>
     </message>
     <message>
         <source>No rows yet. Tap New to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Zeilen. „Neu“ legt eine an.</translation>
     </message>
     <message>
         <source>This list can be read only in part, so nothing is summed up. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Liste ist nur zum Teil lesbar, darum wird nichts zusammengezählt. „quillory restore“ zeigt Kopien und was zu retten ist.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::SummaryPage</name>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Summen</translation>
     </message>
 </context>
 <context>
@@ -1076,247 +1084,247 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>%1 to %2</source>
         <extracomment>The least and the greatest number that can be typed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
     <message>
         <source>Less</source>
-        <translation type="unfinished"></translation>
+        <translation>Weniger</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr</translation>
     </message>
 </context>
 <context>
     <name>Quillory::UndoBar</name>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
 </context>
 <context>
     <name>Strings</name>
     <message>
         <source>Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>Listen</translation>
     </message>
     <message>
         <source>Do you want to delete the selected row?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählte Zeile löschen?</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>New Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Liste</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl</translation>
     </message>
     <message>
         <source>Please specifiy a name. Empty name is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen Namen ein.</translation>
     </message>
     <message>
         <source>Do you want to delete all rows in list &apos;%s&apos;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zeilen der Liste „%s“ löschen?</translation>
     </message>
     <message>
         <source>Do you want to delete list &apos;%s&apos; and all its data?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste „%s“ mit allen Zeilen löschen?</translation>
     </message>
     <message>
         <source>Inventory List Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste bearbeiten</translation>
     </message>
     <message>
         <source>Quillory is unable to open the data file. Please make sure the storage card is inserted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datendatei lässt sich nicht öffnen. Bitte prüfen Sie, ob die Speicherkarte eingesteckt ist.</translation>
     </message>
     <message>
         <source>The data file cannot be found. Do you want to create a new data file at the same location? Tap No to try to locate it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datendatei ist nicht zu finden. Am selben Ort eine neue anlegen? Mit „Nein“ wird noch einmal nach ihr gesucht.</translation>
     </message>
     <message>
         <source>No record matched the criteria.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zeile erfüllt die Bedingung.</translation>
     </message>
     <message>
         <source>Import is completed with errors. Data may not be imported properly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Import ist mit Fehlern zu Ende. Vielleicht fehlen Zeilen.</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Checkbox</source>
-        <translation type="unfinished"></translation>
+        <translation>Kästchen</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Preis</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganze Zahl</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl</translation>
     </message>
     <message>
         <source>Expiry Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablaufdatum</translation>
     </message>
     <message>
         <source>Unchecked</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>contains</source>
         <extracomment>The conditions stand between a column and a value: Price &quot;greater than&quot; 3.50.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>enthält</translation>
     </message>
     <message>
         <source>equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>gleich</translation>
     </message>
     <message>
         <source>not equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>ungleich</translation>
     </message>
     <message>
         <source>greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>größer als</translation>
     </message>
     <message>
         <source>greater than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>größer oder gleich</translation>
     </message>
     <message>
         <source>less than</source>
-        <translation type="unfinished"></translation>
+        <translation>kleiner als</translation>
     </message>
     <message>
         <source>less than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>kleiner oder gleich</translation>
     </message>
     <message>
         <source>on</source>
         <extracomment>These stand before a date: Opened &quot;on or after&quot; 10 May.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>am</translation>
     </message>
     <message>
         <source>not on</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht am</translation>
     </message>
     <message>
         <source>after</source>
-        <translation type="unfinished"></translation>
+        <translation>nach</translation>
     </message>
     <message>
         <source>on or after</source>
-        <translation type="unfinished"></translation>
+        <translation>am oder nach</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>vor</translation>
     </message>
     <message>
         <source>on or before</source>
-        <translation type="unfinished"></translation>
+        <translation>am oder vor</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
 </context>
 <context>
     <name>Texts</name>
     <message>
         <source>Unable to create list table!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle der Listen kann nicht angelegt werden!</translation>
     </message>
     <message>
         <source>Unable to create user database!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank kann nicht angelegt werden!</translation>
     </message>
     <message>
         <source>Unable to create inventory table!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle der Liste kann nicht angelegt werden!</translation>
     </message>
     <message>
         <source>Unable to open data file. Error: %d</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datendatei kann nicht geöffnet werden. Fehler: %d</translation>
     </message>
     <message>
         <source>Out of memory!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher reicht nicht!</translation>
     </message>
     <message>
         <source>To begin using Quillory, please choose a name and location to store all your inventory lists. Tap OK to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst Namen und Ort der Datei, in der alle Listen liegen sollen. Weiter mit OK.</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>to colour</source>
         <extracomment>Stands between a number and a colour: &quot;Enable row colour when count is less than or equal to&quot; 3 &quot;to colour&quot; red.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>in</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld:</translation>
     </message>
     <message>
         <source>Condition:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedingung:</translation>
     </message>
     <message>
         <source>Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert:</translation>
     </message>
     <message>
         <source>Inventory Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillory-Datendatei</translation>
     </message>
     <message>
         <source>Text Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Textdateien</translation>
     </message>
 </context>
 <context>
@@ -1324,12 +1332,12 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>low</source>
         <extracomment>Beside the name of a row of which few are left; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>knapp</translation>
     </message>
     <message>
         <source>expired</source>
         <extracomment>Beside the name of a row whose expiry date is reached; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>abgelaufen</translation>
     </message>
 </context>
 </TS>

@@ -5,16 +5,16 @@
     <name>DataFileOpener</name>
     <message numerus="yes">
         <source>%n row(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n row</numerusform>
+            <numerusform>%n rows</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n list(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n list</numerusform>
+            <numerusform>%n lists</numerusform>
         </translation>
     </message>
 </context>
@@ -22,16 +22,16 @@
     <name>ListTransfer</name>
     <message numerus="yes">
         <source>The import was cancelled. %n row(s) are in the list already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>The import was cancelled. %n row is in the list already.</numerusform>
+            <numerusform>The import was cancelled. %n rows are in the list already.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This list can be read only in part: %n row is in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</numerusform>
+            <numerusform>This list can be read only in part: %n rows are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</numerusform>
         </translation>
     </message>
 </context>
@@ -39,9 +39,9 @@
     <name>Quillory::RowsView</name>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>This list can be read only in part: %n row is shown. &quot;quillory restore&quot; lists copies, and what can be saved.</numerusform>
+            <numerusform>This list can be read only in part: %n rows are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</numerusform>
         </translation>
     </message>
 </context>

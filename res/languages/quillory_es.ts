@@ -5,162 +5,162 @@
     <name>Calendar</name>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes anterior</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes siguiente</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Año</translation>
     </message>
 </context>
 <context>
     <name>Colours</name>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul</translation>
     </message>
     <message>
         <source>Navy</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul marino</translation>
     </message>
     <message>
         <source>Azure</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul celeste</translation>
     </message>
     <message>
         <source>Midnight blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul noche</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo</translation>
     </message>
     <message>
         <source>Maroon</source>
-        <translation type="unfinished"></translation>
+        <translation>Granate</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>Pale pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa pálido</translation>
     </message>
     <message>
         <source>Slate blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul pizarra</translation>
     </message>
     <message>
         <source>Dark plum</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciruela</translation>
     </message>
     <message>
         <source>Pale cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cian pálido</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Naranja</translation>
     </message>
     <message>
         <source>Brown</source>
-        <translation type="unfinished"></translation>
+        <translation>Marrón</translation>
     </message>
     <message>
         <source>Bright green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde vivo</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Teal</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde azulado</translation>
     </message>
     <message>
         <source>Olive</source>
-        <translation type="unfinished"></translation>
+        <translation>Oliva</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Amarillo</translation>
     </message>
     <message>
         <source>Pale blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul pálido</translation>
     </message>
     <message>
         <source>Periwinkle</source>
-        <translation type="unfinished"></translation>
+        <translation>Vincapervinca</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa</translation>
     </message>
     <message>
         <source>Pale orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Naranja pálido</translation>
     </message>
     <message>
         <source>Dusky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul grisáceo</translation>
     </message>
     <message>
         <source>Sky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul cielo</translation>
     </message>
     <message>
         <source>Leaf green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde hoja</translation>
     </message>
     <message>
         <source>Pale green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde pálido</translation>
     </message>
     <message>
         <source>Lavender</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavanda</translation>
     </message>
     <message>
         <source>Violet</source>
-        <translation type="unfinished"></translation>
+        <translation>Violeta</translation>
     </message>
     <message>
         <source>Mauve</source>
-        <translation type="unfinished"></translation>
+        <translation>Malva</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Púrpura</translation>
     </message>
     <message>
         <source>Amber</source>
-        <translation type="unfinished"></translation>
+        <translation>Ámbar</translation>
     </message>
     <message>
         <source>Sage</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvia</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris</translation>
     </message>
     <message>
         <source>Raspberry</source>
-        <translation type="unfinished"></translation>
+        <translation>Frambuesa</translation>
     </message>
     <message>
         <source>Dark green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde oscuro</translation>
     </message>
 </context>
 <context>
@@ -387,35 +387,35 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
     <name>Controls</name>
     <message>
         <source>Enable row colour when count is less than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Colorear la fila si la cantidad es menor o igual que</translation>
     </message>
     <message>
         <source>Enable row colour when expiry date is reached to colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Colorear la fila al llegar la fecha de caducidad, en</translation>
     </message>
     <message>
         <source>Display list using landscape mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar las listas en horizontal</translation>
     </message>
     <message>
         <source>Landscape (right-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal (mano derecha)</translation>
     </message>
     <message>
         <source>Landscape (left-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal (mano izquierda)</translation>
     </message>
     <message>
         <source>Use alternate row colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombrear una de cada dos filas</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar</translation>
     </message>
 </context>
 <context>
@@ -424,40 +424,46 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
         <source>The data file is damaged. There is a good copy of %1.
 
 Do you want to go on with it? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de datos está dañado. Hay una copia buena del %1.
+
+¿Continuar con ella? Se escribe en un archivo nuevo; el dañado queda como está.</translation>
     </message>
     <message>
         <source>The new file could not be written. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el archivo nuevo. Error: %1</translation>
     </message>
     <message>
         <source>Beside the data file lay the journal of another file. It is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Junto al archivo de datos estaba el diario de otro archivo. Se guarda como %1.</translation>
     </message>
     <message>
         <source>Another program has written into the data file. What it holds now: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the old one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa ha escrito en el archivo de datos. Contiene ahora: %1, %2.
+
+¿Continuar con eso? Se escribe en un archivo nuevo; el antiguo queda como está.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que aún se puede leer del archivo dañado: %1, %2.
+
+¿Continuar con eso? Se escribe en un archivo nuevo; el dañado queda como está.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n list(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n lista</numerusform>
+            <numerusform>%n listas</numerusform>
         </translation>
     </message>
 </context>
@@ -465,265 +471,265 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Deletions</name>
     <message>
         <source>The list &apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminó la lista «%1».</translation>
     </message>
     <message>
         <source>All rows of &apos;%1&apos; were deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminaron todas las filas de «%1».</translation>
     </message>
     <message>
         <source>&apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminó «%1».</translation>
     </message>
 </context>
 <context>
     <name>Dialogs</name>
     <message>
         <source>Welcome to Quillory</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenida</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas</translation>
     </message>
     <message>
         <source>Column Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtros</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Import Column Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden al importar</translation>
     </message>
 </context>
 <context>
     <name>Icons</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Caja</translation>
     </message>
     <message>
         <source>Jar</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarro</translation>
     </message>
     <message>
         <source>Refrigerator</source>
-        <translation type="unfinished"></translation>
+        <translation>Frigorífico</translation>
     </message>
     <message>
         <source>Freezer</source>
-        <translation type="unfinished"></translation>
+        <translation>Congelador</translation>
     </message>
     <message>
         <source>Apple</source>
-        <translation type="unfinished"></translation>
+        <translation>Manzana</translation>
     </message>
     <message>
         <source>Carrot</source>
-        <translation type="unfinished"></translation>
+        <translation>Zanahoria</translation>
     </message>
     <message>
         <source>Bread</source>
-        <translation type="unfinished"></translation>
+        <translation>Pan</translation>
     </message>
     <message>
         <source>Meat</source>
-        <translation type="unfinished"></translation>
+        <translation>Carne</translation>
     </message>
     <message>
         <source>Fish</source>
-        <translation type="unfinished"></translation>
+        <translation>Pescado</translation>
     </message>
     <message>
         <source>Milk</source>
-        <translation type="unfinished"></translation>
+        <translation>Leche</translation>
     </message>
     <message>
         <source>Bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>Botella</translation>
     </message>
     <message>
         <source>Wine</source>
-        <translation type="unfinished"></translation>
+        <translation>Vino</translation>
     </message>
     <message>
         <source>Coffee</source>
-        <translation type="unfinished"></translation>
+        <translation>Café</translation>
     </message>
     <message>
         <source>Baby bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>Biberón</translation>
     </message>
     <message>
         <source>Pills</source>
-        <translation type="unfinished"></translation>
+        <translation>Pastillas</translation>
     </message>
     <message>
         <source>First aid</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeros auxilios</translation>
     </message>
     <message>
         <source>Cosmetics</source>
-        <translation type="unfinished"></translation>
+        <translation>Cosméticos</translation>
     </message>
     <message>
         <source>Cleaning spray</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulverizador</translation>
     </message>
     <message>
         <source>Shirt</source>
-        <translation type="unfinished"></translation>
+        <translation>Camisa</translation>
     </message>
     <message>
         <source>Shoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapato</translation>
     </message>
     <message>
         <source>Jewel</source>
-        <translation type="unfinished"></translation>
+        <translation>Joya</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Reloj</translation>
     </message>
     <message>
         <source>Coins</source>
-        <translation type="unfinished"></translation>
+        <translation>Monedas</translation>
     </message>
     <message>
         <source>Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Sello</translation>
     </message>
     <message>
         <source>Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro</translation>
     </message>
     <message>
         <source>Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Película</translation>
     </message>
     <message>
         <source>Game pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Mando</translation>
     </message>
     <message>
         <source>Puzzle</source>
-        <translation type="unfinished"></translation>
+        <translation>Puzle</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenador</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Teléfono</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Pila</translation>
     </message>
     <message>
         <source>Plug</source>
-        <translation type="unfinished"></translation>
+        <translation>Enchufe</translation>
     </message>
     <message>
         <source>Bulb</source>
-        <translation type="unfinished"></translation>
+        <translation>Bombilla</translation>
     </message>
     <message>
         <source>Hammer</source>
-        <translation type="unfinished"></translation>
+        <translation>Martillo</translation>
     </message>
     <message>
         <source>Screw</source>
-        <translation type="unfinished"></translation>
+        <translation>Tornillo</translation>
     </message>
     <message>
         <source>Paint</source>
-        <translation type="unfinished"></translation>
+        <translation>Pintura</translation>
     </message>
     <message>
         <source>Plant</source>
-        <translation type="unfinished"></translation>
+        <translation>Planta</translation>
     </message>
     <message>
         <source>Paw</source>
-        <translation type="unfinished"></translation>
+        <translation>Huella</translation>
     </message>
     <message>
         <source>Car</source>
-        <translation type="unfinished"></translation>
+        <translation>Coche</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Llave</translation>
     </message>
 </context>
 <context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>
-        <translation type="unfinished"></translation>
+        <translation>es el propio archivo de datos</translation>
     </message>
     <message>
         <source>it is the name of the data file&apos;s journal</source>
-        <translation type="unfinished"></translation>
+        <translation>es el nombre del diario del archivo de datos</translation>
     </message>
 </context>
 <context>
     <name>ListTransfer</name>
     <message numerus="yes">
         <source>The import was cancelled. %n row(s) are in the list already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Importación cancelada. %n fila ya está en la lista.</numerusform>
+            <numerusform>Importación cancelada. %n filas ya están en la lista.</numerusform>
         </translation>
     </message>
     <message>
         <source>Dates such as %1 were read in the form %2.</source>
         <extracomment>%1 is such as 10/05/2026, %2 such as dd/MM/yyyy.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Las fechas como %1 se leyeron en la forma %2.</translation>
     </message>
     <message>
         <source>It is no plain file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo normal.</translation>
     </message>
     <message>
         <source>The file could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el archivo: %1</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Esta lista solo se puede leer en parte: %n fila está en el archivo. «quillory restore» muestra las copias y lo que se puede salvar.</numerusform>
+            <numerusform>Esta lista solo se puede leer en parte: %n filas están en el archivo. «quillory restore» muestra las copias y lo que se puede salvar.</numerusform>
         </translation>
     </message>
 </context>
@@ -731,137 +737,137 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Menus</name>
     <message>
         <source>List Properties...</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades...</translation>
     </message>
     <message>
         <source>Rename List</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre</translation>
     </message>
     <message>
         <source>Import List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar lista...</translation>
     </message>
     <message>
         <source>Export List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar lista...</translation>
     </message>
     <message>
         <source>Delete List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar lista...</translation>
     </message>
     <message>
         <source>Delete All Records...</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar las filas...</translation>
     </message>
     <message>
         <source>Open Read Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir solo lectura</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones...</translation>
     </message>
     <message>
         <source>About...</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de...</translation>
     </message>
     <message>
         <source>Add Expiry Date Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir caducidad</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar</translation>
     </message>
     <message>
         <source>Modify...</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar...</translation>
     </message>
     <message>
         <source>Create Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear copia</translation>
     </message>
     <message>
         <source>View Summary...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver totales...</translation>
     </message>
     <message>
         <source>Find...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar...</translation>
     </message>
     <message>
         <source>Set Filters...</source>
-        <translation type="unfinished"></translation>
+        <translation>Poner filtros...</translation>
     </message>
     <message>
         <source>Clear Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar filtros</translation>
     </message>
     <message>
         <source>Add 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sumar 1</translation>
     </message>
     <message>
         <source>Subtract 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Restar 1</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar todos</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Insertar</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Listo</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColourGrid</name>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColumnsPanel</name>
     <message>
         <source>A new column goes before the selected one. Once the list is made its columns stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una columna nueva va antes de la seleccionada. Una vez creada la lista, sus columnas no cambian.</translation>
     </message>
 </context>
 <context>
@@ -870,205 +876,207 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
         <source>The change could not be saved. Error: %1
 
 Tap Retry to open the data file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar el cambio. Error: %1
+
+Toque Reintentar para volver a abrir el archivo de datos.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. The old one is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro archivo ocupa el lugar del archivo de datos. El anterior se guarda como copia; «quillory restore» muestra las copias.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. No copy could be kept of the old one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro archivo ocupa el lugar del archivo de datos. No se pudo guardar una copia del anterior.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. What it held is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de datos ya no está en su lugar. Su contenido se guarda como copia; «quillory restore» muestra las copias.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. No copy could be kept of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de datos ya no está en su lugar. No se pudo guardar una copia.</translation>
     </message>
     <message>
         <source>No copy of the data file could be kept. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar una copia del archivo de datos. Error: %1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::DateField</name>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendario</translation>
     </message>
     <message>
         <source>no date</source>
-        <translation type="unfinished"></translation>
+        <translation>sin fecha</translation>
     </message>
     <message>
         <source>today</source>
         <extracomment>Typed in place of a date, in small letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>hoy</translation>
     </message>
     <message>
         <source>not a date</source>
-        <translation type="unfinished"></translation>
+        <translation>no es una fecha</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date. Type it as in %2, or pick it from the calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una fecha. Escríbala como %2 o elíjala en el calendario.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>%1 of %2 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 filas</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FiltersPage</name>
     <message>
         <source>No filters yet. Tap Add to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay filtros. Toque Añadir para crear uno.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::GeneralPanel</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icono</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HelpPage</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Quillory.htm</source>
         <extracomment>The file of the help, such as Quillory_de.htm where it is there in German.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillory.htm</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HomeList</name>
     <message>
         <source>No lists yet. Tap New to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay listas. Toque Nuevo para crear una.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGrid</name>
     <message>
         <source>Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Iconos</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGridPage</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icono</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconPicker</name>
     <message>
         <source>Next icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icono siguiente</translation>
     </message>
     <message>
         <source>Previous icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icono anterior</translation>
     </message>
     <message>
         <source>All icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los iconos</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MainFrame</name>
     <message>
         <source>Choose a list to see its rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una lista para ver sus filas.</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>Some lists cannot be read. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunas listas no se pueden leer. Error: %1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>
     <message>
         <source>opens a menu</source>
-        <translation type="unfinished"></translation>
+        <translation>abre un menú</translation>
     </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>
     <message>
         <source>Only lists with an expiry date column can warn of dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo las listas con fecha de caducidad pueden avisar de ella.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::Page</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Do you want to discard what you have entered?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Descartar lo que ha escrito?</translation>
     </message>
 </context>
 <context>
     <name>Quillory::RowsView</name>
     <message>
         <source>read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>solo lectura</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Esta lista solo se puede leer en parte: se muestra %n fila. «quillory restore» muestra las copias y lo que se puede salvar.</numerusform>
+            <numerusform>Esta lista solo se puede leer en parte: se muestran %n filas. «quillory restore» muestra las copias y lo que se puede salvar.</numerusform>
         </translation>
     </message>
     <message>
         <source>No row meets the filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna fila cumple los filtros.</translation>
     </message>
     <message>
         <source>This list has no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta lista no tiene filas.</translation>
     </message>
     <message>
         <source>No rows yet. Tap New to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay filas. Toque Nuevo para añadir una.</translation>
     </message>
     <message>
         <source>This list can be read only in part, so nothing is summed up. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta lista solo se puede leer en parte, así que no se suma nada. «quillory restore» muestra las copias y lo que se puede salvar.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::SummaryPage</name>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Totales</translation>
     </message>
 </context>
 <context>
@@ -1076,247 +1084,247 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>%1 to %2</source>
         <extracomment>The least and the greatest number that can be typed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>de %1 a %2</translation>
     </message>
     <message>
         <source>Less</source>
-        <translation type="unfinished"></translation>
+        <translation>Menos</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Más</translation>
     </message>
 </context>
 <context>
     <name>Quillory::UndoBar</name>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
 </context>
 <context>
     <name>Strings</name>
     <message>
         <source>Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas</translation>
     </message>
     <message>
         <source>Do you want to delete the selected row?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar la fila seleccionada?</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>New Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista nueva</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantidad</translation>
     </message>
     <message>
         <source>Please specifiy a name. Empty name is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba un nombre.</translation>
     </message>
     <message>
         <source>Do you want to delete all rows in list &apos;%s&apos;?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar todas las filas de la lista «%s»?</translation>
     </message>
     <message>
         <source>Do you want to delete list &apos;%s&apos; and all its data?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar la lista «%s» con todo su contenido?</translation>
     </message>
     <message>
         <source>Inventory List Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>Quillory is unable to open the data file. Please make sure the storage card is inserted.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir el archivo de datos. Compruebe que la tarjeta de memoria está insertada.</translation>
     </message>
     <message>
         <source>The data file cannot be found. Do you want to create a new data file at the same location? Tap No to try to locate it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el archivo de datos. ¿Crear uno nuevo en el mismo lugar? Toque No para volver a buscarlo.</translation>
     </message>
     <message>
         <source>No record matched the criteria.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna fila cumple la condición.</translation>
     </message>
     <message>
         <source>Import is completed with errors. Data may not be imported properly.</source>
-        <translation type="unfinished"></translation>
+        <translation>La importación terminó con errores. Pueden faltar datos.</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Checkbox</source>
-        <translation type="unfinished"></translation>
+        <translation>Casilla</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Precio</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entero</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantidad</translation>
     </message>
     <message>
         <source>Expiry Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Caducidad</translation>
     </message>
     <message>
         <source>Unchecked</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>contains</source>
         <extracomment>The conditions stand between a column and a value: Price &quot;greater than&quot; 3.50.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>contiene</translation>
     </message>
     <message>
         <source>equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>igual a</translation>
     </message>
     <message>
         <source>not equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>distinto de</translation>
     </message>
     <message>
         <source>greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>mayor que</translation>
     </message>
     <message>
         <source>greater than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>mayor o igual que</translation>
     </message>
     <message>
         <source>less than</source>
-        <translation type="unfinished"></translation>
+        <translation>menor que</translation>
     </message>
     <message>
         <source>less than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>menor o igual que</translation>
     </message>
     <message>
         <source>on</source>
         <extracomment>These stand before a date: Opened &quot;on or after&quot; 10 May.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>el</translation>
     </message>
     <message>
         <source>not on</source>
-        <translation type="unfinished"></translation>
+        <translation>no el</translation>
     </message>
     <message>
         <source>after</source>
-        <translation type="unfinished"></translation>
+        <translation>después del</translation>
     </message>
     <message>
         <source>on or after</source>
-        <translation type="unfinished"></translation>
+        <translation>desde el</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>antes del</translation>
     </message>
     <message>
         <source>on or before</source>
-        <translation type="unfinished"></translation>
+        <translation>hasta el</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Listo</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
 </context>
 <context>
     <name>Texts</name>
     <message>
         <source>Unable to create list table!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se puede crear la tabla de listas!</translation>
     </message>
     <message>
         <source>Unable to create user database!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se puede crear la base de datos!</translation>
     </message>
     <message>
         <source>Unable to create inventory table!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se puede crear la tabla de la lista!</translation>
     </message>
     <message>
         <source>Unable to open data file. Error: %d</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir el archivo de datos. Error: %d</translation>
     </message>
     <message>
         <source>Out of memory!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Memoria insuficiente!</translation>
     </message>
     <message>
         <source>To begin using Quillory, please choose a name and location to store all your inventory lists. Tap OK to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para empezar, elija el nombre y el lugar del archivo que guardará todas sus listas. Toque OK para continuar.</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>to colour</source>
         <extracomment>Stands between a number and a colour: &quot;Enable row colour when count is less than or equal to&quot; 3 &quot;to colour&quot; red.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>en</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo:</translation>
     </message>
     <message>
         <source>Condition:</source>
-        <translation type="unfinished"></translation>
+        <translation>Condición:</translation>
     </message>
     <message>
         <source>Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor:</translation>
     </message>
     <message>
         <source>Inventory Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos de Quillory</translation>
     </message>
     <message>
         <source>Text Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de texto</translation>
     </message>
 </context>
 <context>
@@ -1324,12 +1332,12 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>low</source>
         <extracomment>Beside the name of a row of which few are left; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>poco</translation>
     </message>
     <message>
         <source>expired</source>
         <extracomment>Beside the name of a row whose expiry date is reached; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>caducado</translation>
     </message>
 </context>
 </TS>

@@ -5,162 +5,162 @@
     <name>Calendar</name>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois précédent</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois suivant</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
 </context>
 <context>
     <name>Colours</name>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatique</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu</translation>
     </message>
     <message>
         <source>Navy</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu marine</translation>
     </message>
     <message>
         <source>Azure</source>
-        <translation type="unfinished"></translation>
+        <translation>Azur</translation>
     </message>
     <message>
         <source>Midnight blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu nuit</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouge</translation>
     </message>
     <message>
         <source>Maroon</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordeaux</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>Pale pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rose pâle</translation>
     </message>
     <message>
         <source>Slate blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu ardoise</translation>
     </message>
     <message>
         <source>Dark plum</source>
-        <translation type="unfinished"></translation>
+        <translation>Prune</translation>
     </message>
     <message>
         <source>Pale cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyan pâle</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Brown</source>
-        <translation type="unfinished"></translation>
+        <translation>Brun</translation>
     </message>
     <message>
         <source>Bright green</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert vif</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert</translation>
     </message>
     <message>
         <source>Teal</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu canard</translation>
     </message>
     <message>
         <source>Olive</source>
-        <translation type="unfinished"></translation>
+        <translation>Olive</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Jaune</translation>
     </message>
     <message>
         <source>Pale blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu pâle</translation>
     </message>
     <message>
         <source>Periwinkle</source>
-        <translation type="unfinished"></translation>
+        <translation>Pervenche</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rose</translation>
     </message>
     <message>
         <source>Pale orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange pâle</translation>
     </message>
     <message>
         <source>Dusky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu cendré</translation>
     </message>
     <message>
         <source>Sky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu ciel</translation>
     </message>
     <message>
         <source>Leaf green</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert feuille</translation>
     </message>
     <message>
         <source>Pale green</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert pâle</translation>
     </message>
     <message>
         <source>Lavender</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavande</translation>
     </message>
     <message>
         <source>Violet</source>
-        <translation type="unfinished"></translation>
+        <translation>Violet</translation>
     </message>
     <message>
         <source>Mauve</source>
-        <translation type="unfinished"></translation>
+        <translation>Mauve</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourpre</translation>
     </message>
     <message>
         <source>Amber</source>
-        <translation type="unfinished"></translation>
+        <translation>Ambre</translation>
     </message>
     <message>
         <source>Sage</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauge</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris</translation>
     </message>
     <message>
         <source>Raspberry</source>
-        <translation type="unfinished"></translation>
+        <translation>Framboise</translation>
     </message>
     <message>
         <source>Dark green</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert foncé</translation>
     </message>
 </context>
 <context>
@@ -387,35 +387,35 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
     <name>Controls</name>
     <message>
         <source>Enable row colour when count is less than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Colorer la ligne quand le nombre est inférieur ou égal à</translation>
     </message>
     <message>
         <source>Enable row colour when expiry date is reached to colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Colorer la ligne à la date de péremption, en</translation>
     </message>
     <message>
         <source>Display list using landscape mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les listes en paysage</translation>
     </message>
     <message>
         <source>Landscape (right-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paysage (main droite)</translation>
     </message>
     <message>
         <source>Landscape (left-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paysage (main gauche)</translation>
     </message>
     <message>
         <source>Use alternate row colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Teinter une ligne sur deux</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Monter</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendre</translation>
     </message>
 </context>
 <context>
@@ -424,40 +424,46 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
         <source>The data file is damaged. There is a good copy of %1.
 
 Do you want to go on with it? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de données est endommagé. Il existe une bonne copie du %1.
+
+Continuer avec elle ? Elle sera écrite dans un nouveau fichier ; le fichier endommagé reste tel quel.</translation>
     </message>
     <message>
         <source>The new file could not be written. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nouveau fichier n’a pas pu être écrit. Erreur : %1</translation>
     </message>
     <message>
         <source>Beside the data file lay the journal of another file. It is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>À côté du fichier de données se trouvait le journal d’un autre fichier. Il est conservé sous %1.</translation>
     </message>
     <message>
         <source>Another program has written into the data file. What it holds now: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the old one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a écrit dans le fichier de données. Il contient maintenant : %1, %2.
+
+Continuer ainsi ? Le contenu sera écrit dans un nouveau fichier ; l’ancien reste tel quel.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui reste lisible du fichier endommagé : %1, %2.
+
+Continuer ainsi ? Le contenu sera écrit dans un nouveau fichier ; le fichier endommagé reste tel quel.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n list(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n liste</numerusform>
+            <numerusform>%n listes</numerusform>
         </translation>
     </message>
 </context>
@@ -465,265 +471,265 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Deletions</name>
     <message>
         <source>The list &apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste « %1 » est supprimée.</translation>
     </message>
     <message>
         <source>All rows of &apos;%1&apos; were deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les lignes de « %1 » sont supprimées.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est supprimé.</translation>
     </message>
 </context>
 <context>
     <name>Dialogs</name>
     <message>
         <source>Welcome to Quillory</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenue</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes</translation>
     </message>
     <message>
         <source>Column Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtres</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre</translation>
     </message>
     <message>
         <source>Import Column Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre à l’import</translation>
     </message>
 </context>
 <context>
     <name>Icons</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Boîte</translation>
     </message>
     <message>
         <source>Jar</source>
-        <translation type="unfinished"></translation>
+        <translation>Bocal</translation>
     </message>
     <message>
         <source>Refrigerator</source>
-        <translation type="unfinished"></translation>
+        <translation>Réfrigérateur</translation>
     </message>
     <message>
         <source>Freezer</source>
-        <translation type="unfinished"></translation>
+        <translation>Congélateur</translation>
     </message>
     <message>
         <source>Apple</source>
-        <translation type="unfinished"></translation>
+        <translation>Pomme</translation>
     </message>
     <message>
         <source>Carrot</source>
-        <translation type="unfinished"></translation>
+        <translation>Carotte</translation>
     </message>
     <message>
         <source>Bread</source>
-        <translation type="unfinished"></translation>
+        <translation>Pain</translation>
     </message>
     <message>
         <source>Meat</source>
-        <translation type="unfinished"></translation>
+        <translation>Viande</translation>
     </message>
     <message>
         <source>Fish</source>
-        <translation type="unfinished"></translation>
+        <translation>Poisson</translation>
     </message>
     <message>
         <source>Milk</source>
-        <translation type="unfinished"></translation>
+        <translation>Lait</translation>
     </message>
     <message>
         <source>Bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouteille</translation>
     </message>
     <message>
         <source>Wine</source>
-        <translation type="unfinished"></translation>
+        <translation>Vin</translation>
     </message>
     <message>
         <source>Coffee</source>
-        <translation type="unfinished"></translation>
+        <translation>Café</translation>
     </message>
     <message>
         <source>Baby bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>Biberon</translation>
     </message>
     <message>
         <source>Pills</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprimés</translation>
     </message>
     <message>
         <source>First aid</source>
-        <translation type="unfinished"></translation>
+        <translation>Premiers soins</translation>
     </message>
     <message>
         <source>Cosmetics</source>
-        <translation type="unfinished"></translation>
+        <translation>Cosmétiques</translation>
     </message>
     <message>
         <source>Cleaning spray</source>
-        <translation type="unfinished"></translation>
+        <translation>Spray</translation>
     </message>
     <message>
         <source>Shirt</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemise</translation>
     </message>
     <message>
         <source>Shoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaussure</translation>
     </message>
     <message>
         <source>Jewel</source>
-        <translation type="unfinished"></translation>
+        <translation>Bijou</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre</translation>
     </message>
     <message>
         <source>Coins</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièces</translation>
     </message>
     <message>
         <source>Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Timbre</translation>
     </message>
     <message>
         <source>Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Livre</translation>
     </message>
     <message>
         <source>Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disque</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Game pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Manette</translation>
     </message>
     <message>
         <source>Puzzle</source>
-        <translation type="unfinished"></translation>
+        <translation>Puzzle</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil photo</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordinateur</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléphone</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Pile</translation>
     </message>
     <message>
         <source>Plug</source>
-        <translation type="unfinished"></translation>
+        <translation>Prise</translation>
     </message>
     <message>
         <source>Bulb</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampoule</translation>
     </message>
     <message>
         <source>Hammer</source>
-        <translation type="unfinished"></translation>
+        <translation>Marteau</translation>
     </message>
     <message>
         <source>Screw</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis</translation>
     </message>
     <message>
         <source>Paint</source>
-        <translation type="unfinished"></translation>
+        <translation>Peinture</translation>
     </message>
     <message>
         <source>Plant</source>
-        <translation type="unfinished"></translation>
+        <translation>Plante</translation>
     </message>
     <message>
         <source>Paw</source>
-        <translation type="unfinished"></translation>
+        <translation>Patte</translation>
     </message>
     <message>
         <source>Car</source>
-        <translation type="unfinished"></translation>
+        <translation>Voiture</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé</translation>
     </message>
 </context>
 <context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est le fichier de données lui-même</translation>
     </message>
     <message>
         <source>it is the name of the data file&apos;s journal</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est le nom du journal du fichier de données</translation>
     </message>
 </context>
 <context>
     <name>ListTransfer</name>
     <message numerus="yes">
         <source>The import was cancelled. %n row(s) are in the list already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>L’import est annulé. %n ligne est déjà dans la liste.</numerusform>
+            <numerusform>L’import est annulé. %n lignes sont déjà dans la liste.</numerusform>
         </translation>
     </message>
     <message>
         <source>Dates such as %1 were read in the form %2.</source>
         <extracomment>%1 is such as 10/05/2026, %2 such as dd/MM/yyyy.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Les dates comme %1 ont été lues sous la forme %2.</translation>
     </message>
     <message>
         <source>It is no plain file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
     </message>
     <message>
         <source>The file could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’a pas pu être écrit : %1</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Cette liste n’est lisible qu’en partie : %n ligne est dans le fichier. « quillory restore » montre les copies et ce qui peut être sauvé.</numerusform>
+            <numerusform>Cette liste n’est lisible qu’en partie : %n lignes sont dans le fichier. « quillory restore » montre les copies et ce qui peut être sauvé.</numerusform>
         </translation>
     </message>
 </context>
@@ -731,137 +737,137 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Menus</name>
     <message>
         <source>List Properties...</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés...</translation>
     </message>
     <message>
         <source>Rename List</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer la liste</translation>
     </message>
     <message>
         <source>Import List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer la liste...</translation>
     </message>
     <message>
         <source>Export List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter la liste...</translation>
     </message>
     <message>
         <source>Delete List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la liste...</translation>
     </message>
     <message>
         <source>Delete All Records...</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les lignes...</translation>
     </message>
     <message>
         <source>Open Read Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture seule</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation type="unfinished"></translation>
+        <translation>Options...</translation>
     </message>
     <message>
         <source>About...</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos...</translation>
     </message>
     <message>
         <source>Add Expiry Date Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter la péremption</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Monter</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendre</translation>
     </message>
     <message>
         <source>Modify...</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier...</translation>
     </message>
     <message>
         <source>Create Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une copie</translation>
     </message>
     <message>
         <source>View Summary...</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir les totaux...</translation>
     </message>
     <message>
         <source>Find...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher...</translation>
     </message>
     <message>
         <source>Set Filters...</source>
-        <translation type="unfinished"></translation>
+        <translation>Définir les filtres...</translation>
     </message>
     <message>
         <source>Clear Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les filtres</translation>
     </message>
     <message>
         <source>Add 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter 1</translation>
     </message>
     <message>
         <source>Subtract 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer 1</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout effacer</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColourGrid</name>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColumnsPanel</name>
     <message>
         <source>A new column goes before the selected one. Once the list is made its columns stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une nouvelle colonne se place avant celle qui est sélectionnée. Une fois la liste créée, ses colonnes ne changent plus.</translation>
     </message>
 </context>
 <context>
@@ -870,205 +876,207 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
         <source>The change could not be saved. Error: %1
 
 Tap Retry to open the data file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La modification n’a pas pu être enregistrée. Erreur : %1
+
+Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. The old one is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre fichier a pris la place du fichier de données. L’ancien est conservé en copie ; « quillory restore » montre les copies.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. No copy could be kept of the old one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre fichier a pris la place du fichier de données. Aucune copie de l’ancien n’a pu être conservée.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. What it held is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de données n’est plus à sa place. Son contenu est conservé en copie ; « quillory restore » montre les copies.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. No copy could be kept of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de données n’est plus à sa place. Aucune copie n’a pu en être conservée.</translation>
     </message>
     <message>
         <source>No copy of the data file could be kept. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune copie du fichier de données n’a pu être conservée. Erreur : %1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::DateField</name>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendrier</translation>
     </message>
     <message>
         <source>no date</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de date</translation>
     </message>
     <message>
         <source>today</source>
         <extracomment>Typed in place of a date, in small letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>aujourd&apos;hui</translation>
     </message>
     <message>
         <source>not a date</source>
-        <translation type="unfinished"></translation>
+        <translation>pas une date</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date. Type it as in %2, or pick it from the calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas une date. Écrivez-la comme %2, ou choisissez-la dans le calendrier.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>%1 of %2 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lignes sur %2</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FiltersPage</name>
     <message>
         <source>No filters yet. Tap Add to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de filtre. Touchez Ajouter pour en créer un.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::GeneralPanel</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icône</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HelpPage</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Quillory.htm</source>
         <extracomment>The file of the help, such as Quillory_de.htm where it is there in German.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillory_fr.htm</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HomeList</name>
     <message>
         <source>No lists yet. Tap New to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de liste. Touchez Nouveau pour en créer une.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGrid</name>
     <message>
         <source>Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Icônes</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGridPage</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icône</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconPicker</name>
     <message>
         <source>Next icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icône suivante</translation>
     </message>
     <message>
         <source>Previous icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icône précédente</translation>
     </message>
     <message>
         <source>All icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les icônes</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MainFrame</name>
     <message>
         <source>Choose a list to see its rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une liste pour voir ses lignes.</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>Some lists cannot be read. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Certaines listes sont illisibles. Erreur : %1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>
     <message>
         <source>opens a menu</source>
-        <translation type="unfinished"></translation>
+        <translation>ouvre un menu</translation>
     </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>
     <message>
         <source>Only lists with an expiry date column can warn of dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les listes avec une date de péremption peuvent en avertir.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::Page</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Do you want to discard what you have entered?</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonner ce que vous avez saisi ?</translation>
     </message>
 </context>
 <context>
     <name>Quillory::RowsView</name>
     <message>
         <source>read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>lecture seule</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Cette liste n’est lisible qu’en partie : %n ligne est affichée. « quillory restore » montre les copies et ce qui peut être sauvé.</numerusform>
+            <numerusform>Cette liste n’est lisible qu’en partie : %n lignes sont affichées. « quillory restore » montre les copies et ce qui peut être sauvé.</numerusform>
         </translation>
     </message>
     <message>
         <source>No row meets the filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne ne répond aux filtres.</translation>
     </message>
     <message>
         <source>This list has no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette liste n’a pas de ligne.</translation>
     </message>
     <message>
         <source>No rows yet. Tap New to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de ligne. Touchez Nouveau pour en ajouter une.</translation>
     </message>
     <message>
         <source>This list can be read only in part, so nothing is summed up. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette liste n’est lisible qu’en partie ; rien n’est donc additionné. « quillory restore » montre les copies et ce qui peut être sauvé.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::SummaryPage</name>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaux</translation>
     </message>
 </context>
 <context>
@@ -1076,247 +1084,247 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>%1 to %2</source>
         <extracomment>The least and the greatest number that can be typed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>de %1 à %2</translation>
     </message>
     <message>
         <source>Less</source>
-        <translation type="unfinished"></translation>
+        <translation>Moins</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus</translation>
     </message>
 </context>
 <context>
     <name>Quillory::UndoBar</name>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>Strings</name>
     <message>
         <source>Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes</translation>
     </message>
     <message>
         <source>Do you want to delete the selected row?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la ligne sélectionnée ?</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>New Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle liste</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantité</translation>
     </message>
     <message>
         <source>Please specifiy a name. Empty name is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez donner un nom.</translation>
     </message>
     <message>
         <source>Do you want to delete all rows in list &apos;%s&apos;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer toutes les lignes de la liste « %s » ?</translation>
     </message>
     <message>
         <source>Do you want to delete list &apos;%s&apos; and all its data?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la liste « %s » et tout son contenu ?</translation>
     </message>
     <message>
         <source>Inventory List Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>Quillory is unable to open the data file. Please make sure the storage card is inserted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de données ne peut pas être ouvert. Vérifiez que la carte mémoire est bien insérée.</translation>
     </message>
     <message>
         <source>The data file cannot be found. Do you want to create a new data file at the same location? Tap No to try to locate it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de données est introuvable. En créer un nouveau au même endroit ? Touchez Non pour le chercher à nouveau.</translation>
     </message>
     <message>
         <source>No record matched the criteria.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne ne répond à la condition.</translation>
     </message>
     <message>
         <source>Import is completed with errors. Data may not be imported properly.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’import s’est terminé avec des erreurs. Des données peuvent manquer.</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Checkbox</source>
-        <translation type="unfinished"></translation>
+        <translation>Case à cocher</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Prix</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Expiry Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de péremption</translation>
     </message>
     <message>
         <source>Unchecked</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>contains</source>
         <extracomment>The conditions stand between a column and a value: Price &quot;greater than&quot; 3.50.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>contient</translation>
     </message>
     <message>
         <source>equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>égal à</translation>
     </message>
     <message>
         <source>not equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>différent de</translation>
     </message>
     <message>
         <source>greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>supérieur à</translation>
     </message>
     <message>
         <source>greater than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>supérieur ou égal à</translation>
     </message>
     <message>
         <source>less than</source>
-        <translation type="unfinished"></translation>
+        <translation>inférieur à</translation>
     </message>
     <message>
         <source>less than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>inférieur ou égal à</translation>
     </message>
     <message>
         <source>on</source>
         <extracomment>These stand before a date: Opened &quot;on or after&quot; 10 May.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>le</translation>
     </message>
     <message>
         <source>not on</source>
-        <translation type="unfinished"></translation>
+        <translation>pas le</translation>
     </message>
     <message>
         <source>after</source>
-        <translation type="unfinished"></translation>
+        <translation>après le</translation>
     </message>
     <message>
         <source>on or after</source>
-        <translation type="unfinished"></translation>
+        <translation>à partir du</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>avant le</translation>
     </message>
     <message>
         <source>on or before</source>
-        <translation type="unfinished"></translation>
+        <translation>jusqu’au</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
 </context>
 <context>
     <name>Texts</name>
     <message>
         <source>Unable to create list table!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer la table des listes !</translation>
     </message>
     <message>
         <source>Unable to create user database!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer la base de données !</translation>
     </message>
     <message>
         <source>Unable to create inventory table!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer la table de la liste !</translation>
     </message>
     <message>
         <source>Unable to open data file. Error: %d</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le fichier de données. Erreur : %d</translation>
     </message>
     <message>
         <source>Out of memory!</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante !</translation>
     </message>
     <message>
         <source>To begin using Quillory, please choose a name and location to store all your inventory lists. Tap OK to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour commencer, choisissez le nom et l’emplacement du fichier où seront gardées toutes vos listes. Touchez OK pour continuer.</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>to colour</source>
         <extracomment>Stands between a number and a colour: &quot;Enable row colour when count is less than or equal to&quot; 3 &quot;to colour&quot; red.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>en</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ :</translation>
     </message>
     <message>
         <source>Condition:</source>
-        <translation type="unfinished"></translation>
+        <translation>Condition :</translation>
     </message>
     <message>
         <source>Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur :</translation>
     </message>
     <message>
         <source>Inventory Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Données de Quillory</translation>
     </message>
     <message>
         <source>Text Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers texte</translation>
     </message>
 </context>
 <context>
@@ -1324,12 +1332,12 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>low</source>
         <extracomment>Beside the name of a row of which few are left; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>bas</translation>
     </message>
     <message>
         <source>expired</source>
         <extracomment>Beside the name of a row whose expiry date is reached; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>périmé</translation>
     </message>
 </context>
 </TS>

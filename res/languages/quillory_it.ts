@@ -5,162 +5,162 @@
     <name>Calendar</name>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mese precedente</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mese successivo</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Anno</translation>
     </message>
 </context>
 <context>
     <name>Colours</name>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatico</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blu</translation>
     </message>
     <message>
         <source>Navy</source>
-        <translation type="unfinished"></translation>
+        <translation>Blu marino</translation>
     </message>
     <message>
         <source>Azure</source>
-        <translation type="unfinished"></translation>
+        <translation>Azzurro</translation>
     </message>
     <message>
         <source>Midnight blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blu notte</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosso</translation>
     </message>
     <message>
         <source>Maroon</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordeaux</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>Pale pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa pallido</translation>
     </message>
     <message>
         <source>Slate blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blu ardesia</translation>
     </message>
     <message>
         <source>Dark plum</source>
-        <translation type="unfinished"></translation>
+        <translation>Prugna</translation>
     </message>
     <message>
         <source>Pale cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciano pallido</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Arancione</translation>
     </message>
     <message>
         <source>Brown</source>
-        <translation type="unfinished"></translation>
+        <translation>Marrone</translation>
     </message>
     <message>
         <source>Bright green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde acceso</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Teal</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde acqua</translation>
     </message>
     <message>
         <source>Olive</source>
-        <translation type="unfinished"></translation>
+        <translation>Oliva</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Giallo</translation>
     </message>
     <message>
         <source>Pale blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blu pallido</translation>
     </message>
     <message>
         <source>Periwinkle</source>
-        <translation type="unfinished"></translation>
+        <translation>Pervinca</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa</translation>
     </message>
     <message>
         <source>Pale orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Arancio pallido</translation>
     </message>
     <message>
         <source>Dusky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blu polvere</translation>
     </message>
     <message>
         <source>Sky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Celeste</translation>
     </message>
     <message>
         <source>Leaf green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde foglia</translation>
     </message>
     <message>
         <source>Pale green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde pallido</translation>
     </message>
     <message>
         <source>Lavender</source>
-        <translation type="unfinished"></translation>
+        <translation>Lavanda</translation>
     </message>
     <message>
         <source>Violet</source>
-        <translation type="unfinished"></translation>
+        <translation>Viola</translation>
     </message>
     <message>
         <source>Mauve</source>
-        <translation type="unfinished"></translation>
+        <translation>Malva</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Porpora</translation>
     </message>
     <message>
         <source>Amber</source>
-        <translation type="unfinished"></translation>
+        <translation>Ambra</translation>
     </message>
     <message>
         <source>Sage</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvia</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Grigio</translation>
     </message>
     <message>
         <source>Raspberry</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampone</translation>
     </message>
     <message>
         <source>Dark green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde scuro</translation>
     </message>
 </context>
 <context>
@@ -387,35 +387,35 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
     <name>Controls</name>
     <message>
         <source>Enable row colour when count is less than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>Colora la riga se la quantità è minore o uguale a</translation>
     </message>
     <message>
         <source>Enable row colour when expiry date is reached to colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Colora la riga quando arriva la scadenza, in</translation>
     </message>
     <message>
         <source>Display list using landscape mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra le liste in orizzontale</translation>
     </message>
     <message>
         <source>Landscape (right-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale (mano destra)</translation>
     </message>
     <message>
         <source>Landscape (left-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale (mano sinistra)</translation>
     </message>
     <message>
         <source>Use alternate row colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfuma una riga su due</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta su</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta giù</translation>
     </message>
 </context>
 <context>
@@ -424,40 +424,46 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
         <source>The data file is damaged. There is a good copy of %1.
 
 Do you want to go on with it? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file dei dati è danneggiato. Esiste una buona copia del %1.
+
+Continuare con quella? Viene scritta in un nuovo file; quello danneggiato resta com’è.</translation>
     </message>
     <message>
         <source>The new file could not be written. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere il nuovo file. Errore: %1</translation>
     </message>
     <message>
         <source>Beside the data file lay the journal of another file. It is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Accanto al file dei dati c’era il giornale di un altro file. È conservato come %1.</translation>
     </message>
     <message>
         <source>Another program has written into the data file. What it holds now: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the old one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un altro programma ha scritto nel file dei dati. Ora contiene: %1, %2.
+
+Continuare così? Il contenuto viene scritto in un nuovo file; il vecchio resta com’è.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che si può ancora leggere del file danneggiato: %1, %2.
+
+Continuare così? Viene scritto in un nuovo file; quello danneggiato resta com’è.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n riga</numerusform>
+            <numerusform>%n righe</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n list(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n lista</numerusform>
+            <numerusform>%n liste</numerusform>
         </translation>
     </message>
 </context>
@@ -465,265 +471,265 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Deletions</name>
     <message>
         <source>The list &apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista «%1» è stata eliminata.</translation>
     </message>
     <message>
         <source>All rows of &apos;%1&apos; were deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le righe di «%1» sono state eliminate.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» è stato eliminato.</translation>
     </message>
 </context>
 <context>
     <name>Dialogs</name>
     <message>
         <source>Welcome to Quillory</source>
-        <translation type="unfinished"></translation>
+        <translation>Benvenuto</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Generale</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Column Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonna</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtri</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Import Column Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordine d’importazione</translation>
     </message>
 </context>
 <context>
     <name>Icons</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Scatola</translation>
     </message>
     <message>
         <source>Jar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barattolo</translation>
     </message>
     <message>
         <source>Refrigerator</source>
-        <translation type="unfinished"></translation>
+        <translation>Frigorifero</translation>
     </message>
     <message>
         <source>Freezer</source>
-        <translation type="unfinished"></translation>
+        <translation>Congelatore</translation>
     </message>
     <message>
         <source>Apple</source>
-        <translation type="unfinished"></translation>
+        <translation>Mela</translation>
     </message>
     <message>
         <source>Carrot</source>
-        <translation type="unfinished"></translation>
+        <translation>Carota</translation>
     </message>
     <message>
         <source>Bread</source>
-        <translation type="unfinished"></translation>
+        <translation>Pane</translation>
     </message>
     <message>
         <source>Meat</source>
-        <translation type="unfinished"></translation>
+        <translation>Carne</translation>
     </message>
     <message>
         <source>Fish</source>
-        <translation type="unfinished"></translation>
+        <translation>Pesce</translation>
     </message>
     <message>
         <source>Milk</source>
-        <translation type="unfinished"></translation>
+        <translation>Latte</translation>
     </message>
     <message>
         <source>Bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>Bottiglia</translation>
     </message>
     <message>
         <source>Wine</source>
-        <translation type="unfinished"></translation>
+        <translation>Vino</translation>
     </message>
     <message>
         <source>Coffee</source>
-        <translation type="unfinished"></translation>
+        <translation>Caffè</translation>
     </message>
     <message>
         <source>Baby bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>Biberon</translation>
     </message>
     <message>
         <source>Pills</source>
-        <translation type="unfinished"></translation>
+        <translation>Compresse</translation>
     </message>
     <message>
         <source>First aid</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto soccorso</translation>
     </message>
     <message>
         <source>Cosmetics</source>
-        <translation type="unfinished"></translation>
+        <translation>Cosmetici</translation>
     </message>
     <message>
         <source>Cleaning spray</source>
-        <translation type="unfinished"></translation>
+        <translation>Spruzzatore</translation>
     </message>
     <message>
         <source>Shirt</source>
-        <translation type="unfinished"></translation>
+        <translation>Camicia</translation>
     </message>
     <message>
         <source>Shoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarpa</translation>
     </message>
     <message>
         <source>Jewel</source>
-        <translation type="unfinished"></translation>
+        <translation>Gioiello</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Orologio</translation>
     </message>
     <message>
         <source>Coins</source>
-        <translation type="unfinished"></translation>
+        <translation>Monete</translation>
     </message>
     <message>
         <source>Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Francobollo</translation>
     </message>
     <message>
         <source>Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro</translation>
     </message>
     <message>
         <source>Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Game pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamepad</translation>
     </message>
     <message>
         <source>Puzzle</source>
-        <translation type="unfinished"></translation>
+        <translation>Puzzle</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotocamera</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefono</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Pila</translation>
     </message>
     <message>
         <source>Plug</source>
-        <translation type="unfinished"></translation>
+        <translation>Spina</translation>
     </message>
     <message>
         <source>Bulb</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampadina</translation>
     </message>
     <message>
         <source>Hammer</source>
-        <translation type="unfinished"></translation>
+        <translation>Martello</translation>
     </message>
     <message>
         <source>Screw</source>
-        <translation type="unfinished"></translation>
+        <translation>Vite</translation>
     </message>
     <message>
         <source>Paint</source>
-        <translation type="unfinished"></translation>
+        <translation>Vernice</translation>
     </message>
     <message>
         <source>Plant</source>
-        <translation type="unfinished"></translation>
+        <translation>Pianta</translation>
     </message>
     <message>
         <source>Paw</source>
-        <translation type="unfinished"></translation>
+        <translation>Zampa</translation>
     </message>
     <message>
         <source>Car</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiave</translation>
     </message>
 </context>
 <context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>
-        <translation type="unfinished"></translation>
+        <translation>è il file dei dati stesso</translation>
     </message>
     <message>
         <source>it is the name of the data file&apos;s journal</source>
-        <translation type="unfinished"></translation>
+        <translation>è il nome del giornale del file dei dati</translation>
     </message>
 </context>
 <context>
     <name>ListTransfer</name>
     <message numerus="yes">
         <source>The import was cancelled. %n row(s) are in the list already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Importazione annullata. %n riga è già nella lista.</numerusform>
+            <numerusform>Importazione annullata. %n righe sono già nella lista.</numerusform>
         </translation>
     </message>
     <message>
         <source>Dates such as %1 were read in the form %2.</source>
         <extracomment>%1 is such as 10/05/2026, %2 such as dd/MM/yyyy.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Date come %1 sono state lette nella forma %2.</translation>
     </message>
     <message>
         <source>It is no plain file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è un file normale.</translation>
     </message>
     <message>
         <source>The file could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere il file: %1</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Questa lista si legge solo in parte: nel file c’è %n riga. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
+            <numerusform>Questa lista si legge solo in parte: nel file ci sono %n righe. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
         </translation>
     </message>
 </context>
@@ -731,137 +737,137 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Menus</name>
     <message>
         <source>List Properties...</source>
-        <translation type="unfinished"></translation>
+        <translation>Proprietà...</translation>
     </message>
     <message>
         <source>Rename List</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina lista</translation>
     </message>
     <message>
         <source>Import List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa lista...</translation>
     </message>
     <message>
         <source>Export List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta lista...</translation>
     </message>
     <message>
         <source>Delete List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina lista...</translation>
     </message>
     <message>
         <source>Delete All Records...</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina le righe...</translation>
     </message>
     <message>
         <source>Open Read Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri in sola lettura</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni...</translation>
     </message>
     <message>
         <source>About...</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni...</translation>
     </message>
     <message>
         <source>Add Expiry Date Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi scadenza</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta su</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta giù</translation>
     </message>
     <message>
         <source>Modify...</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica...</translation>
     </message>
     <message>
         <source>Create Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea copia</translation>
     </message>
     <message>
         <source>View Summary...</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra totali...</translation>
     </message>
     <message>
         <source>Find...</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova...</translation>
     </message>
     <message>
         <source>Set Filters...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta filtri...</translation>
     </message>
     <message>
         <source>Clear Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Togli filtri</translation>
     </message>
     <message>
         <source>Add 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi 1</translation>
     </message>
     <message>
         <source>Subtract 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Togli 1</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi</translation>
     </message>
     <message>
         <source>Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>Togli tutti</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fatto</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColourGrid</name>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Colori</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColumnsPanel</name>
     <message>
         <source>A new column goes before the selected one. Once the list is made its columns stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una nuova colonna va prima di quella selezionata. Creata la lista, le sue colonne non cambiano più.</translation>
     </message>
 </context>
 <context>
@@ -870,205 +876,207 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
         <source>The change could not be saved. Error: %1
 
 Tap Retry to open the data file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare la modifica. Errore: %1
+
+Tocca Riprova per riaprire il file dei dati.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. The old one is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al posto del file dei dati c’è un altro file. Il vecchio è conservato come copia; «quillory restore» mostra le copie.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. No copy could be kept of the old one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al posto del file dei dati c’è un altro file. Non è stato possibile conservare una copia del vecchio.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. What it held is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file dei dati non è più al suo posto. Il contenuto è conservato come copia; «quillory restore» mostra le copie.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. No copy could be kept of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file dei dati non è più al suo posto. Non è stato possibile conservarne una copia.</translation>
     </message>
     <message>
         <source>No copy of the data file could be kept. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile conservare una copia del file dei dati. Errore: %1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::DateField</name>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendario</translation>
     </message>
     <message>
         <source>no date</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna data</translation>
     </message>
     <message>
         <source>today</source>
         <extracomment>Typed in place of a date, in small letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>oggi</translation>
     </message>
     <message>
         <source>not a date</source>
-        <translation type="unfinished"></translation>
+        <translation>non è una data</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date. Type it as in %2, or pick it from the calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» non è una data. Scrivila come %2 o sceglila dal calendario.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Togli</translation>
     </message>
     <message>
         <source>%1 of %2 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 righe su %2</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FiltersPage</name>
     <message>
         <source>No filters yet. Tap Add to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessun filtro. Tocca Aggiungi per crearne uno.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::GeneralPanel</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icona</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HelpPage</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Guida</translation>
     </message>
     <message>
         <source>Quillory.htm</source>
         <extracomment>The file of the help, such as Quillory_de.htm where it is there in German.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillory.htm</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HomeList</name>
     <message>
         <source>No lists yet. Tap New to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessuna lista. Tocca Nuovo per crearne una.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGrid</name>
     <message>
         <source>Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Icone</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGridPage</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icona</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconPicker</name>
     <message>
         <source>Next icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icona successiva</translation>
     </message>
     <message>
         <source>Previous icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icona precedente</translation>
     </message>
     <message>
         <source>All icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le icone</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MainFrame</name>
     <message>
         <source>Choose a list to see its rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli una lista per vederne le righe.</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>Some lists cannot be read. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcune liste non si possono leggere. Errore: %1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>
     <message>
         <source>opens a menu</source>
-        <translation type="unfinished"></translation>
+        <translation>apre un menu</translation>
     </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>
     <message>
         <source>Only lists with an expiry date column can warn of dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo le liste con una scadenza possono avvisarne.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::Page</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Guida</translation>
     </message>
     <message>
         <source>Do you want to discard what you have entered?</source>
-        <translation type="unfinished"></translation>
+        <translation>Scartare ciò che hai scritto?</translation>
     </message>
 </context>
 <context>
     <name>Quillory::RowsView</name>
     <message>
         <source>read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>sola lettura</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Questa lista si legge solo in parte: si vede %n riga. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
+            <numerusform>Questa lista si legge solo in parte: si vedono %n righe. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
         </translation>
     </message>
     <message>
         <source>No row meets the filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna riga soddisfa i filtri.</translation>
     </message>
     <message>
         <source>This list has no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa lista non ha righe.</translation>
     </message>
     <message>
         <source>No rows yet. Tap New to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessuna riga. Tocca Nuovo per aggiungerne una.</translation>
     </message>
     <message>
         <source>This list can be read only in part, so nothing is summed up. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa lista si legge solo in parte, perciò non si somma nulla. «quillory restore» mostra le copie e ciò che si può salvare.</translation>
     </message>
 </context>
 <context>
     <name>Quillory::SummaryPage</name>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Totali</translation>
     </message>
 </context>
 <context>
@@ -1076,247 +1084,247 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>%1 to %2</source>
         <extracomment>The least and the greatest number that can be typed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>da %1 a %2</translation>
     </message>
     <message>
         <source>Less</source>
-        <translation type="unfinished"></translation>
+        <translation>Meno</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Più</translation>
     </message>
 </context>
 <context>
     <name>Quillory::UndoBar</name>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
     <name>Strings</name>
     <message>
         <source>Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>Do you want to delete the selected row?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare la riga selezionata?</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>New Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuova lista</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantità</translation>
     </message>
     <message>
         <source>Please specifiy a name. Empty name is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivi un nome.</translation>
     </message>
     <message>
         <source>Do you want to delete all rows in list &apos;%s&apos;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare tutte le righe della lista «%s»?</translation>
     </message>
     <message>
         <source>Do you want to delete list &apos;%s&apos; and all its data?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare la lista «%s» con tutto il contenuto?</translation>
     </message>
     <message>
         <source>Inventory List Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Proprietà</translation>
     </message>
     <message>
         <source>Quillory is unable to open the data file. Please make sure the storage card is inserted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire il file dei dati. Controlla che la scheda di memoria sia inserita.</translation>
     </message>
     <message>
         <source>The data file cannot be found. Do you want to create a new data file at the same location? Tap No to try to locate it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file dei dati non si trova. Crearne uno nuovo nello stesso posto? Tocca No per cercarlo di nuovo.</translation>
     </message>
     <message>
         <source>No record matched the criteria.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna riga soddisfa la condizione.</translation>
     </message>
     <message>
         <source>Import is completed with errors. Data may not be imported properly.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’importazione è finita con errori. Potrebbero mancare dei dati.</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
     <message>
         <source>Checkbox</source>
-        <translation type="unfinished"></translation>
+        <translation>Casella</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Prezzo</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Intero</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantità</translation>
     </message>
     <message>
         <source>Expiry Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Scadenza</translation>
     </message>
     <message>
         <source>Unchecked</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Checked</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>contains</source>
         <extracomment>The conditions stand between a column and a value: Price &quot;greater than&quot; 3.50.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>contiene</translation>
     </message>
     <message>
         <source>equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>uguale a</translation>
     </message>
     <message>
         <source>not equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>diverso da</translation>
     </message>
     <message>
         <source>greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>maggiore di</translation>
     </message>
     <message>
         <source>greater than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>maggiore o uguale a</translation>
     </message>
     <message>
         <source>less than</source>
-        <translation type="unfinished"></translation>
+        <translation>minore di</translation>
     </message>
     <message>
         <source>less than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>minore o uguale a</translation>
     </message>
     <message>
         <source>on</source>
         <extracomment>These stand before a date: Opened &quot;on or after&quot; 10 May.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>il</translation>
     </message>
     <message>
         <source>not on</source>
-        <translation type="unfinished"></translation>
+        <translation>non il</translation>
     </message>
     <message>
         <source>after</source>
-        <translation type="unfinished"></translation>
+        <translation>dopo il</translation>
     </message>
     <message>
         <source>on or after</source>
-        <translation type="unfinished"></translation>
+        <translation>dal</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>prima del</translation>
     </message>
     <message>
         <source>on or before</source>
-        <translation type="unfinished"></translation>
+        <translation>fino al</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fatto</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo</translation>
     </message>
 </context>
 <context>
     <name>Texts</name>
     <message>
         <source>Unable to create list table!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile creare la tabella delle liste!</translation>
     </message>
     <message>
         <source>Unable to create user database!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile creare la base di dati!</translation>
     </message>
     <message>
         <source>Unable to create inventory table!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile creare la tabella della lista!</translation>
     </message>
     <message>
         <source>Unable to open data file. Error: %d</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire il file dei dati. Errore: %d</translation>
     </message>
     <message>
         <source>Out of memory!</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria esaurita!</translation>
     </message>
     <message>
         <source>To begin using Quillory, please choose a name and location to store all your inventory lists. Tap OK to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per cominciare scegli nome e posto del file che conterrà tutte le tue liste. Tocca OK per continuare.</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova</translation>
     </message>
     <message>
         <source>to colour</source>
         <extracomment>Stands between a number and a colour: &quot;Enable row colour when count is less than or equal to&quot; 3 &quot;to colour&quot; red.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>in</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo:</translation>
     </message>
     <message>
         <source>Condition:</source>
-        <translation type="unfinished"></translation>
+        <translation>Condizione:</translation>
     </message>
     <message>
         <source>Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore:</translation>
     </message>
     <message>
         <source>Inventory Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Dati di Quillory</translation>
     </message>
     <message>
         <source>Text Files</source>
-        <translation type="unfinished"></translation>
+        <translation>File di testo</translation>
     </message>
 </context>
 <context>
@@ -1324,12 +1332,12 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>low</source>
         <extracomment>Beside the name of a row of which few are left; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>poco</translation>
     </message>
     <message>
         <source>expired</source>
         <extracomment>Beside the name of a row whose expiry date is reached; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>scaduto</translation>
     </message>
 </context>
 </TS>

@@ -5,162 +5,162 @@
     <name>Calendar</name>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>前の月</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>次の月</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>年</translation>
     </message>
 </context>
 <context>
     <name>Colours</name>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>自動</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>青</translation>
     </message>
     <message>
         <source>Navy</source>
-        <translation type="unfinished"></translation>
+        <translation>紺</translation>
     </message>
     <message>
         <source>Azure</source>
-        <translation type="unfinished"></translation>
+        <translation>空青</translation>
     </message>
     <message>
         <source>Midnight blue</source>
-        <translation type="unfinished"></translation>
+        <translation>濃紺</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>赤</translation>
     </message>
     <message>
         <source>Maroon</source>
-        <translation type="unfinished"></translation>
+        <translation>えび茶</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>赤紫</translation>
     </message>
     <message>
         <source>Pale pink</source>
-        <translation type="unfinished"></translation>
+        <translation>薄桃</translation>
     </message>
     <message>
         <source>Slate blue</source>
-        <translation type="unfinished"></translation>
+        <translation>灰青</translation>
     </message>
     <message>
         <source>Dark plum</source>
-        <translation type="unfinished"></translation>
+        <translation>暗い紫</translation>
     </message>
     <message>
         <source>Pale cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>薄水色</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>オレンジ</translation>
     </message>
     <message>
         <source>Brown</source>
-        <translation type="unfinished"></translation>
+        <translation>茶</translation>
     </message>
     <message>
         <source>Bright green</source>
-        <translation type="unfinished"></translation>
+        <translation>明るい緑</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>緑</translation>
     </message>
     <message>
         <source>Teal</source>
-        <translation type="unfinished"></translation>
+        <translation>青緑</translation>
     </message>
     <message>
         <source>Olive</source>
-        <translation type="unfinished"></translation>
+        <translation>オリーブ</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>黄</translation>
     </message>
     <message>
         <source>Pale blue</source>
-        <translation type="unfinished"></translation>
+        <translation>薄青</translation>
     </message>
     <message>
         <source>Periwinkle</source>
-        <translation type="unfinished"></translation>
+        <translation>藤青</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>ピンク</translation>
     </message>
     <message>
         <source>Pale orange</source>
-        <translation type="unfinished"></translation>
+        <translation>薄橙</translation>
     </message>
     <message>
         <source>Dusky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>くすんだ青</translation>
     </message>
     <message>
         <source>Sky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>空色</translation>
     </message>
     <message>
         <source>Leaf green</source>
-        <translation type="unfinished"></translation>
+        <translation>若葉</translation>
     </message>
     <message>
         <source>Pale green</source>
-        <translation type="unfinished"></translation>
+        <translation>薄緑</translation>
     </message>
     <message>
         <source>Lavender</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベンダー</translation>
     </message>
     <message>
         <source>Violet</source>
-        <translation type="unfinished"></translation>
+        <translation>すみれ</translation>
     </message>
     <message>
         <source>Mauve</source>
-        <translation type="unfinished"></translation>
+        <translation>藤紫</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>紫</translation>
     </message>
     <message>
         <source>Amber</source>
-        <translation type="unfinished"></translation>
+        <translation>琥珀</translation>
     </message>
     <message>
         <source>Sage</source>
-        <translation type="unfinished"></translation>
+        <translation>セージ</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>灰色</translation>
     </message>
     <message>
         <source>Raspberry</source>
-        <translation type="unfinished"></translation>
+        <translation>ラズベリー</translation>
     </message>
     <message>
         <source>Dark green</source>
-        <translation type="unfinished"></translation>
+        <translation>深緑</translation>
     </message>
 </context>
 <context>
@@ -387,35 +387,35 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
     <name>Controls</name>
     <message>
         <source>Enable row colour when count is less than or equal to</source>
-        <translation type="unfinished"></translation>
+        <translation>行に色を付ける数量（以下）</translation>
     </message>
     <message>
         <source>Enable row colour when expiry date is reached to colour</source>
-        <translation type="unfinished"></translation>
+        <translation>期限が来た行に付ける色</translation>
     </message>
     <message>
         <source>Display list using landscape mode</source>
-        <translation type="unfinished"></translation>
+        <translation>リストを横向きで表示</translation>
     </message>
     <message>
         <source>Landscape (right-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>横向き（右手）</translation>
     </message>
     <message>
         <source>Landscape (left-handed)</source>
-        <translation type="unfinished"></translation>
+        <translation>横向き（左手）</translation>
     </message>
     <message>
         <source>Use alternate row colour</source>
-        <translation type="unfinished"></translation>
+        <translation>一行おきに色を付ける</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上へ</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>下へ</translation>
     </message>
 </context>
 <context>
@@ -424,38 +424,44 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
         <source>The data file is damaged. There is a good copy of %1.
 
 Do you want to go on with it? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルが壊れています。%1 の正常なコピーがあります。
+
+それで続けますか？ 新しいファイルに書き込み、壊れたファイルはそのまま残します。</translation>
     </message>
     <message>
         <source>The new file could not be written. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいファイルに書き込めませんでした。エラー：%1</translation>
     </message>
     <message>
         <source>Beside the data file lay the journal of another file. It is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルの横に別のファイルのジャーナルがありました。%1 として保管しました。</translation>
     </message>
     <message>
         <source>Another program has written into the data file. What it holds now: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the old one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプログラムがデータファイルに書き込みました。今の内容：%1、%2。
+
+それで続けますか？ 新しいファイルに書き込み、古いファイルはそのまま残します。</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the damaged one stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>壊れたファイルから読み取れるもの：%1、%2。
+
+それで続けますか？ 新しいファイルに書き込み、壊れたファイルはそのまま残します。</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 行</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n list(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>リスト %n 件</numerusform>
         </translation>
     </message>
 </context>
@@ -463,263 +469,263 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Deletions</name>
     <message>
         <source>The list &apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>リスト「%1」を削除しました。</translation>
     </message>
     <message>
         <source>All rows of &apos;%1&apos; were deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」のすべての行を削除しました。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を削除しました。</translation>
     </message>
 </context>
 <context>
     <name>Dialogs</name>
     <message>
         <source>Welcome to Quillory</source>
-        <translation type="unfinished"></translation>
+        <translation>ようこそ</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>全般</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Column Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>列の定義</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルター</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルター</translation>
     </message>
     <message>
         <source>Import Column Order</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込む列の順序</translation>
     </message>
 </context>
 <context>
     <name>Icons</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>リスト</translation>
     </message>
     <message>
         <source>Box</source>
-        <translation type="unfinished"></translation>
+        <translation>箱</translation>
     </message>
     <message>
         <source>Jar</source>
-        <translation type="unfinished"></translation>
+        <translation>びん</translation>
     </message>
     <message>
         <source>Refrigerator</source>
-        <translation type="unfinished"></translation>
+        <translation>冷蔵庫</translation>
     </message>
     <message>
         <source>Freezer</source>
-        <translation type="unfinished"></translation>
+        <translation>冷凍庫</translation>
     </message>
     <message>
         <source>Apple</source>
-        <translation type="unfinished"></translation>
+        <translation>りんご</translation>
     </message>
     <message>
         <source>Carrot</source>
-        <translation type="unfinished"></translation>
+        <translation>にんじん</translation>
     </message>
     <message>
         <source>Bread</source>
-        <translation type="unfinished"></translation>
+        <translation>パン</translation>
     </message>
     <message>
         <source>Meat</source>
-        <translation type="unfinished"></translation>
+        <translation>肉</translation>
     </message>
     <message>
         <source>Fish</source>
-        <translation type="unfinished"></translation>
+        <translation>魚</translation>
     </message>
     <message>
         <source>Milk</source>
-        <translation type="unfinished"></translation>
+        <translation>牛乳</translation>
     </message>
     <message>
         <source>Bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>ボトル</translation>
     </message>
     <message>
         <source>Wine</source>
-        <translation type="unfinished"></translation>
+        <translation>ワイン</translation>
     </message>
     <message>
         <source>Coffee</source>
-        <translation type="unfinished"></translation>
+        <translation>コーヒー</translation>
     </message>
     <message>
         <source>Baby bottle</source>
-        <translation type="unfinished"></translation>
+        <translation>哺乳びん</translation>
     </message>
     <message>
         <source>Pills</source>
-        <translation type="unfinished"></translation>
+        <translation>薬</translation>
     </message>
     <message>
         <source>First aid</source>
-        <translation type="unfinished"></translation>
+        <translation>救急箱</translation>
     </message>
     <message>
         <source>Cosmetics</source>
-        <translation type="unfinished"></translation>
+        <translation>化粧品</translation>
     </message>
     <message>
         <source>Cleaning spray</source>
-        <translation type="unfinished"></translation>
+        <translation>スプレー</translation>
     </message>
     <message>
         <source>Shirt</source>
-        <translation type="unfinished"></translation>
+        <translation>シャツ</translation>
     </message>
     <message>
         <source>Shoe</source>
-        <translation type="unfinished"></translation>
+        <translation>靴</translation>
     </message>
     <message>
         <source>Jewel</source>
-        <translation type="unfinished"></translation>
+        <translation>宝石</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>腕時計</translation>
     </message>
     <message>
         <source>Coins</source>
-        <translation type="unfinished"></translation>
+        <translation>硬貨</translation>
     </message>
     <message>
         <source>Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>切手</translation>
     </message>
     <message>
         <source>Book</source>
-        <translation type="unfinished"></translation>
+        <translation>本</translation>
     </message>
     <message>
         <source>Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスク</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>映画</translation>
     </message>
     <message>
         <source>Game pad</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲーム</translation>
     </message>
     <message>
         <source>Puzzle</source>
-        <translation type="unfinished"></translation>
+        <translation>パズル</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ</translation>
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>パソコン</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>電話</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>電池</translation>
     </message>
     <message>
         <source>Plug</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグ</translation>
     </message>
     <message>
         <source>Bulb</source>
-        <translation type="unfinished"></translation>
+        <translation>電球</translation>
     </message>
     <message>
         <source>Hammer</source>
-        <translation type="unfinished"></translation>
+        <translation>ハンマー</translation>
     </message>
     <message>
         <source>Screw</source>
-        <translation type="unfinished"></translation>
+        <translation>ねじ</translation>
     </message>
     <message>
         <source>Paint</source>
-        <translation type="unfinished"></translation>
+        <translation>塗料</translation>
     </message>
     <message>
         <source>Plant</source>
-        <translation type="unfinished"></translation>
+        <translation>植物</translation>
     </message>
     <message>
         <source>Paw</source>
-        <translation type="unfinished"></translation>
+        <translation>足跡</translation>
     </message>
     <message>
         <source>Car</source>
-        <translation type="unfinished"></translation>
+        <translation>車</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>鍵</translation>
     </message>
 </context>
 <context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルそのものです</translation>
     </message>
     <message>
         <source>it is the name of the data file&apos;s journal</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルのジャーナルの名前です</translation>
     </message>
 </context>
 <context>
     <name>ListTransfer</name>
     <message numerus="yes">
         <source>The import was cancelled. %n row(s) are in the list already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>読み込みを中止しました。%n 行はすでにリストにあります。</numerusform>
         </translation>
     </message>
     <message>
         <source>Dates such as %1 were read in the form %2.</source>
         <extracomment>%1 is such as 10/05/2026, %2 such as dd/MM/yyyy.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 のような日付は %2 の形で読み取りました。</translation>
     </message>
     <message>
         <source>It is no plain file.</source>
-        <translation type="unfinished"></translation>
+        <translation>通常のファイルではありません。</translation>
     </message>
     <message>
         <source>The file could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに書き込めませんでした：%1</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>このリストは一部しか読み取れません。ファイルには %n 行あります。「quillory restore」でコピーと救えるものを確認できます。</numerusform>
         </translation>
     </message>
 </context>
@@ -727,137 +733,137 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     <name>Menus</name>
     <message>
         <source>List Properties...</source>
-        <translation type="unfinished"></translation>
+        <translation>プロパティ...</translation>
     </message>
     <message>
         <source>Rename List</source>
-        <translation type="unfinished"></translation>
+        <translation>リスト名を変更</translation>
     </message>
     <message>
         <source>Import List...</source>
-        <translation type="unfinished"></translation>
+        <translation>リストを読み込む...</translation>
     </message>
     <message>
         <source>Export List...</source>
-        <translation type="unfinished"></translation>
+        <translation>リストを書き出す...</translation>
     </message>
     <message>
         <source>Delete List...</source>
-        <translation type="unfinished"></translation>
+        <translation>リストを削除...</translation>
     </message>
     <message>
         <source>Delete All Records...</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての行を削除...</translation>
     </message>
     <message>
         <source>Open Read Only</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り専用で開く</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation type="unfinished"></translation>
+        <translation>設定...</translation>
     </message>
     <message>
         <source>About...</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillory について...</translation>
     </message>
     <message>
         <source>Add Expiry Date Column</source>
-        <translation type="unfinished"></translation>
+        <translation>期限の列を追加</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を変更</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上へ</translation>
     </message>
     <message>
         <source>Move Down</source>
-        <translation type="unfinished"></translation>
+        <translation>下へ</translation>
     </message>
     <message>
         <source>Modify...</source>
-        <translation type="unfinished"></translation>
+        <translation>編集...</translation>
     </message>
     <message>
         <source>Create Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピーを作成</translation>
     </message>
     <message>
         <source>View Summary...</source>
-        <translation type="unfinished"></translation>
+        <translation>集計を表示...</translation>
     </message>
     <message>
         <source>Find...</source>
-        <translation type="unfinished"></translation>
+        <translation>検索...</translation>
     </message>
     <message>
         <source>Set Filters...</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルターを設定...</translation>
     </message>
     <message>
         <source>Clear Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルターを解除</translation>
     </message>
     <message>
         <source>Add 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1 増やす</translation>
     </message>
     <message>
         <source>Subtract 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1 減らす</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて削除</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>新規</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>メニュー</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>挿入</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>追加</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColourGrid</name>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
 </context>
 <context>
     <name>Quillory::ColumnsPanel</name>
     <message>
         <source>A new column goes before the selected one. Once the list is made its columns stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>新しい列は選択した列の前に入ります。リストを作ったあとは列を変えられません。</translation>
     </message>
 </context>
 <context>
@@ -866,204 +872,206 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
         <source>The change could not be saved. Error: %1
 
 Tap Retry to open the data file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更を保存できませんでした。エラー：%1
+
+「再試行」でデータファイルを開き直します。</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. The old one is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルの場所に別のファイルが置かれました。古いほうはコピーとして保管しました。「quillory restore」でコピーを確認できます。</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. No copy could be kept of the old one.</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルの場所に別のファイルが置かれました。古いほうのコピーは保管できませんでした。</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. What it held is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルが元の場所にありません。内容はコピーとして保管しました。「quillory restore」でコピーを確認できます。</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. No copy could be kept of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルが元の場所にありません。コピーは保管できませんでした。</translation>
     </message>
     <message>
         <source>No copy of the data file could be kept. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルのコピーを保管できませんでした。エラー：%1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::DateField</name>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダー</translation>
     </message>
     <message>
         <source>no date</source>
-        <translation type="unfinished"></translation>
+        <translation>日付なし</translation>
     </message>
     <message>
         <source>today</source>
         <extracomment>Typed in place of a date, in small letters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>今日</translation>
     </message>
     <message>
         <source>not a date</source>
-        <translation type="unfinished"></translation>
+        <translation>日付ではありません</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date. Type it as in %2, or pick it from the calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は日付ではありません。%2 のように入力するか、カレンダーから選んでください。</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>解除</translation>
     </message>
     <message>
         <source>%1 of %2 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 行中 %1 行</translation>
     </message>
 </context>
 <context>
     <name>Quillory::FiltersPage</name>
     <message>
         <source>No filters yet. Tap Add to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルターはまだありません。「追加」で作ります。</translation>
     </message>
 </context>
 <context>
     <name>Quillory::GeneralPanel</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>アイコン</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HelpPage</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ</translation>
     </message>
     <message>
         <source>Quillory.htm</source>
         <extracomment>The file of the help, such as Quillory_de.htm where it is there in German.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Quillory.htm</translation>
     </message>
 </context>
 <context>
     <name>Quillory::HomeList</name>
     <message>
         <source>No lists yet. Tap New to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>リストはまだありません。「新規」で作ります。</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGrid</name>
     <message>
         <source>Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>アイコン</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconGridPage</name>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>アイコン</translation>
     </message>
 </context>
 <context>
     <name>Quillory::IconPicker</name>
     <message>
         <source>Next icon</source>
-        <translation type="unfinished"></translation>
+        <translation>次のアイコン</translation>
     </message>
     <message>
         <source>Previous icon</source>
-        <translation type="unfinished"></translation>
+        <translation>前のアイコン</translation>
     </message>
     <message>
         <source>All icons</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのアイコン</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MainFrame</name>
     <message>
         <source>Choose a list to see its rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>リストを選ぶと行が表示されます。</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>Some lists cannot be read. Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取れないリストがあります。エラー：%1</translation>
     </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>
     <message>
         <source>opens a menu</source>
-        <translation type="unfinished"></translation>
+        <translation>メニューを開きます</translation>
     </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>
     <message>
         <source>Only lists with an expiry date column can warn of dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>期限の列があるリストだけが期限を知らせます。</translation>
     </message>
 </context>
 <context>
     <name>Quillory::Page</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ</translation>
     </message>
     <message>
         <source>Do you want to discard what you have entered?</source>
-        <translation type="unfinished"></translation>
+        <translation>入力した内容を破棄しますか？</translation>
     </message>
 </context>
 <context>
     <name>Quillory::RowsView</name>
     <message>
         <source>read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取り専用</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>このリストは一部しか読み取れません。%n 行を表示しています。「quillory restore」でコピーと救えるものを確認できます。</numerusform>
         </translation>
     </message>
     <message>
         <source>No row meets the filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルターに合う行がありません。</translation>
     </message>
     <message>
         <source>This list has no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>このリストには行がありません。</translation>
     </message>
     <message>
         <source>No rows yet. Tap New to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>行はまだありません。「新規」で追加します。</translation>
     </message>
     <message>
         <source>This list can be read only in part, so nothing is summed up. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>このリストは一部しか読み取れないため、集計しません。「quillory restore」でコピーと救えるものを確認できます。</translation>
     </message>
 </context>
 <context>
     <name>Quillory::SummaryPage</name>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>集計</translation>
     </message>
 </context>
 <context>
@@ -1071,247 +1079,247 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>%1 to %2</source>
         <extracomment>The least and the greatest number that can be typed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2</translation>
     </message>
     <message>
         <source>Less</source>
-        <translation type="unfinished"></translation>
+        <translation>減らす</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>増やす</translation>
     </message>
 </context>
 <context>
     <name>Quillory::UndoBar</name>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す</translation>
     </message>
 </context>
 <context>
     <name>Strings</name>
     <message>
         <source>Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>リスト</translation>
     </message>
     <message>
         <source>Do you want to delete the selected row?</source>
-        <translation type="unfinished"></translation>
+        <translation>選択した行を削除しますか？</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>種類</translation>
     </message>
     <message>
         <source>New Inventory List</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいリスト</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>数量</translation>
     </message>
     <message>
         <source>Please specifiy a name. Empty name is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を入力してください。</translation>
     </message>
     <message>
         <source>Do you want to delete all rows in list &apos;%s&apos;?</source>
-        <translation type="unfinished"></translation>
+        <translation>リスト「%s」のすべての行を削除しますか？</translation>
     </message>
     <message>
         <source>Do you want to delete list &apos;%s&apos; and all its data?</source>
-        <translation type="unfinished"></translation>
+        <translation>リスト「%s」を中身ごと削除しますか？</translation>
     </message>
     <message>
         <source>Inventory List Options</source>
-        <translation type="unfinished"></translation>
+        <translation>リストのプロパティ</translation>
     </message>
     <message>
         <source>Quillory is unable to open the data file. Please make sure the storage card is inserted.</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルを開けません。メモリーカードが入っているか確認してください。</translation>
     </message>
     <message>
         <source>The data file cannot be found. Do you want to create a new data file at the same location? Tap No to try to locate it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルが見つかりません。同じ場所に新しく作りますか？「いいえ」でもう一度探します。</translation>
     </message>
     <message>
         <source>No record matched the criteria.</source>
-        <translation type="unfinished"></translation>
+        <translation>条件に合う行はありませんでした。</translation>
     </message>
     <message>
         <source>Import is completed with errors. Data may not be imported properly.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みはエラーで終わりました。データが欠けている可能性があります。</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>文字</translation>
     </message>
     <message>
         <source>Checkbox</source>
-        <translation type="unfinished"></translation>
+        <translation>チェック</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>価格</translation>
     </message>
     <message>
         <source>Integer</source>
-        <translation type="unfinished"></translation>
+        <translation>整数</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>日付</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>数量</translation>
     </message>
     <message>
         <source>Expiry Date</source>
-        <translation type="unfinished"></translation>
+        <translation>期限</translation>
     </message>
     <message>
         <source>Unchecked</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>Checked</source>
-        <translation type="unfinished"></translation>
+        <translation>オン</translation>
     </message>
     <message>
         <source>contains</source>
         <extracomment>The conditions stand between a column and a value: Price &quot;greater than&quot; 3.50.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>を含む</translation>
     </message>
     <message>
         <source>equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>と等しい</translation>
     </message>
     <message>
         <source>not equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>と等しくない</translation>
     </message>
     <message>
         <source>greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>より大きい</translation>
     </message>
     <message>
         <source>greater than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>以上</translation>
     </message>
     <message>
         <source>less than</source>
-        <translation type="unfinished"></translation>
+        <translation>より小さい</translation>
     </message>
     <message>
         <source>less than or equals to</source>
-        <translation type="unfinished"></translation>
+        <translation>以下</translation>
     </message>
     <message>
         <source>on</source>
         <extracomment>These stand before a date: Opened &quot;on or after&quot; 10 May.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>当日</translation>
     </message>
     <message>
         <source>not on</source>
-        <translation type="unfinished"></translation>
+        <translation>当日以外</translation>
     </message>
     <message>
         <source>after</source>
-        <translation type="unfinished"></translation>
+        <translation>より後</translation>
     </message>
     <message>
         <source>on or after</source>
-        <translation type="unfinished"></translation>
+        <translation>以後</translation>
     </message>
     <message>
         <source>before</source>
-        <translation type="unfinished"></translation>
+        <translation>より前</translation>
     </message>
     <message>
         <source>on or before</source>
-        <translation type="unfinished"></translation>
+        <translation>以前</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>メニュー</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>新規</translation>
     </message>
 </context>
 <context>
     <name>Texts</name>
     <message>
         <source>Unable to create list table!</source>
-        <translation type="unfinished"></translation>
+        <translation>リストの表を作れません。</translation>
     </message>
     <message>
         <source>Unable to create user database!</source>
-        <translation type="unfinished"></translation>
+        <translation>データベースを作れません。</translation>
     </message>
     <message>
         <source>Unable to create inventory table!</source>
-        <translation type="unfinished"></translation>
+        <translation>リストの行の表を作れません。</translation>
     </message>
     <message>
         <source>Unable to open data file. Error: %d</source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルを開けません。エラー：%d</translation>
     </message>
     <message>
         <source>Out of memory!</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリーが足りません。</translation>
     </message>
     <message>
         <source>To begin using Quillory, please choose a name and location to store all your inventory lists. Tap OK to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>はじめに、すべてのリストを入れるファイルの名前と場所を選びます。OK で進みます。</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>検索</translation>
     </message>
     <message>
         <source>to colour</source>
         <extracomment>Stands between a number and a colour: &quot;Enable row colour when count is less than or equal to&quot; 3 &quot;to colour&quot; red.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>の色</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation type="unfinished"></translation>
+        <translation>項目：</translation>
     </message>
     <message>
         <source>Condition:</source>
-        <translation type="unfinished"></translation>
+        <translation>条件：</translation>
     </message>
     <message>
         <source>Value:</source>
-        <translation type="unfinished"></translation>
+        <translation>値：</translation>
     </message>
     <message>
         <source>Inventory Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillory データ</translation>
     </message>
     <message>
         <source>Text Files</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストファイル</translation>
     </message>
 </context>
 <context>
@@ -1319,12 +1327,12 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>low</source>
         <extracomment>Beside the name of a row of which few are left; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>残り少</translation>
     </message>
     <message>
         <source>expired</source>
         <extracomment>Beside the name of a row whose expiry date is reached; short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>期限切れ</translation>
     </message>
 </context>
 </TS>
