@@ -170,7 +170,10 @@
 
   --json               name, rows, icon and columns of each list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt je Liste eine Zeile aus, nach Namen geordnet: Name TAB Zahl der Zeilen.
+
+  --json               Name, Zeilen, Symbol und Spalten jeder Liste
+</translation>
     </message>
     <message>
         <source>Makes a list and prints nothing. Its first columns are Name and Quantity.
@@ -182,7 +185,17 @@
   --icon N             icon 0 to 42
   --create             makes the data file if there is none
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Legt eine Liste an und gibt nichts aus. Ihre ersten Spalten sind Name und
+Quantity.
+
+  --column NAME:TYPE   fügt eine Spalte hinzu; TYPE ist string, checkbox,
+                       price, integer, date oder expiry (das keinen NAME
+                       braucht). Mehrmals möglich.
+  --warn-count N       warnt vor Zeilen, deren Anzahl N oder weniger ist
+  --warn-expiry        warnt vor Zeilen, deren Ablaufdatum erreicht ist
+  --icon N             Symbol 0 bis 42
+  --create             legt die Datendatei an, wenn es keine gibt
+</translation>
     </message>
     <message>
         <source>  --where CONDITION    only rows that meet it: &quot;COLUMN CONDITION VALUE&quot;, as in
@@ -192,7 +205,14 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  --where CONDITION    nur Zeilen, die sie erfüllen: „COLUMN CONDITION VALUE“,
+                       wie in &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened =
+                       Checked&quot;. Die Bedingungen sind die der Filter, mit ihren
+                       englischen Wörtern oder = != &gt; &gt;= &lt; &lt;=. Wie dort findet
+                       != bei Text, Zahlen und Preisen dasselbe wie =. Zahlen
+                       werden gelesen, wie sie gezeigt werden. Mehrmals
+                       möglich: alle müssen gelten.
+</translation>
     </message>
     <message>
         <source>Prints a line of column names, then the rows in the order of names, with TAB between
@@ -203,7 +223,16 @@ fields. Control characters in texts are shown as blanks.
   --no-header          without the line of column names
   --json               an object per row; dates as YYYY-MM-DD, missing values as null
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt eine Zeile mit den Namen der Spalten aus, dann die Zeilen nach Namen
+geordnet, mit TAB zwischen den Feldern. Steuerzeichen in Texten werden zu
+Leerzeichen.
+
+  --sort COLUMN        nach einer Spalte aufsteigend geordnet
+  --descending         andersherum
+  --no-header          ohne die Zeile mit den Namen der Spalten
+  --json               ein Objekt je Zeile; Daten als YYYY-MM-DD, fehlende
+                       Werte als null
+</translation>
     </message>
     <message>
         <source>Looks for a text in every column of every list, whatever its case and accents, and prints a
@@ -211,7 +240,12 @@ line per value that has it: list TAB row TAB column TAB value.
 
   --json               list, row, column and text of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Sucht einen Text in allen Spalten aller Listen, ohne auf Groß- und
+Kleinschreibung und Akzente zu achten, und gibt je Fund eine Zeile aus: Liste
+TAB Zeile TAB Spalte TAB Wert.
+
+  --json               Liste, Zeile, Spalte und Text jedes Fundes
+</translation>
     </message>
     <message>
         <source>Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each
@@ -224,7 +258,19 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
   --all DIR            every list into a folder, which is made if need be: a file for each, as csv
                        unless told otherwise, and lists.json, which tells of them
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Zeilen als Text, wie „Liste exportieren“: UTF-16, TAB zwischen den
+Feldern, CR LF nach jeder Zeile. Ohne FILE oder mit - auf die Standardausgabe.
+Eine vorhandene FILE wird ersetzt.
+
+  --dates iso          Daten als YYYY-MM-DD, die überall gleich gelesen werden
+  --format NAME        csv oder tsv, eine Tabelle für andere Programme in UTF-8
+                       mit den Namen der Spalten in der ersten Zeile: Daten als
+                       YYYY-MM-DD, Dezimalpunkt, true und false; json, wie show
+                       es ausgibt; oder html, eine Seite zum Lesen
+  --all DIR            alle Listen in einen Ordner, der nötigenfalls angelegt
+                       wird: je Liste eine Datei, csv, wenn nichts anderes
+                       gesagt ist, und lists.json, das sie beschreibt
+</translation>
     </message>
     <message>
         <source>Adds a row for each line of a text file, as Import List does, and prints how many came in.
@@ -242,7 +288,27 @@ FILE - is standard input. Each line must end in CR LF, the last one too.
   --create             with --all: makes the data file if there is none
   --dry-run            stores nothing, prints how many rows would come in
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt je Zeile einer Textdatei eine Zeile hinzu, wie „Liste importieren“, und
+gibt aus, wie viele es sind. FILE - ist die Standardeingabe. Jede Zeile muss
+mit CR LF enden, auch die letzte.
+
+  --columns &quot;A,B&quot;      die Spalten, die die Felder einer Zeile füllen; nicht
+                       genannte folgen in der Reihenfolge der Liste, die auch
+                       ohne diese Option gilt
+  --encoding NAME      worin die Datei geschrieben ist: utf-8, utf-16 oder die
+                       Nummer einer Codepage wie 1252
+  --format NAME        csv oder tsv, Tabellen, wie export sie schreibt: die
+                       erste Zeile nennt Spalten; in csv trennen Komma,
+                       Semikolon oder TAB die Felder. Alle Zeilen kommen hinein
+                       oder keine
+  --match COLUMN       bei einer Tabelle: ändert die Zeile, die in dieser
+                       Spalte denselben Wert hat, und fügt eine hinzu, wo es
+                       keine gibt
+  --all DIR            legt jede Liste an, die lists.json in einem Ordner
+                       beschreibt, und gibt sie aus
+  --create             mit --all: legt die Datendatei an, wenn es keine gibt
+  --dry-run            speichert nichts, gibt aus, wie viele Zeilen es wären
+</translation>
     </message>
     <message>
         <source>Prints a line per total of a number or price column: name TAB total, with a point before
@@ -250,7 +316,11 @@ decimals.
 
   --json               name and total of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt je Summe einer Zahlen- oder Preisspalte eine Zeile aus: Name TAB Summe,
+mit Dezimalpunkt.
+
+  --json               Name und Summe jeder Spalte
+</translation>
     </message>
     <message>
         <source>Prints rows of lists whose warnings are on: list TAB row TAB &quot;low&quot;, &quot;expired&quot; or the date
@@ -266,13 +336,29 @@ on which the row expires.
 
 Exits with 3 if something is due, with 0 if nothing is.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt Zeilen von Listen aus, deren Warnungen an sind: Liste TAB Zeile TAB „low“,
+„expired“ oder das Datum, an dem die Zeile abläuft.
+
+  --within DAYS        auch Zeilen, die in so vielen Tagen ablaufen
+  --json               Liste, Zeile, Zustand und Anzahl oder Datum
+  --ics                gibt stattdessen einen Kalender aller Ablaufdaten als
+                       iCalendar aus; mit --within nur die bis dahin
+  --notify             gibt nichts aus, sondern zeigt höchstens einmal am Tag
+                       als Benachrichtigung, was seit dem letzten Mal fällig
+                       wurde. Ein Tippen darauf öffnet die Liste; bis dahin
+                       oder bis sie geschlossen wird, wartet der Befehl.
+
+Endet mit 3, wenn etwas fällig ist, sonst mit 0.
+</translation>
     </message>
     <message>
         <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
 Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet eine morgendliche Benachrichtigung über Fälliges ein oder aus, oder
+gibt aus, ob sie an ist. Braucht systemd, dessen Timer quillory-reminders dann
+„quillory due --notify“ ausführt.
+</translation>
     </message>
     <message>
         <source>Adds a row with these values and prints 1. Numbers are read as they are shown, a checkbox is
@@ -280,7 +366,11 @@ Checked or Unchecked.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt eine Zeile mit diesen Werten hinzu und gibt 1 aus. Zahlen werden gelesen,
+wie sie gezeigt werden; ein Kästchen ist Checked oder Unchecked.
+
+  --dry-run            speichert nichts
+</translation>
     </message>
     <message>
         <source>Gives all rows that meet the conditions these values, or none of them if one cannot be
@@ -288,7 +378,11 @@ stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt allen Zeilen, die die Bedingungen erfüllen, diese Werte, oder keiner, wenn
+eine nicht gespeichert werden kann, und gibt aus, wie viele es sind.
+
+  --dry-run            speichert nichts
+</translation>
     </message>
     <message>
         <source>Counts all rows that meet the conditions up by +N or down by -N, or none of them if one
@@ -296,7 +390,12 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Zählt alle Zeilen, die die Bedingungen erfüllen, um +N hinauf oder um -N
+hinunter, oder keine, wenn eine nicht gespeichert werden kann, und gibt aus,
+wie viele es sind.
+
+  --dry-run            speichert nichts
+</translation>
     </message>
     <message>
         <source>Deletes all rows that meet the conditions, or none of them if one cannot be, and prints how
@@ -304,31 +403,45 @@ many there are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht alle Zeilen, die die Bedingungen erfüllen, oder keine, wenn eine nicht
+gelöscht werden kann, und gibt aus, wie viele es sind.
+
+  --dry-run            löscht nichts
+</translation>
     </message>
     <message>
         <source>Gives a list another name and prints nothing.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt einer Liste einen anderen Namen und gibt nichts aus.
+
+  --dry-run            speichert nichts
+</translation>
     </message>
     <message>
         <source>Deletes a list with all its rows and prints how many these are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht eine Liste mit allen Zeilen und gibt aus, wie viele es waren.
+
+  --dry-run            löscht nichts
+</translation>
     </message>
     <message>
         <source>Reads the whole data file. Prints &quot;ok&quot;, or what is wrong and exits with 1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Liest die ganze Datendatei. Gibt „ok“ aus, oder was nicht stimmt, und endet
+dann mit 1.
+</translation>
     </message>
     <message>
         <source>Writes a consistent copy of the data file, also while it is in use. FILE must not exist.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt eine stimmige Kopie der Datendatei, auch während sie benutzt wird.
+FILE darf es noch nicht geben.
+</translation>
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
@@ -345,11 +458,26 @@ must not exist:
                        is; the data file is only read
   --json               an object per copy and per list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Nach jedem Lauf, der Listen oder Zeilen der eingestellten Datendatei geändert
+hat, wird eine Kopie aufbewahrt: die letzten drei, oder so viele, wie
+KeptCopies=0...9 in den Einstellungen sagt. Ist die Datei verschwunden, werden
+sie 90 Tage später gelöscht.
+
+Ohne Optionen gibt restore je Kopie eine Zeile aus, die neueste zuerst: Nummer
+TAB Zeit TAB Bytes, und dann je Liste, die aus der Datendatei selbst lesbar
+ist, auch wenn sie beschädigt ist, eine Zeile: salvage TAB Liste TAB Zeilen TAB
+was verloren ist. Sonst legt es die neue Datendatei FILE an, die es noch nicht
+geben darf:
+
+  --from N             aus Kopie N
+  --salvage            aus dem, was von der Datendatei noch lesbar ist, und
+                       gibt aus, was das ist; die Datendatei wird nur gelesen
+  --json               ein Objekt je Kopie und je Liste
+</translation>
     </message>
     <message>
         <source>none so far</source>
-        <translation type="unfinished"></translation>
+        <translation>bisher keine</translation>
     </message>
     <message>
         <source>  --data FILE          works on another data file than the configured one (%1)
@@ -359,14 +487,24 @@ groups. Text files are written in UTF-16 behind a byte-order mark, and read in c
 %4 where there is none.
 </source>
         <extracomment>%1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>  --data FILE          arbeitet mit einer anderen Datendatei als der
+                       eingestellten (%1)
+
+Daten werden hier %2 geschrieben und Zahlen %3, in Textdateien aber mit Punkt
+und ohne Gruppen. Textdateien werden in UTF-16 hinter einer
+Bytereihenfolge-Marke geschrieben und, wo keine steht, in Codepage %4 gelesen.
+</translation>
     </message>
     <message>
         <source>
 Opens the window, showing LIST if it is named. The commands work without it:
 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Öffnet das Fenster und zeigt LIST, wenn sie genannt ist. Die Befehle brauchen
+es nicht:
+
+</translation>
     </message>
     <message>
         <source>
@@ -374,13 +512,19 @@ Opens the window, showing LIST if it is named. The commands work without it:
   --help               help, on a command if one is named
   --version            the version
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  --new-list           öffnet das Fenster mit der Seite einer neuen Liste
+  --help               Hilfe, zu einem Befehl, wenn einer genannt ist
+  --version            die Version
+</translation>
     </message>
     <message>
         <source>
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Endet mit: 0 getan, 1 misslungen, 2 falsch aufgerufen, 3 etwas ist fällig.
+</translation>
     </message>
 </context>
 <context>

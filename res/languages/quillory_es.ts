@@ -170,7 +170,10 @@
 
   --json               name, rows, icon and columns of each list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime una línea por lista, por orden de nombres: nombre TAB número de filas.
+
+  --json               nombre, filas, icono y columnas de cada lista
+</translation>
     </message>
     <message>
         <source>Makes a list and prints nothing. Its first columns are Name and Quantity.
@@ -182,7 +185,16 @@
   --icon N             icon 0 to 42
   --create             makes the data file if there is none
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Crea una lista y no imprime nada. Sus primeras columnas son Name y Quantity.
+
+  --column NAME:TYPE   añade una columna; TYPE es string, checkbox, price,
+                       integer, date o expiry (que no necesita NAME). Se puede
+                       repetir.
+  --warn-count N       avisa de las filas cuya cantidad es N o menos
+  --warn-expiry        avisa de las filas cuya fecha de caducidad ha llegado
+  --icon N             icono de 0 a 42
+  --create             crea el archivo de datos si no existe
+</translation>
     </message>
     <message>
         <source>  --where CONDITION    only rows that meet it: &quot;COLUMN CONDITION VALUE&quot;, as in
@@ -192,7 +204,14 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  --where CONDITION    solo las filas que la cumplen: «COLUMN CONDITION VALUE»,
+                       como &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened =
+                       Checked&quot;. Las condiciones son las de los filtros, con
+                       sus palabras inglesas o = != &gt; &gt;= &lt; &lt;=. Como allí, != en
+                       textos, números y precios encuentra lo mismo que =. Los
+                       números se leen como se muestran. Se puede repetir:
+                       todas deben cumplirse.
+</translation>
     </message>
     <message>
         <source>Prints a line of column names, then the rows in the order of names, with TAB between
@@ -203,7 +222,16 @@ fields. Control characters in texts are shown as blanks.
   --no-header          without the line of column names
   --json               an object per row; dates as YYYY-MM-DD, missing values as null
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime una línea con los nombres de las columnas y después las filas por orden
+de nombres, con TAB entre campos. Los caracteres de control de los textos se
+muestran como espacios.
+
+  --sort COLUMN        en orden ascendente de una columna
+  --descending         en el orden contrario
+  --no-header          sin la línea de nombres de columnas
+  --json               un objeto por fila; fechas como YYYY-MM-DD, valores
+                       ausentes como null
+</translation>
     </message>
     <message>
         <source>Looks for a text in every column of every list, whatever its case and accents, and prints a
@@ -211,7 +239,12 @@ line per value that has it: list TAB row TAB column TAB value.
 
   --json               list, row, column and text of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Busca un texto en todas las columnas de todas las listas, sin distinguir
+mayúsculas ni acentos, e imprime una línea por cada valor que lo contiene:
+lista TAB fila TAB columna TAB valor.
+
+  --json               lista, fila, columna y texto de cada uno
+</translation>
     </message>
     <message>
         <source>Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each
@@ -224,7 +257,20 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
   --all DIR            every list into a folder, which is made if need be: a file for each, as csv
                        unless told otherwise, and lists.json, which tells of them
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe las filas como texto, igual que «Exportar lista»: UTF-16, TAB entre
+campos, CR LF tras cada fila. Sin FILE, o con -, en la salida estándar. Un FILE
+existente se reemplaza.
+
+  --dates iso          fechas como YYYY-MM-DD, que se leen igual en todas
+                       partes
+  --format NAME        csv o tsv, una tabla para otros programas en UTF-8 con
+                       los nombres de las columnas en la primera línea: fechas
+                       como YYYY-MM-DD, punto decimal, true y false; json, como
+                       lo imprime show; o html, una página para leer
+  --all DIR            todas las listas en una carpeta, que se crea si hace
+                       falta: un archivo por lista, csv si no se dice otra
+                       cosa, y lists.json, que las describe
+</translation>
     </message>
     <message>
         <source>Adds a row for each line of a text file, as Import List does, and prints how many came in.
@@ -242,7 +288,25 @@ FILE - is standard input. Each line must end in CR LF, the last one too.
   --create             with --all: makes the data file if there is none
   --dry-run            stores nothing, prints how many rows would come in
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Añade una fila por cada línea de un archivo de texto, igual que «Importar
+lista», e imprime cuántas entraron. FILE - es la entrada estándar. Cada línea
+debe terminar en CR LF, también la última.
+
+  --columns &quot;A,B&quot;      las columnas que llenan los campos de una línea; las no
+                       nombradas siguen en el orden de la lista, que es también
+                       el que vale sin esta opción
+  --encoding NAME      en qué está el archivo: utf-8, utf-16 o el número de una
+                       página de códigos como 1252
+  --format NAME        csv o tsv, tablas como las escribe export: la primera
+                       línea nombra columnas; en csv separan los campos coma,
+                       punto y coma o TAB. Entran todas las filas o ninguna
+  --match COLUMN       de una tabla: cambia la fila que tiene el mismo valor en
+                       esta columna, y añade una donde no la hay
+  --all DIR            crea cada lista que describe lists.json en una carpeta,
+                       y las imprime
+  --create             con --all: crea el archivo de datos si no existe
+  --dry-run            no guarda nada, imprime cuántas filas entrarían
+</translation>
     </message>
     <message>
         <source>Prints a line per total of a number or price column: name TAB total, with a point before
@@ -250,7 +314,11 @@ decimals.
 
   --json               name and total of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime una línea por total de una columna de números o precios: nombre TAB
+total, con punto decimal.
+
+  --json               nombre y total de cada una
+</translation>
     </message>
     <message>
         <source>Prints rows of lists whose warnings are on: list TAB row TAB &quot;low&quot;, &quot;expired&quot; or the date
@@ -266,13 +334,30 @@ on which the row expires.
 
 Exits with 3 if something is due, with 0 if nothing is.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime las filas de las listas con avisos activos: lista TAB fila TAB «low»,
+«expired» o la fecha en que caduca la fila.
+
+  --within DAYS        también las filas que caducan en ese número de días
+  --json               lista, fila, estado y cantidad o fecha de cada una
+  --ics                imprime en su lugar un calendario de todas las fechas de
+                       caducidad, como iCalendar; con --within solo hasta
+                       entonces
+  --notify             no imprime nada, pero muestra como mucho una vez al día,
+                       en una notificación del escritorio, lo que ha vencido
+                       desde la última vez. Tocarla abre la lista; hasta
+                       entonces o hasta que se cierre, la orden espera.
+
+Termina con 3 si algo ha vencido y con 0 si no.
+</translation>
     </message>
     <message>
         <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
 Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Activa o desactiva una notificación cada mañana de lo que ha vencido, o imprime
+si está activa. Necesita systemd, cuyo temporizador quillory-reminders ejecuta
+entonces «quillory due --notify».
+</translation>
     </message>
     <message>
         <source>Adds a row with these values and prints 1. Numbers are read as they are shown, a checkbox is
@@ -280,7 +365,11 @@ Checked or Unchecked.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Añade una fila con estos valores e imprime 1. Los números se leen como se
+muestran; una casilla es Checked o Unchecked.
+
+  --dry-run            no guarda nada
+</translation>
     </message>
     <message>
         <source>Gives all rows that meet the conditions these values, or none of them if one cannot be
@@ -288,7 +377,11 @@ stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Da estos valores a todas las filas que cumplen las condiciones, o a ninguna si
+una no se puede guardar, e imprime cuántas son.
+
+  --dry-run            no guarda nada
+</translation>
     </message>
     <message>
         <source>Counts all rows that meet the conditions up by +N or down by -N, or none of them if one
@@ -296,7 +389,11 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Suma +N o resta -N a todas las filas que cumplen las condiciones, o a ninguna
+si una no se puede guardar, e imprime cuántas son.
+
+  --dry-run            no guarda nada
+</translation>
     </message>
     <message>
         <source>Deletes all rows that meet the conditions, or none of them if one cannot be, and prints how
@@ -304,31 +401,44 @@ many there are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina todas las filas que cumplen las condiciones, o ninguna si una no se
+puede eliminar, e imprime cuántas son.
+
+  --dry-run            no elimina nada
+</translation>
     </message>
     <message>
         <source>Gives a list another name and prints nothing.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Da otro nombre a una lista y no imprime nada.
+
+  --dry-run            no guarda nada
+</translation>
     </message>
     <message>
         <source>Deletes a list with all its rows and prints how many these are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina una lista con todas sus filas e imprime cuántas eran.
+
+  --dry-run            no elimina nada
+</translation>
     </message>
     <message>
         <source>Reads the whole data file. Prints &quot;ok&quot;, or what is wrong and exits with 1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Lee todo el archivo de datos. Imprime «ok», o lo que está mal y termina con 1.
+</translation>
     </message>
     <message>
         <source>Writes a consistent copy of the data file, also while it is in use. FILE must not exist.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe una copia coherente del archivo de datos, también mientras se usa. FILE
+no debe existir.
+</translation>
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
@@ -345,11 +455,25 @@ must not exist:
                        is; the data file is only read
   --json               an object per copy and per list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Después de cada ejecución que cambió listas o filas del archivo de datos
+configurado se guarda una copia: las tres últimas, o tantas como diga
+KeptCopies=0...9 en los ajustes. Se eliminan 90 días después de que el archivo
+desaparezca.
+
+Sin opciones imprime una línea por copia, la más reciente primero: número TAB
+hora TAB bytes, y después una línea por lista que se puede leer del propio
+archivo de datos, aunque esté dañado: salvage TAB lista TAB filas TAB lo que se
+ha perdido. Si no, crea el nuevo archivo de datos FILE, que no debe existir:
+
+  --from N             de la copia N
+  --salvage            de lo que aún se puede leer del archivo de datos, e
+                       imprime qué es; el archivo de datos solo se lee
+  --json               un objeto por copia y por lista
+</translation>
     </message>
     <message>
         <source>none so far</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno por ahora</translation>
     </message>
     <message>
         <source>  --data FILE          works on another data file than the configured one (%1)
@@ -359,14 +483,23 @@ groups. Text files are written in UTF-16 behind a byte-order mark, and read in c
 %4 where there is none.
 </source>
         <extracomment>%1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>  --data FILE          trabaja con otro archivo de datos que el configurado
+                       (%1)
+
+Aquí las fechas se escriben %2 y los números %3, pero en los archivos de texto
+con punto y sin grupos. Los archivos de texto se escriben en UTF-16 tras una
+marca de orden de bytes, y se leen en la página de códigos %4 donde no la hay.
+</translation>
     </message>
     <message>
         <source>
 Opens the window, showing LIST if it is named. The commands work without it:
 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Abre la ventana, con LIST si se nombra. Las órdenes funcionan sin ella:
+
+</translation>
     </message>
     <message>
         <source>
@@ -374,13 +507,19 @@ Opens the window, showing LIST if it is named. The commands work without it:
   --help               help, on a command if one is named
   --version            the version
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  --new-list           abre la ventana con la página de una lista nueva
+  --help               ayuda, de una orden si se nombra
+  --version            la versión
+</translation>
     </message>
     <message>
         <source>
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Termina con: 0 hecho, 1 error, 2 mal uso, 3 algo ha vencido.
+</translation>
     </message>
 </context>
 <context>

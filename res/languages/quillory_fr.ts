@@ -170,7 +170,10 @@
 
   --json               name, rows, icon and columns of each list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche une ligne par liste, dans l&apos;ordre des noms : nom TAB nombre de lignes.
+
+  --json               nom, lignes, icône et colonnes de chaque liste
+</translation>
     </message>
     <message>
         <source>Makes a list and prints nothing. Its first columns are Name and Quantity.
@@ -182,7 +185,17 @@
   --icon N             icon 0 to 42
   --create             makes the data file if there is none
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Crée une liste et n&apos;affiche rien. Ses premières colonnes sont Name et Quantity.
+
+  --column NAME:TYPE   ajoute une colonne ; TYPE est string, checkbox, price,
+                       integer, date ou expiry (qui n&apos;a pas besoin de NAME).
+                       Peut être répété.
+  --warn-count N       avertit des lignes dont la quantité est N ou moins
+  --warn-expiry        avertit des lignes dont la date de péremption est
+                       atteinte
+  --icon N             icône 0 à 42
+  --create             crée le fichier de données s&apos;il n&apos;existe pas
+</translation>
     </message>
     <message>
         <source>  --where CONDITION    only rows that meet it: &quot;COLUMN CONDITION VALUE&quot;, as in
@@ -192,7 +205,15 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  --where CONDITION    seulement les lignes qui la remplissent : « COLUMN
+                       CONDITION VALUE », comme &quot;Name contains tea&quot;, &quot;Quantity
+                       &lt; 3&quot;, &quot;Opened = Checked&quot;. Les conditions sont celles des
+                       filtres, par leurs mots anglais ou = != &gt; &gt;= &lt; &lt;=. Comme
+                       dans les filtres, != sur des textes, nombres et prix
+                       trouve ce que = trouve. Les nombres se lisent comme ils
+                       sont affichés. Peut être répété : toutes doivent être
+                       remplies.
+</translation>
     </message>
     <message>
         <source>Prints a line of column names, then the rows in the order of names, with TAB between
@@ -203,7 +224,16 @@ fields. Control characters in texts are shown as blanks.
   --no-header          without the line of column names
   --json               an object per row; dates as YYYY-MM-DD, missing values as null
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche une ligne de noms de colonnes, puis les lignes dans l&apos;ordre des noms,
+avec TAB entre les champs. Les caractères de contrôle des textes deviennent des
+espaces.
+
+  --sort COLUMN        dans l&apos;ordre croissant d&apos;une colonne
+  --descending         dans l&apos;autre sens
+  --no-header          sans la ligne de noms de colonnes
+  --json               un objet par ligne ; dates en YYYY-MM-DD, valeurs
+                       absentes en null
+</translation>
     </message>
     <message>
         <source>Looks for a text in every column of every list, whatever its case and accents, and prints a
@@ -211,7 +241,12 @@ line per value that has it: list TAB row TAB column TAB value.
 
   --json               list, row, column and text of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Cherche un texte dans toutes les colonnes de toutes les listes, sans égard aux
+majuscules et aux accents, et affiche une ligne par valeur trouvée : liste TAB
+ligne TAB colonne TAB valeur.
+
+  --json               liste, ligne, colonne et texte de chacune
+</translation>
     </message>
     <message>
         <source>Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each
@@ -224,7 +259,19 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
   --all DIR            every list into a folder, which is made if need be: a file for each, as csv
                        unless told otherwise, and lists.json, which tells of them
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit les lignes en texte, comme « Exporter la liste » : UTF-16, TAB entre les
+champs, CR LF après chaque ligne. Sans FILE, ou avec -, sur la sortie standard.
+Un FILE existant est remplacé.
+
+  --dates iso          dates en YYYY-MM-DD, lues partout de la même façon
+  --format NAME        csv ou tsv, une table pour d&apos;autres programmes, en
+                       UTF-8, avec les noms de colonnes en première ligne :
+                       dates en YYYY-MM-DD, point décimal, true et false ;
+                       json, comme l&apos;affiche show ; ou html, une page à lire
+  --all DIR            toutes les listes dans un dossier, créé au besoin : un
+                       fichier pour chacune, en csv sauf indication contraire,
+                       et lists.json qui les décrit
+</translation>
     </message>
     <message>
         <source>Adds a row for each line of a text file, as Import List does, and prints how many came in.
@@ -242,7 +289,27 @@ FILE - is standard input. Each line must end in CR LF, the last one too.
   --create             with --all: makes the data file if there is none
   --dry-run            stores nothing, prints how many rows would come in
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute une ligne pour chaque ligne d&apos;un fichier texte, comme « Importer la
+liste », et affiche combien sont entrées. FILE - est l&apos;entrée standard. Chaque
+ligne doit finir par CR LF, la dernière aussi.
+
+  --columns &quot;A,B&quot;      les colonnes que remplissent les champs d&apos;une ligne ;
+                       les autres suivent dans l&apos;ordre de la liste, qui vaut
+                       aussi sans cette option
+  --encoding NAME      le codage du fichier : utf-8, utf-16 ou le numéro d&apos;une
+                       page de codes comme 1252
+  --format NAME        csv ou tsv, des tables comme les écrit export : la
+                       première ligne nomme des colonnes ; en csv virgule,
+                       point-virgule ou TAB séparent les champs. Toutes les
+                       lignes entrent, ou aucune
+  --match COLUMN       pour une table : modifie la ligne qui a la même valeur
+                       dans cette colonne, et en ajoute une s&apos;il n&apos;y en a pas
+  --all DIR            crée chaque liste que décrit lists.json dans un dossier,
+                       et les affiche
+  --create             avec --all : crée le fichier de données s&apos;il n&apos;existe
+                       pas
+  --dry-run            n&apos;enregistre rien, affiche combien de lignes entreraient
+</translation>
     </message>
     <message>
         <source>Prints a line per total of a number or price column: name TAB total, with a point before
@@ -250,7 +317,11 @@ decimals.
 
   --json               name and total of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche une ligne par total d&apos;une colonne de nombres ou de prix : nom TAB
+total, avec un point décimal.
+
+  --json               nom et total de chacune
+</translation>
     </message>
     <message>
         <source>Prints rows of lists whose warnings are on: list TAB row TAB &quot;low&quot;, &quot;expired&quot; or the date
@@ -266,13 +337,30 @@ on which the row expires.
 
 Exits with 3 if something is due, with 0 if nothing is.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les lignes des listes dont les avertissements sont actifs : liste TAB
+ligne TAB « low », « expired » ou la date de péremption de la ligne.
+
+  --within DAYS        aussi les lignes qui périment dans ce nombre de jours
+  --json               liste, ligne, état et nombre ou date de chacune
+  --ics                affiche plutôt un calendrier de toutes les dates de
+                       péremption, en iCalendar ; avec --within seulement
+                       jusque-là
+  --notify             n&apos;affiche rien, mais montre une fois par jour au plus,
+                       en notification du bureau, ce qui est échu depuis la
+                       dernière fois. La toucher ouvre la liste ; jusque-là, ou
+                       jusqu&apos;à ce qu&apos;elle soit fermée, la commande attend.
+
+Se termine par 3 si quelque chose est échu, par 0 sinon.
+</translation>
     </message>
     <message>
         <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
 Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Active ou désactive une notification chaque matin de ce qui est échu, ou
+affiche si elle est active. Demande systemd, dont le minuteur
+quillory-reminders lance alors « quillory due --notify ».
+</translation>
     </message>
     <message>
         <source>Adds a row with these values and prints 1. Numbers are read as they are shown, a checkbox is
@@ -280,7 +368,11 @@ Checked or Unchecked.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute une ligne avec ces valeurs et affiche 1. Les nombres se lisent comme ils
+sont affichés, une case est Checked ou Unchecked.
+
+  --dry-run            n&apos;enregistre rien
+</translation>
     </message>
     <message>
         <source>Gives all rows that meet the conditions these values, or none of them if one cannot be
@@ -288,7 +380,11 @@ stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Donne ces valeurs à toutes les lignes qui remplissent les conditions, ou à
+aucune si l&apos;une ne peut pas être enregistrée, et affiche combien il y en a.
+
+  --dry-run            n&apos;enregistre rien
+</translation>
     </message>
     <message>
         <source>Counts all rows that meet the conditions up by +N or down by -N, or none of them if one
@@ -296,7 +392,12 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Augmente de +N ou diminue de -N toutes les lignes qui remplissent les
+conditions, ou aucune si l&apos;une ne peut pas être enregistrée, et affiche combien
+il y en a.
+
+  --dry-run            n&apos;enregistre rien
+</translation>
     </message>
     <message>
         <source>Deletes all rows that meet the conditions, or none of them if one cannot be, and prints how
@@ -304,31 +405,45 @@ many there are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Supprime toutes les lignes qui remplissent les conditions, ou aucune si l&apos;une
+ne peut pas l&apos;être, et affiche combien il y en a.
+
+  --dry-run            ne supprime rien
+</translation>
     </message>
     <message>
         <source>Gives a list another name and prints nothing.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Donne un autre nom à une liste et n&apos;affiche rien.
+
+  --dry-run            n&apos;enregistre rien
+</translation>
     </message>
     <message>
         <source>Deletes a list with all its rows and prints how many these are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Supprime une liste avec toutes ses lignes et affiche combien il y en avait.
+
+  --dry-run            ne supprime rien
+</translation>
     </message>
     <message>
         <source>Reads the whole data file. Prints &quot;ok&quot;, or what is wrong and exits with 1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Lit tout le fichier de données. Affiche « ok », ou ce qui ne va pas et se
+termine alors par 1.
+</translation>
     </message>
     <message>
         <source>Writes a consistent copy of the data file, also while it is in use. FILE must not exist.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit une copie cohérente du fichier de données, même pendant qu&apos;il est
+utilisé. FILE ne doit pas exister.
+</translation>
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
@@ -345,11 +460,26 @@ must not exist:
                        is; the data file is only read
   --json               an object per copy and per list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Après chaque exécution qui a modifié des listes ou des lignes du fichier de
+données configuré, une copie en est conservée : les trois dernières, ou autant
+que le dit KeptCopies=0...9 dans les réglages. Elles sont supprimées 90 jours
+après la disparition du fichier.
+
+Sans option, affiche une ligne par copie, la plus récente d&apos;abord : numéro TAB
+heure TAB octets, puis une ligne par liste lisible dans le fichier de données
+lui-même, même endommagé : salvage TAB liste TAB lignes TAB ce qui est perdu.
+Sinon, crée le nouveau fichier de données FILE, qui ne doit pas exister :
+
+  --from N             à partir de la copie N
+  --salvage            à partir de ce qui est encore lisible du fichier de
+                       données, et affiche ce que c&apos;est ; le fichier de données
+                       n&apos;est que lu
+  --json               un objet par copie et par liste
+</translation>
     </message>
     <message>
         <source>none so far</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun pour l&apos;instant</translation>
     </message>
     <message>
         <source>  --data FILE          works on another data file than the configured one (%1)
@@ -359,14 +489,24 @@ groups. Text files are written in UTF-16 behind a byte-order mark, and read in c
 %4 where there is none.
 </source>
         <extracomment>%1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>  --data FILE          travaille sur un autre fichier de données que celui
+                       configuré (%1)
+
+Ici les dates s&apos;écrivent %2 et les nombres %3, mais dans les fichiers texte
+avec un point et sans groupes. Les fichiers texte sont écrits en UTF-16 après
+une marque d&apos;ordre des octets, et lus en page de codes %4 quand il n&apos;y en a
+pas.
+</translation>
     </message>
     <message>
         <source>
 Opens the window, showing LIST if it is named. The commands work without it:
 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ouvre la fenêtre, sur LIST si elle est nommée. Les commandes s&apos;en passent :
+
+</translation>
     </message>
     <message>
         <source>
@@ -374,13 +514,19 @@ Opens the window, showing LIST if it is named. The commands work without it:
   --help               help, on a command if one is named
   --version            the version
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  --new-list           ouvre la fenêtre sur la page d&apos;une nouvelle liste
+  --help               l&apos;aide, sur une commande si elle est nommée
+  --version            la version
+</translation>
     </message>
     <message>
         <source>
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Code de retour : 0 fait, 1 échec, 2 mauvais usage, 3 quelque chose est échu.
+</translation>
     </message>
 </context>
 <context>

@@ -170,7 +170,10 @@
 
   --json               name, rows, icon and columns of each list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa una riga per lista, in ordine di nome: nome TAB numero di righe.
+
+  --json               nome, righe, icona e colonne di ogni lista
+</translation>
     </message>
     <message>
         <source>Makes a list and prints nothing. Its first columns are Name and Quantity.
@@ -182,7 +185,16 @@
   --icon N             icon 0 to 42
   --create             makes the data file if there is none
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Crea una lista e non stampa nulla. Le sue prime colonne sono Name e Quantity.
+
+  --column NAME:TYPE   aggiunge una colonna; TYPE è string, checkbox, price,
+                       integer, date o expiry (che non ha bisogno di NAME). Si
+                       può ripetere.
+  --warn-count N       avvisa delle righe la cui quantità è N o meno
+  --warn-expiry        avvisa delle righe la cui scadenza è arrivata
+  --icon N             icona da 0 a 42
+  --create             crea il file dei dati se non esiste
+</translation>
     </message>
     <message>
         <source>  --where CONDITION    only rows that meet it: &quot;COLUMN CONDITION VALUE&quot;, as in
@@ -192,7 +204,14 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  --where CONDITION    solo le righe che la soddisfano: «COLUMN CONDITION
+                       VALUE», come &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;,
+                       &quot;Opened = Checked&quot;. Le condizioni sono quelle dei
+                       filtri, con le loro parole inglesi o = != &gt; &gt;= &lt; &lt;=.
+                       Come lì, != su testi, numeri e prezzi trova ciò che
+                       trova =. I numeri si leggono come sono mostrati. Si può
+                       ripetere: devono valere tutte.
+</translation>
     </message>
     <message>
         <source>Prints a line of column names, then the rows in the order of names, with TAB between
@@ -203,7 +222,15 @@ fields. Control characters in texts are shown as blanks.
   --no-header          without the line of column names
   --json               an object per row; dates as YYYY-MM-DD, missing values as null
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa una riga con i nomi delle colonne, poi le righe in ordine di nome, con
+TAB tra i campi. I caratteri di controllo nei testi diventano spazi.
+
+  --sort COLUMN        in ordine crescente di una colonna
+  --descending         nell&apos;ordine inverso
+  --no-header          senza la riga dei nomi delle colonne
+  --json               un oggetto per riga; date come YYYY-MM-DD, valori
+                       mancanti come null
+</translation>
     </message>
     <message>
         <source>Looks for a text in every column of every list, whatever its case and accents, and prints a
@@ -211,7 +238,12 @@ line per value that has it: list TAB row TAB column TAB value.
 
   --json               list, row, column and text of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca un testo in tutte le colonne di tutte le liste, senza badare a maiuscole
+e accenti, e stampa una riga per ogni valore che lo contiene: lista TAB riga
+TAB colonna TAB valore.
+
+  --json               lista, riga, colonna e testo di ciascuno
+</translation>
     </message>
     <message>
         <source>Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each
@@ -224,7 +256,19 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
   --all DIR            every list into a folder, which is made if need be: a file for each, as csv
                        unless told otherwise, and lists.json, which tells of them
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive le righe come testo, come «Esporta lista»: UTF-16, TAB tra i campi, CR
+LF dopo ogni riga. Senza FILE, o con -, sullo standard output. Un FILE
+esistente viene sostituito.
+
+  --dates iso          date come YYYY-MM-DD, lette ovunque allo stesso modo
+  --format NAME        csv o tsv, una tabella per altri programmi in UTF-8 con
+                       i nomi delle colonne nella prima riga: date come
+                       YYYY-MM-DD, punto decimale, true e false; json, come lo
+                       stampa show; o html, una pagina da leggere
+  --all DIR            tutte le liste in una cartella, creata se serve: un file
+                       per lista, csv se non è detto altro, e lists.json che le
+                       descrive
+</translation>
     </message>
     <message>
         <source>Adds a row for each line of a text file, as Import List does, and prints how many came in.
@@ -242,7 +286,25 @@ FILE - is standard input. Each line must end in CR LF, the last one too.
   --create             with --all: makes the data file if there is none
   --dry-run            stores nothing, prints how many rows would come in
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunge una riga per ogni riga di un file di testo, come «Importa lista», e
+stampa quante sono entrate. FILE - è lo standard input. Ogni riga deve finire
+con CR LF, anche l&apos;ultima.
+
+  --columns &quot;A,B&quot;      le colonne riempite dai campi di una riga; quelle non
+                       nominate seguono nell&apos;ordine della lista, che vale anche
+                       senza questa opzione
+  --encoding NAME      la codifica del file: utf-8, utf-16 o il numero di una
+                       tabella codici come 1252
+  --format NAME        csv o tsv, tabelle come le scrive export: la prima riga
+                       nomina colonne; in csv i campi sono separati da virgola,
+                       punto e virgola o TAB. Entrano tutte le righe o nessuna
+  --match COLUMN       di una tabella: cambia la riga che ha lo stesso valore
+                       in questa colonna, e ne aggiunge una dove non c&apos;è
+  --all DIR            crea ogni lista descritta da lists.json in una cartella,
+                       e le stampa
+  --create             con --all: crea il file dei dati se non esiste
+  --dry-run            non salva nulla, stampa quante righe entrerebbero
+</translation>
     </message>
     <message>
         <source>Prints a line per total of a number or price column: name TAB total, with a point before
@@ -250,7 +312,11 @@ decimals.
 
   --json               name and total of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa una riga per totale di una colonna di numeri o prezzi: nome TAB totale,
+con il punto decimale.
+
+  --json               nome e totale di ciascuna
+</translation>
     </message>
     <message>
         <source>Prints rows of lists whose warnings are on: list TAB row TAB &quot;low&quot;, &quot;expired&quot; or the date
@@ -266,13 +332,29 @@ on which the row expires.
 
 Exits with 3 if something is due, with 0 if nothing is.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa le righe delle liste con gli avvisi attivi: lista TAB riga TAB «low»,
+«expired» o la data in cui la riga scade.
+
+  --within DAYS        anche le righe che scadono in tanti giorni
+  --json               lista, riga, stato e quantità o data di ciascuna
+  --ics                stampa invece un calendario di tutte le scadenze, come
+                       iCalendar; con --within solo fino ad allora
+  --notify             non stampa nulla, ma mostra al più una volta al giorno,
+                       in una notifica del desktop, ciò che è in scadenza
+                       dall&apos;ultima volta. Toccarla apre la lista; fino ad
+                       allora, o finché non viene chiusa, il comando aspetta.
+
+Termina con 3 se qualcosa è in scadenza, con 0 altrimenti.
+</translation>
     </message>
     <message>
         <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
 Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Attiva o disattiva una notifica ogni mattina di ciò che è in scadenza, o stampa
+se è attiva. Richiede systemd, il cui timer quillory-reminders esegue allora
+«quillory due --notify».
+</translation>
     </message>
     <message>
         <source>Adds a row with these values and prints 1. Numbers are read as they are shown, a checkbox is
@@ -280,7 +362,11 @@ Checked or Unchecked.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunge una riga con questi valori e stampa 1. I numeri si leggono come sono
+mostrati, una casella è Checked o Unchecked.
+
+  --dry-run            non salva nulla
+</translation>
     </message>
     <message>
         <source>Gives all rows that meet the conditions these values, or none of them if one cannot be
@@ -288,7 +374,11 @@ stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Dà questi valori a tutte le righe che soddisfano le condizioni, o a nessuna se
+una non si può salvare, e stampa quante sono.
+
+  --dry-run            non salva nulla
+</translation>
     </message>
     <message>
         <source>Counts all rows that meet the conditions up by +N or down by -N, or none of them if one
@@ -296,7 +386,11 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aumenta di +N o diminuisce di -N tutte le righe che soddisfano le condizioni, o
+nessuna se una non si può salvare, e stampa quante sono.
+
+  --dry-run            non salva nulla
+</translation>
     </message>
     <message>
         <source>Deletes all rows that meet the conditions, or none of them if one cannot be, and prints how
@@ -304,31 +398,44 @@ many there are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina tutte le righe che soddisfano le condizioni, o nessuna se una non si
+può eliminare, e stampa quante sono.
+
+  --dry-run            non elimina nulla
+</translation>
     </message>
     <message>
         <source>Gives a list another name and prints nothing.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Dà un altro nome a una lista e non stampa nulla.
+
+  --dry-run            non salva nulla
+</translation>
     </message>
     <message>
         <source>Deletes a list with all its rows and prints how many these are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina una lista con tutte le sue righe e stampa quante erano.
+
+  --dry-run            non elimina nulla
+</translation>
     </message>
     <message>
         <source>Reads the whole data file. Prints &quot;ok&quot;, or what is wrong and exits with 1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Legge tutto il file dei dati. Stampa «ok», o ciò che non va e termina con 1.
+</translation>
     </message>
     <message>
         <source>Writes a consistent copy of the data file, also while it is in use. FILE must not exist.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Scrive una copia coerente del file dei dati, anche mentre è in uso. FILE non
+deve esistere.
+</translation>
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
@@ -345,11 +452,25 @@ must not exist:
                        is; the data file is only read
   --json               an object per copy and per list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Dopo ogni esecuzione che ha cambiato liste o righe del file dei dati
+configurato se ne conserva una copia: le ultime tre, o quante ne dice
+KeptCopies=0...9 nelle impostazioni. Vengono eliminate 90 giorni dopo la
+scomparsa del file.
+
+Senza opzioni stampa una riga per copia, la più recente per prima: numero TAB
+ora TAB byte, e poi una riga per ogni lista leggibile dal file dei dati stesso,
+anche se è danneggiato: salvage TAB lista TAB righe TAB ciò che è perduto.
+Altrimenti crea il nuovo file dei dati FILE, che non deve esistere:
+
+  --from N             dalla copia N
+  --salvage            da ciò che si può ancora leggere del file dei dati, e
+                       stampa che cos&apos;è; il file dei dati viene solo letto
+  --json               un oggetto per copia e per lista
+</translation>
     </message>
     <message>
         <source>none so far</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno finora</translation>
     </message>
     <message>
         <source>  --data FILE          works on another data file than the configured one (%1)
@@ -359,14 +480,23 @@ groups. Text files are written in UTF-16 behind a byte-order mark, and read in c
 %4 where there is none.
 </source>
         <extracomment>%1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>  --data FILE          lavora su un altro file dei dati invece di quello
+                       configurato (%1)
+
+Qui le date si scrivono %2 e i numeri %3, ma nei file di testo con il punto e
+senza gruppi. I file di testo si scrivono in UTF-16 dopo un segno d&apos;ordine dei
+byte, e si leggono nella tabella codici %4 dove non c&apos;è.
+</translation>
     </message>
     <message>
         <source>
 Opens the window, showing LIST if it is named. The commands work without it:
 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Apre la finestra, su LIST se è nominata. I comandi ne fanno a meno:
+
+</translation>
     </message>
     <message>
         <source>
@@ -374,13 +504,19 @@ Opens the window, showing LIST if it is named. The commands work without it:
   --help               help, on a command if one is named
   --version            the version
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  --new-list           apre la finestra sulla pagina di una nuova lista
+  --help               aiuto, su un comando se è nominato
+  --version            la versione
+</translation>
     </message>
     <message>
         <source>
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Termina con: 0 fatto, 1 errore, 2 uso sbagliato, 3 qualcosa è in scadenza.
+</translation>
     </message>
 </context>
 <context>

@@ -170,7 +170,10 @@
 
   --json               name, rows, icon and columns of each list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>リストごとに 1 行を名前の順に表示します：名前 TAB 行の数。
+
+  --json               各リストの名前、行の数、アイコン、列
+</translation>
     </message>
     <message>
         <source>Makes a list and prints nothing. Its first columns are Name and Quantity.
@@ -182,7 +185,16 @@
   --icon N             icon 0 to 42
   --create             makes the data file if there is none
 </source>
-        <translation type="unfinished"></translation>
+        <translation>リストを作り、何も表示しません。最初の列は Name と Quantity です。
+
+  --column NAME:TYPE   列を加えます。TYPE は string、checkbox、price、integer、
+                       date、expiry のどれかです（expiry に NAME は要りませ
+                       ん）。何度でも指定できます。
+  --warn-count N       数量が N 以下の行を知らせます
+  --warn-expiry        期限が来た行を知らせます
+  --icon N             アイコン 0～42
+  --create             データファイルがなければ作ります
+</translation>
     </message>
     <message>
         <source>  --where CONDITION    only rows that meet it: &quot;COLUMN CONDITION VALUE&quot;, as in
@@ -192,7 +204,13 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  --where CONDITION    条件に合う行だけにします：「COLUMN CONDITION VALUE」。例
+                       ： &quot;Name contains tea&quot;、&quot;Quantity &lt; 3&quot;、&quot;Opened =
+                       Checked&quot;。条件はフィルターと同じで、英語の言葉か = != &gt;
+                       &gt;= &lt; &lt;= で書きます。フィルターと同じく、文字、数、価格で
+                       は != は = と同じ行を見つけます。数は表示のとおりに読み
+                       ます。何度でも指定でき、すべてが成り立つ行になります。
+</translation>
     </message>
     <message>
         <source>Prints a line of column names, then the rows in the order of names, with TAB between
@@ -203,7 +221,15 @@ fields. Control characters in texts are shown as blanks.
   --no-header          without the line of column names
   --json               an object per row; dates as YYYY-MM-DD, missing values as null
 </source>
-        <translation type="unfinished"></translation>
+        <translation>列の名前の行に続けて、行を名前の順に TAB 区切りで表示します。文字の中の制御文字
+は空白になります。
+
+  --sort COLUMN        列の昇順にします
+  --descending         逆の順にします
+  --no-header          列の名前の行を省きます
+  --json               行ごとに 1 つのオブジェクト。日付は YYYY-MM-DD、値がなけ
+                       れば null
+</translation>
     </message>
     <message>
         <source>Looks for a text in every column of every list, whatever its case and accents, and prints a
@@ -211,7 +237,11 @@ line per value that has it: list TAB row TAB column TAB value.
 
   --json               list, row, column and text of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのリストのすべての列から文字を探し、見つかった値ごとに 1 行を表示します：
+リスト TAB 行 TAB 列 TAB 値。大文字と小文字、アクセントは区別しません。
+
+  --json               それぞれのリスト、行、列、文字
+</translation>
     </message>
     <message>
         <source>Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each
@@ -224,7 +254,17 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
   --all DIR            every list into a folder, which is made if need be: a file for each, as csv
                        unless told otherwise, and lists.json, which tells of them
 </source>
-        <translation type="unfinished"></translation>
+        <translation>「リストを書き出す」と同じように行を文字で書きます：UTF-16、TAB 区切り、行末は
+CR LF。FILE がないか - なら標準出力に書きます。既にある FILE は置き換えます。
+
+  --dates iso          日付を YYYY-MM-DD にします。どこでも同じに読めます
+  --format NAME        csv か tsv：ほかのプログラム用の UTF-8 の表で、1 行目は
+                       列の名前、日付は YYYY-MM-DD、小数点は点、true と false。
+                       json：show と同じ。html：読むためのページ
+  --all DIR            すべてのリストをフォルダーに書きます（なければ作ります）
+                       ：リストごとに 1 ファイル（指定がなければ csv）と、その
+                       内容を示す lists.json
+</translation>
     </message>
     <message>
         <source>Adds a row for each line of a text file, as Import List does, and prints how many came in.
@@ -242,7 +282,23 @@ FILE - is standard input. Each line must end in CR LF, the last one too.
   --create             with --all: makes the data file if there is none
   --dry-run            stores nothing, prints how many rows would come in
 </source>
-        <translation type="unfinished"></translation>
+        <translation>「リストを読み込む」と同じようにテキストファイルの 1 行ごとに行を加え、加えた数
+を表示します。FILE が - なら標準入力です。最後の行も含め、どの行も CR LF で終わ
+る必要があります。
+
+  --columns &quot;A,B&quot;      1 行の各項目が入る列。ここにない列はリストの順に続きま
+                       す。この指定がなければリストの順です
+  --encoding NAME      ファイルの文字コード：utf-8、utf-16、または 1252 のよう
+                       なコードページの番号
+  --format NAME        csv か tsv：export が書く表。1 行目は列の名前。csv の区
+                       切りはコンマ、セミコロン、TAB のどれか。すべての行が入る
+                       か、1 行も入りません
+  --match COLUMN       表の場合：この列の値が同じ行を変更し、なければ加えます
+  --all DIR            フォルダーの lists.json が示すリストをすべて作り、表示し
+                       ます
+  --create             --all と使います：データファイルがなければ作ります
+  --dry-run            保存せず、加わるはずの行の数を表示します
+</translation>
     </message>
     <message>
         <source>Prints a line per total of a number or price column: name TAB total, with a point before
@@ -250,7 +306,10 @@ decimals.
 
   --json               name and total of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>数か価格の列の合計ごとに 1 行を表示します：名前 TAB 合計（小数点は点）。
+
+  --json               それぞれの名前と合計
+</translation>
     </message>
     <message>
         <source>Prints rows of lists whose warnings are on: list TAB row TAB &quot;low&quot;, &quot;expired&quot; or the date
@@ -266,13 +325,27 @@ on which the row expires.
 
 Exits with 3 if something is due, with 0 if nothing is.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>通知が有効なリストの行を表示します：リスト TAB 行 TAB「low」、「expired」または
+期限の日付。
+
+  --within DAYS        この日数のうちに期限が来る行も含めます
+  --json               それぞれのリスト、行、状態、数量または日付
+  --ics                代わりに、すべての期限のカレンダーを iCalendar で表示し
+                       ます。--within があればその日までです
+  --notify             何も表示せず、前回から新たに対象になったものを 1 日に 1
+                       回まで通知します。通知をタップするとリストが開きます。そ
+                       れまで、または通知を閉じるまで待ちます。
+
+対象があれば 3、なければ 0 で終わります。
+</translation>
     </message>
     <message>
         <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
 Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>毎朝の通知を on か off にするか、有効かどうかを表示します。systemd が必要で、そ
+のタイマー quillory-reminders が「quillory due --notify」を実行します。
+</translation>
     </message>
     <message>
         <source>Adds a row with these values and prints 1. Numbers are read as they are shown, a checkbox is
@@ -280,7 +353,11 @@ Checked or Unchecked.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>これらの値の行を加えて 1 を表示します。数は表示のとおりに読みます。チェックは
+Checked か Unchecked です。
+
+  --dry-run            何も保存しません
+</translation>
     </message>
     <message>
         <source>Gives all rows that meet the conditions these values, or none of them if one cannot be
@@ -288,7 +365,11 @@ stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>条件に合うすべての行にこれらの値を入れ、その数を表示します。1 行でも保存できな
+ければ、どの行も変えません。
+
+  --dry-run            何も保存しません
+</translation>
     </message>
     <message>
         <source>Counts all rows that meet the conditions up by +N or down by -N, or none of them if one
@@ -296,7 +377,11 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>条件に合うすべての行の数量を +N 増やすか -N 減らし、その数を表示します。1 行で
+も保存できなければ、どの行も変えません。
+
+  --dry-run            何も保存しません
+</translation>
     </message>
     <message>
         <source>Deletes all rows that meet the conditions, or none of them if one cannot be, and prints how
@@ -304,31 +389,45 @@ many there are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>条件に合うすべての行を削除し、その数を表示します。1 行でも削除できなければ、ど
+の行も削除しません。
+
+  --dry-run            何も削除しません
+</translation>
     </message>
     <message>
         <source>Gives a list another name and prints nothing.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>リストに別の名前を付け、何も表示しません。
+
+  --dry-run            何も保存しません
+</translation>
     </message>
     <message>
         <source>Deletes a list with all its rows and prints how many these are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>リストをすべての行ごと削除し、その数を表示します。
+
+  --dry-run            何も削除しません
+</translation>
     </message>
     <message>
         <source>Reads the whole data file. Prints &quot;ok&quot;, or what is wrong and exits with 1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>データファイル全体を読みます。「ok」と表示するか、問題を表示して 1 で終わりま
+す。
+</translation>
     </message>
     <message>
         <source>Writes a consistent copy of the data file, also while it is in use. FILE must not exist.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>データファイルの整ったコピーを書きます。使用中でもかまいません。FILE があっては
+いけません。
+</translation>
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
@@ -345,11 +444,24 @@ must not exist:
                        is; the data file is only read
   --json               an object per copy and per list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>設定されたデータファイルのリストか行を変えるたびに、実行の終わりにコピーを保管
+します：最新の 3 つ、または設定の KeptCopies=0...9 の数だけです。ファイルがなく
+なって 90 日たつと削除します。
+
+オプションがなければ、コピーごとに 1 行を新しい順に表示します：番号 TAB 時刻
+TAB バイト数。続けて、壊れていてもデータファイルから読み取れるリストごとに 1 行
+を表示します：salvage TAB リスト TAB 行の数 TAB 失われたもの。オプションがあれ
+ば新しいデータファイル FILE を作ります。FILE があってはいけません：
+
+  --from N             コピー N から作ります
+  --salvage            データファイルから読み取れるものから作り、それを表示しま
+                       す。データファイルは読むだけです
+  --json               コピーごと、リストごとに 1 つのオブジェクト
+</translation>
     </message>
     <message>
         <source>none so far</source>
-        <translation type="unfinished"></translation>
+        <translation>まだありません</translation>
     </message>
     <message>
         <source>  --data FILE          works on another data file than the configured one (%1)
@@ -359,14 +471,23 @@ groups. Text files are written in UTF-16 behind a byte-order mark, and read in c
 %4 where there is none.
 </source>
         <extracomment>%1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>  --data FILE          設定されたものとは別のデータファイルを使います（%1）
+
+ここでは日付は %2、数は %3 のように書きますが、テキストファイルでは小数点は点
+で、桁区切りはありません。テキストファイルはバイト順マーク付きの UTF-16 で書
+き、マークがなければコードページ %4 で読みます。
+</translation>
     </message>
     <message>
         <source>
 Opens the window, showing LIST if it is named. The commands work without it:
 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+ウィンドウを開きます。LIST があればそれを表示します。次のコマンドはウィンドウな
+しで動きます：
+
+</translation>
     </message>
     <message>
         <source>
@@ -374,13 +495,19 @@ Opens the window, showing LIST if it is named. The commands work without it:
   --help               help, on a command if one is named
   --version            the version
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  --new-list           新しいリストのページでウィンドウを開きます
+  --help               ヘルプ。コマンドがあればその説明
+  --version            バージョン
+</translation>
     </message>
     <message>
         <source>
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+終了コード：0 完了、1 失敗、2 使い方の誤り、3 対象あり。
+</translation>
     </message>
 </context>
 <context>

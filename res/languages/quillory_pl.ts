@@ -170,7 +170,10 @@
 
   --json               name, rows, icon and columns of each list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Wypisuje wiersz na listę, w kolejności nazw: nazwa TAB liczba wierszy.
+
+  --json               nazwa, wiersze, ikona i kolumny każdej listy
+</translation>
     </message>
     <message>
         <source>Makes a list and prints nothing. Its first columns are Name and Quantity.
@@ -182,7 +185,16 @@
   --icon N             icon 0 to 42
   --create             makes the data file if there is none
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Tworzy listę i nic nie wypisuje. Jej pierwsze kolumny to Name i Quantity.
+
+  --column NAME:TYPE   dodaje kolumnę; TYPE to string, checkbox, price,
+                       integer, date lub expiry (które nie potrzebuje NAME).
+                       Można podać kilka razy.
+  --warn-count N       ostrzega o wierszach, których ilość to N lub mniej
+  --warn-expiry        ostrzega o wierszach, których termin ważności minął
+  --icon N             ikona od 0 do 42
+  --create             tworzy plik danych, jeśli go nie ma
+</translation>
     </message>
     <message>
         <source>  --where CONDITION    only rows that meet it: &quot;COLUMN CONDITION VALUE&quot;, as in
@@ -192,7 +204,14 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  --where CONDITION    tylko wiersze, które go spełniają: „COLUMN CONDITION
+                       VALUE”, jak &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened
+                       = Checked&quot;. Warunki są te same co w filtrach,
+                       angielskimi słowami lub jako = != &gt; &gt;= &lt; &lt;=. Tak jak
+                       tam, != w tekstach, liczbach i cenach znajduje to, co =.
+                       Liczby czyta się tak, jak są pokazywane. Można podać
+                       kilka razy: wszystkie muszą być spełnione.
+</translation>
     </message>
     <message>
         <source>Prints a line of column names, then the rows in the order of names, with TAB between
@@ -203,7 +222,15 @@ fields. Control characters in texts are shown as blanks.
   --no-header          without the line of column names
   --json               an object per row; dates as YYYY-MM-DD, missing values as null
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Wypisuje wiersz z nazwami kolumn, a potem wiersze w kolejności nazw, z TAB
+między polami. Znaki sterujące w tekstach stają się odstępami.
+
+  --sort COLUMN        rosnąco według kolumny
+  --descending         w odwrotnej kolejności
+  --no-header          bez wiersza z nazwami kolumn
+  --json               obiekt na wiersz; daty jako YYYY-MM-DD, brakujące
+                       wartości jako null
+</translation>
     </message>
     <message>
         <source>Looks for a text in every column of every list, whatever its case and accents, and prints a
@@ -211,7 +238,12 @@ line per value that has it: list TAB row TAB column TAB value.
 
   --json               list, row, column and text of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Szuka tekstu we wszystkich kolumnach wszystkich list, bez względu na wielkość
+liter i znaki diakrytyczne, i wypisuje wiersz na każdą wartość, która go ma:
+lista TAB wiersz TAB kolumna TAB wartość.
+
+  --json               lista, wiersz, kolumna i tekst każdej z nich
+</translation>
     </message>
     <message>
         <source>Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each
@@ -224,7 +256,19 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
   --all DIR            every list into a folder, which is made if need be: a file for each, as csv
                        unless told otherwise, and lists.json, which tells of them
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuje wiersze jako tekst, tak jak „Eksportuj listę”: UTF-16, TAB między
+polami, CR LF po każdym wierszu. Bez FILE lub z - na standardowe wyjście.
+Istniejący FILE zostaje zastąpiony.
+
+  --dates iso          daty jako YYYY-MM-DD, wszędzie czytane tak samo
+  --format NAME        csv lub tsv, tabela dla innych programów w UTF-8 z
+                       nazwami kolumn w pierwszym wierszu: daty jako
+                       YYYY-MM-DD, kropka dziesiętna, true i false; json, jak
+                       wypisuje show; lub html, strona do czytania
+  --all DIR            wszystkie listy do katalogu, tworzonego w razie
+                       potrzeby: plik na listę, csv, jeśli nie podano inaczej,
+                       i lists.json, który je opisuje
+</translation>
     </message>
     <message>
         <source>Adds a row for each line of a text file, as Import List does, and prints how many came in.
@@ -242,7 +286,25 @@ FILE - is standard input. Each line must end in CR LF, the last one too.
   --create             with --all: makes the data file if there is none
   --dry-run            stores nothing, prints how many rows would come in
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaje wiersz za każdy wiersz pliku tekstowego, tak jak „Importuj listę”, i
+wypisuje, ile ich jest. FILE - to standardowe wejście. Każdy wiersz musi się
+kończyć przez CR LF, ostatni też.
+
+  --columns &quot;A,B&quot;      kolumny, które wypełniają pola wiersza; niewymienione
+                       następują w kolejności listy, która obowiązuje też bez
+                       tej opcji
+  --encoding NAME      kodowanie pliku: utf-8, utf-16 lub numer strony kodowej,
+                       jak 1252
+  --format NAME        csv lub tsv, tabele takie, jak zapisuje export: pierwszy
+                       wiersz nazywa kolumny; w csv pola dzieli przecinek,
+                       średnik lub TAB. Wchodzą wszystkie wiersze albo żaden
+  --match COLUMN       w tabeli: zmienia wiersz, który ma w tej kolumnie tę
+                       samą wartość, a gdzie go nie ma, dodaje nowy
+  --all DIR            tworzy każdą listę opisaną przez lists.json w katalogu i
+                       je wypisuje
+  --create             z --all: tworzy plik danych, jeśli go nie ma
+  --dry-run            nic nie zapisuje, wypisuje, ile wierszy by weszło
+</translation>
     </message>
     <message>
         <source>Prints a line per total of a number or price column: name TAB total, with a point before
@@ -250,7 +312,11 @@ decimals.
 
   --json               name and total of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Wypisuje wiersz na sumę kolumny liczb lub cen: nazwa TAB suma, z kropką
+dziesiętną.
+
+  --json               nazwa i suma każdej z nich
+</translation>
     </message>
     <message>
         <source>Prints rows of lists whose warnings are on: list TAB row TAB &quot;low&quot;, &quot;expired&quot; or the date
@@ -266,13 +332,29 @@ on which the row expires.
 
 Exits with 3 if something is due, with 0 if nothing is.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Wypisuje wiersze list z włączonymi ostrzeżeniami: lista TAB wiersz TAB „low”,
+„expired” lub data, z którą kończy się ważność.
+
+  --within DAYS        także wiersze, których ważność skończy się za tyle dni
+  --json               lista, wiersz, stan i ilość lub data każdego z nich
+  --ics                wypisuje zamiast tego kalendarz wszystkich terminów jako
+                       iCalendar; z --within tylko do wtedy
+  --notify             nic nie wypisuje, lecz najwyżej raz dziennie pokazuje w
+                       powiadomieniu pulpitu, co stało się pilne od ostatniego
+                       razu. Dotknięcie otwiera listę; do tej chwili lub do
+                       zamknięcia polecenie czeka.
+
+Kończy się przez 3, jeśli coś jest pilne, inaczej przez 0.
+</translation>
     </message>
     <message>
         <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
 Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Włącza lub wyłącza poranne powiadomienie o tym, co pilne, albo wypisuje, czy
+jest włączone. Wymaga systemd, którego zegar quillory-reminders uruchamia wtedy
+„quillory due --notify”.
+</translation>
     </message>
     <message>
         <source>Adds a row with these values and prints 1. Numbers are read as they are shown, a checkbox is
@@ -280,7 +362,11 @@ Checked or Unchecked.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaje wiersz z tymi wartościami i wypisuje 1. Liczby czyta się tak, jak są
+pokazywane, pole wyboru to Checked lub Unchecked.
+
+  --dry-run            nic nie zapisuje
+</translation>
     </message>
     <message>
         <source>Gives all rows that meet the conditions these values, or none of them if one cannot be
@@ -288,7 +374,11 @@ stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Nadaje te wartości wszystkim wierszom, które spełniają warunki, albo żadnemu,
+jeśli któregoś nie da się zapisać, i wypisuje, ile ich jest.
+
+  --dry-run            nic nie zapisuje
+</translation>
     </message>
     <message>
         <source>Counts all rows that meet the conditions up by +N or down by -N, or none of them if one
@@ -296,7 +386,11 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Zwiększa o +N lub zmniejsza o -N wszystkie wiersze, które spełniają warunki,
+albo żadnego, jeśli któregoś nie da się zapisać, i wypisuje, ile ich jest.
+
+  --dry-run            nic nie zapisuje
+</translation>
     </message>
     <message>
         <source>Deletes all rows that meet the conditions, or none of them if one cannot be, and prints how
@@ -304,31 +398,45 @@ many there are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Usuwa wszystkie wiersze, które spełniają warunki, albo żadnego, jeśli któregoś
+nie da się usunąć, i wypisuje, ile ich jest.
+
+  --dry-run            nic nie usuwa
+</translation>
     </message>
     <message>
         <source>Gives a list another name and prints nothing.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Nadaje liście inną nazwę i nic nie wypisuje.
+
+  --dry-run            nic nie zapisuje
+</translation>
     </message>
     <message>
         <source>Deletes a list with all its rows and prints how many these are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Usuwa listę ze wszystkimi wierszami i wypisuje, ile ich było.
+
+  --dry-run            nic nie usuwa
+</translation>
     </message>
     <message>
         <source>Reads the whole data file. Prints &quot;ok&quot;, or what is wrong and exits with 1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Czyta cały plik danych. Wypisuje „ok” albo co jest nie tak i kończy się wtedy
+przez 1.
+</translation>
     </message>
     <message>
         <source>Writes a consistent copy of the data file, also while it is in use. FILE must not exist.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuje spójną kopię pliku danych, także gdy jest on w użyciu. FILE nie może
+istnieć.
+</translation>
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
@@ -345,11 +453,24 @@ must not exist:
                        is; the data file is only read
   --json               an object per copy and per list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Po każdym uruchomieniu, które zmieniło listy lub wiersze ustawionego pliku
+danych, zachowywana jest jego kopia: trzy ostatnie lub tyle, ile mówi
+KeptCopies=0...9 w ustawieniach. Znikają 90 dni po tym, jak zniknie plik.
+
+Bez opcji wypisuje wiersz na kopię, od najnowszej: numer TAB czas TAB bajty, a
+potem wiersz na listę, którą da się odczytać z samego pliku danych, nawet
+uszkodzonego: salvage TAB lista TAB wiersze TAB co przepadło. W przeciwnym
+razie tworzy nowy plik danych FILE, który nie może istnieć:
+
+  --from N             z kopii N
+  --salvage            z tego, co da się jeszcze odczytać z pliku danych, i
+                       wypisuje, co to jest; plik danych jest tylko czytany
+  --json               obiekt na kopię i na listę
+</translation>
     </message>
     <message>
         <source>none so far</source>
-        <translation type="unfinished"></translation>
+        <translation>na razie brak</translation>
     </message>
     <message>
         <source>  --data FILE          works on another data file than the configured one (%1)
@@ -359,14 +480,22 @@ groups. Text files are written in UTF-16 behind a byte-order mark, and read in c
 %4 where there is none.
 </source>
         <extracomment>%1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>  --data FILE          pracuje na innym pliku danych niż ustawiony (%1)
+
+Tutaj daty pisze się %2, a liczby %3, lecz w plikach tekstowych z kropką i bez
+grup. Pliki tekstowe zapisuje się w UTF-16 po znaczniku kolejności bajtów, a
+czyta w stronie kodowej %4, gdy go nie ma.
+</translation>
     </message>
     <message>
         <source>
 Opens the window, showing LIST if it is named. The commands work without it:
 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Otwiera okno z listą LIST, jeśli ją podano. Polecenia działają bez niego:
+
+</translation>
     </message>
     <message>
         <source>
@@ -374,13 +503,19 @@ Opens the window, showing LIST if it is named. The commands work without it:
   --help               help, on a command if one is named
   --version            the version
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  --new-list           otwiera okno na stronie nowej listy
+  --help               pomoc, o poleceniu, jeśli je podano
+  --version            wersja
+</translation>
     </message>
     <message>
         <source>
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Kończy się przez: 0 zrobione, 1 błąd, 2 złe użycie, 3 coś jest pilne.
+</translation>
     </message>
 </context>
 <context>

@@ -170,7 +170,10 @@
 
   --json               name, rows, icon and columns of each list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Skriver en rad per lista, i namnordning: namn TAB antal rader.
+
+  --json               namn, rader, ikon och kolumner för varje lista
+</translation>
     </message>
     <message>
         <source>Makes a list and prints nothing. Its first columns are Name and Quantity.
@@ -182,7 +185,16 @@
   --icon N             icon 0 to 42
   --create             makes the data file if there is none
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Skapar en lista och skriver inget. De första kolumnerna är Name och Quantity.
+
+  --column NAME:TYPE   lägger till en kolumn; TYPE är string, checkbox, price,
+                       integer, date eller expiry (som inte behöver NAME). Får
+                       anges flera gånger.
+  --warn-count N       varnar för rader vars antal är N eller mindre
+  --warn-expiry        varnar för rader vars bäst före-datum är nått
+  --icon N             ikon 0 till 42
+  --create             skapar datafilen om den inte finns
+</translation>
     </message>
     <message>
         <source>  --where CONDITION    only rows that meet it: &quot;COLUMN CONDITION VALUE&quot;, as in
@@ -192,7 +204,13 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  --where CONDITION    bara rader som uppfyller det: ”COLUMN CONDITION VALUE”,
+                       som i &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened =
+                       Checked&quot;. Villkoren är filtrens, med deras engelska ord
+                       eller = != &gt; &gt;= &lt; &lt;=. Som där hittar != i text, tal och
+                       priser samma som =. Tal läses som de visas. Får anges
+                       flera gånger: alla måste gälla.
+</translation>
     </message>
     <message>
         <source>Prints a line of column names, then the rows in the order of names, with TAB between
@@ -203,7 +221,15 @@ fields. Control characters in texts are shown as blanks.
   --no-header          without the line of column names
   --json               an object per row; dates as YYYY-MM-DD, missing values as null
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Skriver en rad med kolumnnamn och sedan raderna i namnordning, med TAB mellan
+fälten. Styrtecken i texter visas som mellanslag.
+
+  --sort COLUMN        i stigande ordning efter en kolumn
+  --descending         i omvänd ordning
+  --no-header          utan raden med kolumnnamn
+  --json               ett objekt per rad; datum som YYYY-MM-DD, saknade värden
+                       som null
+</translation>
     </message>
     <message>
         <source>Looks for a text in every column of every list, whatever its case and accents, and prints a
@@ -211,7 +237,12 @@ line per value that has it: list TAB row TAB column TAB value.
 
   --json               list, row, column and text of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Söker en text i alla kolumner i alla listor, utan hänsyn till versaler och
+accenter, och skriver en rad per värde som har den: lista TAB rad TAB kolumn
+TAB värde.
+
+  --json               lista, rad, kolumn och text för varje
+</translation>
     </message>
     <message>
         <source>Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each
@@ -224,7 +255,19 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
   --all DIR            every list into a folder, which is made if need be: a file for each, as csv
                        unless told otherwise, and lists.json, which tells of them
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Skriver raderna som text, som ”Exportera lista”: UTF-16, TAB mellan fälten, CR
+LF efter varje rad. Utan FILE, eller med -, till standard ut. En FILE som finns
+ersätts.
+
+  --dates iso          datum som YYYY-MM-DD, som läses lika överallt
+  --format NAME        csv eller tsv, en tabell för andra program i UTF-8 med
+                       kolumnnamnen på första raden: datum som YYYY-MM-DD,
+                       decimalpunkt, true och false; json, som show skriver
+                       det; eller html, en sida att läsa
+  --all DIR            alla listor till en mapp, som skapas vid behov: en fil
+                       för varje, csv om inget annat sägs, och lists.json som
+                       beskriver dem
+</translation>
     </message>
     <message>
         <source>Adds a row for each line of a text file, as Import List does, and prints how many came in.
@@ -242,7 +285,26 @@ FILE - is standard input. Each line must end in CR LF, the last one too.
   --create             with --all: makes the data file if there is none
   --dry-run            stores nothing, prints how many rows would come in
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Lägger till en rad för varje rad i en textfil, som ”Importera lista”, och
+skriver hur många som kom in. FILE - är standard in. Varje rad måste sluta med
+CR LF, den sista också.
+
+  --columns &quot;A,B&quot;      kolumnerna som radens fält fyller; de som inte nämns
+                       följer i listans ordning, som också gäller utan det här
+                       alternativet
+  --encoding NAME      filens kodning: utf-8, utf-16 eller numret på en
+                       teckentabell som 1252
+  --format NAME        csv eller tsv, tabeller som export skriver dem: första
+                       raden namnger kolumner; i csv skiljer komma, semikolon
+                       eller TAB fälten åt. Alla rader kommer in, eller ingen
+  --match COLUMN       för en tabell: ändrar raden som har samma värde i den
+                       här kolumnen och lägger till en där ingen har det
+  --all DIR            skapar varje lista som lists.json i en mapp beskriver,
+                       och skriver ut dem
+  --create             med --all: skapar datafilen om den inte finns
+  --dry-run            sparar inget, skriver hur många rader som skulle komma
+                       in
+</translation>
     </message>
     <message>
         <source>Prints a line per total of a number or price column: name TAB total, with a point before
@@ -250,7 +312,11 @@ decimals.
 
   --json               name and total of each
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Skriver en rad per summa av en tal- eller priskolumn: namn TAB summa, med
+decimalpunkt.
+
+  --json               namn och summa för varje
+</translation>
     </message>
     <message>
         <source>Prints rows of lists whose warnings are on: list TAB row TAB &quot;low&quot;, &quot;expired&quot; or the date
@@ -266,13 +332,29 @@ on which the row expires.
 
 Exits with 3 if something is due, with 0 if nothing is.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Skriver rader i listor vars varningar är på: lista TAB rad TAB ”low”, ”expired”
+eller datumet då raden går ut.
+
+  --within DAYS        också rader som går ut inom så många dagar
+  --json               lista, rad, läge och antal eller datum för varje
+  --ics                skriver i stället en kalender med alla bäst före-datum,
+                       som iCalendar; med --within bara till dess
+  --notify             skriver inget, men visar högst en gång om dagen, som en
+                       avisering på skrivbordet, vad som har tillkommit sedan
+                       sist. Ett tryck på den öppnar listan; till dess, eller
+                       tills den stängs, väntar kommandot.
+
+Slutar med 3 om något är aktuellt, annars med 0.
+</translation>
     </message>
     <message>
         <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
 Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Slår på eller av en avisering varje morgon om det som är aktuellt, eller
+skriver om den är på. Behöver systemd, vars timer quillory-reminders då kör
+”quillory due --notify”.
+</translation>
     </message>
     <message>
         <source>Adds a row with these values and prints 1. Numbers are read as they are shown, a checkbox is
@@ -280,7 +362,11 @@ Checked or Unchecked.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Lägger till en rad med de här värdena och skriver 1. Tal läses som de visas, en
+kryssruta är Checked eller Unchecked.
+
+  --dry-run            sparar inget
+</translation>
     </message>
     <message>
         <source>Gives all rows that meet the conditions these values, or none of them if one cannot be
@@ -288,7 +374,11 @@ stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Ger alla rader som uppfyller villkoren de här värdena, eller ingen om en inte
+kan sparas, och skriver hur många de är.
+
+  --dry-run            sparar inget
+</translation>
     </message>
     <message>
         <source>Counts all rows that meet the conditions up by +N or down by -N, or none of them if one
@@ -296,7 +386,11 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Räknar upp alla rader som uppfyller villkoren med +N eller ner med -N, eller
+ingen om en inte kan sparas, och skriver hur många de är.
+
+  --dry-run            sparar inget
+</translation>
     </message>
     <message>
         <source>Deletes all rows that meet the conditions, or none of them if one cannot be, and prints how
@@ -304,31 +398,44 @@ many there are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Tar bort alla rader som uppfyller villkoren, eller ingen om en inte kan tas
+bort, och skriver hur många de är.
+
+  --dry-run            tar inte bort något
+</translation>
     </message>
     <message>
         <source>Gives a list another name and prints nothing.
 
   --dry-run            stores nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Ger en lista ett annat namn och skriver inget.
+
+  --dry-run            sparar inget
+</translation>
     </message>
     <message>
         <source>Deletes a list with all its rows and prints how many these are.
 
   --dry-run            deletes nothing
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Tar bort en lista med alla rader och skriver hur många de var.
+
+  --dry-run            tar inte bort något
+</translation>
     </message>
     <message>
         <source>Reads the whole data file. Prints &quot;ok&quot;, or what is wrong and exits with 1.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Läser hela datafilen. Skriver ”ok”, eller vad som är fel och slutar då med 1.
+</translation>
     </message>
     <message>
         <source>Writes a consistent copy of the data file, also while it is in use. FILE must not exist.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Skriver en följdriktig kopia av datafilen, också medan den används. FILE får
+inte finnas.
+</translation>
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
@@ -345,11 +452,24 @@ must not exist:
                        is; the data file is only read
   --json               an object per copy and per list
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Efter varje körning som ändrade listor eller rader i den inställda datafilen
+sparas en kopia: de tre senaste, eller så många som KeptCopies=0...9 i
+inställningarna säger. De tas bort 90 dagar efter att filen har försvunnit.
+
+Utan alternativ skrivs en rad per kopia, den nyaste först: nummer TAB tid TAB
+byte, och sedan en rad per lista som kan läsas ur själva datafilen, också om
+den är skadad: salvage TAB lista TAB rader TAB vad som gått förlorat. Annars
+skapas den nya datafilen FILE, som inte får finnas:
+
+  --from N             ur kopia N
+  --salvage            ur det som ännu kan läsas av datafilen, och skriver vad
+                       det är; datafilen bara läses
+  --json               ett objekt per kopia och per lista
+</translation>
     </message>
     <message>
         <source>none so far</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen än</translation>
     </message>
     <message>
         <source>  --data FILE          works on another data file than the configured one (%1)
@@ -359,14 +479,22 @@ groups. Text files are written in UTF-16 behind a byte-order mark, and read in c
 %4 where there is none.
 </source>
         <extracomment>%1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>  --data FILE          arbetar med en annan datafil än den inställda (%1)
+
+Här skrivs datum %2 och tal %3, men i textfiler med punkt och utan gruppering.
+Textfiler skrivs i UTF-16 efter en byteordningsmarkering, och läses i
+teckentabell %4 där ingen finns.
+</translation>
     </message>
     <message>
         <source>
 Opens the window, showing LIST if it is named. The commands work without it:
 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Öppnar fönstret, med LIST om den nämns. Kommandona klarar sig utan det:
+
+</translation>
     </message>
     <message>
         <source>
@@ -374,13 +502,19 @@ Opens the window, showing LIST if it is named. The commands work without it:
   --help               help, on a command if one is named
   --version            the version
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  --new-list           öppnar fönstret med sidan för en ny lista
+  --help               hjälp, om ett kommando om det nämns
+  --version            versionen
+</translation>
     </message>
     <message>
         <source>
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Slutar med: 0 klart, 1 misslyckat, 2 fel anrop, 3 något är aktuellt.
+</translation>
     </message>
 </context>
 <context>
