@@ -179,9 +179,11 @@ private Q_SLOTS:
                     QDebug(&cut.emplace_back()) << page.name << size << control;
             }
         }
+        QWidget window;
+        ApplyWindowStyle(&window);
         for (const MenuId id : { MenuId::Main, MenuId::Columns, MenuId::Rows, MenuId::ListContext,
                  MenuId::RowContext, MenuId::Filters }) {
-            QMenu menu;
+            QMenu menu(&window);
             for (const MenuEntry& entry : MenuEntries(id))
                 menu.addAction(entry.Text());
             if (menu.sizeHint().width() > 240)
