@@ -31,7 +31,7 @@ _quillory() {
                 word=${COMP_WORDS[++i]}
                 data=(--data "${word/#\~\//$HOME/}")
                 ;;
-            --all | --column | --columns | --encoding | --format | --from | --icon | --match | --sort \
+            --all | --column | --columns | --dates | --encoding | --format | --from | --icon | --match | --sort \
                 | --warn-count | --where | --within) ((++i)) ;;
             -*) ;;
             *)
@@ -53,6 +53,10 @@ _quillory() {
             ;;
         --encoding)
             _quillory_offer <<<$'utf-8\nutf-16'
+            return
+            ;;
+        --dates)
+            _quillory_offer <<<iso
             return
             ;;
         --format)
