@@ -114,8 +114,9 @@ void DataFileOpener::OfferSalvage()
     for (const SalvageReport::List& list : report->lists)
         rows += list.rows;
     const QString question = report->wasChangedOutside
-        ? tr("Another program has written into the data file. What it holds now: %1, %2.\n\nDo "
-             "you want to go on with that? It is written to a new file; the old one stays as it is.")
+        ? tr(
+            "Another program has written into the data file. What it holds now: %1, %2.\n\nDo "
+            "you want to go on with that? It is written to a new file; the old one stays as it is.")
         : tr("What can still be read of the damaged file: %1, %2.\n\nDo you want to go on with "
              "that? It is written to a new file; the damaged one stays as it is.");
     AskToRestore(

@@ -97,7 +97,7 @@ void HomeList::BuildView()
     // Not in the viewport, which moves what lies in it when it scrolls.
     m_help = MakeHelpButton(header);
     auto* end = new QHBoxLayout(header);
-    end->setContentsMargins(0, 0, 2 * kGrid, 0);
+    end->setContentsMargins(LineMargins(0, 2 * kGrid, layoutDirection()));
     end->addStretch(1);
     end->addWidget(m_help);
     Body()->addWidget(m_view);

@@ -23,8 +23,8 @@ void ReportImport(const CommandRun& run, const ImportOutcome& outcome)
     if (!outcome.ambiguousDate.isEmpty())
         Complain(run.environment.errors,
             u"dates such as %1 were read as %2; \"export --dates iso\" writes dates that are read "
-            "alike everywhere"_s.arg(outcome.ambiguousDate,
-                run.environment.context.userLocale.shortDatePicture));
+            "alike everywhere"_s.arg(
+                outcome.ambiguousDate, run.environment.context.userLocale.shortDatePicture));
     if (outcome.writeError != ErrorNumber::None)
         Fail(u"the rows cannot be stored: %1"_s.arg(ErrorText(outcome.writeError)));
     if (outcome.result == ImportResult::Failed)

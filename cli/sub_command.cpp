@@ -34,161 +34,165 @@ constexpr std::array kWhereOption { "where" };
 constexpr std::array kRestoreFlags { "json", "salvage" };
 constexpr std::array kRestoreOptions { "from" };
 
-constexpr const char* kListsHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Prints a line per list, in the order of their names: name TAB number of rows.\n"
-      "\n"
-      "  --json               name, rows, icon and columns of each list\n");
+constexpr const char* kListsHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Prints a line per list, in the order of their names: name TAB number of rows.\n"
+    "\n"
+    "  --json               name, rows, icon and columns of each list\n");
 
-constexpr const char* kNewHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Makes a list and prints nothing. Its first columns are Name and Quantity.\n"
-      "\n"
-      "  --column NAME:TYPE   adds a column; TYPE is string, checkbox, price, integer, date or\n"
-      "                       expiry (which needs no NAME). May be given several times.\n"
-      "  --warn-count N       warns of rows whose quantity is N or less\n"
-      "  --warn-expiry        warns of rows whose expiry date is reached\n"
-      "  --icon N             icon 0 to 42\n"
-      "  --create             makes the data file if there is none\n");
+constexpr const char* kNewHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Makes a list and prints nothing. Its first columns are Name and Quantity.\n"
+    "\n"
+    "  --column NAME:TYPE   adds a column; TYPE is string, checkbox, price, integer, date or\n"
+    "                       expiry (which needs no NAME). May be given several times.\n"
+    "  --warn-count N       warns of rows whose quantity is N or less\n"
+    "  --warn-expiry        warns of rows whose expiry date is reached\n"
+    "  --icon N             icon 0 to 42\n"
+    "  --create             makes the data file if there is none\n");
 
-constexpr const char* kWhereHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "  --where CONDITION    only rows that meet it: \"COLUMN CONDITION VALUE\", as in\n"
-      "                       \"Name contains tea\", \"Quantity < 3\", \"Opened = Checked\".\n"
-      "                       Conditions are those of the program's filters, by their words or\n"
-      "                       as = != > >= < <=. As there, != on text, numbers and prices finds\n"
-      "                       what = finds. Numbers are read as they are shown. May be given\n"
-      "                       several times: all must hold.\n");
+constexpr const char* kWhereHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "  --where CONDITION    only rows that meet it: \"COLUMN CONDITION VALUE\", as in\n"
+    "                       \"Name contains tea\", \"Quantity < 3\", \"Opened = Checked\".\n"
+    "                       Conditions are those of the program's filters, by their words or\n"
+    "                       as = != > >= < <=. As there, != on text, numbers and prices finds\n"
+    "                       what = finds. Numbers are read as they are shown. May be given\n"
+    "                       several times: all must hold.\n");
 
-constexpr const char* kShowHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Prints a line of column names, then the rows in the order of names, with TAB between\n"
-      "fields. Control characters in texts are shown as blanks.\n"
-      "\n"
-      "  --sort COLUMN        in ascending order of a column\n"
-      "  --descending         the other way round\n"
-      "  --no-header          without the line of column names\n"
-      "  --json               an object per row; dates as YYYY-MM-DD, missing values as null\n");
+constexpr const char* kShowHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Prints a line of column names, then the rows in the order of names, with TAB between\n"
+    "fields. Control characters in texts are shown as blanks.\n"
+    "\n"
+    "  --sort COLUMN        in ascending order of a column\n"
+    "  --descending         the other way round\n"
+    "  --no-header          without the line of column names\n"
+    "  --json               an object per row; dates as YYYY-MM-DD, missing values as null\n");
 
-constexpr const char* kFindHelp = QT_TRANSLATE_NOOP("CommandHelp", "Looks for a text in every column of every list, whatever its "
-                                  "case and accents, and prints a\n"
-                                  "line per value that has it: list TAB row TAB column TAB value.\n"
-                                  "\n"
-                                  "  --json               list, row, column and text of each\n");
+constexpr const char* kFindHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Looks for a text in every column of every list, whatever its "
+    "case and accents, and prints a\n"
+    "line per value that has it: list TAB row TAB column TAB value.\n"
+    "\n"
+    "  --json               list, row, column and text of each\n");
 
-constexpr const char* kExportHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each\n"
-      "row. Without FILE, or with -, to standard output. An existing FILE is replaced.\n"
-      "\n"
-      "  --dates iso          dates as YYYY-MM-DD, which every locale reads alike\n"
-      "  --format NAME        csv or tsv, a table for other programs in UTF-8 behind a line of "
-      "column\n"
-      "                       names: dates as YYYY-MM-DD, a point before decimals, true and "
-      "false;\n"
-      "                       json, as show prints it; or html, a page to read\n"
-      "  --all DIR            every list into a folder, which is made if need be: a file for each, "
-      "as csv\n"
-      "                       unless told otherwise, and lists.json, which tells of them\n");
+constexpr const char* kExportHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Writes the rows as text, as Export List does: UTF-16, TAB between fields, CR LF after each\n"
+    "row. Without FILE, or with -, to standard output. An existing FILE is replaced.\n"
+    "\n"
+    "  --dates iso          dates as YYYY-MM-DD, which every locale reads alike\n"
+    "  --format NAME        csv or tsv, a table for other programs in UTF-8 behind a line of "
+    "column\n"
+    "                       names: dates as YYYY-MM-DD, a point before decimals, true and "
+    "false;\n"
+    "                       json, as show prints it; or html, a page to read\n"
+    "  --all DIR            every list into a folder, which is made if need be: a file for each, "
+    "as csv\n"
+    "                       unless told otherwise, and lists.json, which tells of them\n");
 
-constexpr const char* kImportHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Adds a row for each line of a text file, as Import List does, and prints how many came in.\n"
-      "FILE - is standard input. Each line must end in CR LF, the last one too.\n"
-      "\n"
-      "  --columns \"A,B\"      the columns that the fields of a line fill; those not named "
-      "follow\n"
-      "                       in the list's order, which is also what holds without this option\n"
-      "  --encoding NAME      what the file is in: utf-8, utf-16, or the number of a code page "
-      "such\n"
-      "                       as 1252\n"
-      "  --format NAME        csv or tsv, tables as export writes them: the first line names "
-      "columns;\n"
-      "                       of csv comma, semicolon or TAB part the fields. All rows come in, or "
-      "none\n"
-      "  --match COLUMN       of a table: changes the row that has the same value in this column, "
-      "and\n"
-      "                       adds one where none has\n"
-      "  --all DIR            makes every list that lists.json in a folder tells of, and prints "
-      "them\n"
-      "  --create             with --all: makes the data file if there is none\n"
-      "  --dry-run            stores nothing, prints how many rows would come in\n");
+constexpr const char* kImportHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Adds a row for each line of a text file, as Import List does, and prints how many came in.\n"
+    "FILE - is standard input. Each line must end in CR LF, the last one too.\n"
+    "\n"
+    "  --columns \"A,B\"      the columns that the fields of a line fill; those not named "
+    "follow\n"
+    "                       in the list's order, which is also what holds without this option\n"
+    "  --encoding NAME      what the file is in: utf-8, utf-16, or the number of a code page "
+    "such\n"
+    "                       as 1252\n"
+    "  --format NAME        csv or tsv, tables as export writes them: the first line names "
+    "columns;\n"
+    "                       of csv comma, semicolon or TAB part the fields. All rows come in, or "
+    "none\n"
+    "  --match COLUMN       of a table: changes the row that has the same value in this column, "
+    "and\n"
+    "                       adds one where none has\n"
+    "  --all DIR            makes every list that lists.json in a folder tells of, and prints "
+    "them\n"
+    "  --create             with --all: makes the data file if there is none\n"
+    "  --dry-run            stores nothing, prints how many rows would come in\n");
 
-constexpr const char* kSummaryHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Prints a line per total of a number or price column: name TAB total, with a point before\n"
-      "decimals.\n"
-      "\n"
-      "  --json               name and total of each\n");
+constexpr const char* kSummaryHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Prints a line per total of a number or price column: name TAB total, with a point before\n"
+    "decimals.\n"
+    "\n"
+    "  --json               name and total of each\n");
 
-constexpr const char* kDueHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Prints rows of lists whose warnings are on: list TAB row TAB \"low\", \"expired\" or the "
-      "date\n"
-      "on which the row expires.\n"
-      "\n"
-      "  --within DAYS        also rows that expire in so many days\n"
-      "  --json               list, row, state and count or date of each\n"
-      "  --ics                prints a calendar of all expiry dates instead, as iCalendar; with\n"
-      "                       --within only those until then\n"
-      "  --notify             prints nothing, but shows what is due since it was shown last, once "
-      "a\n"
-      "                       day at most, as a notification of the desktop. A tap on that opens "
-      "the\n"
-      "                       list; until then or until it is closed the command waits.\n"
-      "\n"
-      "Exits with 3 if something is due, with 0 if nothing is.\n");
+constexpr const char* kDueHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Prints rows of lists whose warnings are on: list TAB row TAB \"low\", \"expired\" or the "
+    "date\n"
+    "on which the row expires.\n"
+    "\n"
+    "  --within DAYS        also rows that expire in so many days\n"
+    "  --json               list, row, state and count or date of each\n"
+    "  --ics                prints a calendar of all expiry dates instead, as iCalendar; with\n"
+    "                       --within only those until then\n"
+    "  --notify             prints nothing, but shows what is due since it was shown last, once "
+    "a\n"
+    "                       day at most, as a notification of the desktop. A tap on that opens "
+    "the\n"
+    "                       list; until then or until it is closed the command waits.\n"
+    "\n"
+    "Exits with 3 if something is due, with 0 if nothing is.\n");
 
-constexpr const char* kRemindersHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Turns a notification each morning of what is due on or off, or prints whether it is on.\n"
-      "Needs systemd, whose timer quillory-reminders then runs \"quillory due --notify\".\n");
+constexpr const char* kRemindersHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Turns a notification each morning of what is due on or off, or prints whether it is on.\n"
+    "Needs systemd, whose timer quillory-reminders then runs \"quillory due --notify\".\n");
 
-constexpr const char* kAddHelp = QT_TRANSLATE_NOOP("CommandHelp", "Adds a row with these values and prints 1. Numbers are read as "
-                                 "they are shown, a checkbox is\n"
-                                 "Checked or Unchecked.\n"
-                                 "\n"
-                                 "  --dry-run            stores nothing\n");
+constexpr const char* kAddHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Adds a row with these values and prints 1. Numbers are read as "
+    "they are shown, a checkbox is\n"
+    "Checked or Unchecked.\n"
+    "\n"
+    "  --dry-run            stores nothing\n");
 
-constexpr const char* kSetHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Gives all rows that meet the conditions these values, or none of them if one cannot be\n"
-      "stored, and prints how many there are.\n"
-      "\n"
-      "  --dry-run            stores nothing\n");
+constexpr const char* kSetHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Gives all rows that meet the conditions these values, or none of them if one cannot be\n"
+    "stored, and prints how many there are.\n"
+    "\n"
+    "  --dry-run            stores nothing\n");
 
-constexpr const char* kCountHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Counts all rows that meet the conditions up by +N or down by -N, or none of them if one\n"
-      "cannot be stored, and prints how many there are.\n"
-      "\n"
-      "  --dry-run            stores nothing\n");
+constexpr const char* kCountHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Counts all rows that meet the conditions up by +N or down by -N, or none of them if one\n"
+    "cannot be stored, and prints how many there are.\n"
+    "\n"
+    "  --dry-run            stores nothing\n");
 
-constexpr const char* kDeleteHelp = QT_TRANSLATE_NOOP("CommandHelp", "Deletes all rows that meet the conditions, or none of them if "
-                                    "one cannot be, and prints how\n"
-                                    "many there are.\n"
-                                    "\n"
-                                    "  --dry-run            deletes nothing\n");
+constexpr const char* kDeleteHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Deletes all rows that meet the conditions, or none of them if "
+    "one cannot be, and prints how\n"
+    "many there are.\n"
+    "\n"
+    "  --dry-run            deletes nothing\n");
 
-constexpr const char* kRenameHelp = QT_TRANSLATE_NOOP("CommandHelp", "Gives a list another name and prints nothing.\n"
-                                    "\n"
-                                    "  --dry-run            stores nothing\n");
+constexpr const char* kRenameHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Gives a list another name and prints nothing.\n"
+    "\n"
+    "  --dry-run            stores nothing\n");
 
-constexpr const char* kRemoveHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Deletes a list with all its rows and prints how many these are.\n"
-      "\n"
-      "  --dry-run            deletes nothing\n");
+constexpr const char* kRemoveHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Deletes a list with all its rows and prints how many these are.\n"
+    "\n"
+    "  --dry-run            deletes nothing\n");
 
-constexpr const char* kCheckHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Reads the whole data file. Prints \"ok\", or what is wrong and exits with 1.\n");
+constexpr const char* kCheckHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Reads the whole data file. Prints \"ok\", or what is wrong and exits with 1.\n");
 
-constexpr const char* kBackupHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "Writes a consistent copy of the data file, also while it is in use. FILE must not exist.\n");
+constexpr const char* kBackupHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Writes a consistent copy of the data file, also while it is in use. FILE must not exist.\n");
 
-constexpr const char* kRestoreHelp
-    = QT_TRANSLATE_NOOP("CommandHelp", "After each run that changed lists or rows of the configured data file a copy of it is "
-      "kept,\n"
-      "the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90\n"
-      "days after the file is found to be gone.\n"
-      "\n"
-      "Without options prints a line per copy, the newest first: number TAB time TAB bytes, and\n"
-      "then a line per list that can be read from the data file itself, also if that is damaged:\n"
-      "salvage TAB list TAB rows TAB what is lost. Otherwise makes the new data file FILE, which\n"
-      "must not exist:\n"
-      "\n"
-      "  --from N             from copy N\n"
-      "  --salvage            from what can still be read of the data file, and prints what that\n"
-      "                       is; the data file is only read\n"
-      "  --json               an object per copy and per list\n");
+constexpr const char* kRestoreHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "After each run that changed lists or rows of the configured data file a copy of it is "
+    "kept,\n"
+    "the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90\n"
+    "days after the file is found to be gone.\n"
+    "\n"
+    "Without options prints a line per copy, the newest first: number TAB time TAB bytes, and\n"
+    "then a line per list that can be read from the data file itself, also if that is damaged:\n"
+    "salvage TAB list TAB rows TAB what is lost. Otherwise makes the new data file FILE, which\n"
+    "must not exist:\n"
+    "\n"
+    "  --from N             from copy N\n"
+    "  --salvage            from what can still be read of the data file, and prints what that\n"
+    "                       is; the data file is only read\n"
+    "  --json               an object per copy and per list\n");
 
 /// The list, and a value for each column.
 constexpr qsizetype kMostOperands = 1 + qsizetype { kMaxColumns };
@@ -202,8 +206,8 @@ constexpr std::array kSubCommands {
         "LIST [--where CONDITION]... [--sort COLUMN] [--descending] [--no-header | --json]",
         kShowHelp, 1, 1, kShowFlags, kShowOptions, &RunShow },
     SubCommand { "find", "TEXT [--json]", kFindHelp, 1, 1, kJsonFlag, {}, &RunFind },
-    SubCommand { "export", "LIST [FILE] [--dates iso | --format NAME] | --all DIR [--format NAME]", kExportHelp,
-        0, 2, {}, kExportOptions, &RunExport },
+    SubCommand { "export", "LIST [FILE] [--dates iso | --format NAME] | --all DIR [--format NAME]",
+        kExportHelp, 0, 2, {}, kExportOptions, &RunExport },
     SubCommand { "import",
         "LIST FILE [--columns \"A,B\"] [--encoding NAME] [--format NAME] [--match COLUMN] "
         "[--dry-run] | --all DIR [--create] [--dry-run]",
@@ -342,8 +346,8 @@ QByteArray HelpText(const CommandEnvironment& environment)
         "  --help               help, on a command if one is named\n"
         "  --version            the version\n"));
     text += FormsText(environment, language);
-    text += language(QT_TRANSLATE_NOOP("CommandHelp",
-        "\nExit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.\n"));
+    text += language(QT_TRANSLATE_NOOP(
+        "CommandHelp", "\nExit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.\n"));
     return text.toUtf8();
 }
 

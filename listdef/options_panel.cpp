@@ -72,7 +72,7 @@ QBoxLayout* OptionsPanel::MakeCountLine()
     colour->addWidget(m_toColour, 1);
     colour->addWidget(m_countColour);
     auto* line = new QHBoxLayout;
-    line->setContentsMargins(kCheckIndent, 0, 0, 0);
+    line->setContentsMargins(LineMargins(kCheckIndent, 0, layoutDirection()));
     line->setSpacing(kGrid);
     line->addWidget(m_threshold, 1);
     line->addLayout(colour);

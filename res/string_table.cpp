@@ -87,8 +87,8 @@ constexpr std::array kTexts {
         "lists. Tap OK to continue."),
     QT_TRANSLATE_NOOP("Texts", "Version"),
     QT_TRANSLATE_NOOP("Texts", "Find"),
-    //: Stands between a number and a colour: "Enable row colour when count is less than or equal to"
-    //: 3 "to colour" red.
+    //: Stands between a number and a colour: "Enable row colour when count is less than or equal
+    //: to" 3 "to colour" red.
     QT_TRANSLATE_NOOP("Texts", "to colour"),
     QT_TRANSLATE_NOOP("Texts", "Field:"),
     QT_TRANSLATE_NOOP("Texts", "Condition:"),

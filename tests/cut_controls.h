@@ -73,8 +73,8 @@ inline QStringList CutControls(const Page& page)
         const auto* bar = qobject_cast<const QTabBar*>(widget);
         const bool isControl = bar != nullptr || qobject_cast<const QAbstractButton*>(widget)
             || qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget);
-        const bool isText = qobject_cast<const QLabel*>(widget) != nullptr
-            && widget->objectName() != u"title";
+        const bool isText
+            = qobject_cast<const QLabel*>(widget) != nullptr && widget->objectName() != u"title";
         if ((!isControl && !isText) || !widget->isVisible())
             continue;
         const QRect place(widget->mapTo(&page, QPoint()), widget->size());
@@ -86,8 +86,8 @@ inline QStringList CutControls(const Page& page)
         if (!room.contains(place) || (isControl && widget->width() > kMaxPageWidth)
             || given.width() < needed.width() || given.height() < needed.height()
             || (bar != nullptr && HasCutTab(*bar)))
-            QDebug(&cut.emplace_back()) << widget->metaObject()->className()
-                                        << widget->objectName() << place << needed << given;
+            QDebug(&cut.emplace_back()) << widget->metaObject()->className() << widget->objectName()
+                                        << place << needed << given;
     }
     return cut;
 }

@@ -102,8 +102,8 @@ class Spoken
 {
 public:
     explicit Spoken(const QString& code)
-        : m_translator(code.isEmpty() ? std::make_unique<LongTexts>()
-                                      : std::make_unique<QTranslator>())
+        : m_translator(
+            code.isEmpty() ? std::make_unique<LongTexts>() : std::make_unique<QTranslator>())
     {
         if (!code.isEmpty())
             LoadLanguage(*m_translator, QLocale(code));

@@ -158,6 +158,14 @@ private Q_SLOTS:
         }
     }
 
+    void anImportTellsOfDatesThatOtherCountriesReadOtherwise()
+    {
+        FrameErrand errand(QStringList {});
+        Act(u"tap New; type Medicines; tap Columns; tap Menu; tap Add Expiry Date Column; tap OK"_s);
+        errand.Import("10/5/2026\tTea\r\n");
+        Act(u"tap OK; see Dates such as 10/5/2026 were read in the form M/d/yyyy.; tap OK; see 10/5/2026"_s);
+    }
+
     void aPipeIsNoTextFile()
     {
         FrameErrand errand({ u"Pantry"_s });

@@ -10,11 +10,14 @@
 #include "widgets/colour_grid.h"
 #include "widgets/colour_palette.h"
 #include "widgets/icon_grid.h"
+#include "widgets/icon_picker.h"
 #include "widgets/icon_set.h"
 #include "widgets/ink.h"
+#include "widgets/measures.h"
 #include "widgets/page_stack.h"
 #include "widgets/window_style.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
@@ -30,6 +33,28 @@ class PickersTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theIconIsBesideItsButtons()
+    {
+        for (const Qt::LayoutDirection direction : { Qt::LeftToRight, Qt::RightToLeft }) {
+            IconPicker picker;
+            picker.setLayoutDirection(direction);
+            picker.show();
+            QRect buttons;
+            for (const auto* button : picker.findChildren<QAbstractButton*>())
+                buttons |= button->geometry();
+            const QImage without = picker.grab().toImage();
+            picker.SetIcon(3);
+            const QImage with = picker.grab().toImage();
+            QRect changed;
+            for (int x = 0; x < with.width(); ++x) {
+                if (with.copy(x, 0, 1, with.height()) != without.copy(x, 0, 1, with.height()))
+                    changed |= QRect(x, 0, 1, 1);
+            }
+            QVERIFY(changed.width() > kGrid);
+            QVERIFY(!changed.intersects(buttons));
+        }
+    }
+
     void cellsFillTheGridRowByRow_data()
     {
         const Table<QSize, int, int, bool> add;

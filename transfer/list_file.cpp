@@ -36,7 +36,8 @@ ListFile Open(std::unique_ptr<QFileDevice> file, const QString& dataFile, QIODev
     if (IsSameFile(path, dataFile))
         return { nullptr, QCoreApplication::translate("ListFile", "it is the data file itself") };
     if (IsJournalOf(path, dataFile))
-        return { nullptr, QCoreApplication::translate("ListFile", "it is the name of the data file's journal") };
+        return { nullptr,
+            QCoreApplication::translate("ListFile", "it is the name of the data file's journal") };
     if (!file->open(mode | QIODevice::Unbuffered))
         return { nullptr, file->errorString() };
     return { std::move(file), {} };

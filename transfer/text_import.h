@@ -31,8 +31,8 @@ struct ImportOutcome
     qint64 lines = 0;
     /// The text ends with characters that no end of a line follows; they are in no row.
     bool isLastLineOpen = false;
-    /// A date, as it stands in the file, that was read by the locale's order of day and month and is
-    /// another day in the other order; empty if there was none.
+    /// A date, as it stands in the file, that was read by the locale's order of day and month and
+    /// is another day in the other order; empty if there was none.
     QString ambiguousDate;
     /// Why storing ended early, such as DiskFull; None if it did not. A single row that the store
     /// does not take is passed over and is no such failure.

@@ -82,7 +82,7 @@ void AddButtonLine(QVBoxLayout& body, QAbstractButton& button, const QString& te
     button.setFixedWidth(kCheckIndent);
     button.setMinimumHeight(CurrentMeasures().lineHeight);
     auto* line = new QHBoxLayout;
-    line->setContentsMargins(indent, 0, 0, 0);
+    line->setContentsMargins(LineMargins(indent, 0, button.layoutDirection()));
     line->setSpacing(0);
     line->addWidget(&button);
     line->addWidget(new ButtonLabel(text, button), 1);

@@ -234,7 +234,10 @@ void IconPicker::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     const auto* firstButton = findChild<QWidget*>(u"nextIcon"_s);
     QRect face = rect();
-    face.setRight(firstButton->x() - 3);
+    if (isRightToLeft())
+        face.setLeft(firstButton->geometry().right() + 3);
+    else
+        face.setRight(firstButton->x() - 3);
     painter.setPen(hasFocus() ? AccentInk(palette()) : OutlineColour(palette()));
     painter.setBrush(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Base));
     painter.drawRoundedRect(QRectF(face).adjusted(.5, .5, -.5, -.5), kCornerRadius, kCornerRadius);

@@ -29,6 +29,12 @@ int LineHeightFor(const QFontMetrics& font)
     return std::max(CurrentMeasures().lineHeight, font.height() + kGrid);
 }
 
+QMargins LineMargins(int leading, int trailing, Qt::LayoutDirection direction)
+{
+    return direction == Qt::RightToLeft ? QMargins(trailing, 0, leading, 0)
+                                        : QMargins(leading, 0, trailing, 0);
+}
+
 QFont FontFitting(QFont font, const QString& text, int width)
 {
     const int needed = QFontMetrics(font).horizontalAdvance(text);

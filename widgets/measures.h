@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFont>
+#include <QMargins>
 
 class QFontMetrics;
 
@@ -44,6 +45,8 @@ constexpr int kLowWindow = 400;
 [[nodiscard]] const Measures& FrameMeasures(int windowHeight);
 /// The height of a list's lines: more where the font needs it.
 [[nodiscard]] int LineHeightFor(const QFontMetrics& font);
+/// The margins of a line that reads from `leading` to `trailing`, in this direction.
+[[nodiscard]] QMargins LineMargins(int leading, int trailing, Qt::LayoutDirection direction);
 /// The font, or so much smaller a one that `text` takes no more than `width`.
 [[nodiscard]] QFont FontFitting(QFont font, const QString& text, int width);
 

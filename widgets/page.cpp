@@ -73,7 +73,8 @@ private:
     [[nodiscard]] QFont SmallFont() const
     {
         QFont small = font();
-        small.setPixelSize(std::max(CurrentMeasures().textSize, QFontInfo(small).pixelSize() * 3 / 4));
+        small.setPixelSize(
+            std::max(CurrentMeasures().textSize, QFontInfo(small).pixelSize() * 3 / 4));
         return small;
     }
 };
@@ -347,8 +348,8 @@ void Page::FitToWindow()
     const bool isNarrow = width() < kNarrowPage;
     m_titleLine->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     m_titleLine->setSpacing(isNarrow ? 0 : kGrid);
-    m_header->layout()->setContentsMargins(
-        isNarrow ? kNarrowMargin : kPageMargin, 0, isNarrow ? 0 : kGrid, 0);
+    m_header->layout()->setContentsMargins(LineMargins(
+        isNarrow ? kNarrowMargin : kPageMargin, isNarrow ? 0 : kGrid, layoutDirection()));
     m_header->layout()->setSpacing(isNarrow ? 0 : kGrid);
     const int beside = std::max(0, (width() - kMaxPageWidth) / 2);
     if (!IsAsWideAsWindow())
