@@ -20,7 +20,7 @@ constexpr const char* kPageStyle
       "table { border-collapse: collapse; }\n"
       "th, td { border-bottom: 1px solid; padding: 0.3rem 0.6rem; text-align: left;\n"
       "         vertical-align: top; white-space: pre-wrap; }\n"
-      "td.number { text-align: right; }\n"
+      ".number { text-align: right; font-variant-numeric: tabular-nums; }\n"
       "thead { display: table-header-group; }\n"
       "</style>\n";
 
@@ -65,15 +65,20 @@ QByteArray HtmlText(QString text)
     return text.toHtmlEscaped().toUtf8();
 }
 
+bool IsNumber(PropertyId column)
+{
+    const ColumnType type = ColumnTypeOf(column);
+    return type == ColumnType::Integer || type == ColumnType::Price;
+}
+
 QByteArray HtmlCell(const PropertyValue& value, const ValueContext& context)
 {
     const ColumnType type = ColumnTypeOf(value.id);
     const auto* isChecked = std::get_if<bool>(&value.value);
-    const bool isNumber = type == ColumnType::Integer || type == ColumnType::Price;
     const QString text = type != ColumnType::Checkbox ? CellText(value, context)
         : isChecked != nullptr && *isChecked          ? u"✓"_s
                                                       : QString();
-    return (isNumber ? "<td class=\"number\">" : "<td>") + HtmlText(text) + "</td>";
+    return (IsNumber(value.id) ? "<td class=\"number\">" : "<td>") + HtmlText(text) + "</td>";
 }
 
 } // namespace
@@ -136,8 +141,11 @@ void RowPrinter::BeginPage(const QString& title, const QStringList& names)
                       "<meta name=\"viewport\" content=\"width=device-width\">\n<title>"
         + name + "</title>\n" + kPageStyle + "</head>\n<body>\n<h1>" + name
         + "</h1>\n<table>\n<thead>\n<tr>");
-    for (const QString& column : names)
-        m_output.WriteRaw("<th scope=\"col\">" + HtmlText(column) + "</th>");
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        const bool isNumber = IsNumber(m_ids[static_cast<size_t>(i)]);
+        m_output.WriteRaw((isNumber ? "<th scope=\"col\" class=\"number\">" : "<th scope=\"col\">")
+            + HtmlText(names[i]) + "</th>");
+    }
     m_output.WriteRaw("</tr>\n</thead>\n<tbody>\n");
 }
 

@@ -4,6 +4,8 @@
 #include "values/column_type.h"
 #include "values/file_date.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -50,6 +52,18 @@ PropertyVariant ReadIsoDate(QStringView text)
     return ValueIf(time.has_value(), time.value_or(FileTime {}));
 }
 
+/// A comma is taken for a point where it cannot part groups: spreadsheets write it in half of
+/// Europe.
+PropertyVariant ReadPrice(QString text)
+{
+    static const QRegularExpression groups(u"^[+-]?[1-9][0-9]{0,2},[0-9]{3}$"_s);
+    if (text.count(u',') == 1 && !text.contains(u'.') && !groups.match(text).hasMatch())
+        text.replace(u',', u'.');
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return ValueIf(isNumber && std::isfinite(number), number);
+}
+
 PropertyVariant ReadValue(ColumnType type, QStringView text)
 {
     bool isNumber = false;
@@ -58,10 +72,8 @@ PropertyVariant ReadValue(ColumnType type, QStringView text)
         const qint32 number = text.toInt(&isNumber);
         return ValueIf(isNumber, number);
     }
-    case ColumnType::Price: {
-        const double number = text.toDouble(&isNumber);
-        return ValueIf(isNumber && std::isfinite(number), number);
-    }
+    case ColumnType::Price:
+        return ReadPrice(text.toString());
     case ColumnType::Checkbox:
         return ReadTick(text);
     case ColumnType::Date:
