@@ -2,6 +2,7 @@
 #include "cli/due_rows.h"
 
 #include "store/column_scan.h"
+#include "store/row_warnings.h"
 #include "values/column_type.h"
 #include "values/file_date.h"
 
@@ -20,9 +21,7 @@ constexpr std::array kDueColumns { PropName, PropCount, PropExpiryDate };
 void VisitDueRows(const CommandRun& run, CommandData& data, QDate last, const DueVisitor& visit)
 {
     const InventoryList& list = data.list;
-    const bool warnsOfCount = (list.TableOption & kWarnOnCount) != 0;
-    const bool warnsOfExpiry = (list.TableOption & kWarnOnExpiry) != 0;
-    if (!warnsOfCount && !warnsOfExpiry)
+    if ((list.TableOption & (kWarnOnCount | kWarnOnExpiry)) == 0)
         return;
     // To the tick, as the rows view colours them.
     const FileTime today
@@ -36,12 +35,14 @@ void VisitDueRows(const CommandRun& run, CommandData& data, QDate last, const Du
             // A row without a count counts as 0, as its colour in the rows view says.
             DueRow row { list.Name, text == nullptr ? QString() : *text, DueState::Low,
                 static_cast<qint32>(record.Integer(1)), std::nullopt };
-            if (warnsOfCount && row.count <= list.TableWarnStart)
+            std::optional<FileTime> expiry;
+            if (!record.IsMissing(2))
+                expiry = FileTime { static_cast<quint64>(record.Integer(2)) };
+            if (WarningsFor(row.count, expiry, list, today).isLow)
                 visit(row);
-            const FileTime expiry { static_cast<quint64>(record.Integer(2)) };
-            if (warnsOfExpiry && !record.IsMissing(2) && expiry <= limit) {
+            if (WarningsFor(row.count, expiry, list, limit).isExpired) {
                 row.expiry = expiry;
-                row.state = expiry <= today ? DueState::Expired : DueState::Expiring;
+                row.state = *expiry <= today ? DueState::Expired : DueState::Expiring;
                 visit(row);
             }
             return !run.output.HasFailed();

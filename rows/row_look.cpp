@@ -4,33 +4,7 @@
 #include "widgets/colour_palette.h"
 #include "widgets/ink.h"
 
-#include <QCoreApplication>
-#include <QStringList>
-
 namespace Quillory {
-
-using namespace Qt::StringLiterals;
-
-RowWarnings WarningsFor(const RowFacts& row, const InventoryList& list, FileTime today)
-{
-    RowWarnings warnings;
-    warnings.isLow = (list.TableOption & kWarnOnCount) != 0 && row.count <= list.TableWarnStart;
-    warnings.isExpired
-        = (list.TableOption & kWarnOnExpiry) != 0 && row.expiry.has_value() && today >= *row.expiry;
-    return warnings;
-}
-
-QString WarningText(const RowWarnings& warnings)
-{
-    QStringList words;
-    if (warnings.isLow)
-        //: Beside the name of a row of which few are left; short.
-        words << QCoreApplication::translate("Warnings", "low");
-    if (warnings.isExpired)
-        //: Beside the name of a row whose expiry date is reached; short.
-        words << QCoreApplication::translate("Warnings", "expired");
-    return words.join(u", "_s);
-}
 
 RowColours ColoursFor(const InventoryList& list, bool hasAlternateLines, const QPalette& palette)
 {

@@ -2,11 +2,10 @@
 #pragma once
 
 #include "propdb/property_value.h"
-#include "store/inventory_list.h"
+#include "store/row_warnings.h"
 
 #include <QColor>
 #include <QPalette>
-#include <QString>
 
 #include <optional>
 
@@ -21,14 +20,6 @@ struct RowFacts
     /// A row without a count counts as 0.
     qint32 count = 0;
     std::optional<FileTime> expiry;
-};
-
-struct RowWarnings
-{
-    bool isLow = false;
-    bool isExpired = false;
-
-    friend bool operator==(const RowWarnings&, const RowWarnings&) = default;
 };
 
 /// The colours that lines of one ground may have.
@@ -61,12 +52,12 @@ struct RowLook
     bool isItalic = false;
 };
 
-/// Which warnings of the list hold for a row. `today` is midnight of the day.
-[[nodiscard]] RowWarnings WarningsFor(
-    const RowFacts& row, const InventoryList& list, FileTime today);
-
-/// The warnings that colours show, in words; empty for none.
-[[nodiscard]] QString WarningText(const RowWarnings& warnings);
+/// As WarningsFor() of a count and a date.
+[[nodiscard]] inline RowWarnings WarningsFor(
+    const RowFacts& row, const InventoryList& list, FileTime today)
+{
+    return WarningsFor(row.count, row.expiry, list, today);
+}
 
 /// With `hasAlternateLines` the alternate ground is one of its own.
 [[nodiscard]] RowColours ColoursFor(

@@ -79,11 +79,6 @@ constexpr std::array<ListIconEntry, kListIconCount> kListIcons { {
     { QT_TRANSLATE_NOOP("Icons", "Key"), 17 },
 } };
 
-int KnownIcon(int index)
-{
-    return index >= 0 && index < kListIconCount ? index : 0;
-}
-
 /// A drawing of one colour, which follows the palette, selection and disabling at every scale.
 class DrawnIcon : public QIconEngine
 {
@@ -152,13 +147,10 @@ private:
 
 QIcon ListIcon(int index)
 {
-    LoadIconResources();
-    const int known = KnownIcon(index);
-    const quint32 colour = kListIcons.at(static_cast<size_t>(known)).colour;
-    return QIcon(new DrawnIcon(u":/icons/list_%1.svg"_s.arg(known, 2, 10, QLatin1Char('0')),
-        [colour](const QPalette& palette) {
-            return IsDark(palette) ? palette.color(QPalette::Text) : PaletteColour(colour);
-        }));
+    const quint32 colour = kListIcons.at(static_cast<size_t>(KnownIcon(index))).colour;
+    return QIcon(new DrawnIcon(ListIconFile(index), [colour](const QPalette& palette) {
+        return IsDark(palette) ? palette.color(QPalette::Text) : PaletteColour(colour);
+    }));
 }
 
 QString ListIconName(int index)

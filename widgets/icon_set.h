@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "res/list_icon.h"
+
 #include <QIcon>
 
 namespace Quillory {
-
-constexpr int kListIconCount = 43;
 
 /// The icon of a list by its index, drawn from vectors: in a colour of its own on a light ground,
 /// in the colour of text on a dark one and where it is selected. The first one for an index

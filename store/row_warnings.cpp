@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "store/row_warnings.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace Quillory {
+
+using namespace Qt::StringLiterals;
+
+RowWarnings WarningsFor(
+    qint32 count, std::optional<FileTime> expiry, const InventoryList& list, FileTime today)
+{
+    return { (list.TableOption & kWarnOnCount) != 0 && count <= list.TableWarnStart,
+        (list.TableOption & kWarnOnExpiry) != 0 && expiry && *expiry <= today };
+}
+
+QString WarningText(const RowWarnings& warnings)
+{
+    QStringList words;
+    if (warnings.isLow)
+        //: Beside the name of a row of which few are left; short.
+        words << QCoreApplication::translate("Warnings", "low");
+    if (warnings.isExpired)
+        //: Beside the name of a row whose expiry date is reached; short.
+        words << QCoreApplication::translate("Warnings", "expired");
+    return words.join(u", "_s);
+}
+
+} // namespace Quillory
