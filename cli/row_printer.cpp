@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/row_printer.h"
 
+#include "report/html_table.h"
 #include "values/column_type.h"
 #include "values/exchange_text.h"
 
@@ -12,17 +13,6 @@ namespace Quillory {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr const char* kPageStyle
-    = "<style>\n"
-      ":root { color-scheme: light dark; }\n"
-      "body { font-family: sans-serif; margin: 1rem; }\n"
-      "table { border-collapse: collapse; }\n"
-      "th, td { border-bottom: 1px solid; padding: 0.3rem 0.6rem; text-align: left;\n"
-      "         vertical-align: top; white-space: pre-wrap; }\n"
-      ".number { text-align: right; font-variant-numeric: tabular-nums; }\n"
-      "thead { display: table-header-group; }\n"
-      "</style>\n";
 
 /// Null for a missing value and for a price that is no finite number.
 QJsonValue JsonOf(const PropertyValue& value)
@@ -53,34 +43,6 @@ QStringList UniqueKeys(const QStringList& names)
     return keys;
 }
 
-/// Pages have no control characters but TABs and ends of lines.
-QByteArray HtmlText(QString text)
-{
-    std::replace_if(
-        text.begin(), text.end(),
-        [](QChar unit) {
-            return unit.category() == QChar::Other_Control && unit != u'\t' && unit != u'\n';
-        },
-        QChar(u' '));
-    return text.toHtmlEscaped().toUtf8();
-}
-
-bool IsNumber(PropertyId column)
-{
-    const ColumnType type = ColumnTypeOf(column);
-    return type == ColumnType::Integer || type == ColumnType::Price;
-}
-
-QByteArray HtmlCell(const PropertyValue& value, const ValueContext& context)
-{
-    const ColumnType type = ColumnTypeOf(value.id);
-    const auto* isChecked = std::get_if<bool>(&value.value);
-    const QString text = type != ColumnType::Checkbox ? CellText(value, context)
-        : isChecked != nullptr && *isChecked          ? u"✓"_s
-                                                      : QString();
-    return (IsNumber(value.id) ? "<td class=\"number\">" : "<td>") + HtmlText(text) + "</td>";
-}
-
 } // namespace
 
 QString CellText(const PropertyValue& value, const ValueContext& context)
@@ -107,7 +69,8 @@ RowPrinter::RowPrinter(
     if (m_form == RowForm::Lines)
         m_output.WriteFields(names);
     else if (m_form == RowForm::Html)
-        BeginPage(list.Name, names);
+        m_output.WriteRaw(HtmlBegin(list.Name) + "<h1>" + HtmlText(list.Name) + "</h1>\n"
+            + HtmlTableBegin(ShownColumns(list)));
 }
 
 bool RowPrinter::Print(const ScannedRecord& row)
@@ -117,7 +80,7 @@ bool RowPrinter::Print(const ScannedRecord& row)
     if (m_form == RowForm::Json) {
         PrintJsonRow();
     } else if (m_form == RowForm::Html) {
-        PrintHtmlRow();
+        m_output.WriteRaw(HtmlRow(m_values, {}, m_context));
     } else {
         QStringList fields;
         for (const PropertyValue& value : m_values)
@@ -132,29 +95,6 @@ void RowPrinter::End()
     m_json.End();
     if (m_form == RowForm::Html)
         m_output.WriteRaw("</tbody>\n</table>\n</body>\n</html>\n");
-}
-
-void RowPrinter::BeginPage(const QString& title, const QStringList& names)
-{
-    const QByteArray name = HtmlText(title);
-    m_output.WriteRaw("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n"
-                      "<meta name=\"viewport\" content=\"width=device-width\">\n<title>"
-        + name + "</title>\n" + kPageStyle + "</head>\n<body>\n<h1>" + name
-        + "</h1>\n<table>\n<thead>\n<tr>");
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        const bool isNumber = IsNumber(m_ids[static_cast<size_t>(i)]);
-        m_output.WriteRaw((isNumber ? "<th scope=\"col\" class=\"number\">" : "<th scope=\"col\">")
-            + HtmlText(names[i]) + "</th>");
-    }
-    m_output.WriteRaw("</tr>\n</thead>\n<tbody>\n");
-}
-
-void RowPrinter::PrintHtmlRow()
-{
-    QByteArray line = "<tr>";
-    for (const PropertyValue& value : m_values)
-        line += HtmlCell(value, m_context);
-    m_output.WriteRaw(line + "</tr>\n");
 }
 
 void RowPrinter::PrintJsonRow()

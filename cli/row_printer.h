@@ -47,8 +47,6 @@ private:
     QStringList m_keys;
     JsonArrayWriter m_json;
 
-    void BeginPage(const QString& title, const QStringList& names);
-    void PrintHtmlRow();
     void PrintJsonRow();
 };
 

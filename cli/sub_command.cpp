@@ -27,6 +27,8 @@ constexpr std::array kExportOptions { "all", "dates", "format" };
 constexpr std::array kImportFlags { "create", "dry-run" };
 constexpr std::array kImportOptions { "all", "columns", "encoding", "format", "match" };
 constexpr std::array kSummaryOptions { "where" };
+constexpr std::array kReportFlags { "all" };
+constexpr std::array kReportOptions { "format" };
 constexpr std::array kDueFlags { "ics", "json", "notify" };
 constexpr std::array kDueOptions { "within" };
 constexpr std::array kChangeFlags { "dry-run" };
@@ -114,6 +116,15 @@ constexpr const char* kSummaryHelp = QT_TRANSLATE_NOOP("CommandHelp",
     "decimals.\n"
     "\n"
     "  --json               name and total of each\n");
+
+constexpr const char* kReportHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Writes a list to print or to send: its rows with what runs low and what is expired marked,\n"
+    "totals, and drawings of what expires in the next twelve months and of what fewest are left.\n"
+    "Without FILE, or with -, to standard output. An existing FILE is replaced.\n"
+    "\n"
+    "  --all                all lists in one report\n"
+    "  --format NAME        pdf, or html for one page that needs no other file; without it what\n"
+    "                       the name of FILE ends in, or pdf\n");
 
 constexpr const char* kDueHelp = QT_TRANSLATE_NOOP("CommandHelp",
     "Prints rows of lists whose warnings are on: list TAB row TAB \"low\", \"expired\" or the "
@@ -214,6 +225,8 @@ constexpr std::array kSubCommands {
         kImportHelp, 0, 2, kImportFlags, kImportOptions, &RunImport },
     SubCommand { "summary", "LIST [--where CONDITION]... [--json]", kSummaryHelp, 1, 1, kJsonFlag,
         kSummaryOptions, &RunSummary },
+    SubCommand { "report", "LIST [FILE] [--format NAME] | --all [FILE] [--format NAME]",
+        kReportHelp, 0, 2, kReportFlags, kReportOptions, &RunReport },
     SubCommand { "due", "[--within DAYS] [--json | --ics | --notify]", kDueHelp, 0, 0, kDueFlags,
         kDueOptions, &RunDue },
     SubCommand { "reminders", "[on | off]", kRemindersHelp, 0, 1, {}, {}, &RunReminders },

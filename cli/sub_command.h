@@ -33,6 +33,7 @@ void RunImport(const CommandRun& run);
 void RunSummary(const CommandRun& run);
 void RunDue(const CommandRun& run);
 void RunReminders(const CommandRun& run);
+void RunReport(const CommandRun& run);
 void RunAdd(const CommandRun& run);
 void RunSet(const CommandRun& run);
 void RunCount(const CommandRun& run);

@@ -60,7 +60,9 @@ _quillory() {
             return
             ;;
         --format)
-            _quillory_offer <<<$'csv\ntsv\njson\nhtml'
+            local formats=$'csv\ntsv\njson\nhtml'
+            [[ $command != report ]] || formats=$'pdf\nhtml'
+            _quillory_offer <<<"$formats"
             return
             ;;
         --from)
@@ -80,8 +82,8 @@ _quillory() {
             _quillory_offer < <(command quillory --help | sed -n 's/^  quillory \([a-z]*\).*/\1/p'
                 _quillory_ask lists | cut -f 1)
             ;;
-        show:1 | export:1 | import:1 | summary:1 | add:1 | set:1 | count:1 | delete:1 | rename:1 | remove:1) _quillory_offer < <(_quillory_ask lists | cut -f 1) ;;
-        export:2 | import:2 | backup:1 | restore:1) compopt -o default ;;
+        report:1 | show:1 | export:1 | import:1 | summary:1 | add:1 | set:1 | count:1 | delete:1 | rename:1 | remove:1) _quillory_offer < <(_quillory_ask lists | cut -f 1) ;;
+        export:2 | import:2 | report:2 | backup:1 | restore:1) compopt -o default ;;
     esac
 }
 complete -F _quillory quillory

@@ -526,6 +526,25 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 Endet mit: 0 getan, 1 misslungen, 2 falsch aufgerufen, 3 etwas ist fällig.
 </translation>
     </message>
+    <message>
+        <source>Writes a list to print or to send: its rows with what runs low and what is expired marked,
+totals, and drawings of what expires in the next twelve months and of what fewest are left.
+Without FILE, or with -, to standard output. An existing FILE is replaced.
+
+  --all                all lists in one report
+  --format NAME        pdf, or html for one page that needs no other file; without it what
+                       the name of FILE ends in, or pdf
+</source>
+        <translation>Schreibt eine Liste zum Drucken oder Verschicken: ihre Zeilen, in denen Knappes und
+Abgelaufenes bezeichnet ist, Summen und Zeichnungen dessen, was in den nächsten
+zwölf Monaten abläuft und wovon am wenigsten da ist. Ohne FILE oder mit - auf die
+Standardausgabe. Eine vorhandene FILE wird ersetzt.
+
+  --all                alle Listen in einem Bericht
+  --format NAME        pdf, oder html für eine Seite, die keine andere Datei braucht;
+                       sonst, worauf der Name von FILE endet, oder pdf
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1244,6 +1263,33 @@ Mit „Wiederholen“ wird die Datendatei erneut geöffnet.</translation>
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>past</source>
+        <extracomment>The first bar of a drawing of months: what is expired already.</extracomment>
+        <translation>vorbei</translation>
+    </message>
+    <message>
+        <source>What expires in the next twelve months</source>
+        <translation>Was in den nächsten zwölf Monaten abläuft</translation>
+    </message>
+    <message>
+        <source>Of what fewest are left, beside the threshold</source>
+        <translation>Wovon am wenigsten da ist, neben der Grenze</translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation>Summen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
     </message>
 </context>
 <context>

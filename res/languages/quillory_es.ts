@@ -521,6 +521,25 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 Termina con: 0 hecho, 1 error, 2 mal uso, 3 algo ha vencido.
 </translation>
     </message>
+    <message>
+        <source>Writes a list to print or to send: its rows with what runs low and what is expired marked,
+totals, and drawings of what expires in the next twelve months and of what fewest are left.
+Without FILE, or with -, to standard output. An existing FILE is replaced.
+
+  --all                all lists in one report
+  --format NAME        pdf, or html for one page that needs no other file; without it what
+                       the name of FILE ends in, or pdf
+</source>
+        <translation>Escribe una lista para imprimir o enviar: sus filas, con lo escaso y lo caducado
+marcado, totales y dibujos de lo que caduca en los próximos doce meses y de lo
+que queda menos. Sin FILE, o con -, en la salida estándar. Un FILE existente se
+reemplaza.
+
+  --all                todas las listas en un solo informe
+  --format NAME        pdf, o html para una página que no necesita otro archivo; si
+                       no, lo que diga el final del nombre de FILE, o pdf
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1239,6 +1258,33 @@ Toque Reintentar para volver a abrir el archivo de datos.</translation>
     <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>past</source>
+        <extracomment>The first bar of a drawing of months: what is expired already.</extracomment>
+        <translation>pasado</translation>
+    </message>
+    <message>
+        <source>What expires in the next twelve months</source>
+        <translation>Lo que caduca en los próximos doce meses</translation>
+    </message>
+    <message>
+        <source>Of what fewest are left, beside the threshold</source>
+        <translation>De lo que queda menos, junto al límite</translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation>Totales</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
+        </translation>
     </message>
 </context>
 <context>

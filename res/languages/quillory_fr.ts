@@ -528,6 +528,25 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 Code de retour : 0 fait, 1 échec, 2 mauvais usage, 3 quelque chose est échu.
 </translation>
     </message>
+    <message>
+        <source>Writes a list to print or to send: its rows with what runs low and what is expired marked,
+totals, and drawings of what expires in the next twelve months and of what fewest are left.
+Without FILE, or with -, to standard output. An existing FILE is replaced.
+
+  --all                all lists in one report
+  --format NAME        pdf, or html for one page that needs no other file; without it what
+                       the name of FILE ends in, or pdf
+</source>
+        <translation>Écrit une liste à imprimer ou à envoyer : ses lignes, où ce qui manque ou périme
+est marqué, les totaux, et les dessins de ce qui périme dans les douze prochains
+mois et de ce dont il reste le moins. Sans FILE, ou avec -, sur la sortie
+standard. Un FILE existant est remplacé.
+
+  --all                toutes les listes dans un seul rapport
+  --format NAME        pdf, ou html pour une page qui n&apos;a besoin d&apos;aucun autre
+                       fichier ; sinon ce que dit la fin du nom de FILE, ou pdf
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1246,6 +1265,33 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     <message>
         <source>Undo</source>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>past</source>
+        <extracomment>The first bar of a drawing of months: what is expired already.</extracomment>
+        <translation>passé</translation>
+    </message>
+    <message>
+        <source>What expires in the next twelve months</source>
+        <translation>Ce qui périme dans les douze prochains mois</translation>
+    </message>
+    <message>
+        <source>Of what fewest are left, beside the threshold</source>
+        <translation>Ce dont il reste le moins, à côté de la limite</translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation>Totaux</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
+        </translation>
     </message>
 </context>
 <context>

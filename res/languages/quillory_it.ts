@@ -518,6 +518,25 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 Termina con: 0 fatto, 1 errore, 2 uso sbagliato, 3 qualcosa è in scadenza.
 </translation>
     </message>
+    <message>
+        <source>Writes a list to print or to send: its rows with what runs low and what is expired marked,
+totals, and drawings of what expires in the next twelve months and of what fewest are left.
+Without FILE, or with -, to standard output. An existing FILE is replaced.
+
+  --all                all lists in one report
+  --format NAME        pdf, or html for one page that needs no other file; without it what
+                       the name of FILE ends in, or pdf
+</source>
+        <translation>Scrive una lista da stampare o inviare: le sue righe, con segnato ciò che scarseggia
+o è scaduto, i totali, e disegni di ciò che scade nei prossimi dodici mesi e di
+ciò di cui resta meno. Senza FILE, o con -, sullo standard output. Un FILE
+esistente viene sostituito.
+
+  --all                tutte le liste in un solo rapporto
+  --format NAME        pdf, oppure html per una pagina che non ha bisogno di altri
+                       file; altrimenti come finisce il nome di FILE, o pdf
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1236,6 +1255,33 @@ Tocca Riprova per riaprire il file dei dati.</translation>
     <message>
         <source>Undo</source>
         <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>past</source>
+        <extracomment>The first bar of a drawing of months: what is expired already.</extracomment>
+        <translation>passato</translation>
+    </message>
+    <message>
+        <source>What expires in the next twelve months</source>
+        <translation>Che cosa scade nei prossimi dodici mesi</translation>
+    </message>
+    <message>
+        <source>Of what fewest are left, beside the threshold</source>
+        <translation>Di che cosa resta meno, accanto al limite</translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation>Totali</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n riga</numerusform>
+            <numerusform>%n righe</numerusform>
+        </translation>
     </message>
 </context>
 <context>

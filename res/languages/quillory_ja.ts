@@ -509,6 +509,24 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 終了コード：0 完了、1 失敗、2 使い方の誤り、3 対象あり。
 </translation>
     </message>
+    <message>
+        <source>Writes a list to print or to send: its rows with what runs low and what is expired marked,
+totals, and drawings of what expires in the next twelve months and of what fewest are left.
+Without FILE, or with -, to standard output. An existing FILE is replaced.
+
+  --all                all lists in one report
+  --format NAME        pdf, or html for one page that needs no other file; without it what
+                       the name of FILE ends in, or pdf
+</source>
+        <translation>リストを印刷用か送信用に書きます：少ないものと期限切れに印を付けた行、集計、
+これから 12 か月に期限が来るものと残りが少ないものの図。FILE がないか - なら
+標準出力に書きます。既にある FILE は置き換えます。
+
+  --all                すべてのリストを 1 つにまとめます
+  --format NAME        pdf、またはほかのファイルが要らない 1 ページの html。
+                       なければ FILE の名前の終わりによります。どちらもなければ pdf
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1222,6 +1240,32 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>Undo</source>
         <translation>元に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>past</source>
+        <extracomment>The first bar of a drawing of months: what is expired already.</extracomment>
+        <translation>期限切れ</translation>
+    </message>
+    <message>
+        <source>What expires in the next twelve months</source>
+        <translation>これから 12 か月に期限が来るもの</translation>
+    </message>
+    <message>
+        <source>Of what fewest are left, beside the threshold</source>
+        <translation>残りが少ないもの（線は基準の数）</translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation>集計</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n 行</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -517,6 +517,25 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 Kończy się przez: 0 zrobione, 1 błąd, 2 złe użycie, 3 coś jest pilne.
 </translation>
     </message>
+    <message>
+        <source>Writes a list to print or to send: its rows with what runs low and what is expired marked,
+totals, and drawings of what expires in the next twelve months and of what fewest are left.
+Without FILE, or with -, to standard output. An existing FILE is replaced.
+
+  --all                all lists in one report
+  --format NAME        pdf, or html for one page that needs no other file; without it what
+                       the name of FILE ends in, or pdf
+</source>
+        <translation>Zapisuje listę do druku lub wysłania: jej wiersze z zaznaczonym tym, czego mało i
+co po terminie, sumy oraz rysunki tego, co traci ważność w ciągu dwunastu miesięcy
+i czego jest najmniej. Bez FILE lub z - na standardowe wyjście. Istniejący FILE
+zostaje zastąpiony.
+
+  --all                wszystkie listy w jednym raporcie
+  --format NAME        pdf albo html: strona, która nie potrzebuje innego pliku; bez
+                       tego według końca nazwy FILE lub pdf
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1240,6 +1259,34 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>Undo</source>
         <translation>Cofnij</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>past</source>
+        <extracomment>The first bar of a drawing of months: what is expired already.</extracomment>
+        <translation>minęło</translation>
+    </message>
+    <message>
+        <source>What expires in the next twelve months</source>
+        <translation>Co traci ważność w ciągu dwunastu miesięcy</translation>
+    </message>
+    <message>
+        <source>Of what fewest are left, beside the threshold</source>
+        <translation>Czego jest najmniej, obok progu</translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation>Sumy</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n wiersz</numerusform>
+            <numerusform>%n wiersze</numerusform>
+            <numerusform>%n wierszy</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -516,6 +516,25 @@ Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 Slutar med: 0 klart, 1 misslyckat, 2 fel anrop, 3 något är aktuellt.
 </translation>
     </message>
+    <message>
+        <source>Writes a list to print or to send: its rows with what runs low and what is expired marked,
+totals, and drawings of what expires in the next twelve months and of what fewest are left.
+Without FILE, or with -, to standard output. An existing FILE is replaced.
+
+  --all                all lists in one report
+  --format NAME        pdf, or html for one page that needs no other file; without it what
+                       the name of FILE ends in, or pdf
+</source>
+        <translation>Skriver en lista att skriva ut eller skicka: dess rader, med det som håller på att
+ta slut eller har gått ut märkt, summor, och teckningar av vad som går ut de
+närmaste tolv månaderna och av det som det finns minst av. Utan FILE, eller med -,
+till standard ut. En FILE som finns ersätts.
+
+  --all                alla listor i en rapport
+  --format NAME        pdf, eller html för en sida som inte behöver någon annan fil;
+                       annars det som FILE slutar på, eller pdf
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1234,6 +1253,33 @@ Tryck på Försök igen för att öppna datafilen på nytt.</translation>
     <message>
         <source>Undo</source>
         <translation>Ångra</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>past</source>
+        <extracomment>The first bar of a drawing of months: what is expired already.</extracomment>
+        <translation>passerat</translation>
+    </message>
+    <message>
+        <source>What expires in the next twelve months</source>
+        <translation>Vad som går ut de närmaste tolv månaderna</translation>
+    </message>
+    <message>
+        <source>Of what fewest are left, beside the threshold</source>
+        <translation>Det som det finns minst av, bredvid gränsen</translation>
+    </message>
+    <message>
+        <source>Totals</source>
+        <translation>Summor</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n rad</numerusform>
+            <numerusform>%n rader</numerusform>
+        </translation>
     </message>
 </context>
 <context>
