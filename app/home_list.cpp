@@ -86,6 +86,7 @@ void HomeList::BuildView()
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_view->setTextElideMode(Qt::ElideRight);
     KeepCurrentInSight(m_view);
+    MeetMouse(m_view);
     const int icon = CurrentMeasures().iconSize;
     m_view->setIconSize({ icon, icon });
 

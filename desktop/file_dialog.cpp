@@ -29,7 +29,7 @@ constexpr QSize kRoomyScreen(700, 600);
 /// Makes the controls of the toolkit's own dialog high enough for a finger.
 void FitToFingers(const QFileDialog& dialog)
 {
-    if (CurrentMeasures().lineHeight < kMinTouchTarget)
+    if (!HasTouchScreen())
         return;
     for (auto* button : dialog.findChildren<QToolButton*>())
         button->setFixedSize(kMinTouchTarget, kMinTouchTarget);

@@ -69,6 +69,7 @@ ThresholdEdit::ThresholdEdit(qint32 value, QWidget* parent)
         auto* button = new QToolButton(this);
         button->setText(text);
         button->setAccessibleName(name);
+        button->setToolTip(name);
         button->setAutoRepeat(true);
         button->setFocusPolicy(Qt::NoFocus);
         const int height = std::max(CurrentMeasures().lineHeight, 4 * kGrid);

@@ -67,6 +67,7 @@ DateField::DateField(const ValueContext& context, QWidget* parent)
     auto* button = new QToolButton(m_edit);
     button->setObjectName(u"openCalendar"_s);
     button->setAccessibleName(tr("Calendar"));
+    button->setToolTip(button->accessibleName());
     button->setArrowType(Qt::DownArrow);
     button->setAutoRaise(true);
     button->setCursor(Qt::ArrowCursor);

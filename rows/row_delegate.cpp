@@ -19,8 +19,9 @@ RowDelegate::RowDelegate(const RowsModel& model, const InventoryList& list,
     , m_painter(QFont())
 { }
 
-void RowDelegate::BeginFrame(const QFont& font, const QPalette& palette)
+void RowDelegate::BeginFrame(const QFont& font, const QPalette& palette, int lineUnderMouse)
 {
+    m_lineUnderMouse = lineUnderMouse;
     m_today = DateToFileTime(m_context.clock().date).value_or(FileTime {});
     m_colours = ColoursFor(m_list, m_hasAlternateLines, palette);
     if (m_painter.Font() != font)
@@ -51,6 +52,7 @@ RowLook RowDelegate::PaintGround(
 {
     RowFacts facts = m_model.FactsOf(line);
     facts.isSelected = isSelected;
+    facts.isUnderMouse = line == m_lineUnderMouse;
     const RowLook look = DecideRowLook(facts, WarningsFor(facts, m_list, m_today), m_colours);
     painter.fillRect(place, look.ground);
     painter.fillRect(place.left(), place.bottom(), place.width(), 1, m_colours.rule);

@@ -25,7 +25,7 @@ public:
 
     /// To be called before the cells of a frame are painted: works out what they have in common,
     /// the day among it.
-    void BeginFrame(const QFont& font, const QPalette& palette);
+    void BeginFrame(const QFont& font, const QPalette& palette, int lineUnderMouse = -1);
     /// Whether the cell that has the keyboard is framed, whatever it holds; a checkbox always is.
     void ShowCurrentCell(bool isShown) { m_showsCurrentCell = isShown; }
     /// Paints a piece of a line without what it holds, and gives how the line looks.
@@ -44,6 +44,7 @@ private:
     bool m_showsCurrentCell = false;
     RowColours m_colours;
     FileTime m_today {};
+    int m_lineUnderMouse = -1;
     RowPainter m_painter;
 
     /// What a row warns of, for the cell of its name, as much as there is room for; empty for every

@@ -12,7 +12,7 @@ void RowFieldDelegate::paint(
 {
     painter->fillRect(option.rect,
         option.state.testFlag(QStyle::State_Selected) ? TintedGround(option.palette)
-                                                      : option.palette.color(QPalette::Base));
+                                                      : GroundOf(option, index));
     DrawHairline(*painter, option);
     painter->setPen(
         option.palette.color(index.column() == 0 ? QPalette::PlaceholderText : QPalette::Text));

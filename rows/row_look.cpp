@@ -16,13 +16,14 @@ RowColours ColoursFor(const InventoryList& list, bool hasAlternateLines, const Q
     };
     const LineColours plain = on(palette.color(QPalette::Base));
     return { plain, hasAlternateLines ? on(AlternateRowColour(palette)) : plain,
-        palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight),
-        HairlineColour(palette) };
+        on(TintedGround(palette)), palette.color(QPalette::HighlightedText),
+        palette.color(QPalette::Highlight), HairlineColour(palette) };
 }
 
 RowLook DecideRowLook(const RowFacts& row, const RowWarnings& warnings, const RowColours& colours)
 {
-    const LineColours& line = row.line % 2 == 0 ? colours.alternate : colours.plain;
+    const LineColours& own = row.line % 2 == 0 ? colours.alternate : colours.plain;
+    const LineColours& line = row.isUnderMouse ? colours.underMouse : own;
     RowLook look { line.text, line.ground, line.mark, warnings.isLow && warnings.isExpired };
     if (warnings.isLow)
         look.text = line.lowText;

@@ -20,6 +20,7 @@ struct RowFacts
     /// A row without a count counts as 0.
     qint32 count = 0;
     std::optional<FileTime> expiry;
+    bool isUnderMouse = false;
 };
 
 /// The colours that lines of one ground may have.
@@ -38,6 +39,7 @@ struct RowColours
 {
     LineColours plain;
     LineColours alternate;
+    LineColours underMouse;
     QColor selectedText;
     QColor selectedGround;
     /// The hairlines between the rows.

@@ -100,7 +100,7 @@ void RowsTable::scrollTo(const QModelIndex& index, ScrollHint hint)
 
 void RowsTable::paintEvent(QPaintEvent* event)
 {
-    m_delegate->BeginFrame(font(), palette());
+    m_delegate->BeginFrame(font(), palette(), LineUnderMouse(*this));
     QTableView::paintEvent(event);
     QPainter painter(viewport());
     int end = event->rect().top();

@@ -186,9 +186,9 @@ private Q_SLOTS:
             InventoryList list;
             list.TableWarnColour = colour;
             list.TableExpiryColour = colour;
-            for (const int number : { 0, 1, 2, 3 }) {
+            for (const int number : { 0, 1, 2, 3, 4 }) {
                 const RowColours colours = ColoursFor(list, true, palette);
-                RowFacts row { number % 2, number > 1, 0, {} };
+                RowFacts row { number % 2, number / 2 == 1, 0, {}, number == 4 };
                 const RowLook plain = DecideRowLook(row, {}, colours);
                 note(text, plain.text, plain.ground);
                 note(line, palette.color(QPalette::PlaceholderText), colours.alternate.ground);

@@ -113,7 +113,7 @@ int AppStyle::pixelMetric(
     if (metric == PM_MenuScrollerHeight)
         return CurrentMeasures().lineHeight;
     // On either side of a divider.
-    if (metric == PM_HeaderGripMargin && CurrentMeasures().lineHeight >= kMinTouchTarget)
+    if (metric == PM_HeaderGripMargin && HasTouchScreen())
         return kMinTouchTarget / 2;
     return QProxyStyle::pixelMetric(metric, option, widget);
 }

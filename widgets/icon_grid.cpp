@@ -27,8 +27,7 @@ constexpr QRgb kDisabledCell = qRgb(0xD0, 0xD0, 0xD0);
 /// Pictures large enough that their cells can be hit.
 int GridIconSize()
 {
-    const bool isTouch = CurrentMeasures().lineHeight >= kMinTouchTarget;
-    return isTouch ? kMinTouchTarget - 2 * kInset : CurrentMeasures().iconSize + kGrid;
+    return HasTouchScreen() ? kMinTouchTarget - 2 * kInset : CurrentMeasures().iconSize + kGrid;
 }
 
 } // namespace

@@ -41,6 +41,8 @@ public:
         , m_face(face)
     {
         setAccessibleName(name);
+        setToolTip(name);
+        setAttribute(Qt::WA_Hover);
         setFocusPolicy(Qt::TabFocus);
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     }
@@ -63,7 +65,10 @@ public:
         const QColor ink = palette().color(isDown() ? QPalette::Base : QPalette::Text);
         painter.setPen(
             QPen(hasFocus() ? AccentInk(palette()) : OutlineColour(palette()), hasFocus() ? 2 : 1));
-        painter.setBrush(palette().color(isDown() ? QPalette::Text : QPalette::Base));
+        const bool isUnderMouse = underMouse() && !isDown() && !HasTouchScreen();
+        painter.setBrush(isUnderMouse
+                ? TintedGround(palette())
+                : palette().color(isDown() ? QPalette::Text : QPalette::Base));
         painter.drawRoundedRect(
             QRectF(rect()).adjusted(.5, .5, -.5, -.5), kCornerRadius, kCornerRadius);
         painter.setPen(ink);

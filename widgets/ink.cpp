@@ -121,6 +121,14 @@ QColor AccentInk(const QPalette& palette)
         { palette.color(QPalette::Base), palette.color(QPalette::Window), TintedGround(palette) });
 }
 
+QColor StrongerAccent(const QPalette& palette)
+{
+    constexpr double kShare = 0.8;
+    const QColor away(
+        IsDarkGround(palette.color(QPalette::HighlightedText)) ? Qt::white : Qt::black);
+    return Mix(palette.color(QPalette::Highlight), away, kShare);
+}
+
 QColor TintedGround(const QPalette& palette)
 {
     constexpr double kTint = 0.1;

@@ -32,7 +32,10 @@ constexpr double kVisible = 3;
 
 /// The accent as text, as a line or as a sign.
 [[nodiscard]] QColor AccentInk(const QPalette& palette);
-/// The ground of what is current or held down: the ground of pages with a tint of the accent.
+/// The ground of a button of the accent that a mouse is over, on which its text stands out more.
+[[nodiscard]] QColor StrongerAccent(const QPalette& palette);
+/// The ground of what is current, held down or under a mouse: the ground of pages with a tint of
+/// the accent.
 [[nodiscard]] QColor TintedGround(const QPalette& palette);
 /// The outline of what can be tapped or typed into.
 [[nodiscard]] QColor OutlineColour(const QPalette& palette);

@@ -2,8 +2,10 @@
 #include "widgets/line_delegate.h"
 
 #include "widgets/ink.h"
+#include "widgets/line_view.h"
 #include "widgets/measures.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 
 namespace Quillory {
@@ -17,6 +19,22 @@ void LineDelegate::DrawHairline(QPainter& painter, const QStyleOptionViewItem& o
 {
     const QRect& cell = option.rect;
     painter.fillRect(cell.left(), cell.bottom(), cell.width(), 1, HairlineColour(option.palette));
+}
+
+QColor LineDelegate::GroundOf(const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+    return view != nullptr && index.row() == LineUnderMouse(*view)
+        ? TintedGround(option.palette)
+        : option.palette.color(QPalette::Base);
+}
+
+QSize LineDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const QRect cell(0, 0, kPageMargin, 0);
+    const int margins = cell.width() - TextRoom(cell, index.column()).width();
+    return { option.fontMetrics.horizontalAdvance(index.data().toString()) + margins,
+        QStyledItemDelegate::sizeHint(option, index).height() };
 }
 
 void LineDelegate::DrawLabel(QPainter& painter, const QStyleOptionViewItem& option,
@@ -35,8 +53,8 @@ void LineDelegate::paint(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-    painter->fillRect(
-        option.rect, option.palette.color(isSelected ? QPalette::Highlight : QPalette::Base));
+    painter->fillRect(option.rect,
+        isSelected ? option.palette.color(QPalette::Highlight) : GroundOf(option, index));
     DrawHairline(*painter, option);
     painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
     DrawLabel(*painter, option, TextRoom(option.rect, index.column()), index);

@@ -16,8 +16,14 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
         const QModelIndex& index) const override;
+    /// As wide as a cell whose text is not cut.
+    [[nodiscard]] QSize sizeHint(
+        const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 protected:
+    /// The ground of a line that is not selected.
+    [[nodiscard]] static QColor GroundOf(
+        const QStyleOptionViewItem& option, const QModelIndex& index);
     /// The room of a cell's text: the first column begins at the margin of the page.
     [[nodiscard]] static QRect TextRoom(const QRect& cell, int column);
     static void DrawHairline(QPainter& painter, const QStyleOptionViewItem& option);

@@ -3,12 +3,15 @@
 
 #include "widgets/measures.h"
 
+#include <QCursor>
 #include <QEvent>
 #include <QFontDatabase>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QTableView>
+#include <QToolTip>
 
 namespace Quillory {
 
@@ -81,7 +84,61 @@ private:
     }
 };
 
+/// Says what is cut in a view, or in its header, which is a view as well.
+class CutTextTeller : public QObject
+{
+public:
+    explicit CutTextTeller(QAbstractItemView* view)
+        : QObject(view)
+        , m_view(view)
+    {
+        view->viewport()->setAttribute(Qt::WA_Hover);
+        view->viewport()->installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::ToolTip)
+            return QObject::eventFilter(watched, event);
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString text = CutText(help->pos());
+        if (text.isEmpty())
+            return QObject::eventFilter(watched, event);
+        QToolTip::showText(help->globalPos(), text, m_view);
+        return true;
+    }
+
+private:
+    QAbstractItemView* m_view;
+
+    /// What is written in a place and is not seen whole.
+    [[nodiscard]] QString CutText(const QPoint& place) const
+    {
+        if (const auto* header = qobject_cast<const QHeaderView*>(m_view)) {
+            const int column = header->logicalIndexAt(place);
+            const bool isCut
+                = column >= 0 && header->sectionSizeHint(column) > header->sectionSize(column);
+            return isCut ? header->model()->headerData(column, Qt::Horizontal).toString()
+                         : QString();
+        }
+        const QModelIndex index = m_view->indexAt(place);
+        const int seen = (m_view->visualRect(index) & m_view->viewport()->rect()).width();
+        return m_view->sizeHintForIndex(index).width() > seen ? index.data().toString() : QString();
+    }
+};
+
 } // namespace
+
+void MeetMouse(QAbstractItemView* view)
+{
+    new CutTextTeller(view);
+}
+
+int LineUnderMouse(const QAbstractItemView& view)
+{
+    if (!view.viewport()->underMouse() || HasTouchScreen())
+        return -1;
+    return view.indexAt(view.viewport()->mapFromGlobal(QCursor::pos())).row();
+}
 
 void KeepCurrentInSight(QAbstractItemView* view)
 {
@@ -101,7 +158,9 @@ void DressLineView(QTableView* view)
     view->verticalHeader()->hide();
     new LineHeightKeeper(view);
     KeepCurrentInSight(view);
+    MeetMouse(view);
     QHeaderView* header = view->horizontalHeader();
+    MeetMouse(header);
     header->setHighlightSections(false);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setMinimumSectionSize(kMinTouchTarget / 2);

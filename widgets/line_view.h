@@ -13,6 +13,14 @@ namespace Quillory {
 /// one stays in sight.
 void DressLineView(QTableView* view);
 
+/// A mouse gives the line it is over a ground of its own, and has the view and its header say as a
+/// tip what is cut there.
+void MeetMouse(QAbstractItemView* view);
+
+/// The line that is drawn on TintedGround; -1 for none. With a touch screen there is none, for the
+/// line that was touched last would keep it.
+[[nodiscard]] int LineUnderMouse(const QAbstractItemView& view);
+
 /// Keeps the current line in sight where the view shrinks below it, as above an on-screen keyboard.
 void KeepCurrentInSight(QAbstractItemView* view);
 

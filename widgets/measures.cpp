@@ -9,14 +9,17 @@
 
 namespace Quillory {
 
-const Measures& CurrentMeasures()
+bool HasTouchScreen()
 {
     const auto devices = QInputDevice::devices();
-    const bool hasTouch
-        = std::any_of(devices.begin(), devices.end(), [](const QInputDevice* device) {
-              return device->type() == QInputDevice::DeviceType::TouchScreen;
-          });
-    return hasTouch ? kTouchMeasures : kMouseMeasures;
+    return std::any_of(devices.begin(), devices.end(), [](const QInputDevice* device) {
+        return device->type() == QInputDevice::DeviceType::TouchScreen;
+    });
+}
+
+const Measures& CurrentMeasures()
+{
+    return HasTouchScreen() ? kTouchMeasures : kMouseMeasures;
 }
 
 const Measures& FrameMeasures(int windowHeight)

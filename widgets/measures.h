@@ -38,6 +38,7 @@ constexpr int kMaxPageWidth = 700;
 /// A lower window has no height to spare for its frame.
 constexpr int kLowWindow = 400;
 
+[[nodiscard]] bool HasTouchScreen();
 /// The measures for the devices at hand: touch where there is a touch screen.
 [[nodiscard]] const Measures& CurrentMeasures();
 /// The measures of the header, tabs and soft keys in a window of this height: those for a mouse in

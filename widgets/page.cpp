@@ -38,6 +38,13 @@ class TitleLabel : public QLabel
 public:
     using QLabel::QLabel;
 
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::ToolTip)
+            setToolTip(fontMetrics().horizontalAdvance(text()) > width() ? text() : QString());
+        return QLabel::event(event);
+    }
+
 protected:
     bool event(QEvent* event) override
     {
@@ -256,6 +263,7 @@ QToolButton* Page::MakeHelpButton(QWidget* parent)
     button->setObjectName(u"help"_s);
     button->setText(u"?"_s);
     button->setAccessibleName(tr("Help"));
+    button->setToolTip(button->accessibleName());
     button->setAutoRaise(true);
     connect(button, &QToolButton::clicked, this, [this] { Q_EMIT HelpRequested(m_helpAnchor); });
     return button;

@@ -30,13 +30,20 @@ namespace {
 /// The line below a tab.
 constexpr int kTabRule = 3;
 
+QString TextOf(const QString& resource)
+{
+    QFile file(resource);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 QString StyleSheet(const QWidget& window)
 {
     LoadStyleResources();
-    QFile file(u":/window.qss"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QString sheet = QString::fromUtf8(file.readAll());
+    QString sheet;
+    // What is pressed or has the keyboard looks so under a mouse, too.
+    if (!HasTouchScreen())
+        sheet += TextOf(u":/mouse.qss"_s);
+    sheet += TextOf(u":/window.qss"_s);
     // Menu entries are as high as the lines of lists.
     const int text = window.fontMetrics().height();
     const int padding = std::max(4, (CurrentMeasures().lineHeight - text) / 2);
@@ -50,8 +57,7 @@ QString StyleSheet(const QWidget& window)
     // On the left the toolkit leaves room of its own, for pictures that our menus do not have.
     set(u"menu-left"_s, window.isRightToLeft() ? kPageMargin : 2);
     // With the padding and the border of a button.
-    set(u"answer-height"_s,
-        CurrentMeasures().lineHeight >= kMinTouchTarget ? kMinTouchTarget - 14 : 24);
+    set(u"answer-height"_s, HasTouchScreen() ? kMinTouchTarget - 14 : 24);
     set(u"tab-height"_s, FrameMeasures(window.height()).headerHeight - kTabRule);
     const QPalette& palette = window.palette();
     replace(u"accent"_s, AccentInk(palette).name());
@@ -59,6 +65,7 @@ QString StyleSheet(const QWidget& window)
     replace(u"disabled"_s, palette.color(QPalette::Disabled, QPalette::Text).name());
     replace(u"disabled-button"_s, palette.color(QPalette::Disabled, QPalette::ButtonText).name());
     replace(u"tint"_s, TintedGround(palette).name());
+    replace(u"ok-hover"_s, StrongerAccent(palette).name());
     replace(u"outline"_s, OutlineColour(palette).name());
     replace(u"hairline"_s, HairlineColour(palette).name());
     return sheet;
