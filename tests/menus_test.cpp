@@ -10,6 +10,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QPointer>
 
 namespace {
 
@@ -103,6 +104,38 @@ private Q_SLOTS:
                 Act(u"press Esc"_s);
                 QVERIFY(QApplication::activePopupWidget() == nullptr);
             }
+        }
+    }
+
+    // A Wayland compositor shows nothing over the window for a key that was let go already.
+    void whatAKeyOpensIsThereOnItsPress()
+    {
+        struct KeyCase
+        {
+            Page* (*make)(const ListFixture& file, InventoryList& list);
+            QString focused;
+            Qt::Key key;
+        };
+        for (const KeyCase& subject : { KeyCase { NewHome, u"rightKey"_s, Qt::Key_Space },
+                 { NewHome, u"rightKey"_s, Qt::Key_Return }, { NewRows, {}, Qt::Key_F10 },
+                 { NewSheet, u"countColour"_s, Qt::Key_Space } }) {
+            ListFixture file(u"Pantry"_s);
+            file.list.TableOption = kWarnOnCount;
+            PageStack stack;
+            stack.Push(subject.make(file, file.list));
+            stack.show();
+            QVERIFY(QTest::qWaitForWindowActive(&stack));
+            if (subject.focused == u"countColour"_s)
+                Act(u"tap Options"_s);
+            if (auto* focused = stack.Top()->findChild<QWidget*>(subject.focused))
+                focused->setFocus();
+            QTest::keyPress(QApplication::focusWidget(), subject.key);
+            QPointer<QWidget> opened = QApplication::activePopupWidget();
+            QVERIFY2(opened != nullptr, qPrintable(subject.focused));
+            QTest::keyRelease(opened, subject.key);
+            QTest::qWait(200);
+            QVERIFY(opened != nullptr && opened->isVisible());
+            Act(u"press Esc"_s);
         }
     }
 };

@@ -71,9 +71,8 @@ private Q_SLOTS:
     {
         Subject sheet;
         Show(sheet, kPages.front());
-        const auto middleTip = [](const QWidget* widget) {
-            return TipAt(*widget, widget->rect().center());
-        };
+        const auto middleTip
+            = [](const QWidget* widget) { return TipAt(*widget, widget->rect().center()); };
         const auto named = [&](QLatin1StringView name) {
             return middleTip(sheet.page->findChild<QWidget*>(name));
         };
@@ -132,10 +131,9 @@ private Q_SLOTS:
         ApplyWindowStyle(rows.stack.get());
         // Nearly the whole width of a line, not the one cell.
         const int line = rows.View()->width() * rows.Cell(1, Name).height();
-        const auto changed
-            = [&rows](const QWidget* widget, const QPoint& place) {
-                  return ChangedUnderMouse(*rows.stack, *widget, place);
-              };
+        const auto changed = [&rows](const QWidget* widget, const QPoint& place) {
+            return ChangedUnderMouse(*rows.stack, *widget, place);
+        };
         const int seen = changed(rows.View()->viewport(), rows.Cell(1, Name).center());
         QVERIFY2(seen > line * 8 / 10 && seen <= line, qPrintable(QString::number(seen)));
         for (const QLatin1StringView name : { "leftKey"_L1, "rightKey"_L1, "help"_L1, "ok"_L1 }) {

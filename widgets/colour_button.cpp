@@ -85,6 +85,9 @@ void ColourButton::keyPressEvent(QKeyEvent* event)
         Step(-1);
     else if (event->key() == Qt::Key_Down)
         Step(1);
+    else if (event->key() == Qt::Key_Space)
+        // Not on its release: Wayland compositors show no pop-up for a key that was let go already.
+        click();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         // The page's, as from any field; some desktops would press the button.
         event->ignore();

@@ -140,7 +140,8 @@ private:
     QToolButton* m_key;
 };
 
-/// The soft key of a menu.
+/// The soft key of a menu, which opens on the press of a key: Wayland compositors show no menu for
+/// a key that was let go already.
 class MenuKey : public QToolButton
 {
     Q_OBJECT
@@ -152,6 +153,22 @@ public:
         MeetAs<AccessibleMenuKey, MenuKey>();
         // Older toolkits keep the state to themselves.
         setAccessibleDescription(tr("opens a menu"));
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::Shortcut)
+            return QToolButton::event(event);
+        click();
+        return true;
+    }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Space)
+            click();
+        else
+            QToolButton::keyPressEvent(event);
     }
 };
 
