@@ -3,6 +3,7 @@
 
 #include "res/string_table.h"
 #include "widgets/empty_hint.h"
+#include "widgets/focus_ring.h"
 #include "widgets/line_delegate.h"
 #include "widgets/line_view.h"
 #include "widgets/measures.h"
@@ -87,6 +88,7 @@ void HomeList::BuildView()
     m_view->setTextElideMode(Qt::ElideRight);
     KeepCurrentInSight(m_view);
     MeetMouse(m_view);
+    ShowFocusRing(m_view);
     const int icon = CurrentMeasures().iconSize;
     m_view->setIconSize({ icon, icon });
 

@@ -2,6 +2,7 @@
 #include "listdef/import_order_page.h"
 
 #include "res/dialog_table.h"
+#include "widgets/focus_ring.h"
 #include "widgets/line_view.h"
 #include "widgets/measures.h"
 #include "widgets/touch.h"
@@ -54,6 +55,7 @@ ImportOrderPage::ImportOrderPage(const std::vector<ColumnDefinition>& columns, Q
     for (const ColumnDefinition& column : columns)
         m_list->addItem(column.name);
     MeetMouse(m_list);
+    ShowFocusRing(m_list);
     new TouchBehaviour(m_list);
     Body()->addWidget(m_list, 1);
 

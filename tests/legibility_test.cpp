@@ -131,6 +131,44 @@ private Q_SLOTS:
         QVERIFY2(faint.isEmpty(), qPrintable(u'\n' + faint.join(u'\n')));
     }
 
+    void whatHasTheKeyboardHasARing_data() { everyTextOfAPageCanBeRead_data(); }
+
+    void whatHasTheKeyboardHasARing()
+    {
+        const auto [palette] = Table<QPalette>::Row();
+        QApplication::setStyle(new AppStyle);
+        QApplication::setPalette(palette);
+        const QRgb accent = AccentInk(palette).rgb();
+        constexpr int kLeast = 90;
+        QStringList missing;
+        for (const PageCase& page : kPages) {
+            Subject subject;
+            ApplyWindowStyle(&subject.stack);
+            Show(subject, page);
+            for (QWidget* widget : subject.page->findChildren<QWidget*>()) {
+                if ((widget->focusPolicy() & Qt::TabFocus) == 0 || !widget->isVisible()
+                    || !widget->isEnabled() || widget->focusProxy() != nullptr)
+                    continue;
+                widget->clearFocus();
+                const QImage before = subject.stack.grab().toImage();
+                widget->setFocus(Qt::TabFocusReason);
+                const QImage now = subject.stack.grab().toImage();
+                int ring = 0;
+                for (int y = 0; y < now.height(); ++y) {
+                    for (int x = 0; x < now.width(); ++x)
+                        // Where the ground has that colour the ring stands off it.
+                        ring += before.pixel(x, y) != now.pixel(x, y)
+                            && (now.pixel(x, y) == accent || before.pixel(x, y) == accent);
+                }
+                if (ring < kLeast)
+                    QDebug(&missing.emplace_back())
+                        << page.name << widget->metaObject()->className() << widget->objectName()
+                        << ring;
+            }
+        }
+        QVERIFY2(missing.isEmpty(), qPrintable(u'\n' + missing.join(u'\n')));
+    }
+
     void lettersAreNeverTooSmall()
     {
         const auto restore

@@ -115,33 +115,6 @@ private Q_SLOTS:
         QCOMPARE(layout.Step(from, static_cast<Qt::Key>(key)), to);
     }
 
-    void theFocusOfTheIconGridIsSeen_data()
-    {
-        const Table<QPalette> add;
-        add("light", QPalette(Qt::white));
-        add("dark", QPalette(Qt::black));
-    }
-
-    void theFocusOfTheIconGridIsSeen()
-    {
-        const auto [palette] = Table<QPalette>::Row();
-        QApplication::setStyle(new AppStyle);
-        QWidget window;
-        auto* grid = new IconGrid(&window);
-        auto* other = new QLineEdit(&window);
-        window.setPalette(palette);
-        grid->resize(300, 100);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        grid->SelectIcon(40);
-        const QRect cell = grid->visualRect(grid->model()->index(40, 0));
-        const auto picture = [grid, cell] { return grid->viewport()->grab(cell).toImage(); };
-        grid->setFocus();
-        const QImage focused = picture();
-        other->setFocus();
-        QVERIFY(focused != picture());
-    }
-
     void whatIsDrawnByHandIsThere()
     {
         QApplication::setStyle(new AppStyle);

@@ -17,8 +17,7 @@ struct Job
 const std::array kJobs {
     Job { "open a list", 1, u"tap Pantry"_s, u"at Pantry; see Rice, Salt, Tea"_s },
     Job { "count a row up", 2, u"hold Tea; tap Add 1"_s, u"see Quantity: 1, 2, 4"_s },
-    Job { "add a row with its amount", 2,
-        u"tap New; type Flour; press Return; type 5; tap ok"_s,
+    Job { "add a row with its amount", 2, u"tap New; type Flour; press Return; type 5; tap ok"_s,
         u"see Quantity: 1, 2, 4, 5"_s },
     Job { "change a price", 3,
         u"hold Salt; tap Modify...; press Return Return Return Return; type 2.5; tap ok"_s,
@@ -46,8 +45,9 @@ private Q_SLOTS:
         errand.MakeLists({});
         {
             ListFixture file(u"Pantry"_s);
-            for (const auto& [name, count, expiry] : { std::array { u"Rice"_s, u"1"_s, u"5/1/2027"_s },
-                     { u"Salt"_s, u"2"_s, u"6/1/2027"_s }, { u"Tea"_s, u"3"_s, u"4/1/2027"_s } })
+            for (const auto& [name, count, expiry] :
+                { std::array { u"Rice"_s, u"1"_s, u"5/1/2027"_s },
+                    { u"Salt"_s, u"2"_s, u"6/1/2027"_s }, { u"Tea"_s, u"3"_s, u"4/1/2027"_s } })
                 file.Add({ name, count, {}, u"Unchecked"_s, {}, {}, {}, expiry });
             file.rows.reset();
             file.catalogue.reset();

@@ -3,6 +3,7 @@
 
 #include "widgets/accessibility.h"
 #include "widgets/accessible_choice.h"
+#include "widgets/focus_ring.h"
 #include "widgets/icon_set.h"
 #include "widgets/ink.h"
 #include "widgets/measures.h"
@@ -125,9 +126,12 @@ void AppStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* optio
         DrawCheckbox(*painter, *option);
     else if (element == PE_IndicatorRadioButton)
         DrawRadio(*painter, *option);
-    // The selected line of a list tells where the focus is; a frame over it would shade its text.
-    else if (element != PE_FrameFocusRect
-        || qobject_cast<const QAbstractItemView*>(widget) == nullptr)
+    else if (element == PE_FrameFocusRect) {
+        // The selected line of a list tells where the focus is; a frame over it would shade its
+        // text.
+        if (qobject_cast<const QAbstractItemView*>(widget) == nullptr)
+            DrawFocusRing(*painter, option->rect, option->palette);
+    } else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 

@@ -4,6 +4,7 @@
 #include "widgets/accessibility.h"
 #include "widgets/colour_grid.h"
 #include "widgets/colour_palette.h"
+#include "widgets/focus_ring.h"
 #include "widgets/ink.h"
 #include "widgets/measures.h"
 
@@ -114,9 +115,7 @@ void ColourButton::paintEvent(QPaintEvent* /*event*/)
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     QPainterPath frame;
     frame.addRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), kGrid / 2., kGrid / 2.);
-    painter.setPen(hasFocus() ? AccentInk(palette())
-            : isEnabled()     ? OutlineColour(palette())
-                              : HairlineColour(palette()));
+    painter.setPen(isEnabled() ? OutlineColour(palette()) : HairlineColour(palette()));
     painter.setBrush(palette().color(group, QPalette::Base));
     painter.drawPath(frame);
     const QRect inner = rect().adjusted(1, 1, -1, -1);
@@ -127,6 +126,8 @@ void ColourButton::paintEvent(QPaintEvent* /*event*/)
     QRect area = inner;
     area.setRight(strip.left() - 1);
     DrawSwatch(painter, area.adjusted(2, 1, -2, -1));
+    if (hasFocus())
+        DrawFocusRing(painter, rect(), palette());
 }
 
 void ColourButton::DrawMark(QPainter& painter, const QRect& strip) const
@@ -145,13 +146,11 @@ void ColourButton::DrawMark(QPainter& painter, const QRect& strip) const
 
 void ColourButton::DrawSwatch(QPainter& painter, const QRect& area) const
 {
-    if (hasFocus())
-        painter.fillRect(area, palette().color(QPalette::Highlight));
     const bool isAutomatic = m_colour == kAutomaticColour;
     QColor fill = isAutomatic ? palette().color(QPalette::Text) : PaletteColour(m_colour);
     if (!isEnabled())
         fill = palette().color(QPalette::Disabled, QPalette::Text);
-    const int inset = hasFocus() ? 2 : kGrid / 2;
+    const int inset = kGrid / 2;
     const QRectF swatch = QRectF(area).adjusted(inset + .5, inset + .5, -inset - .5, -inset - .5);
     painter.setPen(QColor(kOutline));
     painter.setBrush(fill);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/icon_grid.h"
 
+#include "widgets/focus_ring.h"
 #include "widgets/icon_set.h"
 #include "widgets/measures.h"
 #include "widgets/touch.h"
@@ -93,6 +94,7 @@ IconGrid::IconGrid(QWidget* parent)
     setModel(icons);
     setFrameShape(QFrame::NoFrame);
     setEditTriggers(NoEditTriggers);
+    ShowFocusRing(this);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     new TouchBehaviour(this);
@@ -189,10 +191,6 @@ void IconGrid::DrawCell(QPainter& painter, int index) const
         painter.fillRect(cell, QColor(kDisabledCell));
     else if (isSelected)
         painter.fillRect(cell, palette().color(QPalette::Highlight));
-    if (isSelected && hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::HighlightedText), kInset));
-        painter.drawRect(cell.adjusted(kInset, kInset, -kInset, -kInset));
-    }
     ListIcon(index).paint(&painter, cell.adjusted(kInset, kInset, -kInset, -kInset),
         Qt::AlignCenter, isSelected ? QIcon::Selected : QIcon::Normal);
 }

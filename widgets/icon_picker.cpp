@@ -2,6 +2,7 @@
 #include "widgets/icon_picker.h"
 
 #include "widgets/accessibility.h"
+#include "widgets/focus_ring.h"
 #include "widgets/icon_grid_page.h"
 #include "widgets/icon_set.h"
 #include "widgets/ink.h"
@@ -63,14 +64,15 @@ public:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const QColor ink = palette().color(isDown() ? QPalette::Base : QPalette::Text);
-        painter.setPen(
-            QPen(hasFocus() ? AccentInk(palette()) : OutlineColour(palette()), hasFocus() ? 2 : 1));
+        painter.setPen(OutlineColour(palette()));
         const bool isUnderMouse = underMouse() && !isDown() && !HasTouchScreen();
         painter.setBrush(isUnderMouse
                 ? TintedGround(palette())
                 : palette().color(isDown() ? QPalette::Text : QPalette::Base));
         painter.drawRoundedRect(
             QRectF(rect()).adjusted(.5, .5, -.5, -.5), kCornerRadius, kCornerRadius);
+        if (hasFocus())
+            DrawFocusRing(painter, rect(), palette());
         painter.setPen(ink);
         if (m_face == Face::Dots) {
             painter.drawText(rect(), Qt::AlignCenter, u"..."_s);
@@ -243,16 +245,17 @@ void IconPicker::paintEvent(QPaintEvent* /*event*/)
         face.setLeft(firstButton->geometry().right() + 3);
     else
         face.setRight(firstButton->x() - 3);
-    painter.setPen(hasFocus() ? AccentInk(palette()) : OutlineColour(palette()));
-    painter.setBrush(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Base));
+    painter.setPen(OutlineColour(palette()));
+    painter.setBrush(palette().color(QPalette::Base));
     painter.drawRoundedRect(QRectF(face).adjusted(.5, .5, -.5, -.5), kCornerRadius, kCornerRadius);
+    if (hasFocus())
+        DrawFocusRing(painter, face, palette());
     if (m_icon < 0)
         return;
     const int size = face.height() - kGrid;
     QRect picture(0, 0, size, size);
     picture.moveCenter(face.center());
-    ListIcon(m_icon).paint(
-        &painter, picture, Qt::AlignCenter, hasFocus() ? QIcon::Selected : QIcon::Normal);
+    ListIcon(m_icon).paint(&painter, picture);
 }
 
 } // namespace Quillory

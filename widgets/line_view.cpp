@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/line_view.h"
 
+#include "widgets/focus_ring.h"
 #include "widgets/measures.h"
 
 #include <QCursor>
@@ -159,6 +160,7 @@ void DressLineView(QTableView* view)
     new LineHeightKeeper(view);
     KeepCurrentInSight(view);
     MeetMouse(view);
+    ShowFocusRing(view);
     QHeaderView* header = view->horizontalHeader();
     MeetMouse(header);
     header->setHighlightSections(false);

@@ -218,6 +218,9 @@ Page::Page(const QString& title, QWidget* parent)
     for (const QKeyCombination key : { Qt::CTRL | Qt::Key_W, Qt::ALT | Qt::Key_Left })
         connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
             &QShortcut::activated, this, &Page::GoBack);
+    for (const QKeyCombination key : { Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter })
+        connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
+            &QShortcut::activated, this, [this] { RequestEnd(PageResult::Ok); });
 }
 
 void Page::BuildHeader(const QString& title)

@@ -32,9 +32,9 @@ enum class PageResult
 /// A full-screen page: a header with the title, OK and help, the page's own body, and the soft-key
 /// bar. It writes nothing to the store; its opener does, in the continuation on its result.
 ///
-/// OK, Done and Return end it with Ok, the Cancel key with Cancel. So do Escape, Ctrl+W and
-/// Alt+Left, which ask first where input would be lost. Return presses the button that has the
-/// keyboard, where one has it. Nothing of this works while another page covers it.
+/// OK, Done, Ctrl+Return and Return end it with Ok, the Cancel key with Cancel. So do Escape,
+/// Ctrl+W and Alt+Left, which ask first where input would be lost. Return presses the button that
+/// has the keyboard, where one has it. Nothing of this works while another page covers it.
 class Page : public QWidget
 {
     Q_OBJECT
