@@ -26,8 +26,7 @@ bool IsHtmlWanted(const CommandRun& run, const QString& path)
 
 Database::VisitOutcome AddList(const CommandRun& run, CommandData& data, ReportWriter& writer)
 {
-    return writer.Add(
-        ReportSource(data.volume, data.Rows(), data.list, run.environment.context));
+    return writer.Add(ReportSource(data.volume, data.Rows(), data.list, run.environment.context));
 }
 
 } // namespace

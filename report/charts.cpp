@@ -82,13 +82,16 @@ Chart DrawMonths(const ReportSource& source, const ReportFacts& facts, const QBy
     constexpr double kGap = 8;
     constexpr auto kBars = static_cast<int>(ReportFacts::kMonths) + 1;
     constexpr double kStep = double { kWidth } / kBars;
-    const qint64 most = std::max({ qint64 { 1 }, facts.expired, *std::ranges::max_element(facts.expiring) });
+    const qint64 most
+        = std::max({ qint64 { 1 }, facts.expired, *std::ranges::max_element(facts.expiring) });
     Drawing drawing(ink);
     const auto add = [&](int place, qint64 rows, const QString& label, const char* colour) {
         const double middle = (place + 0.5) * kStep;
-        const double height = (kGround - kTop) * static_cast<double>(rows) / static_cast<double>(most);
+        const double height
+            = (kGround - kTop) * static_cast<double>(rows) / static_cast<double>(most);
         if (rows > 0) {
-            drawing.AddBar(middle - kStep / 2 + kGap / 2, kGround - height, kStep - kGap, height, colour);
+            drawing.AddBar(
+                middle - kStep / 2 + kGap / 2, kGround - height, kStep - kGap, height, colour);
             drawing.AddText(middle, kGround - height - 4, "middle", QString::number(rows));
         }
         drawing.AddText(middle, kGround + kLineOfText, "middle", label);
@@ -99,9 +102,11 @@ Chart DrawMonths(const ReportSource& source, const ReportFacts& facts, const QBy
     for (int i = 1; i < kBars; ++i) {
         const QDate month = first.addMonths(i - 1);
         add(i, facts.expiring.at(static_cast<size_t>(i - 1)),
-            source.Context().userLocale.shortMonthNames.at(static_cast<size_t>(month.month() - 1)), kBar);
+            source.Context().userLocale.shortMonthNames.at(static_cast<size_t>(month.month() - 1)),
+            kBar);
         if (i == 1 || month.month() == 1)
-            drawing.AddText((i + 0.5) * kStep, kGround + 2 * kLineOfText, "middle", QString::number(month.year()));
+            drawing.AddText((i + 0.5) * kStep, kGround + 2 * kLineOfText, "middle",
+                QString::number(month.year()));
     }
     drawing.AddLine(0, kGround, kWidth, kGround);
     return drawing.Finish(

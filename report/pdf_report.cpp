@@ -117,8 +117,7 @@ public:
     {
         QFile icon(ListIconFile(list.List().TableIcon));
         if (icon.open(QIODevice::ReadOnly))
-            AddDrawing(icon.readAll().replace("#000", kInk.name().toLatin1()),
-                { kIcon, kIcon });
+            AddDrawing(icon.readAll().replace("#000", kInk.name().toLatin1()), { kIcon, kIcon });
         QTextCharFormat title = Ink(kInk, kTitlePoints, true);
         title.setVerticalAlignment(QTextCharFormat::AlignMiddle);
         m_cursor.insertText(u"  "_s + list.List().Name, title);
@@ -134,8 +133,8 @@ public:
         AddBlock(kCellPadding);
         AddDrawing(chart.drawing, QSizeF(width, chart.height * width / kChartWidth));
     }
-    QTextTable* AddTable(const ReportSource& list, const QList<QTextLength>& widths,
-        std::span<const Line> lines)
+    QTextTable* AddTable(
+        const ReportSource& list, const QList<QTextLength>& widths, std::span<const Line> lines)
     {
         AddBlock(kGap / 2);
         const auto& columns = list.Columns();
@@ -150,8 +149,8 @@ public:
             Fill(*table, 0, column, isNumber, Ink(kInk, kBodyPoints, true), definition.name);
             for (int row = 1; row < table->rows(); ++row) {
                 const Line& line = lines[static_cast<size_t>(row) - 1];
-                QTextCursor cell = Fill(*table, row, column, isNumber, Ink(InkOf(line.warnings)),
-                    line.texts[column]);
+                QTextCursor cell = Fill(
+                    *table, row, column, isNumber, Ink(InkOf(line.warnings)), line.texts[column]);
                 if (definition.id == PropName && line.warnings != RowWarnings {})
                     cell.insertText(u"  "_s + WarningText(line.warnings),
                         Ink(InkOf(line.warnings), kBodyPoints * 0.8, true));
@@ -266,8 +265,7 @@ public:
     Pages(QIODevice& target, const QString& title)
         : m_writer(&target)
     {
-        const bool isImperial
-            = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+        const bool isImperial = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
         m_writer.setTitle(title);
         m_writer.setResolution(kPixelsPerInch);
         m_writer.setPageSize(QPageSize(isImperial ? QPageSize::Letter : QPageSize::A4));
@@ -322,8 +320,7 @@ private:
                 const double mark = columns[i].id == PropName && line.warnings != RowWarnings {}
                     ? boldMetrics.horizontalAdvance(u"  "_s + WarningText(line.warnings))
                     : 0;
-                width = std::max(
-                    width, plainMetrics.horizontalAdvance(line.texts[place]) + mark);
+                width = std::max(width, plainMetrics.horizontalAdvance(line.texts[place]) + mark);
             }
             natural << width + 3 * kCellPadding;
         }
@@ -408,7 +405,8 @@ private:
         m_painter.setPen(kQuiet);
         const QRectF footer(0, room.height(), room.width(), kFooter);
         m_painter.drawText(footer, Qt::AlignLeft | Qt::AlignBottom,
-            QFontMetricsF(small, &m_writer).elidedText(m_name, Qt::ElideRight, room.width() * 2 / 3));
+            QFontMetricsF(small, &m_writer)
+                .elidedText(m_name, Qt::ElideRight, room.width() * 2 / 3));
         m_painter.drawText(footer, Qt::AlignRight | Qt::AlignBottom, QString::number(++m_page));
     }
 };

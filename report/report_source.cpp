@@ -24,8 +24,7 @@ void KeepFewest(std::vector<ReportFacts::Count>& fewest, const QString& name, qi
 {
     if (fewest.size() == ReportFacts::kMostCounts && fewest.back().count <= count)
         return;
-    const auto place
-        = std::ranges::upper_bound(fewest, count, {}, &ReportFacts::Count::count);
+    const auto place = std::ranges::upper_bound(fewest, count, {}, &ReportFacts::Count::count);
     fewest.insert(place, { name, count });
     if (fewest.size() > ReportFacts::kMostCounts)
         fewest.pop_back();
@@ -64,8 +63,8 @@ ListTotals ReportSource::Totals() const
 ReportFacts ReportSource::Facts() const
 {
     ReportFacts facts;
-    facts.hasExpiryDates = std::ranges::find(m_columns, PropExpiryDate, &ColumnDefinition::id)
-        != m_columns.end();
+    facts.hasExpiryDates
+        = std::ranges::find(m_columns, PropExpiryDate, &ColumnDefinition::id) != m_columns.end();
     const bool warnsOfCount = (m_list.TableOption & kWarnOnCount) != 0;
     PropertyValue name { PropName, 0, {} };
     // Rows that cannot be read are told of when they are written.
@@ -107,8 +106,8 @@ Database::VisitOutcome ReportSource::Visit(const std::function<bool(const Report
     return ScanPastDamage(m_rows, ids, nullptr, m_context, [&](const ScannedRecord& record) {
         for (size_t i = 0; i < row.values.size(); ++i)
             record.Read(i, row.values[i]);
-        row.warnings = WarningsFor(static_cast<qint32>(record.Integer(count)),
-            ExpiryOf(record, count + 1), m_list, today);
+        row.warnings = WarningsFor(
+            static_cast<qint32>(record.Integer(count)), ExpiryOf(record, count + 1), m_list, today);
         return visit(row);
     });
 }

@@ -48,8 +48,8 @@ class ReportSource
 {
 public:
     /// All of these outlive the source.
-    ReportSource(DataVolume& volume, Database& rows, const InventoryList& list,
-        const ValueContext& context);
+    ReportSource(
+        DataVolume& volume, Database& rows, const InventoryList& list, const ValueContext& context);
 
     [[nodiscard]] const InventoryList& List() const { return m_list; }
     [[nodiscard]] const std::vector<ColumnDefinition>& Columns() const { return m_columns; }

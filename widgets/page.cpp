@@ -38,13 +38,6 @@ class TitleLabel : public QLabel
 public:
     using QLabel::QLabel;
 
-    bool event(QEvent* event) override
-    {
-        if (event->type() == QEvent::ToolTip)
-            setToolTip(fontMetrics().horizontalAdvance(text()) > width() ? text() : QString());
-        return QLabel::event(event);
-    }
-
 protected:
     bool event(QEvent* event) override
     {
