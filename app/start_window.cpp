@@ -5,6 +5,7 @@
 #include "desktop/application.h"
 #include "desktop/desktop_look.h"
 #include "desktop/end_requests.h"
+#include "desktop/screen_keyboard.h"
 #include "desktop/single_instance.h"
 #include "propdb/volume_path.h"
 #include "res/language.h"
@@ -116,6 +117,9 @@ int RunFrame(Application& app, SingleInstance& instance, const Settings& setting
 {
     const DesktopLook look(FixedScheme(settings));
     EnlargeLetters();
+    std::optional<ScreenKeyboard> keyboard;
+    if (ScreenKeyboard::IsNeeded())
+        keyboard.emplace(QDBusConnection::sessionBus());
     MainFrame frame(settings, { SettingsPath(), DefaultCopiesFolder() });
     instance.SetHandler(
         [&frame](const StartRequest& later) { return frame.TakeStartRequest(later); });
