@@ -41,7 +41,9 @@ public:
     }
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        // With the icon here, too.
+        const QSize size
+            = QStyledItemDelegate::sizeHint(option, index); // NOLINT(bugprone-parent-virtual-call)
         return { size.width(), std::max(size.height(), CurrentMeasures().lineHeight) };
     }
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
