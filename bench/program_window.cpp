@@ -3,6 +3,7 @@
 #include "bench/start_report.h"
 #include "desktop/desktop_look.h"
 #include "widgets/app_style.h"
+#include "widgets/window_style.h"
 
 #include <QApplication>
 
@@ -14,6 +15,7 @@ int main(int argc, char** argv)
     const QStringList arguments = QCoreApplication::arguments();
     QApplication::setStyle(new AppStyle);
     const DesktopLook look(std::nullopt);
+    EnlargeLetters();
     Settings settings;
     settings.DbPath = arguments.value(2);
     MainFrame frame(settings, {});
