@@ -204,7 +204,7 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation>  --where CONDITION    solo las filas que la cumplen: «COLUMN CONDITION VALUE»,
+        <translation>  --where CONDITION    solo las filas que la cumplen: &quot;COLUMN CONDITION VALUE&quot;,
                        como &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened =
                        Checked&quot;. Las condiciones son las de los filtros, con
                        sus palabras inglesas o = != &gt; &gt;= &lt; &lt;=. Como allí, != en
@@ -295,8 +295,8 @@ debe terminar en CR LF, también la última.
   --columns &quot;A,B&quot;      las columnas que llenan los campos de una línea; las no
                        nombradas siguen en el orden de la lista, que es también
                        el que vale sin esta opción
-  --encoding NAME      en qué está el archivo: utf-8, utf-16 o el número de una
-                       página de códigos como 1252
+  --encoding NAME      la codificación del archivo: utf-8, utf-16 o el número
+                       de una página de códigos como 1252
   --format NAME        csv o tsv, tablas como las escribe export: la primera
                        línea nombra columnas; en csv separan los campos coma,
                        punto y coma o TAB. Entran todas las filas o ninguna
@@ -337,26 +337,26 @@ Exits with 3 if something is due, with 0 if nothing is.
         <translation>Imprime las filas de las listas con avisos activos: lista TAB fila TAB «low»,
 «expired» o la fecha en que caduca la fila.
 
-  --within DAYS        también las filas que caducan en ese número de días
+  --within DAYS        también las filas que caducan dentro de tantos días
   --json               lista, fila, estado y cantidad o fecha de cada una
   --ics                imprime en su lugar un calendario de todas las fechas de
                        caducidad, como iCalendar; con --within solo hasta
                        entonces
   --notify             no imprime nada, pero muestra como mucho una vez al día,
-                       en una notificación del escritorio, lo que ha vencido
-                       desde la última vez. Tocarla abre la lista; hasta
-                       entonces o hasta que se cierre, la orden espera.
+                       en una notificación del escritorio, lo que requiere
+                       atención desde la última vez. Tocarla abre la lista;
+                       hasta entonces o hasta que se cierre, la orden espera.
 
-Termina con 3 si algo ha vencido y con 0 si no.
+Termina con 3 si algo requiere atención y con 0 si no.
 </translation>
     </message>
     <message>
         <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
 Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
 </source>
-        <translation>Activa o desactiva una notificación cada mañana de lo que ha vencido, o imprime
-si está activa. Necesita systemd, cuyo temporizador quillory-reminders ejecuta
-entonces «quillory due --notify».
+        <translation>Activa o desactiva la notificación de cada mañana sobre lo que requiere
+atención, o imprime si está activa. Necesita systemd, cuyo temporizador
+quillory-reminders ejecuta entonces «quillory due --notify».
 </translation>
     </message>
     <message>
@@ -389,8 +389,8 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation>Suma +N o resta -N a todas las filas que cumplen las condiciones, o a ninguna
-si una no se puede guardar, e imprime cuántas son.
+        <translation>Aumenta en +N o disminuye en -N la cantidad de todas las filas que cumplen las
+condiciones, o de ninguna si una no se puede guardar, e imprime cuántas son.
 
   --dry-run            no guarda nada
 </translation>
@@ -483,7 +483,7 @@ groups. Text files are written in UTF-16 behind a byte-order mark, and read in c
 %4 where there is none.
 </source>
         <extracomment>%1 is the data file, %2 such as dd/MM/yyyy, %3 such as 1,234.50, %4 such as 1252.</extracomment>
-        <translation>  --data FILE          trabaja con otro archivo de datos que el configurado
+        <translation>  --data FILE          trabaja con un archivo de datos distinto del configurado
                        (%1)
 
 Aquí las fechas se escriben %2 y los números %3, pero en los archivos de texto
@@ -518,7 +518,7 @@ Abre la ventana, con LIST si se nombra. Las órdenes funcionan sin ella:
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
         <translation>
-Termina con: 0 hecho, 1 error, 2 mal uso, 3 algo ha vencido.
+Código de salida: 0 hecho, 1 error, 2 mal uso, 3 algo requiere atención.
 </translation>
     </message>
     <message>
@@ -530,14 +530,15 @@ Without FILE, or with -, to standard output. An existing FILE is replaced.
   --format NAME        pdf, or html for one page that needs no other file; without it what
                        the name of FILE ends in, or pdf
 </source>
-        <translation>Escribe una lista para imprimir o enviar: sus filas, con lo escaso y lo caducado
-marcado, totales y dibujos de lo que caduca en los próximos doce meses y de lo
-que queda menos. Sin FILE, o con -, en la salida estándar. Un FILE existente se
-reemplaza.
+        <translation>Escribe una lista para imprimir o enviar: sus filas, con lo escaso y lo
+caducado marcado, totales y gráficos de lo que caduca en los próximos doce
+meses y de lo que queda menos. Sin FILE, o con -, en la salida estándar. Un
+FILE existente se reemplaza.
 
   --all                todas las listas en un solo informe
-  --format NAME        pdf, o html para una página que no necesita otro archivo; si
-                       no, lo que diga el final del nombre de FILE, o pdf
+  --format NAME        pdf, o html para una página que no necesita otro
+                       archivo; si no, lo que diga el final del nombre de FILE,
+                       o pdf
 </translation>
     </message>
 </context>
@@ -557,15 +558,15 @@ reemplaza.
     </message>
     <message>
         <source>Landscape (right-handed)</source>
-        <translation>Horizontal (mano derecha)</translation>
+        <translation>Horizontal (diestros)</translation>
     </message>
     <message>
         <source>Landscape (left-handed)</source>
-        <translation>Horizontal (mano izquierda)</translation>
+        <translation>Horizontal (zurdos)</translation>
     </message>
     <message>
         <source>Use alternate row colour</source>
-        <translation>Sombrear una de cada dos filas</translation>
+        <translation>Sombrear filas alternas</translation>
     </message>
     <message>
         <source>Move Up</source>
@@ -743,7 +744,7 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     </message>
     <message>
         <source>First aid</source>
-        <translation>Primeros auxilios</translation>
+        <translation>Botiquín</translation>
     </message>
     <message>
         <source>Cosmetics</source>
@@ -915,11 +916,11 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     </message>
     <message>
         <source>Delete All Records...</source>
-        <translation>Eliminar las filas...</translation>
+        <translation>Vaciar lista...</translation>
     </message>
     <message>
         <source>Open Read Only</source>
-        <translation>Abrir solo lectura</translation>
+        <translation>Abrir en solo lectura</translation>
     </message>
     <message>
         <source>Options...</source>
@@ -1189,7 +1190,7 @@ Toque Reintentar para volver a abrir el archivo de datos.</translation>
     <name>Quillory::Page</name>
     <message>
         <source>OK</source>
-        <translation>OK</translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Help</source>
@@ -1476,7 +1477,7 @@ Toque Reintentar para volver a abrir el archivo de datos.</translation>
     </message>
     <message>
         <source>To begin using Quillory, please choose a name and location to store all your inventory lists. Tap OK to continue.</source>
-        <translation>Para empezar, elija el nombre y el lugar del archivo que guardará todas sus listas. Toque OK para continuar.</translation>
+        <translation>Para empezar, elija el nombre y el lugar del archivo que guardará todas sus listas. Toque Aceptar para continuar.</translation>
     </message>
     <message>
         <source>Version</source>

@@ -204,8 +204,8 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation>  --where CONDITION    solo le righe che la soddisfano: «COLUMN CONDITION
-                       VALUE», come &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;,
+        <translation>  --where CONDITION    solo le righe che la soddisfano: &quot;COLUMN CONDITION
+                       VALUE&quot;, come &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;,
                        &quot;Opened = Checked&quot;. Le condizioni sono quelle dei
                        filtri, con le loro parole inglesi o = != &gt; &gt;= &lt; &lt;=.
                        Come lì, != su testi, numeri e prezzi trova ciò che
@@ -335,25 +335,25 @@ Exits with 3 if something is due, with 0 if nothing is.
         <translation>Stampa le righe delle liste con gli avvisi attivi: lista TAB riga TAB «low»,
 «expired» o la data in cui la riga scade.
 
-  --within DAYS        anche le righe che scadono in tanti giorni
+  --within DAYS        anche le righe che scadono entro tanti giorni
   --json               lista, riga, stato e quantità o data di ciascuna
   --ics                stampa invece un calendario di tutte le scadenze, come
                        iCalendar; con --within solo fino ad allora
   --notify             non stampa nulla, ma mostra al più una volta al giorno,
-                       in una notifica del desktop, ciò che è in scadenza
+                       in una notifica del desktop, ciò che richiede attenzione
                        dall&apos;ultima volta. Toccarla apre la lista; fino ad
                        allora, o finché non viene chiusa, il comando aspetta.
 
-Termina con 3 se qualcosa è in scadenza, con 0 altrimenti.
+Termina con 3 se qualcosa richiede attenzione, con 0 altrimenti.
 </translation>
     </message>
     <message>
         <source>Turns a notification each morning of what is due on or off, or prints whether it is on.
 Needs systemd, whose timer quillory-reminders then runs &quot;quillory due --notify&quot;.
 </source>
-        <translation>Attiva o disattiva una notifica ogni mattina di ciò che è in scadenza, o stampa
-se è attiva. Richiede systemd, il cui timer quillory-reminders esegue allora
-«quillory due --notify».
+        <translation>Attiva o disattiva una notifica ogni mattina di ciò che richiede attenzione, o
+stampa se è attiva. Richiede systemd, il cui timer quillory-reminders esegue
+allora «quillory due --notify».
 </translation>
     </message>
     <message>
@@ -386,8 +386,8 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation>Aumenta di +N o diminuisce di -N tutte le righe che soddisfano le condizioni, o
-nessuna se una non si può salvare, e stampa quante sono.
+        <translation>Aumenta di +N o diminuisce di -N la quantità di tutte le righe che soddisfano
+le condizioni, o di nessuna se una non si può salvare, e stampa quante sono.
 
   --dry-run            non salva nulla
 </translation>
@@ -515,7 +515,8 @@ Apre la finestra, su LIST se è nominata. I comandi ne fanno a meno:
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
         <translation>
-Termina con: 0 fatto, 1 errore, 2 uso sbagliato, 3 qualcosa è in scadenza.
+Codice d&apos;uscita: 0 fatto, 1 errore, 2 uso sbagliato, 3 qualcosa richiede
+attenzione.
 </translation>
     </message>
     <message>
@@ -527,14 +528,15 @@ Without FILE, or with -, to standard output. An existing FILE is replaced.
   --format NAME        pdf, or html for one page that needs no other file; without it what
                        the name of FILE ends in, or pdf
 </source>
-        <translation>Scrive una lista da stampare o inviare: le sue righe, con segnato ciò che scarseggia
-o è scaduto, i totali, e disegni di ciò che scade nei prossimi dodici mesi e di
-ciò di cui resta meno. Senza FILE, o con -, sullo standard output. Un FILE
-esistente viene sostituito.
+        <translation>Scrive una lista da stampare o inviare: le sue righe, con evidenziato ciò che
+scarseggia o è scaduto, i totali, e grafici di ciò che scade nei prossimi
+dodici mesi e di ciò di cui resta meno. Senza FILE, o con -, sullo standard
+output. Un FILE esistente viene sostituito.
 
   --all                tutte le liste in un solo rapporto
-  --format NAME        pdf, oppure html per una pagina che non ha bisogno di altri
-                       file; altrimenti come finisce il nome di FILE, o pdf
+  --format NAME        pdf, oppure html per una pagina che non ha bisogno di
+                       altri file; altrimenti come finisce il nome di FILE, o
+                       pdf
 </translation>
     </message>
 </context>
@@ -554,15 +556,15 @@ esistente viene sostituito.
     </message>
     <message>
         <source>Landscape (right-handed)</source>
-        <translation>Orizzontale (mano destra)</translation>
+        <translation>Orizzontale (destrimani)</translation>
     </message>
     <message>
         <source>Landscape (left-handed)</source>
-        <translation>Orizzontale (mano sinistra)</translation>
+        <translation>Orizzontale (mancini)</translation>
     </message>
     <message>
         <source>Use alternate row colour</source>
-        <translation>Sfuma una riga su due</translation>
+        <translation>Alterna il colore delle righe</translation>
     </message>
     <message>
         <source>Move Up</source>
@@ -589,7 +591,7 @@ Continuare con quella? Viene scritta in un nuovo file; quello danneggiato resta 
     </message>
     <message>
         <source>Beside the data file lay the journal of another file. It is kept as %1.</source>
-        <translation>Accanto al file dei dati c’era il giornale di un altro file. È conservato come %1.</translation>
+        <translation>Accanto al file dei dati c’era il journal di un altro file. È conservato come %1.</translation>
     </message>
     <message>
         <source>Another program has written into the data file. What it holds now: %1, %2.
@@ -669,7 +671,7 @@ Continuare così? Viene scritto in un nuovo file; quello danneggiato resta com�
     </message>
     <message>
         <source>Import Column Order</source>
-        <translation>Ordine d’importazione</translation>
+        <translation>Ordine colonne</translation>
     </message>
 </context>
 <context>
@@ -740,7 +742,7 @@ Continuare così? Viene scritto in un nuovo file; quello danneggiato resta com�
     </message>
     <message>
         <source>First aid</source>
-        <translation>Pronto soccorso</translation>
+        <translation>Primo soccorso</translation>
     </message>
     <message>
         <source>Cosmetics</source>
@@ -855,7 +857,7 @@ Continuare così? Viene scritto in un nuovo file; quello danneggiato resta com�
     </message>
     <message>
         <source>it is the name of the data file&apos;s journal</source>
-        <translation>è il nome del giornale del file dei dati</translation>
+        <translation>è il nome del journal del file dei dati</translation>
     </message>
 </context>
 <context>
@@ -883,8 +885,8 @@ Continuare così? Viene scritto in un nuovo file; quello danneggiato resta com�
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
         <translation>
-            <numerusform>Questa lista si legge solo in parte: nel file c’è %n riga. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
-            <numerusform>Questa lista si legge solo in parte: nel file ci sono %n righe. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
+            <numerusform>Questa lista è leggibile solo in parte: nel file c’è %n riga. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
+            <numerusform>Questa lista è leggibile solo in parte: nel file ci sono %n righe. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
         </translation>
     </message>
 </context>
@@ -912,7 +914,7 @@ Continuare così? Viene scritto in un nuovo file; quello danneggiato resta com�
     </message>
     <message>
         <source>Delete All Records...</source>
-        <translation>Elimina le righe...</translation>
+        <translation>Elimina tutte le righe...</translation>
     </message>
     <message>
         <source>Open Read Only</source>
@@ -968,7 +970,7 @@ Continuare così? Viene scritto in un nuovo file; quello danneggiato resta com�
     </message>
     <message>
         <source>Clear Filters</source>
-        <translation>Togli filtri</translation>
+        <translation>Rimuovi filtri</translation>
     </message>
     <message>
         <source>Add 1</source>
@@ -984,7 +986,7 @@ Continuare così? Viene scritto in un nuovo file; quello danneggiato resta com�
     </message>
     <message>
         <source>Clear All</source>
-        <translation>Togli tutti</translation>
+        <translation>Rimuovi tutti</translation>
     </message>
     <message>
         <source>New</source>
@@ -1084,7 +1086,7 @@ Tocca Riprova per riaprire il file dei dati.</translation>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
-        <translation>Togli</translation>
+        <translation>Rimuovi</translation>
     </message>
     <message>
         <source>%1 of %2 rows</source>
@@ -1206,8 +1208,8 @@ Tocca Riprova per riaprire il file dei dati.</translation>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
         <translation>
-            <numerusform>Questa lista si legge solo in parte: si vede %n riga. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
-            <numerusform>Questa lista si legge solo in parte: si vedono %n righe. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
+            <numerusform>Questa lista è leggibile solo in parte: si vede %n riga. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
+            <numerusform>Questa lista è leggibile solo in parte: si vedono %n righe. «quillory restore» mostra le copie e ciò che si può salvare.</numerusform>
         </translation>
     </message>
     <message>
@@ -1224,7 +1226,7 @@ Tocca Riprova per riaprire il file dei dati.</translation>
     </message>
     <message>
         <source>This list can be read only in part, so nothing is summed up. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation>Questa lista si legge solo in parte, perciò non si somma nulla. «quillory restore» mostra le copie e ciò che si può salvare.</translation>
+        <translation>Questa lista è leggibile solo in parte, perciò non si somma nulla. «quillory restore» mostra le copie e ciò che si può salvare.</translation>
     </message>
 </context>
 <context>
@@ -1332,7 +1334,7 @@ Tocca Riprova per riaprire il file dei dati.</translation>
     </message>
     <message>
         <source>The data file cannot be found. Do you want to create a new data file at the same location? Tap No to try to locate it again.</source>
-        <translation>Il file dei dati non si trova. Crearne uno nuovo nello stesso posto? Tocca No per cercarlo di nuovo.</translation>
+        <translation>Impossibile trovare il file dei dati. Crearne uno nuovo nello stesso posto? Tocca No per cercarlo di nuovo.</translation>
     </message>
     <message>
         <source>No record matched the criteria.</source>
@@ -1340,7 +1342,7 @@ Tocca Riprova per riaprire il file dei dati.</translation>
     </message>
     <message>
         <source>Import is completed with errors. Data may not be imported properly.</source>
-        <translation>L’importazione è finita con errori. Potrebbero mancare dei dati.</translation>
+        <translation>L’importazione è terminata con errori. Potrebbero mancare dei dati.</translation>
     </message>
     <message>
         <source>String</source>
@@ -1457,7 +1459,7 @@ Tocca Riprova per riaprire il file dei dati.</translation>
     </message>
     <message>
         <source>Unable to create user database!</source>
-        <translation>Impossibile creare la base di dati!</translation>
+        <translation>Impossibile creare il database!</translation>
     </message>
     <message>
         <source>Unable to create inventory table!</source>

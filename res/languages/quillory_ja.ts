@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>Azure</source>
-        <translation>空青</translation>
+        <translation>紺碧</translation>
     </message>
     <message>
         <source>Midnight blue</source>
@@ -204,12 +204,13 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation>  --where CONDITION    条件に合う行だけにします：「COLUMN CONDITION VALUE」。例
-                       ： &quot;Name contains tea&quot;、&quot;Quantity &lt; 3&quot;、&quot;Opened =
+        <translation>  --where CONDITION    条件に合う行だけにします：&quot;COLUMN CONDITION VALUE&quot;。例：
+                       &quot;Name contains tea&quot;、&quot;Quantity &lt; 3&quot;、&quot;Opened =
                        Checked&quot;。条件はフィルターと同じで、英語の言葉か = != &gt;
-                       &gt;= &lt; &lt;= で書きます。フィルターと同じく、文字、数、価格で
-                       は != は = と同じ行を見つけます。数は表示のとおりに読み
-                       ます。何度でも指定でき、すべてが成り立つ行になります。
+                       &gt;= &lt; &lt;= で書きます。フィルターと同じく、テキスト、数、価
+                       格では != は = と同じ行を見つけます。数は表示のとおりに
+                       読みます。何度でも指定でき、すべてが成り立つ行になりま
+                       す。
 </translation>
     </message>
     <message>
@@ -221,8 +222,8 @@ fields. Control characters in texts are shown as blanks.
   --no-header          without the line of column names
   --json               an object per row; dates as YYYY-MM-DD, missing values as null
 </source>
-        <translation>列の名前の行に続けて、行を名前の順に TAB 区切りで表示します。文字の中の制御文字
-は空白になります。
+        <translation>列の名前の行に続けて、行を名前の順に TAB 区切りで表示します。テキスト中の制御文
+字は空白になります。
 
   --sort COLUMN        列の昇順にします
   --descending         逆の順にします
@@ -237,10 +238,10 @@ line per value that has it: list TAB row TAB column TAB value.
 
   --json               list, row, column and text of each
 </source>
-        <translation>すべてのリストのすべての列から文字を探し、見つかった値ごとに 1 行を表示します：
-リスト TAB 行 TAB 列 TAB 値。大文字と小文字、アクセントは区別しません。
+        <translation>すべてのリストのすべての列からテキストを探し、見つかった値ごとに 1 行を表示しま
+す：リスト TAB 行 TAB 列 TAB 値。大文字と小文字、アクセントは区別しません。
 
-  --json               それぞれのリスト、行、列、文字
+  --json               それぞれのリスト、行、列、テキスト
 </translation>
     </message>
     <message>
@@ -254,16 +255,17 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
   --all DIR            every list into a folder, which is made if need be: a file for each, as csv
                        unless told otherwise, and lists.json, which tells of them
 </source>
-        <translation>「リストを書き出す」と同じように行を文字で書きます：UTF-16、TAB 区切り、行末は
-CR LF。FILE がないか - なら標準出力に書きます。既にある FILE は置き換えます。
+        <translation>「リストを書き出す」と同じように行をテキストで書きます：UTF-16、TAB 区切り、行
+末は CR LF。FILE がないか - なら標準出力に書きます。既にある FILE は置き換えま
+す。
 
   --dates iso          日付を YYYY-MM-DD にします。どこでも同じに読めます
   --format NAME        csv か tsv：ほかのプログラム用の UTF-8 の表で、1 行目は
                        列の名前、日付は YYYY-MM-DD、小数点は点、true と false。
                        json：show と同じ。html：読むためのページ
-  --all DIR            すべてのリストをフォルダーに書きます（なければ作ります）
-                       ：リストごとに 1 ファイル（指定がなければ csv）と、その
-                       内容を示す lists.json
+  --all DIR            すべてのリストをフォルダーに書きます（なければ作りま
+                       す）：リストごとに 1 ファイル（指定がなければ csv）と、
+                       その内容を示す lists.json
 </translation>
     </message>
     <message>
@@ -518,13 +520,14 @@ Without FILE, or with -, to standard output. An existing FILE is replaced.
   --format NAME        pdf, or html for one page that needs no other file; without it what
                        the name of FILE ends in, or pdf
 </source>
-        <translation>リストを印刷用か送信用に書きます：少ないものと期限切れに印を付けた行、集計、
-これから 12 か月に期限が来るものと残りが少ないものの図。FILE がないか - なら
+        <translation>リストを印刷用か送信用に書きます：少ないものと期限切れに印を付けた行、集計、こ
+れから 12 か月に期限が来るものと残りが少ないもののグラフ。FILE がないか - なら
 標準出力に書きます。既にある FILE は置き換えます。
 
   --all                すべてのリストを 1 つにまとめます
-  --format NAME        pdf、またはほかのファイルが要らない 1 ページの html。
-                       なければ FILE の名前の終わりによります。どちらもなければ pdf
+  --format NAME        pdf、またはほかのファイルが要らない 1 ページの html。な
+                       ければ FILE の名前の終わりによります。どちらもなければ
+                       pdf
 </translation>
     </message>
 </context>
@@ -544,15 +547,15 @@ Without FILE, or with -, to standard output. An existing FILE is replaced.
     </message>
     <message>
         <source>Landscape (right-handed)</source>
-        <translation>横向き（右手）</translation>
+        <translation>横向き（右利き）</translation>
     </message>
     <message>
         <source>Landscape (left-handed)</source>
-        <translation>横向き（左手）</translation>
+        <translation>横向き（左利き）</translation>
     </message>
     <message>
         <source>Use alternate row colour</source>
-        <translation>一行おきに色を付ける</translation>
+        <translation>1 行おきに色を付ける</translation>
     </message>
     <message>
         <source>Move Up</source>
@@ -1328,7 +1331,7 @@ Tap Retry to open the data file again.</source>
     </message>
     <message>
         <source>String</source>
-        <translation>文字</translation>
+        <translation>テキスト</translation>
     </message>
     <message>
         <source>Checkbox</source>
@@ -1365,56 +1368,56 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>contains</source>
         <extracomment>The conditions stand between a column and a value: Price &quot;greater than&quot; 3.50.</extracomment>
-        <translation>を含む</translation>
+        <translation>次を含む</translation>
     </message>
     <message>
         <source>equals to</source>
-        <translation>と等しい</translation>
+        <translation>次と等しい</translation>
     </message>
     <message>
         <source>not equals to</source>
-        <translation>と等しくない</translation>
+        <translation>次と等しくない</translation>
     </message>
     <message>
         <source>greater than</source>
-        <translation>より大きい</translation>
+        <translation>次より大きい</translation>
     </message>
     <message>
         <source>greater than or equals to</source>
-        <translation>以上</translation>
+        <translation>次以上</translation>
     </message>
     <message>
         <source>less than</source>
-        <translation>より小さい</translation>
+        <translation>次より小さい</translation>
     </message>
     <message>
         <source>less than or equals to</source>
-        <translation>以下</translation>
+        <translation>次以下</translation>
     </message>
     <message>
         <source>on</source>
         <extracomment>These stand before a date: Opened &quot;on or after&quot; 10 May.</extracomment>
-        <translation>当日</translation>
+        <translation>次の日</translation>
     </message>
     <message>
         <source>not on</source>
-        <translation>当日以外</translation>
+        <translation>次の日以外</translation>
     </message>
     <message>
         <source>after</source>
-        <translation>より後</translation>
+        <translation>次の日より後</translation>
     </message>
     <message>
         <source>on or after</source>
-        <translation>以後</translation>
+        <translation>次の日以降</translation>
     </message>
     <message>
         <source>before</source>
-        <translation>より前</translation>
+        <translation>次の日より前</translation>
     </message>
     <message>
         <source>on or before</source>
-        <translation>以前</translation>
+        <translation>次の日以前</translation>
     </message>
     <message>
         <source>Done</source>
@@ -1470,7 +1473,7 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>to colour</source>
         <extracomment>Stands between a number and a colour: &quot;Enable row colour when count is less than or equal to&quot; 3 &quot;to colour&quot; red.</extracomment>
-        <translation>の色</translation>
+        <translation>行の色</translation>
     </message>
     <message>
         <source>Field:</source>
@@ -1498,7 +1501,7 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>low</source>
         <extracomment>Beside the name of a row of which few are left; short.</extracomment>
-        <translation>残り少</translation>
+        <translation>残りわずか</translation>
     </message>
     <message>
         <source>expired</source>

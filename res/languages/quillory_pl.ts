@@ -170,7 +170,7 @@
 
   --json               name, rows, icon and columns of each list
 </source>
-        <translation>Wypisuje wiersz na listę, w kolejności nazw: nazwa TAB liczba wierszy.
+        <translation>Wypisuje po wierszu na listę, w kolejności nazw: nazwa TAB liczba wierszy.
 
   --json               nazwa, wiersze, ikona i kolumny każdej listy
 </translation>
@@ -204,8 +204,8 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation>  --where CONDITION    tylko wiersze, które go spełniają: „COLUMN CONDITION
-                       VALUE”, jak &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened
+        <translation>  --where CONDITION    tylko wiersze, które go spełniają: &quot;COLUMN CONDITION
+                       VALUE&quot;, jak &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened
                        = Checked&quot;. Warunki są te same co w filtrach,
                        angielskimi słowami lub jako = != &gt; &gt;= &lt; &lt;=. Tak jak
                        tam, != w tekstach, liczbach i cenach znajduje to, co =.
@@ -266,8 +266,8 @@ Istniejący FILE zostaje zastąpiony.
                        YYYY-MM-DD, kropka dziesiętna, true i false; json, jak
                        wypisuje show; lub html, strona do czytania
   --all DIR            wszystkie listy do katalogu, tworzonego w razie
-                       potrzeby: plik na listę, csv, jeśli nie podano inaczej,
-                       i lists.json, który je opisuje
+                       potrzeby: po pliku na listę, csv, jeśli nie podano
+                       inaczej, i lists.json, który je opisuje
 </translation>
     </message>
     <message>
@@ -286,9 +286,9 @@ FILE - is standard input. Each line must end in CR LF, the last one too.
   --create             with --all: makes the data file if there is none
   --dry-run            stores nothing, prints how many rows would come in
 </source>
-        <translation>Dodaje wiersz za każdy wiersz pliku tekstowego, tak jak „Importuj listę”, i
+        <translation>Dodaje wiersz dla każdego wiersza pliku tekstowego, tak jak „Importuj listę”, i
 wypisuje, ile ich jest. FILE - to standardowe wejście. Każdy wiersz musi się
-kończyć przez CR LF, ostatni też.
+kończyć znakami CR LF, ostatni też.
 
   --columns &quot;A,B&quot;      kolumny, które wypełniają pola wiersza; niewymienione
                        następują w kolejności listy, która obowiązuje też bez
@@ -312,7 +312,7 @@ decimals.
 
   --json               name and total of each
 </source>
-        <translation>Wypisuje wiersz na sumę kolumny liczb lub cen: nazwa TAB suma, z kropką
+        <translation>Wypisuje po wierszu na sumę kolumny liczb lub cen: nazwa TAB suma, z kropką
 dziesiętną.
 
   --json               nazwa i suma każdej z nich
@@ -333,18 +333,18 @@ on which the row expires.
 Exits with 3 if something is due, with 0 if nothing is.
 </source>
         <translation>Wypisuje wiersze list z włączonymi ostrzeżeniami: lista TAB wiersz TAB „low”,
-„expired” lub data, z którą kończy się ważność.
+„expired” lub data, w której kończy się ważność.
 
   --within DAYS        także wiersze, których ważność skończy się za tyle dni
   --json               lista, wiersz, stan i ilość lub data każdego z nich
   --ics                wypisuje zamiast tego kalendarz wszystkich terminów jako
-                       iCalendar; z --within tylko do wtedy
+                       iCalendar; z --within tylko do tego dnia
   --notify             nic nie wypisuje, lecz najwyżej raz dziennie pokazuje w
                        powiadomieniu pulpitu, co stało się pilne od ostatniego
                        razu. Dotknięcie otwiera listę; do tej chwili lub do
                        zamknięcia polecenie czeka.
 
-Kończy się przez 3, jeśli coś jest pilne, inaczej przez 0.
+Kończy się kodem 3, jeśli coś jest pilne, inaczej kodem 0.
 </translation>
     </message>
     <message>
@@ -386,8 +386,9 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation>Zwiększa o +N lub zmniejsza o -N wszystkie wiersze, które spełniają warunki,
-albo żadnego, jeśli któregoś nie da się zapisać, i wypisuje, ile ich jest.
+        <translation>Zwiększa o +N lub zmniejsza o -N ilość we wszystkich wierszach, które spełniają
+warunki, albo w żadnym, jeśli któregoś nie da się zapisać, i wypisuje, ile ich
+jest.
 
   --dry-run            nic nie zapisuje
 </translation>
@@ -398,8 +399,8 @@ many there are.
 
   --dry-run            deletes nothing
 </source>
-        <translation>Usuwa wszystkie wiersze, które spełniają warunki, albo żadnego, jeśli któregoś
-nie da się usunąć, i wypisuje, ile ich jest.
+        <translation>Usuwa wszystkie wiersze, które spełniają warunki, albo nie usuwa żadnego, jeśli
+któregoś nie da się usunąć, i wypisuje, ile ich jest.
 
   --dry-run            nic nie usuwa
 </translation>
@@ -428,7 +429,7 @@ nie da się usunąć, i wypisuje, ile ich jest.
         <source>Reads the whole data file. Prints &quot;ok&quot;, or what is wrong and exits with 1.
 </source>
         <translation>Czyta cały plik danych. Wypisuje „ok” albo co jest nie tak i kończy się wtedy
-przez 1.
+kodem 1.
 </translation>
     </message>
     <message>
@@ -455,12 +456,12 @@ must not exist:
 </source>
         <translation>Po każdym uruchomieniu, które zmieniło listy lub wiersze ustawionego pliku
 danych, zachowywana jest jego kopia: trzy ostatnie lub tyle, ile mówi
-KeptCopies=0...9 w ustawieniach. Znikają 90 dni po tym, jak zniknie plik.
+KeptCopies=0...9 w ustawieniach. Są usuwane 90 dni po zniknięciu pliku.
 
-Bez opcji wypisuje wiersz na kopię, od najnowszej: numer TAB czas TAB bajty, a
-potem wiersz na listę, którą da się odczytać z samego pliku danych, nawet
-uszkodzonego: salvage TAB lista TAB wiersze TAB co przepadło. W przeciwnym
-razie tworzy nowy plik danych FILE, który nie może istnieć:
+Bez opcji wypisuje po wierszu na kopię, od najnowszej: numer TAB czas TAB
+bajty, a potem po wierszu na listę, którą da się odczytać z samego pliku
+danych, nawet uszkodzonego: salvage TAB lista TAB wiersze TAB co przepadło. W
+przeciwnym razie tworzy nowy plik danych FILE, który nie może istnieć:
 
   --from N             z kopii N
   --salvage            z tego, co da się jeszcze odczytać z pliku danych, i
@@ -514,7 +515,7 @@ Otwiera okno z listą LIST, jeśli ją podano. Polecenia działają bez niego:
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
         <translation>
-Kończy się przez: 0 zrobione, 1 błąd, 2 złe użycie, 3 coś jest pilne.
+Kod wyjścia: 0 zrobione, 1 błąd, 2 złe użycie, 3 coś jest pilne.
 </translation>
     </message>
     <message>
@@ -526,14 +527,14 @@ Without FILE, or with -, to standard output. An existing FILE is replaced.
   --format NAME        pdf, or html for one page that needs no other file; without it what
                        the name of FILE ends in, or pdf
 </source>
-        <translation>Zapisuje listę do druku lub wysłania: jej wiersze z zaznaczonym tym, czego mało i
-co po terminie, sumy oraz rysunki tego, co traci ważność w ciągu dwunastu miesięcy
-i czego jest najmniej. Bez FILE lub z - na standardowe wyjście. Istniejący FILE
-zostaje zastąpiony.
+        <translation>Zapisuje listę do druku lub wysłania: jej wiersze z zaznaczonym tym, czego mało
+i co po terminie, sumy oraz wykresy tego, co traci ważność w ciągu dwunastu
+miesięcy i czego jest najmniej. Bez FILE lub z - na standardowe wyjście.
+Istniejący FILE zostaje zastąpiony.
 
   --all                wszystkie listy w jednym raporcie
-  --format NAME        pdf albo html: strona, która nie potrzebuje innego pliku; bez
-                       tego według końca nazwy FILE lub pdf
+  --format NAME        pdf albo html: strona, która nie potrzebuje innego
+                       pliku; bez tego według końca nazwy FILE lub pdf
 </translation>
     </message>
 </context>
@@ -594,7 +595,7 @@ Pracować dalej na niej? Zostanie zapisana w nowym pliku; uszkodzony pozostanie 
         <source>Another program has written into the data file. What it holds now: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the old one stays as it is.</source>
-        <translation>Inny program pisał w pliku danych. Zawiera on teraz: %1, %2.
+        <translation>Inny program zapisał coś w pliku danych. Zawiera on teraz: %1, %2.
 
 Pracować dalej na tym? Trafi to do nowego pliku; stary pozostanie bez zmian.</translation>
     </message>
@@ -971,7 +972,7 @@ Pracować dalej na tym? Trafi to do nowego pliku; uszkodzony pozostanie bez zmia
     </message>
     <message>
         <source>Clear Filters</source>
-        <translation>Wyłącz filtry</translation>
+        <translation>Wyczyść filtry</translation>
     </message>
     <message>
         <source>Add 1</source>
@@ -1048,11 +1049,11 @@ Tap Retry to open the data file again.</source>
     </message>
     <message>
         <source>The data file is no longer in its place. What it held is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation>Pliku danych nie ma już na swoim miejscu. Jego zawartość zachowano jako kopię; „quillory restore” pokazuje kopie.</translation>
+        <translation>Pliku danych nie ma już na miejscu. Jego zawartość zachowano jako kopię; „quillory restore” pokazuje kopie.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. No copy could be kept of it.</source>
-        <translation>Pliku danych nie ma już na swoim miejscu. Nie udało się zachować jego kopii.</translation>
+        <translation>Pliku danych nie ma już na miejscu. Nie udało się zachować jego kopii.</translation>
     </message>
     <message>
         <source>No copy of the data file could be kept. Error: %1</source>
@@ -1087,7 +1088,7 @@ Tap Retry to open the data file again.</source>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
-        <translation>Wyłącz</translation>
+        <translation>Wyczyść</translation>
     </message>
     <message>
         <source>%1 of %2 rows</source>
@@ -1478,7 +1479,7 @@ Tap Retry to open the data file again.</source>
     </message>
     <message>
         <source>To begin using Quillory, please choose a name and location to store all your inventory lists. Tap OK to continue.</source>
-        <translation>Na początek wybierz nazwę i miejsce pliku, w którym będą wszystkie listy. Dalej przez OK.</translation>
+        <translation>Na początek wybierz nazwę i miejsce pliku, w którym będą wszystkie listy. „OK” prowadzi dalej.</translation>
     </message>
     <message>
         <source>Version</source>
@@ -1524,7 +1525,7 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>expired</source>
         <extracomment>Beside the name of a row whose expiry date is reached; short.</extracomment>
-        <translation>po terminie</translation>
+        <translation>po dacie</translation>
     </message>
 </context>
 </TS>

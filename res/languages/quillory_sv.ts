@@ -191,7 +191,7 @@
                        integer, date eller expiry (som inte behöver NAME). Får
                        anges flera gånger.
   --warn-count N       varnar för rader vars antal är N eller mindre
-  --warn-expiry        varnar för rader vars bäst före-datum är nått
+  --warn-expiry        varnar för rader vars utgångsdatum är nått
   --icon N             ikon 0 till 42
   --create             skapar datafilen om den inte finns
 </translation>
@@ -204,7 +204,7 @@
                        what = finds. Numbers are read as they are shown. May be given
                        several times: all must hold.
 </source>
-        <translation>  --where CONDITION    bara rader som uppfyller det: ”COLUMN CONDITION VALUE”,
+        <translation>  --where CONDITION    bara rader som uppfyller det: &quot;COLUMN CONDITION VALUE&quot;,
                        som i &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened =
                        Checked&quot;. Villkoren är filtrens, med deras engelska ord
                        eller = != &gt; &gt;= &lt; &lt;=. Som där hittar != i text, tal och
@@ -255,9 +255,9 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
   --all DIR            every list into a folder, which is made if need be: a file for each, as csv
                        unless told otherwise, and lists.json, which tells of them
 </source>
-        <translation>Skriver raderna som text, som ”Exportera lista”: UTF-16, TAB mellan fälten, CR
-LF efter varje rad. Utan FILE, eller med -, till standard ut. En FILE som finns
-ersätts.
+        <translation>Skriver raderna som text, på samma sätt som ”Exportera lista”: UTF-16, TAB
+mellan fälten, CR LF efter varje rad. Utan FILE, eller med -, till standard ut.
+En FILE som finns ersätts.
 
   --dates iso          datum som YYYY-MM-DD, som läses lika överallt
   --format NAME        csv eller tsv, en tabell för andra program i UTF-8 med
@@ -285,9 +285,9 @@ FILE - is standard input. Each line must end in CR LF, the last one too.
   --create             with --all: makes the data file if there is none
   --dry-run            stores nothing, prints how many rows would come in
 </source>
-        <translation>Lägger till en rad för varje rad i en textfil, som ”Importera lista”, och
-skriver hur många som kom in. FILE - är standard in. Varje rad måste sluta med
-CR LF, den sista också.
+        <translation>Lägger till en rad för varje rad i en textfil, på samma sätt som ”Importera
+lista”, och skriver hur många som kom in. FILE - är standard in. Varje rad
+måste sluta med CR LF, den sista också.
 
   --columns &quot;A,B&quot;      kolumnerna som radens fält fyller; de som inte nämns
                        följer i listans ordning, som också gäller utan det här
@@ -337,8 +337,8 @@ eller datumet då raden går ut.
 
   --within DAYS        också rader som går ut inom så många dagar
   --json               lista, rad, läge och antal eller datum för varje
-  --ics                skriver i stället en kalender med alla bäst före-datum,
-                       som iCalendar; med --within bara till dess
+  --ics                skriver i stället en kalender med alla utgångsdatum, som
+                       iCalendar; med --within bara till dess
   --notify             skriver inget, men visar högst en gång om dagen, som en
                        avisering på skrivbordet, vad som har tillkommit sedan
                        sist. Ett tryck på den öppnar listan; till dess, eller
@@ -386,8 +386,8 @@ cannot be stored, and prints how many there are.
 
   --dry-run            stores nothing
 </source>
-        <translation>Räknar upp alla rader som uppfyller villkoren med +N eller ner med -N, eller
-ingen om en inte kan sparas, och skriver hur många de är.
+        <translation>Räknar upp antalet med +N eller ner med -N i alla rader som uppfyller
+villkoren, eller i ingen om en inte kan sparas, och skriver hur många de är.
 
   --dry-run            sparar inget
 </translation>
@@ -433,7 +433,7 @@ bort, och skriver hur många de är.
     <message>
         <source>Writes a consistent copy of the data file, also while it is in use. FILE must not exist.
 </source>
-        <translation>Skriver en följdriktig kopia av datafilen, också medan den används. FILE får
+        <translation>Skriver en konsistent kopia av datafilen, också medan den används. FILE får
 inte finnas.
 </translation>
     </message>
@@ -513,7 +513,7 @@ Opens the window, showing LIST if it is named. The commands work without it:
 Exit status: 0 done, 1 failed, 2 wrong usage, 3 something is due.
 </source>
         <translation>
-Slutar med: 0 klart, 1 misslyckat, 2 fel anrop, 3 något är aktuellt.
+Slutkod: 0 klart, 1 misslyckat, 2 felaktigt anrop, 3 något är aktuellt.
 </translation>
     </message>
     <message>
@@ -525,14 +525,14 @@ Without FILE, or with -, to standard output. An existing FILE is replaced.
   --format NAME        pdf, or html for one page that needs no other file; without it what
                        the name of FILE ends in, or pdf
 </source>
-        <translation>Skriver en lista att skriva ut eller skicka: dess rader, med det som håller på att
-ta slut eller har gått ut märkt, summor, och teckningar av vad som går ut de
-närmaste tolv månaderna och av det som det finns minst av. Utan FILE, eller med -,
-till standard ut. En FILE som finns ersätts.
+        <translation>Skriver en lista att skriva ut eller skicka: dess rader, med det som håller på
+att ta slut eller har gått ut märkt, summor, och diagram över vad som går ut de
+närmaste tolv månaderna och över det som det finns minst av. Utan FILE, eller
+med -, till standard ut. En FILE som finns ersätts.
 
   --all                alla listor i en rapport
-  --format NAME        pdf, eller html för en sida som inte behöver någon annan fil;
-                       annars det som FILE slutar på, eller pdf
+  --format NAME        pdf, eller html för en sida som inte behöver någon annan
+                       fil; annars det som FILE slutar på, eller pdf
 </translation>
     </message>
 </context>
@@ -544,7 +544,7 @@ till standard ut. En FILE som finns ersätts.
     </message>
     <message>
         <source>Enable row colour when expiry date is reached to colour</source>
-        <translation>Färga raden när bäst före-datum är nått, i</translation>
+        <translation>Färga raden när utgångsdatumet är nått, i</translation>
     </message>
     <message>
         <source>Display list using landscape mode</source>
@@ -926,7 +926,7 @@ Vill du fortsätta med det? Det skrivs till en ny fil; den skadade lämnas som d
     </message>
     <message>
         <source>Add Expiry Date Column</source>
-        <translation>Lägg till bäst före</translation>
+        <translation>Lägg till utgångsdatum</translation>
     </message>
     <message>
         <source>Rename</source>
@@ -970,11 +970,11 @@ Vill du fortsätta med det? Det skrivs till en ny fil; den skadade lämnas som d
     </message>
     <message>
         <source>Add 1</source>
-        <translation>Lägg till 1</translation>
+        <translation>Öka med 1</translation>
     </message>
     <message>
         <source>Subtract 1</source>
-        <translation>Dra ifrån 1</translation>
+        <translation>Minska med 1</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -1071,7 +1071,7 @@ Tryck på Försök igen för att öppna datafilen på nytt.</translation>
     </message>
     <message>
         <source>not a date</source>
-        <translation>inget datum</translation>
+        <translation>ogiltigt datum</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date. Type it as in %2, or pick it from the calendar.</source>
@@ -1177,7 +1177,7 @@ Tryck på Försök igen för att öppna datafilen på nytt.</translation>
     <name>Quillory::OptionsPanel</name>
     <message>
         <source>Only lists with an expiry date column can warn of dates.</source>
-        <translation>Bara listor med bäst före-datum kan varna för det.</translation>
+        <translation>Bara listor med utgångsdatum kan varna för det.</translation>
     </message>
 </context>
 <context>
@@ -1366,7 +1366,7 @@ Tryck på Försök igen för att öppna datafilen på nytt.</translation>
     </message>
     <message>
         <source>Expiry Date</source>
-        <translation>Bäst före-datum</translation>
+        <translation>Utgångsdatum</translation>
     </message>
     <message>
         <source>Unchecked</source>
