@@ -20,8 +20,9 @@ int main(int argc, char** argv)
     settings.DbPath = arguments.value(2);
     MainFrame frame(settings, {});
     frame.show();
-    QCoreApplication::processEvents();
-    frame.OpenDataFile({});
+    // As the program does, whose first frame shows the lists.
+    QMetaObject::invokeMethod(
+        &frame, [&frame] { frame.OpenDataFile({}); }, Qt::QueuedConnection);
     QCoreApplication::processEvents();
     frame.repaint();
     ReportStart(arguments.value(1).toLongLong());

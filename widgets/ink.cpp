@@ -10,14 +10,24 @@ namespace Quillory {
 
 namespace {
 
-/// Relative luminance by the formula of WCAG 2.
+/// The light that each step of a part of a colour gives, by the formula of WCAG 2.
+std::array<double, 256> LightOfSteps()
+{
+    std::array<double, 256> light {};
+    for (size_t step = 0; step < light.size(); ++step) {
+        const double part = static_cast<double>(step) / 255;
+        light.at(step) = part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    }
+    return light;
+}
+
+/// Relative luminance. A palette needs thousands, a screen shows no more than 256 steps.
 double Luminance(const QColor& colour)
 {
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
+    static const std::array<double, 256> light = LightOfSteps();
+    const auto lightOf = [](int step) { return light.at(static_cast<size_t>(step)); };
+    return 0.2126 * lightOf(colour.red()) + 0.7152 * lightOf(colour.green())
+        + 0.0722 * lightOf(colour.blue());
 }
 
 bool IsDarkGround(const QColor& ground)
