@@ -35,9 +35,7 @@ void VisitDueRows(const CommandRun& run, CommandData& data, QDate last, const Du
             // A row without a count counts as 0, as its colour in the rows view says.
             DueRow row { list.Name, text == nullptr ? QString() : *text, DueState::Low,
                 static_cast<qint32>(record.Integer(1)), std::nullopt };
-            std::optional<FileTime> expiry;
-            if (!record.IsMissing(2))
-                expiry = FileTime { static_cast<quint64>(record.Integer(2)) };
+            const std::optional<FileTime> expiry = ExpiryOf(record, 2);
             if (WarningsFor(row.count, expiry, list, today).isLow)
                 visit(row);
             if (WarningsFor(row.count, expiry, list, limit).isExpired) {

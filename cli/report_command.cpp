@@ -60,7 +60,9 @@ void RunReport(const CommandRun& run)
         } else {
             data->OpenList(run.operands.front());
             outcome = AddList(run, *data, *writer);
-            writer->End();
+            // Else it is begun again.
+            if (outcome.error != ErrorNumber::Cancelled)
+                writer->End();
         }
         return outcome;
     }));

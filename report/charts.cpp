@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "report/charts.h"
 
+#include "report/html_table.h"
+
 #include <QCoreApplication>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 
@@ -11,7 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kWidth = 640;
 constexpr const char* kBar = "#3b78c2";
 constexpr const char* kAlarm = "#c8432f";
 constexpr const char* kRule = "#888888";
@@ -49,17 +51,16 @@ public:
                        .arg(y)
                        .arg(QLatin1StringView(anchor), QLatin1StringView(m_ink))
                        .toUtf8()
-            + text.toHtmlEscaped().toUtf8() + "</text>\n";
+            + HtmlText(text) + "</text>\n";
     }
     [[nodiscard]] Chart Finish(const QString& title, int height) const
     {
         const QString begin
             = u"<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 %1 %2\" width=\"%1\" "
               "height=\"%2\" font-family=\"sans-serif\" font-size=\"13\" role=\"img\">\n<title>"_s
-                  .arg(kWidth)
+                  .arg(kChartWidth)
                   .arg(height);
-        return { title,
-            begin.toUtf8() + title.toHtmlEscaped().toUtf8() + "</title>\n" + m_parts + "</svg>\n",
+        return { title, begin.toUtf8() + HtmlText(title) + "</title>\n" + m_parts + "</svg>\n",
             height };
     }
 
@@ -67,6 +68,17 @@ private:
     QByteArray m_ink;
     QByteArray m_parts;
 };
+
+/// As much of a name as there is room for, in whole letters.
+QString Shortened(const QString& name)
+{
+    constexpr qsizetype kMostOfName = 28;
+    if (name.size() <= kMostOfName)
+        return name;
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, name);
+    letters.setPosition(kMostOfName);
+    return name.left(letters.toPreviousBoundary()) + u'…';
+}
 
 QString Translated(const char* text)
 {
@@ -81,7 +93,7 @@ Chart DrawMonths(const ReportSource& source, const ReportFacts& facts, const QBy
     constexpr int kLineOfText = 16;
     constexpr double kGap = 8;
     constexpr auto kBars = static_cast<int>(ReportFacts::kMonths) + 1;
-    constexpr double kStep = double { kWidth } / kBars;
+    constexpr double kStep = double { kChartWidth } / kBars;
     const qint64 most
         = std::max({ qint64 { 1 }, facts.expired, *std::ranges::max_element(facts.expiring) });
     Drawing drawing(ink);
@@ -108,7 +120,7 @@ Chart DrawMonths(const ReportSource& source, const ReportFacts& facts, const QBy
             drawing.AddText((i + 0.5) * kStep, kGround + 2 * kLineOfText, "middle",
                 QString::number(month.year()));
     }
-    drawing.AddLine(0, kGround, kWidth, kGround);
+    drawing.AddLine(0, kGround, kChartWidth, kGround);
     return drawing.Finish(
         Translated(QT_TRANSLATE_NOOP("Report", "What expires in the next twelve months")), kHeight);
 }
@@ -120,7 +132,6 @@ Chart DrawCounts(const ReportSource& source, const ReportFacts& facts, const QBy
     constexpr double kBegin = 220;
     constexpr double kEnd = 590;
     constexpr double kTop = 24;
-    constexpr qsizetype kMostOfName = 28;
     const qint32 threshold = source.List().TableWarnStart;
     const qint32 most = std::max({ 1, threshold, facts.fewest.back().count });
     const auto placeOf = [most](qint32 count) {
@@ -131,8 +142,7 @@ Chart DrawCounts(const ReportSource& source, const ReportFacts& facts, const QBy
     for (const auto& [name, count] : facts.fewest) {
         const bool isLow = count <= threshold;
         const double end = placeOf(count);
-        const QString shown = name.size() > kMostOfName ? name.left(kMostOfName - 1) + u'…' : name;
-        drawing.AddText(kBegin - 8, y + kThickness - 2, "end", shown);
+        drawing.AddText(kBegin - 8, y + kThickness - 2, "end", Shortened(name));
         if (end > kBegin)
             drawing.AddBar(kBegin, y, end - kBegin, kThickness, isLow ? kAlarm : kBar);
         const QString mark = isLow ? u' ' + WarningText({ true, false }) : QString();

@@ -10,11 +10,14 @@
 
 namespace Quillory {
 
+/// How wide each drawing is.
+constexpr int kChartWidth = 640;
+
 struct Chart
 {
     /// What it shows, above it and for those who cannot see it.
     QString title;
-    /// A drawing 640 wide, in an SVG of its own. Text is in `ink`.
+    /// In an SVG of its own. Text is in `ink`.
     QByteArray drawing;
     int height = 0;
 };

@@ -3,8 +3,6 @@
 
 #include "values/column_type.h"
 
-#include <algorithm>
-
 namespace Quillory {
 
 using namespace Qt::StringLiterals;
@@ -41,15 +39,9 @@ constexpr const char* kPageStyle
 
 } // namespace
 
-QByteArray HtmlText(QString text)
+QByteArray HtmlText(const QString& text)
 {
-    std::replace_if(
-        text.begin(), text.end(),
-        [](QChar unit) {
-            return unit.category() == QChar::Other_Control && unit != u'\t' && unit != u'\n';
-        },
-        QChar(u' '));
-    return text.toHtmlEscaped().toUtf8();
+    return WithoutControls(text).toHtmlEscaped().toUtf8();
 }
 
 QByteArray HtmlBegin(const QString& title)

@@ -9,7 +9,7 @@ namespace Quillory {
 
 /// A text as it stands in a page: escaped, and without control characters but TABs and ends of
 /// lines, as pages have no others.
-[[nodiscard]] QByteArray HtmlText(QString text);
+[[nodiscard]] QByteArray HtmlText(const QString& text);
 
 /// The head of a page up to its body, in the language of the reader.
 [[nodiscard]] QByteArray HtmlBegin(const QString& title);

@@ -6,7 +6,7 @@
 #include "values/column_type.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QCoreApplication>
+#include <QDataStream>
 #include <QFile>
 #include <QFontMetricsF>
 #include <QLocale>
@@ -21,7 +21,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <optional>
 #include <utility>
 
 namespace Quillory {
@@ -64,6 +63,28 @@ struct Line
 {
     QStringList texts;
     RowWarnings warnings;
+
+    friend QDataStream& operator<<(QDataStream& stream, const Line& line)
+    {
+        return stream << line.texts << line.warnings.isLow << line.warnings.isExpired;
+    }
+    friend QDataStream& operator>>(QDataStream& stream, Line& line)
+    {
+        return stream >> line.texts >> line.warnings.isLow >> line.warnings.isExpired;
+    }
+};
+
+/// What is printed of a list, read as a whole before any of it is printed.
+struct ListToPrint
+{
+    QString name;
+    QString subtitle;
+    int icon = 0;
+    std::vector<ColumnDefinition> columns;
+    std::vector<Chart> charts;
+    ListTotals totals;
+    /// The rows as lines in a stream, a fraction of what they take as objects.
+    QByteArray lines;
 };
 
 /// Draws vectors within text.
@@ -113,31 +134,29 @@ public:
         return m_document;
     }
 
-    void AddTitle(const ReportSource& list, const ReportFacts& facts)
+    void AddTitle(const ListToPrint& list)
     {
-        QFile icon(ListIconFile(list.List().TableIcon));
+        QFile icon(ListIconFile(list.icon));
         if (icon.open(QIODevice::ReadOnly))
             AddDrawing(icon.readAll().replace("#000", kInk.name().toLatin1()), { kIcon, kIcon });
         QTextCharFormat title = Ink(kInk, kTitlePoints, true);
         title.setVerticalAlignment(QTextCharFormat::AlignMiddle);
-        m_cursor.insertText(u"  "_s + list.List().Name, title);
+        m_cursor.insertText(u"  "_s + list.name, title);
         AddBlock();
-        m_cursor.insertText(ReportSubtitle(list, facts), Ink(kQuiet, kBodyPoints, false));
+        m_cursor.insertText(list.subtitle, Ink(kQuiet, kBodyPoints, false));
     }
     void AddChart(const Chart& chart)
     {
-        constexpr double kChartWidth = 640;
-        const double width = std::min(kChartWidth * 4 / 5, m_document.pageSize().width());
+        const double width = std::min<double>(kChartWidth * 4 / 5, m_document.pageSize().width());
         AddBlock(kGap);
         m_cursor.insertText(chart.title, Ink(kInk, kBodyPoints, true));
         AddBlock(kCellPadding);
         AddDrawing(chart.drawing, QSizeF(width, chart.height * width / kChartWidth));
     }
-    QTextTable* AddTable(
-        const ReportSource& list, const QList<QTextLength>& widths, std::span<const Line> lines)
+    QTextTable* AddTable(const std::vector<ColumnDefinition>& columns,
+        const QList<QTextLength>& widths, std::span<const Line> lines)
     {
         AddBlock(kGap / 2);
-        const auto& columns = list.Columns();
         QTextTableFormat format = Bare();
         format.setHeaderRowCount(1);
         format.setColumnWidthConstraints(widths);
@@ -236,23 +255,21 @@ private:
 /// The widths of columns: what they hold if there is room for that, else the wide ones give way.
 QList<double> FittedWidths(QList<double> natural, double room)
 {
-    double least = 0;
-    double most = std::accumulate(natural.begin(), natural.end(), 0.0);
-    if (most <= room)
-        return natural;
-    // The width above which columns are cut down, halved in on.
-    double low = 0;
-    double high = *std::max_element(natural.begin(), natural.end());
     const auto sumUpTo = [&natural](double limit) {
         return std::accumulate(natural.begin(), natural.end(), 0.0,
             [limit](double sum, double width) { return sum + std::min(width, limit); });
     };
-    while (high - low > 1) {
-        least = (low + high) / 2;
-        (sumUpTo(least) > room ? high : low) = least;
+    // The width above which columns are cut down, halved in on.
+    double fits = 0;
+    double most = *std::max_element(natural.begin(), natural.end());
+    if (sumUpTo(most) <= room)
+        return natural;
+    while (most - fits > 1) {
+        const double middle = (fits + most) / 2;
+        (sumUpTo(middle) <= room ? fits : most) = middle;
     }
     for (double& width : natural)
-        width = std::min(width, low);
+        width = std::min(width, fits);
     return natural;
 }
 
@@ -275,27 +292,37 @@ public:
 
     Database::VisitOutcome Add(const ReportSource& list)
     {
-        m_name = list.List().Name;
-        std::vector<Line> lines;
-        bool isFirst = true;
-        const auto outcome = list.Visit([&](const ReportRow& row) {
+        const ReportFacts facts = list.Facts();
+        ListToPrint& read = m_lists.emplace_back();
+        read.name = list.List().Name;
+        read.subtitle = ReportSubtitle(list, facts);
+        read.icon = list.List().TableIcon;
+        read.columns = list.Columns();
+        read.charts = DrawCharts(list, facts, kInk.name().toLatin1());
+        read.totals = list.Totals();
+        QDataStream stream(&read.lines, QIODevice::WriteOnly);
+        return list.Visit([&](const ReportRow& row) {
             Line line { {}, row.warnings };
             for (const PropertyValue& value : row.values)
                 line.texts << ReportText(value, list.Context());
-            lines.push_back(std::move(line));
-            if (lines.size() >= kRowsAtOnce)
-                Print(list, lines, std::exchange(isFirst, false), false);
+            stream << line;
             return true;
         });
-        Print(list, lines, isFirst, true);
-        return outcome;
     }
-    void End() { m_painter.end(); }
+    void End()
+    {
+        for (const ListToPrint& list : m_lists)
+            PrintList(list);
+        // A document has a page, whatever there is to print.
+        if (!m_painter.isActive())
+            m_painter.begin(&m_writer);
+        m_painter.end();
+    }
 
 private:
     QPdfWriter m_writer;
     QPainter m_painter;
-    QString m_name;
+    std::vector<ListToPrint> m_lists;
     QList<QTextLength> m_widths;
     int m_page = 0;
 
@@ -304,10 +331,21 @@ private:
         const QSize room = m_writer.pageLayout().paintRectPixels(kPixelsPerInch).size();
         return { static_cast<double>(room.width()), room.height() - kFooter };
     }
-    /// Chooses how the pages lie and the widths of the columns by the first rows.
-    void Fit(const ReportSource& list, std::span<const Line> lines)
+    void PrintList(const ListToPrint& list)
     {
-        const auto& columns = list.Columns();
+        std::vector<Line> lines;
+        bool isFirst = true;
+        QDataStream stream(list.lines);
+        while (!stream.atEnd()) {
+            stream >> lines.emplace_back();
+            if (lines.size() >= kRowsAtOnce)
+                Print(list, lines, std::exchange(isFirst, false), false);
+        }
+        Print(list, lines, isFirst, true);
+    }
+    /// Chooses how the pages lie and the widths of the columns by the first rows.
+    void Fit(const std::vector<ColumnDefinition>& columns, std::span<const Line> lines)
+    {
         QFont bold = BodyFont();
         bold.setBold(true);
         const QFontMetricsF plainMetrics(BodyFont(), &m_writer);
@@ -333,23 +371,19 @@ private:
     }
     /// Lays `lines` out and prints them; unless they are the last ones those of the last page stay,
     /// to be printed with what follows.
-    void Print(const ReportSource& list, std::vector<Line>& lines, bool isFirst, bool isLast)
+    void Print(const ListToPrint& list, std::vector<Line>& lines, bool isFirst, bool isLast)
     {
         if (isFirst)
-            Fit(list, lines);
+            Fit(list.columns, lines);
         DocumentBuilder builder(m_writer, PageRoom());
         if (isFirst) {
-            const ReportFacts facts = list.Facts();
-            builder.AddTitle(list, facts);
-            for (const Chart& chart : DrawCharts(list, facts, kInk.name().toLatin1()))
+            builder.AddTitle(list);
+            for (const Chart& chart : list.charts)
                 builder.AddChart(chart);
         }
-        QTextTable* table = builder.AddTable(list, m_widths, lines);
-        if (isLast) {
-            const ListTotals totals = list.Totals();
-            if (!totals.lines.empty() && totals.error == ErrorNumber::None)
-                builder.AddTotals(totals);
-        }
+        QTextTable* table = builder.AddTable(list.columns, m_widths, lines);
+        if (isLast && !list.totals.lines.empty() && list.totals.error == ErrorNumber::None)
+            builder.AddTotals(list.totals);
         const QTextDocument& document = builder.Finish();
         int pages = document.pageCount();
         size_t printed = lines.size();
@@ -361,7 +395,7 @@ private:
             }
         }
         for (int page = 0; page < pages; ++page)
-            PrintPage(document, page);
+            PrintPage(document, page, list.name);
         lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(printed));
     }
     /// The first row of the table that begins on a page, if none goes over from the one before; 0
@@ -385,7 +419,7 @@ private:
             --row;
         return boxOf(row).top() >= begin && boxOf(row - 1).bottom() <= begin ? row : 0;
     }
-    void PrintPage(const QTextDocument& document, int page)
+    void PrintPage(const QTextDocument& document, int page, const QString& name)
     {
         if (!m_painter.isActive())
             m_painter.begin(&m_writer);
@@ -405,8 +439,7 @@ private:
         m_painter.setPen(kQuiet);
         const QRectF footer(0, room.height(), room.width(), kFooter);
         m_painter.drawText(footer, Qt::AlignLeft | Qt::AlignBottom,
-            QFontMetricsF(small, &m_writer)
-                .elidedText(m_name, Qt::ElideRight, room.width() * 2 / 3));
+            QFontMetricsF(small, &m_writer).elidedText(name, Qt::ElideRight, room.width() * 2 / 3));
         m_painter.drawText(footer, Qt::AlignRight | Qt::AlignBottom, QString::number(++m_page));
     }
 };

@@ -10,7 +10,8 @@
 namespace Quillory {
 
 /// Writes lists as pages to print, each list from a page of its own on: upright, or across where
-/// its columns ask for that. Titles of columns stand on each page. Holds some pages in memory.
+/// its columns ask for that. Titles of columns stand on each page. Lists are read as they are added
+/// and printed at the end, for that takes long, and nobody who writes shall wait for it.
 class PdfReport : public ReportWriter
 {
 public:

@@ -36,13 +36,6 @@ int MonthOf(QDate date)
     return date.year() * kMonthsInYear + date.month();
 }
 
-std::optional<FileTime> ExpiryOf(const ScannedRecord& record, size_t place)
-{
-    if (record.IsMissing(place))
-        return std::nullopt;
-    return FileTime { static_cast<quint64>(record.Integer(place)) };
-}
-
 } // namespace
 
 ReportSource::ReportSource(
@@ -124,17 +117,22 @@ QString ReportTotalsTitle()
     return QCoreApplication::translate("Report", "Totals");
 }
 
+QString WithoutControls(QString text)
+{
+    std::ranges::replace_if(
+        text,
+        [](QChar unit) {
+            return unit.category() == QChar::Other_Control && unit != u'\t' && unit != u'\n';
+        },
+        QChar(u' '));
+    return text;
+}
+
 QString ReportText(const PropertyValue& value, const ValueContext& context)
 {
     if (const auto* isChecked = std::get_if<bool>(&value.value))
         return *isChecked ? u"✓"_s : QString();
-    return FormatCellText(value.IsMissing() ? nullptr : &value, value.id, context);
-}
-
-bool IsNumberColumn(PropertyId column)
-{
-    const ColumnType type = ColumnTypeOf(column);
-    return type == ColumnType::Integer || type == ColumnType::Price;
+    return WithoutControls(FormatCellText(value.IsMissing() ? nullptr : &value, value.id, context));
 }
 
 } // namespace Quillory

@@ -74,10 +74,11 @@ private:
 /// What stands below the title: the day, and how many rows there are.
 [[nodiscard]] QString ReportSubtitle(const ReportSource& source, const ReportFacts& facts);
 [[nodiscard]] QString ReportTotalsTitle();
+/// The text with blanks in place of control characters, which no page can show, but for TAB and
+/// line feeds.
+[[nodiscard]] QString WithoutControls(QString text);
 /// The text of a value in a report: as in a cell, a mark for a tick.
 [[nodiscard]] QString ReportText(const PropertyValue& value, const ValueContext& context);
-/// Whether a column is of numbers, which stand below each other by their ends.
-[[nodiscard]] bool IsNumberColumn(PropertyId column);
 
 /// Takes one list after another.
 class ReportWriter

@@ -143,8 +143,7 @@ bool RowsModel::IsCheckbox(int column) const
 
 bool RowsModel::IsNumber(int column) const
 {
-    const ColumnType type = ColumnTypeOf(ColumnId(column));
-    return type == ColumnType::Integer || type == ColumnType::Price;
+    return IsNumberColumn(ColumnId(column));
 }
 
 bool RowsModel::IsName(int column) const

@@ -8,6 +8,13 @@ namespace Quillory {
 
 using namespace Qt::StringLiterals;
 
+std::optional<FileTime> ExpiryOf(const ScannedRecord& record, size_t place)
+{
+    if (record.IsMissing(place))
+        return std::nullopt;
+    return FileTime { static_cast<quint64>(record.Integer(place)) };
+}
+
 RowWarnings WarningsFor(
     qint32 count, std::optional<FileTime> expiry, const InventoryList& list, FileTime today)
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "propdb/property_value.h"
+#include "propdb/database.h"
 #include "store/inventory_list.h"
 
 #include <QString>
@@ -17,6 +17,9 @@ struct RowWarnings
 
     friend bool operator==(const RowWarnings&, const RowWarnings&) = default;
 };
+
+/// The expiry date at a place of a record; none where the row has none.
+[[nodiscard]] std::optional<FileTime> ExpiryOf(const ScannedRecord& record, size_t place);
 
 /// Which warnings of the list hold for a row of this count, 0 where it has none, and this expiry
 /// date. `today` is midnight of the day.

@@ -86,8 +86,7 @@ ListTotals ComputeTotals(DataVolume& volume, const InventoryList& list, const Fi
     ListTotals totals;
     std::vector<PropertyId> columns;
     for (const ColumnDefinition& column : list.columns) {
-        const ColumnType type = ColumnTypeOf(column.id);
-        if (type != ColumnType::Integer && type != ColumnType::Price)
+        if (!IsNumberColumn(column.id))
             continue;
         columns.push_back(column.id);
         totals.lines.push_back({ column.name, QStringLiteral("0") });

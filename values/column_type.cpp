@@ -36,6 +36,12 @@ ValueType StorageType(ColumnType type)
     return CEVT_LPWSTR;
 }
 
+bool IsNumberColumn(PropertyId column)
+{
+    const ColumnType type = ColumnTypeOf(column);
+    return type == ColumnType::Integer || type == ColumnType::Price;
+}
+
 bool IsBuiltInColumn(PropertyId column)
 {
     return column == PropName || column == PropCount || column == PropExpiryDate;

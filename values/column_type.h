@@ -29,6 +29,8 @@ constexpr PropertyId PropExpiryDate = MakePropertyId(10008, CEVT_FILETIME);
 [[nodiscard]] ColumnType ColumnTypeOf(PropertyId column);
 /// The property type that stores a column type.
 [[nodiscard]] ValueType StorageType(ColumnType type);
+/// Whether a column is of numbers, which have totals and stand below each other by their ends.
+[[nodiscard]] bool IsNumberColumn(PropertyId column);
 /// Whether the identifier is one of the three built-in ones.
 [[nodiscard]] bool IsBuiltInColumn(PropertyId column);
 
