@@ -3,6 +3,7 @@
 
 #include "res/string_table.h"
 #include "widgets/icon_set.h"
+#include "widgets/text_line.h"
 
 #include <algorithm>
 #include <utility>
@@ -95,8 +96,9 @@ QVariant HomeListModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-    case Qt::ToolTipRole:
         return At(index).name;
+    case Qt::ToolTipRole:
+        return TipOf(At(index).name);
     case Qt::DecorationRole:
         return ListIcon(At(index).icon);
     default:

@@ -32,13 +32,15 @@ void SpeakLanguage(const QLocale& locale)
     QCoreApplication* application = QCoreApplication::instance();
     auto* own = new QTranslator(application);
     LoadLanguage(*own, locale);
+    QCoreApplication::installTranslator(own);
+    // The toolkit speaks English by itself, and knows no Swedish.
     const QString language = own->language();
     auto* toolkit = new QTranslator(application);
-    // The toolkit has no Swedish.
-    if (toolkit->load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath))
-        || toolkit->load(u"toolkit_"_s + language, kLanguages))
+    if (language != u"en"
+        && (toolkit->load(
+                u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath))
+            || toolkit->load(u"toolkit_"_s + language, kLanguages)))
         QCoreApplication::installTranslator(toolkit);
-    QCoreApplication::installTranslator(own);
 }
 
 } // namespace Quillory

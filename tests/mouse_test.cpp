@@ -9,6 +9,7 @@
 #include <QCursor>
 #include <QLabel>
 #include <QTabBar>
+#include <QTextDocumentFragment>
 #include <QToolButton>
 #include <QToolTip>
 #include <QTreeView>
@@ -30,7 +31,8 @@ public:
     }
 };
 
-/// Moves the mouse away and over a place, and gives the tip that it finds there; "…" for none.
+/// Moves the mouse away and over a place, and gives the tip that it finds there, as it is read; "…"
+/// for none.
 QString TipAt(const QWidget& widget, const QPoint& place)
 {
     QToolTip::hideText();
@@ -38,7 +40,8 @@ QString TipAt(const QWidget& widget, const QPoint& place)
     QCursor::setPos(widget.mapToGlobal(place) + QPoint(1, 0));
     QCursor::setPos(widget.mapToGlobal(place));
     const bool isTold = QTest::qWaitFor([] { return QToolTip::isVisible(); }, 300);
-    return isTold ? QToolTip::text() : u"…"_s;
+    const QString text = isTold ? QToolTip::text() : u"…"_s;
+    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
 }
 
 /// The places of a window that look otherwise while the mouse is over a place.
@@ -87,8 +90,8 @@ private Q_SLOTS:
         for (const auto* button : threshold->findChildren<QToolButton*>())
             steps << middleTip(button);
         QCOMPARE(steps, (QStringList { u"Less"_s, u"More"_s }));
-        sheet.page->SetTitle(QString(80, u'x'));
-        QCOMPARE(named("title"_L1), QString(80, u'x'));
+        sheet.page->SetTitle(u"<b>"_s + QString(80, u'x'));
+        QCOMPARE(named("title"_L1), u"<b>"_s + QString(80, u'x'));
         sheet.stack.hide();
         DateField date(sheet.file.context);
         date.show();
@@ -99,7 +102,7 @@ private Q_SLOTS:
     void whatIsCutIsItsTip()
     {
         RowsErrand rows;
-        const QString name = QString(60, u'w');
+        const QString name = u"<b>"_s + QString(60, u'w');
         rows.file.list.columns[Shelf].name = u"Where in the cellar it stands"_s;
         rows.file.Add({ name, u"3"_s, u"top"_s });
         rows.Open();

@@ -36,7 +36,7 @@ void AmbiguousDates::Look(std::span<const QStringView> fields)
         return;
     for (const size_t place : m_places) {
         if (place < fields.size() && IsAmbiguous(fields[place])) {
-            m_first = fields[place].toString();
+            m_first = fields[place].toString().simplified();
             return;
         }
     }

@@ -3,6 +3,7 @@
 
 #include "widgets/focus_ring.h"
 #include "widgets/measures.h"
+#include "widgets/text_line.h"
 
 #include <QCursor>
 #include <QEvent>
@@ -104,7 +105,7 @@ public:
         const QString text = CutText(help->pos());
         if (text.isEmpty())
             return QObject::eventFilter(watched, event);
-        QToolTip::showText(help->globalPos(), text, m_view);
+        QToolTip::showText(help->globalPos(), TipOf(text), m_view);
         return true;
     }
 

@@ -5,6 +5,7 @@
 #include "widgets/ink.h"
 #include "widgets/measures.h"
 #include "widgets/message_box.h"
+#include "widgets/text_line.h"
 #include "widgets/undo_bar.h"
 
 #include <QAbstractItemView>
@@ -42,7 +43,7 @@ protected:
     bool event(QEvent* event) override
     {
         if (event->type() == QEvent::ToolTip)
-            setToolTip(WholeLines() == 0 ? text() : QString());
+            setToolTip(WholeLines() == 0 ? TipOf(text()) : QString());
         return QLabel::event(event);
     }
     void paintEvent(QPaintEvent* /*event*/) override
@@ -177,7 +178,7 @@ void OpenFromKey(QMenu& menu, const QWidget& key)
     // The menu's own size hint never goes beyond the screen.
     const auto lines = static_cast<int>(menu.actions().size());
     if (lines * CurrentMeasures().lineHeight > key.window()->height())
-        menu.setStyleSheet(u"QMenu::item { padding: 7px 16px 7px 2px; }"_s);
+        menu.setStyleSheet(u"QMenu::item { padding-top: 7px; padding-bottom: 7px; }"_s);
     const QSize size = menu.sizeHint();
     QPoint place = key.mapToGlobal(QPoint(key.width() - size.width(), -size.height()));
     place.setX(std::max(place.x(), key.window()->mapToGlobal(QPoint()).x()));

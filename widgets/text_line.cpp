@@ -2,6 +2,7 @@
 #include "widgets/text_line.h"
 
 #include <QRegularExpression>
+#include <QTextDocument>
 #include <QValidator>
 
 namespace Quillory {
@@ -31,6 +32,11 @@ public:
 };
 
 } // namespace
+
+QString TipOf(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
 
 void KeepToOneLine(QLineEdit* edit)
 {
