@@ -3,7 +3,6 @@
 
 #include "propdb/detail/sqlite_error.h"
 
-#include <QVarLengthArray>
 #include <QtEndian>
 
 #include <sqlite3.h>
@@ -65,6 +64,7 @@ Statement::~Statement()
 Statement::Statement(Statement&& other) noexcept
     : m_statement(std::exchange(other.m_statement, nullptr))
     , m_classes(std::move(other.m_classes))
+    , m_texts(std::move(other.m_texts))
     , m_bindCode(other.m_bindCode)
     , m_error(other.m_error)
 { }
@@ -73,6 +73,7 @@ Statement& Statement::operator=(Statement&& other) noexcept
 {
     std::swap(m_statement, other.m_statement);
     m_classes = std::move(other.m_classes);
+    std::swap(m_texts, other.m_texts);
     m_bindCode = other.m_bindCode;
     m_error = other.m_error;
     return *this;
@@ -115,7 +116,11 @@ void Statement::Bind(int parameter, QStringView text)
         text.truncate(nul);
     // Files hold text big-endian, so that comparing bytes compares units.
     constexpr QChar kMark = u'\uFEFF';
-    QVarLengthArray<char16_t, 256> units(1 + text.size());
+    const auto place = static_cast<size_t>(parameter);
+    if (place >= m_texts.size())
+        m_texts.resize(place + 1);
+    std::vector<char16_t>& units = m_texts[place];
+    units.resize(1 + static_cast<size_t>(text.size()));
     units[0] = qToBigEndian(kMark.unicode());
     qToBigEndian<quint16>(text.utf16(), text.size(), units.data() + 1);
     // SQLite takes a byte-order mark at the front for its own and leaves it out or, where the mark
@@ -125,7 +130,7 @@ void Statement::Bind(int parameter, QStringView text)
     const auto bound = std::span(units).subspan(needsMark ? 0 : 1);
     NoteBinding(
         sqlite3_bind_text64(m_statement, parameter, reinterpret_cast<const char*>(bound.data()),
-            bound.size_bytes(), SQLITE_TRANSIENT, SQLITE_UTF16BE));
+            bound.size_bytes(), SQLITE_STATIC, SQLITE_UTF16BE));
 }
 
 void Statement::BindNull(int parameter)

@@ -66,6 +66,9 @@ private:
     sqlite3_stmt* m_statement = nullptr;
     /// Of each column.
     std::vector<ValueClasses> m_classes;
+    /// The texts that are bound, at the numbers of their parameters: copies of SQLite's own would
+    /// be asked of the heap for each row.
+    std::vector<std::vector<char16_t>> m_texts;
     /// The code of a value that could not be bound; the statement must not run without it.
     int m_bindCode = 0;
     ErrorNumber m_error = ErrorNumber::None;
