@@ -10,6 +10,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QMenu>
 #include <QPointer>
 
 namespace {
@@ -70,6 +71,29 @@ QStringList HeardEntries()
     return heard;
 }
 
+/// Opens the menu of the line that has the keyboard, as assistive technology does.
+void AskForMenu(Page* page)
+{
+    QAccessible::queryAccessibleInterface(page)->actionInterface()->doAction(
+        QAccessibleActionInterface::showMenuAction());
+}
+
+/// Whether letters lead from entry to entry and round to the first one again.
+bool LettersLeadToEntries(QMenu* menu)
+{
+    QList<QAction*> entries;
+    for (QAction* entry : menu->actions()) {
+        if (entry->isEnabled() && !entry->isSeparator())
+            entries << entry;
+    }
+    entries += entries.first(std::min<qsizetype>(entries.size(), 1));
+    return std::ranges::all_of(entries, [menu](QAction* entry) {
+        for (int tries = 0; menu->activeAction() != entry && tries < 3; ++tries)
+            QTest::keyClicks(menu, entry->text().left(1).toLower());
+        return menu->activeAction() == entry;
+    });
+}
+
 } // namespace
 
 class MenusTest : public QObject
@@ -91,16 +115,21 @@ private Q_SLOTS:
                 if (entry.command != Command::Separator)
                     wanted << entry.Text();
             }
-            for (int opening = 0; opening < 2; ++opening) {
-                Act(subject.open);
+            const bool isHeld = subject.open.contains(u"hold"_s);
+            for (int opening = 0; opening < 3; ++opening) {
+                if (isHeld && opening == 2)
+                    AskForMenu(stack.Top());
+                else
+                    Act(subject.open);
                 QCOMPARE(HeardEntries(), wanted);
-                QWidget* menu = QApplication::activePopupWidget();
+                auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
                 const QRect window(stack.mapToGlobal(QPoint()), stack.size());
-                QVERIFY(subject.open.contains(u"hold"_s) || window.contains(menu->geometry()));
+                QVERIFY(isHeld || window.contains(menu->geometry()));
                 // What a held finger opened stays when it is lifted.
-                if (subject.open.contains(u"hold"_s))
+                if (isHeld)
                     QTest::mouseRelease(menu, Qt::LeftButton, {}, { 20, 20 });
                 QVERIFY(menu->isVisible());
+                QVERIFY2(LettersLeadToEntries(menu), qPrintable(subject.open));
                 Act(u"press Esc"_s);
                 QVERIFY(QApplication::activePopupWidget() == nullptr);
             }

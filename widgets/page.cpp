@@ -10,6 +10,8 @@
 
 #include <QAbstractItemView>
 #include <QAction>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -80,26 +82,73 @@ private:
     }
 };
 
-/// A menu that a held finger opened: lifting the finger chooses nothing, whatever lies under it.
-class HoldMenu : public QMenu
+/// A menu in which a letter leads to the next entry that begins with it.
+class LetterMenu : public QMenu
 {
 public:
     using QMenu::QMenu;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const QString letter = event->text().trimmed();
+        const QList<QAction*> entries = actions();
+        const qsizetype current = entries.indexOf(activeAction());
+        for (qsizetype i = 1; !letter.isEmpty() && i <= entries.size(); ++i) {
+            QAction* entry = entries[(current + i) % entries.size()];
+            if (entry->isEnabled() && entry->text().startsWith(letter, Qt::CaseInsensitive))
+                return setActiveAction(entry);
+        }
+        QMenu::keyPressEvent(event);
+    }
+};
+
+/// A menu that a held finger opened: lifting the finger chooses nothing, whatever lies under it.
+class HoldMenu : public LetterMenu
+{
+public:
+    using LetterMenu::LetterMenu;
+
+protected:
     void mousePressEvent(QMouseEvent* event) override
     {
         m_isPressed = true;
-        QMenu::mousePressEvent(event);
+        LetterMenu::mousePressEvent(event);
     }
     void mouseReleaseEvent(QMouseEvent* event) override
     {
         if (event->button() != Qt::LeftButton || m_isPressed)
-            QMenu::mouseReleaseEvent(event);
+            LetterMenu::mouseReleaseEvent(event);
     }
 
 private:
     bool m_isPressed = false;
+};
+
+/// A page as assistive technology meets it. It can do what its keys do: Return, and the key of the
+/// menu, which its lines do not tell of.
+class AccessiblePage : public AccessibleAs<QAccessible::Pane>
+{
+public:
+    using AccessibleAs::AccessibleAs;
+
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return { pressAction(), showMenuAction() };
+    }
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction()) {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(widget(), &press);
+        } else if (name == showMenuAction()) {
+            QWidget* place
+                = widget()->focusWidget() == nullptr ? widget() : widget()->focusWidget();
+            const QPoint middle = place->rect().center();
+            QContextMenuEvent menu(QContextMenuEvent::Keyboard, middle, place->mapToGlobal(middle));
+            QCoreApplication::sendEvent(place, &menu);
+        }
+    }
 };
 
 /// A menu as assistive technology meets it: a button that says that it opens something.
@@ -190,7 +239,7 @@ void OpenFromKey(QMenu& menu, const QWidget& key)
 Page::Page(const QString& title, QWidget* parent)
     : QWidget(parent)
 {
-    MeetAs<AccessibleAs<QAccessible::Pane>, Page>();
+    MeetAs<AccessiblePage, Page>();
     setAttribute(Qt::WA_StyledBackground);
     setAccessibleName(title);
     auto* layout = new QVBoxLayout(this);
@@ -393,7 +442,7 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     if (isMenu) {
         button->setShortcut(Qt::Key_F10);
-        auto* popup = new QMenu(button);
+        auto* popup = new LetterMenu(button);
         connect(button, &QToolButton::clicked, popup, [this, button, popup, menu] {
             Q_EMIT MenuAboutToOpen();
             popup->clear();
