@@ -121,6 +121,17 @@ private Q_SLOTS:
         QVERIFY(m_stack->Top()->HasUnsavedInput());
     }
 
+    void figuresAreAskedForWhereNumbersAreTyped()
+    {
+        ShowFilter();
+        const auto* edit = m_stack->Top()->findChild<QLineEdit*>(u"valueEdit"_s);
+        for (const auto& [field, hints] : { std::pair(u"Price"_s, Qt::ImhFormattedNumbersOnly),
+                 std::pair(u"Text"_s, Qt::ImhNone) }) {
+            Act(u"choose fieldBox: "_s + field);
+            QCOMPARE(edit->inputMethodHints(), hints);
+        }
+    }
+
     void cancelGivesTheStateBack()
     {
         ShowFilter();

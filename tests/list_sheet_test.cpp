@@ -116,6 +116,8 @@ private Q_SLOTS:
         tabs->setFocus();
         Act(u"press Left Right Right"_s);
         QCOMPARE(tabs->currentIndex(), 2);
+        Act(u"press Ctrl+Tab"_s);
+        QCOMPARE(tabs->currentIndex(), 0);
         QVERIFY(tabs->hasFocus());
     }
 

@@ -135,6 +135,8 @@ private Q_SLOTS:
         QCOMPARE(edit->placeholderText(), before.isEmpty() ? u"no date"_s : before);
         Act(u"fill dateEdit: "_s + typed);
         m_page->findChild<QWidget*>(u"ok"_s)->setFocus();
+        // What was emptied stays as it was, and is seen to.
+        QCOMPARE(edit->text(), typed.trimmed().isEmpty() ? before : typed);
         QCOMPARE(edit->accessibleDescription(), isDate ? QString() : u"not a date"_s);
         Act(u"tap Name"_s);
         QCOMPARE(Shown(field), shown);
