@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>Periwinkle</source>
-        <translation>Immergrün</translation>
+        <translation>Blauviolett</translation>
     </message>
     <message>
         <source>Pink</source>
@@ -206,9 +206,10 @@ Quantity.
                        several times: all must hold.
 </source>
         <translation>  --where CONDITION    nur Zeilen, die sie erfüllen: „COLUMN CONDITION VALUE“,
-                       wie in &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened =
-                       Checked&quot;. Die Bedingungen sind die der Filter, mit ihren
-                       englischen Wörtern oder = != &gt; &gt;= &lt; &lt;=. Wie dort findet
+                       wie in &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;,
+                       &quot;Opened = Checked&quot;. Die Bedingungen sind die der
+                       Filter, mit ihren englischen Wörtern oder
+                       = != &gt; &gt;= &lt; &lt;=. Wie dort findet
                        != bei Text, Zahlen und Preisen dasselbe wie =. Zahlen
                        werden gelesen, wie sie gezeigt werden. Mehrmals
                        möglich: alle müssen gelten.
@@ -230,8 +231,8 @@ Leerzeichen.
   --sort COLUMN        nach einer Spalte aufsteigend geordnet
   --descending         andersherum
   --no-header          ohne die Zeile mit den Namen der Spalten
-  --json               ein Objekt je Zeile; Daten als YYYY-MM-DD, fehlende
-                       Werte als null
+  --json               ein Objekt je Zeile; Datumsangaben als YYYY-MM-DD,
+                       fehlende Werte als null
 </translation>
     </message>
     <message>
@@ -262,10 +263,11 @@ row. Without FILE, or with -, to standard output. An existing FILE is replaced.
 Feldern, CR LF nach jeder Zeile. Ohne FILE oder mit - auf die Standardausgabe.
 Eine vorhandene FILE wird ersetzt.
 
-  --dates iso          Daten als YYYY-MM-DD, die überall gleich gelesen werden
+  --dates iso          Datumsangaben als YYYY-MM-DD, die überall gleich
+                       gelesen werden
   --format NAME        csv oder tsv, eine Tabelle für andere Programme in UTF-8
-                       mit den Namen der Spalten in der ersten Zeile: Daten als
-                       YYYY-MM-DD, Dezimalpunkt, true und false; json, wie show
+                       mit den Namen der Spalten in der ersten Zeile: Datumsangaben
+                       als YYYY-MM-DD, Dezimalpunkt, true und false; json, wie show
                        es ausgibt; oder html, eine Seite zum Lesen
   --all DIR            alle Listen in einen Ordner, der nötigenfalls angelegt
                        wird: je Liste eine Datei, csv, wenn nichts anderes
@@ -490,8 +492,8 @@ groups. Text files are written in UTF-16 behind a byte-order mark, and read in c
         <translation>  --data FILE          arbeitet mit einer anderen Datendatei als der
                        eingestellten (%1)
 
-Daten werden hier %2 geschrieben und Zahlen %3, in Textdateien aber mit Punkt
-und ohne Gruppen. Textdateien werden in UTF-16 hinter einer
+Ein Datum wird hier %2 geschrieben, Zahlen %3, in Textdateien aber mit Punkt und
+ohne Gruppen. Textdateien werden in UTF-16 hinter einer
 Bytereihenfolge-Marke geschrieben und, wo keine steht, in Codepage %4 gelesen.
 </translation>
     </message>
@@ -788,7 +790,7 @@ Damit weitermachen? Es wird in eine neue Datei geschrieben; die beschädigte ble
     </message>
     <message>
         <source>Disc</source>
-        <translation>Scheibe</translation>
+        <translation>CD</translation>
     </message>
     <message>
         <source>Film</source>
@@ -796,7 +798,7 @@ Damit weitermachen? Es wird in eine neue Datei geschrieben; die beschädigte ble
     </message>
     <message>
         <source>Game pad</source>
-        <translation>Spielgerät</translation>
+        <translation>Gamepad</translation>
     </message>
     <message>
         <source>Puzzle</source>
@@ -878,7 +880,7 @@ Damit weitermachen? Es wird in eine neue Datei geschrieben; die beschädigte ble
     <message>
         <source>Dates such as %1 were read in the form %2.</source>
         <extracomment>%1 is such as 10/05/2026, %2 such as dd/MM/yyyy.</extracomment>
-        <translation>Daten wie %1 wurden in der Form %2 gelesen.</translation>
+        <translation>Datumsangaben wie %1 wurden in der Form %2 gelesen.</translation>
     </message>
     <message>
         <source>It is no plain file.</source>

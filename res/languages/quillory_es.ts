@@ -205,8 +205,8 @@
                        several times: all must hold.
 </source>
         <translation>  --where CONDITION    solo las filas que la cumplen: &quot;COLUMN CONDITION VALUE&quot;,
-                       como &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened =
-                       Checked&quot;. Las condiciones son las de los filtros, con
+                       como &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;,
+                       &quot;Opened = Checked&quot;. Las condiciones son las de los filtros, con
                        sus palabras inglesas o = != &gt; &gt;= &lt; &lt;=. Como allí, != en
                        textos, números y precios encuentra lo mismo que =. Los
                        números se leen como se muestran. Se puede repetir:

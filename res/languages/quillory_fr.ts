@@ -206,9 +206,10 @@
                        several times: all must hold.
 </source>
         <translation>  --where CONDITION    seulement les lignes qui la remplissent : « COLUMN
-                       CONDITION VALUE », comme &quot;Name contains tea&quot;, &quot;Quantity
-                       &lt; 3&quot;, &quot;Opened = Checked&quot;. Les conditions sont celles des
-                       filtres, par leurs mots anglais ou = != &gt; &gt;= &lt; &lt;=. Comme
+                       CONDITION VALUE », comme &quot;Name contains tea&quot;,
+                       &quot;Quantity &lt; 3&quot;, &quot;Opened = Checked&quot;. Les conditions
+                       sont celles des filtres, par leurs mots anglais ou
+                       = != &gt; &gt;= &lt; &lt;=. Comme
                        dans les filtres, != sur des textes, nombres et prix
                        trouve ce que = trouve. Les nombres se lisent comme ils
                        sont affichés. Peut être répété : toutes doivent être
@@ -340,7 +341,8 @@ Exits with 3 if something is due, with 0 if nothing is.
         <translation>Affiche les lignes des listes dont les avertissements sont actifs : liste TAB
 ligne TAB « low », « expired » ou la date de péremption de la ligne.
 
-  --within DAYS        aussi les lignes qui périment dans ce nombre de jours
+  --within DAYS        aussi les lignes qui se périment dans ce nombre de
+                       jours
   --json               liste, ligne, état et nombre ou date de chacune
   --ics                affiche plutôt un calendrier de toutes les dates de
                        péremption, en iCalendar ; avec --within seulement
@@ -537,9 +539,9 @@ Without FILE, or with -, to standard output. An existing FILE is replaced.
   --format NAME        pdf, or html for one page that needs no other file; without it what
                        the name of FILE ends in, or pdf
 </source>
-        <translation>Écrit une liste à imprimer ou à envoyer : ses lignes, où ce qui manque ou périme
-est marqué, les totaux, et les dessins de ce qui périme dans les douze prochains
-mois et de ce dont il reste le moins. Sans FILE, ou avec -, sur la sortie
+        <translation>Écrit une liste à imprimer ou à envoyer : ses lignes, où ce qui manque ou est périmé
+est marqué, les totaux, et les dessins de ce qui se périme dans les douze
+prochains mois et de ce dont il reste le moins. Sans FILE, ou avec -, sur la sortie
 standard. Un FILE existant est remplacé.
 
   --all                toutes les listes dans un seul rapport
@@ -1276,7 +1278,7 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>What expires in the next twelve months</source>
-        <translation>Ce qui périme dans les douze prochains mois</translation>
+        <translation>Ce qui se périme dans les douze prochains mois</translation>
     </message>
     <message>
         <source>Of what fewest are left, beside the threshold</source>

@@ -205,8 +205,8 @@
                        several times: all must hold.
 </source>
         <translation>  --where CONDITION    tylko wiersze, które go spełniają: &quot;COLUMN CONDITION
-                       VALUE&quot;, jak &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened
-                       = Checked&quot;. Warunki są te same co w filtrach,
+                       VALUE&quot;, jak &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;,
+                       &quot;Opened = Checked&quot;. Warunki są te same co w filtrach,
                        angielskimi słowami lub jako = != &gt; &gt;= &lt; &lt;=. Tak jak
                        tam, != w tekstach, liczbach i cenach znajduje to, co =.
                        Liczby czyta się tak, jak są pokazywane. Można podać

@@ -205,8 +205,8 @@
                        several times: all must hold.
 </source>
         <translation>  --where CONDITION    bara rader som uppfyller det: &quot;COLUMN CONDITION VALUE&quot;,
-                       som i &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;, &quot;Opened =
-                       Checked&quot;. Villkoren är filtrens, med deras engelska ord
+                       som i &quot;Name contains tea&quot;, &quot;Quantity &lt; 3&quot;,
+                       &quot;Opened = Checked&quot;. Villkoren är filtrens, med deras engelska ord
                        eller = != &gt; &gt;= &lt; &lt;=. Som där hittar != i text, tal och
                        priser samma som =. Tal läses som de visas. Får anges
                        flera gånger: alla måste gälla.
