@@ -143,10 +143,11 @@ private Q_SLOTS:
         {
             Page* (*make)(const ListFixture& file, InventoryList& list);
             QString focused;
-            Qt::Key key;
+            QKeyCombination key;
         };
         for (const KeyCase& subject : { KeyCase { NewHome, u"rightKey"_s, Qt::Key_Space },
                  { NewHome, u"rightKey"_s, Qt::Key_Return }, { NewRows, {}, Qt::Key_F10 },
+                 { NewRows, {}, Qt::ALT | Qt::Key_M },
                  { NewSheet, u"countColour"_s, Qt::Key_Space } }) {
             ListFixture file(u"Pantry"_s);
             file.list.TableOption = kWarnOnCount;
@@ -158,10 +159,11 @@ private Q_SLOTS:
                 Act(u"tap Options"_s);
             if (auto* focused = stack.Top()->findChild<QWidget*>(subject.focused))
                 focused->setFocus();
-            QTest::keyPress(QApplication::focusWidget(), subject.key);
+            QTest::keyPress(
+                QApplication::focusWidget(), subject.key.key(), subject.key.keyboardModifiers());
             QPointer<QWidget> opened = QApplication::activePopupWidget();
             QVERIFY2(opened != nullptr, qPrintable(subject.focused));
-            QTest::keyRelease(opened, subject.key);
+            QTest::keyRelease(opened, subject.key.key());
             QTest::qWait(200);
             QVERIFY(opened != nullptr && opened->isVisible());
             Act(u"press Esc"_s);

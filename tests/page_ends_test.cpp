@@ -325,10 +325,17 @@ private Q_SLOTS:
         const auto [page, button] = Table<int, QString>::Row();
         Subject subject;
         Show(subject, kPages.at(static_cast<size_t>(page)));
-        auto* focused = subject.page->findChild<QWidget*>(button.section(u' ', 1));
+        auto* focused = subject.page->findChild<QAbstractButton*>(button.section(u' ', 1));
         focused->setFocus(Qt::TabFocusReason);
         Act(u"press Return"_s);
         QCOMPARE(subject.results, QList<PageResult> { ResultOf(button) });
+        if (!button.endsWith(u"Key"_s))
+            return;
+        // So do Alt and its letter, from wherever the keyboard is.
+        Subject other;
+        Show(other, kPages.at(static_cast<size_t>(page)));
+        Act(u"press Alt+"_s + focused->text().front());
+        QCOMPARE(other.results, QList<PageResult> { ResultOf(button) });
     }
 };
 

@@ -215,6 +215,18 @@ protected:
     }
 };
 
+/// Alt and the letter that its text begins with press a soft key. Where no key types that letter
+/// there is none.
+void MeetLetter(QToolButton* key)
+{
+    const QChar letter = key->text().isEmpty() ? QChar() : key->text().front().toUpper();
+    if (letter < u'A' || letter > u'Z')
+        return;
+    auto* shortcut = new QShortcut(
+        QKeyCombination(Qt::AltModifier, static_cast<Qt::Key>(letter.unicode())), key);
+    QObject::connect(shortcut, &QShortcut::activated, key, &QToolButton::click);
+}
+
 /// Opens a menu upward from a soft key, within the window, wherever that stands. In a window that
 /// is too low for it the entries lie closer together; in one that is too narrow they tell no keys.
 void OpenFromKey(QMenu& menu, const QWidget& key)
@@ -437,6 +449,7 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
     const bool isMenu = entry.command == Command::Menu;
     auto* button = isMenu ? new MenuKey(m_softKeys) : new QToolButton(m_softKeys);
     button->setText(entry.Text());
+    MeetLetter(button);
     button->setFocusPolicy(Qt::TabFocus);
     button->setAutoRaise(true);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
