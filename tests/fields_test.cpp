@@ -204,6 +204,10 @@ void FieldsTest::pastedBreaksBecomeBlanks()
         QTest::keySequence(edit, QKeySequence::Paste);
         QTest::keyClick(edit, Qt::Key_E);
         QCOMPARE(edit->text(), u"a b c de"_s);
+        QTest::keyClicks(edit, QString(200, u'x'));
+        // All but the texts of rows have their length.
+        const bool isText = qobject_cast<RowEditor*>(page) != nullptr;
+        QCOMPARE(edit->text().size(), isText ? 208 : edit->maxLength());
     }
 }
 

@@ -207,6 +207,11 @@ private Q_SLOTS:
         const InventoryList list = m_page->Result();
         QCOMPARE(list.TableOption, kWarnOnExpiry);
         QCOMPARE(list.TableWarnColour, 7U);
+        // Return is OK from a colour, too, which Space opens.
+        Act(u"tap warnOnCount"_s);
+        m_page->findChild<QWidget*>(u"countColour"_s)->setFocus();
+        Act(u"press Return"_s);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
     }
 
     void thresholdsAreReadAsNumbersAndStepped_data()

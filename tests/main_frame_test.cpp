@@ -179,12 +179,22 @@ private Q_SLOTS:
             "tap OK; at Pantry"_s);
     }
 
+    void aNameMayHoldTheMarkOfTheToolkit()
+    {
+        const FrameErrand errand({ u"[*]"_s });
+        Act(u"tap [*]"_s);
+        QCOMPARE(errand.frame->windowHandle()->title(), u"[*] – Quillory"_s);
+    }
+
     void linesPartWhatStandsBesideEachOther()
     {
         const FrameErrand errand({ u"Pantry"_s });
         Act(u"size 1000x600; tap Pantry"_s);
         const QImage picture = errand.pages->grab().toImage();
-        const auto* top = errand.pages->Top();
+        const QPointer<Page> top = errand.pages->Top();
+        // The line of the open list leads back to it, as it is.
+        Act(u"beside tap Pantry; at Pantry"_s);
+        QVERIFY(top != nullptr);
         const int edge = errand.pages->findChild<QWidget*>(u"paneEdge"_s)->x();
         const int header = top->findChild<QWidget*>(u"header"_s)->height();
         const int keys = top->findChild<QWidget*>(u"softKeys"_s)->y();

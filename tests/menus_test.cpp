@@ -8,8 +8,10 @@
 #include "tests/test_program.h"
 #include "widgets/page_stack.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QPointer>
 
@@ -134,6 +136,23 @@ private Q_SLOTS:
                 QVERIFY(QApplication::activePopupWidget() == nullptr);
             }
         }
+    }
+
+    void nothingHasNoMenu()
+    {
+        ListFixture file(u"Pantry"_s);
+        PageStack stack;
+        stack.resize(360, 640);
+        stack.Push(NewSheet(file, file.list));
+        stack.show();
+        Act(u"tap Columns"_s);
+        auto* lines = stack.Top()->findChild<QWidget*>(u"columns"_s);
+        auto* place = qobject_cast<QAbstractItemView*>(lines)->viewport();
+        // What the window system makes of a click of the right button.
+        const QPoint below = place->rect().bottomLeft() + QPoint(9, -9);
+        QContextMenuEvent ask(QContextMenuEvent::Mouse, below, place->mapToGlobal(below));
+        QApplication::sendEvent(place, &ask);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
     }
 
     // A Wayland compositor shows nothing over the window for a key that was let go already.

@@ -149,6 +149,10 @@ private Q_SLOTS:
         Act(u"double-tap saw; see valueEdit: saw; tap OK; press Space; see Left: ; see Right: "_s);
         const auto box
             = [this] { return View()->viewport()->grab(m_errand->Cell(0, 3)).toImage(); };
+        // A tap beside a box is one on the line alone.
+        QTest::mouseClick(
+            View()->viewport(), Qt::LeftButton, {}, m_errand->Cell(0, 2).topLeft() + QPoint(3, 3));
+        Act(u"see Left: ; see Right: "_s);
         const QImage before = box();
         // Space ticks the box that the arrows went to, and a frame tells which.
         Act(u"press Right Right Right"_s);
