@@ -6,7 +6,10 @@
 #include "tests/list_fixture.h"
 #include "tests/person.h"
 #include "tests/test_program.h"
+#include "widgets/app_style.h"
+#include "widgets/measures.h"
 #include "widgets/page_stack.h"
+#include "widgets/window_style.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -29,6 +32,7 @@ Page* NewHome(const ListFixture& file, InventoryList& /*list*/)
 {
     auto* home = new HomeList;
     home->Fill(file.catalogue->FillHomeList().lists);
+    home->ActionOf(Command::OpenReadOnly)->setCheckable(true);
     return home;
 }
 
@@ -78,6 +82,22 @@ void AskForMenu(Page* page)
 {
     QAccessible::queryAccessibleInterface(page)->actionInterface()->doAction(
         QAccessibleActionInterface::showMenuAction());
+}
+
+/// How far from the edge at which its reading begins a menu has the first ink of an entry.
+int IndentOf(QMenu& menu, QAction* entry)
+{
+    QImage picture = menu.grab(menu.actionGeometry(entry)).toImage();
+    if (menu.isRightToLeft())
+        picture = picture.mirrored(true, false);
+    constexpr int kBorder = 2;
+    for (int x = kBorder; x < picture.width(); ++x) {
+        for (int y = 0; y < picture.height(); ++y) {
+            if (qGray(picture.pixel(x, y)) + 60 < qGray(picture.pixel(kBorder, y)))
+                return x;
+        }
+    }
+    return -1;
 }
 
 /// Whether letters lead from entry to entry and round to the first one again.
@@ -134,6 +154,31 @@ private Q_SLOTS:
                 QVERIFY2(LettersLeadToEntries(menu), qPrintable(subject.open));
                 Act(u"press Esc"_s);
                 QVERIFY(QApplication::activePopupWidget() == nullptr);
+            }
+        }
+    }
+
+    void entriesBeginAtTheMarginOfPages()
+    {
+        QApplication::setStyle(new AppStyle);
+        const auto restore = qScopeGuard([] { QApplication::setLayoutDirection(Qt::LeftToRight); });
+        for (const auto direction : { Qt::LeftToRight, Qt::RightToLeft }) {
+            QApplication::setLayoutDirection(direction);
+            for (const MenuCase& subject : kMenus) {
+                ListFixture file(u"Pantry"_s);
+                file.Add({ u"Tea"_s, u"3"_s });
+                PageStack stack;
+                ApplyWindowStyle(&stack);
+                stack.resize(360, 640);
+                stack.Push(subject.make(file, file.list));
+                stack.show();
+                Act(subject.open);
+                auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                const int indent = IndentOf(*menu, menu->actions().front());
+                const int most = direction == Qt::LeftToRight ? kPageMargin + 3 : 2 * kPageMargin;
+                QVERIFY2(indent >= kPageMargin - 3 && indent <= most,
+                    qPrintable(u"%1 %2"_s.arg(subject.open).arg(indent)));
+                Act(u"press Esc"_s);
             }
         }
     }

@@ -490,6 +490,7 @@ void Page::FillMenu(QMenu* menu, std::span<const MenuEntry> entries)
         own->setChecked(action->isChecked());
         connect(own, &QAction::triggered, action, &QAction::trigger);
     }
+    menu->setProperty("hasTicks", std::ranges::any_of(menu->actions(), &QAction::isCheckable));
 }
 
 void Page::SetCommandEnabled(Command command, bool isEnabled)

@@ -54,8 +54,8 @@ QString StyleSheet(const QWidget& window)
         replace(name, QString::number(pixels) + u"px"_s);
     };
     set(u"menu-padding"_s, padding);
-    // On the left the toolkit leaves room of its own, for pictures that our menus do not have.
-    set(u"menu-left"_s, window.isRightToLeft() ? kPageMargin : 2);
+    // Right to left the toolkit has this margin on both sides.
+    set(u"tick-margin"_s, window.isRightToLeft() ? kPageMargin : 2);
     // With the padding and the border of a button.
     set(u"answer-height"_s, HasTouchScreen() ? kMinTouchTarget - 14 : 24);
     set(u"tab-height"_s, FrameMeasures(window.height()).headerHeight - kTabRule);
