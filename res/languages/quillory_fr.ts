@@ -593,11 +593,11 @@ standard. Un FILE existant est remplacé.
 Do you want to go on with it? It is written to a new file; the damaged one stays as it is.</source>
         <translation>Le fichier de données est endommagé. Il existe une bonne copie du %1.
 
-Continuer avec elle ? Elle sera écrite dans un nouveau fichier ; le fichier endommagé reste tel quel.</translation>
+Continuer avec elle&#xa0;? Elle sera écrite dans un nouveau fichier&#xa0;; le fichier endommagé reste tel quel.</translation>
     </message>
     <message>
         <source>The new file could not be written. Error: %1</source>
-        <translation>Le nouveau fichier n’a pas pu être écrit. Erreur : %1</translation>
+        <translation>Le nouveau fichier n’a pas pu être écrit. Erreur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Beside the data file lay the journal of another file. It is kept as %1.</source>
@@ -607,17 +607,17 @@ Continuer avec elle ? Elle sera écrite dans un nouveau fichier ; le fichier e
         <source>Another program has written into the data file. What it holds now: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the old one stays as it is.</source>
-        <translation>Un autre programme a écrit dans le fichier de données. Il contient maintenant : %1, %2.
+        <translation>Un autre programme a écrit dans le fichier de données. Il contient maintenant&#xa0;: %1, %2.
 
-Continuer ainsi ? Le contenu sera écrit dans un nouveau fichier ; l’ancien reste tel quel.</translation>
+Continuer ainsi&#xa0;? Le contenu sera écrit dans un nouveau fichier&#xa0;; l’ancien reste tel quel.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file: %1, %2.
 
 Do you want to go on with that? It is written to a new file; the damaged one stays as it is.</source>
-        <translation>Ce qui reste lisible du fichier endommagé : %1, %2.
+        <translation>Ce qui reste lisible du fichier endommagé&#xa0;: %1, %2.
 
-Continuer ainsi ? Le contenu sera écrit dans un nouveau fichier ; le fichier endommagé reste tel quel.</translation>
+Continuer ainsi&#xa0;? Le contenu sera écrit dans un nouveau fichier&#xa0;; le fichier endommagé reste tel quel.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s)</source>
@@ -638,15 +638,15 @@ Continuer ainsi ? Le contenu sera écrit dans un nouveau fichier ; le fichier 
     <name>Deletions</name>
     <message>
         <source>The list &apos;%1&apos; was deleted.</source>
-        <translation>La liste « %1 » est supprimée.</translation>
+        <translation>La liste «&#xa0;%1&#xa0;» est supprimée.</translation>
     </message>
     <message>
         <source>All rows of &apos;%1&apos; were deleted.</source>
-        <translation>Toutes les lignes de « %1 » sont supprimées.</translation>
+        <translation>Toutes les lignes de «&#xa0;%1&#xa0;» sont supprimées.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; was deleted.</source>
-        <translation>« %1 » est supprimé.</translation>
+        <translation>«&#xa0;%1&#xa0;» est supprimé.</translation>
     </message>
 </context>
 <context>
@@ -890,13 +890,13 @@ Continuer ainsi ? Le contenu sera écrit dans un nouveau fichier ; le fichier 
     </message>
     <message>
         <source>The file could not be written: %1</source>
-        <translation>Le fichier n’a pas pu être écrit : %1</translation>
+        <translation>Le fichier n’a pas pu être écrit&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are in the file. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
         <translation>
-            <numerusform>Cette liste n’est lisible qu’en partie : %n ligne est dans le fichier. « quillory restore » montre les copies et ce qui peut être sauvé.</numerusform>
-            <numerusform>Cette liste n’est lisible qu’en partie : %n lignes sont dans le fichier. « quillory restore » montre les copies et ce qui peut être sauvé.</numerusform>
+            <numerusform>Cette liste n’est lisible qu’en partie&#xa0;: %n ligne est dans le fichier. «&#xa0;quillory restore&#xa0;» montre les copies et ce qui peut être sauvé.</numerusform>
+            <numerusform>Cette liste n’est lisible qu’en partie&#xa0;: %n lignes sont dans le fichier. «&#xa0;quillory restore&#xa0;» montre les copies et ce qui peut être sauvé.</numerusform>
         </translation>
     </message>
 </context>
@@ -1043,13 +1043,13 @@ Continuer ainsi ? Le contenu sera écrit dans un nouveau fichier ; le fichier 
         <source>The change could not be saved. Error: %1
 
 Tap Retry to open the data file again.</source>
-        <translation>La modification n’a pas pu être enregistrée. Erreur : %1
+        <translation>La modification n’a pas pu être enregistrée. Erreur&#xa0;: %1
 
 Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. The old one is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation>Un autre fichier a pris la place du fichier de données. L’ancien est conservé en copie ; « quillory restore » montre les copies.</translation>
+        <translation>Un autre fichier a pris la place du fichier de données. L’ancien est conservé en copie&#xa0;; «&#xa0;quillory restore&#xa0;» montre les copies.</translation>
     </message>
     <message>
         <source>Another file was put in the place of the data file. No copy could be kept of the old one.</source>
@@ -1057,7 +1057,7 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. What it held is kept as a copy; &quot;quillory restore&quot; lists the copies.</source>
-        <translation>Le fichier de données n’est plus à sa place. Son contenu est conservé en copie ; « quillory restore » montre les copies.</translation>
+        <translation>Le fichier de données n’est plus à sa place. Son contenu est conservé en copie&#xa0;; «&#xa0;quillory restore&#xa0;» montre les copies.</translation>
     </message>
     <message>
         <source>The data file is no longer in its place. No copy could be kept of it.</source>
@@ -1065,7 +1065,7 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>No copy of the data file could be kept. Error: %1</source>
-        <translation>Aucune copie du fichier de données n’a pu être conservée. Erreur : %1</translation>
+        <translation>Aucune copie du fichier de données n’a pu être conservée. Erreur&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1089,7 +1089,7 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a date. Type it as in %2, or pick it from the calendar.</source>
-        <translation>« %1 » n’est pas une date. Écrivez-la comme %2, ou choisissez-la dans le calendrier.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une date. Écrivez-la comme %2, ou choisissez-la dans le calendrier.</translation>
     </message>
 </context>
 <context>
@@ -1177,7 +1177,7 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>Some lists cannot be read. Error: %1</source>
-        <translation>Certaines listes sont illisibles. Erreur : %1</translation>
+        <translation>Certaines listes sont illisibles. Erreur&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1206,7 +1206,7 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>Do you want to discard what you have entered?</source>
-        <translation>Abandonner ce que vous avez saisi ?</translation>
+        <translation>Abandonner ce que vous avez saisi&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1218,8 +1218,8 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
         <translation>
-            <numerusform>Cette liste n’est lisible qu’en partie : %n ligne est affichée. « quillory restore » montre les copies et ce qui peut être sauvé.</numerusform>
-            <numerusform>Cette liste n’est lisible qu’en partie : %n lignes sont affichées. « quillory restore » montre les copies et ce qui peut être sauvé.</numerusform>
+            <numerusform>Cette liste n’est lisible qu’en partie&#xa0;: %n ligne est affichée. «&#xa0;quillory restore&#xa0;» montre les copies et ce qui peut être sauvé.</numerusform>
+            <numerusform>Cette liste n’est lisible qu’en partie&#xa0;: %n lignes sont affichées. «&#xa0;quillory restore&#xa0;» montre les copies et ce qui peut être sauvé.</numerusform>
         </translation>
     </message>
     <message>
@@ -1236,7 +1236,7 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>This list can be read only in part, so nothing is summed up. &quot;quillory restore&quot; lists copies, and what can be saved.</source>
-        <translation>Cette liste n’est lisible qu’en partie ; rien n’est donc additionné. « quillory restore » montre les copies et ce qui peut être sauvé.</translation>
+        <translation>Cette liste n’est lisible qu’en partie&#xa0;; rien n’est donc additionné. «&#xa0;quillory restore&#xa0;» montre les copies et ce qui peut être sauvé.</translation>
     </message>
 </context>
 <context>
@@ -1304,7 +1304,7 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>Do you want to delete the selected row?</source>
-        <translation>Supprimer la ligne sélectionnée ?</translation>
+        <translation>Supprimer la ligne sélectionnée&#xa0;?</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1328,11 +1328,11 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>Do you want to delete all rows in list &apos;%s&apos;?</source>
-        <translation>Supprimer toutes les lignes de la liste « %s » ?</translation>
+        <translation>Supprimer toutes les lignes de la liste «&#xa0;%s&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Do you want to delete list &apos;%s&apos; and all its data?</source>
-        <translation>Supprimer la liste « %s » et tout son contenu ?</translation>
+        <translation>Supprimer la liste «&#xa0;%s&#xa0;» et tout son contenu&#xa0;?</translation>
     </message>
     <message>
         <source>Inventory List Options</source>
@@ -1344,7 +1344,7 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>The data file cannot be found. Do you want to create a new data file at the same location? Tap No to try to locate it again.</source>
-        <translation>Le fichier de données est introuvable. En créer un nouveau au même endroit ? Touchez Non pour le chercher à nouveau.</translation>
+        <translation>Le fichier de données est introuvable. En créer un nouveau au même endroit&#xa0;? Touchez Non pour le chercher à nouveau.</translation>
     </message>
     <message>
         <source>No record matched the criteria.</source>
@@ -1465,23 +1465,23 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     <name>Texts</name>
     <message>
         <source>Unable to create list table!</source>
-        <translation>Impossible de créer la table des listes !</translation>
+        <translation>Impossible de créer la table des listes&#xa0;!</translation>
     </message>
     <message>
         <source>Unable to create user database!</source>
-        <translation>Impossible de créer la base de données !</translation>
+        <translation>Impossible de créer la base de données&#xa0;!</translation>
     </message>
     <message>
         <source>Unable to create inventory table!</source>
-        <translation>Impossible de créer la table de la liste !</translation>
+        <translation>Impossible de créer la table de la liste&#xa0;!</translation>
     </message>
     <message>
         <source>Unable to open data file. Error: %d</source>
-        <translation>Impossible d’ouvrir le fichier de données. Erreur : %d</translation>
+        <translation>Impossible d’ouvrir le fichier de données. Erreur&#xa0;: %d</translation>
     </message>
     <message>
         <source>Out of memory!</source>
-        <translation>Mémoire insuffisante !</translation>
+        <translation>Mémoire insuffisante&#xa0;!</translation>
     </message>
     <message>
         <source>To begin using Quillory, please choose a name and location to store all your inventory lists. Tap OK to continue.</source>
@@ -1502,15 +1502,15 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
     <message>
         <source>Field:</source>
-        <translation>Champ :</translation>
+        <translation>Champ&#xa0;:</translation>
     </message>
     <message>
         <source>Condition:</source>
-        <translation>Condition :</translation>
+        <translation>Condition&#xa0;:</translation>
     </message>
     <message>
         <source>Value:</source>
-        <translation>Valeur :</translation>
+        <translation>Valeur&#xa0;:</translation>
     </message>
     <message>
         <source>Inventory Database</source>
