@@ -147,7 +147,7 @@ public:
     }
     void AddChart(const Chart& chart)
     {
-        const double width = std::min<double>(kChartWidth * 4 / 5, m_document.pageSize().width());
+        const double width = std::min(kChartWidth * 0.8, m_document.pageSize().width());
         AddBlock(kGap);
         m_cursor.insertText(chart.title, Ink(kInk, kBodyPoints, true));
         AddBlock(kCellPadding);

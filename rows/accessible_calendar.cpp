@@ -104,7 +104,7 @@ public:
     { }
     ~AccessibleDays() override
     {
-        for (const auto& [place, id] : m_days)
+        for (const auto& [cell, id] : m_days)
             QAccessible::deleteAccessibleInterface(id);
     }
 
@@ -118,18 +118,19 @@ public:
             = m_view->model()->index(place / Columns() - 1, place % Columns() - 1);
         if (!index.isValid())
             return nullptr;
-        const auto known = m_days.find(place);
+        const Cell cell(index.row(), index.column());
+        const auto known = m_days.find(cell);
         if (known != m_days.end())
             return QAccessible::accessibleInterface(known->second);
         auto* day = new AccessibleDay(m_view, index);
-        m_days[place] = QAccessible::registerAccessibleInterface(day);
+        m_days[cell] = QAccessible::registerAccessibleInterface(day);
         return day;
     }
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override
     {
-        for (const auto& [place, id] : m_days) {
+        for (const auto& [cell, id] : m_days) {
             if (QAccessible::accessibleInterface(id) == child)
-                return place;
+                return (cell.first + 1) * Columns() + cell.second + 1;
         }
         return -1;
     }
@@ -140,8 +141,12 @@ public:
     }
 
 private:
+    /// Row and column: the number of a day changes with that of the columns, which a calendar has
+    /// one more of until it is dressed.
+    using Cell = std::pair<int, int>;
+
     QTableView* m_view;
-    mutable std::map<int, QAccessible::Id> m_days;
+    mutable std::map<Cell, QAccessible::Id> m_days;
 
     [[nodiscard]] int Columns() const { return m_view->model()->columnCount() + 1; }
 };

@@ -112,6 +112,16 @@ private Q_SLOTS:
         }
     }
 
+    void aListTellsOnWhichLineItHasTheKeyboard()
+    {
+        RowsErrand rows;
+        rows.file.Add({ u"rice"_s, u"0"_s });
+        rows.Open();
+        rows.page->findChild<QWidget*>(u"ok"_s)->setFocus();
+        rows.View()->setFocus();
+        Act(u"hear rice"_s);
+    }
+
     void aChangedCellIsSpokenWithItsColumn()
     {
         RowsErrand rows;

@@ -37,8 +37,12 @@ bool QAccessible::isActive()
 void QAccessible::updateAccessibility(QAccessibleEvent* event)
 {
     const QAccessibleInterface* told
-        = event->type() == QAccessible::NameChanged ? event->accessibleInterface() : nullptr;
-    if (told != nullptr && told->role() == QAccessible::Notification)
+        = event->type() == QAccessible::NameChanged || event->type() == QAccessible::Focus
+        ? event->accessibleInterface()
+        : nullptr;
+    // The lines of a list are no objects.
+    const bool isLine = event->type() == QAccessible::Focus && event->object() == nullptr;
+    if (told != nullptr && (isLine || told->role() == QAccessible::Notification))
         latestHeard << told->text(QAccessible::Name);
 }
 

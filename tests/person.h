@@ -19,7 +19,8 @@ namespace Quillory {
 /// brackets, ticked ones starred), or
 ///   the lines of a page: first cells, or all, parted by "|", where columns have no headers.
 /// - `see X: TEXT` waits for the cells of a column, or for what a control holds.
-/// - `hear TEXT` waits for what a screen reader is told.
+/// - `hear TEXT` waits for what a screen reader is told: a notification, or the line of a list that
+/// has the keyboard.
 /// - `look X` takes the look of something; `same X` and `other X` wait for a like and an unlike
 /// one, which is taken then, `ink COLOUR of X` for one in which that colour is seen.
 /// - `on TEXT` waits for the selected line to be in sight, `at TEXT` for the title of the page.

@@ -154,6 +154,12 @@ private Q_SLOTS:
         QCOMPARE(m_file->Cells({ m_row }, field), u"4/2/2027"_s);
     }
 
+    void screenReadersHearWhichFieldIsNext()
+    {
+        Open(m_row);
+        Act(u"hear Name; press Down; hear Quantity; press Down; hear Shelf"_s);
+    }
+
     void aPickedDateIsCommitted()
     {
         Open(kNoObject);

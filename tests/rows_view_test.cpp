@@ -244,9 +244,11 @@ private Q_SLOTS:
         m_errand->Open();
         const QPoint place = m_errand->Cell(1, Name).center();
         QTest::mouseClick(View()->viewport(), Qt::RightButton, {}, place);
-        const QString addOne = u"see Add 1, Subtract 1, Modify..., Delete; press Down Return; "
-                               "see Quantity: 0, "_s;
-        Act(u"hold salt; "_s + addOne + u"6; press Shift+F10; "_s + addOne + u"7"_s);
+        const QString entries = u"see Add 1, Subtract 1, Modify..., Delete; press "_s;
+        // A menu that a key opened begins with its first entry.
+        const QString addOne = entries + u"Return; see Quantity: 0, "_s;
+        Act(u"hold salt; "_s + entries + u"Down Return; see Quantity: 0, 6; press Shift+F10; "_s
+            + addOne + u"7"_s);
         // What the window system makes of the menu key goes to who has the focus.
         QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint(), {});
         QApplication::sendEvent(View(), &menuKey);

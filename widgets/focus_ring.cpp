@@ -5,6 +5,7 @@
 #include "widgets/measures.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QPainter>
@@ -31,6 +32,8 @@ public:
         switch (event->type()) {
         case QEvent::FocusIn:
             setVisible(IsByKey(static_cast<QFocusEvent*>(event)->reason()));
+            // Once whoever gave it the keyboard is done.
+            QMetaObject::invokeMethod(this, &ViewRing::TellLine, Qt::QueuedConnection);
             break;
         case QEvent::KeyPress:
             setVisible(m_view->hasFocus());
@@ -59,6 +62,18 @@ protected:
 private:
     QAbstractItemView* m_view;
 
+    /// Of itself a view tells a screen reader that it has the keyboard, but not on which line.
+    void TellLine()
+    {
+        if (!QAccessible::isActive() || !m_view->hasFocus() || !m_view->currentIndex().isValid())
+            return;
+        auto* view = QAccessible::queryAccessibleInterface(m_view);
+        QAccessibleInterface* line = view == nullptr ? nullptr : view->focusChild();
+        if (line == nullptr || line == view)
+            return;
+        QAccessibleEvent event(line, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
     [[nodiscard]] static bool IsByKey(Qt::FocusReason reason)
     {
         return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason

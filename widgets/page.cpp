@@ -3,6 +3,7 @@
 
 #include "widgets/accessibility.h"
 #include "widgets/ink.h"
+#include "widgets/letter_menu.h"
 #include "widgets/measures.h"
 #include "widgets/message_box.h"
 #include "widgets/text_line.h"
@@ -82,27 +83,6 @@ private:
     }
 };
 
-/// A menu in which a letter leads to the next entry that begins with it.
-class LetterMenu : public QMenu
-{
-public:
-    using QMenu::QMenu;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        const QString letter = event->text().trimmed();
-        const QList<QAction*> entries = actions();
-        const qsizetype current = entries.indexOf(activeAction());
-        for (qsizetype i = 1; !letter.isEmpty() && i <= entries.size(); ++i) {
-            QAction* entry = entries[(current + i) % entries.size()];
-            if (entry->isEnabled() && entry->text().startsWith(letter, Qt::CaseInsensitive))
-                return setActiveAction(entry);
-        }
-        QMenu::keyPressEvent(event);
-    }
-};
-
 /// A menu that a held finger opened: lifting the finger chooses nothing, whatever lies under it.
 class HoldMenu : public LetterMenu
 {
@@ -175,8 +155,10 @@ public:
     }
     void doAction(const QString& name) override
     {
-        if (actionNames().contains(name))
-            m_key->click();
+        if (!actionNames().contains(name))
+            return;
+        m_key->click();
+        LetterMenu::EnterOpened();
     }
 
 private:
@@ -204,14 +186,15 @@ protected:
         if (event->type() != QEvent::Shortcut)
             return QToolButton::event(event);
         click();
+        LetterMenu::EnterOpened();
         return true;
     }
     void keyPressEvent(QKeyEvent* event) override
     {
-        if (event->key() == Qt::Key_Space)
-            click();
-        else
-            QToolButton::keyPressEvent(event);
+        if (event->key() != Qt::Key_Space)
+            return QToolButton::keyPressEvent(event);
+        click();
+        LetterMenu::EnterOpened();
     }
 };
 
@@ -224,7 +207,10 @@ void MeetLetter(QToolButton* key)
         return;
     auto* shortcut = new QShortcut(
         QKeyCombination(Qt::AltModifier, static_cast<Qt::Key>(letter.unicode())), key);
-    QObject::connect(shortcut, &QShortcut::activated, key, &QToolButton::click);
+    QObject::connect(shortcut, &QShortcut::activated, key, [key] {
+        key->click();
+        LetterMenu::EnterOpened();
+    });
 }
 
 /// Opens a menu upward from a soft key, within the window, wherever that stands. In a window that
@@ -594,9 +580,10 @@ void Page::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         if (qobject_cast<QPushButton*>(focused) != nullptr
-            || qobject_cast<QToolButton*>(focused) != nullptr)
+            || qobject_cast<QToolButton*>(focused) != nullptr) {
             qobject_cast<QAbstractButton*>(focused)->click();
-        else if (qobject_cast<QTabBar*>(focused) == nullptr)
+            LetterMenu::EnterOpened();
+        } else if (qobject_cast<QTabBar*>(focused) == nullptr)
             // A tab that has the keyboard is chosen already.
             TakeReturn();
         return;

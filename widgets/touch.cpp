@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/touch.h"
 
+#include "widgets/letter_menu.h"
 #include "widgets/measures.h"
 
 #include <QAbstractItemView>
@@ -231,6 +232,7 @@ void TouchBehaviour::HoldCurrent()
         return;
     items->scrollTo(items->currentIndex());
     Q_EMIT Held(items->visualRect(items->currentIndex()).center());
+    LetterMenu::EnterOpened();
 }
 
 void TouchBehaviour::AskForMenu(const QPoint& position)

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMenu>
+
+namespace Quillory {
+
+/// A menu in which a letter leads to the next entry that begins with it.
+class LetterMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    using QMenu::QMenu;
+
+    /// Chooses the first entry of the menu that a key has just opened, so that the next keys go on
+    /// from there, and a screen reader tells it; nothing where none is open.
+    static void EnterOpened();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace Quillory
