@@ -105,6 +105,13 @@ private:
     bool m_isPressed = false;
 };
 
+/// Presses a button that may open a menu, as keys and assistive technology do.
+void PressWithoutPointer(QAbstractButton* button)
+{
+    button->click();
+    LetterMenu::EnterOpened();
+}
+
 /// A page as assistive technology meets it. It can do what its keys do: Return, and the key of the
 /// menu, which its lines do not tell of.
 class AccessiblePage : public AccessibleAs<QAccessible::Pane>
@@ -155,10 +162,8 @@ public:
     }
     void doAction(const QString& name) override
     {
-        if (!actionNames().contains(name))
-            return;
-        m_key->click();
-        LetterMenu::EnterOpened();
+        if (actionNames().contains(name))
+            PressWithoutPointer(m_key);
     }
 
 private:
@@ -185,16 +190,15 @@ protected:
     {
         if (event->type() != QEvent::Shortcut)
             return QToolButton::event(event);
-        click();
-        LetterMenu::EnterOpened();
+        PressWithoutPointer(this);
         return true;
     }
     void keyPressEvent(QKeyEvent* event) override
     {
-        if (event->key() != Qt::Key_Space)
-            return QToolButton::keyPressEvent(event);
-        click();
-        LetterMenu::EnterOpened();
+        if (event->key() == Qt::Key_Space)
+            PressWithoutPointer(this);
+        else
+            QToolButton::keyPressEvent(event);
     }
 };
 
@@ -207,10 +211,7 @@ void MeetLetter(QToolButton* key)
         return;
     auto* shortcut = new QShortcut(
         QKeyCombination(Qt::AltModifier, static_cast<Qt::Key>(letter.unicode())), key);
-    QObject::connect(shortcut, &QShortcut::activated, key, [key] {
-        key->click();
-        LetterMenu::EnterOpened();
-    });
+    QObject::connect(shortcut, &QShortcut::activated, key, [key] { PressWithoutPointer(key); });
 }
 
 /// Opens a menu upward from a soft key, within the window, wherever that stands. In a window that
@@ -580,10 +581,9 @@ void Page::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         if (qobject_cast<QPushButton*>(focused) != nullptr
-            || qobject_cast<QToolButton*>(focused) != nullptr) {
-            qobject_cast<QAbstractButton*>(focused)->click();
-            LetterMenu::EnterOpened();
-        } else if (qobject_cast<QTabBar*>(focused) == nullptr)
+            || qobject_cast<QToolButton*>(focused) != nullptr)
+            PressWithoutPointer(qobject_cast<QAbstractButton*>(focused));
+        else if (qobject_cast<QTabBar*>(focused) == nullptr)
             // A tab that has the keyboard is chosen already.
             TakeReturn();
         return;
