@@ -51,13 +51,6 @@ FieldControl::FieldControl(const ValueContext& context, QWidget* place)
 
 void FieldControl::Open(const ColumnDefinition& column, const QString& stored, const QString& text)
 {
-    // To a screen reader a line that only goes on to another column is what it was, and so is one
-    // that had the keyboard before its page was seen.
-    const bool isTextColumn = ColumnTypeOf(column.id) != ColumnType::Checkbox
-        && ColumnTypeOf(column.id) != ColumnType::Date;
-    if (isTextColumn && (m_shown == nullptr || m_shown == m_edit))
-        QMetaObject::invokeMethod(
-            this, [name = column.name] { Announce(name); }, Qt::QueuedConnection);
     for (QWidget* control : std::array<QWidget*, 4> { m_edit, m_box, m_date, m_date->Edit() })
         control->setAccessibleName(column.name);
     switch (ColumnTypeOf(column.id)) {
@@ -73,6 +66,11 @@ void FieldControl::Open(const ColumnDefinition& column, const QString& stored, c
     case ColumnType::String:
     case ColumnType::Price:
     case ColumnType::Integer:
+        // To a screen reader a line that only goes on to another column is what it was, and so is
+        // one that had the keyboard before its page was seen.
+        if (m_shown == nullptr || m_shown == m_edit)
+            QMetaObject::invokeMethod(
+                this, [name = column.name] { Announce(name); }, Qt::QueuedConnection);
         m_edit->setInputMethodHints(HintsFor(column.id));
         m_edit->Give(text);
         Show(m_edit);

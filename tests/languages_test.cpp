@@ -162,6 +162,11 @@ private Q_SLOTS:
             Subject subject;
             ApplyWindowStyle(&subject.stack);
             Show(subject, page);
+            // Alt and its first letter press a key: each has its own.
+            const auto* left = subject.page->findChild<QAbstractButton*>(u"leftKey"_s);
+            const auto* right = subject.page->findChild<QAbstractButton*>(u"rightKey"_s);
+            QVERIFY(left == nullptr || right == nullptr
+                || left->text().front() != right->text().front());
             for (const QSize size : { QSize(360, 640), QSize(240, 320) }) {
                 subject.stack.resize(size);
                 QStringList here;

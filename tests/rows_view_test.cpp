@@ -232,6 +232,7 @@ private Q_SLOTS:
             const QString sort = u"tap %1; see %2; on d; "_s.arg(column, lines);
             Act(u"press End; "_s + sort + sort);
             const QHeaderView* header = View()->horizontalHeader();
+            QVERIFY(header->isSortIndicatorShown());
             QCOMPARE(View()->model()->headerData(header->sortIndicatorSection(), Qt::Horizontal),
                 column);
         }

@@ -12,7 +12,7 @@ namespace Quillory {
 void DrawFocusRing(QPainter& painter, const QRect& around, const QPalette& palette);
 
 /// Draws that around a view while it has the keyboard, once keys are used: a view that was tapped
-/// needs no sign.
+/// needs no sign. Tells a screen reader on which line the keyboard is, too.
 void ShowFocusRing(QAbstractItemView* view);
 
 } // namespace Quillory
