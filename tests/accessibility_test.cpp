@@ -112,6 +112,19 @@ private Q_SLOTS:
         }
     }
 
+    void aPageBehindAQuestionTakesNoActions()
+    {
+        RowsErrand rows;
+        rows.file.Add({ u"rice"_s, u"0"_s });
+        rows.Open();
+        Act(u"press Del; see Do you want to delete the selected row?"_s);
+        auto* page = QAccessible::queryAccessibleInterface(rows.page)->actionInterface();
+        for (const QString& action : page->actionNames())
+            page->doAction(action);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+        Act(u"tap No; at Pantry; see rice"_s);
+    }
+
     void aListTellsOnWhichLineItHasTheKeyboard()
     {
         RowsErrand rows;

@@ -11,8 +11,8 @@
 
 #include <QAbstractItemView>
 #include <QAction>
+#include <QApplication>
 #include <QContextMenuEvent>
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -125,6 +125,9 @@ public:
     }
     void doAction(const QString& name) override
     {
+        // Keys would not reach a page that is covered, or that stands behind a question.
+        if (!widget()->isVisible() || QApplication::activeModalWidget() != nullptr)
+            return;
         if (name == pressAction()) {
             QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
             QCoreApplication::sendEvent(widget(), &press);
