@@ -30,6 +30,13 @@ QString Met(QObject* object)
     return words.join(u'|');
 }
 
+using Actions = QAccessibleActionInterface;
+
+QAccessibleInterface& MetAt(QObject* object)
+{
+    return *QAccessible::queryAccessibleInterface(object);
+}
+
 } // namespace
 
 class AccessibilityTest : public QObject
@@ -102,7 +109,8 @@ private Q_SLOTS:
             auto* met
                 = QAccessible::queryAccessibleInterface(subject.page->findChild<QWidget*>(name));
             for (const QString& action : met->actionInterface()->actionNames()) {
-                if (action == QAccessibleActionInterface::setFocusAction())
+                if (action != QAccessibleActionInterface::pressAction()
+                    && action != QAccessibleActionInterface::showMenuAction())
                     continue;
                 met->actionInterface()->doAction(action);
                 QVERIFY(QApplication::activePopupWidget() != nullptr
@@ -110,6 +118,28 @@ private Q_SLOTS:
                 Act(u"press Esc"_s);
             }
         }
+    }
+
+    void linesAreOpenedByTheActionsOfTheirPage()
+    {
+        RowsErrand rows;
+        for (const QString& name : { u"rice"_s, u"tea"_s })
+            rows.file.Add({ name, u"3"_s });
+        rows.Open();
+        QVERIFY(MetAt(rows.View()).tableInterface()->selectRow(1));
+        MetAt(rows.page).actionInterface()->doAction(Actions::showMenuAction());
+        Act(u"tap Add 1"_s);
+        QCOMPARE(rows.Stored(Count), u"3 4"_s);
+        MetAt(rows.page).actionInterface()->doAction(Actions::pressAction());
+        // A field is gone to by its line.
+        for (const int field : { int { Shelf }, int { Name } }) {
+            QVERIFY(MetAt(rows.View()).tableInterface()->selectRow(field));
+            QCOMPARE(QApplication::focusWidget()->accessibleName(),
+                rows.file.list.columns[static_cast<size_t>(field)].name);
+        }
+        MetAt(QApplication::focusWidget()).setText(QAccessible::Value, u"bran"_s);
+        Act(u"tap OK"_s);
+        QCOMPARE(rows.Stored(), u"bran rice"_s);
     }
 
     void aChangedCellIsSpokenWithItsColumn()

@@ -5,6 +5,7 @@
 #include "widgets/ink.h"
 #include "widgets/measures.h"
 #include "widgets/message_box.h"
+#include "widgets/touch.h"
 #include "widgets/undo_bar.h"
 
 #include <QAbstractItemView>
@@ -121,12 +122,14 @@ public:
     }
     [[nodiscard]] QStringList actionNames() const override
     {
-        return { pressAction(), showMenuAction() };
+        return QStringList { pressAction(), showMenuAction() } + QAccessibleWidget::actionNames();
     }
     void doAction(const QString& name) override
     {
-        if (actionNames().contains(name))
+        if (name == pressAction() || name == showMenuAction())
             m_key->click();
+        else
+            QAccessibleWidget::doAction(name);
     }
 
 private:
@@ -186,10 +189,38 @@ void OpenFromKey(QMenu& menu, const QWidget& key)
 
 } // namespace
 
+/// A page as assistive technology meets it. What it can do to the selected line is the page's to
+/// do: the toolkit's lines have no such actions.
+class Page::Accessible : public QAccessibleWidget
+{
+public:
+    explicit Accessible(Page* page)
+        : QAccessibleWidget(page, QAccessible::Pane)
+        , m_page(page)
+    { }
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return m_page->m_lines == nullptr ? QStringList()
+                                          : QStringList { pressAction(), showMenuAction() };
+    }
+    void doAction(const QString& name) override
+    {
+        if (!actionNames().contains(name))
+            return;
+        if (name == pressAction())
+            m_page->TakeReturn();
+        else
+            m_page->m_lines->HoldSelected();
+    }
+
+private:
+    Page* m_page;
+};
+
 Page::Page(const QString& title, QWidget* parent)
     : QWidget(parent)
 {
-    MeetAs<AccessibleAs<QAccessible::Pane>, Page>();
+    MeetAs<Accessible, Page>();
     setAttribute(Qt::WA_StyledBackground);
     setAccessibleName(title);
     auto* layout = new QVBoxLayout(this);
