@@ -4,9 +4,11 @@
 #include "tests/rows_view_errand.h"
 #include "tests/test_program.h"
 #include "widgets/app_style.h"
+#include "widgets/colour_button.h"
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QListWidget>
 #include <QToolButton>
 
 namespace {
@@ -140,6 +142,32 @@ private Q_SLOTS:
         MetAt(QApplication::focusWidget()).setText(QAccessible::Value, u"bran"_s);
         Act(u"tap OK"_s);
         QCOMPARE(rows.Stored(), u"bran rice"_s);
+    }
+
+    void choicesAreMadeByActions()
+    {
+        QApplication::setStyle(new AppStyle);
+        QComboBox choice;
+        choice.addItems({ u"Text"_s, u"Price"_s });
+        for (const auto& [action, chosen] : { std::pair(Actions::increaseAction(), 1),
+                 std::pair(Actions::increaseAction(), 1), std::pair(Actions::decreaseAction(), 0),
+                 std::pair(Actions::decreaseAction(), 0) }) {
+            MetAt(&choice).actionInterface()->doAction(action);
+            QCOMPARE(choice.currentIndex(), chosen);
+        }
+        ColourButton colour;
+        colour.show();
+        colour.click();
+        auto* swatch = QApplication::activePopupWidget()->findChild<QWidget*>(u"colour11"_s);
+        MetAt(swatch).actionInterface()->doAction(Actions::toggleAction());
+        QCOMPARE(colour.Colour(), 11U);
+        Subject order;
+        Show(order, kPages.at(4));
+        auto* columns = order.page->findChild<QListWidget*>();
+        QVERIFY(MetAt(columns).tableInterface()->selectRow(1));
+        const QString second = columns->item(1)->text();
+        Act(u"tap Move Up"_s);
+        QCOMPARE(columns->item(0)->text(), second);
     }
 
     void aChangedCellIsSpokenWithItsColumn()
