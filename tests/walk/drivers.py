@@ -7,77 +7,121 @@ import struct
 from desktop import Failed, wait
 from tree import CHECKED, ENABLED, FOCUSED, SELECTED
 
-_FIELDS = ("text", "combo box", "spin box", "check box", "radio button")
-_LINES = ("cell", "tree item", "list item")
-_VIEWS = ("table", "tree", "list")
+LINES = ("cell", "tree item", "list item")
+VIEWS = ("table", "tree", "list")
+BOXES = ("check box", "radio button")
 
 
 class Driver:
-    """What the ways have in common: to look. What is done is finished when its effect is seen."""
-
-    shortcuts_only = False
+    """Steps of a walk, by their effects alone: what is done is finished when that is seen. A way
+    says by which means; what it does not say is done like the others'."""
 
     def __init__(self, desktop, tree):
         self.desktop, self.tree = desktop, tree
         self.environment = {}
 
-    def seen(self, name, roles=None):
-        """What is seen under a name, or a description, the frontmost first."""
-        return (node for node in self.tree.all()
-                if (roles is None or node.role in roles)
-                and (name is None or name in (node.name, node.read("Accessible", "Description"))))
+    # What is seen.
 
     def find(self, name, *roles):
-        return wait(lambda: next(self.seen(name, roles or None), None), f"no {roles} “{name}”")
+        """What has a name, or a description, and one of these roles; any name where there is none."""
+        def first():
+            for node in self.tree.all():
+                if (not roles or node.role in roles) and (
+                        name is None or name in (node.name, node.read("Accessible", "Description"))):
+                    return node
+            return None
+        return wait(first, f"no {' or '.join(roles)} “{name}”")
 
-    def see(self, name, *roles):
-        return self.find(name, *roles) is not None
-
-    def gone(self, name, *roles):
-        return wait(lambda: not any(self.seen(name, roles)), f"“{name}” stays")
+    see = find
 
     def at(self, page):
         """Waits for a page, by its title."""
-        titles = (page, f"{page} – Quillory")
-        return wait(lambda: self.tree.windows()[0].name in titles,
-                    f"not at “{page}” but “{self.tree.windows()[0].name}”")
+        wait(lambda: self.tree.windows()[0].name in (page, f"{page} – Quillory"),
+             f"not at “{page}” but at “{self.tree.windows()[0].name}”")
 
     def lines(self):
         """The first text of each line of the view that is seen."""
-        view = self.find(None, *_VIEWS)
-        return [view.cell(row, 0).name for row in range(view.read("Table", "NRows"))]
+        view = self.find(None, *VIEWS)
+        return [view.cell(line).name for line in range(view.lines)]
 
-    def line(self, row):
-        return self.find(None, *_VIEWS).cell(row, 0)
+    def holds(self, *lines):
+        wait(lambda: self.lines() == list(lines), f"not {lines} but {self.lines()}")
 
     def focus(self):
         """What has the keyboard, and its name."""
-        def it():
-            node = self.tree.focus()
-            return node if node and FOCUSED in node.states else None
-        node = wait(it, "nothing has the keyboard")
+        node = wait(self.tree.focus, "nothing has the keyboard")
         return node, node.name
 
-    def await_focus(self, name, *roles):
+    def await_focus(self, name, role):
         def is_there():
             node, now = self.focus()
-            return node if now == name and (not roles or node.role in roles) else None
-        return wait(is_there, f"the keyboard is not at “{name}”")
+            return node if now == name and node.role == role else None
+        return wait(is_there, f"the keyboard is not at {role} “{name}”")
+
+    # What is done in the same way by touch, with the keys of a screen's keyboard, and by keys.
 
     def key(self, *keys):
         self.desktop.run("xdotool", "key", *keys)
 
-    def type(self, text):
-        """Types where the keyboard is, in place of what is there."""
-        node, name = self.focus()
-        if node.role != "text":
-            raise Failed(f"nothing can be typed into {node.role} “{name}”")
+    def type(self, node, text):
+        """Types into a field that has the keyboard, in place of what is there."""
         self.clear(node)
         self.desktop.run("xdotool", "type", "--delay", "1", "--", text)
-        wait(lambda: node.text == text, f"“{node.text}” in “{name}” instead of “{text}”")
+        wait(lambda: node.text == text, f"“{node.text}” instead of “{text}”")
 
     def clear(self, node):
         """A field that the keyboard was led to is selected as a whole."""
+
+    def press(self, button):
+        self.use(self.find(button, "push button"))
+
+    def menu(self):
+        self.press("Menu")
+
+    def pick(self, entry):
+        self.use(self.find(entry, "menu item"))
+
+    def tab(self, name):
+        self.use(self.find(name, "page tab"))
+
+    def accept(self):
+        self.press("OK")
+
+    def fill(self, field, text):
+        self.type(self.enter(field, "text"), text)
+
+    def choose(self, field, choice):
+        box = self.enter(field, "combo box")
+        self.open_choices(box)
+        self.use(self.find(choice, "list item"))
+        wait(lambda: box.text == choice, f"“{field}” is not “{choice}”")
+
+    def tick(self, name):
+        box = self.find(name, *BOXES)
+        self.use(box)
+        wait(lambda: CHECKED in box.states, f"“{name}” is not ticked")
+
+    def colour(self, before, after):
+        self.press(before)
+        self.use(self.find(after, "check box"))
+        self.find(after, "push button")
+
+    def write(self, text):
+        """Into an editor that has come up in the place of a name."""
+        self.type(self.await_focus("Name", "text"), text)
+        self.key("Return")
+
+    def file(self, name):
+        """Into a dialog for files, which begins with the field for the name."""
+        dialog = self.find(None, "dialog")
+        wait(lambda: self.focus()[0].role == "text", "no file name can be typed")
+        self.type(self.focus()[0], self.desktop.place(name))
+        self.key("Return")
+        try:
+            wait(lambda: dialog not in self.tree.windows(), "the dialog stays", 1)
+        except Failed:
+            # The names that the toolkit suggests below the field, at times late, took that one.
+            self.key("Return")
 
 
 class Touch(Driver):
@@ -95,7 +139,7 @@ class Touch(Driver):
         self.frame = 0
 
     def send(self, *finger):
-        """Where the finger is, in parts of the active window; nowhere if it is lifted."""
+        """Where the finger is, in parts of the window or pop-up in front; nowhere if it is lifted."""
         def padded(data):
             return data + b"\0" * (4 - len(data) % 4)
 
@@ -118,80 +162,33 @@ class Touch(Driver):
         self.send((x - left + min(across, left + width - x) / 2) / width,
                   (y - top + down / 2) / height)
 
-    def tap(self, node):
+    def use(self, node):
         if ENABLED not in node.states:
             raise Failed(f"“{node.name}” cannot be used")
         self.touch(node)
         self.send()
 
-    def press(self, button):
-        self.tap(self.find(button, "push button"))
-
-    answer = accept_by = press
-
-    def accept(self):
-        self.press("OK")
-
-    def menu(self):
-        self.press("Menu")
-
-    def context(self, line):
-        self.touch(self.find(line, *_LINES))
-        self.find(None, "popup menu")
-        self.send()
-
-    def pick(self, entry):
-        self.tap(self.find(entry, "menu item"))
-
     def select(self, line):
-        self.tap(self.find(line, *_LINES))
+        self.use(self.find(line, *LINES))
 
     open = select
 
-    def tab(self, name):
-        self.tap(self.find(name, "page tab"))
+    def context(self, line):
+        self.touch(self.find(line, *LINES))
+        self.find(None, "popup menu")
+        self.send()
+
+    def enter(self, field, role):
+        # The fields of a row come up where their line is tapped.
+        self.use(self.find(field, role, *LINES))
+        return self.find(field, role) if role == "combo box" else self.await_focus(field, role)
 
     def clear(self, node):
         self.key("End", *["BackSpace"] * len(node.text))
 
-    def fill(self, field, text):
-        self.tap(self.find(field, "text", *_LINES))
-        self.await_focus(field, "text")
-        self.type(text)
-
-    def write(self, text):
-        self.await_focus("Name", "text")
-        self.type(text)
-        self.key("Return")
-
-    def file(self, path, button):
-        dialog = self.find(None, "dialog")
-        self.tap(next(node for node in dialog.walk() if node.role == "text"))
-        self.type(path)
-        self.key("Return")
-        try:
-            wait(lambda: not any(self.seen(None, ("dialog",))), "the dialog stays", 1)
-        except Failed:
-            # The names that the toolkit suggests below the field, at times late, took the first one.
-            self.key("Return")
-
-    def choose(self, field, choice):
-        self.tap(self.find(field, "combo box", *_LINES))
-        box = self.find(field, "combo box")
-        if not any(self.seen(choice, ("list item",))):
-            self.tap(box)
-        self.tap(self.find(choice, "list item"))
-        wait(lambda: box.text == choice, f"“{field}” is not “{choice}”")
-
-    def colour(self, button, colour):
-        self.press(button)
-        self.tap(self.find(colour, "check box"))
-        self.find(colour, "push button")
-
-    def tick(self, box):
-        node = self.find(box, "check box", "radio button")
-        self.tap(node)
-        wait(lambda: CHECKED in node.states, f"“{box}” is not ticked")
+    def open_choices(self, box):
+        if not any(node.role == "list" for node in self.tree.apart()):
+            self.use(box)
 
 
 class Keys(Driver):
@@ -199,9 +196,9 @@ class Keys(Driver):
 
     name = "keys"
 
-    def step(self, key, is_there, most=40):
+    def step(self, key, is_there):
         """Presses a key until something is so; each time it waits until the keyboard has moved."""
-        for _ in range(most):
+        for _ in range(40):
             before = self.focus()
             if is_there(*before):
                 return before[0]
@@ -210,185 +207,117 @@ class Keys(Driver):
                  f"{key} leads nowhere from “{before[1]}”")
         raise Failed(f"{key} does not lead there")
 
-    def go(self, name, *roles):
-        return self.step("Tab", lambda node, now: now == name and node.role in roles)
+    def enter(self, field, role):
+        return self.step("Tab", lambda node, name: name == field and node.role == role)
 
-    def press(self, button):
-        self.find(button, "push button")
-        self.go(button, "push button")
-        self.key("space")
-
-    answer = press
-
-    def accept(self):
-        self.key("ctrl+Return")
+    def use(self, node):
+        role, name = node.role, node.name
+        if role == "menu item":
+            # Nothing is chosen when a menu opens.
+            self.key("Down")
+            wait(lambda: self.focus()[0].role == role, "Down chooses no entry")
+        if role in ("menu item", "list item"):
+            self.step("Down", lambda _node, now: now == name)
+            self.key("Return")
+        elif role == "page tab":
+            while FOCUSED not in node.states:
+                before = self.focus()
+                self.key("ctrl+Tab")
+                wait(lambda before=before: self.focus() != before, "Ctrl+Tab leads nowhere")
+        elif role == "radio button":
+            first = self.step("Tab", lambda now, _name: now.role == role)
+            self.step("Down" if node.place[1] > first.place[1] else "Up",
+                      lambda _node, now: now == name)
+        else:
+            self.enter(name, role)
+            self.key("space")
 
     def menu(self):
         self.key("F10")
 
-    def context(self, line):
-        self.select(line)
-        self.key("Menu")
+    def accept(self):
+        self.key("ctrl+Return")
 
-    def pick(self, entry):
-        self.find(entry, "menu item")
-        self.key("Down")
-        wait(lambda: self.focus()[0].role == "menu item", "Down chooses no entry")
-        self.step("Down", lambda _node, now: now == entry)
-        self.key("Return")
+    def open_choices(self, _box):
+        self.key("alt+Down")
+        wait(lambda: self.focus()[0].role in (*LINES, *VIEWS), "no choices come up")
+
+    def current(self):
+        """The line that has the keyboard; -1 if none has."""
+        view = self.find(None, *VIEWS)
+        return next((line for line in range(view.lines)
+                     for column in range(view.read("Table", "NColumns"))
+                     if FOCUSED in view.cell(line, column).states), -1)
 
     def select(self, line):
-        self.find(line, *_LINES)
-        self.step("Tab", lambda node, _now: node.role in (*_LINES, *_VIEWS))
+        self.find(line, *LINES)
+        self.step("Tab", lambda node, _name: node.role in (*LINES, *VIEWS))
         target = self.lines().index(line)
         while (current := self.current()) != target:
             self.key("Up" if current > target else "Down")
             wait(lambda current=current: self.current() != current, "the arrows lead nowhere")
         # A view that the keyboard was given to has a current line before it has a selected one.
-        if SELECTED not in self.line(target).states:
+        cell = self.find(None, *VIEWS).cell(target)
+        if SELECTED not in cell.states:
             self.key("space")
-            wait(lambda: SELECTED in self.line(target).states, f"“{line}” is not selected")
-
-    def current(self):
-        """The line that has the keyboard; -1 if none has."""
-        view = self.find(None, *_VIEWS)
-        rows, columns = view.read("Table", "NRows"), view.read("Table", "NColumns")
-        return next((row for row in range(rows) for column in range(columns)
-                     if FOCUSED in view.cell(row, column).states), -1)
+            wait(lambda: SELECTED in cell.states, f"“{line}” is not selected")
 
     def open(self, line):
         self.select(line)
         self.key("Return")
 
-    def tab(self, name):
-        tab = self.find(name, "page tab")
-        while FOCUSED not in tab.states:
-            names = self.focus()
-            self.key("ctrl+Tab")
-            wait(lambda names=names: self.focus() != names, "Ctrl+Tab leads nowhere")
-
-    def fill(self, field, text):
-        self.go(field, "text")
-        self.type(text)
-
-    def write(self, text):
-        self.await_focus("Name", "text")
-        self.type(text)
-        self.key("Return")
-
-    def file(self, path, button):
-        self.find(button, "push button")
-        wait(lambda: self.focus()[0].role == "text", "no file name can be typed")
-        self.type(path)
-        self.key("Return")
-
-    def choose(self, field, choice):
-        box = self.go(field, "combo box")
-        self.key("alt+Down")
-        wait(lambda: self.focus()[0].role in (*_LINES, *_VIEWS), "no choices come up")
-        self.step("Down", lambda _node, now: now == choice)
-        self.key("Return")
-        wait(lambda: box.text == choice, f"“{field}” is not “{choice}”")
-
-    def colour(self, button, colour):
-        self.press(button)
-        self.await_focus(button, "check box")
-        self.step("Down", lambda _node, now: now == colour)
-        self.key("Return")
-        self.find(colour, "push button")
-
-    def tick(self, box):
-        node = self.find(box, "check box", "radio button")
-        if node.role == "radio button":
-            first = self.step("Tab", lambda at, _now: at.role == "radio button")
-            way = "Down" if node.place[1] > first.place[1] else "Up"
-            self.step(way, lambda _node, now: now == box)
-        else:
-            self.go(box, "check box")
-            self.key("space")
-        wait(lambda: CHECKED in node.states, f"“{box}” is not ticked")
+    def context(self, line):
+        self.select(line)
+        self.key("Menu")
 
 
 class Accessibility(Driver):
-    """The actions, texts and values that the program offers to assistive technology."""
+    """The actions, texts and selections that the program offers to assistive technology."""
 
     name = "accessibility"
 
-    def act(self, action, name, *roles):
-        node = self.find(name, *roles)
+    def use(self, node):
         if ENABLED not in node.states:
-            raise Failed(f"“{name}” cannot be used")
-        node.act(action)
+            raise Failed(f"“{node.name}” cannot be used")
+        node.act("Press", "Toggle")
 
-    def press(self, button):
-        self.act("Press", button, "push button")
-
-    answer = press
-
-    def accept(self):
-        self.press("OK")
-
-    def menu(self):
-        self.act("ShowMenu", "Menu", "push button")
-
-    def page(self):
-        return self.find(self.tree.windows()[0].name.removesuffix(" – Quillory"), "panel")
-
-    def context(self, line):
-        self.select(line).act("ShowMenu")
+    def select(self, line):
+        """Selects a line; gives the page that it stands on."""
+        self.find(line, *LINES)
+        view = self.find(None, *VIEWS)
+        view.call("Table", "AddRowSelection", "(i)", self.lines().index(line))
+        return self.find(None, "panel")
 
     def open(self, line):
         self.select(line).act("Press")
 
-    def select(self, line):
-        """Selects a line; gives the page that it stands on."""
-        self.find(line, *_LINES)
-        view = self.find(None, *_VIEWS)
-        view.call("Table", "AddRowSelection", "(i)", self.lines().index(line))
-        return next(node for node in self.tree.all() if node.role == "panel")
+    def context(self, line):
+        self.select(line).act("ShowMenu")
 
-    def pick(self, entry):
-        self.act("Press", entry, "menu item")
+    def enter(self, field, role):
+        # The fields of a row come up where their line is selected.
+        if self.find(field, role, *LINES).role != role:
+            self.select(field)
+        return self.find(field, role)
 
-    def tab(self, name):
-        self.act("Press", name, "page tab")
-
-    def field(self, name, *roles):
-        """A field of a form, or of the line of a table in which it comes up."""
-        if not any(self.seen(name, roles)):
-            self.select(name)
-        return self.find(name, *roles)
-
-    def set(self, node, text):
+    def type(self, node, text):
         node.call("EditableText", "SetTextContents", "(s)", text)
         wait(lambda: node.text == text, f"“{node.text}” instead of “{text}”")
 
-    def fill(self, field, text):
-        self.set(self.field(field, "text"), text)
-
-    def write(self, text):
-        self.set(self.await_focus("Name", "text"), text)
-        # The text is taken where the keyboard leaves it.
-        self.act("SetFocus", "Menu", "push button")
-
-    def file(self, path, button):
-        dialog = self.find(None, "dialog")
-        self.set(next(node for node in dialog.walk() if node.role == "text"), path)
-        self.press(button)
-
     def choose(self, field, choice):
-        box = self.field(field, "combo box")
-        while box.text != choice:
-            before = box.text
+        box = self.enter(field, "combo box")
+        while (before := box.text) != choice:
             box.act("Increase")
             wait(lambda before=before: box.text != before, f"“{field}” has no “{choice}”")
 
-    def colour(self, button, colour):
-        self.press(button)
-        self.act("Toggle", colour, "check box")
-        self.find(colour, "push button")
+    def write(self, text):
+        self.type(self.await_focus("Name", "text"), text)
+        # The text is taken where the keyboard leaves it.
+        self.find("Menu", "push button").act("SetFocus")
 
-    def tick(self, box):
-        node = self.find(box, "check box", "radio button")
-        node.act("Toggle")
-        wait(lambda: CHECKED in node.states, f"“{box}” is not ticked")
+    def file(self, name):
+        dialog = self.find(None, "dialog")
+        self.type(next(node for node in dialog.walk() if node.role == "text"),
+                  self.desktop.place(name))
+        self.use(next(node for node in dialog.walk() if node.name in ("Open", "Save")
+                      and node.role == "push button"))

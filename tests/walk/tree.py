@@ -7,12 +7,10 @@ import gi
 from desktop import Failed, wait
 
 gi.require_version("Gio", "2.0")
-from gi.repository import Gio, GLib  # noqa: E402 pylint: disable=wrong-import-position
+from gi.repository import Gio, GLib
 
-_ATSPI = "org.a11y.atspi."
-_ROOT = "/org/a11y/atspi/accessible/root"
-_REGISTRY, _REGISTRY_PATH = _ATSPI + "Registry", "/org/a11y/atspi/registry"
-_BUS = "org.freedesktop.DBus"
+ATSPI, BUS, REGISTRY = "org.a11y.atspi.", "org.freedesktop.DBus", "org.a11y.atspi.Registry"
+ROOT = "/org/a11y/atspi/accessible/root"
 # Numbers of AT-SPI's states.
 ACTIVE, CHECKED, ENABLED, FOCUSED, SELECTED, SHOWING = 1, 4, 8, 12, 23, 25
 
@@ -27,12 +25,12 @@ class Node:
         return isinstance(other, Node) and self.path == other.path
 
     def call(self, interface, method, signature=None, *arguments):
-        return self.tree.ask(self.tree.program, self.path, _ATSPI + interface, method, signature,
+        return self.tree.ask(self.tree.program, self.path, ATSPI + interface, method, signature,
                              *arguments)
 
     def read(self, interface, name):
-        return self.tree.ask(self.tree.program, self.path, _BUS + ".Properties", "Get", "(ss)",
-                             _ATSPI + interface, name)[0]
+        return self.tree.ask(self.tree.program, self.path, BUS + ".Properties", "Get", "(ss)",
+                             ATSPI + interface, name)[0]
 
     @property
     def name(self):
@@ -45,8 +43,7 @@ class Node:
     @property
     def states(self):
         low, high = self.call("Accessible", "GetState")[0]
-        bits = low | high << 32
-        return {state for state in range(64) if bits >> state & 1}
+        return {state for state in range(64) if (low | high << 32) >> state & 1}
 
     @property
     def children(self):
@@ -67,32 +64,32 @@ class Node:
         """x, y, width and height on the screen."""
         return self.call("Component", "GetExtents", "(u)", 0)[0]
 
-    def cell(self, row, column):
-        """A cell of a table, tree or list."""
-        path = self.call("Table", "GetAccessibleAt", "(ii)", row, column)[0][1]
+    @property
+    def lines(self):
+        """How many lines a table, tree or list has."""
+        return self.read("Table", "NRows")
+
+    def cell(self, line, column=0):
+        path = self.call("Table", "GetAccessibleAt", "(ii)", line, column)[0][1]
         return Node(self.tree, path)
 
-    @property
-    def actions(self):
-        interfaces = self.call("Accessible", "GetInterfaces")[0]
-        if _ATSPI + "Action" not in interfaces:
-            return []
-        return [name for name, *_ in self.call("Action", "GetActions")[0]]
-
-    def act(self, action):
-        actions = self.actions
-        if action not in actions:
-            raise Failed(f"{self.role} “{self.name}” has no action {action}, only {actions}")
-        self.call("Action", "DoAction", "(i)", actions.index(action))
+    def act(self, *actions):
+        """Does the first of these actions that there is."""
+        offered = []
+        if ATSPI + "Action" in self.call("Accessible", "GetInterfaces")[0]:
+            offered = [name for name, *_ in self.call("Action", "GetActions")[0]]
+        for action in actions:
+            if action in offered:
+                return self.call("Action", "DoAction", "(i)", offered.index(action))
+        raise Failed(f"{self.role} “{self.name}” has no action {actions}, only {offered}")
 
     def walk(self):
         """This object and all below it that can be seen, in depth."""
         with contextlib.suppress(Failed):
-            if self.path != _ROOT and SHOWING not in self.states:
-                return
-            yield self
-            for child in self.children:
-                yield from child.walk()
+            if SHOWING in self.states:
+                yield self
+                for child in self.children:
+                    yield from child.walk()
 
 
 class Tree:
@@ -102,14 +99,13 @@ class Tree:
         self.program = None
         # By the program: a new one may have said much before it is known.
         self.focused, self.showing = {}, {}
-        session = self._connect(desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+        self.bus = self._connect(desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
         launcher = ("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress")
-        self.bus = session
         self.bus = self._connect(wait(lambda: self.ask(*launcher)[0], "no accessibility bus"))
         # What nobody listens to is not told.
-        self.ask(_REGISTRY, _REGISTRY_PATH, _REGISTRY, "RegisterEvent", "(sass)",
+        self.ask(REGISTRY, "/org/a11y/atspi/registry", REGISTRY, "RegisterEvent", "(sass)",
                  "object:state-changed", [], "")
-        self.bus.signal_subscribe(None, _ATSPI + "Event.Object", "StateChanged", None, None,
+        self.bus.signal_subscribe(None, ATSPI + "Event.Object", "StateChanged", None, None,
                                   Gio.DBusSignalFlags.NONE, self._note)
 
     @staticmethod
@@ -131,47 +127,43 @@ class Tree:
 
     def _note(self, _bus, sender, path, _interface, _signal, arguments):
         state, is_set = arguments.unpack()[:2]
-        node = Node(self, path)
         if state == "focused" and is_set:
-            self.focused[sender] = node
+            self.focused[sender] = Node(self, path)
         elif state == "showing":
-            shown = [other for other in self.showing.get(sender, []) if other != node]
-            self.showing[sender] = shown + [node] if is_set else shown
+            shown = [node for node in self.showing.get(sender, []) if node.path != path]
+            self.showing[sender] = shown + [Node(self, path)] if is_set else shown
 
-    def focus(self):
-        """What has the keyboard; None before the program has told."""
-        self.hear()
-        return self.focused.get(self.program)
+    @staticmethod
+    def _hear():
+        while GLib.MainContext.default().pending():
+            GLib.MainContext.default().iteration(False)
 
     def meet(self, process):
         """Waits for a program that was started."""
         def find():
-            if process.poll() is not None:
-                raise Failed("the program ended")
-            for owner, _ in self.ask(_REGISTRY, _ROOT, _ATSPI + "Accessible", "GetChildren")[0]:
+            for owner, _ in self.ask(REGISTRY, ROOT, ATSPI + "Accessible", "GetChildren")[0]:
                 with contextlib.suppress(Failed):
-                    if process.pid == self.ask(_BUS, "/", _BUS, "GetConnectionUnixProcessID",
-                                               "(s)", owner)[0]:
+                    if process.pid == self.ask(BUS, "/", BUS, "GetConnectionUnixProcessID", "(s)",
+                                               owner)[0]:
                         return owner
             return None
         self.program = wait(find, "the program is not on the accessibility bus", 10)
 
-    @staticmethod
-    def hear():
-        """Takes in what the program has told meanwhile."""
-        context = GLib.MainContext.default()
-        while context.pending():
-            context.iteration(False)
+    def focus(self):
+        """What has the keyboard, by the latest that was told; None while nothing has it."""
+        self._hear()
+        node = self.focused.get(self.program)
+        return node if node is not None and FOCUSED in node.states else None
 
     def windows(self):
         """The windows of the program, the active one first. Pop-ups are not among them."""
-        windows = [window for window in Node(self, _ROOT).children if SHOWING in window.states]
+        windows = [window for window in Node(self, ROOT).children if SHOWING in window.states]
         return sorted(windows, key=lambda window: ACTIVE not in window.states)
 
     def apart(self):
         """What no window leads to and only its coming up tells of, the latest first: pop-ups, and
         the editors that stand in the place of cells."""
-        self.hear()
+        self._hear()
         for node in reversed(self.showing.get(self.program, [])):
             with contextlib.suppress(Failed):
                 if node.role != "notification" and node not in node.parent.children:
