@@ -161,6 +161,7 @@ private Q_SLOTS:
         auto* swatch = QApplication::activePopupWidget()->findChild<QWidget*>(u"colour11"_s);
         MetAt(swatch).actionInterface()->doAction(Actions::toggleAction());
         QCOMPARE(colour.Colour(), 11U);
+        colour.hide();
         Subject order;
         Show(order, kPages.at(4));
         auto* columns = order.page->findChild<QListWidget*>();

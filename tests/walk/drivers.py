@@ -4,7 +4,7 @@
 import socket
 import struct
 
-from desktop import Failed, wait
+from desktop import Failed, place, run, wait
 from tree import CHECKED, ENABLED, FOCUSED, SELECTED
 
 LINES = ("cell", "tree item", "list item")
@@ -16,8 +16,8 @@ class Driver:
     """Steps of a walk, by their effects alone: what is done is finished when that is seen. A way
     says by which means; what it does not say is done like the others'."""
 
-    def __init__(self, desktop, tree):
-        self.desktop, self.tree = desktop, tree
+    def __init__(self, tree):
+        self.tree = tree
         self.environment = {}
 
     # What is seen.
@@ -61,12 +61,12 @@ class Driver:
     # What is done in the same way by touch, with the keys of a screen's keyboard, and by keys.
 
     def key(self, *keys):
-        self.desktop.run("xdotool", "key", *keys)
+        run("xdotool", "key", *keys)
 
     def type(self, node, text):
         """Types into a field that has the keyboard, in place of what is there."""
         self.clear(node)
-        self.desktop.run("xdotool", "type", "--delay", "1", "--", text)
+        run("xdotool", "type", "--delay", "1", "--", text)
         wait(lambda: node.text == text, f"“{node.text}” instead of “{text}”")
 
     def clear(self, node):
@@ -115,7 +115,7 @@ class Driver:
         """Into a dialog for files, which begins with the field for the name."""
         dialog = self.find(None, "dialog")
         wait(lambda: self.focus()[0].role == "text", "no file name can be typed")
-        self.type(self.focus()[0], self.desktop.place(name))
+        self.type(self.focus()[0], place(name))
         self.key("Return")
         try:
             wait(lambda: dialog not in self.tree.windows(), "the dialog stays", 1)
@@ -129,8 +129,8 @@ class Touch(Driver):
 
     name = "touch"
 
-    def __init__(self, desktop, tree):
-        super().__init__(desktop, tree)
+    def __init__(self, tree):
+        super().__init__(tree)
         self.socket = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
         with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as free:
             free.bind(("127.0.0.1", 0))
@@ -318,6 +318,6 @@ class Accessibility(Driver):
     def file(self, name):
         dialog = self.find(None, "dialog")
         self.type(next(node for node in dialog.walk() if node.role == "text"),
-                  self.desktop.place(name))
+                  place(name))
         self.use(next(node for node in dialog.walk() if node.name in ("Open", "Save")
                       and node.role == "push button"))

@@ -2,6 +2,7 @@
 """What assistive technology is told of the program, read from its bus without a cache."""
 
 import contextlib
+import os
 
 import gi
 from desktop import Failed, wait
@@ -32,13 +33,15 @@ class Node:
         return self.tree.ask(self.tree.program, self.path, BUS + ".Properties", "Get", "(ss)",
                              ATSPI + interface, name)[0]
 
-    @property
-    def name(self):
-        return self.read("Accessible", "Name")
-
-    @property
-    def role(self):
-        return self.call("Accessible", "GetRoleName")[0]
+    name = property(lambda self: self.read("Accessible", "Name"))
+    role = property(lambda self: self.call("Accessible", "GetRoleName")[0])
+    parent = property(lambda self: Node(self.tree, self.read("Accessible", "Parent")[1]))
+    # What a field holds.
+    text = property(lambda self: self.call("Text", "GetText", "(ii)", 0, -1)[0])
+    # x, y, width and height on the screen.
+    place = property(lambda self: self.call("Component", "GetExtents", "(u)", 0)[0])
+    # How many lines a table, tree or list has.
+    lines = property(lambda self: self.read("Table", "NRows"))
 
     @property
     def states(self):
@@ -49,25 +52,6 @@ class Node:
     def children(self):
         return [Node(self.tree, path) for _, path in self.call("Accessible", "GetChildren")[0]
                 if not path.endswith("/null")]
-
-    @property
-    def parent(self):
-        return Node(self.tree, self.read("Accessible", "Parent")[1])
-
-    @property
-    def text(self):
-        """What a field holds."""
-        return self.call("Text", "GetText", "(ii)", 0, -1)[0]
-
-    @property
-    def place(self):
-        """x, y, width and height on the screen."""
-        return self.call("Component", "GetExtents", "(u)", 0)[0]
-
-    @property
-    def lines(self):
-        """How many lines a table, tree or list has."""
-        return self.read("Table", "NRows")
 
     def cell(self, line, column=0):
         path = self.call("Table", "GetAccessibleAt", "(ii)", line, column)[0][1]
@@ -93,13 +77,13 @@ class Node:
 
 
 class Tree:
-    """The objects of one program on a desktop."""
+    """The objects of the program that runs."""
 
-    def __init__(self, desktop):
+    def __init__(self):
         self.program = None
         # By the program: a new one may have said much before it is known.
         self.focused, self.showing = {}, {}
-        self.bus = self._connect(desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+        self.bus = self._connect(os.environ["DBUS_SESSION_BUS_ADDRESS"])
         launcher = ("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress")
         self.bus = self._connect(wait(lambda: self.ask(*launcher)[0], "no accessibility bus"))
         # What nobody listens to is not told.
