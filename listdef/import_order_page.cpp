@@ -93,9 +93,15 @@ void ImportOrderPage::resizeEvent(QResizeEvent* event)
     Page::resizeEvent(event);
 }
 
+int ImportOrderPage::SelectedRow() const
+{
+    const QList<QListWidgetItem*> selected = m_list->selectedItems();
+    return selected.isEmpty() ? -1 : m_list->row(selected.first());
+}
+
 void ImportOrderPage::UpdateButtons()
 {
-    const int row = m_list->selectedItems().isEmpty() ? -1 : m_list->currentRow();
+    const int row = SelectedRow();
     for (const auto& [button, canMove] : { std::pair { m_up, row > 0 },
              std::pair { m_down, row >= 0 && row + 1 < m_list->count() } }) {
         // Else the toolkit gives the keyboard to the next control, which may be Cancel.
@@ -107,7 +113,7 @@ void ImportOrderPage::UpdateButtons()
 
 void ImportOrderPage::Move(int by)
 {
-    const int row = m_list->currentRow();
+    const int row = SelectedRow();
     const int to = row + by;
     std::swap(m_columns.at(static_cast<size_t>(row)), m_columns.at(static_cast<size_t>(to)));
     m_list->insertItem(to, m_list->takeItem(row));

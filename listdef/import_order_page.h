@@ -32,6 +32,8 @@ private:
     QPushButton* m_down;
     QHBoxLayout* m_buttons;
 
+    /// -1 if there is none.
+    [[nodiscard]] int SelectedRow() const;
     void Move(int by);
     void UpdateButtons();
 };

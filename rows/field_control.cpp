@@ -7,6 +7,7 @@
 #include "widgets/text_line.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -83,6 +84,12 @@ void FieldControl::Show(QWidget* control)
 {
     m_shown = control;
     control->show();
+    // One that has the keyboard already is another field's now. The view told of its line in
+    // between.
+    QAccessibleEvent focused(
+        control->focusProxy() != nullptr ? control->focusProxy() : control, QAccessible::Focus);
+    if (control->hasFocus())
+        QAccessible::updateAccessibility(&focused);
     control->setFocus();
     for (QWidget* other : std::array<QWidget*, 3> { m_edit, m_box, m_date })
         other->setVisible(other == control);

@@ -98,6 +98,14 @@ void RowEditor::BuildTable()
         Commit();
         Edit(tap.row());
     });
+    // By which assistive technology goes from field to field.
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        const QModelIndexList lines = m_view->selectionModel()->selectedRows();
+        if (lines.isEmpty() || lines.first().row() == m_current)
+            return;
+        Commit();
+        Edit(lines.first().row());
+    });
     connect(m_view->verticalScrollBar(), &QScrollBar::valueChanged, this, &RowEditor::PlaceControl);
     new TouchBehaviour(m_view);
     m_view->viewport()->installEventFilter(this);

@@ -4,9 +4,11 @@
 #include "tests/rows_view_errand.h"
 #include "tests/test_program.h"
 #include "widgets/app_style.h"
+#include "widgets/colour_button.h"
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QListWidget>
 #include <QToolButton>
 
 namespace {
@@ -28,6 +30,13 @@ QString Met(QObject* object)
         words << value->currentValue().toString();
     }
     return words.join(u'|');
+}
+
+using Actions = QAccessibleActionInterface;
+
+QAccessibleInterface& MetAt(QObject* object)
+{
+    return *QAccessible::queryAccessibleInterface(object);
 }
 
 } // namespace
@@ -102,7 +111,8 @@ private Q_SLOTS:
             auto* met
                 = QAccessible::queryAccessibleInterface(subject.page->findChild<QWidget*>(name));
             for (const QString& action : met->actionInterface()->actionNames()) {
-                if (action == QAccessibleActionInterface::setFocusAction())
+                if (action != QAccessibleActionInterface::pressAction()
+                    && action != QAccessibleActionInterface::showMenuAction())
                     continue;
                 met->actionInterface()->doAction(action);
                 QVERIFY(QApplication::activePopupWidget() != nullptr
@@ -133,6 +143,55 @@ private Q_SLOTS:
         rows.page->findChild<QWidget*>(u"ok"_s)->setFocus();
         rows.View()->setFocus();
         Act(u"hear rice"_s);
+    }
+
+    void linesAreOpenedByTheActionsOfTheirPage()
+    {
+        RowsErrand rows;
+        for (const QString& name : { u"rice"_s, u"tea"_s })
+            rows.file.Add({ name, u"3"_s });
+        rows.Open();
+        QVERIFY(MetAt(rows.View()).tableInterface()->selectRow(1));
+        MetAt(rows.page).actionInterface()->doAction(Actions::showMenuAction());
+        Act(u"tap Add 1"_s);
+        QCOMPARE(rows.Stored(Count), u"3 4"_s);
+        MetAt(rows.page).actionInterface()->doAction(Actions::pressAction());
+        // A field is gone to by its line.
+        for (const int field : { int { Shelf }, int { Name } }) {
+            QVERIFY(MetAt(rows.View()).tableInterface()->selectRow(field));
+            QCOMPARE(QApplication::focusWidget()->accessibleName(),
+                rows.file.list.columns[static_cast<size_t>(field)].name);
+        }
+        MetAt(QApplication::focusWidget()).setText(QAccessible::Value, u"bran"_s);
+        Act(u"tap OK"_s);
+        QCOMPARE(rows.Stored(), u"bran rice"_s);
+    }
+
+    void choicesAreMadeByActions()
+    {
+        QApplication::setStyle(new AppStyle);
+        QComboBox choice;
+        choice.addItems({ u"Text"_s, u"Price"_s });
+        for (const auto& [action, chosen] : { std::pair(Actions::increaseAction(), 1),
+                 std::pair(Actions::increaseAction(), 1), std::pair(Actions::decreaseAction(), 0),
+                 std::pair(Actions::decreaseAction(), 0) }) {
+            MetAt(&choice).actionInterface()->doAction(action);
+            QCOMPARE(choice.currentIndex(), chosen);
+        }
+        ColourButton colour;
+        colour.show();
+        colour.click();
+        auto* swatch = QApplication::activePopupWidget()->findChild<QWidget*>(u"colour11"_s);
+        MetAt(swatch).actionInterface()->doAction(Actions::toggleAction());
+        QCOMPARE(colour.Colour(), 11U);
+        colour.hide();
+        Subject order;
+        Show(order, kPages.at(4));
+        auto* columns = order.page->findChild<QListWidget*>();
+        QVERIFY(MetAt(columns).tableInterface()->selectRow(1));
+        const QString second = columns->item(1)->text();
+        Act(u"tap Move Up"_s);
+        QCOMPARE(columns->item(0)->text(), second);
     }
 
     void aChangedCellIsSpokenWithItsColumn()

@@ -29,10 +29,26 @@ QAccessible::State AccessibleChoice::state() const
     return state;
 }
 
+QStringList AccessibleChoice::actionNames() const
+{
+    if (!m_box->isEnabled())
+        return {};
+    return QStringList { showMenuAction(), increaseAction(), decreaseAction() }
+    + QAccessibleWidget::actionNames();
+}
+
 void AccessibleChoice::doAction(const QString& name)
 {
+    if (!m_box->isEnabled())
+        return;
+    const int step = name == increaseAction() ? 1 : name == decreaseAction() ? -1 : 0;
+    const int chosen = m_box->currentIndex() + step;
     if (name == showMenuAction())
         m_box->showPopup();
+    else if (step == 0)
+        QAccessibleWidget::doAction(name);
+    else if (chosen >= 0 && chosen < m_box->count())
+        m_box->setCurrentIndex(chosen);
 }
 
 QString AccessibleChoice::text(int start, int end) const

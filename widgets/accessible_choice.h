@@ -17,7 +17,9 @@ public:
     void* interface_cast(QAccessible::InterfaceType type) override;
     [[nodiscard]] QString text(QAccessible::Text kind) const override;
     [[nodiscard]] QAccessible::State state() const override;
-    [[nodiscard]] QStringList actionNames() const override { return { showMenuAction() }; }
+    /// To open the list, and to choose what stands after or before the choice: in the list itself
+    /// the toolkit offers no action that chooses.
+    [[nodiscard]] QStringList actionNames() const override;
     void doAction(const QString& name) override;
     // The list of choices is a window of its own.
     [[nodiscard]] int childCount() const override { return 0; }

@@ -111,7 +111,8 @@ ColourGrid::ColourGrid(quint32 selected, QWidget* parent)
     int place = 0;
     for (const quint32 index : ColoursByValue()) {
         auto* swatch = new Swatch(index, index == selected, this);
-        connect(swatch, &QAbstractButton::clicked, this, [this, index] { Pick(index); });
+        // By whatever means: assistive technology toggles a button without a click.
+        connect(swatch, &QAbstractButton::toggled, this, [this, index] { Pick(index); });
         grid->addWidget(swatch, place % kColumnLength, place / kColumnLength);
         if (index == selected)
             swatch->setFocus();

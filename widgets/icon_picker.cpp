@@ -120,11 +120,16 @@ public:
     [[nodiscard]] QVariant minimumValue() const override { return 0; }
     [[nodiscard]] QVariant maximumValue() const override { return kListIconCount - 1; }
     [[nodiscard]] QVariant minimumStepSize() const override { return 1; }
-    [[nodiscard]] QStringList actionNames() const override { return { pressAction() }; }
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return QStringList { pressAction() } + QAccessibleWidget::actionNames();
+    }
     void doAction(const QString& name) override
     {
         if (name == pressAction())
             m_picker->OpenGrid();
+        else
+            QAccessibleWidget::doAction(name);
     }
 
 private:

@@ -15,6 +15,7 @@
 #include <QStyleHints>
 #include <QTouchEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace Quillory {
@@ -99,14 +100,14 @@ bool TouchBehaviour::eventFilter(QObject* watched, QEvent* event)
         if (!HasMenu()
             || static_cast<QKeyEvent*>(event)->keyCombination() != (Qt::SHIFT | Qt::Key_F10))
             return false;
-        HoldCurrent();
+        HoldSelected();
         return true;
     case QEvent::ContextMenu: {
         if (!HasMenu())
             return false;
         const auto* menu = static_cast<QContextMenuEvent*>(event);
         if (menu->reason() == QContextMenuEvent::Keyboard)
-            HoldCurrent();
+            HoldSelected();
         else if (menu->reason() == QContextMenuEvent::Mouse)
             AskForMenu(menu->pos());
         return true;
@@ -225,13 +226,18 @@ void TouchBehaviour::Hold()
     SendMouse(*m_control, QEvent::MouseButtonPress, m_view->viewport()->mapToGlobal(m_start));
 }
 
-void TouchBehaviour::HoldCurrent()
+void TouchBehaviour::HoldSelected()
 {
     auto* items = qobject_cast<QAbstractItemView*>(m_view);
     if (items == nullptr)
         return;
-    items->scrollTo(items->currentIndex());
-    Q_EMIT Held(items->visualRect(items->currentIndex()).center());
+    // Assistive technology selects lines without making them the current one.
+    const QModelIndexList selected = items->selectionModel()->selectedRows();
+    QModelIndex line = items->currentIndex();
+    if (!selected.isEmpty())
+        line = selected.first().siblingAtColumn(std::max(0, line.column()));
+    items->scrollTo(line);
+    Q_EMIT Held(items->visualRect(line).center());
     LetterMenu::EnterOpened();
 }
 

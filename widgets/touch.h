@@ -16,7 +16,7 @@ namespace Quillory {
 /// Gives a view the behaviour of a finger: it selects and acts when a tap is lifted, and only then.
 /// A swipe scrolls by pixels and does nothing else, a tap that stops a moving view does only that,
 /// a hold selects its line and opens the context menu. A mouse selects on its press; its right
-/// button and its held left one do what a hold does, and so do, on the current line, the menu key
+/// button and its held left one do what a hold does, and so do, on the selected line, the menu key
 /// and Shift+F10. Where nobody opens a context menu a hold is a slow tap.
 ///
 /// A double tap or click whose first half went to another view has had its effect there: its second
@@ -28,6 +28,9 @@ class TouchBehaviour : public QObject
 public:
     /// Owned by the view.
     explicit TouchBehaviour(QAbstractScrollArea* view);
+
+    /// Does to the selected line what a hold does, as the menu key.
+    void HoldSelected();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -58,7 +61,6 @@ private:
     void Follow(const QPoint& position);
     void Tap();
     void Hold();
-    void HoldCurrent();
     void AskForMenu(const QPoint& position);
 };
 
