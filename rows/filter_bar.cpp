@@ -25,7 +25,8 @@ FilterBar::FilterBar(QWidget* parent)
     m_clear->setFocusPolicy(Qt::TabFocus);
     m_clear->setMinimumHeight(CurrentMeasures().lineHeight);
     auto* line = new QHBoxLayout(this);
-    line->setContentsMargins(kPageMargin, kGrid / 2, kGrid, kGrid / 2);
+    line->setContentsMargins(
+        LineMargins(kPageMargin, kGrid, layoutDirection()) + QMargins(0, kGrid / 2, 0, kGrid / 2));
     line->setSpacing(kGrid);
     line->addWidget(m_text, 1);
     line->addWidget(m_clear);

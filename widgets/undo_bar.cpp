@@ -37,7 +37,8 @@ UndoBar::UndoBar(QWidget* parent)
     m_button->setFocusPolicy(Qt::TabFocus);
     m_button->setMinimumHeight(CurrentMeasures().lineHeight);
     auto* line = new QHBoxLayout(this);
-    line->setContentsMargins(kPageMargin, kGrid / 2, kGrid, kGrid / 2);
+    line->setContentsMargins(
+        LineMargins(kPageMargin, kGrid, layoutDirection()) + QMargins(0, kGrid / 2, 0, kGrid / 2));
     line->setSpacing(kGrid);
     line->addWidget(m_text, 1);
     line->addWidget(m_button);
