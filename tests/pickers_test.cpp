@@ -206,10 +206,15 @@ private Q_SLOTS:
         button.SetColour(ColoursByValue().at(from));
         window.show();
         button.setFocus();
+        const auto mark = [&button] {
+            return button.grab({ button.width() - 20, 6, 14, button.height() - 12 }).toImage();
+        };
+        const QImage closed = mark();
         Act(steps);
         QCOMPARE(button.Colour(), ColoursByValue().at(to));
         QCOMPARE(picked.count(), times);
         QTRY_VERIFY(button.findChild<ColourGrid*>() == nullptr);
+        QCOMPARE(mark(), closed);
     }
 
     void allColoursCanBeReachedInTheSmallestWindow()

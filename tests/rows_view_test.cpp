@@ -381,14 +381,20 @@ private Q_SLOTS:
         QCOMPARE(File().list.TableColSizes, QString());
         // Beside columns of which each was set, a line goes on.
         File().list.TableColSizes = u"60,60,60,60,60,60,60,60,"_s;
-        m_errand->Open();
-        const QPoint beside(View()->viewport()->width() - 5, View()->rowViewportPosition(1) + 5);
-        const auto ground
-            = [this, beside] { return View()->viewport()->grab().toImage().pixel(beside); };
-        const QRgb before = ground();
-        QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, beside);
-        QVERIFY(ground() != before);
-        Act(u"on salt"_s);
+        for (const auto direction : { Qt::RightToLeft, Qt::LeftToRight }) {
+            QGuiApplication::setLayoutDirection(direction);
+            m_errand->Open();
+            const int width = View()->viewport()->width();
+            const QPoint beside(
+                direction == Qt::RightToLeft ? 4 : width - 5, View()->rowViewportPosition(1) + 5);
+            const auto ground
+                = [this, beside] { return View()->viewport()->grab().toImage().pixel(beside); };
+            const QRgb before = ground();
+            QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, beside);
+            QVERIFY(ground() != before);
+            Act(u"on salt"_s);
+        }
+        QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
     }
 
     void everyTypeHasItsSide()
