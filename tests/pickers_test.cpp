@@ -223,8 +223,11 @@ private Q_SLOTS:
         const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
         ColourButton button;
         auto* grid = new ColourGrid(5, &button);
-        grid->Open({}, QRect(0, 0, 240, 320));
-        QVERIFY2(grid->width() <= 240, qPrintable(QString::number(grid->width())));
+        const QRect window(0, 0, 240, 320);
+        for (const QPoint& place : { window.topLeft(), window.bottomRight() }) {
+            grid->Open(place, window);
+            QVERIFY(window.contains(grid->geometry()));
+        }
     }
 
     void aPointerPicksOnlyByWhatItDoesInTheGrid()
