@@ -132,6 +132,9 @@ private Q_SLOTS:
     void cancelGivesTheStateBack()
     {
         ShowFilter();
+        Act(u"choose conditionBox: equals to"_s);
+        QVERIFY(m_stack->Top()->HasUnsavedInput());
+        Act(u"choose conditionBox: contains"_s);
         QVERIFY(!m_stack->Top()->HasUnsavedInput());
         Act(u"choose fieldBox: Bio"_s);
         QVERIFY(m_stack->Top()->HasUnsavedInput());
