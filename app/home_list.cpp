@@ -130,7 +130,6 @@ void HomeList::ConnectView()
         &QShortcut::activated, this, &HomeList::FlipDirection);
     auto* touch = new TouchBehaviour(m_view);
     connect(touch, &TouchBehaviour::Held, this, &HomeList::OpenListMenu);
-    OfferLineActions(touch);
 }
 
 void HomeList::Fill(std::vector<ListCatalogue::HomeListEntry> lists)

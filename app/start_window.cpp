@@ -115,7 +115,7 @@ QString MeetingFolder(const Settings& settings)
 int RunFrame(Application& app, SingleInstance& instance, const Settings& settings,
     const StartRequest& request, int endRequests)
 {
-    const DesktopLook look(FixedScheme(settings));
+    const DesktopLook look(QDBusConnection::sessionBus(), FixedScheme(settings));
     EnlargeLetters();
     std::optional<ScreenKeyboard> keyboard;
     if (ScreenKeyboard::IsNeeded())

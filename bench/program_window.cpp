@@ -14,7 +14,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     QApplication::setStyle(new AppStyle);
-    const DesktopLook look(std::nullopt);
+    const DesktopLook look(QDBusConnection::sessionBus(), std::nullopt);
     EnlargeLetters();
     Settings settings;
     settings.DbPath = arguments.value(2);

@@ -2,7 +2,6 @@
 #include "desktop/desktop_look.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -90,7 +89,7 @@ QPalette PaletteOf(ColourScheme scheme, bool isHighContrast)
     return palette;
 }
 
-DesktopLook::DesktopLook(std::optional<ColourScheme> fixed, QObject* parent)
+DesktopLook::DesktopLook(QDBusConnection bus, std::optional<ColourScheme> fixed, QObject* parent)
     : QObject(parent)
     , m_hasFixedScheme(fixed.has_value())
     , m_scheme(fixed.value_or(ColourScheme::Light))
@@ -98,7 +97,7 @@ DesktopLook::DesktopLook(std::optional<ColourScheme> fixed, QObject* parent)
     if (!fixed && HasDesktopPalette())
         return;
     SetPalette();
-    AskPortal();
+    AskPortal(bus);
 }
 
 void DesktopLook::SetPalette() const
@@ -106,12 +105,12 @@ void DesktopLook::SetPalette() const
     QApplication::setPalette(PaletteOf(m_scheme, m_isHighContrast));
 }
 
-void DesktopLook::AskPortal()
+void DesktopLook::AskPortal(QDBusConnection& bus)
 {
-    QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(kService, kPath, kInterface, u"SettingChanged"_s, this,
+    // The sender goes unnamed: two that meet without a daemon between them have no names.
+    bus.connect(QString(), kPath, kInterface, u"SettingChanged"_s, this,
         SLOT(NoteSettingChanged(QDBusMessage)));
     for (const QString key : { kSchemeKey, kContrastKey }) {
         QDBusMessage question

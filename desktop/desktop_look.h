@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDBusConnection>
 #include <QObject>
 #include <QPalette>
 
@@ -31,15 +32,15 @@ class DesktopLook : public QObject
     Q_OBJECT
 
 public:
-    /// `fixed` is used whether the desktop is light or dark.
-    explicit DesktopLook(std::optional<ColourScheme> fixed, QObject* parent = nullptr);
+    /// `bus` is the session's. `fixed` is used whether the desktop is light or dark.
+    DesktopLook(QDBusConnection bus, std::optional<ColourScheme> fixed, QObject* parent = nullptr);
 
 private:
     bool m_hasFixedScheme;
     ColourScheme m_scheme;
     bool m_isHighContrast = false;
 
-    void AskPortal();
+    void AskPortal(QDBusConnection& bus);
     /// Takes over what the portal says of one of the two.
     void Take(const QString& key, const QVariant& answer);
     void SetPalette() const;

@@ -187,7 +187,8 @@ void RowEditor::PlaceControl()
     // Two pixels from the hairlines; as tall as a finger needs where the line is.
     constexpr int kInset = 2;
     const QRect cell = m_view->visualRect(m_lines->index(m_current, kValueColumn));
-    m_control->Place(cell.adjusted(0, kInset, -kGrid, -kInset - 1));
+    m_control->Place(cell.marginsRemoved(
+        LineMargins(0, kGrid, layoutDirection()) + QMargins(0, kInset, 0, kInset + 1)));
 }
 
 void RowEditor::KeepInView()

@@ -18,7 +18,7 @@ void RowFieldDelegate::paint(
         option.palette.color(index.column() == 0 ? QPalette::PlaceholderText : QPalette::Text));
     QStyleOptionViewItem marked = option;
     marked.font.setStrikeOut(index.data(Qt::FontRole).value<QFont>().strikeOut());
-    DrawLabel(*painter, marked, TextRoom(option.rect, index.column()), index);
+    DrawLabel(*painter, marked, TextRoom(option, index.column()), index);
 }
 
 } // namespace Quillory

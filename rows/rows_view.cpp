@@ -111,7 +111,6 @@ void RowsView::BuildTable()
     connect(m_view, &QTableView::doubleClicked, this, &RowsView::DoubleTapCell);
     auto* touch = new TouchBehaviour(m_view);
     connect(touch, &TouchBehaviour::Held, this, &RowsView::OpenRowMenu);
-    OfferLineActions(touch);
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
     Body()->addWidget(m_view, 1);

@@ -78,12 +78,15 @@ inline QStringList CutControls(const Page& page)
         if ((!isControl && !isText) || !widget->isVisible())
             continue;
         const QRect place(widget->mapTo(&page, QPoint()), widget->size());
+        // The soft keys are half a page each; the second may have a pixel more.
+        const bool isKey = widget->parentWidget()->objectName() == u"softKeys";
         const bool isScrolled = area != nullptr && area->isAncestorOf(widget);
         const QRect room
             = isScrolled ? QRect(0, place.y(), page.width(), place.height()) : page.rect();
         const QSize needed = RoomForText(*widget);
         const QSize given = RoomOfText(*widget);
-        if (!room.contains(place) || (isControl && widget->width() > kMaxPageWidth)
+        if (!room.contains(place)
+            || (isControl && widget->width() > (isKey ? kMaxPageWidth / 2 + 1 : kMaxPageWidth))
             || given.width() < needed.width() || given.height() < needed.height()
             || (bar != nullptr && HasCutTab(*bar)))
             QDebug(&cut.emplace_back()) << widget->metaObject()->className() << widget->objectName()

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTableView>
 
 #include <functional>
@@ -85,7 +86,14 @@ private Q_SLOTS:
         Act(u"choose fieldBox: Bio; see conditionBox: equals to"_s);
         QCOMPARE(Conditions(), u"equals to, not equals to"_s);
         QCOMPARE(ShownValue(), u"checkboxValueBox"_s);
+        // What an on-screen keyboard is to show.
+        const auto hints = [this] {
+            return m_stack->Top()->findChild<QLineEdit*>(u"valueEdit"_s)->inputMethodHints();
+        };
+        Act(u"choose fieldBox: Price"_s);
+        QCOMPARE(hints(), Qt::ImhFormattedNumbersOnly);
         Act(u"choose fieldBox: Text"_s);
+        QCOMPARE(hints(), Qt::ImhNone);
         QCOMPARE(Conditions(), u"contains, equals to, not equals to"_s);
         QCOMPARE(ShownValue(), u"valueEdit"_s);
     }
@@ -135,6 +143,9 @@ private Q_SLOTS:
     void cancelGivesTheStateBack()
     {
         ShowFilter();
+        Act(u"choose conditionBox: equals to"_s);
+        QVERIFY(m_stack->Top()->HasUnsavedInput());
+        Act(u"choose conditionBox: contains"_s);
         QVERIFY(!m_stack->Top()->HasUnsavedInput());
         Act(u"choose fieldBox: Bio"_s);
         QVERIFY(m_stack->Top()->HasUnsavedInput());

@@ -19,6 +19,12 @@ public:
     void Press(const QPoint& place) const { Touch().press(0, place, &m_widget); }
     void Move(const QPoint& place) const { Touch().move(0, place, &m_widget); }
     void Release(const QPoint& place) const { Touch().release(0, place, &m_widget); }
+    /// A second finger comes, and both go.
+    void Release(const QPoint& place, const QPoint& second) const
+    {
+        Touch().move(0, place, &m_widget).press(1, second, &m_widget);
+        Touch().release(0, place, &m_widget).release(1, second, &m_widget);
+    }
     void Tap(const QPoint& place) const
     {
         Press(place);

@@ -92,6 +92,16 @@ private Q_SLOTS:
             "see Add Expiry Date Column, (Rename), (Delete), (Move Up), (Move Down)"_s);
     }
 
+    void aLowWindowHasNoRoomForTheNote()
+    {
+        const auto* note
+            = View()->parentWidget()->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+        for (const bool isLow : { false, true, false }) {
+            m_stack->resize(640, isLow ? 240 : 640);
+            QTRY_COMPARE(note->isVisible(), !isLow);
+        }
+    }
+
     void columnsAreRenamedInPlace()
     {
         // All of the old name is selected.
@@ -109,7 +119,9 @@ private Q_SLOTS:
             + u"see Price, Name, Quantity; press Ctrl+Down Ctrl+Up Ctrl+Down; "
               "see Name, Price, Quantity; press Ctrl+Tab"_s);
         QTRY_VERIFY(Find<QWidget>(u"warnOnCount"_s)->hasFocus());
-        Act(u"press Del Ctrl+Up; tap Columns; see Name, Price, Quantity; "
+        Act(u"press Del Ctrl+Up Ctrl+Tab"_s);
+        QTRY_VERIFY(Find<QWidget>(u"listName"_s)->hasFocus());
+        Act(u"press Ctrl+Tab; see Name, Price, Quantity; "
             "press Del; see Name, Quantity"_s);
         // Keys that go through the tabs stay there.
         auto* tabs = Find<QTabBar>(u"tabs"_s);

@@ -57,7 +57,8 @@ public:
         Settings settings;
         ReadSettings(Conf(), settings);
         frame = std::make_unique<MainFrame>(settings, MainFrame::Places { Conf(), CopiesFolder() });
-        frame->SetFileChooser([this](const auto& then) { then(chosenPath); });
+        if (!chosenPath.isEmpty())
+            frame->SetFileChooser([this](const auto& then) { then(chosenPath); });
         frame->show();
         frame->OpenDataFile({ listName, {} });
         pages = frame->findChild<PageStack*>();
@@ -85,6 +86,11 @@ public:
     void ChooseFileFor(const QString& command, const QString& path) const
     {
         Act(u"tap Menu; tap "_s + command);
+        GiveFile(path);
+    }
+    /// Chooses a file in the dialog that is in front.
+    static void GiveFile(const QString& path)
+    {
         auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         QVERIFY(dialog != nullptr);
         dialog->selectFile(path);
@@ -100,7 +106,7 @@ public:
 
     std::unique_ptr<MainFrame> frame;
     PageStack* pages = nullptr;
-    /// What the file dialog for the data file answers.
+    /// What the file dialog for the data file answers; it is there to be answered if empty.
     QString chosenPath = DataPath();
 
 private:

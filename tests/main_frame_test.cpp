@@ -20,10 +20,11 @@ private Q_SLOTS:
     void theFirstStartMakesTheDataFile()
     {
         FrameErrand errand;
+        errand.chosenPath.clear();
         errand.Start();
-        Act(u"at Welcome to Quillory"_s);
+        Act(u"at Welcome to Quillory; tap OK; see fileNameEdit: Quillory.idb"_s);
         QVERIFY(!QFile::exists(errand.DataPath()));
-        Act(u"tap OK"_s);
+        FrameErrand::GiveFile(errand.DataPath());
         QVERIFY(QFile::exists(errand.DataPath()));
         Act(u"at nothing; see nothing"_s);
         errand.Restart();

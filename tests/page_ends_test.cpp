@@ -64,6 +64,18 @@ QStringList LookOf(const Page& page)
     return lines;
 }
 
+/// Where the letters of a table's first line begin, in steps of the grid from its own beginning.
+int InsetOf(QTableView& view)
+{
+    const QRect cell = view.visualRect(view.model()->index(0, 0)).adjusted(0, 0, 0, -1);
+    const QImage line = view.viewport()->grab(cell).toImage().mirrored(view.isRightToLeft(), false);
+    const auto column = [&line](int x) { return line.copy(x, 0, 1, line.height()); };
+    int x = 0;
+    while (x < line.width() && column(x) == column(0))
+        ++x;
+    return qRound(x / double { kGrid });
+}
+
 } // namespace
 
 class PageEndsTest : public QObject
@@ -117,6 +129,34 @@ private Q_SLOTS:
             }
         }
         QVERIFY2(cut.isEmpty(), qPrintable(u'\n' + cut.join(u'\n')));
+    }
+
+    void everyPageIsMirrored_data() { everyPageFitsEveryWindow_data(); }
+
+    void everyPageIsMirrored()
+    {
+        const auto [page] = Table<int>::Row();
+        const auto restore
+            = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
+        QApplication::setStyle(new AppStyle);
+        QMap<Qt::LayoutDirection, QStringList> places;
+        for (const auto direction : { Qt::LeftToRight, Qt::RightToLeft }) {
+            QGuiApplication::setLayoutDirection(direction);
+            Subject subject;
+            ApplyWindowStyle(&subject.stack);
+            Show(subject, kPages.at(static_cast<size_t>(page)));
+            subject.page->OfferUndo(u"'Tea' was deleted."_s, [] {});
+            for (const auto* widget : subject.page->findChildren<QWidget*>()) {
+                const QRect place(widget->mapTo(subject.page, QPoint()), widget->size());
+                if (widget->isVisible())
+                    QDebug(&places[direction].emplace_back())
+                        << widget->metaObject()->className() << widget->objectName()
+                        << QStyle::visualRect(direction, subject.page->rect(), place);
+            }
+            for (auto* table : subject.page->findChildren<QTableView*>())
+                places[direction] << QString::number(InsetOf(*table));
+        }
+        QCOMPARE(places[Qt::RightToLeft], places[Qt::LeftToRight]);
     }
 
     void anOpenPageFollowsTheFont_data()

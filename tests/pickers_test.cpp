@@ -206,10 +206,15 @@ private Q_SLOTS:
         button.SetColour(ColoursByValue().at(from));
         window.show();
         button.setFocus();
+        const auto mark = [&button] {
+            return button.grab({ button.width() - 20, 6, 14, button.height() - 12 }).toImage();
+        };
+        const QImage closed = mark();
         Act(steps);
         QCOMPARE(button.Colour(), ColoursByValue().at(to));
         QCOMPARE(picked.count(), times);
         QTRY_VERIFY(button.findChild<ColourGrid*>() == nullptr);
+        QCOMPARE(mark(), closed);
     }
 
     void allColoursCanBeReachedInTheSmallestWindow()
@@ -219,11 +224,13 @@ private Q_SLOTS:
         ColourButton button;
         auto* grid = new ColourGrid(5, &button);
         const QRect window(0, 0, 240, 320);
-        grid->Open({ 200, 300 }, window);
         // The platform of the tests gives it a frame.
         constexpr int kFrame = 2;
-        const QRect place = grid->geometry().translated(-kFrame, -kFrame);
-        QVERIFY2(window.contains(place), qPrintable(QDebug::toString(place)));
+        for (const QPoint& place : { window.topLeft(), window.bottomRight() }) {
+            grid->Open(place, window);
+            const QRect seen = grid->geometry().translated(-kFrame, -kFrame);
+            QVERIFY2(window.contains(seen), qPrintable(QDebug::toString(seen)));
+        }
     }
 
     void aPointerPicksOnlyByWhatItDoesInTheGrid()

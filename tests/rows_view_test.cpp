@@ -95,7 +95,9 @@ private Q_SLOTS:
         for (const auto& [name, count, steps] :
             { std::tuple(u"aaa"_s, u"1"_s, u"see aaa, rice, salt"_s),
                 std::tuple(u"zzz"_s, u"9"_s, u"see aaa, rice, salt, zzz; tap Quantity"_s),
-                std::tuple(u"mmm"_s, u"-5"_s, u"on mmm; see Quantity: -5, 0, 1, 5, 9"_s) }) {
+                std::tuple(u"mmm"_s, u"-5"_s,
+                    u"on mmm; see Quantity: -5, 0, 1, 5, 9; tap Menu; tap Set Filters...; tap OK"_s),
+                std::tuple(u"bbb"_s, u"7"_s, u"see aaa, bbb, mmm, rice, salt, zzz"_s) }) {
             Page()->ShowRestored(File().Add({ name, count }));
             Act(steps);
         }
@@ -389,14 +391,20 @@ private Q_SLOTS:
         QCOMPARE(File().list.TableColSizes, QString());
         // Beside columns of which each was set, a line goes on.
         File().list.TableColSizes = u"60,60,60,60,60,60,60,60,"_s;
-        m_errand->Open();
-        const QPoint beside(View()->viewport()->width() - 5, View()->rowViewportPosition(1) + 5);
-        const auto ground
-            = [this, beside] { return View()->viewport()->grab().toImage().pixel(beside); };
-        const QRgb before = ground();
-        QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, beside);
-        QVERIFY(ground() != before);
-        Act(u"on salt"_s);
+        for (const auto direction : { Qt::RightToLeft, Qt::LeftToRight }) {
+            QGuiApplication::setLayoutDirection(direction);
+            m_errand->Open();
+            const int width = View()->viewport()->width();
+            const QPoint beside(
+                direction == Qt::RightToLeft ? 4 : width - 5, View()->rowViewportPosition(1) + 5);
+            const auto ground
+                = [this, beside] { return View()->viewport()->grab().toImage().pixel(beside); };
+            const QRgb before = ground();
+            QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, beside);
+            QVERIFY(ground() != before);
+            Act(u"on salt"_s);
+        }
+        QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
     }
 
     void everyTypeHasItsSide()
@@ -542,6 +550,20 @@ private Q_SLOTS:
         File().list.TableOption = kWarnOnCount;
         QVERIFY(seen(Name) != name);
         QCOMPARE(seen(Shelf), shelf);
+        // Of two words that have no room one is told whole.
+        File().list.TableOption = kWarnOnCount | kWarnOnExpiry;
+        File().list.TableExpiryColour = kAutomaticColour;
+        for (const QString& count : { u"0"_s, u"9"_s })
+            File().Add({ {}, count, {}, {}, {}, {}, {}, u"1/1/2020"_s });
+        m_errand->Open();
+        View()->selectRow(3);
+        const int one = View()->fontMetrics().horizontalAdvance(u"expired"_s) + 40;
+        for (const int width : { one, 3 * one }) {
+            View()->setColumnWidth(Name, width);
+            const QImage both = View()->viewport()->grab(m_errand->Cell(0, Name)).toImage();
+            const QImage expired = View()->viewport()->grab(m_errand->Cell(1, Name)).toImage();
+            QCOMPARE(both == expired, width == one);
+        }
     }
 
 private:

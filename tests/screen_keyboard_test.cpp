@@ -72,6 +72,7 @@ private Q_SLOTS:
         QVERIFY(asksBy([&] { QTest::keyClick(&first, Qt::Key_Tab); }, u""_s));
         QVERIFY(asksBy([&] { tap(second); }, u"+"_s));
         QVERIFY(asksBy([&] { tap(button); }, u"-"_s));
+        QVERIFY(asksBy([&] { QTest::keyClick(&button, Qt::Key_Tab); }, u""_s));
         QVERIFY(asksBy([&] { tap(constant); }, u""_s));
         QVERIFY(asksBy([&] { tap(second); }, u"+"_s));
         QVERIFY(asksBy([&] { window.hide(); }, u"-"_s));

@@ -54,6 +54,7 @@ private Q_SLOTS:
         add("icon grid: tap", List::IconGrid, Gesture::Tap, u"closed"_s);
         add("icon grid: slow swipe", List::IconGrid, Gesture::SlowSwipe, u"0 scrolled"_s);
         add("rows: hold taken away", List::Rows, Gesture::HoldTakenAway, u"0"_s);
+        add("rows: two fingers", List::Rows, Gesture::TwoFingers, u"0"_s);
         add("rows: two taps", List::Rows, Gesture::TwoTaps, u"4"_s);
         add("rows: tap in a square", List::Rows, Gesture::TapInSquare, u"4 ticked"_s);
         add("rows: tap beside a square", List::Rows, Gesture::TapBesideSquare, u"4"_s);
@@ -169,6 +170,7 @@ private:
         TwoTaps,
         Hold,
         HoldTakenAway,
+        TwoFingers,
         Flick,
         SlowSwipe,
         TapOnGliding,
@@ -254,6 +256,9 @@ private:
             QApplication::sendEvent(m_view->viewport(), &cancel);
             return QTest::qWait(200);
         }
+        case Gesture::TwoFingers:
+            finger.Press(line);
+            return finger.Release(line, line + QPoint(0, 90));
         case Gesture::Flick:
             return flick();
         case Gesture::SlowSwipe:

@@ -2,7 +2,6 @@
 #include "widgets/icon_grid_page.h"
 
 #include "widgets/icon_grid.h"
-#include "widgets/measures.h"
 
 #include <QVBoxLayout>
 
@@ -18,7 +17,6 @@ IconGridPage::IconGridPage(int selected, QWidget* parent)
     ShowOkButton(false);
     auto* grid = new IconGrid(this);
     grid->SelectIcon(selected);
-    Body()->setContentsMargins(kGrid, kGrid, 0, 0);
     Body()->addWidget(grid, 1);
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
     connect(grid, &IconGrid::IconTapped, this, [this](int index) {

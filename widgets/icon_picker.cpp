@@ -142,7 +142,7 @@ IconPicker::IconPicker(QWidget* parent)
     MeetAs<AccessibleIconPicker, IconPicker>();
     setFocusPolicy(Qt::StrongFocus);
     auto* line = new QHBoxLayout(this);
-    line->setContentsMargins(0, 1, 1, 1);
+    line->setContentsMargins(1, 1, 1, 1);
     line->setSpacing(2);
     line->addStretch(1);
     const auto add = [this, line](Face face, const QString& name, const QString& objectName) {

@@ -10,9 +10,10 @@
 
 namespace Quillory {
 
-QRect LineDelegate::TextRoom(const QRect& cell, int column)
+QRect LineDelegate::TextRoom(const QStyleOptionViewItem& option, int column)
 {
-    return cell.adjusted(column == 0 ? kPageMargin : kGrid, 0, -kGrid, 0);
+    return option.rect.marginsRemoved(
+        LineMargins(column == 0 ? kPageMargin : kGrid, kGrid, option.direction));
 }
 
 void LineDelegate::DrawHairline(QPainter& painter, const QStyleOptionViewItem& option)
@@ -31,8 +32,7 @@ QColor LineDelegate::GroundOf(const QStyleOptionViewItem& option, const QModelIn
 
 QSize LineDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    const QRect cell(0, 0, kPageMargin, 0);
-    const int margins = cell.width() - TextRoom(cell, index.column()).width();
+    const int margins = option.rect.width() - TextRoom(option, index.column()).width();
     return { option.fontMetrics.horizontalAdvance(index.data().toString()) + margins,
         QStyledItemDelegate::sizeHint(option, index).height() };
 }
@@ -57,7 +57,7 @@ void LineDelegate::paint(
         isSelected ? option.palette.color(QPalette::Highlight) : GroundOf(option, index));
     DrawHairline(*painter, option);
     painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
-    DrawLabel(*painter, option, TextRoom(option.rect, index.column()), index);
+    DrawLabel(*painter, option, TextRoom(option, index.column()), index);
 }
 
 } // namespace Quillory

@@ -25,7 +25,7 @@ protected:
     [[nodiscard]] static QColor GroundOf(
         const QStyleOptionViewItem& option, const QModelIndex& index);
     /// The room of a cell's text: the first column begins at the margin of the page.
-    [[nodiscard]] static QRect TextRoom(const QRect& cell, int column);
+    [[nodiscard]] static QRect TextRoom(const QStyleOptionViewItem& option, int column);
     static void DrawHairline(QPainter& painter, const QStyleOptionViewItem& option);
     /// Vertically centred in `room`, with an ellipsis where it is cut.
     static void DrawLabel(QPainter& painter, const QStyleOptionViewItem& option, const QRect& room,

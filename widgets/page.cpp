@@ -7,12 +7,12 @@
 #include "widgets/measures.h"
 #include "widgets/message_box.h"
 #include "widgets/text_line.h"
-#include "widgets/touch.h"
 #include "widgets/undo_bar.h"
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -111,6 +111,35 @@ void PressWithoutPointer(QAbstractButton* button)
     button->click();
     LetterMenu::EnterOpened();
 }
+
+/// A page as assistive technology meets it. It can do what its keys do: Return, and the key of the
+/// menu, which its lines do not tell of.
+class AccessiblePage : public AccessibleAs<QAccessible::Pane>
+{
+public:
+    using AccessibleAs::AccessibleAs;
+
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return { pressAction(), showMenuAction() };
+    }
+    void doAction(const QString& name) override
+    {
+        // Keys would not reach a page that is covered, or that stands behind a question.
+        if (!widget()->isVisible() || QApplication::activeModalWidget() != nullptr)
+            return;
+        if (name == pressAction()) {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(widget(), &press);
+        } else if (name == showMenuAction()) {
+            QWidget* place
+                = widget()->focusWidget() == nullptr ? widget() : widget()->focusWidget();
+            const QPoint middle = place->rect().center();
+            QContextMenuEvent menu(QContextMenuEvent::Keyboard, middle, place->mapToGlobal(middle));
+            QCoreApplication::sendEvent(place, &menu);
+        }
+    }
+};
 
 /// A menu as assistive technology meets it: a button that says that it opens something.
 class AccessibleMenuKey : public QAccessibleWidget
@@ -211,40 +240,10 @@ void OpenFromKey(QMenu& menu, const QWidget& key)
 
 } // namespace
 
-/// A page as assistive technology meets it. What it can do to the selected line is the page's to
-/// do: the toolkit's lines have no such actions.
-class Page::Accessible : public QAccessibleWidget
-{
-public:
-    explicit Accessible(Page* page)
-        : QAccessibleWidget(page, QAccessible::Pane)
-        , m_page(page)
-    { }
-    [[nodiscard]] QStringList actionNames() const override
-    {
-        return m_page->m_lines == nullptr ? QStringList()
-                                          : QStringList { pressAction(), showMenuAction() };
-    }
-    void doAction(const QString& name) override
-    {
-        // No input would reach a page that is covered, or that stands behind a question.
-        if (!m_page->isVisible() || QApplication::activeModalWidget() != nullptr
-            || !actionNames().contains(name))
-            return;
-        if (name == pressAction())
-            m_page->TakeReturn();
-        else
-            m_page->m_lines->HoldSelected();
-    }
-
-private:
-    Page* m_page;
-};
-
 Page::Page(const QString& title, QWidget* parent)
     : QWidget(parent)
 {
-    MeetAs<Accessible, Page>();
+    MeetAs<AccessiblePage, Page>();
     setAttribute(Qt::WA_StyledBackground);
     setAccessibleName(title);
     auto* layout = new QVBoxLayout(this);

@@ -17,7 +17,6 @@ class QVBoxLayout;
 namespace Quillory {
 
 class PageStack;
-class TouchBehaviour;
 class UndoBar;
 
 /// How a page ended.
@@ -104,8 +103,6 @@ protected:
     [[nodiscard]] bool IsBeside() const { return m_isBeside; }
     /// What Return does where no button has the keyboard: it is OK.
     virtual void TakeReturn() { RequestEnd(PageResult::Ok); }
-    /// Lets assistive technology open the selected line of a view, as Return does, and its menu.
-    void OfferLineActions(TouchBehaviour* lines) { m_lines = lines; }
     /// Whether the page's own content goes from edge to edge. Else it stays in the middle of a wide
     /// window, narrow enough to be read.
     [[nodiscard]] virtual bool IsAsWideAsWindow() const { return false; }
@@ -114,8 +111,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    class Accessible;
-
     QVBoxLayout* m_body = nullptr;
     QWidget* m_header = nullptr;
     QLabel* m_title = nullptr;
@@ -128,7 +123,6 @@ private:
     QWidget* m_softKeys = nullptr;
     QString m_helpAnchor;
     bool m_isBeside = false;
-    TouchBehaviour* m_lines = nullptr;
 
     void BuildHeader(const QString& title);
     void FitToWindow();

@@ -29,9 +29,6 @@ public:
     /// Owned by the view.
     explicit TouchBehaviour(QAbstractScrollArea* view);
 
-    /// Does to the selected line what a hold does, as the menu key.
-    void HoldSelected();
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -61,6 +58,8 @@ private:
     void Follow(const QPoint& position);
     void Tap();
     void Hold();
+    /// Does to the selected line what a hold does.
+    void HoldSelected();
     void AskForMenu(const QPoint& position);
 };
 
