@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/person.h"
 #include "tests/test_program.h"
+#include "widgets/help_page.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 #include "widgets/questions.h"
@@ -9,6 +10,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTextBlock>
+#include <QTextBrowser>
 
 #include <array>
 
@@ -54,6 +57,26 @@ private Q_SLOTS:
         QVERIFY(fields[1]->hasFocus());
         stack.resize(500, 600);
         QVERIFY(!fields[1]->isVisible() && fields[3]->hasFocus());
+    }
+
+    void helpStaysAtItsSectionUntilItIsScrolled()
+    {
+        PageStack stack;
+        stack.resize(360, 640);
+        stack.show();
+        stack.Push(new HelpPage(u"newlist"_s));
+        auto* text = stack.Top()->findChild<QTextBrowser*>();
+        const auto top = [text] {
+            return text->cursorForPosition({ 20, 5 }).block().text().left(13);
+        };
+        for (const int width : { 360, 240, 640 }) {
+            stack.resize(width, 640);
+            QTRY_COMPARE(text->window()->width(), width);
+            QCOMPARE(top(), u"A list's name"_s);
+        }
+        QTest::keyClick(text, Qt::Key_Home);
+        stack.resize(360, 640);
+        QCOMPARE(top(), u"Quillory"_s);
     }
 
     void everyQuestionHasItsAnswers()
