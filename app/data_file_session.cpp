@@ -25,6 +25,7 @@ DataFileSession::DataFileSession(Settings& settings, QString copiesFolder, PageS
     })
 {
     m_volume.SetWriteFailureListener([this](ErrorNumber error) { NoteFailure(error); });
+    connect(&m_watch, &DataFileWatch::Stirred, this, &DataFileSession::LookForUpdate);
 }
 
 void DataFileSession::Open()
@@ -118,6 +119,23 @@ QString DataFileSession::KeepLostFile(ErrorNumber placeError)
     return isKept ? tr("The data file is no longer in its place. What it held is kept as a copy; "
                        "\"quillory restore\" lists the copies.")
                   : tr("The data file is no longer in its place. No copy could be kept of it.");
+}
+
+void DataFileSession::WatchForUpdates()
+{
+    m_watch.Watch(Path());
+}
+
+void DataFileSession::LookForUpdate()
+{
+    // What would be lost is told of at the next change, or at the end.
+    if (!m_volume.IsMounted() || m_volume.HasChangedContent())
+        return;
+    if (m_volume.MountedVolume()->VerifyUnchanged().Error() != ErrorNumber::SharingViolation)
+        return;
+    if (!Questions::Of(&m_pages).IsIdle() || !Volume::VerifyPagesOf(Path()))
+        return m_watch.LookAgain();
+    Q_EMIT Updated();
 }
 
 bool DataFileSession::Reopen()

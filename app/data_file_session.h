@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/data_file_opener.h"
+#include "app/data_file_watch.h"
 #include "store/kept_copies.h"
 #include "store/list_catalogue.h"
 #include "store/settings.h"
@@ -48,6 +49,8 @@ public:
     void Abandon();
     /// A failed write that was told already, by whoever wrote, is not told again.
     void ForgetFailure() { m_failure = ErrorNumber::None; }
+    /// From now on Updated() tells of another device's version in the place of the data file.
+    void WatchForUpdates();
     /// Keeps the copy of this run and tells what is still to be told. `then` is called once the
     /// window may close; not if the user wants to try again.
     void End(const std::function<void()>& then);
@@ -57,6 +60,9 @@ Q_SIGNALS:
     void NotOpened();
     /// A write failed, and the file is to be opened again.
     void RetryChosen();
+    /// Another whole data file has come in the place of the open one, which holds no change of this
+    /// run that would be lost: it may be opened instead. Told again until it is.
+    void Updated();
 
 private:
     Settings& m_settings;
@@ -66,6 +72,7 @@ private:
     ListCatalogue m_catalogue { m_volume };
     FileChooser m_chooser;
     std::unique_ptr<DataFileOpener> m_opener;
+    DataFileWatch m_watch;
     bool m_isOpen = false;
     bool m_hasSettings = false;
     /// A failed write that the user has not been told of, or has not answered yet.
@@ -78,6 +85,7 @@ private:
     /// As Volume::VerifyInPlace() tells of the data file, if it holds changes of this run.
     [[nodiscard]] ErrorNumber PlaceError();
     [[nodiscard]] Result<KeepOutcome> Keep();
+    void LookForUpdate();
     /// Keeps what would go with a file that is no longer in its place, and says so.
     [[nodiscard]] QString KeepLostFile(ErrorNumber placeError);
 };

@@ -98,6 +98,17 @@ void Deletions::ShowOnHome(ObjectId list)
 void Deletions::Forget()
 {
     m_last.Forget();
+    WithdrawOffers();
+}
+
+void Deletions::Abandon()
+{
+    m_last.Abandon();
+    WithdrawOffers();
+}
+
+void Deletions::WithdrawOffers()
+{
     for (Page* page : m_pages.findChildren<Page*>())
         page->WithdrawUndo();
 }

@@ -32,6 +32,8 @@ public:
     void Undo();
     /// Ends what could be undone. Nothing of it is left in the file.
     void Forget();
+    /// The same where another file is open than the one of the deletion: nothing is written there.
+    void Abandon();
 
 private:
     ListCatalogue& m_catalogue;
@@ -42,6 +44,7 @@ private:
 
     void Ask(const QString& question, const std::function<void()>& then);
     void OfferUndo(const QString& text);
+    void WithdrawOffers();
     void ShowOnHome(ObjectId list);
 };
 

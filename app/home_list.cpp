@@ -12,6 +12,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QToolButton>
 #include <QTreeView>
@@ -137,6 +138,15 @@ void HomeList::Fill(std::vector<ListCatalogue::HomeListEntry> lists)
     m_model->SetLists(std::move(lists));
     m_model->Sort(m_direction);
     m_view->setCurrentIndex(m_model->index(0));
+}
+
+void HomeList::KeepPlace(const std::function<void()>& fill)
+{
+    const ObjectId selected = SelectedList();
+    const int scrolled = m_view->verticalScrollBar()->value();
+    fill();
+    Select(selected);
+    m_view->verticalScrollBar()->setValue(scrolled);
 }
 
 void HomeList::AddLine(const ListCatalogue::HomeListEntry& list)

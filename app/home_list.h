@@ -19,6 +19,8 @@ public:
 
     /// Shows these lists in the current direction, the first one selected.
     void Fill(std::vector<ListCatalogue::HomeListEntry> lists);
+    /// Lets `fill` fill it again, and keeps what is selected and how far it is scrolled.
+    void KeepPlace(const std::function<void()>& fill);
     /// Adds a line, selected and visible, in its place.
     void AddLine(const ListCatalogue::HomeListEntry& list);
     void UpdateLine(const ListCatalogue::HomeListEntry& list);

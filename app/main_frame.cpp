@@ -79,6 +79,7 @@ MainFrame::MainFrame(Settings settings, Places places, QWidget* parent)
     // Not from inside the question whose answer this is.
     connect(&m_session, &DataFileSession::NotOpened, this, &QWidget::close, Qt::QueuedConnection);
     connect(&m_session, &DataFileSession::RetryChosen, this, &MainFrame::ReopenDataFile);
+    connect(&m_session, &DataFileSession::Updated, this, &MainFrame::TakeUpdate);
     // On every page, not on the home list alone. Some desktops name no key of their own for the
     // end.
     connect(
@@ -167,7 +168,12 @@ void MainFrame::ShowLists()
     UpdateCommands();
     // What a program that was killed had kept aside; once the lists are on the screen.
     QMetaObject::invokeMethod(
-        this, [this] { m_deletions.Forget(); }, Qt::QueuedConnection);
+        this,
+        [this] {
+            m_deletions.Forget();
+            m_session.WatchForUpdates();
+        },
+        Qt::QueuedConnection);
     const StartRequest wanted = std::exchange(m_wanted, {});
     const QString lastList = std::exchange(m_settings.lastList, QString());
     if (!lastList.isEmpty() && !wanted.NamesPage()) {
@@ -301,12 +307,8 @@ void MainFrame::ReopenDataFile()
 {
     if (m_session.Reopen()) {
         // What was deleted from another file must not come back in this one.
-        m_deletions.Forget();
-        // Nor need the identifier be that of the same list.
-        InventoryList reopened;
-        if (m_openList == kNoObject
-            || (m_session.Catalogue().OpenList(m_openList, reopened)
-                && reopened.columns == m_list.columns))
+        m_deletions.Abandon();
+        if (ReopenList())
             return RefreshPages();
     }
     // The pages are not those of the file that is there now: nothing of theirs may get into it.
@@ -318,14 +320,36 @@ void MainFrame::ReopenDataFile()
     });
 }
 
+void MainFrame::TakeUpdate()
+{
+    ReopenDataFile();
+    if (m_session.IsOpen())
+        m_pages->Top()->Say(tr("Updated from another device"));
+}
+
+bool MainFrame::ReopenList()
+{
+    if (m_openList == kNoObject)
+        return true;
+    // The identifier need not be that of the same list.
+    InventoryList reopened;
+    if (!m_session.Catalogue().OpenList(m_openList, reopened) || reopened.columns != m_list.columns)
+        return false;
+    // How it is laid out is this window's.
+    reopened.TableColSizes = m_list.TableColSizes;
+    reopened.columnOrder = m_list.columnOrder;
+    m_list = reopened;
+    return true;
+}
+
 void MainFrame::RefreshPages()
 {
-    const ObjectId selected = m_home->SelectedList();
-    FillHome();
-    m_home->Select(selected);
-    // Something else may stand in the file now.
+    // What is typed in the place of a name goes into the file that is there now.
+    m_pages->Top()->CommitInPlace();
+    m_home->KeepPlace([this] { FillHome(); });
     for (RowsView* view : m_pages->findChildren<RowsView*>())
-        view->Fill();
+        view->Refresh();
+    NameWindow();
 }
 
 void MainFrame::OpenSelectedList()

@@ -102,6 +102,9 @@ private:
     void Meet(Interruption what, const std::function<void()>& act);
     void EndRun();
     void ReopenDataFile();
+    void TakeUpdate();
+    /// Whether the open list is still there with its columns; its definition is the file's then.
+    [[nodiscard]] bool ReopenList();
     void RefreshPages();
 
     void OpenSelectedList();

@@ -4,6 +4,7 @@
 #include "propdb/database.h"
 #include "propdb/detail/database_state.h"
 #include "propdb/detail/outside_change.h"
+#include "propdb/detail/page_file.h"
 #include "propdb/detail/sqlite_error.h"
 #include "propdb/detail/volume_check.h"
 #include "propdb/detail/volume_state.h"
@@ -12,6 +13,7 @@
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QScopeGuard>
+#include <QtEndian>
 
 #include <sqlite3.h>
 #include <unistd.h>
@@ -202,6 +204,27 @@ QString Volume::JournalPutAside() const
 Result<void> Volume::VerifyInPlace() const
 {
     return m_state->File().VerifyInPlace();
+}
+
+Result<void> Volume::VerifyUnchanged() const
+{
+    return m_state->Transactions().VerifyUnchanged();
+}
+
+Result<void> Volume::VerifyPagesOf(const QString& path)
+{
+    QUILLORY_TRY_VALUE(const auto file, PageFile::Open(path, PageFile::Trust::Checksums));
+    PageBytes page;
+    const auto isWhole
+        = [&](quint32 number) { return file.Read(number, page) && file.MendedPages() == 0; };
+    if (!isWhole(1)
+        || qFromBigEndian<quint32>(page.data() + HeaderLayout::kPageCount) != file.PageCount())
+        return ErrorNumber::FileCorrupt;
+    for (quint32 number = 2; number <= file.PageCount(); ++number) {
+        if (!isWhole(number))
+            return ErrorNumber::FileCorrupt;
+    }
+    return {};
 }
 
 Result<std::vector<QString>> Volume::Check()

@@ -93,7 +93,14 @@ public:
     /// PathNotFound if its folder is gone too, SharingViolation if another file was put there. The
     /// opened one can be read all the same.
     [[nodiscard]] Result<void> VerifyInPlace() const;
+    /// As VerifyInPlace(), and SharingViolation also if another program wrote into the opened file.
+    /// Costs a few calls of the system.
+    [[nodiscard]] Result<void> VerifyUnchanged() const;
 
+    /// Whether each page of the file at `path` is as it was written, which it is not before all of
+    /// a file that is being brought there has come: FileCorrupt then. Reads all of it, takes no
+    /// lock and changes nothing; not to be called within a transaction on this file.
+    [[nodiscard]] static Result<void> VerifyPagesOf(const QString& path);
     /// Reads everything that the databases hold and tells what is wrong with it, a line each; empty
     /// if nothing is.
     [[nodiscard]] Result<std::vector<QString>> Check();

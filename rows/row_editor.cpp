@@ -59,21 +59,29 @@ RowEditor::RowEditor(
     const InventoryList& list, const Record* row, const ValueContext& context, QWidget* parent)
     : Page(list.Name, parent)
     , m_list(list)
+    , m_startTexts(TextsOf(list, row, context))
     , m_lines(new QStandardItemModel(this))
     , m_view(new QTableView(this))
     , m_control(new FieldControl(context, m_view->viewport()))
 {
     setObjectName(u"rowEditor"_s);
     SetHelpAnchor(QLatin1StringView(kHelpEditList));
-    for (const ColumnDefinition& column : list.columns) {
-        m_startTexts.push_back(StartText(column.id, row, context));
+    for (size_t i = 0; i < m_startTexts.size(); ++i)
         m_lines->appendRow(
-            { new QStandardItem(column.name), new QStandardItem(m_startTexts.back()) });
-    }
+            { new QStandardItem(list.columns[i].name), new QStandardItem(m_startTexts[i]) });
     BuildTable();
     BuildControl();
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
     Edit(0);
+}
+
+std::vector<QString> RowEditor::TextsOf(
+    const InventoryList& list, const Record* row, const ValueContext& context)
+{
+    std::vector<QString> texts;
+    for (const ColumnDefinition& column : list.columns)
+        texts.push_back(StartText(column.id, row, context));
+    return texts;
 }
 
 void RowEditor::SetTexts(const std::vector<QString>& texts)

@@ -26,6 +26,10 @@ public:
     RowEditor(const InventoryList& list, const Record* row, const ValueContext& context,
         QWidget* parent = nullptr);
 
+    /// The texts that it starts with for a row, or for a new one if it is null.
+    [[nodiscard]] static std::vector<QString> TextsOf(
+        const InventoryList& list, const Record* row, const ValueContext& context);
+
     /// One text per column, in column order, what is being typed included.
     [[nodiscard]] std::vector<QString> Texts() const;
     /// Shows texts that were typed before and could not be stored.

@@ -23,6 +23,7 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -180,6 +181,27 @@ void RowsView::Fill()
         Select(std::max(LineOf(selected), 0));
 }
 
+void RowsView::Refresh()
+{
+    SetTitle(m_list.Name);
+    const auto order = m_sortColumn;
+    const int selected = SelectedLine();
+    const ObjectId selectedRow = SelectedRow();
+    const int top = m_view->rowAt(0);
+    const ObjectId topRow = top < 0 ? kNoObject : m_model->RowAt(top);
+    const int lineHeight = m_view->verticalHeader()->defaultSectionSize();
+    const int hidden = m_view->verticalScrollBar()->value() - top * lineHeight;
+    Fill();
+    for (int column = 0; order && column < m_model->columnCount(); ++column) {
+        if (m_list.columns[static_cast<size_t>(column)].id == *order)
+            SortByColumn(column);
+    }
+    if (const int lines = m_model->rowCount(); LineOf(selectedRow) < 0 && lines > 0)
+        Select(std::clamp(selected, 0, lines - 1));
+    if (const int line = LineOf(topRow); line >= 0)
+        m_view->verticalScrollBar()->setValue(line * lineHeight + hidden);
+}
+
 void RowsView::TellNothingFound()
 {
     ShowMessage(this, LoadString(StringId::NoRecordMatched), MessageIcon::Information,
@@ -291,14 +313,17 @@ void RowsView::OpenEditor(
 
 void RowsView::NewRow()
 {
-    OpenEditor(std::nullopt, [this](const std::vector<QString>& texts) {
-        const ObjectId row = m_store.WriteNewRow(texts);
-        if (row == kNoObject)
-            return false;
-        m_model->Insert(m_model->rowCount(), row);
-        m_view->scrollToBottom();
-        return true;
-    });
+    OpenEditor(std::nullopt, [this](const std::vector<QString>& texts) { return AddRow(texts); });
+}
+
+bool RowsView::AddRow(const std::vector<QString>& texts)
+{
+    const ObjectId row = m_store.WriteNewRow(texts);
+    if (row == kNoObject)
+        return false;
+    m_model->Insert(m_model->rowCount(), row);
+    m_view->scrollToBottom();
+    return true;
 }
 
 void RowsView::ModifyRow()
@@ -308,12 +333,24 @@ void RowsView::ModifyRow()
     // What cannot be read must not be written over.
     if (!record)
         return;
-    OpenEditor(record, [this, row](const std::vector<QString>& texts) {
-        const bool isStored = m_store.ModifyRow(row, texts);
-        if (isStored)
-            m_model->RefreshAll();
-        return isStored;
-    });
+    OpenEditor(record,
+        [this, record](const std::vector<QString>& texts) { return StoreEdited(record, texts); });
+}
+
+bool RowsView::StoreEdited(const Record& before, std::vector<QString> texts)
+{
+    if (m_store.IsGone(before.oid))
+        return AddRow(texts);
+    if (const Record present = m_store.ReadRow(before.oid)) {
+        const auto old = RowEditor::TextsOf(m_list, &before, m_context);
+        const auto others = RowEditor::TextsOf(m_list, &present, m_context);
+        for (size_t i = 0; i < texts.size(); ++i)
+            texts[i] = texts[i] == old[i] ? others[i] : texts[i];
+    }
+    const bool isStored = m_store.ModifyRow(before.oid, texts);
+    if (isStored)
+        m_model->RefreshAll();
+    return isStored;
 }
 
 void RowsView::CopyRow()

@@ -52,6 +52,9 @@ public:
     /// Shows the rows that meet the criteria, the selected one selected again if it is among them,
     /// else the first.
     void Fill();
+    /// The same once another version of the list lies in the file, in place: in the order that it
+    /// is shown in, scrolled as it is, a row selected where one was.
+    void Refresh();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -114,7 +117,11 @@ private:
     void Push(Page* page, std::function<void(PageResult)> then);
 
     void NewRow();
+    [[nodiscard]] bool AddRow(const std::vector<QString>& texts);
     void ModifyRow();
+    /// Another device may have changed the row meanwhile: what was typed counts, in other columns
+    /// what is there now. A row that is gone becomes a new one.
+    [[nodiscard]] bool StoreEdited(const Record& before, std::vector<QString> texts);
     void CopyRow();
     void DeleteRow();
     void AddOne() { AdjustCount(1); }

@@ -96,10 +96,15 @@ std::optional<LastDeletion::Restored> LastDeletion::Undo()
     return restored;
 }
 
-void LastDeletion::Forget()
+void LastDeletion::Abandon()
 {
     m_what = What::Nothing;
     m_row = {};
+}
+
+void LastDeletion::Forget()
+{
+    Abandon();
     // What could not be ended now is at the next deletion.
     m_catalogue.PurgeDeleted();
 }

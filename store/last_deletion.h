@@ -49,6 +49,9 @@ public:
 
     /// Ends what could be undone.
     void Forget();
+    /// The same without a write, for a file that is no longer the one of the deletion: what it
+    /// keeps aside is its own.
+    void Abandon();
 
 private:
     enum class What

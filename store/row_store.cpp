@@ -132,6 +132,12 @@ bool RowStore::ModifyRow(ObjectId row, std::span<const QString> texts)
     return row != kNoObject && m_volume.Write(kRows, row, ParseTexts(texts)) == row;
 }
 
+bool RowStore::IsGone(ObjectId row)
+{
+    return m_volume.SeekTo(kRows, row) == kNoObject
+        && m_volume.LastError() == ErrorNumber::NotFound;
+}
+
 ObjectId RowStore::CopyRow(ObjectId row)
 {
     const Record record = ReadRow(row);

@@ -65,6 +65,8 @@ public:
 
     /// Every property of a row; false in a condition if it cannot be found.
     [[nodiscard]] Record ReadRow(ObjectId row);
+    /// Whether there is no such row; false also where that cannot be found out.
+    [[nodiscard]] bool IsGone(ObjectId row);
     /// As ComputeTotals().
     [[nodiscard]] ListTotals Totals(const FilterSet* filters);
     /// The text of one cell as the rows view shows it; "<Err>" if the row cannot be found.

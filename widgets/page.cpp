@@ -527,6 +527,11 @@ void Page::WithdrawUndo()
     m_undoBar->hide();
 }
 
+void Page::Say(const QString& text)
+{
+    m_undoBar->Say(text);
+}
+
 void Page::RequestEnd(PageResult result)
 {
     if (result == PageResult::Ok)

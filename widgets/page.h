@@ -69,6 +69,8 @@ public:
     /// Says at the bottom what was deleted and offers to undo it, for some seconds.
     void OfferUndo(const QString& text, std::function<void()> undo);
     void WithdrawUndo();
+    /// Says in the same place that something happened.
+    void Say(const QString& text);
 
     /// Ends the page with a result, unless it has a reason to stay: the stack takes it away and
     /// calls the opener back.

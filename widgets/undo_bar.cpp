@@ -55,6 +55,17 @@ UndoBar::UndoBar(QWidget* parent)
 void UndoBar::Offer(const QString& text, std::function<void()> undo)
 {
     m_undo = std::move(undo);
+    Show(text, true);
+}
+
+void UndoBar::Say(const QString& text)
+{
+    Show(text, false);
+}
+
+void UndoBar::Show(const QString& text, bool canUndo)
+{
+    m_button->setVisible(canUndo);
     m_text->setText(text);
     setAccessibleName(text);
     // A notification is told when it comes up.

@@ -11,7 +11,7 @@ class QTimer;
 
 namespace Quillory {
 
-/// Says for some seconds what was deleted, and offers to bring it back.
+/// Says for some seconds what happened, and where it was a deletion offers to undo it.
 class UndoBar : public QFrame
 {
     Q_OBJECT
@@ -22,12 +22,16 @@ public:
 
     /// Shows `text`; `undo` is called on a tap on Undo. Replaces what was offered before.
     void Offer(const QString& text, std::function<void()> undo);
+    /// The same without an offer.
+    void Say(const QString& text);
 
 private:
     QLabel* m_text;
     QPushButton* m_button;
     QTimer* m_timer;
     std::function<void()> m_undo;
+
+    void Show(const QString& text, bool canUndo);
 };
 
 } // namespace Quillory

@@ -74,6 +74,16 @@ Result<void> FileTransaction::Begin()
     return {};
 }
 
+Result<void> FileTransaction::VerifyUnchanged() const
+{
+    QUILLORY_TRY(m_file.VerifyInPlace());
+    QUILLORY_TRY_VALUE(const auto state, m_file.ReadState());
+    // What a running transaction has in the file already is its own; what a failed commit left
+    // there is for the next one to find out.
+    const bool isKnown = m_stateSeen && !m_isInDoubt && !IsRunning();
+    return isKnown && state != *m_stateSeen ? ErrorNumber::SharingViolation : ErrorNumber::None;
+}
+
 Result<void> FileTransaction::KeepFirstPage()
 {
     if (!m_isFirstPageKept)

@@ -26,6 +26,9 @@ public:
     /// has written into it since the last commit: what is to be written may be meant for records
     /// that now are others.
     [[nodiscard]] Result<void> Begin();
+    /// As VolumeFile::VerifyInPlace(), and SharingViolation if something else has written into the
+    /// file since the last commit.
+    [[nodiscard]] Result<void> VerifyUnchanged() const;
     /// Must come before anything is changed: has the journal begin with the file's first page, by
     /// which a later start knows whose it is.
     [[nodiscard]] Result<void> KeepFirstPage();

@@ -1177,6 +1177,10 @@ Mit „Wiederholen“ wird die Datendatei erneut geöffnet.</translation>
         <source>Some lists cannot be read. Error: %1</source>
         <translation>Einige Listen sind nicht lesbar. Fehler: %1</translation>
     </message>
+    <message>
+        <source>Updated from another device</source>
+        <translation>Von einem anderen Gerät aktualisiert</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>

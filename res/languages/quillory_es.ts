@@ -1171,6 +1171,10 @@ Toque Reintentar para volver a abrir el archivo de datos.</translation>
         <source>Some lists cannot be read. Error: %1</source>
         <translation>Algunas listas no se pueden leer. Error: %1</translation>
     </message>
+    <message>
+        <source>Updated from another device</source>
+        <translation>Actualizado desde otro dispositivo</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>

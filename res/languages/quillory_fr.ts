@@ -1179,6 +1179,10 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
         <source>Some lists cannot be read. Error: %1</source>
         <translation>Certaines listes sont illisibles. Erreur&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Updated from another device</source>
+        <translation>Mis à jour depuis un autre appareil</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>

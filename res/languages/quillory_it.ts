@@ -1169,6 +1169,10 @@ Tocca Riprova per riaprire il file dei dati.</translation>
         <source>Some lists cannot be read. Error: %1</source>
         <translation>Alcune liste non si possono leggere. Errore: %1</translation>
     </message>
+    <message>
+        <source>Updated from another device</source>
+        <translation>Aggiornato da un altro dispositivo</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>

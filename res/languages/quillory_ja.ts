@@ -1156,6 +1156,10 @@ Tap Retry to open the data file again.</source>
         <source>Some lists cannot be read. Error: %1</source>
         <translation>読み取れないリストがあります。エラー：%1</translation>
     </message>
+    <message>
+        <source>Updated from another device</source>
+        <translation>別の端末の内容に更新しました</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>

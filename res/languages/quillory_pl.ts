@@ -1171,6 +1171,10 @@ Tap Retry to open the data file again.</source>
         <source>Some lists cannot be read. Error: %1</source>
         <translation>Niektórych list nie można odczytać. Błąd: %1</translation>
     </message>
+    <message>
+        <source>Updated from another device</source>
+        <translation>Zaktualizowano z innego urządzenia</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>

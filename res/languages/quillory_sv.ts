@@ -1165,6 +1165,10 @@ Tryck på Försök igen för att öppna datafilen på nytt.</translation>
         <source>Some lists cannot be read. Error: %1</source>
         <translation>Några listor kan inte läsas. Fel: %1</translation>
     </message>
+    <message>
+        <source>Updated from another device</source>
+        <translation>Uppdaterad från en annan enhet</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::MenuKey</name>
