@@ -72,8 +72,8 @@ MainFrame::MainFrame(Settings settings, Places places, QWidget* parent)
     , m_landscape(*this)
 {
     setCentralWidget(m_pages);
-    ApplyWindowStyle(this);
     BuildHome();
+    ApplyWindowStyle(this);
     RestoreWindow();
     connect(&m_session, &DataFileSession::Opened, this, &MainFrame::ShowLists);
     // Not from inside the question whose answer this is.

@@ -50,7 +50,8 @@ private Q_SLOTS:
     {
         const Table<QString, QString, QString> add;
         const QString addSoap = u"add Pantry Name=Soap Quantity=4"_s;
-        add("lists", u"press End"_s, u"new Attic --create"_s, u"see Attic, Pantry, Tools; on Tools"_s);
+        add("lists", u"press End"_s, u"new Attic --create"_s,
+            u"see Attic, Pantry, Tools; on Tools"_s);
         add("a name being typed", u"press End F2; type Barn"_s, u"new Attic --create"_s,
             u"see Attic, Barn, Pantry; on Barn"_s);
         add("rows in order", u"tap Pantry; tap Quantity; tap Salt"_s, addSoap,
@@ -58,10 +59,10 @@ private Q_SLOTS:
         add("a selected row that is gone", u"tap Pantry; tap Salt"_s,
             u"delete Pantry --where Name=Salt"_s, u"see Rice, Tea; on Tea"_s);
         add("a name of the list", u"tap Pantry"_s, u"rename Pantry Larder"_s, u"at Larder"_s);
-        add("a list that is gone", u"tap Pantry"_s, u"remove Pantry"_s,
-            u"see Tools; on Tools"_s);
-        add("results of a search", u"tap Pantry; tap Menu; tap Find...; type a; tap ok; see Salt, Tea"_s,
-            addSoap, u"see Salt, Soap, Tea; tap ok; see Rice, Salt, Soap, Tea"_s);
+        add("a list that is gone", u"tap Pantry"_s, u"remove Pantry"_s, u"see Tools; on Tools"_s);
+        add("results of a search",
+            u"tap Pantry; tap Menu; tap Find...; type a; tap ok; see Salt, Tea"_s, addSoap,
+            u"see Salt, Soap, Tea; tap ok; see Rice, Salt, Soap, Tea"_s);
         const QString edit = u"tap Pantry; tap Tea; press Return; type Mint"_s;
         add("a row being edited", edit, u"set Pantry --where Name=Tea Quantity=9"_s,
             u"see valueEdit: Mint; tap OK; see Rice, Salt, Mint; see Quantity: 1, 5, 9"_s);

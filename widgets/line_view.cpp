@@ -172,7 +172,8 @@ void DressLineView(QTableView* view)
 QFont ListFont()
 {
     QFont font;
-    if (QFontDatabase::hasFamily(u"Tahoma"_s))
+    // Not by hasFamily(), which first asks what might stand in for the family.
+    if (QFontDatabase::families().contains(u"Tahoma"_s))
         font.setFamily(u"Tahoma"_s);
     return font;
 }

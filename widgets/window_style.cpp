@@ -8,9 +8,9 @@
 #include <QEvent>
 #include <QFile>
 #include <QFont>
-#include <QFontInfo>
 #include <QPalette>
 #include <QResizeEvent>
+#include <QScreen>
 #include <QWidget>
 
 #include <algorithm>
@@ -71,12 +71,21 @@ QString StyleSheet(const QWidget& window)
     return sheet;
 }
 
+/// As QFontInfo tells it, which would load the font.
+int PixelSizeOf(const QFont& font)
+{
+    constexpr double kPointsPerInch = 72;
+    return font.pixelSize() > 0 ? font.pixelSize()
+                                : qRound(font.pointSizeF() / kPointsPerInch
+                                    * QGuiApplication::primaryScreen()->logicalDotsPerInchY());
+}
+
 } // namespace
 
 void EnlargeLetters()
 {
     QFont font = QApplication::font();
-    if (QFontInfo(font).pixelSize() >= CurrentMeasures().textSize)
+    if (PixelSizeOf(font) >= CurrentMeasures().textSize)
         return;
     font.setPixelSize(CurrentMeasures().textSize);
     QApplication::setFont(font);
@@ -114,6 +123,8 @@ public:
         m_frame = frame;
         m_font = m_window->font();
         m_palette = QApplication::palette();
+        // A sheet that is there before its window is polished is read twice.
+        m_window->ensurePolished();
         // The colours of a dressed window are partly the style's own.
         m_window->setStyleSheet(QString());
         m_window->setStyleSheet(StyleSheet(*m_window));
