@@ -11,7 +11,6 @@
 #include "widgets/page_stack.h"
 #include "widgets/touch.h"
 
-#include <QHeaderView>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -54,8 +53,7 @@ void FiltersPage::BuildTable()
     m_view->setModel(m_lines);
     m_view->setItemDelegate(new LineDelegate(m_view));
     DressLineView(m_view);
-    m_view->horizontalHeader()->hide();
-    m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    ShareWidthWithoutNames(*m_view);
     new TouchBehaviour(m_view);
     (new EmptyHint(m_view))->Say(tr("No filters yet. Tap Add to make one."));
     Body()->addWidget(m_view, 1);

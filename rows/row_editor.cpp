@@ -10,7 +10,6 @@
 #include "widgets/measures.h"
 #include "widgets/touch.h"
 
-#include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QStandardItemModel>
@@ -98,8 +97,7 @@ void RowEditor::BuildTable()
     m_view->setModel(m_lines);
     m_view->setItemDelegate(new RowFieldDelegate(m_view));
     DressLineView(m_view);
-    m_view->horizontalHeader()->hide();
-    m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    ShareWidthWithoutNames(*m_view);
     // The keyboard belongs to the control.
     m_view->setFocusPolicy(Qt::NoFocus);
     connect(m_view, &QTableView::clicked, this, [this](const QModelIndex& tap) {

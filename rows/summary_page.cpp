@@ -6,7 +6,6 @@
 #include "widgets/line_view.h"
 #include "widgets/touch.h"
 
-#include <QHeaderView>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -31,8 +30,7 @@ SummaryPage::SummaryPage(const std::vector<ColumnTotal>& totals, QWidget* parent
     view->setModel(model);
     view->setItemDelegate(new LineDelegate(view));
     DressLineView(view);
-    view->horizontalHeader()->hide();
-    view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    ShareWidthWithoutNames(*view);
     new TouchBehaviour(view);
     Body()->addWidget(view, 1);
     setFocusProxy(view);

@@ -101,6 +101,18 @@ private Q_SLOTS:
             QLocale().toString(QDate(2026, 6, 15), QLocale::LongFormat));
     }
 
+    void columnsWithoutNamesHaveNoNumbersEither()
+    {
+        for (const PageCase& page : kPages) {
+            Subject subject;
+            Show(subject, page);
+            for (const auto* view : subject.page->findChildren<QTableView*>()) {
+                const QString name = view->model()->headerData(0, Qt::Horizontal).toString();
+                QVERIFY2(name != u"1", page.name);
+            }
+        }
+    }
+
     void whatOpensIsOpenedByItsActions()
     {
         QApplication::setStyle(new AppStyle);

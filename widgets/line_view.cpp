@@ -169,6 +169,14 @@ void DressLineView(QTableView* view)
     header->setMinimumSectionSize(kMinTouchTarget / 2);
 }
 
+void ShareWidthWithoutNames(QTableView& view)
+{
+    for (int column = 0; column < view.model()->columnCount(); ++column)
+        view.model()->setHeaderData(column, Qt::Horizontal, QString());
+    view.horizontalHeader()->hide();
+    view.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+}
+
 QFont ListFont()
 {
     QFont font;

@@ -13,6 +13,10 @@ namespace Quillory {
 /// one stays in sight.
 void DressLineView(QTableView* view);
 
+/// For columns that have no names: they share the width, and nobody meets their numbers instead.
+/// The view has its model already.
+void ShareWidthWithoutNames(QTableView& view);
+
 /// A mouse gives the line it is over a ground of its own, and has the view and its header say as a
 /// tip what is cut there.
 void MeetMouse(QAbstractItemView* view);
