@@ -56,8 +56,11 @@ void FitToScreen(QFileDialog& dialog)
         if (auto* spare = dialog.findChild<QWidget*>(name))
             spare->hide();
     }
-    if (auto* type = dialog.findChild<QWidget*>(u"fileTypeCombo"_s))
-        type->setMinimumWidth(0);
+    // Else as wide as the names that stand in them.
+    for (const QString& name : { u"lookInCombo"_s, u"fileTypeCombo"_s, u"fileNameEdit"_s }) {
+        if (auto* field = dialog.findChild<QWidget*>(name))
+            field->setMinimumWidth(kMinTouchTarget);
+    }
     dialog.setWindowState(Qt::WindowMaximized);
 }
 

@@ -26,10 +26,14 @@ ColumnDefinitionPage::ColumnDefinitionPage(QWidget* parent)
     m_type->setObjectName(u"columnType"_s);
     for (int type = 0; type < kColumnTypeCount; ++type)
         m_type->addItem(LoadString(static_cast<int>(StringId::TypeString) + type));
-    Form form(Body());
+    auto* content = new QWidget(this);
+    auto* lines = new QVBoxLayout(content);
+    lines->setContentsMargins({});
+    Form form(lines);
     form.AddLine(LoadString(StringId::Name), m_name);
     form.AddLine(LoadString(StringId::Type), m_type);
-    Body()->addStretch(1);
+    lines->addStretch(1);
+    Body()->addWidget(MakeScrollable(content));
     SetSoftKeys(SoftKeysOf(MenuBar::Cancel));
     setFocusProxy(m_name);
 }

@@ -191,11 +191,9 @@ void DateField::OpenCalendar()
 
     const QSize size = popup->sizeHint();
     QPoint place = mapToGlobal(QPoint(width() - size.width(), height()));
-    if (place.y() + size.height() > room.bottom())
+    if (place.y() + size.height() > room.bottom() - kGrid)
         place.setY(mapToGlobal(QPoint()).y() - size.height());
-    place.setX(std::max(place.x(), room.left()));
-    place.setY(std::max(place.y(), room.top()));
-    popup->move(place);
+    popup->move(PlaceWithin(room, place, size));
     popup->show();
     calendar->setFocus();
 }

@@ -15,6 +15,8 @@
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 
+#include <algorithm>
+
 namespace Quillory {
 
 /// The room that a control's text needs.
@@ -68,7 +70,7 @@ inline bool HasCutTab(const QTabBar& bar)
 inline QStringList CutControls(const Page& page)
 {
     QStringList cut;
-    const auto* area = page.findChild<QScrollArea*>();
+    const auto areas = page.findChildren<QScrollArea*>();
     for (const QWidget* widget : page.findChildren<QWidget*>()) {
         const auto* bar = qobject_cast<const QTabBar*>(widget);
         const bool isControl = bar != nullptr || qobject_cast<const QAbstractButton*>(widget)
@@ -80,7 +82,8 @@ inline QStringList CutControls(const Page& page)
         const QRect place(widget->mapTo(&page, QPoint()), widget->size());
         // The soft keys are half a page each; the second may have a pixel more.
         const bool isKey = widget->parentWidget()->objectName() == u"softKeys";
-        const bool isScrolled = area != nullptr && area->isAncestorOf(widget);
+        const bool isScrolled = std::ranges::any_of(
+            areas, [widget](const QScrollArea* area) { return area->isAncestorOf(widget); });
         const QRect room
             = isScrolled ? QRect(0, place.y(), page.width(), place.height()) : page.rect();
         const QSize needed = RoomForText(*widget);

@@ -240,6 +240,7 @@ private Q_SLOTS:
         ColourButton button(&window);
         const QSignalSpy picked(&button, &ColourButton::ColourPicked);
         button.SetColour(22);
+        button.move(100, 100);
         window.show();
         const QPoint place = button.rect().center();
         QCursor::setPos(button.mapToGlobal(place));

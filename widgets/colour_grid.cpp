@@ -131,10 +131,7 @@ void ColourGrid::Open(const QPoint& topLeft, const QRect& window)
     for (auto* swatch : findChildren<QAbstractButton*>())
         swatch->setFixedSize(size, size);
     adjustSize();
-    const int right = std::max(window.left(), window.right() + 1 - width());
-    const int bottom = std::max(window.top(), window.bottom() + 1 - height());
-    move(std::clamp(topLeft.x(), window.left(), right),
-        std::clamp(topLeft.y(), window.top(), bottom));
+    move(PlaceWithin(window, topLeft, geometry().size()));
     show();
 }
 

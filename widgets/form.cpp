@@ -11,6 +11,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Quillory {
 
 namespace {
@@ -50,15 +52,40 @@ private:
 
 } // namespace
 
+class FormLayout : public QFormLayout
+{
+public:
+    /// As narrow as its widest control alone, and never lower than it would be.
+    [[nodiscard]] QSize minimumSize() const override
+    {
+        return { contentsMargins().left() + kMinFieldWidth + contentsMargins().right(),
+            sizeHint().height() };
+    }
+    void setGeometry(const QRect& rect) override
+    {
+        int label = 0;
+        for (int row = 0; row < rowCount(); ++row)
+            label = std::max(label, itemAt(row, LabelRole)->sizeHint().width());
+        const int needed = label + horizontalSpacing() + kMinFieldWidth + contentsMargins().left()
+            + contentsMargins().right();
+        const auto policy = needed > rect.width() ? WrapAllRows : DontWrapRows;
+        if (policy != rowWrapPolicy()) {
+            setRowWrapPolicy(policy);
+            // It is as high as that asks for once whoever it stands in has heard of it.
+            update();
+        }
+        QFormLayout::setGeometry(rect);
+    }
+};
+
 Form::Form(QVBoxLayout* body)
-    : m_lines(new QFormLayout)
+    : m_lines(new FormLayout)
 {
     m_lines->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kGrid);
     m_lines->setHorizontalSpacing(kPageMargin);
     m_lines->setVerticalSpacing(kGrid);
     m_lines->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     m_lines->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_lines->setRowWrapPolicy(QFormLayout::WrapLongRows);
     body->addLayout(m_lines);
 }
 

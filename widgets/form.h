@@ -4,7 +4,6 @@
 #include <QString>
 
 class QAbstractButton;
-class QFormLayout;
 class QLabel;
 class QVBoxLayout;
 class QWidget;
@@ -14,7 +13,10 @@ namespace Quillory {
 /// Where the text of a checkbox begins, and with it what depends on the box.
 constexpr int kCheckIndent = 32;
 
-/// Lines of a label and a control, as pages with a few fields show them.
+class FormLayout;
+
+/// Lines of a label and a control, as pages with a few fields show them; on a page that is too
+/// narrow for one of them all labels stand above their controls.
 class Form
 {
 public:
@@ -25,7 +27,7 @@ public:
     void AddLine(const QString& label, QWidget* control);
 
 private:
-    QFormLayout* m_lines;
+    FormLayout* m_lines;
 };
 
 /// Adds a checkbox or radio button and its text, which wraps where it is longer than the page is

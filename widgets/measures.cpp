@@ -9,6 +9,17 @@
 
 namespace Quillory {
 
+QPoint PlaceWithin(const QRect& room, const QPoint& wanted, const QSize& size)
+{
+    const auto clamp = [](int place, int length, int begin, int end) {
+        const int margin = std::clamp((end - begin - length) / 2, 0, kGrid);
+        const int least = begin + margin;
+        return std::clamp(place, least, std::max(least, end - length - margin));
+    };
+    return { clamp(wanted.x(), size.width(), room.left(), room.right() + 1),
+        clamp(wanted.y(), size.height(), room.top(), room.bottom() + 1) };
+}
+
 bool HasTouchScreen()
 {
     const auto devices = QInputDevice::devices();

@@ -3,6 +3,8 @@
 
 #include <QFont>
 #include <QMargins>
+#include <QPoint>
+#include <QRect>
 
 class QFontMetrics;
 
@@ -37,6 +39,10 @@ constexpr int kMinFieldWidth = 184;
 constexpr int kMaxPageWidth = 700;
 /// A lower window has no height to spare for its frame.
 constexpr int kLowWindow = 400;
+
+/// Where a pop-up of this size goes that is wanted at a place: within `room`, and kGrid from its
+/// edges unless it is as large as that. One that is larger begins where the room does.
+[[nodiscard]] QPoint PlaceWithin(const QRect& room, const QPoint& wanted, const QSize& size);
 
 [[nodiscard]] bool HasTouchScreen();
 /// The measures for the devices at hand: touch where there is a touch screen.

@@ -219,6 +219,12 @@ void MeetLetter(QToolButton* key)
     QObject::connect(shortcut, &QShortcut::activated, key, [key] { PressWithoutPointer(key); });
 }
 
+/// Where the window lies on the screen.
+QRect WindowOf(const QWidget& widget)
+{
+    return { widget.window()->mapToGlobal(QPoint()), widget.window()->size() };
+}
+
 /// Opens a menu upward from a soft key, within the window, wherever that stands. In a window that
 /// is too low for it the entries lie closer together; in one that is too narrow they tell no keys.
 void OpenFromKey(QMenu& menu, const QWidget& key)
@@ -233,9 +239,9 @@ void OpenFromKey(QMenu& menu, const QWidget& key)
     if (lines * CurrentMeasures().lineHeight > key.window()->height())
         menu.setStyleSheet(u"QMenu::item { padding-top: 7px; padding-bottom: 7px; }"_s);
     const QSize size = menu.sizeHint();
-    QPoint place = key.mapToGlobal(QPoint(key.width() - size.width(), -size.height()));
-    place.setX(std::max(place.x(), key.window()->mapToGlobal(QPoint()).x()));
-    menu.popup(place);
+    const QPoint place
+        = key.mapToGlobal(QPoint(key.width() - size.width(), -size.height() - kGrid));
+    menu.popup(PlaceWithin(WindowOf(key), place, size));
 }
 
 } // namespace
@@ -514,7 +520,7 @@ void Page::OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& glo
     menu->setObjectName(u"contextMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     FillMenu(menu, entries);
-    menu->popup(globalPosition);
+    menu->popup(PlaceWithin(WindowOf(*this), globalPosition, menu->sizeHint()));
 }
 
 void Page::OfferUndo(const QString& text, std::function<void()> undo)
