@@ -215,6 +215,14 @@ private Q_SLOTS:
         QCOMPARE(picked.count(), times);
         QTRY_VERIFY(button.findChild<ColourGrid*>() == nullptr);
         QCOMPARE(mark(), closed);
+        // A colour that cannot be chosen is grey.
+        const QRgb colour = PaletteColour(button.Colour()).rgb();
+        const auto middle = [&button] {
+            return button.grab().toImage().pixel(button.height() / 2, button.height() / 2);
+        };
+        QCOMPARE(middle(), colour);
+        button.setEnabled(false);
+        QVERIFY(middle() != colour);
     }
 
     void allColoursCanBeReachedInTheSmallestWindow()

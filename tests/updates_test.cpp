@@ -78,6 +78,8 @@ private Q_SLOTS:
         Act(before);
         devices.DoElsewhere(elsewhere);
         Act(kHearUpdate + after);
+        const Page* top = devices.pages->Top();
+        QVERIFY(top->Title().isEmpty() || top->accessibleName() == top->Title());
     }
 
     void rowsStayWhereTheyAreScrolledTo()
