@@ -242,10 +242,21 @@ ObjectId DataVolume::Write(DatabaseType type, ObjectId oid, std::span<const Prop
     return NoteWrite(written) ? *written : kNoObject;
 }
 
+ObjectId DataVolume::AddBack(DatabaseType type, const Record& record)
+{
+    Database* database = Find(type);
+    if (database == nullptr)
+        return kNoObject;
+    const auto written = database->AddBack(record);
+    return NoteWrite(written) ? *written : kNoObject;
+}
+
 bool DataVolume::WriteLayout(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values)
 {
     const bool hadChanged = m_hasChangedContent;
-    const bool isWritten = Write(type, oid, values) == oid;
+    Database* database = Find(type);
+    const bool isWritten
+        = database != nullptr && NoteWrite(database->Write(oid, values, ChangeKind::Layout));
     m_hasChangedContent = hadChanged;
     return isWritten;
 }
@@ -279,6 +290,15 @@ bool DataVolume::RenameDatabase(ObjectId oid, const QString& name, DatabaseType 
 bool DataVolume::DeleteDatabase(ObjectId oid)
 {
     return FindVolume() != nullptr && NoteWrite(m_volume->DeleteDatabase(oid));
+}
+
+bool DataVolume::PurgeDatabase(ObjectId oid)
+{
+    const bool hadChanged = m_hasChangedContent;
+    const bool isDone
+        = FindVolume() != nullptr && NoteWrite(m_volume->DeleteDatabase(oid, ChangeKind::Layout));
+    m_hasChangedContent = hadChanged;
+    return isDone;
 }
 
 bool DataVolume::BeginTransaction()

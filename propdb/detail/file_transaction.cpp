@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/detail/file_transaction.h"
 
+#include "propdb/detail/history_table.h"
+
 #include <sqlite3.h>
 
 #include <initializer_list>
@@ -71,7 +73,23 @@ Result<void> FileTransaction::Begin()
     }
     m_stateSeen = *state;
     m_isFirstPageKept = false;
+    m_isContentChanged = false;
+    m_isHistoryWritten = false;
     return {};
+}
+
+Result<void> FileTransaction::NoteInHistory()
+{
+    if (!IsForHistory())
+        return {};
+    return m_hasState ? AddRevision(m_connection) : AddState(m_connection, DrawState());
+}
+
+void FileTransaction::NoteCommitted()
+{
+    m_isNextOidStored = true;
+    m_hasCommitted = true;
+    m_hasState = !m_isHistoryWritten && (m_hasState || m_isContentChanged);
 }
 
 Result<void> FileTransaction::KeepFirstPage()
@@ -91,6 +109,8 @@ Result<void> FileTransaction::Commit()
         m_storeNextOid.Bind(1, static_cast<qint64>(m_nextOid));
         done = m_storeNextOid.Run();
     }
+    if (done)
+        done = NoteInHistory();
     if (!done) {
         Rollback();
         return done;
@@ -102,8 +122,7 @@ Result<void> FileTransaction::Commit()
         const auto state = m_file.ReadState();
         m_stateSeen = state ? std::optional(*state) : std::nullopt;
     }
-    m_isNextOidStored = true;
-    m_hasCommitted = true;
+    NoteCommitted();
     return {};
 }
 
