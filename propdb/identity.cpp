@@ -56,6 +56,15 @@ bool History::Covers(const FileVersion& version) const
     });
 }
 
+bool History::CoversCommon(const History& one, const History& other) const
+{
+    return std::ranges::all_of(one.m_versions, [&](const FileVersion& version) {
+        const auto same = std::ranges::find(other.m_versions, version.state, &FileVersion::state);
+        return same == other.m_versions.end()
+            || Covers({ version.state, std::min(version.revision, same->revision) });
+    });
+}
+
 History History::Join(const History& one, const History& other, const FileVersion& merged)
 {
     std::map<StateId, Rank> ranks;

@@ -70,7 +70,8 @@ public:
     };
     /// Where a journal was put at the mount because it is another file's; empty if none was.
     [[nodiscard]] QString JournalPutAside() const;
-    /// Called before the first change of the contents, and before a file of an older version is
+    /// Called before the first change of the contents by this mount, unless there was one already,
+    /// and before a file of an older version is
     /// carried over to the newest, which its first change does in a transaction before its own. The
     /// volume can be read and backed up then, not written.
     using FirstChangeListener = std::function<void()>;

@@ -41,6 +41,8 @@ public:
     [[nodiscard]] Result<void> Commit();
     /// Undoes everything since Begin().
     void Rollback();
+    /// Whether this connection has begun a state.
+    [[nodiscard]] bool HasState() const { return m_hasState; }
     /// Whether anything was committed.
     [[nodiscard]] bool HasCommitted() const { return m_hasCommitted; }
 

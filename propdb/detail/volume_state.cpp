@@ -161,7 +161,8 @@ Result<void> VolumeState::Begin(ChangeKind kind)
 Result<void> VolumeState::PrepareChange(ChangeKind kind)
 {
     const bool isOlder = m_schema.FormatVersion() < kFormatVersion;
-    if (m_firstChangeListener && (isOlder || kind == ChangeKind::Content)) {
+    if (m_firstChangeListener && !m_transaction.HasState()
+        && (isOlder || kind == ChangeKind::Content)) {
         // Once, also where it throws.
         const auto listener = std::exchange(m_firstChangeListener, nullptr);
         listener();
