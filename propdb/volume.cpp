@@ -211,6 +211,11 @@ bool Volume::HasChanged() const
     return m_state->Transactions().HasCommitted();
 }
 
+const QByteArray& Volume::Path() const
+{
+    return m_state->Path();
+}
+
 QString Volume::JournalPutAside() const
 {
     return QFile::decodeName(m_state->File().JournalPutAside());

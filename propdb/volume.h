@@ -68,6 +68,8 @@ public:
         QString name;
         DatabaseType type {};
     };
+    /// The real path by which it was mounted.
+    [[nodiscard]] const QByteArray& Path() const;
     /// Where a journal was put at the mount because it is another file's; empty if none was.
     [[nodiscard]] QString JournalPutAside() const;
     /// Called before the first change of the contents by this mount, unless there was one already,

@@ -315,6 +315,11 @@ bool DataVolume::EndTransaction(bool commit)
     return FindVolume() != nullptr && NoteWrite(m_volume->EndTransaction(commit));
 }
 
+bool DataVolume::WriteHistory(const History& history)
+{
+    return FindVolume() != nullptr && NoteWrite(m_volume->WriteHistory(history));
+}
+
 void DataVolume::SetWriteFailureListener(WriteFailureListener listener)
 {
     m_writeFailureListener = std::move(listener);

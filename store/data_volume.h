@@ -98,6 +98,9 @@ public:
     /// Ends the transaction; with `commit` true only once its changes are durable.
     bool EndTransaction(bool commit);
 
+    /// As Volume::WriteHistory().
+    bool WriteHistory(const History& history);
+
     /// The open database of this type for whole-column reads; null if none is open. Valid until
     /// Close() or Unmount().
     [[nodiscard]] Database* OpenDatabase(DatabaseType type);

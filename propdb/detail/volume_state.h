@@ -28,6 +28,7 @@ public:
     [[nodiscard]] Result<void> Connect();
 
     [[nodiscard]] sqlite3* Connection() const { return m_connection.get(); }
+    [[nodiscard]] const QByteArray& Path() const { return m_path; }
     [[nodiscard]] const VolumeFile& File() const { return m_file; }
     [[nodiscard]] RecordVisit& Visit() { return m_visit; }
 
