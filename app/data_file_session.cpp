@@ -57,6 +57,8 @@ void DataFileSession::EndOpening(DataFileOpener::Outcome outcome)
     m_hasSettings = outcome != DataFileOpener::Outcome::NothingChosen;
     m_isOpen = outcome == DataFileOpener::Outcome::Opened;
     if (m_isOpen)
+        KeepBeforeFirstChange();
+    if (m_isOpen)
         Q_EMIT Opened();
     else
         Q_EMIT NotOpened();
@@ -105,6 +107,20 @@ Result<KeepOutcome> DataFileSession::Keep()
         m_settings.keptCopies);
 }
 
+void DataFileSession::KeepBeforeFirstChange()
+{
+    auto* volume = m_volume.MountedVolume();
+    // Files of one run are tried out, sent and mended: theirs are no copies to keep.
+    if (volume == nullptr || m_settings.isPathForThisRun)
+        return;
+    volume->SetFirstChangeListener([this, volume] {
+        // Where it fails, so does the copy at the end, which is told.
+        static_cast<void>(KeepFound(*volume, m_settings.DbPath, m_copiesFolder,
+            QDateTime::currentDateTimeUtc(), m_settings.keptCopies)
+                              .IsOk());
+    });
+}
+
 QString DataFileSession::KeepLostFile(ErrorNumber placeError)
 {
     const auto kept = Keep();
@@ -145,8 +161,10 @@ bool DataFileSession::Reopen()
         ShowMessage(&m_pages, KeepLostFile(ErrorNumber::SharingViolation), MessageIcon::Stop);
     m_volume.Unmount();
     if (m_volume.Mount(m_settings.DbPath, Disposition::OpenExisting) == ErrorNumber::None
-        && m_catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened)
+        && m_catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened) {
+        KeepBeforeFirstChange();
         return true;
+    }
     Abandon();
     return false;
 }

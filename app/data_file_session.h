@@ -87,6 +87,8 @@ private:
     [[nodiscard]] Result<KeepOutcome> Keep();
     void LookForUpdate();
     /// Keeps what would go with a file that is no longer in its place, and says so.
+    /// Keeps the file as it was found, if that is not what this device left, once it is changed.
+    void KeepBeforeFirstChange();
     [[nodiscard]] QString KeepLostFile(ErrorNumber placeError);
 };
 

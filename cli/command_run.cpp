@@ -2,7 +2,6 @@
 #include "cli/command_run.h"
 
 #include "propdb/volume_path.h"
-#include "store/kept_copies.h"
 
 #include <utility>
 
@@ -152,8 +151,30 @@ std::unique_ptr<CommandData> CommandRun::OpenForReading() const
 
 std::unique_ptr<CommandData> CommandRun::OpenForWriting(Disposition disposition) const
 {
-    return std::make_unique<CommandData>(
+    auto data = std::make_unique<CommandData>(
         DataFile(), VolumeAccess::Exclusive, disposition, environment.errors);
+    if (KeepsCopiesOf(*data)) {
+        Volume& volume = *data->volume.MountedVolume();
+        volume.SetFirstChangeListener([this, &volume, path = data->Path()] {
+            ComplainUnlessKept(path,
+                KeepFound(volume, path, environment.copiesFolder, QDateTime::currentDateTimeUtc(),
+                    environment.keptCopies));
+        });
+    }
+    return data;
+}
+
+bool CommandRun::KeepsCopiesOf(const CommandData& data) const
+{
+    // Other files are tried out, sent and mended; what they hold is not this program's to keep.
+    return IsSameVolume(environment.dataFile, data.Path());
+}
+
+void CommandRun::ComplainUnlessKept(const QString& path, const Result<KeepOutcome>& kept) const
+{
+    if (!kept)
+        Complain(environment.errors,
+            u"no copy of %1 could be kept: %2"_s.arg(path, ErrorText(kept.Error())));
 }
 
 void CommandRun::VisitLists(
@@ -184,14 +205,10 @@ void CommandRun::RefuseJournal(const QString& path) const
 
 void CommandRun::KeepCopyOf(CommandData& data) const
 {
-    // Other files are tried out, sent and mended; what they hold is not this program's to keep.
-    if (!IsSameVolume(environment.dataFile, data.Path()))
-        return;
-    const auto kept = KeepCopy(data.volume, data.Path(), environment.copiesFolder,
-        QDateTime::currentDateTimeUtc(), environment.keptCopies);
-    if (!kept)
-        Complain(environment.errors,
-            u"no copy of %1 could be kept: %2"_s.arg(data.Path(), ErrorText(kept.Error())));
+    if (KeepsCopiesOf(data))
+        ComplainUnlessKept(data.Path(),
+            KeepCopy(data.volume, data.Path(), environment.copiesFolder,
+                QDateTime::currentDateTimeUtc(), environment.keptCopies));
 }
 
 bool CommandRun::IsJson() const

@@ -3,6 +3,7 @@
 
 #include "cli/command_line.h"
 #include "cli/output.h"
+#include "store/kept_copies.h"
 #include "store/list_catalogue.h"
 
 #include <QCommandLineParser>
@@ -104,7 +105,12 @@ struct CommandRun
     /// Keeps a copy of a data file that the command has changed, or tells why not; to be called at
     /// its good end.
     void KeepCopyOf(CommandData& data) const;
+    /// Tells if a copy of the file at `path` could not be kept.
+    void ComplainUnlessKept(const QString& path, const Result<KeepOutcome>& kept) const;
     [[nodiscard]] bool IsJson() const;
+
+private:
+    [[nodiscard]] bool KeepsCopiesOf(const CommandData& data) const;
 };
 
 } // namespace Quillory

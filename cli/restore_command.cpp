@@ -81,7 +81,8 @@ void ListChoices(const CommandRun& run)
 void RestoreFrom(const CommandRun& run, const QString& target)
 {
     const QString path = run.DataFile();
-    const auto number = static_cast<size_t>(ReadInteger(run.parser, u"from"_s, 1, kMostKeptCopies));
+    const auto number = static_cast<size_t>(
+        ReadInteger(run.parser, u"from"_s, 1, kMostKeptCopies + kMostHeldCopies));
     const auto copies = ListKeptCopies(path, run.environment.copiesFolder);
     if (number > copies.size())
         Fail(u"there is no copy %1 of %2"_s.arg(QString::number(number), path));

@@ -14,22 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Null for a missing value and for a price that is no finite number.
-QJsonValue JsonOf(const PropertyValue& value)
-{
-    if (const auto* text = std::get_if<QString>(&value.value))
-        return *text;
-    if (const auto* number = std::get_if<qint32>(&value.value))
-        return *number;
-    if (const auto* price = std::get_if<double>(&value.value))
-        return std::isfinite(*price) ? QJsonValue(*price) : QJsonValue();
-    if (const auto* isChecked = std::get_if<bool>(&value.value))
-        return *isChecked;
-    if (std::holds_alternative<FileTime>(value.value))
-        return FormatExchangeText(value);
-    return {};
-}
-
 /// Columns may share a name, keys may not: the second "Size" becomes "Size (2)".
 QStringList UniqueKeys(const QStringList& names)
 {
@@ -44,6 +28,21 @@ QStringList UniqueKeys(const QStringList& names)
 }
 
 } // namespace
+
+QJsonValue JsonOf(const PropertyValue& value)
+{
+    if (const auto* text = std::get_if<QString>(&value.value))
+        return *text;
+    if (const auto* number = std::get_if<qint32>(&value.value))
+        return *number;
+    if (const auto* price = std::get_if<double>(&value.value))
+        return std::isfinite(*price) ? QJsonValue(*price) : QJsonValue();
+    if (const auto* isChecked = std::get_if<bool>(&value.value))
+        return *isChecked;
+    if (std::holds_alternative<FileTime>(value.value))
+        return FormatExchangeText(value);
+    return {};
+}
 
 QString CellText(const PropertyValue& value, const ValueContext& context)
 {

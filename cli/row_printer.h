@@ -12,6 +12,9 @@ namespace Quillory {
 /// A value as it is shown in a cell; of a tick Y or N.
 [[nodiscard]] QString CellText(const PropertyValue& value, const ValueContext& context);
 
+/// Null for a missing value and for a price that is no finite number.
+[[nodiscard]] QJsonValue JsonOf(const PropertyValue& value);
+
 enum class RowForm
 {
     /// Fields with TABs between them, behind a line of the names of the columns.

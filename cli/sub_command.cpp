@@ -34,6 +34,8 @@ constexpr std::array kDueOptions { "within" };
 constexpr std::array kChangeFlags { "dry-run" };
 constexpr std::array kWhereOption { "where" };
 constexpr std::array kRestoreFlags { "json", "salvage" };
+constexpr std::array kMergeFlags { "dry-run", "json" };
+constexpr std::array kBaseOption { "base" };
 constexpr std::array kRestoreOptions { "from" };
 
 constexpr const char* kListsHelp = QT_TRANSLATE_NOOP("CommandHelp",
@@ -205,6 +207,26 @@ constexpr const char* kRestoreHelp = QT_TRANSLATE_NOOP("CommandHelp",
     "                       is; the data file is only read\n"
     "  --json               an object per copy and per list\n");
 
+constexpr const char* kDiffHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Prints what merging OTHER, another device's copy of the data file, would do, as merge prints "
+    "it.\n"
+    "Changes nothing. Exits with 3 if OTHER has something that the data file has not.\n"
+    "\n"
+    "  --base FILE          what both come from, where no kept copy is\n"
+    "  --json               an object per line\n");
+
+constexpr const char* kMergeHelp = QT_TRANSLATE_NOOP("CommandHelp",
+    "Brings the data file and OTHER, another device's copy of it, together in the data file. "
+    "OTHER\n"
+    "is only read. Prints a line per thing that came or went, and per value that both had "
+    "changed:\n"
+    "what TAB list TAB row TAB column TAB value TAB other value. Both files are kept as copies\n"
+    "before.\n"
+    "\n"
+    "  --base FILE          what both come from, where no kept copy is\n"
+    "  --dry-run            stores nothing\n"
+    "  --json               an object per line\n");
+
 /// The list, and a value for each column.
 constexpr qsizetype kMostOperands = 1 + qsizetype { kMaxColumns };
 
@@ -245,6 +267,10 @@ constexpr std::array kSubCommands {
     SubCommand { "backup", "FILE", kBackupHelp, 1, 1, {}, {}, &RunBackup },
     SubCommand { "restore", "[--json | FILE --from N | FILE --salvage]", kRestoreHelp, 0, 1,
         kRestoreFlags, kRestoreOptions, &RunRestore },
+    SubCommand {
+        "diff", "OTHER [--base FILE] [--json]", kDiffHelp, 1, 1, kJsonFlag, kBaseOption, &RunDiff },
+    SubCommand { "merge", "OTHER [--base FILE] [--dry-run] [--json]", kMergeHelp, 1, 1, kMergeFlags,
+        kBaseOption, &RunMerge },
 };
 
 /// The least number of characters left out, put in, replaced or swapped with the next that makes

@@ -43,6 +43,8 @@ void RunRemove(const CommandRun& run);
 void RunCheck(const CommandRun& run);
 void RunBackup(const CommandRun& run);
 void RunRestore(const CommandRun& run);
+void RunDiff(const CommandRun& run);
+void RunMerge(const CommandRun& run);
 
 /// Null if there is none of this name.
 [[nodiscard]] const SubCommand* FindSubCommand(QStringView name);

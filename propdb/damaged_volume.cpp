@@ -25,10 +25,11 @@ struct DatabaseLayout
     quint32 indexRoot = 0;
     /// Property identifiers by the places of their columns behind the identifier.
     std::map<size_t, PropertyId> columns;
+    QString database;
 
     [[nodiscard]] Record Decode(const StoredRecord& stored) const
     {
-        Record record { stored.Oid(), {} };
+        Record record { stored.Oid(), {}, OriginOf(stored) };
         for (const auto& [position, id] : columns) {
             PropertyValue value { id, 0, {} };
             stored.Read(position, value);
@@ -36,6 +37,15 @@ struct DatabaseLayout
                 record.values.push_back(std::move(value));
         }
         return record;
+    }
+
+private:
+    /// It stands behind the properties.
+    [[nodiscard]] Origin OriginOf(const StoredRecord& stored) const
+    {
+        const size_t place = columns.empty() ? 0 : columns.rbegin()->first + 1;
+        const auto origin = static_cast<Origin>(stored.Integer(place));
+        return origin == kNoOrigin ? DerivedOrigin(database, stored.Oid()) : origin;
     }
 };
 
@@ -172,7 +182,8 @@ private:
                 { { record.Oid(), record.Text(DatabaseName),
                       static_cast<DatabaseType>(record.Integer(DatabaseTypeNumber)) },
                     {}, false });
-            layouts.push_back({ roots.tables.value(table), roots.indexes.value(table), {} });
+            layouts.push_back({ roots.tables.value(table), roots.indexes.value(table), {},
+                record.Text(DatabaseName) });
         };
         const qint64 lostPages = reader.Visit(roots.tables.value(u"property_database"_s), add);
         return lostPages + lostDatabases;

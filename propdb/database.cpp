@@ -40,15 +40,17 @@ private:
 class RecordSelect
 {
 public:
+    /// Origins are not read unless `origins` names their column: an index can do without it.
     RecordSelect(const DatabaseState& state, std::span<const PropertyId> ids,
-        const Database::RecordVisitor& visitor)
+        const Database::RecordVisitor& visitor, const QString& origins = u"NULL"_s)
         : m_state(state)
         , m_visitor(visitor)
     {
         for (const PropertyId id : ids)
             m_classes.push_back(ClassesOfDeclaration(DeclaredType(id)));
-        m_select = u"SELECT %1(oid%2) FROM %3"_s.arg(QLatin1StringView(RecordVisit::kFunctionName),
-            state.ColumnList(ids), QuotedName(state.schema->tableName));
+        m_select
+            = u"SELECT %1(oid, %2%3) FROM %4"_s.arg(QLatin1StringView(RecordVisit::kFunctionName),
+                origins, state.ColumnList(ids), QuotedName(state.schema->tableName));
     }
     RecordSelect(const RecordSelect&) = delete;
     RecordSelect& operator=(const RecordSelect&) = delete;
@@ -174,11 +176,22 @@ Result<Record> Database::Read(std::span<const PropertyId> ids)
     return m_state->ReadRecord(place, ids);
 }
 
-Result<ObjectId> Database::Write(ObjectId oid, std::span<const PropertyValue> values)
+Result<ObjectId> Database::Write(
+    ObjectId oid, std::span<const PropertyValue> values, ChangeKind kind)
 {
     QUILLORY_TRY(CheckValues(*m_state->schema, values));
     return m_state->volume.Write(
-        [&] { return oid == kNoObject ? m_state->Insert(values) : m_state->Update(oid, values); });
+        [&] {
+            return oid == kNoObject ? m_state->Insert(values, kNoOrigin)
+                                    : m_state->Update(oid, values);
+        },
+        kind);
+}
+
+Result<ObjectId> Database::AddBack(const Record& record)
+{
+    QUILLORY_TRY(CheckValues(*m_state->schema, record.values));
+    return m_state->volume.Write([&] { return m_state->Insert(record.values, record.origin); });
 }
 
 Result<void> Database::DeleteRecord(ObjectId oid)
@@ -228,6 +241,16 @@ Result<void> Database::ScanInPlace(
             break;
     }
     return {};
+}
+
+Result<void> Database::ScanOrigins(std::span<const PropertyId> ids, const OriginVisitor& visitor)
+{
+    const RecordVisitor visit = [&](const ScannedRecord& record) {
+        return visitor(m_state->OriginOf(record.Oid(), record.StoredOrigin()), record);
+    };
+    RecordSelect select(*m_state, ids, visit, m_state->OriginColumn());
+    QUILLORY_TRY_VALUE(auto statement, select.Prepare(u" NOT INDEXED"_s));
+    return select.Run(statement).Error();
 }
 
 Database::VisitOutcome Database::VisitEach(

@@ -63,7 +63,12 @@ public:
     /// database does not have or a value that is not of its type, AlreadyExists for a property
     /// listed twice, BadLength if the record would be larger than 20 MB. Strings are kept up to
     /// their first NUL.
-    [[nodiscard]] Result<ObjectId> Write(ObjectId oid, std::span<const PropertyValue> values);
+    [[nodiscard]] Result<ObjectId> Write(
+        ObjectId oid, std::span<const PropertyValue> values, ChangeKind kind = ChangeKind::Content);
+    /// Adds a record with the values and the origin of one that there was: in another copy of the
+    /// volume, or here before it was deleted. Its identifier is new; so is the origin if it has
+    /// none.
+    [[nodiscard]] Result<ObjectId> AddBack(const Record& record);
     /// NotFound if there is no such record.
     [[nodiscard]] Result<void> DeleteRecord(ObjectId oid);
 
@@ -81,6 +86,11 @@ public:
     /// for more than 64 properties.
     [[nodiscard]] Result<void> ScanInPlace(
         std::span<const PropertyId> ids, ScanOrder order, const RecordVisitor& visitor);
+
+    using OriginVisitor = std::function<bool(Origin origin, const ScannedRecord& record)>;
+    /// As above for every record in the order in which they are stored, with its origin.
+    [[nodiscard]] Result<void> ScanOrigins(
+        std::span<const PropertyId> ids, const OriginVisitor& visitor);
 
     struct VisitOutcome
     {

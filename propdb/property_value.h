@@ -51,6 +51,13 @@ enum class ObjectId : quint32
 };
 constexpr ObjectId kNoObject {};
 
+/// Tells a record from all others, in whichever copies of its volume it is: drawn at random when
+/// the record is added, and kept through all changes of it.
+enum class Origin : quint64
+{
+};
+constexpr Origin kNoOrigin {};
+
 /// Tells the databases of a volume apart; several may share one.
 enum class DatabaseType : quint32
 {
@@ -92,6 +99,7 @@ struct Record
 {
     ObjectId oid = kNoObject;
     std::vector<PropertyValue> values;
+    Origin origin = kNoOrigin;
 
     explicit operator bool() const { return oid != kNoObject; }
 };

@@ -18,6 +18,9 @@ public:
     ScannedRecord& operator=(const ScannedRecord&) = delete;
 
     [[nodiscard]] virtual ObjectId Oid() const = 0;
+    /// As it is stored: kNoOrigin for a record that was stored without one, and where it was not
+    /// asked for.
+    [[nodiscard]] virtual Origin StoredOrigin() const = 0;
     [[nodiscard]] virtual bool IsMissing(size_t place) const = 0;
     /// A property of a whole number, a flag or a file time; 0 where it is missing.
     [[nodiscard]] virtual qint64 Integer(size_t place) const = 0;

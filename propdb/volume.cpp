@@ -153,7 +153,7 @@ Result<void> Volume::RenameDatabase(ObjectId oid, const QString& name, DatabaseT
     });
 }
 
-Result<void> Volume::DeleteDatabase(ObjectId oid)
+Result<void> Volume::DeleteDatabase(ObjectId oid, ChangeKind kind)
 {
     QUILLORY_TRY_VALUE(const VolumeSchema* before, m_state->Schema());
     const auto database = before->Find(oid);
@@ -161,10 +161,12 @@ Result<void> Volume::DeleteDatabase(ObjectId oid)
         return ErrorNumber::NotFound;
     if (m_state->IsOpen(oid))
         return ErrorNumber::SharingViolation;
-    return m_state->ChangeSchema([&](VolumeSchema& schema) {
-        schema.Remove(*database);
-        return DropDatabaseSchema(m_state->Connection(), *database);
-    });
+    return m_state->ChangeSchema(
+        [&](VolumeSchema& schema) {
+            schema.Remove(*database);
+            return DropDatabaseSchema(m_state->Connection(), *database);
+        },
+        kind);
 }
 
 Result<std::unique_ptr<Database>> Volume::OpenDatabase(
@@ -181,6 +183,21 @@ Result<std::unique_ptr<Database>> Volume::OpenDatabase(
         std::make_unique<DatabaseState>(*m_state, database, sortOrder));
 }
 
+void Volume::SetFirstChangeListener(FirstChangeListener listener)
+{
+    m_state->SetFirstChangeListener(std::move(listener));
+}
+
+Result<History> Volume::ReadHistory()
+{
+    return m_state->ReadHistory();
+}
+
+Result<void> Volume::WriteHistory(const History& history)
+{
+    return m_state->WriteHistory(history);
+}
+
 Result<void> Volume::BeginTransaction()
 {
     return m_state->BeginTransaction();
@@ -194,6 +211,11 @@ Result<void> Volume::EndTransaction(bool commit)
 bool Volume::HasChanged() const
 {
     return m_state->Transactions().HasCommitted();
+}
+
+const QByteArray& Volume::Path() const
+{
+    return m_state->Path();
 }
 
 QString Volume::JournalPutAside() const

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "propdb/identity.h"
 #include "propdb/property_value.h"
 #include "propdb/result.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -27,6 +29,15 @@ enum class VolumeAccess
     /// put into the file ends with Cancelled, and is to be begun again. Every write fails with
     /// AccessDenied.
     ReadOnly,
+};
+
+/// What a write changes.
+enum class ChangeKind
+{
+    Content,
+    /// What is no more than how this device shows the contents, or was theirs no more: other copies
+    /// of the file are not concerned, and its history is not told.
+    Layout,
 };
 
 /// One file of named, typed databases of property records.
@@ -57,8 +68,23 @@ public:
         QString name;
         DatabaseType type {};
     };
+    /// The real path by which it was mounted.
+    [[nodiscard]] const QByteArray& Path() const;
     /// Where a journal was put at the mount because it is another file's; empty if none was.
     [[nodiscard]] QString JournalPutAside() const;
+    /// Called before the first change of the contents by this mount, unless there was one already,
+    /// and before a file of an older version is
+    /// carried over to the newest, which its first change does in a transaction before its own. The
+    /// volume can be read and backed up then, not written.
+    using FirstChangeListener = std::function<void()>;
+    void SetFirstChangeListener(FirstChangeListener listener);
+    /// Where the contents come from. A file of version 1, which has no history, has one that
+    /// follows from its bytes: copies of it have the same.
+    [[nodiscard]] Result<History> ReadHistory();
+    /// Gives the volume another history, for contents that come from several files. What the same
+    /// transaction changes adds no state to it.
+    [[nodiscard]] Result<void> WriteHistory(const History& history);
+
     /// Every database, oldest first.
     [[nodiscard]] Result<std::vector<DatabaseInfo>> Databases();
 
@@ -71,7 +97,7 @@ public:
     /// DuplicateName if another is so named, SharingViolation if it is open.
     [[nodiscard]] Result<void> RenameDatabase(ObjectId oid, const QString& name, DatabaseType type);
     /// Deletes a database and all its records. NotFound, SharingViolation if it is open.
-    [[nodiscard]] Result<void> DeleteDatabase(ObjectId oid);
+    [[nodiscard]] Result<void> DeleteDatabase(ObjectId oid, ChangeKind kind = ChangeKind::Content);
     /// Opens a database by its name and one of its sort orders. It must be closed (destroyed)
     /// before the volume is. FileNotFound if none is so named, InvalidParameter if it does not have
     /// this order.

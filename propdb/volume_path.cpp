@@ -113,6 +113,14 @@ Result<void> PublishFile(const QByteArray& from, const QByteArray& to)
     return SyncFolderOf(to);
 }
 
+Result<void> ReplaceFile(const QByteArray& from, const QByteArray& to)
+{
+    QUILLORY_TRY(DrawChangeCounter(from));
+    if (rename(from.constData(), to.constData()) != 0)
+        return ErrorFromErrno(errno);
+    return SyncFolderOf(to);
+}
+
 Result<void> TakeModeOf(const QByteArray& from, const QByteArray& to)
 {
     struct stat status

@@ -26,6 +26,9 @@ namespace Quillory {
 /// FileExists if there is one of that name: it is never replaced. A journal that an earlier file of
 /// that name has left is put aside under another name.
 [[nodiscard]] Result<void> PublishFile(const QByteArray& from, const QByteArray& to);
+/// As above, in the place of the file `to`, which is there: whoever opens that name finds one of
+/// the two, whole.
+[[nodiscard]] Result<void> ReplaceFile(const QByteArray& from, const QByteArray& to);
 /// Lets whoever may use the file `from`, and nobody else but its owner, use `to`.
 [[nodiscard]] Result<void> TakeModeOf(const QByteArray& from, const QByteArray& to);
 /// A name in the folder of `path` for a file that becomes `path` when it is finished.

@@ -242,10 +242,21 @@ ObjectId DataVolume::Write(DatabaseType type, ObjectId oid, std::span<const Prop
     return NoteWrite(written) ? *written : kNoObject;
 }
 
+ObjectId DataVolume::AddBack(DatabaseType type, const Record& record)
+{
+    Database* database = Find(type);
+    if (database == nullptr)
+        return kNoObject;
+    const auto written = database->AddBack(record);
+    return NoteWrite(written) ? *written : kNoObject;
+}
+
 bool DataVolume::WriteLayout(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values)
 {
     const bool hadChanged = m_hasChangedContent;
-    const bool isWritten = Write(type, oid, values) == oid;
+    Database* database = Find(type);
+    const bool isWritten
+        = database != nullptr && NoteWrite(database->Write(oid, values, ChangeKind::Layout));
     m_hasChangedContent = hadChanged;
     return isWritten;
 }
@@ -281,6 +292,15 @@ bool DataVolume::DeleteDatabase(ObjectId oid)
     return FindVolume() != nullptr && NoteWrite(m_volume->DeleteDatabase(oid));
 }
 
+bool DataVolume::PurgeDatabase(ObjectId oid)
+{
+    const bool hadChanged = m_hasChangedContent;
+    const bool isDone
+        = FindVolume() != nullptr && NoteWrite(m_volume->DeleteDatabase(oid, ChangeKind::Layout));
+    m_hasChangedContent = hadChanged;
+    return isDone;
+}
+
 bool DataVolume::BeginTransaction()
 {
     if (!m_hasSession) {
@@ -293,6 +313,11 @@ bool DataVolume::BeginTransaction()
 bool DataVolume::EndTransaction(bool commit)
 {
     return FindVolume() != nullptr && NoteWrite(m_volume->EndTransaction(commit));
+}
+
+bool DataVolume::WriteHistory(const History& history)
+{
+    return FindVolume() != nullptr && NoteWrite(m_volume->WriteHistory(history));
 }
 
 void DataVolume::SetWriteFailureListener(WriteFailureListener listener)

@@ -79,6 +79,8 @@ public:
     /// Adds a record (kNoObject) or replaces the listed properties of one. Its identifier, or
     /// kNoObject on failure.
     ObjectId Write(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values);
+    /// Adds a record that there was, with its origin; its identifier is new. kNoObject on failure.
+    ObjectId AddBack(DatabaseType type, const Record& record);
     /// As Write(), for what says only how a list is laid out on the screen.
     bool WriteLayout(DatabaseType type, ObjectId oid, std::span<const PropertyValue> values);
     /// Whether anything but layout was written since the volume was mounted.
@@ -89,10 +91,15 @@ public:
     /// Gives a closed database another name and type.
     bool RenameDatabase(ObjectId oid, const QString& name, DatabaseType type);
     bool DeleteDatabase(ObjectId oid);
+    /// The same for one whose records are none of the contents any more.
+    bool PurgeDatabase(ObjectId oid);
 
     bool BeginTransaction();
     /// Ends the transaction; with `commit` true only once its changes are durable.
     bool EndTransaction(bool commit);
+
+    /// As Volume::WriteHistory().
+    bool WriteHistory(const History& history);
 
     /// The open database of this type for whole-column reads; null if none is open. Valid until
     /// Close() or Unmount().

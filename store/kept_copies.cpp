@@ -23,6 +23,7 @@ namespace {
 
 constexpr auto kSuffix = ".idb"_L1;
 constexpr auto kOriginName = "copy-of.txt"_L1;
+constexpr auto kHeldName = "held-back.txt"_L1;
 constexpr auto kGoneName = "gone-since.txt"_L1;
 /// A copy's name is its time; the order of the names is that of the times.
 constexpr QStringView kDateFormat = u"yyyyMMdd";
@@ -53,6 +54,15 @@ QString SetFolder(const QString& path, const QString& folder)
     constexpr qsizetype kNameCharacters = 16;
     const QString name = QFileInfo(QFile::decodeName(*real)).completeBaseName();
     return QDir(folder).filePath(name.left(kNameCharacters) + u'-' + VolumeKey(*real));
+}
+
+/// The names of the copies that are held back, the latest first.
+QStringList HeldIn(const QDir& set)
+{
+    QFile file(set.filePath(kHeldName));
+    return file.open(QIODevice::ReadOnly)
+        ? QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)
+        : QStringList();
 }
 
 bool WriteLine(const QString& path, const QString& line)
@@ -112,8 +122,13 @@ std::vector<KeptCopy> CopiesIn(const QDir& set)
 void Prune(QDir& set, int count)
 {
     const auto copies = CopiesIn(set);
-    for (auto i = static_cast<size_t>(count); i < copies.size(); ++i)
-        QFile::remove(copies[i].path);
+    const QStringList held = count == 0 ? QStringList() : HeldIn(set);
+    for (auto i = static_cast<size_t>(count); i < copies.size(); ++i) {
+        if (!held.contains(QFileInfo(copies[i].path).fileName()))
+            QFile::remove(copies[i].path);
+    }
+    if (held.isEmpty())
+        set.remove(kHeldName);
     for (const QString& name : set.entryList({ u'*' + kSuffix + u".new-*"_s }, QDir::Files))
         set.remove(name);
 }
@@ -155,6 +170,44 @@ QString NextName(const QDir& set, const QDateTime& now)
     return NameAt(copies.empty() ? now : std::max(now, copies.front().time.addMSecs(1)));
 }
 
+/// The folder for the copies of a data file, ready for one more.
+Result<QDir> PrepareSet(const QString& path, const QString& folder, const QDateTime& now, int count)
+{
+    DropMissing(folder, now);
+    const QString setFolder = SetFolder(path, folder);
+    if (setFolder.isEmpty())
+        return ErrorNumber::PathNotFound;
+    if (!MakeUserFolder(setFolder))
+        return ErrorNumber::AccessDenied;
+    QDir set(setFolder);
+    Prune(set, count);
+    return set;
+}
+
+/// Makes the copy; its path.
+Result<QString> AddCopy(const QDir& set, Volume& volume, const QString& path, const QDateTime& now)
+{
+    if (!HasRoom(set.path(), path))
+        return ErrorNumber::DiskFull;
+    if (!WriteOrigin(set, path))
+        return ErrorNumber::WriteFault;
+    const QString copy = set.filePath(NextName(set, now));
+    QUILLORY_TRY(volume.Backup(copy));
+    QFile::setPermissions(copy, kOwnerOnly);
+    return copy;
+}
+
+/// A copy of these contents.
+std::optional<KeptCopy> FindVersion(const QDir& set, const FileVersion& version)
+{
+    for (const KeptCopy& copy : CopiesIn(set)) {
+        const auto history = HistoryOf(copy);
+        if (history && history->Latest() == version)
+            return copy;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 QString DefaultCopiesFolder()
@@ -168,25 +221,78 @@ Result<KeepOutcome> KeepCopy(
     Volume* volume = data.MountedVolume();
     if (volume == nullptr || folder.isEmpty() || !IsWorthACopy(data, *volume))
         return KeepOutcome::NotNeeded;
-    DropMissing(folder, now);
-    const QString setFolder = SetFolder(path, folder);
-    if (setFolder.isEmpty())
-        return ErrorNumber::PathNotFound;
-    if (!MakeUserFolder(setFolder))
-        return ErrorNumber::AccessDenied;
-    QDir set(setFolder);
-    Prune(set, count);
+    QUILLORY_TRY_VALUE(QDir set, PrepareSet(path, folder, now, count));
     if (count == 0)
         return KeepOutcome::NotNeeded;
-    if (!HasRoom(setFolder, path))
-        return ErrorNumber::DiskFull;
-    if (!WriteOrigin(set, path))
-        return ErrorNumber::WriteFault;
-    const QString copy = set.filePath(NextName(set, now));
-    QUILLORY_TRY(volume->Backup(copy));
-    QFile::setPermissions(copy, kOwnerOnly);
+    QUILLORY_TRY(AddCopy(set, *volume, path, now));
     Prune(set, count);
     return KeepOutcome::Kept;
+}
+
+Result<KeepOutcome> KeepShared(
+    Volume& volume, const QString& path, const QString& folder, const QDateTime& now, int count)
+{
+    if (folder.isEmpty() || count == 0)
+        return KeepOutcome::NotNeeded;
+    QUILLORY_TRY_VALUE(const History history, volume.ReadHistory());
+    QUILLORY_TRY_VALUE(QDir set, PrepareSet(path, folder, now, count));
+    if (const auto known = FindVersion(set, history.Latest())) {
+        HoldBack(*known);
+        return KeepOutcome::NotNeeded;
+    }
+    QUILLORY_TRY_VALUE(const QString copy, AddCopy(set, volume, path, now));
+    HoldBack({ copy, now, 0 });
+    Prune(set, count);
+    return KeepOutcome::Kept;
+}
+
+Result<KeepOutcome> KeepFound(
+    Volume& volume, const QString& path, const QString& folder, const QDateTime& now, int count)
+{
+    QUILLORY_TRY_VALUE(const History history, volume.ReadHistory());
+    const QString set = SetFolder(path, folder);
+    const bool isKnown = history.Versions().empty()
+        || (!set.isEmpty() && FindVersion(QDir(set), history.Latest()));
+    return isKnown ? KeepOutcome::NotNeeded : KeepShared(volume, path, folder, now, count);
+}
+
+std::optional<History> HistoryOf(const KeptCopy& copy)
+{
+    const auto volume = Volume::Mount(copy.path, Disposition::OpenExisting, VolumeAccess::ReadOnly);
+    const auto history = volume ? (*volume)->ReadHistory() : volume.Error();
+    return history ? std::optional(*history) : std::nullopt;
+}
+
+std::optional<KeptCopy> FindBase(
+    const QString& path, const QString& folder, const History& mine, const History& theirs)
+{
+    std::optional<KeptCopy> base;
+    History latest;
+    for (const KeptCopy& copy : ListKeptCopies(path, folder)) {
+        const auto history = HistoryOf(copy);
+        if (!history || history->Versions().empty() || !mine.Covers(history->Latest())
+            || !theirs.Covers(history->Latest()))
+            continue;
+        // Of two that do not come from each other one is taken that does not hang on the device.
+        const bool isNewer = history->Covers(latest.Latest())
+            || (!latest.Covers(history->Latest()) && history->Latest() > latest.Latest());
+        if (!base || isNewer) {
+            base = copy;
+            latest = *history;
+        }
+    }
+    return base;
+}
+
+void HoldBack(const KeptCopy& copy)
+{
+    const QFileInfo file(copy.path);
+    QStringList names = HeldIn(file.dir());
+    names.removeAll(file.fileName());
+    names.prepend(file.fileName());
+    // Where this cannot be written the copy goes as the others do.
+    static_cast<void>(
+        WriteLine(file.dir().filePath(kHeldName), names.mid(0, kMostHeldCopies).join(u'\n')));
 }
 
 std::vector<KeptCopy> ListKeptCopies(const QString& path, const QString& folder)

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace Quillory {
@@ -13,6 +14,8 @@ namespace Quillory {
 /// Copies of a data file as it was at the end of earlier runs: a folder per data file, told by a
 /// hash of its path, with a text file that names it and the copies.
 constexpr int kMostKeptCopies = 9;
+/// So many more can be held back as those that other devices' files come from.
+constexpr int kMostHeldCopies = 4;
 /// The copies of a file are kept for so many days after it is first found to be gone.
 constexpr int kDaysKeptOfMissing = 90;
 
@@ -44,6 +47,29 @@ enum class KeepOutcome
 /// be written, or a page of the file, be it a free one, cannot be read.
 [[nodiscard]] Result<KeepOutcome> KeepCopy(
     DataVolume& data, const QString& path, const QString& folder, const QDateTime& now, int count);
+
+/// Keeps a copy of `volume`, which is the data file at `path` or another device's, and holds it
+/// back from removal with the others that other devices have seen, until four newer ones are; where
+/// `count` is 0 none is kept or held. NotNeeded, and that one held back, if there is a copy of the
+/// same contents. The failures of KeepCopy().
+[[nodiscard]] Result<KeepOutcome> KeepShared(
+    Volume& volume, const QString& path, const QString& folder, const QDateTime& now, int count);
+/// As KeepShared(), before the first change of the data file by a run: for contents that this
+/// device has not left itself, which other devices' changes therefore may begin from, and for a
+/// file of an older version. NotNeeded for contents that there is a copy of, and for a new file. To
+/// be called by a FirstChangeListener of whoever opens the data file to write it.
+[[nodiscard]] Result<KeepOutcome> KeepFound(
+    Volume& volume, const QString& path, const QString& folder, const QDateTime& now, int count);
+
+/// Where the contents of a copy come from; nothing if it cannot be opened.
+[[nodiscard]] std::optional<History> HistoryOf(const KeptCopy& copy);
+/// The copy of the data file at `path` that is the newest state from which both histories come:
+/// what the changes of two devices are told by. Nothing if there is none. Whoever brings the two
+/// together, or only compares them, holds it back by HoldBack(), for it will be asked for again.
+[[nodiscard]] std::optional<KeptCopy> FindBase(
+    const QString& path, const QString& folder, const History& mine, const History& theirs);
+/// Keeps a copy from being removed for newer ones, until four others are held back after it.
+void HoldBack(const KeptCopy& copy);
 
 /// The copies of the data file at `path`, newest first. The file itself need not exist.
 [[nodiscard]] std::vector<KeptCopy> ListKeptCopies(const QString& path, const QString& folder);

@@ -64,7 +64,7 @@ ObjectId LastDeletion::RestoreRow()
     InventoryList definition;
     if (!m_row || (!isOpen && !m_catalogue.OpenList(m_list, definition)))
         return kNoObject;
-    const ObjectId row = volume.Write(ListCatalogue::kRowsType, kNoObject, m_row.values);
+    const ObjectId row = volume.AddBack(ListCatalogue::kRowsType, m_row);
     if (!isOpen)
         m_catalogue.CloseRows();
     return row;

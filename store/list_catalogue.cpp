@@ -473,8 +473,7 @@ bool ListCatalogue::CopyRows(const QString& from, const QString& to)
         ObjectId row = m_volume.SeekFirst(kRowsType);
         while (isDone && row != kNoObject) {
             const Record record = m_volume.ReadAll(kRowsType);
-            isDone
-                = record && m_volume.Write(kDeletedRowsType, kNoObject, record.values) != kNoObject;
+            isDone = record && m_volume.AddBack(kDeletedRowsType, record) != kNoObject;
             row = m_volume.SeekTo(kRowsType, row) == kNoObject ? kNoObject
                                                                : m_volume.SeekNext(kRowsType);
         }
@@ -487,7 +486,7 @@ bool ListCatalogue::CopyRows(const QString& from, const QString& to)
 bool ListCatalogue::PurgeDeleted()
 {
     for (const ObjectId database : m_volume.DatabasesOf(kDeletedRowsType)) {
-        if (!m_volume.DeleteDatabase(database))
+        if (!m_volume.PurgeDatabase(database))
             return false;
     }
     return true;

@@ -85,7 +85,9 @@ public:
                 values.push_back({ m_list.columns[static_cast<size_t>(place)].id, 0, value.value });
         }
         if (!values.empty()
-            && m_data.Write(ListCatalogue::kRowsType, kNoObject, values) == kNoObject)
+            && m_data.AddBack(
+                   ListCatalogue::kRowsType, { kNoObject, std::move(values), record.origin })
+                == kNoObject)
             m_error = m_data.LastError();
     }
     [[nodiscard]] Result<void> End()

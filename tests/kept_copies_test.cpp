@@ -239,6 +239,41 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(left));
     }
 
+    void whatAnotherDeviceHasSeenIsKeptAndFound()
+    {
+        Runs runs;
+        const auto keepFound = [&runs] {
+            return Take(KeepFound(*runs.file.data->MountedVolume(), runs.Path(), runs.Folder(),
+                runs.now, runs.keptCopies));
+        };
+        const auto history
+            = [&runs] { return Take(runs.file.data->MountedVolume()->ReadHistory()); };
+        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+        // What this device left needs no copy.
+        QCOMPARE(keepFound(), KeepOutcome::NotNeeded);
+        const History shared = history();
+        runs.file.MakeFullList(u"from elsewhere"_s);
+        QCOMPARE(keepFound(), KeepOutcome::Kept);
+        QCOMPARE(keepFound(), KeepOutcome::NotNeeded);
+        const History found = history();
+        for (int run = 0; run < 5; ++run)
+            QCOMPARE(runs.MakeList(QString::number(run)), KeepOutcome::Kept);
+        // The one of `shared` had gone before anybody asked.
+        QCOMPARE(runs.Copies().size(), size_t { 4 });
+        QVERIFY(!FindBase(runs.Path(), runs.Folder(), history(), shared));
+        const auto base = FindBase(runs.Path(), runs.Folder(), history(), found);
+        QVERIFY(base);
+        QCOMPARE(ListsIn(base->path), u"a 0, from elsewhere 0"_s);
+        QCOMPARE(HistoryOf(*base)->Latest(), found.Latest());
+        QVERIFY(HistoryOf(*base)->CoversCommon(history(), found));
+        const auto latest = FindBase(runs.Path(), runs.Folder(), history(), history());
+        QCOMPARE(latest->path, runs.Copies().front().path);
+        runs.keptCopies = 0;
+        QCOMPARE(keepFound(), KeepOutcome::NotNeeded);
+        QCOMPARE(runs.MakeList(u"b"_s), KeepOutcome::NotNeeded);
+        QCOMPARE(runs.FileCount(), 1);
+    }
+
     void dataFilesHaveCopiesOfTheirOwn()
     {
         Runs runs;

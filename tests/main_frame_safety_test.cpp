@@ -182,8 +182,8 @@ private Q_SLOTS:
     void aCopyThatCannotBeKeptIsTold()
     {
         const FrameErrand errand({ u"Attic"_s, u"Zoo"_s });
-        Act(kDeleteList);
         WriteFileBytes(errand.CopiesFolder(), {});
+        Act(kDeleteList);
         QVERIFY(!errand.frame->close());
         Act(u"see No copy of the data file could be kept. Error: 5; tap OK"_s);
         QTRY_VERIFY(!errand.frame->isVisible());

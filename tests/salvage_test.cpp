@@ -29,8 +29,12 @@ public:
     Damage()
     {
         ListFixture file;
-        Fill(file, u"Pantry"_s, kRows);
-        Fill(file, u"Tools"_s, 3);
+        // What tells of the tables lies before the rows.
+        const ObjectId pantry = file.MakeFullList(u"Pantry"_s);
+        file.MakeFullList(u"Tools"_s);
+        Fill(file, 3);
+        file.OpenList(pantry);
+        Fill(file, kRows);
         file.rows.reset();
         file.data->Unmount();
         if (!QFile::copy(file.Path(), Path()))
@@ -93,9 +97,8 @@ public:
 private:
     QTemporaryDir m_folder;
 
-    static void Fill(ListFixture& file, const QString& name, int rows)
+    static void Fill(ListFixture& file, int rows)
     {
-        file.MakeFullList(name);
         if (!file.data->BeginTransaction())
             qFatal("no transaction");
         // In no order, so that the pages of the table and of the index hold different rows.
@@ -314,9 +317,10 @@ private Q_SLOTS:
     void whatIsAsItMustBeIsBelieved()
     {
         const Damage sound;
-        // Page 1 before its tree begins and where its first record ends, and the last bytes of the
+        const auto tables = static_cast<int>(sound.PageOf(kTableLeaf, u"object_counter"_s));
+        // Page 1 before its tree begins, the first record of the tables, and the last bytes of the
         // pages that say which lists and columns there are.
-        for (const auto& [page, from, size] : { std::tuple(0, 0, 100), { 0, 4072, 16 },
+        for (const auto& [page, from, size] : { std::tuple(0, 0, 100), { tables, 4072, 16 },
                  { 2, 200, 100 }, { 3, 200, 16 }, { 2, 4088, 8 }, { 3, 4088, 8 } }) {
             Damage file;
             file.Lose(page, from, size);

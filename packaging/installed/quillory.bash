@@ -31,7 +31,7 @@ _quillory() {
                 word=${COMP_WORDS[++i]}
                 data=(--data "${word/#\~\//$HOME/}")
                 ;;
-            --all | --column | --columns | --dates | --encoding | --format | --from | --icon | --match | --sort \
+            --all | --base | --column | --columns | --dates | --encoding | --format | --from | --icon | --match | --sort \
                 | --warn-count | --where | --within) ((++i)) ;;
             -*) ;;
             *)
@@ -43,7 +43,7 @@ _quillory() {
     done
     local command=${words[0]:-}
     case $previous in
-        --all | --data)
+        --all | --base | --data)
             compopt -o default
             return
             ;;
@@ -83,7 +83,7 @@ _quillory() {
                 _quillory_ask lists | cut -f 1)
             ;;
         report:1 | show:1 | export:1 | import:1 | summary:1 | add:1 | set:1 | count:1 | delete:1 | rename:1 | remove:1) _quillory_offer < <(_quillory_ask lists | cut -f 1) ;;
-        export:2 | import:2 | report:2 | backup:1 | restore:1) compopt -o default ;;
+        export:2 | import:2 | report:2 | backup:1 | diff:1 | merge:1 | restore:1) compopt -o default ;;
     esac
 }
 complete -F _quillory quillory

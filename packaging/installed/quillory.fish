@@ -8,7 +8,7 @@ function __quillory_words
     for word in (commandline -opc)[2..-1]
         if test $skip = 1
             set skip 0
-        else if string match -qr -- '^--(all|data|column|columns|encoding|format|from|icon|match|sort|warn-count|where|within)$' $word
+        else if string match -qr -- '^--(all|base|data|column|columns|encoding|format|from|icon|match|sort|warn-count|where|within)$' $word
             set skip 1
         else if not string match -q -- '-*' $word
             echo $word
@@ -59,17 +59,17 @@ function __quillory_wants
 end
 
 complete -c quillory -f
-complete -c quillory -n '__quillory_after --all --data' -F
+complete -c quillory -n '__quillory_after --all --base --data' -F
 complete -c quillory -n '__quillory_after --sort --columns --match --where' -a '(__quillory_columns)'
 complete -c quillory -n '__quillory_after --encoding' -a 'utf-8 utf-16'
 complete -c quillory -n '__quillory_after --dates' -a iso
 complete -c quillory -n '__quillory_after --format; and contains -- report (__quillory_words)' -a 'pdf html'
 complete -c quillory -n '__quillory_after --format; and not contains -- report (__quillory_words)' -a 'csv tsv json html'
 complete -c quillory -n 'string match -q -- "-*" (commandline -ct)' -a '(__quillory_options)'
-set -l value --all --data --dates --format --match --sort --columns --where --encoding --column --icon --warn-count --within --from
+set -l value --all --base --data --dates --format --match --sort --columns --where --encoding --column --icon --warn-count --within --from
 complete -c quillory -n "not __quillory_after $value; and test (count (__quillory_words)) = 0" \
     -a '(__quillory_commands) (__quillory_lists)'
 complete -c quillory -n "not __quillory_after $value; and __quillory_wants 1 report show export import summary add set count delete rename remove" \
     -a '(__quillory_lists)'
 complete -c quillory -n "not __quillory_after $value; and __quillory_wants 2 export import report" -F
-complete -c quillory -n "not __quillory_after $value; and __quillory_wants 1 backup restore" -F
+complete -c quillory -n "not __quillory_after $value; and __quillory_wants 1 backup diff merge restore" -F

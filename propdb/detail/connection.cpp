@@ -41,13 +41,13 @@ struct Limit
 constexpr std::array kLimits {
     Limit { SQLITE_LIMIT_LENGTH, kMaxRecordBytes },
     Limit { SQLITE_LIMIT_SQL_LENGTH, 64 << 10 },
-    Limit { SQLITE_LIMIT_COLUMN, 1 + int { kMaxDatabaseProperties } },
+    Limit { SQLITE_LIMIT_COLUMN, kOwnColumns + int { kMaxDatabaseProperties } },
     Limit { SQLITE_LIMIT_EXPR_DEPTH, 64 },
     Limit { SQLITE_LIMIT_COMPOUND_SELECT, 4 },
-    Limit { SQLITE_LIMIT_FUNCTION_ARG, 1 + int { RecordVisit::kMaxProperties } },
+    Limit { SQLITE_LIMIT_FUNCTION_ARG, kOwnColumns + int { RecordVisit::kMaxProperties } },
     Limit { SQLITE_LIMIT_ATTACHED, 0 },
     Limit { SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 64 },
-    Limit { SQLITE_LIMIT_VARIABLE_NUMBER, 512 },
+    Limit { SQLITE_LIMIT_VARIABLE_NUMBER, kOwnColumns + int { kMaxDatabaseProperties } },
     Limit { SQLITE_LIMIT_TRIGGER_DEPTH, 1 },
     Limit { SQLITE_LIMIT_WORKER_THREADS, 0 },
 };
@@ -102,6 +102,7 @@ int Authorize(void* /*context*/, int action, const char* /*first*/, const char* 
     case SQLITE_CREATE_INDEX:
     case SQLITE_DROP_TABLE:
     case SQLITE_DROP_INDEX:
+    case SQLITE_ALTER_TABLE:
     case SQLITE_REINDEX:
         return SQLITE_OK;
     default:

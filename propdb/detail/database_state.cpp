@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/detail/database_state.h"
 
+#include "propdb/identity.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -10,6 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The parameter of the first value of a new record, behind its identifier and its origin.
+constexpr int kFirstValue = 3;
 /// Rows that lack values in every combination must not fill the memory with statements.
 constexpr size_t kMaxCachedStatements = 64;
 
@@ -85,23 +89,34 @@ QString DatabaseState::ColumnList(std::span<const PropertyId> ids) const
     return list;
 }
 
-Result<ObjectId> DatabaseState::Insert(std::span<const PropertyValue> values)
+QString DatabaseState::OriginColumn() const
+{
+    return schema->hasOrigins ? QString::fromLatin1(kOriginColumn) : u"NULL"_s;
+}
+
+Origin DatabaseState::OriginOf(ObjectId record, Origin stored) const
+{
+    return stored == kNoOrigin ? DerivedOrigin(schema->name, record) : stored;
+}
+
+Result<ObjectId> DatabaseState::Insert(std::span<const PropertyValue> values, Origin origin)
 {
     volume.NoteOrderChange();
     const auto ids = IdsOf(values);
     const auto make = [&] {
         QString parameters;
         for (size_t i = 0; i < ids.size(); ++i)
-            parameters += u", ?%1"_s.arg(i + 2);
+            parameters += u", ?%1"_s.arg(i + kFirstValue);
         return Statement::Prepare(volume.Connection(),
-            u"INSERT INTO %1(oid%2) VALUES(?1%3)"_s.arg(
-                QuotedName(schema->tableName), ColumnList(ids), parameters),
+            u"INSERT INTO %1(oid, %2%3) VALUES(?1, ?2%4)"_s.arg(
+                QuotedName(schema->tableName), OriginColumn(), ColumnList(ids), parameters),
             true);
     };
     QUILLORY_TRY_VALUE(Statement* const statement, inserts.Find(ids, make));
     QUILLORY_TRY_VALUE(const auto oid, volume.AllocateOid());
     statement->Bind(1, oid);
-    QUILLORY_TRY(BindAll(*statement, 2, values));
+    statement->Bind(2, static_cast<qint64>(origin == kNoOrigin ? volume.DrawOrigin() : origin));
+    QUILLORY_TRY(BindAll(*statement, kFirstValue, values));
     QUILLORY_TRY(statement->Run());
     return oid;
 }
@@ -156,12 +171,20 @@ Result<std::vector<ObjectId>> DatabaseState::ListRecords()
     return listing;
 }
 
+void DatabaseState::ForgetOlderSelects()
+{
+    if (areSelectsWithOrigins != schema->hasOrigins)
+        selects.Clear();
+    areSelectsWithOrigins = schema->hasOrigins;
+}
+
 Result<Record> DatabaseState::ReadRecord(ObjectId oid, std::span<const PropertyId> ids)
 {
+    ForgetOlderSelects();
     const auto make = [&] {
         return Statement::Prepare(volume.Connection(),
-            u"SELECT oid%1 FROM %2 WHERE oid = ?1"_s.arg(
-                ColumnList(ids), QuotedName(schema->tableName)),
+            u"SELECT oid, %1%2 FROM %3 WHERE oid = ?1"_s.arg(
+                OriginColumn(), ColumnList(ids), QuotedName(schema->tableName)),
             true);
     };
     QUILLORY_TRY_VALUE(Statement* const statement, selects.Find(ids, make));
@@ -169,10 +192,11 @@ Result<Record> DatabaseState::ReadRecord(ObjectId oid, std::span<const PropertyI
     QUILLORY_TRY_VALUE(const auto step, statement->Step());
     if (!step)
         return ErrorNumber::NotFound;
-    Record record { oid, std::vector<PropertyValue>(ids.size()) };
+    Record record { oid, std::vector<PropertyValue>(ids.size()),
+        OriginOf(oid, static_cast<Origin>(statement->Int64(1))) };
     for (size_t i = 0; i < ids.size(); ++i) {
         record.values[i].id = ids[i];
-        statement->ReadProperty(static_cast<int>(i) + 1, record.values[i]);
+        statement->ReadProperty(static_cast<int>(i) + kOwnColumns, record.values[i]);
     }
     statement->Reset();
     return record;

@@ -46,16 +46,23 @@ struct DatabaseState
     StatementCache inserts;
     StatementCache updates;
     StatementCache selects;
+    bool areSelectsWithOrigins = false;
     std::vector<ObjectId> listing;
     /// What `listing` is true of; none if there is no listing.
     std::optional<VolumeState::OrderVersion> listingVersion;
 
     /// The columns so listed, as SQL; NULL for one that the database has no column for.
     [[nodiscard]] QString ColumnList(std::span<const PropertyId> ids) const;
+    /// The column of the origins, as SQL; NULL where there is none.
+    [[nodiscard]] QString OriginColumn() const;
+    [[nodiscard]] Origin OriginOf(ObjectId record, Origin stored) const;
     /// Each within a write.
-    [[nodiscard]] Result<ObjectId> Insert(std::span<const PropertyValue> values);
+    /// kNoOrigin draws one.
+    [[nodiscard]] Result<ObjectId> Insert(std::span<const PropertyValue> values, Origin origin);
     [[nodiscard]] Result<ObjectId> Update(ObjectId oid, std::span<const PropertyValue> values);
     [[nodiscard]] Result<void> Delete(ObjectId oid);
+    /// Reads without an origin's column do not see one that came since.
+    void ForgetOlderSelects();
     /// Every record in sort order.
     [[nodiscard]] Result<std::vector<ObjectId>> ListRecords();
     [[nodiscard]] Result<Record> ReadRecord(ObjectId oid, std::span<const PropertyId> ids);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/detail/file_transaction.h"
 
+#include "propdb/detail/history_table.h"
+
 #include <sqlite3.h>
 
 #include <initializer_list>
@@ -71,6 +73,8 @@ Result<void> FileTransaction::Begin()
     }
     m_stateSeen = *state;
     m_isFirstPageKept = false;
+    m_isContentChanged = false;
+    m_isHistoryWritten = false;
     return {};
 }
 
@@ -82,6 +86,20 @@ Result<void> FileTransaction::VerifyUnchanged() const
     // there is for the next one to find out.
     const bool isKnown = m_stateSeen && !m_isInDoubt && !IsRunning();
     return isKnown && state != *m_stateSeen ? ErrorNumber::SharingViolation : ErrorNumber::None;
+}
+
+Result<void> FileTransaction::NoteInHistory()
+{
+    if (!IsForHistory())
+        return {};
+    return m_hasState ? AddRevision(m_connection) : AddState(m_connection, DrawState());
+}
+
+void FileTransaction::NoteCommitted()
+{
+    m_isNextOidStored = true;
+    m_hasCommitted = true;
+    m_hasState = !m_isHistoryWritten && (m_hasState || m_isContentChanged);
 }
 
 Result<void> FileTransaction::KeepFirstPage()
@@ -101,6 +119,8 @@ Result<void> FileTransaction::Commit()
         m_storeNextOid.Bind(1, static_cast<qint64>(m_nextOid));
         done = m_storeNextOid.Run();
     }
+    if (done)
+        done = NoteInHistory();
     if (!done) {
         Rollback();
         return done;
@@ -112,8 +132,7 @@ Result<void> FileTransaction::Commit()
         const auto state = m_file.ReadState();
         m_stateSeen = state ? std::optional(*state) : std::nullopt;
     }
-    m_isNextOidStored = true;
-    m_hasCommitted = true;
+    NoteCommitted();
     return {};
 }
 

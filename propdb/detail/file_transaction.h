@@ -32,6 +32,11 @@ public:
     /// Must come before anything is changed: has the journal begin with the file's first page, by
     /// which a later start knows whose it is.
     [[nodiscard]] Result<void> KeepFirstPage();
+    /// What is changed goes into the history: the first transaction that does so begins a state,
+    /// each later one counts a revision of it.
+    void NoteContentChange() { m_isContentChanged = true; }
+    /// The history was written as a whole; of this transaction it is told nothing.
+    void NoteHistoryWritten() { m_isHistoryWritten = true; }
     /// InvalidHandle if none is running. A commit that SQLite reports to have failed may have been
     /// done: then the file tells, and what it holds is made durable. A failure means that nothing
     /// was changed, unless the medium does not answer any more; it is then asked again before the
@@ -39,6 +44,8 @@ public:
     [[nodiscard]] Result<void> Commit();
     /// Undoes everything since Begin().
     void Rollback();
+    /// Whether this connection has begun a state.
+    [[nodiscard]] bool HasState() const { return m_hasState; }
     /// Whether anything was committed.
     [[nodiscard]] bool HasCommitted() const { return m_hasCommitted; }
 
@@ -63,6 +70,10 @@ private:
     quint64 m_nextOid = 1;
     bool m_isNextOidStored = true;
     bool m_isFirstPageKept = false;
+    bool m_isContentChanged = false;
+    bool m_isHistoryWritten = false;
+    /// The latest state of the history was begun by this connection.
+    bool m_hasState = false;
     bool m_hasCommitted = false;
     /// The file as this connection left it; none where it is not known.
     std::optional<VolumeFile::State> m_stateSeen;
@@ -70,6 +81,9 @@ private:
     bool m_isInDoubt = false;
 
     [[nodiscard]] Result<void> ReadCounter(ObjectId latest);
+    [[nodiscard]] bool IsForHistory() const { return m_isContentChanged && !m_isHistoryWritten; }
+    [[nodiscard]] Result<void> NoteInHistory();
+    void NoteCommitted();
     [[nodiscard]] Result<void> FindOutcome(ErrorNumber commitError);
     /// Whether the commit in doubt was done; false too if none is.
     [[nodiscard]] Result<bool> SettleDoubt();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/detail/record_visit.h"
 
+#include "propdb/detail/schema.h"
 #include "propdb/detail/sqlite_error.h"
 
 #include <sqlite3.h>
@@ -18,18 +19,23 @@ QByteArrayView ArgumentBytes(sqlite3_value* value)
     return { bytes, bytes == nullptr ? 0 : sqlite3_value_bytes16(value) };
 }
 
-/// The arguments of the function: the identifier, then the properties.
+/// The arguments of the function: the identifier, the origin, then the properties.
 class ArgumentRecord final : public ScannedRecord
 {
 public:
     explicit ArgumentRecord(sqlite3_value** values)
         : m_oid(values[0])
-        , m_properties(values + 1)
+        , m_origin(values[1])
+        , m_properties(values + kOwnColumns)
     { }
 
     [[nodiscard]] ObjectId Oid() const override
     {
         return static_cast<ObjectId>(sqlite3_value_int64(m_oid));
+    }
+    [[nodiscard]] Origin StoredOrigin() const override
+    {
+        return static_cast<Origin>(sqlite3_value_int64(m_origin));
     }
     [[nodiscard]] bool IsMissing(size_t place) const override
     {
@@ -50,6 +56,7 @@ public:
 
 private:
     sqlite3_value* m_oid;
+    sqlite3_value* m_origin;
     sqlite3_value** m_properties;
 };
 
@@ -72,7 +79,7 @@ Result<void> RecordVisit::Register(sqlite3* connection)
 void RecordVisit::Visit(sqlite3_context* context, int /*count*/, sqlite3_value** values)
 {
     auto* visit = static_cast<RecordVisit*>(sqlite3_user_data(context));
-    if (!visit->IsSound(context, values + 1))
+    if (!visit->IsSound(context, values + kOwnColumns))
         sqlite3_result_error_code(context, SQLITE_CORRUPT);
     else if (!visit->Visit(ArgumentRecord(values)))
         sqlite3_result_error_code(context, SQLITE_ABORT);

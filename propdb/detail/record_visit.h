@@ -14,9 +14,9 @@ struct sqlite3_value;
 
 namespace Quillory {
 
-/// Calls a visitor from within SQLite: the SQL function kFunctionName, given an identifier and
-/// values, visits them as a record. That spares each record the way out of SQLite and back in,
-/// a fifth of the time of a scan.
+/// Calls a visitor from within SQLite: the SQL function kFunctionName, given an identifier, an
+/// origin and values, visits them as a record. That spares each record the way out of SQLite and
+/// back in, a fifth of the time of a scan.
 class RecordVisit
 {
 public:

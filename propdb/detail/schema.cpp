@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <span>
 #include <utility>
 
 namespace Quillory {
@@ -21,6 +22,8 @@ struct SystemTable
 {
     const char* name;
     const char* sql;
+    /// The first version of the layout that has it.
+    int since = 1;
 };
 
 /// The tables that describe a volume. Their words are compared when a file is opened.
@@ -37,13 +40,30 @@ constexpr std::array kSystemTables {
     SystemTable { "sort_order",
         "CREATE TABLE sort_order(database INTEGER NOT NULL, position INTEGER NOT NULL, "
         "id INTEGER NOT NULL, PRIMARY KEY(database, position)) STRICT, WITHOUT ROWID" },
+    SystemTable { "history",
+        "CREATE TABLE history(position INTEGER PRIMARY KEY, state INTEGER NOT NULL, "
+        "revision INTEGER NOT NULL) STRICT",
+        2 },
 };
 
 constexpr qsizetype kMaxNameLength = 64;
 
+/// Those of a version; each has all of the ones before.
+std::span<const SystemTable> TablesOf(int formatVersion)
+{
+    const auto end = std::ranges::find_if(
+        kSystemTables, [formatVersion](const auto& table) { return table.since > formatVersion; });
+    return { kSystemTables.begin(), end };
+}
+
 QString ColumnSql(const PropertyColumn& column)
 {
     return QuotedName(column.columnName) + u' ' + QLatin1StringView(DeclaredType(column.id));
+}
+
+QString OriginColumnSql()
+{
+    return QLatin1StringView(kOriginColumn) + u" INTEGER"_s;
 }
 
 QString TableSql(const DatabaseSchema& schema)
@@ -51,6 +71,8 @@ QString TableSql(const DatabaseSchema& schema)
     QString sql = u"CREATE TABLE "_s + QuotedName(schema.tableName) + u"(oid INTEGER PRIMARY KEY"_s;
     for (const PropertyColumn& column : schema.properties)
         sql += u", "_s + ColumnSql(column);
+    if (schema.hasOrigins)
+        sql += u", "_s + OriginColumnSql();
     return sql + u") STRICT"_s;
 }
 
@@ -110,6 +132,19 @@ bool Fits(const Statement& row, int column)
     return number >= 0 && number <= std::numeric_limits<quint32>::max();
 }
 
+bool HasOrigins(int formatVersion)
+{
+    constexpr int kFirstWithOrigins = 2;
+    return formatVersion >= kFirstWithOrigins;
+}
+
+Result<int> ReadFormatVersion(sqlite3* connection)
+{
+    QUILLORY_TRY_VALUE(auto select, Statement::Prepare(connection, u"PRAGMA user_version"_s));
+    QUILLORY_TRY(select.Step());
+    return static_cast<int>(select.Int64(0));
+}
+
 Result<void> LoadDatabases(sqlite3* connection, VolumeSchema& volume)
 {
     QUILLORY_TRY_VALUE(auto select,
@@ -118,6 +153,7 @@ Result<void> LoadDatabases(sqlite3* connection, VolumeSchema& volume)
     QSet<QString> tables;
     while (select.Next()) {
         auto schema = std::make_shared<DatabaseSchema>();
+        schema->hasOrigins = HasOrigins(volume.FormatVersion());
         schema->oid = select.Oid(0);
         schema->name = select.Text(1);
         schema->type = static_cast<DatabaseType>(select.Int64(2));
@@ -171,7 +207,7 @@ Result<void> LoadSortOrders(sqlite3* connection, const VolumeSchema& volume)
 QHash<QString, QString> ExpectedObjects(const VolumeSchema& volume)
 {
     QHash<QString, QString> expected;
-    for (const SystemTable& table : kSystemTables)
+    for (const SystemTable& table : TablesOf(volume.FormatVersion()))
         expected.insert(QString::fromLatin1(table.name), QString::fromLatin1(table.sql));
     for (const auto& [oid, schema] : volume.All()) {
         expected.insert(schema->tableName, TableSql(*schema));
@@ -233,6 +269,13 @@ void VolumeSchema::Rename(DatabaseSchema& database, const QString& name, Databas
     database.name = name;
     database.type = type;
     m_oids.insert(name, database.oid);
+}
+
+void VolumeSchema::SetFormatVersion(int version)
+{
+    m_formatVersion = version;
+    for (const auto& [oid, database] : m_databases)
+        database->hasOrigins = HasOrigins(version);
 }
 
 QString QuotedName(const QString& name)
@@ -358,17 +401,32 @@ Result<void> DropDatabaseSchema(sqlite3* connection, const DatabaseSchema& schem
     return {};
 }
 
+Result<void> CarryOverSchema(sqlite3* connection, const VolumeSchema& schema)
+{
+    const size_t present = TablesOf(schema.FormatVersion()).size();
+    for (const SystemTable& table : std::span(kSystemTables).subspan(present))
+        QUILLORY_TRY(Execute(connection, table.sql));
+    for (const auto& [oid, database] : schema.All()) {
+        if (!database->hasOrigins)
+            QUILLORY_TRY(RunSql(connection,
+                u"ALTER TABLE "_s + QuotedName(database->tableName) + u" ADD COLUMN "_s
+                    + OriginColumnSql()));
+    }
+    return {};
+}
+
 Result<VolumeSchema> LoadVolumeSchema(sqlite3* connection)
 {
     // While a row is being read no other program's write comes between one table and the next.
     QUILLORY_TRY_VALUE(auto hold, Statement::Prepare(connection, u"SELECT 1 FROM sqlite_schema"_s));
     QUILLORY_TRY(hold.Step());
     QUILLORY_TRY_VALUE(const auto actual, ActualObjects(connection));
-    for (const SystemTable& table : kSystemTables) {
+    QUILLORY_TRY_VALUE(const int formatVersion, ReadFormatVersion(connection));
+    for (const SystemTable& table : TablesOf(formatVersion)) {
         if (actual.value(QString::fromLatin1(table.name)) != QString::fromLatin1(table.sql))
             return ErrorNumber::FileCorrupt;
     }
-    VolumeSchema volume;
+    VolumeSchema volume(formatVersion);
     QUILLORY_TRY(LoadDatabases(connection, volume));
     QUILLORY_TRY(LoadProperties(connection, volume));
     QUILLORY_TRY(LoadSortOrders(connection, volume));

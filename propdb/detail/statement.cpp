@@ -27,6 +27,8 @@ public:
     {
         return static_cast<ObjectId>(sqlite3_column_int64(m_statement, 0));
     }
+    /// A column like any other is read as such.
+    [[nodiscard]] Origin StoredOrigin() const override { return kNoOrigin; }
     [[nodiscard]] bool IsMissing(size_t place) const override
     {
         return sqlite3_column_type(m_statement, ColumnOf(place)) == SQLITE_NULL;

@@ -24,6 +24,8 @@ public:
     /// The record's first `skipped` columns have no places. Reads from `bytes` while it lives.
     StoredRecord(qint64 rowId, QByteArrayView bytes, size_t skipped);
 
+    /// Pages do not say which column it is.
+    [[nodiscard]] Origin StoredOrigin() const override { return kNoOrigin; }
     [[nodiscard]] ObjectId Oid() const override { return static_cast<ObjectId>(m_rowId); }
     [[nodiscard]] bool IsMissing(size_t place) const override;
     [[nodiscard]] qint64 Integer(size_t place) const override;

@@ -4,6 +4,7 @@
 #include "propdb/detail/confined_vfs.h"
 #include "propdb/detail/file_system.h"
 #include "propdb/detail/hot_journal.h"
+#include "propdb/identity.h"
 
 #include <QtEndian>
 
@@ -231,6 +232,24 @@ Result<VolumeFile::State> VolumeFile::ReadState() const
         return ErrorNumber::FileCorrupt;
     return State { qFromBigEndian<quint32>(field.data()), status.st_size, status.st_mtim.tv_sec,
         status.st_mtim.tv_nsec };
+}
+
+Result<quint64> VolumeFile::HashPages() const
+{
+    struct stat status
+    { };
+    if (fstat(m_descriptor, &status) != 0)
+        return ErrorFromErrno(errno);
+    const off_t pageCount = status.st_size / kPageSize;
+    auto hash = static_cast<quint64>(pageCount);
+    for (off_t page = 1; page < pageCount; ++page) {
+        std::array<char, kPageReserve> checksum {};
+        const off_t place = (page + 1) * kPageSize - kPageReserve;
+        if (pread(m_descriptor, checksum.data(), checksum.size(), place) != kPageReserve)
+            return ErrorNumber::ReadFault;
+        hash = StableHash(qFromBigEndian<quint64>(checksum.data()), hash);
+    }
+    return hash;
 }
 
 Result<void> VolumeFile::GiveModeTo(const QByteArray& path) const

@@ -15,7 +15,7 @@ namespace Quillory {
 /// Stands in the file's header; tells a volume from any other SQLite file.
 constexpr int kApplicationId = 0x5175696C;
 /// The version of the file's layout; files with a higher one are refused.
-constexpr int kFormatVersion = 1;
+constexpr int kFormatVersion = 2;
 
 /// Where the fields of SQLite's file header lie.
 struct HeaderLayout
@@ -76,6 +76,8 @@ public:
         friend bool operator==(const State&, const State&) = default;
     };
     [[nodiscard]] Result<State> ReadState() const;
+    /// Follows from the checksums of all pages but the first, and from how many there are.
+    [[nodiscard]] Result<quint64> HashPages() const;
     /// FileCorrupt unless the file consists of whole pages. It need not before its journal was
     /// played back.
     [[nodiscard]] Result<void> VerifySize() const;

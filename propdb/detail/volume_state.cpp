@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "propdb/detail/volume_state.h"
 
+#include "propdb/detail/history_table.h"
+
 #include <sqlite3.h>
 
 #include <utility>
@@ -101,16 +103,18 @@ Result<const VolumeSchema*> VolumeState::Schema()
     return &m_schema;
 }
 
-Result<void> VolumeState::BeginWrite()
+Result<void> VolumeState::BeginWrite(ChangeKind kind)
 {
     if (!m_isInTransaction)
-        QUILLORY_TRY(Begin());
+        QUILLORY_TRY(Begin(kind));
     // A failure can have ended the transaction underneath; what follows must not stand alone.
     if (!m_transaction.IsRunning())
         return ErrorNumber::InvalidHandle;
     const auto kept = m_transaction.KeepFirstPage();
     if (!kept && !m_isInTransaction)
         Rollback();
+    if (kind == ChangeKind::Content)
+        m_transaction.NoteContentChange();
     return kept;
 }
 
@@ -130,7 +134,7 @@ Result<void> VolumeState::BeginTransaction()
 {
     if (m_isInTransaction)
         return ErrorNumber::AlreadyExists;
-    QUILLORY_TRY(Begin());
+    QUILLORY_TRY(Begin(ChangeKind::Content));
     m_isInTransaction = true;
     return {};
 }
@@ -146,10 +150,58 @@ Result<void> VolumeState::EndTransaction(bool commit)
     return {};
 }
 
-Result<void> VolumeState::Begin()
+Result<void> VolumeState::Begin(ChangeKind kind)
 {
     QUILLORY_TRY(RefreshSchema());
+    if (m_access == VolumeAccess::Exclusive)
+        QUILLORY_TRY(PrepareChange(kind));
     return m_transaction.Begin();
+}
+
+Result<void> VolumeState::PrepareChange(ChangeKind kind)
+{
+    const bool isOlder = m_schema.FormatVersion() < kFormatVersion;
+    if (m_firstChangeListener && !m_transaction.HasState()
+        && (isOlder || kind == ChangeKind::Content)) {
+        // Once, also where it throws.
+        const auto listener = std::exchange(m_firstChangeListener, nullptr);
+        listener();
+    }
+    return isOlder ? CarryOver() : Result<void>();
+}
+
+Result<void> VolumeState::CarryOver()
+{
+    QUILLORY_TRY(m_transaction.Begin());
+    m_isSchemaChanged = true;
+    auto done = DerivedHistory(m_file);
+    auto carried = done.Error() == ErrorNumber::None ? m_transaction.KeepFirstPage() : done.Error();
+    if (carried)
+        carried = CarryOverSchema(Connection(), m_schema);
+    if (carried)
+        carried = WriteHistoryTable(Connection(), *done);
+    if (!carried) {
+        Rollback();
+        return carried;
+    }
+    QUILLORY_TRY(Commit());
+    m_schema.SetFormatVersion(kFormatVersion);
+    return {};
+}
+
+Result<History> VolumeState::ReadHistory()
+{
+    QUILLORY_TRY(RefreshSchema());
+    return m_schema.FormatVersion() < kFormatVersion ? DerivedHistory(m_file)
+                                                     : ReadHistoryTable(Connection());
+}
+
+Result<void> VolumeState::WriteHistory(const History& history)
+{
+    return RunWrite(Extent::Schema, ChangeKind::Content, [&] {
+        m_transaction.NoteHistoryWritten();
+        return WriteHistoryTable(Connection(), history);
+    });
 }
 
 Result<void> VolumeState::Commit()

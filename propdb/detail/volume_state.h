@@ -28,6 +28,7 @@ public:
     [[nodiscard]] Result<void> Connect();
 
     [[nodiscard]] sqlite3* Connection() const { return m_connection.get(); }
+    [[nodiscard]] const QByteArray& Path() const { return m_path; }
     [[nodiscard]] const VolumeFile& File() const { return m_file; }
     [[nodiscard]] RecordVisit& Visit() { return m_visit; }
 
@@ -57,24 +58,35 @@ public:
     /// transaction that is durable when this returns, or undone where anything fails. A transaction
     /// that runs is joined: what was changed is part of it, and where `work` fails, or throws, it
     /// goes on as if `work` had not been. Refused on a file that is not the one that was opened.
-    template <typename Work> auto Write(const Work& work) -> decltype(work())
+    template <typename Work>
+    auto Write(const Work& work, ChangeKind kind = ChangeKind::Content) -> decltype(work())
     {
-        return RunWrite(Extent::OneStatement, work);
+        return RunWrite(Extent::OneStatement, kind, work);
     }
     /// The same for work that is given the schema, to change it there and in the file, which takes
     /// several statements: where it fails, the transaction that was joined is undone as a whole.
     template <typename Work>
-    auto ChangeSchema(const Work& work) -> decltype(work(std::declval<VolumeSchema&>()))
+    auto ChangeSchema(const Work& work, ChangeKind kind = ChangeKind::Content)
+        -> decltype(work(std::declval<VolumeSchema&>()))
     {
-        return RunWrite(Extent::Schema, [this, &work] {
+        return RunWrite(Extent::Schema, kind, [this, &work] {
             m_isSchemaChanged = true;
             return work(m_schema);
         });
     }
     /// Within a write: a fresh identifier.
     [[nodiscard]] Result<ObjectId> AllocateOid() { return m_transaction.AllocateOid(); }
+    [[nodiscard]] Origin DrawOrigin() { return m_origins.Draw(); }
     /// Within a write: it may change the order of records.
     void NoteOrderChange() { ++m_orderChanges; }
+
+    [[nodiscard]] Result<History> ReadHistory();
+    /// Puts this in the place of the file's history; the transaction adds nothing to it.
+    [[nodiscard]] Result<void> WriteHistory(const History& history);
+    void SetFirstChangeListener(Volume::FirstChangeListener listener)
+    {
+        m_firstChangeListener = std::move(listener);
+    }
 
     /// AlreadyExists if a transaction is running.
     [[nodiscard]] Result<void> BeginTransaction();
@@ -96,6 +108,8 @@ private:
 
     FileTransaction m_transaction;
     Statement m_readDataVersion;
+    OriginSource m_origins;
+    Volume::FirstChangeListener m_firstChangeListener;
 
     /// Between BeginTransaction() and EndTransaction(), also once a failure has undone it all.
     bool m_isInTransaction = false;
@@ -111,7 +125,8 @@ private:
         OneStatement,
         Schema,
     };
-    template <typename Work> auto RunWrite(Extent extent, const Work& work) -> decltype(work());
+    template <typename Work>
+    auto RunWrite(Extent extent, ChangeKind kind, const Work& work) -> decltype(work());
 
     /// The number of the file's state: another program's commit changes it, this one's do not.
     [[nodiscard]] Result<qint64> ReadFileVersion();
@@ -121,18 +136,22 @@ private:
     /// transaction that a failure has ended underneath, or beside another program that writes.
     [[nodiscard]] Result<void> RefreshSchema();
 
-    [[nodiscard]] Result<void> BeginWrite();
+    [[nodiscard]] Result<void> BeginWrite(ChangeKind kind);
     [[nodiscard]] Result<void> EndWrite(Extent extent, ErrorNumber outcome);
-    [[nodiscard]] Result<void> Begin();
+    [[nodiscard]] Result<void> Begin(ChangeKind kind);
+    /// Tells the listener, and carries a file of an older version over, in a transaction of its
+    /// own: whoever has a database open sees either layout whole.
+    [[nodiscard]] Result<void> PrepareChange(ChangeKind kind);
+    [[nodiscard]] Result<void> CarryOver();
     [[nodiscard]] Result<void> Commit();
     /// Undoes everything since Begin() and reads the schema anew if it had changed.
     void Rollback();
 };
 
 template <typename Work>
-auto VolumeState::RunWrite(Extent extent, const Work& work) -> decltype(work())
+auto VolumeState::RunWrite(Extent extent, ChangeKind kind, const Work& work) -> decltype(work())
 {
-    QUILLORY_TRY(BeginWrite());
+    QUILLORY_TRY(BeginWrite(kind));
     try {
         auto outcome = work();
         QUILLORY_TRY(EndWrite(extent, outcome.Error()));

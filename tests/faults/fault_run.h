@@ -82,5 +82,7 @@ void RefuseForeignFiles(FaultRun& run);
 void LayJournals(FaultRun& run);
 /// Other processes read, write and lock the file beside the program.
 void ShareTheFile(FaultRun& run);
+/// Three devices change copies of one file, exchange them and bring them together.
+void MergeDevices(FaultRun& run);
 
 } // namespace Quillory

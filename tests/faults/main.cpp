@@ -30,6 +30,7 @@ constexpr std::array kFaultKinds {
     FaultKind { "damage", "the file is damaged at rest", &DamageFiles },
     FaultKind { "foreign", "the file is another program's (a table of them)", &RefuseForeignFiles },
     FaultKind { "journals", "a hostile journal lies beside the file", &LayJournals },
+    FaultKind { "devices", "three devices change one file apart and merge", &MergeDevices },
     FaultKind { "neighbours", "other processes use the file as well", &ShareTheFile },
 };
 
