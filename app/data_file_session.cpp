@@ -56,12 +56,10 @@ void DataFileSession::EndOpening(DataFileOpener::Outcome outcome)
 {
     m_hasSettings = outcome != DataFileOpener::Outcome::NothingChosen;
     m_isOpen = outcome == DataFileOpener::Outcome::Opened;
-    if (m_isOpen)
-        KeepBeforeFirstChange();
-    if (m_isOpen)
-        Q_EMIT Opened();
-    else
-        Q_EMIT NotOpened();
+    if (!m_isOpen)
+        return Q_EMIT NotOpened();
+    KeepBeforeFirstChange();
+    Q_EMIT Opened();
 }
 
 void DataFileSession::NoteFailure(ErrorNumber error)
@@ -144,20 +142,38 @@ void DataFileSession::WatchForUpdates()
 
 void DataFileSession::LookForUpdate()
 {
-    // What would be lost is told of at the next change, or at the end.
-    if (!m_volume.IsMounted() || m_volume.HasChangedContent())
-        return;
-    if (m_volume.MountedVolume()->VerifyUnchanged().Error() != ErrorNumber::SharingViolation)
+    if (!IsReplaced())
         return;
     if (!Questions::Of(&m_pages).IsIdle() || !Volume::VerifyPagesOf(Path()))
         return m_watch.LookAgain();
-    Q_EMIT Updated();
+    if (WouldLose())
+        Q_EMIT Diverged();
+    else
+        Q_EMIT Updated();
 }
 
-bool DataFileSession::Reopen()
+bool DataFileSession::IsReplaced()
+{
+    return m_volume.IsMounted()
+        && m_volume.MountedVolume()->VerifyUnchanged().Error() == ErrorNumber::SharingViolation;
+}
+
+bool DataFileSession::WouldLose()
+{
+    if (!m_volume.HasChangedContent())
+        return false;
+    const auto here = m_volume.MountedVolume()->ReadHistory();
+    const auto other = Volume::Mount(Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly);
+    if (!here || !other)
+        return true;
+    const auto there = (*other)->ReadHistory();
+    return !there || !there->Covers(here->Latest());
+}
+
+bool DataFileSession::Reopen(Lost lost)
 {
     const WaitCursor wait;
-    if (PlaceError() == ErrorNumber::SharingViolation)
+    if (lost == Lost::Tell && PlaceError() == ErrorNumber::SharingViolation)
         ShowMessage(&m_pages, KeepLostFile(ErrorNumber::SharingViolation), MessageIcon::Stop);
     m_volume.Unmount();
     if (m_volume.Mount(m_settings.DbPath, Disposition::OpenExisting) == ErrorNumber::None

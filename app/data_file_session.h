@@ -3,6 +3,7 @@
 
 #include "app/data_file_opener.h"
 #include "app/data_file_watch.h"
+#include "merge/file_merge.h"
 #include "store/kept_copies.h"
 #include "store/list_catalogue.h"
 #include "store/settings.h"
@@ -41,10 +42,20 @@ public:
 
     /// Opens the data file, asking where need be. Opened() or NotOpened() comes once.
     void Open();
-    /// Opens what is in the data file's place now, as after a failed write. A file that is gone
-    /// from there is kept as a copy if it had changes of this run, and told of. False if nothing
-    /// could be opened; then nothing is.
-    [[nodiscard]] bool Reopen();
+    enum class Lost
+    {
+        /// A file that is gone from its place is kept as a copy if it had changes of this run, and
+        /// told of.
+        Tell,
+        /// Nothing is: what the old file held is in the new one.
+        Nothing,
+    };
+    /// Opens what is in the data file's place now. False if nothing could be opened; then nothing
+    /// is.
+    [[nodiscard]] bool Reopen(Lost lost);
+    /// Whether another file has taken the place of the open one.
+    [[nodiscard]] bool IsReplaced();
+    [[nodiscard]] CopiesPlace Copies() const { return { m_copiesFolder, m_settings.keptCopies }; }
     /// Takes the file away from the pages: nothing of theirs gets into it any more.
     void Abandon();
     /// A failed write that was told already, by whoever wrote, is not told again.
@@ -60,9 +71,11 @@ Q_SIGNALS:
     void NotOpened();
     /// A write failed, and the file is to be opened again.
     void RetryChosen();
-    /// Another whole data file has come in the place of the open one, which holds no change of this
-    /// run that would be lost: it may be opened instead. Told again until it is.
+    /// Another whole data file has come in the place of the open one. Updated() if the open one
+    /// holds no change of this run that would be lost, so that the other may be opened instead;
+    /// else Diverged(). Told again until it is.
     void Updated();
+    void Diverged();
 
 private:
     Settings& m_settings;
@@ -86,9 +99,11 @@ private:
     [[nodiscard]] ErrorNumber PlaceError();
     [[nodiscard]] Result<KeepOutcome> Keep();
     void LookForUpdate();
-    /// Keeps what would go with a file that is no longer in its place, and says so.
+    /// Whether the file holds changes of this run that the one in its place lacks.
+    [[nodiscard]] bool WouldLose();
     /// Keeps the file as it was found, if that is not what this device left, once it is changed.
     void KeepBeforeFirstChange();
+    /// Keeps what would go with a file that is no longer in its place, and says so.
     [[nodiscard]] QString KeepLostFile(ErrorNumber placeError);
 };
 

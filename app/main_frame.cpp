@@ -2,6 +2,7 @@
 #include "app/main_frame.h"
 
 #include "app/home_list.h"
+#include "app/merge_page.h"
 #include "app/plain_pages.h"
 #include "listdef/display_options_page.h"
 #include "res/dialog_table.h"
@@ -78,8 +79,11 @@ MainFrame::MainFrame(Settings settings, Places places, QWidget* parent)
     connect(&m_session, &DataFileSession::Opened, this, &MainFrame::ShowLists);
     // Not from inside the question whose answer this is.
     connect(&m_session, &DataFileSession::NotOpened, this, &QWidget::close, Qt::QueuedConnection);
-    connect(&m_session, &DataFileSession::RetryChosen, this, &MainFrame::ReopenDataFile);
+    connect(&m_session, &DataFileSession::RetryChosen, this,
+        [this] { m_merge.OfferReplaced([this] { ReopenDataFile(DataFileSession::Lost::Tell); }); });
     connect(&m_session, &DataFileSession::Updated, this, &MainFrame::TakeUpdate);
+    connect(&m_session, &DataFileSession::Diverged, this, [this] { m_merge.OfferReplaced([] {}); });
+    connect(&m_merge, &DeviceMerge::Merged, this, &MainFrame::ShowMerged);
     // On every page, not on the home list alone. Some desktops name no key of their own for the
     // end.
     connect(
@@ -172,6 +176,7 @@ void MainFrame::ShowLists()
         [this] {
             m_deletions.Forget();
             m_session.WatchForUpdates();
+            m_merge.OfferBeside();
         },
         Qt::QueuedConnection);
     const StartRequest wanted = std::exchange(m_wanted, {});
@@ -292,20 +297,23 @@ void MainFrame::closeEvent(QCloseEvent* event)
 
 void MainFrame::EndRun()
 {
-    m_deletions.Forget();
-    m_session.End([this] {
-        // A window that is gone must leave nothing to be answered.
-        m_questions.WhenIdle([this] {
-            m_mayClose = true;
-            if (!m_isInCloseEvent)
-                close();
+    // Where both are brought together the window stays, and says what came of it.
+    m_merge.OfferReplaced([this] {
+        m_deletions.Forget();
+        m_session.End([this] {
+            // A window that is gone must leave nothing to be answered.
+            m_questions.WhenIdle([this] {
+                m_mayClose = true;
+                if (!m_isInCloseEvent)
+                    close();
+            });
         });
     });
 }
 
-void MainFrame::ReopenDataFile()
+void MainFrame::ReopenDataFile(DataFileSession::Lost lost)
 {
-    if (m_session.Reopen()) {
+    if (m_session.Reopen(lost)) {
         // What was deleted from another file must not come back in this one.
         m_deletions.Abandon();
         if (ReopenList())
@@ -322,9 +330,17 @@ void MainFrame::ReopenDataFile()
 
 void MainFrame::TakeUpdate()
 {
-    ReopenDataFile();
-    if (m_session.IsOpen())
-        m_pages->Top()->Say(tr("Updated from another device"));
+    ReopenDataFile(DataFileSession::Lost::Nothing);
+    m_pages->Top()->Say(tr("Updated from another device"));
+}
+
+void MainFrame::ShowMerged(const std::vector<MergeNote>& notes)
+{
+    // A write that failed because the other version was there can be tried again.
+    m_session.ForgetFailure();
+    ReopenDataFile(DataFileSession::Lost::Nothing);
+    if (!notes.empty())
+        m_pages->Push(new MergePage(notes, m_context));
 }
 
 bool MainFrame::ReopenList()
@@ -333,7 +349,8 @@ bool MainFrame::ReopenList()
         return true;
     // The identifier need not be that of the same list.
     InventoryList reopened;
-    if (!m_session.Catalogue().OpenList(m_openList, reopened) || reopened.columns != m_list.columns)
+    if (!m_session.Catalogue().OpenList(m_openList, reopened) || reopened.MapName != m_list.MapName
+        || reopened.columns != m_list.columns)
         return false;
     // How it is laid out is this window's.
     reopened.TableColSizes = m_list.TableColSizes;

@@ -3,6 +3,7 @@
 
 #include "app/data_file_session.h"
 #include "app/deletions.h"
+#include "app/device_merge.h"
 #include "app/list_definitions.h"
 #include "app/list_transfer.h"
 #include "desktop/interruptions.h"
@@ -74,6 +75,7 @@ private:
     DataFileSession m_session { m_settings, m_places.copies, *m_pages };
     Deletions m_deletions;
     ListDefinitions m_definitions;
+    DeviceMerge m_merge { m_session, *m_pages };
     ListTransfer m_transfer { m_session, *m_pages, m_context };
     LandscapeShape m_landscape;
     /// What to open once the data file is.
@@ -101,8 +103,9 @@ private:
     /// Has `act` follow on an interruption, when and as that is met.
     void Meet(Interruption what, const std::function<void()>& act);
     void EndRun();
-    void ReopenDataFile();
+    void ReopenDataFile(DataFileSession::Lost lost);
     void TakeUpdate();
+    void ShowMerged(const std::vector<MergeNote>& notes);
     /// Whether the open list is still there with its columns; its definition is the file's then.
     [[nodiscard]] bool ReopenList();
     void RefreshPages();

@@ -99,8 +99,8 @@ public:
 
     void Exchange()
     {
-        const auto done = ExchangeMerged(m_plan, Mine(), Theirs(), m_mine->Path(), Copies(),
-            QDateTime::currentDateTimeUtc());
+        const auto done = ExchangeMerged(
+            m_plan, Mine(), Theirs(), m_mine->Path(), Copies(), QDateTime::currentDateTimeUtc());
         if (!done)
             Fail(u"nothing was changed: %1"_s.arg(ErrorText(done.Error())));
     }
@@ -122,8 +122,8 @@ private:
     [[nodiscard]] Result<std::unique_ptr<Volume>> FindBase() const
     {
         if (m_run.parser.isSet(u"base"_s))
-            return Volume::Mount(m_run.parser.value(u"base"_s), Disposition::OpenExisting,
-                VolumeAccess::ReadOnly);
+            return Volume::Mount(
+                m_run.parser.value(u"base"_s), Disposition::OpenExisting, VolumeAccess::ReadOnly);
         return OpenBase(Mine(), Theirs(), m_mine->Path(), Copies());
     }
 };

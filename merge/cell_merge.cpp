@@ -30,8 +30,7 @@ struct Conflict
 Settlement AddCounts(const Conflict& conflict, PropertyValue& value)
 {
     using Limits = std::numeric_limits<qint32>;
-    const qint64 sum
-        = CountOf(conflict.mine) + CountOf(conflict.theirs) - CountOf(*conflict.base);
+    const qint64 sum = CountOf(conflict.mine) + CountOf(conflict.theirs) - CountOf(*conflict.base);
     const auto count = static_cast<qint32>(std::clamp<qint64>(sum, Limits::min(), Limits::max()));
     value = { conflict.mine.id, 0, count };
     return count == sum ? Settlement::Added : Settlement::Limited;
@@ -87,8 +86,7 @@ MixedRow MixRow(const RowValues& mine, const RowValues& theirs, const RowValues*
             continue;
         const Settlement how = Settle(conflict, precedence, mixed.values[i]);
         mixed.settled.push_back({ i, how });
-        const bool isDecided
-            = how == Settlement::MineDecided || how == Settlement::TheirsDecided;
+        const bool isDecided = how == Settlement::MineDecided || how == Settlement::TheirsDecided;
         const PropertyValue& lost = how == Settlement::MineDecided ? theirs[i] : mine[i];
         copy[i] = { mine[i].id, isDecided ? lost.flags : mixed.values[i].flags,
             isDecided ? lost.value : mixed.values[i].value };

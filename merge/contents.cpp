@@ -85,8 +85,8 @@ Result<std::vector<RowMark>> ReadMarks(Database& rows, const InventoryList& list
 Result<ListContents> ReadList(Volume& volume, const Record& record)
 {
     ListContents list { record.oid, ListCatalogue::DefinitionOf(record.values), {} };
-    QUILLORY_TRY_VALUE(const auto rows,
-        volume.OpenDatabase(list.definition.MapName, ListCatalogue::kByRowName));
+    QUILLORY_TRY_VALUE(
+        const auto rows, volume.OpenDatabase(list.definition.MapName, ListCatalogue::kByRowName));
     list.definition.columns = ListCatalogue::ColumnsOf(rows->Properties());
     QUILLORY_TRY_VALUE(list.rows, ReadMarks(*rows, list.definition));
     return list;

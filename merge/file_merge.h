@@ -21,14 +21,14 @@ struct CopiesPlace
 [[nodiscard]] Result<std::unique_ptr<Volume>> OpenBase(
     Volume& mine, Volume& theirs, const QString& path, const CopiesPlace& copies);
 
-/// Puts what a plan makes of `mine` in the place of the file at `path`, where `mine` is mounted to be
-/// written, or `theirs` lies that has taken its place. Both are kept as copies first, unless none are
-/// wanted; the new file is written beside the old one, checked, and takes its name in one step.
-/// Whenever this ends amid its work both files are as they were, but for a file beside them whose
-/// name holds `.new-`. `mine` must be unmounted and mounted anew afterwards: what it has open is the
-/// old file. A plan of Kinship::Known writes nothing where `mine` lies at `path`, and puts it
-/// back there where `theirs` does. SharingViolation if another file than those two
-/// lies at `path`.
+/// Puts what a plan makes of `mine` in the place of the file at `path`, where `mine` is mounted to
+/// be written, or `theirs` lies that has taken its place. Both are kept as copies first, unless
+/// none are wanted; the new file is written beside the old one, checked, and takes its name in one
+/// step. Whenever this ends amid its work both files are as they were, but for a file beside them
+/// whose name holds `.new-`. `mine` must be unmounted and mounted anew afterwards: what it has open
+/// is the old file. A plan of Kinship::Known writes nothing where `mine` lies at `path`, and puts
+/// it back there where `theirs` does. SharingViolation if another file than those two lies at
+/// `path`.
 [[nodiscard]] Result<void> ExchangeMerged(const MergePlan& plan, Volume& mine, Volume& theirs,
     const QString& path, const CopiesPlace& copies, const QDateTime& now);
 

@@ -67,8 +67,8 @@ void JoinLists(std::vector<ListMatch>& matches)
 {
     for (size_t i = 0; i < matches.size(); ++i) {
         const auto rest = matches.begin() + static_cast<std::ptrdiff_t>(i) + 1;
-        const auto found = std::find_if(
-            rest, matches.end(), [&](const ListMatch& other) { return CanJoin(matches[i], other); });
+        const auto found = std::find_if(rest, matches.end(),
+            [&](const ListMatch& other) { return CanJoin(matches[i], other); });
         if (found == matches.end())
             continue;
         matches[i].mine = matches[i].mine == nullptr ? found->mine : matches[i].mine;
@@ -87,8 +87,7 @@ void PartMapNames(std::vector<ListMatch>& matches)
     for (ListMatch& match : matches) {
         QString& name = match.target.first;
         for (quint64 turn = 0; !names.insert(name).second; ++turn)
-            name = name.left(kStem)
-                + QString::number(StableHash(name.toUtf8(), turn) % kNumbers);
+            name = name.left(kStem) + QString::number(StableHash(name.toUtf8(), turn) % kNumbers);
     }
 }
 
@@ -131,8 +130,7 @@ void ApplySettings(InventoryList& list, const RowValues& settings)
     list.Name = std::get<QString>(settings[NameSetting].value);
     list.TableIcon = static_cast<qint16>(number(IconSetting));
     const quint32 others = list.TableOption & ~(kWarnOnCount | kWarnOnExpiry);
-    list.TableOption = others
-        | (std::get<bool>(settings[CountWarning].value) ? kWarnOnCount : 0)
+    list.TableOption = others | (std::get<bool>(settings[CountWarning].value) ? kWarnOnCount : 0)
         | (std::get<bool>(settings[ExpiryWarning].value) ? kWarnOnExpiry : 0);
     list.TableWarnStart = number(WarnStart);
     list.TableWarnColour = static_cast<quint32>(number(CountColour));

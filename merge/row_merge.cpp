@@ -49,8 +49,7 @@ std::optional<RowFate> FateOf(const RowMark* mine, const RowMark* theirs, const 
 {
     if (mine != nullptr && theirs != nullptr) {
         // Changed alike, they may both have counted.
-        const bool isSettled
-            = AreEqual(mine, theirs) && (base == nullptr || AreEqual(mine, base));
+        const bool isSettled = AreEqual(mine, theirs) && (base == nullptr || AreEqual(mine, base));
         return isSettled ? std::nullopt : std::optional(RowFate::Mixes);
     }
     if (mine != nullptr && base != nullptr)
@@ -69,8 +68,8 @@ ObjectId RowOf(const RowMark* mark)
 
 } // namespace
 
-std::vector<RowDecision> DecideRows(std::span<const RowMark> mine, std::span<const RowMark> theirs,
-    std::span<const RowMark> base)
+std::vector<RowDecision> DecideRows(
+    std::span<const RowMark> mine, std::span<const RowMark> theirs, std::span<const RowMark> base)
 {
     std::vector<RowDecision> decisions;
     MarkWalk onMine(mine);

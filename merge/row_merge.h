@@ -31,10 +31,10 @@ struct RowDecision
     ObjectId base = kNoObject;
 };
 
-/// Goes through the rows of a list on both sides, and in the base if there is one: without it nothing
-/// goes. Each is in the order of origins; so is what is decided.
-[[nodiscard]] std::vector<RowDecision> DecideRows(std::span<const RowMark> mine,
-    std::span<const RowMark> theirs, std::span<const RowMark> base);
+/// Goes through the rows of a list on both sides, and in the base if there is one: without it
+/// nothing goes. Each is in the order of origins; so is what is decided.
+[[nodiscard]] std::vector<RowDecision> DecideRows(
+    std::span<const RowMark> mine, std::span<const RowMark> theirs, std::span<const RowMark> base);
 
 /// Whether a side has rows that the base has not, or has otherwise.
 [[nodiscard]] bool HasNews(std::span<const RowMark> side, std::span<const RowMark> base);
@@ -44,8 +44,8 @@ struct RowPair
     size_t mine = 0;
     size_t theirs = 0;
 };
-/// Pairs rows of equal values, by their places, that have their origins for themselves: each once, in
-/// the order of origins on both sides.
+/// Pairs rows of equal values, by their places, that have their origins for themselves: each once,
+/// in the order of origins on both sides.
 [[nodiscard]] std::vector<RowPair> PairEqualRows(
     std::span<const RowMark> mine, std::span<const RowMark> theirs);
 

@@ -339,9 +339,11 @@ void RowsView::ModifyRow()
 
 bool RowsView::StoreEdited(const Record& before, std::vector<QString> texts)
 {
-    if (m_store.IsGone(before.oid))
+    const Record present = m_store.ReadRow(before.oid);
+    // The identifier may be another row's now.
+    if (present ? present.origin != before.origin : m_store.IsGone(before.oid))
         return AddRow(texts);
-    if (const Record present = m_store.ReadRow(before.oid)) {
+    if (present) {
         const auto old = RowEditor::TextsOf(m_list, &before, m_context);
         const auto others = RowEditor::TextsOf(m_list, &present, m_context);
         for (size_t i = 0; i < texts.size(); ++i)

@@ -6,6 +6,7 @@
 
 #include <QScrollBar>
 #include <QTableView>
+#include <QTextBrowser>
 
 namespace {
 
@@ -116,16 +117,56 @@ private Q_SLOTS:
         Act(kHearUpdate + u"see Pantry"_s);
     }
 
-    void changesOfThisRunAreNotLeftBehind()
+    void versionsAreBroughtTogetherIfThatIsWanted()
+    {
+        for (const bool isWanted : { true, false }) {
+            const TwoDevices devices;
+            Act(u"tap Pantry; tap New; type Oil; tap OK; see Rice, Salt, Tea, Oil"_s);
+            devices.DoElsewhere(u"set Pantry --where Name=Tea Quantity=9"_s);
+            Act(u"see Another device has changed the lists…; tap "_s
+                + (isWanted ? u"Yes"_s : u"No"_s));
+            if (isWanted) {
+                Act(u"at Brought together"_s);
+                QCOMPARE(devices.pages->Top()->findChild<QTextBrowser*>()->toPlainText(),
+                    u"Pantry\nTea, Quantity: 9 came in the place of 3."_s);
+                Act(u"tap OK; see Oil, Rice, Salt, Tea; see Quantity: 0, 1, 5, 9"_s);
+            } else {
+                Act(u"see Rice, Salt, Tea, Oil"_s);
+                devices.frame->close();
+                Act(u"see Another file was put in the place of the data file. The old one is "
+                    u"kept…; "
+                    "tap OK"_s);
+                QCOMPARE(devices.NewestCopy(), u"Pantry 4, Tools 0"_s);
+            }
+            QVERIFY(Questions::Of(devices.frame.get()).IsIdle());
+        }
+    }
+
+    void aVersionThatComesBeforeTheEndIsAskedAbout()
+    {
+        const TwoDevices devices;
+        Act(u"tap Pantry; tap New; type Oil; tap OK; see Rice, Salt, Tea, Oil"_s);
+        devices.DoElsewhere(u"delete Pantry --where Name=Tea"_s);
+        devices.frame->close();
+        Act(u"see Another device has changed the lists…; tap Yes; at Brought together; tap OK; "
+            "tap Pantry; see Oil, Rice, Salt"_s);
+        QVERIFY(devices.frame->close());
+    }
+
+    void aVersionBesideTheDataFileIsAskedAboutOnce()
     {
         TwoDevices devices;
-        Act(u"press End F2; type Barn; press Return; see Barn, Pantry"_s);
-        devices.DoElsewhere(u"remove Tools"_s);
-        QTest::qWait(500);
-        Act(u"see Barn, Pantry"_s);
-        devices.frame->close();
-        Act(u"see Another file was put in the place of the data file. The old one is kept…; tap OK"_s);
-        QCOMPARE(devices.NewestCopy(), u"Barn 0, Pantry 3"_s);
+        Act(u"tap Pantry; tap New; type Oil; tap OK; see Rice, Salt, Tea, Oil; press Esc"_s);
+        QVERIFY(devices.frame->close());
+        Run(devices.Other(), u"new Attic --create"_s);
+        QVERIFY(QFile::rename(devices.Other(),
+            QFileInfo(devices.DataPath()).path() + u"/Quillory.sync-conflict-20260615.idb"_s));
+        devices.Start();
+        Act(u"see Beside the data file lies another device's version…; tap Yes; "
+            "at Brought together; tap OK; see Attic, Pantry, Tools"_s);
+        devices.Restart();
+        QTest::qWait(50);
+        Act(u"see Attic, Pantry, Tools"_s);
     }
 };
 

@@ -547,6 +547,40 @@ Standardausgabe. Eine vorhandene FILE wird ersetzt.
                        sonst, worauf der Name von FILE endet, oder pdf
 </translation>
     </message>
+    <message>
+        <source>Prints what merging OTHER, another device&apos;s copy of the data file, would do, as merge prints it.
+Changes nothing. Exits with 3 if OTHER has something that the data file has not.
+
+  --base FILE          what both come from, where no kept copy is
+  --json               an object per line
+</source>
+        <translation>Zeigt, was das Zusammenführen mit OTHER täte, der Kopie der Datendatei von einem anderen Gerät,
+wie merge es zeigt. Ändert nichts. Endet mit 3, wenn OTHER etwas hat, was der Datendatei fehlt.
+
+  --base FILE          woraus beide entstanden sind, wenn keine Kopie davon da ist
+  --json               ein Objekt je Zeile
+</translation>
+    </message>
+    <message>
+        <source>Brings the data file and OTHER, another device&apos;s copy of it, together in the data file. OTHER
+is only read. Prints a line per thing that came or went, and per value that both had changed:
+what TAB list TAB row TAB column TAB value TAB other value. Both files are kept as copies
+before.
+
+  --base FILE          what both come from, where no kept copy is
+  --dry-run            stores nothing
+  --json               an object per line
+</source>
+        <translation>Führt die Datendatei und OTHER, ihre Kopie von einem anderen Gerät, in der Datendatei zusammen.
+OTHER wird nur gelesen. Zeigt eine Zeile für alles, was kam oder ging, und für jeden Wert, den
+beide geändert hatten: was TAB Liste TAB Zeile TAB Spalte TAB Wert TAB anderer Wert. Vorher
+werden beide Dateien als Kopien aufgehoben.
+
+  --base FILE          woraus beide entstanden sind, wenn keine Kopie davon da ist
+  --dry-run            speichert nichts
+  --json               ein Objekt je Zeile
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1091,6 +1125,21 @@ Mit „Wiederholen“ wird die Datendatei erneut geöffnet.</translation>
     </message>
 </context>
 <context>
+    <name>Quillory::DeviceMerge</name>
+    <message>
+        <source>Another device has changed the lists, and so have you. Do you want to bring both together?</source>
+        <translation>Ein anderes Gerät hat die Listen geändert, und Sie auch. Beides zusammenführen?</translation>
+    </message>
+    <message>
+        <source>Beside the data file lies another device&apos;s version, &quot;%1&quot;. Do you want to bring both together?</source>
+        <translation>Neben der Datendatei liegt die Fassung eines anderen Geräts, „%1“. Beides zusammenführen?</translation>
+    </message>
+    <message>
+        <source>The two versions could not be brought together; both are as they were. Error: %1</source>
+        <translation>Die beiden Fassungen konnten nicht zusammengeführt werden; beide sind, wie sie waren. Fehler: %1</translation>
+    </message>
+</context>
+<context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
@@ -1187,6 +1236,115 @@ Mit „Wiederholen“ wird die Datendatei erneut geöffnet.</translation>
     <message>
         <source>opens a menu</source>
         <translation>öffnet ein Menü</translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::MergePage</name>
+    <message>
+        <source>name of the list</source>
+        <translation>Name der Liste</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>warning of counts</source>
+        <translation>Warnung bei Anzahlen</translation>
+    </message>
+    <message>
+        <source>warning of expiry</source>
+        <translation>Warnung bei Ablauf</translation>
+    </message>
+    <message>
+        <source>count to warn at</source>
+        <translation>Anzahl, ab der gewarnt wird</translation>
+    </message>
+    <message>
+        <source>colour of counts</source>
+        <translation>Farbe der Anzahlen</translation>
+    </message>
+    <message>
+        <source>colour of expiry</source>
+        <translation>Farbe des Ablaufs</translation>
+    </message>
+    <message>
+        <source>The list came from the other device.</source>
+        <translation>Die Liste kam vom anderen Gerät.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device.</source>
+        <translation>Die Liste wurde auf dem anderen Gerät gelöscht.</translation>
+    </message>
+    <message>
+        <source>The list was deleted here and changed on the other device: it is back.</source>
+        <translation>Die Liste wurde hier gelöscht und auf dem anderen Gerät geändert: Sie ist wieder da.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device and changed here: it stays.</source>
+        <translation>Die Liste wurde auf dem anderen Gerät gelöscht und hier geändert: Sie bleibt.</translation>
+    </message>
+    <message>
+        <source>Both devices had made this list: it is one now.</source>
+        <translation>Beide Geräte hatten diese Liste angelegt: Jetzt ist es eine.</translation>
+    </message>
+    <message>
+        <source>%1: came from the other device.</source>
+        <translation>%1: kam vom anderen Gerät.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device.</source>
+        <translation>%1: wurde auf dem anderen Gerät gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted here and changed on the other device, and is back.</source>
+        <translation>%1: wurde hier gelöscht und auf dem anderen Gerät geändert und ist wieder da.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device and changed here, and stays.</source>
+        <translation>%1: wurde auf dem anderen Gerät gelöscht und hier geändert und bleibt.</translation>
+    </message>
+    <message>
+        <source>%1: a copy of the row has the other values.</source>
+        <translation>%1: Eine Kopie der Zeile hat die anderen Werte.</translation>
+    </message>
+    <message>
+        <source>%1: %2 came in the place of %3.</source>
+        <extracomment>Such as &quot;Tea, Quantity: 5 came in the place of 3.&quot;</extracomment>
+        <translation>%1: %2 statt %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had changed it. It is %2; the other was %3.</source>
+        <translation>%1: auf beiden Geräten geändert. Jetzt %2; das andere war %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted. It is %2; the other was %3.</source>
+        <translation>%1: auf beiden Geräten gezählt. Jetzt %2; das andere war %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted beyond the limit. It is %2; the other was %3.</source>
+        <translation>%1: auf beiden Geräten über die Grenze gezählt. Jetzt %2; das andere war %3.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>A row&apos;s name and that of a column.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <extracomment>In the place of a value that is not there.</extracomment>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>Brought together</source>
+        <translation>Zusammengeführt</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Und %n weiterer.</numerusform>
+            <numerusform>Und %n weitere.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

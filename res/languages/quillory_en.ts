@@ -36,6 +36,16 @@
     </message>
 </context>
 <context>
+    <name>Quillory::MergePage</name>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>And %n more.</numerusform>
+            <numerusform>And %n more.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Quillory::RowsView</name>
     <message numerus="yes">
         <source>This list can be read only in part: %n row(s) are shown. &quot;quillory restore&quot; lists copies, and what can be saved.</source>

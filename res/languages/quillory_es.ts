@@ -541,6 +541,40 @@ FILE existente se reemplaza.
                        o pdf
 </translation>
     </message>
+    <message>
+        <source>Prints what merging OTHER, another device&apos;s copy of the data file, would do, as merge prints it.
+Changes nothing. Exits with 3 if OTHER has something that the data file has not.
+
+  --base FILE          what both come from, where no kept copy is
+  --json               an object per line
+</source>
+        <translation>Muestra lo que haría reunir OTHER, la copia del archivo de datos de otro dispositivo, como lo
+muestra merge. No cambia nada. Termina con 3 si OTHER tiene algo que falta en el archivo de datos.
+
+  --base FILE          de qué proceden ambos, si no queda copia
+  --json               un objeto por línea
+</translation>
+    </message>
+    <message>
+        <source>Brings the data file and OTHER, another device&apos;s copy of it, together in the data file. OTHER
+is only read. Prints a line per thing that came or went, and per value that both had changed:
+what TAB list TAB row TAB column TAB value TAB other value. Both files are kept as copies
+before.
+
+  --base FILE          what both come from, where no kept copy is
+  --dry-run            stores nothing
+  --json               an object per line
+</source>
+        <translation>Reúne el archivo de datos y OTHER, su copia de otro dispositivo, en el archivo de datos. OTHER
+solo se lee. Muestra una línea por cada cosa que vino o se fue, y por cada valor que ambos habían
+cambiado: qué TAB lista TAB fila TAB columna TAB valor TAB otro valor. Antes se guardan copias de
+ambos archivos.
+
+  --base FILE          de qué proceden ambos, si no queda copia
+  --dry-run            no guarda nada
+  --json               un objeto por línea
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1085,6 +1119,21 @@ Toque Reintentar para volver a abrir el archivo de datos.</translation>
     </message>
 </context>
 <context>
+    <name>Quillory::DeviceMerge</name>
+    <message>
+        <source>Another device has changed the lists, and so have you. Do you want to bring both together?</source>
+        <translation>Otro dispositivo ha cambiado las listas, y usted también. ¿Reunir ambas versiones?</translation>
+    </message>
+    <message>
+        <source>Beside the data file lies another device&apos;s version, &quot;%1&quot;. Do you want to bring both together?</source>
+        <translation>Junto al archivo de datos hay una versión de otro dispositivo, «%1». ¿Reunir ambas?</translation>
+    </message>
+    <message>
+        <source>The two versions could not be brought together; both are as they were. Error: %1</source>
+        <translation>No se han podido reunir las dos versiones; ambas siguen como estaban. Error: %1</translation>
+    </message>
+</context>
+<context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
@@ -1181,6 +1230,115 @@ Toque Reintentar para volver a abrir el archivo de datos.</translation>
     <message>
         <source>opens a menu</source>
         <translation>abre un menú</translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::MergePage</name>
+    <message>
+        <source>name of the list</source>
+        <translation>nombre de la lista</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <translation>icono</translation>
+    </message>
+    <message>
+        <source>warning of counts</source>
+        <translation>aviso de cantidad</translation>
+    </message>
+    <message>
+        <source>warning of expiry</source>
+        <translation>aviso de caducidad</translation>
+    </message>
+    <message>
+        <source>count to warn at</source>
+        <translation>cantidad del aviso</translation>
+    </message>
+    <message>
+        <source>colour of counts</source>
+        <translation>color de las cantidades</translation>
+    </message>
+    <message>
+        <source>colour of expiry</source>
+        <translation>color de la caducidad</translation>
+    </message>
+    <message>
+        <source>The list came from the other device.</source>
+        <translation>La lista viene del otro dispositivo.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device.</source>
+        <translation>La lista se eliminó en el otro dispositivo.</translation>
+    </message>
+    <message>
+        <source>The list was deleted here and changed on the other device: it is back.</source>
+        <translation>La lista se eliminó aquí y se cambió en el otro dispositivo: ha vuelto.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device and changed here: it stays.</source>
+        <translation>La lista se eliminó en el otro dispositivo y se cambió aquí: se queda.</translation>
+    </message>
+    <message>
+        <source>Both devices had made this list: it is one now.</source>
+        <translation>Ambos dispositivos habían creado esta lista: ahora es una sola.</translation>
+    </message>
+    <message>
+        <source>%1: came from the other device.</source>
+        <translation>%1: viene del otro dispositivo.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device.</source>
+        <translation>%1: se eliminó en el otro dispositivo.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted here and changed on the other device, and is back.</source>
+        <translation>%1: se eliminó aquí y se cambió en el otro dispositivo, y ha vuelto.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device and changed here, and stays.</source>
+        <translation>%1: se eliminó en el otro dispositivo y se cambió aquí, y se queda.</translation>
+    </message>
+    <message>
+        <source>%1: a copy of the row has the other values.</source>
+        <translation>%1: una copia de la fila tiene los otros valores.</translation>
+    </message>
+    <message>
+        <source>%1: %2 came in the place of %3.</source>
+        <extracomment>Such as &quot;Tea, Quantity: 5 came in the place of 3.&quot;</extracomment>
+        <translation>%1: %2 en lugar de %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had changed it. It is %2; the other was %3.</source>
+        <translation>%1: cambiado en ambos dispositivos. Es %2; el otro era %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted. It is %2; the other was %3.</source>
+        <translation>%1: contado en ambos dispositivos. Es %2; el otro era %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted beyond the limit. It is %2; the other was %3.</source>
+        <translation>%1: contado más allá del límite en ambos dispositivos. Es %2; el otro era %3.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>A row&apos;s name and that of a column.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <extracomment>In the place of a value that is not there.</extracomment>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>Brought together</source>
+        <translation>Versiones reunidas</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Y %n más.</numerusform>
+            <numerusform>Y %n más.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -549,6 +549,41 @@ standard. Un FILE existant est remplacé.
                        fichier ; sinon ce que dit la fin du nom de FILE, ou pdf
 </translation>
     </message>
+    <message>
+        <source>Prints what merging OTHER, another device&apos;s copy of the data file, would do, as merge prints it.
+Changes nothing. Exits with 3 if OTHER has something that the data file has not.
+
+  --base FILE          what both come from, where no kept copy is
+  --json               an object per line
+</source>
+        <translation>Montre ce que ferait la réunion avec OTHER, la copie du fichier de données d’un autre appareil,
+comme merge le montre. Ne change rien. Se termine par 3 si OTHER a quelque chose qui manque au
+fichier de données.
+
+  --base FILE          l’origine des deux, s’il n’en reste pas de copie
+  --json               un objet par ligne
+</translation>
+    </message>
+    <message>
+        <source>Brings the data file and OTHER, another device&apos;s copy of it, together in the data file. OTHER
+is only read. Prints a line per thing that came or went, and per value that both had changed:
+what TAB list TAB row TAB column TAB value TAB other value. Both files are kept as copies
+before.
+
+  --base FILE          what both come from, where no kept copy is
+  --dry-run            stores nothing
+  --json               an object per line
+</source>
+        <translation>Réunit le fichier de données et OTHER, sa copie d’un autre appareil, dans le fichier de données.
+OTHER n’est que lu. Montre une ligne pour ce qui est venu ou parti et pour chaque valeur que les
+deux avaient modifiée : quoi TAB liste TAB ligne TAB colonne TAB valeur TAB autre valeur. Des
+copies des deux fichiers sont gardées avant.
+
+  --base FILE          l’origine des deux, s’il n’en reste pas de copie
+  --dry-run            n’enregistre rien
+  --json               un objet par ligne
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1093,6 +1128,21 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     </message>
 </context>
 <context>
+    <name>Quillory::DeviceMerge</name>
+    <message>
+        <source>Another device has changed the lists, and so have you. Do you want to bring both together?</source>
+        <translation>Un autre appareil a modifié les listes, et vous aussi. Réunir les deux ?</translation>
+    </message>
+    <message>
+        <source>Beside the data file lies another device&apos;s version, &quot;%1&quot;. Do you want to bring both together?</source>
+        <translation>À côté du fichier de données se trouve la version d’un autre appareil, « %1 ». Réunir les deux ?</translation>
+    </message>
+    <message>
+        <source>The two versions could not be brought together; both are as they were. Error: %1</source>
+        <translation>Les deux versions n’ont pas pu être réunies ; elles sont telles qu’elles étaient. Erreur : %1</translation>
+    </message>
+</context>
+<context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
@@ -1189,6 +1239,115 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
     <message>
         <source>opens a menu</source>
         <translation>ouvre un menu</translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::MergePage</name>
+    <message>
+        <source>name of the list</source>
+        <translation>nom de la liste</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <translation>icône</translation>
+    </message>
+    <message>
+        <source>warning of counts</source>
+        <translation>alerte de quantité</translation>
+    </message>
+    <message>
+        <source>warning of expiry</source>
+        <translation>alerte d’expiration</translation>
+    </message>
+    <message>
+        <source>count to warn at</source>
+        <translation>seuil d’alerte</translation>
+    </message>
+    <message>
+        <source>colour of counts</source>
+        <translation>couleur des quantités</translation>
+    </message>
+    <message>
+        <source>colour of expiry</source>
+        <translation>couleur d’expiration</translation>
+    </message>
+    <message>
+        <source>The list came from the other device.</source>
+        <translation>La liste vient de l’autre appareil.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device.</source>
+        <translation>La liste a été supprimée sur l’autre appareil.</translation>
+    </message>
+    <message>
+        <source>The list was deleted here and changed on the other device: it is back.</source>
+        <translation>La liste a été supprimée ici et modifiée sur l’autre appareil : elle est de retour.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device and changed here: it stays.</source>
+        <translation>La liste a été supprimée sur l’autre appareil et modifiée ici : elle reste.</translation>
+    </message>
+    <message>
+        <source>Both devices had made this list: it is one now.</source>
+        <translation>Les deux appareils avaient créé cette liste : il n’y en a plus qu’une.</translation>
+    </message>
+    <message>
+        <source>%1: came from the other device.</source>
+        <translation>%1 : vient de l’autre appareil.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device.</source>
+        <translation>%1 : ligne supprimée sur l’autre appareil.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted here and changed on the other device, and is back.</source>
+        <translation>%1 : ligne supprimée ici et modifiée sur l’autre appareil ; elle est de retour.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device and changed here, and stays.</source>
+        <translation>%1 : ligne supprimée sur l’autre appareil et modifiée ici ; elle reste.</translation>
+    </message>
+    <message>
+        <source>%1: a copy of the row has the other values.</source>
+        <translation>%1 : une copie de la ligne a les autres valeurs.</translation>
+    </message>
+    <message>
+        <source>%1: %2 came in the place of %3.</source>
+        <extracomment>Such as &quot;Tea, Quantity: 5 came in the place of 3.&quot;</extracomment>
+        <translation>%1 : %2 remplace %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had changed it. It is %2; the other was %3.</source>
+        <translation>%1 : modifié sur les deux appareils. C’est %2 ; l’autre était %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted. It is %2; the other was %3.</source>
+        <translation>%1 : compté sur les deux appareils. C’est %2 ; l’autre était %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted beyond the limit. It is %2; the other was %3.</source>
+        <translation>%1 : compté au-delà de la limite sur les deux appareils. C’est %2 ; l’autre était %3.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>A row&apos;s name and that of a column.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <extracomment>In the place of a value that is not there.</extracomment>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>Brought together</source>
+        <translation>Versions réunies</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Et %n autre.</numerusform>
+            <numerusform>Et %n autres.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

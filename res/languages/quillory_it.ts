@@ -539,6 +539,41 @@ output. Un FILE esistente viene sostituito.
                        pdf
 </translation>
     </message>
+    <message>
+        <source>Prints what merging OTHER, another device&apos;s copy of the data file, would do, as merge prints it.
+Changes nothing. Exits with 3 if OTHER has something that the data file has not.
+
+  --base FILE          what both come from, where no kept copy is
+  --json               an object per line
+</source>
+        <translation>Mostra che cosa farebbe la riunione con OTHER, la copia del file di dati di un altro dispositivo,
+come lo mostra merge. Non cambia nulla. Termina con 3 se OTHER ha qualcosa che manca al file di
+dati.
+
+  --base FILE          da che cosa derivano entrambi, se non ne resta una copia
+  --json               un oggetto per riga
+</translation>
+    </message>
+    <message>
+        <source>Brings the data file and OTHER, another device&apos;s copy of it, together in the data file. OTHER
+is only read. Prints a line per thing that came or went, and per value that both had changed:
+what TAB list TAB row TAB column TAB value TAB other value. Both files are kept as copies
+before.
+
+  --base FILE          what both come from, where no kept copy is
+  --dry-run            stores nothing
+  --json               an object per line
+</source>
+        <translation>Riunisce il file di dati e OTHER, la sua copia di un altro dispositivo, nel file di dati. OTHER
+viene solo letto. Mostra una riga per ogni cosa venuta o andata, e per ogni valore che entrambi
+avevano modificato: che cosa TAB elenco TAB riga TAB colonna TAB valore TAB altro valore. Prima si
+conservano copie di entrambi i file.
+
+  --base FILE          da che cosa derivano entrambi, se non ne resta una copia
+  --dry-run            non salva nulla
+  --json               un oggetto per riga
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1083,6 +1118,21 @@ Tocca Riprova per riaprire il file dei dati.</translation>
     </message>
 </context>
 <context>
+    <name>Quillory::DeviceMerge</name>
+    <message>
+        <source>Another device has changed the lists, and so have you. Do you want to bring both together?</source>
+        <translation>Un altro dispositivo ha modificato gli elenchi, e anche Lei. Riunire le due versioni?</translation>
+    </message>
+    <message>
+        <source>Beside the data file lies another device&apos;s version, &quot;%1&quot;. Do you want to bring both together?</source>
+        <translation>Accanto al file di dati c’è la versione di un altro dispositivo, «%1». Riunirle?</translation>
+    </message>
+    <message>
+        <source>The two versions could not be brought together; both are as they were. Error: %1</source>
+        <translation>Le due versioni non si sono potute riunire; sono rimaste com’erano. Errore: %1</translation>
+    </message>
+</context>
+<context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
@@ -1179,6 +1229,115 @@ Tocca Riprova per riaprire il file dei dati.</translation>
     <message>
         <source>opens a menu</source>
         <translation>apre un menu</translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::MergePage</name>
+    <message>
+        <source>name of the list</source>
+        <translation>nome dell’elenco</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <translation>icona</translation>
+    </message>
+    <message>
+        <source>warning of counts</source>
+        <translation>avviso di quantità</translation>
+    </message>
+    <message>
+        <source>warning of expiry</source>
+        <translation>avviso di scadenza</translation>
+    </message>
+    <message>
+        <source>count to warn at</source>
+        <translation>quantità dell’avviso</translation>
+    </message>
+    <message>
+        <source>colour of counts</source>
+        <translation>colore delle quantità</translation>
+    </message>
+    <message>
+        <source>colour of expiry</source>
+        <translation>colore della scadenza</translation>
+    </message>
+    <message>
+        <source>The list came from the other device.</source>
+        <translation>L’elenco viene dall’altro dispositivo.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device.</source>
+        <translation>L’elenco è stato eliminato sull’altro dispositivo.</translation>
+    </message>
+    <message>
+        <source>The list was deleted here and changed on the other device: it is back.</source>
+        <translation>L’elenco è stato eliminato qui e modificato sull’altro dispositivo: è tornato.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device and changed here: it stays.</source>
+        <translation>L’elenco è stato eliminato sull’altro dispositivo e modificato qui: rimane.</translation>
+    </message>
+    <message>
+        <source>Both devices had made this list: it is one now.</source>
+        <translation>Entrambi i dispositivi avevano creato questo elenco: ora è uno solo.</translation>
+    </message>
+    <message>
+        <source>%1: came from the other device.</source>
+        <translation>%1: viene dall’altro dispositivo.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device.</source>
+        <translation>%1: riga eliminata sull’altro dispositivo.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted here and changed on the other device, and is back.</source>
+        <translation>%1: riga eliminata qui e modificata sull’altro dispositivo; è tornata.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device and changed here, and stays.</source>
+        <translation>%1: riga eliminata sull’altro dispositivo e modificata qui; rimane.</translation>
+    </message>
+    <message>
+        <source>%1: a copy of the row has the other values.</source>
+        <translation>%1: una copia della riga ha gli altri valori.</translation>
+    </message>
+    <message>
+        <source>%1: %2 came in the place of %3.</source>
+        <extracomment>Such as &quot;Tea, Quantity: 5 came in the place of 3.&quot;</extracomment>
+        <translation>%1: %2 al posto di %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had changed it. It is %2; the other was %3.</source>
+        <translation>%1: modificato su entrambi i dispositivi. È %2; l’altro era %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted. It is %2; the other was %3.</source>
+        <translation>%1: contato su entrambi i dispositivi. È %2; l’altro era %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted beyond the limit. It is %2; the other was %3.</source>
+        <translation>%1: contato oltre il limite su entrambi i dispositivi. È %2; l’altro era %3.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>A row&apos;s name and that of a column.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <extracomment>In the place of a value that is not there.</extracomment>
+        <translation>niente</translation>
+    </message>
+    <message>
+        <source>Brought together</source>
+        <translation>Versioni riunite</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>E un altro.</numerusform>
+            <numerusform>E altri %n.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -530,6 +530,39 @@ Without FILE, or with -, to standard output. An existing FILE is replaced.
                        pdf
 </translation>
     </message>
+    <message>
+        <source>Prints what merging OTHER, another device&apos;s copy of the data file, would do, as merge prints it.
+Changes nothing. Exits with 3 if OTHER has something that the data file has not.
+
+  --base FILE          what both come from, where no kept copy is
+  --json               an object per line
+</source>
+        <translation>別の端末にあるデータファイルのコピー OTHER をまとめたときに起こることを、merge と同じ形で表示します。
+何も変更しません。データファイルにないものが OTHER にあれば 3 で終わります。
+
+  --base FILE          両方の元になったもの (保存されたコピーがないとき)
+  --json               1 行に 1 つのオブジェクト
+</translation>
+    </message>
+    <message>
+        <source>Brings the data file and OTHER, another device&apos;s copy of it, together in the data file. OTHER
+is only read. Prints a line per thing that came or went, and per value that both had changed:
+what TAB list TAB row TAB column TAB value TAB other value. Both files are kept as copies
+before.
+
+  --base FILE          what both come from, where no kept copy is
+  --dry-run            stores nothing
+  --json               an object per line
+</source>
+        <translation>データファイルと、別の端末にあるそのコピー OTHER を、データファイルにまとめます。OTHER は読むだけです。
+来たもの、なくなったもの、両方で変更された値を 1 行ずつ表示します: 何 TAB リスト TAB 行 TAB 列 TAB 値
+TAB もう一方の値。先に両方のファイルのコピーを保存します。
+
+  --base FILE          両方の元になったもの (保存されたコピーがないとき)
+  --dry-run            何も保存しません
+  --json               1 行に 1 つのオブジェクト
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1070,6 +1103,21 @@ Tap Retry to open the data file again.</source>
     </message>
 </context>
 <context>
+    <name>Quillory::DeviceMerge</name>
+    <message>
+        <source>Another device has changed the lists, and so have you. Do you want to bring both together?</source>
+        <translation>別の端末がリストを変更し、こちらでも変更しています。両方をまとめますか?</translation>
+    </message>
+    <message>
+        <source>Beside the data file lies another device&apos;s version, &quot;%1&quot;. Do you want to bring both together?</source>
+        <translation>データファイルの隣に別の端末の版「%1」があります。両方をまとめますか?</translation>
+    </message>
+    <message>
+        <source>The two versions could not be brought together; both are as they were. Error: %1</source>
+        <translation>2つの版をまとめられませんでした。どちらも元のままです。エラー: %1</translation>
+    </message>
+</context>
+<context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
@@ -1166,6 +1214,114 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>opens a menu</source>
         <translation>メニューを開きます</translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::MergePage</name>
+    <message>
+        <source>name of the list</source>
+        <translation>リストの名前</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <translation>アイコン</translation>
+    </message>
+    <message>
+        <source>warning of counts</source>
+        <translation>数量の警告</translation>
+    </message>
+    <message>
+        <source>warning of expiry</source>
+        <translation>期限の警告</translation>
+    </message>
+    <message>
+        <source>count to warn at</source>
+        <translation>警告する数量</translation>
+    </message>
+    <message>
+        <source>colour of counts</source>
+        <translation>数量の色</translation>
+    </message>
+    <message>
+        <source>colour of expiry</source>
+        <translation>期限の色</translation>
+    </message>
+    <message>
+        <source>The list came from the other device.</source>
+        <translation>このリストは別の端末から来ました。</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device.</source>
+        <translation>このリストは別の端末で削除されました。</translation>
+    </message>
+    <message>
+        <source>The list was deleted here and changed on the other device: it is back.</source>
+        <translation>このリストはここで削除され、別の端末で変更されたため、戻りました。</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device and changed here: it stays.</source>
+        <translation>このリストは別の端末で削除され、ここで変更されたため、残ります。</translation>
+    </message>
+    <message>
+        <source>Both devices had made this list: it is one now.</source>
+        <translation>両方の端末で作られたリストです。1つになりました。</translation>
+    </message>
+    <message>
+        <source>%1: came from the other device.</source>
+        <translation>%1: 別の端末から来ました。</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device.</source>
+        <translation>%1: 別の端末で削除されました。</translation>
+    </message>
+    <message>
+        <source>%1: was deleted here and changed on the other device, and is back.</source>
+        <translation>%1: ここで削除され、別の端末で変更されたため、戻りました。</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device and changed here, and stays.</source>
+        <translation>%1: 別の端末で削除され、ここで変更されたため、残ります。</translation>
+    </message>
+    <message>
+        <source>%1: a copy of the row has the other values.</source>
+        <translation>%1: 行のコピーにもう一方の値があります。</translation>
+    </message>
+    <message>
+        <source>%1: %2 came in the place of %3.</source>
+        <extracomment>Such as &quot;Tea, Quantity: 5 came in the place of 3.&quot;</extracomment>
+        <translation>%1: %3の代わりに%2になりました。</translation>
+    </message>
+    <message>
+        <source>%1: both devices had changed it. It is %2; the other was %3.</source>
+        <translation>%1: 両方の端末で変更されました。%2になり、もう一方は%3でした。</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted. It is %2; the other was %3.</source>
+        <translation>%1: 両方の端末で数えられました。%2になり、もう一方は%3でした。</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted beyond the limit. It is %2; the other was %3.</source>
+        <translation>%1: 両方の端末で限度を超えて数えられました。%2になり、もう一方は%3でした。</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>A row&apos;s name and that of a column.</extracomment>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <extracomment>In the place of a value that is not there.</extracomment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Brought together</source>
+        <translation>まとめました</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>ほか %n 件。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -537,6 +537,40 @@ Istniejący FILE zostaje zastąpiony.
                        pliku; bez tego według końca nazwy FILE lub pdf
 </translation>
     </message>
+    <message>
+        <source>Prints what merging OTHER, another device&apos;s copy of the data file, would do, as merge prints it.
+Changes nothing. Exits with 3 if OTHER has something that the data file has not.
+
+  --base FILE          what both come from, where no kept copy is
+  --json               an object per line
+</source>
+        <translation>Pokazuje, co zrobiłoby połączenie z OTHER, kopią pliku danych z innego urządzenia, tak jak pokazuje
+to merge. Niczego nie zmienia. Kończy się kodem 3, jeśli OTHER ma coś, czego nie ma plik danych.
+
+  --base FILE          z czego powstały oba, jeśli nie ma zachowanej kopii
+  --json               jeden obiekt w wierszu
+</translation>
+    </message>
+    <message>
+        <source>Brings the data file and OTHER, another device&apos;s copy of it, together in the data file. OTHER
+is only read. Prints a line per thing that came or went, and per value that both had changed:
+what TAB list TAB row TAB column TAB value TAB other value. Both files are kept as copies
+before.
+
+  --base FILE          what both come from, where no kept copy is
+  --dry-run            stores nothing
+  --json               an object per line
+</source>
+        <translation>Łączy plik danych i OTHER, jego kopię z innego urządzenia, w pliku danych. OTHER jest tylko
+czytany. Pokazuje wiersz dla wszystkiego, co przybyło lub ubyło, i dla każdej wartości, którą
+zmieniono w obu: co TAB lista TAB wiersz TAB kolumna TAB wartość TAB druga wartość. Przedtem
+zachowuje kopie obu plików.
+
+  --base FILE          z czego powstały oba, jeśli nie ma zachowanej kopii
+  --dry-run            niczego nie zapisuje
+  --json               jeden obiekt w wierszu
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1085,6 +1119,21 @@ Tap Retry to open the data file again.</source>
     </message>
 </context>
 <context>
+    <name>Quillory::DeviceMerge</name>
+    <message>
+        <source>Another device has changed the lists, and so have you. Do you want to bring both together?</source>
+        <translation>Inne urządzenie zmieniło listy i tutaj też je zmieniono. Połączyć obie wersje?</translation>
+    </message>
+    <message>
+        <source>Beside the data file lies another device&apos;s version, &quot;%1&quot;. Do you want to bring both together?</source>
+        <translation>Obok pliku danych leży wersja z innego urządzenia, „%1”. Połączyć obie?</translation>
+    </message>
+    <message>
+        <source>The two versions could not be brought together; both are as they were. Error: %1</source>
+        <translation>Nie udało się połączyć obu wersji; obie są takie, jak były. Błąd: %1</translation>
+    </message>
+</context>
+<context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
@@ -1181,6 +1230,116 @@ Tap Retry to open the data file again.</source>
     <message>
         <source>opens a menu</source>
         <translation>otwiera menu</translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::MergePage</name>
+    <message>
+        <source>name of the list</source>
+        <translation>nazwa listy</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <translation>ikona</translation>
+    </message>
+    <message>
+        <source>warning of counts</source>
+        <translation>ostrzeganie o ilości</translation>
+    </message>
+    <message>
+        <source>warning of expiry</source>
+        <translation>ostrzeganie o terminie</translation>
+    </message>
+    <message>
+        <source>count to warn at</source>
+        <translation>ilość, od której ostrzegać</translation>
+    </message>
+    <message>
+        <source>colour of counts</source>
+        <translation>kolor ilości</translation>
+    </message>
+    <message>
+        <source>colour of expiry</source>
+        <translation>kolor terminu</translation>
+    </message>
+    <message>
+        <source>The list came from the other device.</source>
+        <translation>Lista pochodzi z innego urządzenia.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device.</source>
+        <translation>Listę usunięto na innym urządzeniu.</translation>
+    </message>
+    <message>
+        <source>The list was deleted here and changed on the other device: it is back.</source>
+        <translation>Listę usunięto tutaj i zmieniono na innym urządzeniu: wróciła.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device and changed here: it stays.</source>
+        <translation>Listę usunięto na innym urządzeniu i zmieniono tutaj: zostaje.</translation>
+    </message>
+    <message>
+        <source>Both devices had made this list: it is one now.</source>
+        <translation>Oba urządzenia utworzyły tę listę: teraz jest jedna.</translation>
+    </message>
+    <message>
+        <source>%1: came from the other device.</source>
+        <translation>%1: pochodzi z innego urządzenia.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device.</source>
+        <translation>%1: usunięto na innym urządzeniu.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted here and changed on the other device, and is back.</source>
+        <translation>%1: usunięto tutaj i zmieniono na innym urządzeniu; wiersz wrócił.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device and changed here, and stays.</source>
+        <translation>%1: usunięto na innym urządzeniu i zmieniono tutaj; wiersz zostaje.</translation>
+    </message>
+    <message>
+        <source>%1: a copy of the row has the other values.</source>
+        <translation>%1: kopia wiersza ma pozostałe wartości.</translation>
+    </message>
+    <message>
+        <source>%1: %2 came in the place of %3.</source>
+        <extracomment>Such as &quot;Tea, Quantity: 5 came in the place of 3.&quot;</extracomment>
+        <translation>%1: %2 zamiast %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had changed it. It is %2; the other was %3.</source>
+        <translation>%1: zmieniono na obu urządzeniach. Jest %2; drugą wartością było %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted. It is %2; the other was %3.</source>
+        <translation>%1: liczono na obu urządzeniach. Jest %2; drugą wartością było %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted beyond the limit. It is %2; the other was %3.</source>
+        <translation>%1: na obu urządzeniach przekroczono granicę. Jest %2; drugą wartością było %3.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>A row&apos;s name and that of a column.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <extracomment>In the place of a value that is not there.</extracomment>
+        <translation>nic</translation>
+    </message>
+    <message>
+        <source>Brought together</source>
+        <translation>Połączono</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>I jeszcze %n.</numerusform>
+            <numerusform>I jeszcze %n.</numerusform>
+            <numerusform>I jeszcze %n.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -535,6 +535,39 @@ med -, till standard ut. En FILE som finns ersätts.
                        fil; annars det som FILE slutar på, eller pdf
 </translation>
     </message>
+    <message>
+        <source>Prints what merging OTHER, another device&apos;s copy of the data file, would do, as merge prints it.
+Changes nothing. Exits with 3 if OTHER has something that the data file has not.
+
+  --base FILE          what both come from, where no kept copy is
+  --json               an object per line
+</source>
+        <translation>Visar vad det skulle göra att föra ihop OTHER, en annan enhets kopia av datafilen, som merge visar
+det. Ändrar ingenting. Slutar med 3 om OTHER har något som datafilen saknar.
+
+  --base FILE          vad båda kommer från, om ingen kopia finns kvar
+  --json               ett objekt per rad
+</translation>
+    </message>
+    <message>
+        <source>Brings the data file and OTHER, another device&apos;s copy of it, together in the data file. OTHER
+is only read. Prints a line per thing that came or went, and per value that both had changed:
+what TAB list TAB row TAB column TAB value TAB other value. Both files are kept as copies
+before.
+
+  --base FILE          what both come from, where no kept copy is
+  --dry-run            stores nothing
+  --json               an object per line
+</source>
+        <translation>För ihop datafilen och OTHER, en annan enhets kopia av den, i datafilen. OTHER läses bara. Visar en
+rad för allt som kom eller försvann och för varje värde som båda hade ändrat: vad TAB lista TAB rad
+TAB kolumn TAB värde TAB annat värde. Före det sparas kopior av båda filerna.
+
+  --base FILE          vad båda kommer från, om ingen kopia finns kvar
+  --dry-run            sparar ingenting
+  --json               ett objekt per rad
+</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1079,6 +1112,21 @@ Tryck på Försök igen för att öppna datafilen på nytt.</translation>
     </message>
 </context>
 <context>
+    <name>Quillory::DeviceMerge</name>
+    <message>
+        <source>Another device has changed the lists, and so have you. Do you want to bring both together?</source>
+        <translation>En annan enhet har ändrat listorna, och det har du också. Vill du föra ihop båda?</translation>
+    </message>
+    <message>
+        <source>Beside the data file lies another device&apos;s version, &quot;%1&quot;. Do you want to bring both together?</source>
+        <translation>Bredvid datafilen ligger en annan enhets version, ”%1”. Vill du föra ihop båda?</translation>
+    </message>
+    <message>
+        <source>The two versions could not be brought together; both are as they were. Error: %1</source>
+        <translation>De två versionerna kunde inte föras ihop; båda är som de var. Fel: %1</translation>
+    </message>
+</context>
+<context>
     <name>Quillory::FilterBar</name>
     <message>
         <source>Clear</source>
@@ -1175,6 +1223,115 @@ Tryck på Försök igen för att öppna datafilen på nytt.</translation>
     <message>
         <source>opens a menu</source>
         <translation>öppnar en meny</translation>
+    </message>
+</context>
+<context>
+    <name>Quillory::MergePage</name>
+    <message>
+        <source>name of the list</source>
+        <translation>listans namn</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <translation>ikon</translation>
+    </message>
+    <message>
+        <source>warning of counts</source>
+        <translation>varning för antal</translation>
+    </message>
+    <message>
+        <source>warning of expiry</source>
+        <translation>varning för utgång</translation>
+    </message>
+    <message>
+        <source>count to warn at</source>
+        <translation>antal att varna vid</translation>
+    </message>
+    <message>
+        <source>colour of counts</source>
+        <translation>färg för antal</translation>
+    </message>
+    <message>
+        <source>colour of expiry</source>
+        <translation>färg för utgång</translation>
+    </message>
+    <message>
+        <source>The list came from the other device.</source>
+        <translation>Listan kom från den andra enheten.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device.</source>
+        <translation>Listan togs bort på den andra enheten.</translation>
+    </message>
+    <message>
+        <source>The list was deleted here and changed on the other device: it is back.</source>
+        <translation>Listan togs bort här och ändrades på den andra enheten: den är tillbaka.</translation>
+    </message>
+    <message>
+        <source>The list was deleted on the other device and changed here: it stays.</source>
+        <translation>Listan togs bort på den andra enheten och ändrades här: den stannar.</translation>
+    </message>
+    <message>
+        <source>Both devices had made this list: it is one now.</source>
+        <translation>Båda enheterna hade skapat listan: nu är den en.</translation>
+    </message>
+    <message>
+        <source>%1: came from the other device.</source>
+        <translation>%1: kom från den andra enheten.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device.</source>
+        <translation>%1: togs bort på den andra enheten.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted here and changed on the other device, and is back.</source>
+        <translation>%1: togs bort här och ändrades på den andra enheten, och är tillbaka.</translation>
+    </message>
+    <message>
+        <source>%1: was deleted on the other device and changed here, and stays.</source>
+        <translation>%1: togs bort på den andra enheten och ändrades här, och stannar.</translation>
+    </message>
+    <message>
+        <source>%1: a copy of the row has the other values.</source>
+        <translation>%1: en kopia av raden har de andra värdena.</translation>
+    </message>
+    <message>
+        <source>%1: %2 came in the place of %3.</source>
+        <extracomment>Such as &quot;Tea, Quantity: 5 came in the place of 3.&quot;</extracomment>
+        <translation>%1: %2 i stället för %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had changed it. It is %2; the other was %3.</source>
+        <translation>%1: ändrat på båda enheterna. Nu %2; det andra var %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted. It is %2; the other was %3.</source>
+        <translation>%1: räknat på båda enheterna. Nu %2; det andra var %3.</translation>
+    </message>
+    <message>
+        <source>%1: both devices had counted beyond the limit. It is %2; the other was %3.</source>
+        <translation>%1: räknat över gränsen på båda enheterna. Nu %2; det andra var %3.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>A row&apos;s name and that of a column.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <extracomment>In the place of a value that is not there.</extracomment>
+        <translation>inget</translation>
+    </message>
+    <message>
+        <source>Brought together</source>
+        <translation>Sammanfört</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Och %n till.</numerusform>
+            <numerusform>Och %n till.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -185,7 +185,8 @@ void Device::ChangeRows(size_t what, const Draw& draw)
     const auto present = rows.FillRows().rows;
     if (present.empty() || what < 18) {
         const QString mark = u"mark %1"_s.arg(m_deeds.trace.size());
-        const std::vector<QString> texts { NewText(u"name "_s), u"10"_s, NewText(u"shelf "_s), mark };
+        const std::vector<QString> texts { NewText(u"name "_s), u"10"_s, NewText(u"shelf "_s),
+            mark };
         m_deeds.counts[mark] = 10;
         Require(rows.WriteNewRow(texts) != kNoObject, "add a row");
         return;
@@ -236,9 +237,9 @@ QString Device::MergeWith(Volume& theirs)
     const auto plan = PlanMerge(mine, theirs, base->get());
     if (!plan)
         return u"no plan: "_s + QLatin1StringView(ErrorPhrase(plan.Error()));
-    m_deeds.trace << m_folder.right(1) + u" merges, kin %1, exact %2"_s.arg(
-        static_cast<int>(plan->kinship))
-                         .arg(plan->isBaseExact);
+    m_deeds.trace << m_folder.right(1)
+            + u" merges, kin %1, exact %2"_s.arg(static_cast<int>(plan->kinship))
+                  .arg(plan->isBaseExact);
     Note(*plan);
     const auto done = ExchangeMerged(*plan, mine, theirs, Path(), copies, m_now);
     if (!done)

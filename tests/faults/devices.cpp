@@ -180,8 +180,8 @@ private:
     /// A list that stays brings rows back that were deleted with it.
     [[nodiscard]] bool HasListCome() const
     {
-        return std::ranges::any_of(m_deeds.trace,
-            [](const QString& line) { return line.startsWith(u"  2 "); });
+        return std::ranges::any_of(
+            m_deeds.trace, [](const QString& line) { return line.startsWith(u"  2 "); });
     }
 };
 
