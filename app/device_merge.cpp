@@ -73,8 +73,8 @@ Result<void> DeviceMerge::WithPlan(const QString& path, const PlanUse& use) cons
     if (mine == nullptr)
         return ErrorNumber::InvalidHandle;
     QUILLORY_TRY(Volume::VerifyPagesOf(path));
-    QUILLORY_TRY_VALUE(const auto theirs,
-        Volume::Mount(path, Disposition::OpenExisting, VolumeAccess::ReadOnly));
+    QUILLORY_TRY_VALUE(
+        const auto theirs, Volume::Mount(path, Disposition::OpenExisting, VolumeAccess::ReadOnly));
     QUILLORY_TRY_VALUE(
         const auto base, OpenBase(*mine, *theirs, m_session.Path(), m_session.Copies()));
     QUILLORY_TRY_VALUE(const MergePlan plan, PlanMerge(*mine, *theirs, base.get()));
@@ -86,11 +86,12 @@ std::optional<FileVersion> DeviceMerge::FindNews(const QString& path) const
     const WaitCursor wait;
     std::optional<FileVersion> version;
     // What cannot be read is nothing to ask about.
-    static_cast<void>(
-        WithPlan(path, [&version](const MergePlan& plan, Volume& /*mine*/, Volume& theirs) -> Result<void> {
-            QUILLORY_TRY_VALUE(const History history, theirs.ReadHistory());
-            if (plan.kinship == Kinship::Apart || plan.kinship == Kinship::Newer)
-                version = history.Latest();
+    static_cast<void>(WithPlan(
+        path, [&version](const MergePlan& plan, Volume& mine, Volume& theirs) -> Result<void> {
+            QUILLORY_TRY_VALUE(const History here, mine.ReadHistory());
+            QUILLORY_TRY_VALUE(const History there, theirs.ReadHistory());
+            if (plan.kinship != Kinship::Known && here.HasStateOf(there))
+                version = there.Latest();
             return {};
         }).IsOk());
     return version;

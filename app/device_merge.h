@@ -46,7 +46,8 @@ private:
     FileVersion m_declined;
 
     /// Reads the file at `path` and the open one and calls `use` with both; what went wrong.
-    using PlanUse = std::function<Result<void>(const MergePlan& plan, Volume& mine, Volume& theirs)>;
+    using PlanUse
+        = std::function<Result<void>(const MergePlan& plan, Volume& mine, Volume& theirs)>;
     [[nodiscard]] Result<void> WithPlan(const QString& path, const PlanUse& use) const;
     /// What the file at `path` is now, if it has something that the open one lacks and both were
     /// one file once.

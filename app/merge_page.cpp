@@ -54,8 +54,9 @@ public:
     NoteText(const MergeNote& note, const ValueContext& context)
         : m_note(note)
         , m_context(context)
-        , m_setting(std::ranges::find_if(
-              kSettings, [&note](const SettingText& entry) { return note.column == QLatin1StringView(entry.name); }))
+        , m_setting(std::ranges::find_if(kSettings, [&note](const SettingText& entry) {
+            return note.column == QLatin1StringView(entry.name);
+        }))
     { }
 
     [[nodiscard]] QString Sentence() const
@@ -93,7 +94,8 @@ public:
         case Kind::CountsLimited:
             break;
         }
-        return WithValues(tr("%1: both devices had counted beyond the limit. It is %2; the other was %3."));
+        return WithValues(
+            tr("%1: both devices had counted beyond the limit. It is %2; the other was %3."));
     }
 
 private:

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 namespace Quillory {
@@ -305,7 +306,8 @@ Result<void> PlanLists(
             plan.lists.push_back(std::move(planner.Plan()));
         std::ranges::move(planner.Notes(), std::back_inserter(plan.notes));
     }
-    std::ranges::stable_sort(plan.notes, {}, &MergeNote::list);
+    std::ranges::stable_sort(
+        plan.notes, {}, [](const MergeNote& note) { return std::tie(note.list, note.row); });
     return {};
 }
 

@@ -102,7 +102,7 @@ struct MergePlan
     bool isBaseExact = false;
     /// Only the lists to which something has to be done.
     std::vector<ListPlan> lists;
-    /// List by list in the order of their names.
+    /// By the names of lists, and within a list of rows: what is about the list comes first.
     std::vector<MergeNote> notes;
     /// Where the merged contents come from.
     History history;

@@ -56,6 +56,13 @@ bool History::Covers(const FileVersion& version) const
     });
 }
 
+bool History::HasStateOf(const History& other) const
+{
+    return std::ranges::any_of(m_versions, [&other](const FileVersion& version) {
+        return other.Covers({ version.state, 0 });
+    });
+}
+
 bool History::CoversCommon(const History& one, const History& other) const
 {
     return std::ranges::all_of(one.m_versions, [&](const FileVersion& version) {

@@ -43,6 +43,8 @@ public:
     [[nodiscard]] FileVersion Latest() const;
     /// Whether all that was there at `version` went into these contents. True of no state.
     [[nodiscard]] bool Covers(const FileVersion& version) const;
+    /// Whether both contents were one file once.
+    [[nodiscard]] bool HasStateOf(const History& other) const;
     /// Whether all that went into both of the others went into these contents.
     [[nodiscard]] bool CoversCommon(const History& one, const History& other) const;
     /// The history of contents that hold all of both, and are `merged` now: the newest of both, the
