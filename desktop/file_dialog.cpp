@@ -7,9 +7,11 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QScreen>
 #include <QStandardPaths>
@@ -49,9 +51,17 @@ void FitToScreen(QFileDialog& dialog)
     QStringList spares;
     if (free.width() < kNarrowScreen)
         spares << u"sidebar"_s << u"lookInLabel"_s << u"forwardButton"_s << u"listModeButton"_s
-               << u"detailModeButton"_s;
+               << u"detailModeButton"_s << u"fileTypeLabel"_s << u"fileTypeCombo"_s;
     if (free.width() < kNarrowPage)
-        spares << u"backButton"_s << u"fileNameLabel"_s << u"fileTypeLabel"_s;
+        spares << u"backButton"_s << u"fileNameLabel"_s;
+    auto* lines = qobject_cast<QGridLayout*>(dialog.layout());
+    auto* answers = dialog.findChild<QDialogButtonBox*>(u"buttonBox"_s);
+    if (lines != nullptr && answers != nullptr && free.width() < kNarrowScreen) {
+        // Below the names, not beside them.
+        lines->removeWidget(answers);
+        answers->setOrientation(Qt::Horizontal);
+        lines->addWidget(answers, lines->rowCount(), 0, 1, lines->columnCount());
+    }
     for (const QString& name : spares) {
         if (auto* spare = dialog.findChild<QWidget*>(name))
             spare->hide();

@@ -30,6 +30,24 @@ constexpr int kFirstYear = 1601;
 
 constexpr int kDays = 7;
 
+/// Makes the month and the year as small as the longest month asks for, between the arrows.
+void FitHeader(const QCalendarWidget& calendar)
+{
+    QString longest;
+    for (int month = 1; month <= 12; ++month) {
+        const QString name = calendar.locale().standaloneMonthName(month);
+        longest = name.size() > longest.size() ? name : longest;
+    }
+    const int beside = 2 * (CurrentMeasures().lineHeight + kPageMargin);
+    QFont font = calendar.font();
+    font.setBold(true);
+    font = FontFitting(font, longest + u" 0000"_s, calendar.width() - beside);
+    for (const QString& name : { u"qt_calendar_monthbutton"_s, u"qt_calendar_yearbutton"_s }) {
+        if (auto* button = calendar.findChild<QToolButton*>(name))
+            button->setFont(font);
+    }
+}
+
 /// Days that fingers can hit where `room` allows it, in the colours of the palette alone.
 void DressCalendar(QCalendarWidget* calendar, const QSize& room)
 {
@@ -52,6 +70,7 @@ void DressCalendar(QCalendarWidget* calendar, const QSize& room)
             button->setMinimumSize(CurrentMeasures().lineHeight, CurrentMeasures().lineHeight);
         }
     }
+    FitHeader(*calendar);
 }
 
 } // namespace

@@ -19,6 +19,8 @@ FilterBar::FilterBar(QWidget* parent)
     setObjectName(u"filterBar"_s);
     setAttribute(Qt::WA_StyledBackground);
     m_text->setObjectName(u"filterText"_s);
+    m_text->setWordWrap(true);
+    m_text->setMinimumWidth(kMinTouchTarget);
     m_text->setMinimumHeight(CurrentMeasures().lineHeight);
     m_clear->setObjectName(u"clearFilters"_s);
     m_clear->setAutoDefault(false);
@@ -27,7 +29,7 @@ FilterBar::FilterBar(QWidget* parent)
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(
         LineMargins(kPageMargin, kGrid, layoutDirection()) + QMargins(0, kGrid / 2, 0, kGrid / 2));
-    line->setSpacing(kGrid);
+    line->setSpacing(kGrid / 2);
     line->addWidget(m_text, 1);
     line->addWidget(m_clear);
     connect(m_clear, &QPushButton::clicked, this, &FilterBar::ClearChosen);

@@ -162,6 +162,7 @@ private Q_SLOTS:
             Subject subject;
             ApplyWindowStyle(&subject.stack);
             Show(subject, page);
+            subject.page->OfferUndo(u"x"_s, {});
             // Alt and its first letter press a key: each has its own.
             const auto* left = subject.page->findChild<QAbstractButton*>(u"leftKey"_s);
             const auto* right = subject.page->findChild<QAbstractButton*>(u"rightKey"_s);

@@ -96,6 +96,11 @@ protected:
         label->setWordWrap(true);
         label->setFixedWidth(std::max(kLeastText, std::min({ text, room, kMostText })));
         layout()->activate();
+        // What stands beside the text is only known once it is laid out.
+        const int excess = layout()->sizeHint().width() - (parentWidget()->width() - 2 * kGrid);
+        if (excess > 0)
+            label->setFixedWidth(std::max(kLeastText, label->width() - excess));
+        layout()->activate();
         setFixedSize(layout()->sizeHint().width(), layout()->totalHeightForWidth(width()));
     }
     bool event(QEvent* event) override
@@ -107,7 +112,7 @@ protected:
     }
 
 private:
-    static constexpr int kLeastText = 120;
+    static constexpr int kLeastText = 80;
     static constexpr int kMostText = 360;
     bool m_isFitted = false;
 };

@@ -32,6 +32,7 @@ UndoBar::UndoBar(QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
+    m_text->setMinimumWidth(kMinTouchTarget);
     m_button->setObjectName(u"undo"_s);
     m_button->setAutoDefault(false);
     m_button->setFocusPolicy(Qt::TabFocus);
@@ -39,7 +40,7 @@ UndoBar::UndoBar(QWidget* parent)
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(
         LineMargins(kPageMargin, kGrid, layoutDirection()) + QMargins(0, kGrid / 2, 0, kGrid / 2));
-    line->setSpacing(kGrid);
+    line->setSpacing(kGrid / 2);
     line->addWidget(m_text, 1);
     line->addWidget(m_button);
     m_timer->setSingleShot(true);
