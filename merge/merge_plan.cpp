@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 namespace Quillory {
@@ -133,8 +134,7 @@ private:
         std::optional<RowValues> base;
         if (m_match.base != nullptr)
             base = SettingsOf(m_match.base->definition);
-        const MixedRow mixed
-            = MixRow(mine, theirs, base ? &*base : nullptr, m_context.precedence);
+        const MixedRow mixed = MixRow(mine, theirs, base ? &*base : nullptr, m_context.precedence);
         m_plan.isDefinitionChanged = !std::ranges::equal(mixed.values, mine, IsSame);
         ApplySettings(m_plan.definition, mixed.values);
         for (const SettledValue& settled : mixed.settled)
@@ -208,8 +208,8 @@ private:
             TellOf(settled, { name, m_plan.definition.columns[settled.column].name }, mixed.values,
                 mine, theirs);
         if (!std::ranges::equal(mixed.values, mine, IsSame))
-            AddChange(RowChange::What::Change, decision.mine, decision.origin,
-                std::move(mixed.values));
+            AddChange(
+                RowChange::What::Change, decision.mine, decision.origin, std::move(mixed.values));
         if (!mixed.copy)
             return {};
         Tell(Kind::RowCopied, name);
@@ -275,8 +275,8 @@ private:
 
 quint64 SeedOf(const FileVersion& version, quint64 seed)
 {
-    return StableHash(quint64 { version.revision },
-        StableHash(static_cast<quint64>(version.state), seed));
+    return StableHash(
+        quint64 { version.revision }, StableHash(static_cast<quint64>(version.state), seed));
 }
 
 /// What both devices call the merged contents: it follows from what is merged, and from the base
@@ -296,8 +296,8 @@ Kinship KinshipOf(const History& mine, const History& theirs, bool hasBase)
     return hasBase ? Kinship::Apart : Kinship::Unrelated;
 }
 
-Result<void> PlanLists(const PlanContext& context, const std::vector<ListMatch>& matches,
-    MergePlan& plan)
+Result<void> PlanLists(
+    const PlanContext& context, const std::vector<ListMatch>& matches, MergePlan& plan)
 {
     for (const ListMatch& match : matches) {
         ListPlanner planner(context, match);
@@ -306,7 +306,9 @@ Result<void> PlanLists(const PlanContext& context, const std::vector<ListMatch>&
             plan.lists.push_back(std::move(planner.Plan()));
         std::ranges::move(planner.Notes(), std::back_inserter(plan.notes));
     }
-    std::ranges::stable_sort(plan.notes, {}, &MergeNote::list);
+    std::ranges::stable_sort(plan.notes, [](const MergeNote& a, const MergeNote& b) {
+        return std::tie(a.list, a.row) < std::tie(b.list, b.row);
+    });
     return {};
 }
 
@@ -337,7 +339,8 @@ Result<MergePlan> PlanMerge(Volume& mine, Volume& theirs, Volume* base)
             || !there.history.Covers(version))
             return ErrorNumber::InvalidParameter;
     }
-    const bool isExact = base != nullptr && before.history.CoversCommon(here.history, there.history);
+    const bool isExact
+        = base != nullptr && before.history.CoversCommon(here.history, there.history);
     plan.isBaseExact = isExact;
     const quint64 seed = isExact ? 0 : SeedOf(before.history.Latest(), 1);
     const FileVersion merged = MergedVersion(here.history, there.history, seed);

@@ -9,8 +9,9 @@
 
 namespace Quillory {
 
-/// Something of a merge that a person may want to know, from the side of this device: what came from
-/// the other one, what went because of it, and what was decided where both had changed the same.
+/// Something of a merge that a person may want to know, from the side of this device: what came
+/// from the other one, what went because of it, and what was decided where both had changed the
+/// same.
 struct MergeNote
 {
     enum class Kind
@@ -101,7 +102,7 @@ struct MergePlan
     bool isBaseExact = false;
     /// Only the lists to which something has to be done.
     std::vector<ListPlan> lists;
-    /// List by list in the order of their names.
+    /// List by list in the order of their names, then of the names of rows.
     std::vector<MergeNote> notes;
     /// Where the merged contents come from.
     History history;
@@ -111,9 +112,10 @@ struct MergePlan
 /// devices come to the same contents, whichever of them is `mine`, but for widths and orders of
 /// columns, which are mine. `base` is what both come from, null if it is not known.
 ///
-/// - A value that one side has changed is that side's. Where both have, counts get both differences,
-///   if the base is the latest that both come from and has the row; of others the one of the greater
-///   state stays. Texts that are decided against are kept in a copy of the row.
+/// - A value that one side has changed is that side's. Where both have, counts get both
+/// differences,
+///   if the base is the latest that both come from and has the row; of others the one of the
+///   greater state stays. Texts that are decided against are kept in a copy of the row.
 /// - A row or list that one side has deleted and the other left alone goes. One that the other has
 ///   changed (of a list: renamed, set otherwise, given or changed rows) stays as that side has it.
 /// - Without a base, whatever one side lacks comes from the other.
