@@ -90,6 +90,8 @@ void ColumnsPanel::BuildView()
     body->addWidget(m_view, 1);
     m_note->setContentsMargins(kPageMargin, kGrid, kPageMargin, kGrid);
     body->addWidget(m_note);
+    // A low window would else grow for it before it is told how low it is.
+    m_note->hide();
     Select(0);
 }
 
