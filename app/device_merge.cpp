@@ -22,14 +22,24 @@ DeviceMerge::DeviceMerge(DataFileSession& session, PageStack& pages)
 
 void DeviceMerge::OfferReplaced(const std::function<void()>& otherwise)
 {
-    if (!m_session.IsReplaced())
+    if (!m_session.IsReplaced() || IsDeclined())
         return otherwise();
     const auto version = FindNews(m_session.Path());
-    if (!version || *version == m_declined)
+    if (!version)
         return otherwise();
     Ask(tr("Another device has changed the lists, and so have you. Do you want to bring both "
            "together?"),
         m_session.Path(), *version, otherwise);
+}
+
+bool DeviceMerge::IsDeclined() const
+{
+    const auto other
+        = Volume::Mount(m_session.Path(), Disposition::OpenExisting, VolumeAccess::ReadOnly);
+    if (!other)
+        return false;
+    const auto history = (*other)->ReadHistory();
+    return history && history->Latest() == m_declined;
 }
 
 void DeviceMerge::OfferBeside()

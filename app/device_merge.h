@@ -45,6 +45,9 @@ private:
     /// The version that was not wanted.
     FileVersion m_declined;
 
+    /// Whether the file in the place of the data file is that version: to compare it once more
+    /// would take long.
+    [[nodiscard]] bool IsDeclined() const;
     /// Reads the file at `path` and the open one and calls `use` with both; what went wrong.
     using PlanUse
         = std::function<Result<void>(const MergePlan& plan, Volume& mine, Volume& theirs)>;
