@@ -62,6 +62,8 @@ int main(int argc, char** argv)
     if (options.nameFilter.isEmpty()) {
         PrintStart(options.repeat);
         PrintFileSize(options.sizes);
+        for (const int rows : options.sizes)
+            PrintMerge(rows);
     }
     PrintStandstills(application, options);
     RunCases(HomeCases(), { { options.sizes.front() }, options.repeat, options.nameFilter });

@@ -2,6 +2,7 @@
 #include "bench/store_cases.h"
 
 #include "bench/bench_data.h"
+#include "merge/file_merge.h"
 #include "store/row_store.h"
 #include "store/totals.h"
 
@@ -247,6 +248,46 @@ std::vector<BenchCase> StoreCases()
         { u"summary"_s, kRead, kGrowth, Summarise, kMaxMs },
         { u"add 1, one hundred times"_s, 1.3, kGrowth, AddOne },
     };
+}
+
+void PrintMerge(int rows)
+{
+    const BenchList& list = BenchList::OfSize(rows);
+    const QTemporaryDir folder;
+    const auto path = [&folder](const QString& name) { return folder.filePath(name + u".idb"_s); };
+    for (const QString& name : { u"mine"_s, u"theirs"_s, u"base"_s })
+        Require(QFile::copy(list.Path(), path(name)), "cannot copy the file");
+    for (const auto& [name, by] : { std::pair(u"mine"_s, 1), std::pair(u"theirs"_s, 2) }) {
+        DataVolume data;
+        ListCatalogue catalogue(data);
+        InventoryList definition;
+        Require(data.Mount(path(name), Disposition::OpenExisting) == ErrorNumber::None
+                && catalogue.OpenCatalogue() == ListCatalogue::OpenOutcome::Opened
+                && catalogue.OpenList(catalogue.FillHomeList().lists.front().oid, definition),
+            "the list cannot be opened");
+        RowStore store(data, definition, BenchContext());
+        Require(store.AdjustCount(store.FillRows().rows.front(), by).has_value(), "not counted");
+    }
+    const auto mount = [&path](const QString& name, VolumeAccess access) {
+        auto volume = Volume::Mount(path(name), Disposition::OpenExisting, access);
+        Require(volume.IsOk(), "a copy cannot be opened");
+        return std::move(*volume);
+    };
+    const double ms = MeasureMs([&] {
+        const auto mine = mount(u"mine"_s, VolumeAccess::Exclusive);
+        const auto theirs = mount(u"theirs"_s, VolumeAccess::ReadOnly);
+        const auto base = mount(u"base"_s, VolumeAccess::ReadOnly);
+        const auto plan = PlanMerge(*mine, *theirs, base.get());
+        Require(plan.IsOk() && plan->notes.size() == 1, "another plan");
+        Require(ExchangeMerged(*plan, *mine, *theirs, path(u"mine"_s),
+                    { folder.filePath(u"copies"_s), 3 }, QDateTime::currentDateTimeUtc())
+                    .IsOk(),
+            "not brought together");
+    });
+    constexpr int kPromisedRows = 100'000;
+    constexpr double kMostMs = 1000;
+    TellFigure(
+        u"merge of a change on each side"_s, rows, ms, "ms", rows > kPromisedRows ? 0 : kMostMs);
 }
 
 } // namespace Quillory
