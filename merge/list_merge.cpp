@@ -102,6 +102,7 @@ std::vector<ListMatch> MatchLists(
             keys.insert(key);
     }
     std::vector<ListMatch> matches;
+    matches.reserve(keys.size());
     for (const ListKey& key : keys)
         matches.push_back(
             { FindIn(&mine, key), FindIn(&theirs, key), FindIn(base, key), key, false });

@@ -79,11 +79,13 @@ History History::Join(const History& one, const History& other, const FileVersio
     AddRanks(other, ranks);
     ranks.erase(merged.state);
     std::vector<std::pair<Rank, StateId>> ordered;
+    ordered.reserve(ranks.size());
     for (const auto& [state, rank] : ranks)
         ordered.emplace_back(rank, state);
     std::ranges::stable_sort(
         ordered, [](const auto& a, const auto& b) { return a.first.age > b.first.age; });
     std::vector<FileVersion> versions;
+    versions.reserve(ordered.size() + 1);
     for (const auto& [rank, state] : ordered)
         versions.push_back({ state, rank.revision });
     versions.push_back(merged);

@@ -10,7 +10,7 @@
 
 namespace {
 
-const QStringList kRows { u"Name=Rice Quantity=1"_s, u"Name=Salt Quantity=5"_s,
+const QStringList kStock { u"Name=Rice Quantity=1"_s, u"Name=Salt Quantity=5"_s,
     u"Name=Tea Quantity=3"_s };
 const QString kHearUpdate = u"hear Updated from another device; "_s;
 
@@ -23,7 +23,7 @@ void Run(const QString& path, const QString& command)
 class TwoDevices : public FrameErrand
 {
 public:
-    explicit TwoDevices(const QStringList& rows = kRows)
+    explicit TwoDevices(const QStringList& rows = kStock)
     {
         MakeLists({ u"Pantry"_s, u"Tools"_s });
         for (const QString& row : rows)
@@ -85,7 +85,7 @@ private Q_SLOTS:
 
     void rowsStayWhereTheyAreScrolledTo()
     {
-        const TwoDevices devices(kRows + kRows + kRows);
+        const TwoDevices devices(kStock + kStock + kStock);
         Act(u"size 360x300; tap Pantry; on Rice"_s);
         auto* rows = devices.pages->Top()->findChild<QTableView*>();
         const auto top = [rows] {

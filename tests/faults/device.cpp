@@ -91,7 +91,7 @@ QString Device::Inbox(int device) const
 
 QString Device::NewText(const QString& stem)
 {
-    const QString text = stem + QString::number(m_deeds.trace.size()) + u'.';
+    QString text = stem + QString::number(m_deeds.trace.size()) + u'.';
     m_deeds.standing.insert(text);
     return text;
 }
