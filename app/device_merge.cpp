@@ -109,19 +109,19 @@ std::optional<FileVersion> DeviceMerge::FindNews(const QString& path) const
 
 void DeviceMerge::Merge(const QString& path)
 {
-    std::vector<MergeNote> notes;
+    MergePlan carriedOut;
     Result<void> done;
     {
         const WaitCursor wait;
         // Anew: the files may be others since it was asked.
         done = WithPlan(path, [&](const MergePlan& plan, Volume& mine, Volume& theirs) {
-            notes = plan.notes;
+            carriedOut = plan;
             return ExchangeMerged(plan, mine, theirs, m_session.Path(), m_session.Copies(),
                 QDateTime::currentDateTimeUtc());
         });
     }
     if (done)
-        Q_EMIT Merged(notes);
+        Q_EMIT Merged(carriedOut);
     else
         ShowMessage(&m_pages,
             tr("The two versions could not be brought together; both are as they were. Error: %1")

@@ -35,7 +35,7 @@ public:
 
 Q_SIGNALS:
     /// Both are one in the place of the data file, which is to be opened anew.
-    void Merged(const std::vector<Quillory::MergeNote>& notes);
+    void Merged(const Quillory::MergePlan& plan);
 
 private:
     DataFileSession& m_session;

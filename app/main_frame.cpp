@@ -334,13 +334,13 @@ void MainFrame::TakeUpdate()
     m_pages->Top()->Say(tr("Updated from another device"));
 }
 
-void MainFrame::ShowMerged(const std::vector<MergeNote>& notes)
+void MainFrame::ShowMerged(const MergePlan& plan)
 {
     // A write that failed because the other version was there can be tried again.
     m_session.ForgetFailure();
     ReopenDataFile(DataFileSession::Lost::Nothing);
-    if (!notes.empty())
-        m_pages->Push(new MergePage(notes, m_context));
+    if (!plan.notes.empty() || plan.kinship == Kinship::Unrelated)
+        m_pages->Push(new MergePage(plan, m_context));
 }
 
 bool MainFrame::ReopenList()

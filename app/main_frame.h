@@ -105,7 +105,7 @@ private:
     void EndRun();
     void ReopenDataFile(DataFileSession::Lost lost);
     void TakeUpdate();
-    void ShowMerged(const std::vector<MergeNote>& notes);
+    void ShowMerged(const MergePlan& plan);
     /// Whether the open list is still there with its columns; its definition is the file's then.
     [[nodiscard]] bool ReopenList();
     void RefreshPages();

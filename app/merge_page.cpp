@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <optional>
 
 namespace Quillory {
 
@@ -129,8 +130,7 @@ private:
 
 } // namespace
 
-MergePage::MergePage(
-    const std::vector<MergeNote>& notes, const ValueContext& context, QWidget* parent)
+MergePage::MergePage(const MergePlan& plan, const ValueContext& context, QWidget* parent)
     : Page(tr("Brought together"), parent)
 {
     setObjectName(u"mergePage"_s);
@@ -142,11 +142,18 @@ MergePage::MergePage(
     new TouchBehaviour(text);
     Body()->addWidget(text, 1);
     setFocusProxy(text);
+    const std::vector<MergeNote>& notes = plan.notes;
     QString html;
-    QString list;
+    if (plan.kinship == Kinship::Unrelated)
+        html = u"<p>"_s
+            + tr("What both come from was not known any more. So nothing was deleted, and counts "
+                 "that both had changed were not added up.")
+                  .toHtmlEscaped()
+            + u"</p>"_s;
+    std::optional<QString> list;
     const size_t shown = std::min(notes.size(), kMostNotes);
     for (const MergeNote& note : std::span(notes).first(shown)) {
-        if (html.isEmpty() || note.list != list)
+        if (note.list != list)
             html += u"<h3>"_s + note.list.toHtmlEscaped() + u"</h3>"_s;
         list = note.list;
         html += u"<p>"_s + NoteText(note, context).Sentence().toHtmlEscaped() + u"</p>"_s;

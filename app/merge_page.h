@@ -8,14 +8,15 @@
 namespace Quillory {
 
 /// What came of bringing two versions of the data file together: list by list, what came, what went
-/// and what was decided, in sentences.
+/// and what was decided, in sentences; and first, if it was not known what both come from, what
+/// follows from that.
 class MergePage : public Page
 {
     Q_OBJECT
 
 public:
-    explicit MergePage(const std::vector<MergeNote>& notes, const ValueContext& context,
-        QWidget* parent = nullptr);
+    explicit MergePage(
+        const MergePlan& plan, const ValueContext& context, QWidget* parent = nullptr);
 };
 
 } // namespace Quillory

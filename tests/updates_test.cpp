@@ -142,6 +142,18 @@ private Q_SLOTS:
         }
     }
 
+    void whatBothComeFromMayBeGone()
+    {
+        TwoDevices devices;
+        Act(u"tap Pantry; tap New; type Oil; tap OK; see Rice, Salt, Tea, Oil"_s);
+        QVERIFY(QDir(devices.CopiesFolder()).removeRecursively());
+        devices.DoElsewhere(u"delete Pantry --where Name=Tea"_s);
+        Act(u"see Another device has changed the lists…; tap Yes; at Brought together"_s);
+        const QString text = devices.pages->Top()->findChild<QTextBrowser*>()->toPlainText();
+        QVERIFY2(text.startsWith(u"What both come from was not known any more."), qPrintable(text));
+        Act(u"tap OK; see Oil, Rice, Salt, Tea"_s);
+    }
+
     void aVersionThatComesBeforeTheEndIsAskedAbout()
     {
         const TwoDevices devices;

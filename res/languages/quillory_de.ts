@@ -1346,6 +1346,10 @@ Mit „Wiederholen“ wird die Datendatei erneut geöffnet.</translation>
             <numerusform>Und %n weitere.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>What both come from was not known any more. So nothing was deleted, and counts that both had changed were not added up.</source>
+        <translation>Woraus beide entstanden sind, war nicht mehr bekannt. Deshalb wurde nichts gelöscht, und Anzahlen, die beide geändert hatten, wurden nicht zusammengezählt.</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>

@@ -1340,6 +1340,10 @@ Toque Reintentar para volver a abrir el archivo de datos.</translation>
             <numerusform>Y %n más.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>What both come from was not known any more. So nothing was deleted, and counts that both had changed were not added up.</source>
+        <translation>Ya no se sabía de qué procedían ambas. Por eso no se eliminó nada, y las cantidades cambiadas en ambas no se sumaron.</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>

@@ -1349,6 +1349,10 @@ Touchez Recommencer pour rouvrir le fichier de données.</translation>
             <numerusform>Et %n autres.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>What both come from was not known any more. So nothing was deleted, and counts that both had changed were not added up.</source>
+        <translation>L’origine commune n’était plus connue. Rien n’a donc été supprimé, et les quantités modifiées des deux côtés n’ont pas été additionnées.</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>

@@ -1339,6 +1339,10 @@ Tocca Riprova per riaprire il file dei dati.</translation>
             <numerusform>E altri %n.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>What both come from was not known any more. So nothing was deleted, and counts that both had changed were not added up.</source>
+        <translation>L’origine comune non era più nota. Perciò nulla è stato eliminato e le quantità modificate da entrambi non sono state sommate.</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>

@@ -1323,6 +1323,10 @@ Tap Retry to open the data file again.</source>
             <numerusform>ほか %n 件。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>What both come from was not known any more. So nothing was deleted, and counts that both had changed were not added up.</source>
+        <translation>両方の元になった版がもう分かりませんでした。そのため何も削除されず、両方で変更された数量は合計されていません。</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>

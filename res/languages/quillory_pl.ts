@@ -1341,6 +1341,10 @@ Tap Retry to open the data file again.</source>
             <numerusform>I jeszcze %n.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>What both come from was not known any more. So nothing was deleted, and counts that both had changed were not added up.</source>
+        <translation>Nie było już wiadomo, z czego powstały obie wersje. Dlatego niczego nie usunięto, a ilości zmienionych w obu nie zsumowano.</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>

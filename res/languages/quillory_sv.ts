@@ -1333,6 +1333,10 @@ Tryck på Försök igen för att öppna datafilen på nytt.</translation>
             <numerusform>Och %n till.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>What both come from was not known any more. So nothing was deleted, and counts that both had changed were not added up.</source>
+        <translation>Det var inte längre känt vad båda kommer från. Därför togs inget bort, och antal som båda hade ändrat räknades inte ihop.</translation>
+    </message>
 </context>
 <context>
     <name>Quillory::OptionsPanel</name>
