@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/number_text.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
