@@ -7,6 +7,7 @@
 #include "widgets/measures.h"
 #include "widgets/touch.h"
 
+#include <QCoreApplication>
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QVBoxLayout>

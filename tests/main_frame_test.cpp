@@ -4,6 +4,7 @@
 #include "tests/test_program.h"
 
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
