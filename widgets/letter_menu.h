@@ -21,4 +21,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
+/// Opens a menu upward from a soft key, within the key's window, wherever that stands. In a window
+/// that is too low for it the entries lie closer together.
+void OpenAbove(QMenu& menu, const QWidget& key);
+/// Opens a menu of `opener` at a place on the screen, within the opener's window.
+void OpenAt(QMenu& menu, const QWidget& opener, const QPoint& place);
+
 } // namespace Quillory

@@ -219,46 +219,6 @@ void MeetLetter(QToolButton* key)
     QObject::connect(shortcut, &QShortcut::activated, key, [key] { PressWithoutPointer(key); });
 }
 
-/// Where the window lies on the screen.
-QRect WindowOf(const QWidget& widget)
-{
-    return { widget.window()->mapToGlobal(QPoint()), widget.window()->size() };
-}
-
-/// Makes the letters of a menu as small as its longest entry asks for, in a window that is too
-/// narrow for it. Entries then tell no keys either.
-void FitMenu(QMenu& menu, const QWidget& window)
-{
-    menu.setFont({});
-    const int room = window.width() - 2 * kGrid;
-    if (menu.sizeHint().width() <= room)
-        return;
-    QString longest;
-    for (QAction* entry : menu.actions()) {
-        entry->setShortcut({});
-        if (entry->text().size() > longest.size())
-            longest = entry->text();
-    }
-    const int beside = menu.sizeHint().width() - menu.fontMetrics().horizontalAdvance(longest);
-    menu.setFont(FontFitting(menu.font(), longest, room - beside));
-}
-
-/// Opens a menu upward from a soft key, within the window, wherever that stands. In a window that
-/// is too low for it the entries lie closer together.
-void OpenFromKey(QMenu& menu, const QWidget& key)
-{
-    menu.setStyleSheet(QString());
-    FitMenu(menu, *key.window());
-    // The menu's own size hint never goes beyond the screen.
-    const auto lines = static_cast<int>(menu.actions().size());
-    if (lines * CurrentMeasures().lineHeight > key.window()->height())
-        menu.setStyleSheet(u"QMenu::item { padding-top: 7px; padding-bottom: 7px; }"_s);
-    const QSize size = menu.sizeHint();
-    const QPoint place
-        = key.mapToGlobal(QPoint(key.width() - size.width(), -size.height() - kGrid));
-    menu.popup(PlaceWithin(WindowOf(key), place, size));
-}
-
 } // namespace
 
 Page::Page(const QString& title, QWidget* parent)
@@ -473,7 +433,7 @@ QWidget* Page::MakeSoftKey(const MenuEntry& entry, std::span<const MenuEntry> me
             Q_EMIT MenuAboutToOpen();
             popup->clear();
             FillMenu(popup, menu);
-            OpenFromKey(*popup, *button);
+            OpenAbove(*popup, *button);
         });
         return button;
     }
@@ -535,8 +495,7 @@ void Page::OpenContextMenu(std::span<const MenuEntry> entries, const QPoint& glo
     menu->setObjectName(u"contextMenu"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     FillMenu(menu, entries);
-    FitMenu(*menu, *window());
-    menu->popup(PlaceWithin(WindowOf(*this), globalPosition, menu->sizeHint()));
+    OpenAt(*menu, *this, globalPosition);
 }
 
 void Page::OfferUndo(const QString& text, std::function<void()> undo)

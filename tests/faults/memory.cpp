@@ -240,12 +240,13 @@ void* operator new(size_t size, const std::nothrow_t& /*tag*/) noexcept
     }
 }
 
-void operator delete(void* memory) noexcept
+// Seen through, it would be taken for a mismatch with the operator that allocates.
+[[gnu::noinline]] void operator delete(void* memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete(void* memory, size_t /*size*/) noexcept
+[[gnu::noinline]] void operator delete(void* memory, size_t /*size*/) noexcept
 {
     std::free(memory);
 }
