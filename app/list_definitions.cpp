@@ -8,7 +8,31 @@
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 
+#include <optional>
+
 namespace Quillory {
+
+namespace {
+
+/// The list as it is now, with what was entered for it: what nobody changed on the sheet stays as
+/// another device may have left it meanwhile.
+InventoryList WithChanges(
+    InventoryList present, const InventoryList& before, const InventoryList& entered)
+{
+    const auto take = [&](auto field) {
+        if (entered.*field != before.*field)
+            present.*field = entered.*field;
+    };
+    take(&InventoryList::Name);
+    take(&InventoryList::TableIcon);
+    take(&InventoryList::TableOption);
+    take(&InventoryList::TableWarnStart);
+    take(&InventoryList::TableWarnColour);
+    take(&InventoryList::TableExpiryColour);
+    return present;
+}
+
+} // namespace
 
 ListDefinitions::ListDefinitions(DataFileSession& session, PageStack& pages, HomeList& home)
     : m_session(session)
@@ -65,12 +89,28 @@ void ListDefinitions::EnterProperties(
         m_session.Volume().Flush();
         if (result != PageResult::Ok)
             return;
-        const InventoryList definition = sheet->Result();
-        if (m_session.Catalogue().UpdateList(list, definition))
-            m_home.UpdateLine({ list, definition.Name, definition.TableIcon });
-        else
-            EnterProperties(list, stored, definition);
+        const InventoryList changed = sheet->Result();
+        if (StoreProperties(list, stored, changed))
+            return;
+        EnterProperties(list, stored, changed);
+        if (!m_home.Has(list))
+            ShowMessage(
+                &m_pages, tr("Another device has deleted this list."), MessageIcon::Exclamation);
     });
+}
+
+bool ListDefinitions::StoreProperties(
+    ObjectId list, const InventoryList& stored, const InventoryList& entered)
+{
+    const std::optional<InventoryList> present = m_session.Catalogue().OpenListAgain(list, stored);
+    m_session.Catalogue().CloseRows();
+    if (!present)
+        return false;
+    const InventoryList definition = WithChanges(*present, stored, entered);
+    if (!m_session.Catalogue().UpdateList(list, definition))
+        return false;
+    m_home.UpdateLine({ list, definition.Name, definition.TableIcon });
+    return true;
 }
 
 } // namespace Quillory

@@ -3,6 +3,8 @@
 
 #include "store/inventory_list.h"
 
+#include <QCoreApplication>
+
 namespace Quillory {
 
 class DataFileSession;
@@ -13,6 +15,8 @@ class PageStack;
 /// comes back to be tried again.
 class ListDefinitions
 {
+    Q_DECLARE_TR_FUNCTIONS(ListDefinitions)
+
 public:
     /// All three outlive the object, which outlives the pages that it opens.
     ListDefinitions(DataFileSession& session, PageStack& pages, HomeList& home);
@@ -31,6 +35,8 @@ private:
     void EnterNewList(const InventoryList& entered, ObjectId failed);
     void StoreNewList(const InventoryList& entered);
     void EnterProperties(ObjectId list, const InventoryList& stored, const InventoryList& entered);
+    /// Writes what `entered` changed of `stored`; false, and nothing written, on failure.
+    bool StoreProperties(ObjectId list, const InventoryList& stored, const InventoryList& entered);
 };
 
 } // namespace Quillory

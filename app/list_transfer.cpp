@@ -50,13 +50,17 @@ void ListTransfer::AskForOrder(
     if (!m_session.Catalogue().OpenList(list, definition))
         return;
     auto* page = new ImportOrderPage(definition.columns);
-    m_pages.Push(page, [this, page, path, title = definition.Name, then](PageResult result) {
-        ImportOutcome outcome;
-        if (result == PageResult::Ok)
-            outcome = ImportFrom(path, title, page->Order());
+    m_pages.Push(page, [this, page, list, path, definition, then](PageResult result) {
         m_session.Catalogue().CloseRows();
-        if (result == PageResult::Ok)
-            TellImport(outcome, then);
+        if (result != PageResult::Ok)
+            return;
+        ImportOutcome outcome;
+        outcome.result = ImportResult::Failed;
+        // Another device's file may have come while the page was open.
+        if (m_session.Catalogue().OpenListAgain(list, definition))
+            outcome = ImportFrom(path, definition.Name, page->Order());
+        m_session.Catalogue().CloseRows();
+        TellImport(outcome, then);
     });
 }
 

@@ -347,15 +347,13 @@ bool MainFrame::ReopenList()
 {
     if (m_openList == kNoObject)
         return true;
-    // The identifier need not be that of the same list.
-    InventoryList reopened;
-    if (!m_session.Catalogue().OpenList(m_openList, reopened) || reopened.MapName != m_list.MapName
-        || reopened.columns != m_list.columns)
+    std::optional<InventoryList> reopened = m_session.Catalogue().OpenListAgain(m_openList, m_list);
+    if (!reopened)
         return false;
     // How it is laid out is this window's.
-    reopened.TableColSizes = m_list.TableColSizes;
-    reopened.columnOrder = m_list.columnOrder;
-    m_list = reopened;
+    reopened->TableColSizes = m_list.TableColSizes;
+    reopened->columnOrder = m_list.columnOrder;
+    m_list = *reopened;
     return true;
 }
 

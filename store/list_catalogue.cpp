@@ -395,6 +395,16 @@ bool ListCatalogue::OpenList(ObjectId oid, InventoryList& definition)
     return true;
 }
 
+std::optional<InventoryList> ListCatalogue::OpenListAgain(ObjectId oid, const InventoryList& known)
+{
+    InventoryList present;
+    if (OpenList(oid, present) && present.MapName == known.MapName
+        && present.columns == known.columns)
+        return present;
+    CloseRows();
+    return std::nullopt;
+}
+
 void ListCatalogue::CloseRows()
 {
     m_volume.Close(kRowsType);

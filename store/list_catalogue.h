@@ -105,6 +105,11 @@ public:
     /// Reads a list and opens its row database, columns included. False, and nothing open, if any
     /// of it fails. A row database that was open is closed first.
     [[nodiscard]] bool OpenList(ObjectId oid, InventoryList& definition);
+    /// Opens a list that was read before, as `known`, from the file that is there now, in which
+    /// another device may have changed all but the columns. Nothing, and nothing open, if its
+    /// record is gone, is another list's, or cannot be read.
+    [[nodiscard]] std::optional<InventoryList> OpenListAgain(
+        ObjectId oid, const InventoryList& known);
     void CloseRows();
 
     /// Takes a list away with all its rows in one transaction; durable when it returns true. The

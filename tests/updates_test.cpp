@@ -61,6 +61,11 @@ private Q_SLOTS:
             u"delete Pantry --where Name=Salt"_s, u"see Rice, Tea; on Tea"_s);
         add("a name of the list", u"tap Pantry"_s, u"rename Pantry Larder"_s, u"at Larder"_s);
         add("a list that is gone", u"tap Pantry"_s, u"remove Pantry"_s, u"see Tools; on Tools"_s);
+        add("properties of a list", u"press Home Alt+Return; tap nextIcon"_s,
+            u"rename Pantry Larder"_s, u"tap OK; see Larder, Tools"_s);
+        add("properties of a list that is gone", u"press Home Alt+Return; tap nextIcon"_s,
+            u"remove Pantry"_s,
+            u"tap OK; see Another device has deleted this list.; press Escape"_s);
         add("results of a search",
             u"tap Pantry; tap Menu; tap Find...; type a; tap ok; see Salt, Tea"_s, addSoap,
             u"see Salt, Soap, Tea; tap ok; see Rice, Salt, Soap, Tea"_s);
@@ -81,6 +86,14 @@ private Q_SLOTS:
         Act(kHearUpdate + after);
         const Page* top = devices.pages->Top();
         QVERIFY(top->Title().isEmpty() || top->accessibleName() == top->Title());
+    }
+
+    void anImportGoesIntoTheListThatIsThere()
+    {
+        TwoDevices devices;
+        devices.Import("Oil\t2\r\n");
+        devices.DoElsewhere(u"add Pantry Name=Soap"_s);
+        Act(kHearUpdate + u"tap OK; see Oil, Rice, Salt, Soap, Tea"_s);
     }
 
     void rowsStayWhereTheyAreScrolledTo()

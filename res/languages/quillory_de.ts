@@ -892,6 +892,13 @@ Damit weitermachen? Es wird in eine neue Datei geschrieben; die beschädigte ble
     </message>
 </context>
 <context>
+    <name>ListDefinitions</name>
+    <message>
+        <source>Another device has deleted this list.</source>
+        <translation>Ein anderes Gerät hat diese Liste gelöscht.</translation>
+    </message>
+</context>
+<context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>

@@ -895,6 +895,13 @@ Continuer ainsi&#xa0;? Le contenu sera écrit dans un nouveau fichier&#xa0;; le 
     </message>
 </context>
 <context>
+    <name>ListDefinitions</name>
+    <message>
+        <source>Another device has deleted this list.</source>
+        <translation>Un autre appareil a supprimé cette liste.</translation>
+    </message>
+</context>
+<context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>

@@ -885,6 +885,13 @@ Continuare cos√¨? Viene scritto in un nuovo file; quello danneggiato resta com‚Ä
     </message>
 </context>
 <context>
+    <name>ListDefinitions</name>
+    <message>
+        <source>Another device has deleted this list.</source>
+        <translation>Un altro dispositivo ha eliminato questo elenco.</translation>
+    </message>
+</context>
+<context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>

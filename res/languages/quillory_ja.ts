@@ -872,6 +872,13 @@ Do you want to go on with that? It is written to a new file; the damaged one sta
     </message>
 </context>
 <context>
+    <name>ListDefinitions</name>
+    <message>
+        <source>Another device has deleted this list.</source>
+        <translation>別のデバイスがこのリストを削除しました。</translation>
+    </message>
+</context>
+<context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>

@@ -884,6 +884,13 @@ Pracować dalej na tym? Trafi to do nowego pliku; uszkodzony pozostanie bez zmia
     </message>
 </context>
 <context>
+    <name>ListDefinitions</name>
+    <message>
+        <source>Another device has deleted this list.</source>
+        <translation>Inne urządzenie usunęło tę listę.</translation>
+    </message>
+</context>
+<context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>

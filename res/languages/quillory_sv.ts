@@ -879,6 +879,13 @@ Vill du fortsätta med det? Det skrivs till en ny fil; den skadade lämnas som d
     </message>
 </context>
 <context>
+    <name>ListDefinitions</name>
+    <message>
+        <source>Another device has deleted this list.</source>
+        <translation>En annan enhet har tagit bort listan.</translation>
+    </message>
+</context>
+<context>
     <name>ListFile</name>
     <message>
         <source>it is the data file itself</source>
