@@ -888,7 +888,7 @@ Continuare cos√¨? Viene scritto in un nuovo file; quello danneggiato resta com‚Ä
     <name>ListDefinitions</name>
     <message>
         <source>Another device has deleted this list.</source>
-        <translation>Un altro dispositivo ha eliminato questo elenco.</translation>
+        <translation>Un altro dispositivo ha eliminato questa lista.</translation>
     </message>
 </context>
 <context>
