@@ -79,11 +79,13 @@ constexpr std::array<ListIconEntry, kListIconCount> kListIcons { {
     { QT_TRANSLATE_NOOP("Icons", "Key"), 17 },
 } };
 
-/// A drawing of one colour, which follows the palette, selection and disabling at every scale.
+/// A drawing that is sharp at every scale; one of one colour follows the palette, selection and
+/// disabling.
 class DrawnIcon : public QIconEngine
 {
 public:
-    /// The colour of the drawing where it is neither selected nor disabled.
+    /// The colour of the drawing where it is neither selected nor disabled; none for a drawing in
+    /// colours of its own.
     using Ink = std::function<QColor(const QPalette&)>;
 
     DrawnIcon(QString path, Ink ink)
@@ -125,7 +127,7 @@ private:
 
     [[nodiscard]] QPixmap Draw(const QSize& size, QIcon::Mode mode) const
     {
-        const QColor colour = Colour(mode);
+        const QColor colour = m_ink ? Colour(mode) : QColor();
         const QString key
             = u"%1 %2 %3 %4"_s.arg(m_path, colour.name()).arg(size.width()).arg(size.height());
         QPixmap picture;
@@ -135,8 +137,10 @@ private:
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         QSvgRenderer(m_path).render(&painter);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(picture.rect(), colour);
+        if (m_ink) {
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(picture.rect(), colour);
+        }
         painter.end();
         QPixmapCache::insert(key, picture);
         return picture;
@@ -172,7 +176,8 @@ QIcon CheckboxIcon(bool isChecked)
 QIcon ApplicationIcon()
 {
     LoadIconResources();
-    return QIcon(u":/icons/application.svg"_s);
+    // Drawn here: what draws files for the toolkit is not installed everywhere.
+    return QIcon(new DrawnIcon(u":/icons/application.svg"_s, {}));
 }
 
 } // namespace Quillory
