@@ -6,7 +6,6 @@
 #include "desktop/file_dialog.h"
 #include "listdef/import_order_page.h"
 #include "res/string_table.h"
-#include "transfer/list_file.h"
 #include "widgets/message_box.h"
 #include "widgets/page_stack.h"
 
@@ -54,22 +53,21 @@ void ListTransfer::AskForOrder(
         m_session.Catalogue().CloseRows();
         if (result != PageResult::Ok)
             return;
-        ImportOutcome outcome;
-        outcome.result = ImportResult::Failed;
         // Another device's file may have come while the page was open.
-        if (m_session.Catalogue().OpenListAgain(list, definition))
-            outcome = ImportFrom(path, definition.Name, page->Order());
+        const bool isOpen = m_session.Catalogue().OpenListAgain(list, definition).has_value();
+        const ListFile source
+            = isOpen && IsPlainFile(path) ? OpenListFile(path, m_session.Path()) : ListFile();
+        const ImportOutcome outcome = ImportFrom(source, definition.Name, page->Order());
         m_session.Catalogue().CloseRows();
         TellImport(outcome, then);
     });
 }
 
 ImportOutcome ListTransfer::ImportFrom(
-    const QString& path, const QString& title, const std::vector<PropertyId>& order)
+    const ListFile& source, const QString& title, const std::vector<PropertyId>& order)
 {
     ImportOutcome outcome;
     outcome.result = ImportResult::Failed;
-    const ListFile source = IsPlainFile(path) ? OpenListFile(path, m_session.Path()) : ListFile();
     if (source.file != nullptr) {
         TransferProgress progress(m_pages.window(), title);
         outcome = ImportRows(m_session.Volume(), order, m_context, *source.file,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/inventory_list.h"
+#include "transfer/list_file.h"
 #include "transfer/text_export.h"
 #include "transfer/text_import.h"
 #include "values/value_text.h"
@@ -37,7 +38,7 @@ private:
 
     void AskForOrder(ObjectId list, const QString& path, const std::function<void()>& then);
     [[nodiscard]] ImportOutcome ImportFrom(
-        const QString& path, const QString& title, const std::vector<PropertyId>& order);
+        const ListFile& source, const QString& title, const std::vector<PropertyId>& order);
     void TellImport(const ImportOutcome& outcome, const std::function<void()>& then);
     void ExportTo(ObjectId list, const QString& path);
     void TellExport(const ExportOutcome& outcome);
