@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QCursor>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -434,6 +435,9 @@ bool DoStep(QWidget* front, const QString& verb, const QString& what)
 
 void Act(const QString& steps)
 {
+    // A menu takes a tap only away from where the pointer was when it opened, which newer toolkits
+    // cannot tell of a pointer that never moved.
+    QCursor::setPos(0, 0);
     for (const QString& step : steps.split(u"; "_s, Qt::SkipEmptyParts)) {
         const QString verb = step.section(u' ', 0, 0);
         const QString what = step.section(u' ', 1);
