@@ -93,7 +93,8 @@ void ListDefinitions::EnterProperties(
         if (StoreProperties(list, stored, changed))
             return;
         EnterProperties(list, stored, changed);
-        if (!m_home.Has(list))
+        // Its number may be that of another list by now.
+        if (m_session.Catalogue().ReadListDefinition(list, nullptr) != stored.MapName)
             ShowMessage(
                 &m_pages, tr("Another device has deleted this list."), MessageIcon::Exclamation);
     });

@@ -88,6 +88,18 @@ private Q_SLOTS:
         QVERIFY(top->Title().isEmpty() || top->accessibleName() == top->Title());
     }
 
+    void propertiesAreNotThoseOfAnotherListOfThatNumber()
+    {
+        const TwoDevices devices;
+        const QString another = devices.DataPath() + u".another"_s;
+        Run(another, u"new Cellar --create"_s);
+        Act(u"press Home Alt+Return; fill listName: Larder"_s);
+        devices.ReplaceDataFile(another);
+        Act(kHearUpdate
+            + u"tap OK; see Another device has deleted this list.; press Escape; press Escape; "
+              "tap Yes; see Cellar"_s);
+    }
+
     void anImportGoesIntoTheListThatIsThere()
     {
         TwoDevices devices;
