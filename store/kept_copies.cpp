@@ -118,13 +118,18 @@ std::vector<KeptCopy> CopiesIn(const QDir& set)
     return copies;
 }
 
-/// Removes copies beyond the number that is kept, and what an interrupted run left unfinished.
-void Prune(QDir& set, int count)
+/// Removes copies beyond the number that is kept and the room for older ones, and what an
+/// interrupted run left unfinished.
+void Prune(QDir& set, int count, qint64 room = kRoomForOlderCopies)
 {
     const auto copies = CopiesIn(set);
     const QStringList held = count == 0 ? QStringList() : HeldIn(set);
-    for (auto i = static_cast<size_t>(count); i < copies.size(); ++i) {
-        if (!held.contains(QFileInfo(copies[i].path).fileName()))
+    qint64 bytes = 0;
+    for (size_t i = 0; i < copies.size(); ++i) {
+        bytes += copies[i].bytes;
+        const bool isOld = count > 0 && i < History::kMostStates && bytes <= room;
+        if (i >= static_cast<size_t>(count) && !isOld
+            && !held.contains(QFileInfo(copies[i].path).fileName()))
             QFile::remove(copies[i].path);
     }
     if (held.isEmpty())
@@ -185,8 +190,11 @@ Result<QDir> PrepareSet(const QString& path, const QString& folder, const QDateT
 }
 
 /// Makes the copy; its path.
-Result<QString> AddCopy(const QDir& set, Volume& volume, const QString& path, const QDateTime& now)
+Result<QString> AddCopy(
+    QDir& set, Volume& volume, const QString& path, const QDateTime& now, int count)
 {
+    if (!HasRoom(set.path(), path))
+        Prune(set, count, 0);
     if (!HasRoom(set.path(), path))
         return ErrorNumber::DiskFull;
     if (!WriteOrigin(set, path))
@@ -224,7 +232,7 @@ Result<KeepOutcome> KeepCopy(
     QUILLORY_TRY_VALUE(QDir set, PrepareSet(path, folder, now, count));
     if (count == 0)
         return KeepOutcome::NotNeeded;
-    QUILLORY_TRY(AddCopy(set, *volume, path, now));
+    QUILLORY_TRY(AddCopy(set, *volume, path, now, count));
     Prune(set, count);
     return KeepOutcome::Kept;
 }
@@ -240,7 +248,7 @@ Result<KeepOutcome> KeepShared(
         HoldBack(*known);
         return KeepOutcome::NotNeeded;
     }
-    QUILLORY_TRY_VALUE(const QString copy, AddCopy(set, volume, path, now));
+    QUILLORY_TRY_VALUE(const QString copy, AddCopy(set, volume, path, now, count));
     HoldBack({ copy, now, 0 });
     Prune(set, count);
     return KeepOutcome::Kept;

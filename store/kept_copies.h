@@ -14,6 +14,9 @@ namespace Quillory {
 /// Copies of a data file as it was at the end of earlier runs: a folder per data file, told by a
 /// hash of its path, with a text file that names it and the copies.
 constexpr int kMostKeptCopies = 9;
+/// Older ones are kept as well while all of them are no larger than this, in bytes: what another
+/// device has changed can be told from its own file and the copy that both come from.
+constexpr qint64 kRoomForOlderCopies = 32 << 20;
 /// So many more can be held back as those that other devices' files come from.
 constexpr int kMostHeldCopies = 4;
 /// The copies of a file are kept for so many days after it is first found to be gone.
@@ -39,10 +42,11 @@ enum class KeepOutcome
 [[nodiscard]] QString DefaultCopiesFolder();
 
 /// Keeps a copy of the mounted data file at `path` in a folder of its own below `folder`, which is
-/// made if it is missing, and removes the oldest beyond `count`. What only changed a list's layout
-/// is not worth a copy, unless the file is no longer in its place. Drops the copies of files that
-/// have been gone for kDaysKeptOfMissing. Where the system does not tell how much room is left the
-/// copy is tried all the same. To be called at the end of a run, outside a transaction; whatever
+/// made if it is missing, and removes the oldest beyond `count` that are beyond kRoomForOlderCopies,
+/// or more than a history can name; where room is short, all beyond `count`. What only changed a
+/// list's layout is not worth a copy, unless the file is no longer in its place. Drops the copies of
+/// files that have been gone for kDaysKeptOfMissing. Where the system does not tell how much room is
+/// left the copy is tried all the same. To be called at the end of a run, outside a transaction; whatever
 /// happens, the data file and its mount are untouched. Fails if there is no room, the folder cannot
 /// be written, or a page of the file, be it a free one, cannot be read.
 [[nodiscard]] Result<KeepOutcome> KeepCopy(

@@ -32,8 +32,13 @@ public:
     Result<KeepOutcome> TryToKeep()
     {
         now = now.addSecs(100);
-        return KeepCopy(*file.data, Path(), Folder(), now, keptCopies);
+        auto outcome = KeepCopy(*file.data, Path(), Folder(), now, keptCopies);
+        // Nothing of it is on the disk.
+        if (areLarge && outcome && *outcome == KeepOutcome::Kept)
+            QFile::resize(Copies().front().path, kRoomForOlderCopies);
+        return outcome;
     }
+    History Contents() { return Take(file.data->MountedVolume()->ReadHistory()); }
     std::vector<KeptCopy> Copies() const { return ListKeptCopies(Path(), Folder()); }
     /// Every file below the folder.
     qsizetype FileCount() const
@@ -46,6 +51,8 @@ public:
 
     ListFixture file;
     int keptCopies = 3;
+    /// Copies are as large as may be for older ones to be kept.
+    bool areLarge = false;
     QDateTime now { QDate(2026, 6, 15), QTime(12, 0), QTimeZone::utc() };
 
 private:
@@ -59,9 +66,10 @@ class KeptCopiesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theLastThreeAreKept()
+    void theLastThreeOfALargeFileAreKept()
     {
         Runs runs;
+        runs.areLarge = true;
         for (const QString& name : { u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s })
             QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
         const auto copies = runs.Copies();
@@ -71,13 +79,39 @@ private Q_SLOTS:
         QCOMPARE(copies[0].time, runs.now);
         QCOMPARE(copies[1].time, runs.now.addSecs(-100));
         QCOMPARE(copies[0].bytes, QFileInfo(copies[0].path).size());
+        QCOMPARE(copies[0].bytes, kRoomForOlderCopies);
         // The copies, and the file that says whose they are.
         QCOMPARE(runs.FileCount(), 4);
+    }
+
+    void smallCopiesAreKeptAsLongAsAFileKnowsThem()
+    {
+        Runs runs;
+        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+        const History early = runs.Contents();
+        const auto makeLists = [&runs](int count) {
+            for (int run = 0; run < count; ++run)
+                QCOMPARE(runs.MakeList(QString::number(runs.now.toSecsSinceEpoch())),
+                    KeepOutcome::Kept);
+        };
+        makeLists(60);
+        const auto base = FindBase(runs.Path(), runs.Folder(), runs.Contents(), early);
+        QVERIFY(base);
+        QCOMPARE(ListsIn(base->path), u"a 0"_s);
+        makeLists(10);
+        QCOMPARE(runs.Copies().size(), History::kMostStates);
+        QVERIFY(!FindBase(runs.Path(), runs.Folder(), runs.Contents(), early));
+        // A large one takes the room of all.
+        runs.areLarge = true;
+        makeLists(1);
+        QCOMPARE(runs.MakeList(u"b"_s), KeepOutcome::Kept);
+        QCOMPARE(runs.Copies().size(), size_t { 3 });
     }
 
     void theLastThreeAreKeptWhenTheClockGoesBack()
     {
         Runs runs;
+        runs.areLarge = true;
         const QDateTime right = runs.now;
         runs.now = right.addYears(10);
         for (const QString& name : { u"a"_s, u"b"_s, u"c"_s })
@@ -134,6 +168,7 @@ private Q_SLOTS:
     void theUserSaysHowManyAreKept()
     {
         Runs runs;
+        runs.areLarge = true;
         for (const int count : { 2, 2, 2, 1, 0, 3 }) {
             runs.keptCopies = count;
             const auto before = static_cast<int>(runs.Copies().size());
@@ -168,7 +203,7 @@ private Q_SLOTS:
         QVERIFY(runs.Copies().empty());
         // Nothing else is.
         QCOMPARE(QDir(runs.Folder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
-        QCOMPARE(ListKeptCopies(others.Path(), runs.Folder()).size(), size_t { 3 });
+        QCOMPARE(ListKeptCopies(others.Path(), runs.Folder()).size(), size_t { 5 });
     }
 
     void aFolderThatCannotBeWrittenIsNoFailure()
@@ -213,7 +248,9 @@ private Q_SLOTS:
     void aCopyLeavesTheDiskSomeRoom()
     {
         Runs runs;
-        QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
+        for (const QString& name : { u"a"_s, u"c"_s, u"d"_s, u"e"_s, u"f"_s })
+            QCOMPARE(runs.MakeList(name), KeepOutcome::Kept);
+        QCOMPARE(runs.Copies().size(), size_t { 5 });
         runs.file.Restart();
         runs.file.MakeFullList(u"b"_s);
         // A file as long as there is room, hardly any of which is on the disk.
@@ -224,6 +261,7 @@ private Q_SLOTS:
         if (error)
             QSKIP("there is more room than a file may be long");
         QCOMPARE(runs.TryToKeep().Error(), ErrorNumber::DiskFull);
+        QCOMPARE(runs.Copies().size(), size_t { 3 });
         std::filesystem::resize_file(path, size);
         QCOMPARE(runs.Keep(), KeepOutcome::Kept);
     }
@@ -242,31 +280,30 @@ private Q_SLOTS:
     void whatAnotherDeviceHasSeenIsKeptAndFound()
     {
         Runs runs;
+        runs.areLarge = true;
         const auto keepFound = [&runs] {
             return Take(KeepFound(*runs.file.data->MountedVolume(), runs.Path(), runs.Folder(),
                 runs.now, runs.keptCopies));
         };
-        const auto history
-            = [&runs] { return Take(runs.file.data->MountedVolume()->ReadHistory()); };
         QCOMPARE(runs.MakeList(u"a"_s), KeepOutcome::Kept);
         // What this device left needs no copy.
         QCOMPARE(keepFound(), KeepOutcome::NotNeeded);
-        const History shared = history();
+        const History shared = runs.Contents();
         runs.file.MakeFullList(u"from elsewhere"_s);
         QCOMPARE(keepFound(), KeepOutcome::Kept);
         QCOMPARE(keepFound(), KeepOutcome::NotNeeded);
-        const History found = history();
+        const History found = runs.Contents();
         for (int run = 0; run < 5; ++run)
             QCOMPARE(runs.MakeList(QString::number(run)), KeepOutcome::Kept);
         // The one of `shared` had gone before anybody asked.
         QCOMPARE(runs.Copies().size(), size_t { 4 });
-        QVERIFY(!FindBase(runs.Path(), runs.Folder(), history(), shared));
-        const auto base = FindBase(runs.Path(), runs.Folder(), history(), found);
+        QVERIFY(!FindBase(runs.Path(), runs.Folder(), runs.Contents(), shared));
+        const auto base = FindBase(runs.Path(), runs.Folder(), runs.Contents(), found);
         QVERIFY(base);
         QCOMPARE(ListsIn(base->path), u"a 0, from elsewhere 0"_s);
         QCOMPARE(HistoryOf(*base)->Latest(), found.Latest());
-        QVERIFY(HistoryOf(*base)->CoversCommon(history(), found));
-        const auto latest = FindBase(runs.Path(), runs.Folder(), history(), history());
+        QVERIFY(HistoryOf(*base)->CoversCommon(runs.Contents(), found));
+        const auto latest = FindBase(runs.Path(), runs.Folder(), runs.Contents(), runs.Contents());
         QCOMPARE(latest->path, runs.Copies().front().path);
         runs.keptCopies = 0;
         QCOMPARE(keepFound(), KeepOutcome::NotNeeded);

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kKeptCopies = 5;
+constexpr int kKeptCopies = 3;
 /// The columns of all lists.
 enum DeviceColumn : size_t
 {
@@ -75,8 +75,9 @@ DeviceContents ReadDevice(const QString& path)
     return found;
 }
 
-Device::Device(QString folder, Deeds& deeds)
+Device::Device(QString folder, Room room, Deeds& deeds)
     : m_folder(std::move(folder))
+    , m_room(room)
     , m_deeds(deeds)
     , m_catalogue(m_data)
     , m_context(TestContext())
@@ -109,8 +110,11 @@ void Device::Open()
 
 void Device::Close()
 {
-    Require(KeepCopy(m_data, Path(), m_folder + u"/copies"_s, m_now, kKeptCopies).IsOk(),
-        "keep a copy");
+    const QString folder = m_folder + u"/copies"_s;
+    Require(KeepCopy(m_data, Path(), folder, m_now, kKeptCopies).IsOk(), "keep a copy");
+    const auto copies = ListKeptCopies(Path(), folder);
+    if (m_room == Room::Short && !copies.empty())
+        QFile::resize(copies.front().path, kRoomForOlderCopies);
     m_catalogue.PurgeDeleted();
     m_data.Unmount();
 }

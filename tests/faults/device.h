@@ -46,8 +46,14 @@ struct DeviceContents
 class Device
 {
 public:
+    /// For copies: Short where each is as large as all together may be for older ones to be kept.
+    enum class Room
+    {
+        Enough,
+        Short,
+    };
     /// `deeds` outlives the device.
-    Device(QString folder, Deeds& deeds);
+    Device(QString folder, Room room, Deeds& deeds);
 
     [[nodiscard]] QString Path() const { return m_folder + QStringLiteral("/data.idb"); }
     /// Where the file of another device lies once it was sent.
@@ -66,6 +72,7 @@ public:
 
 private:
     QString m_folder;
+    Room m_room;
     Deeds& m_deeds;
     QDateTime m_now;
     DataVolume m_data;

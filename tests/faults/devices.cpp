@@ -28,7 +28,8 @@ public:
     {
         for (int i = 0; i < kDevices; ++i)
             m_devices[static_cast<size_t>(i)]
-                = std::make_unique<Device>(folder + u"/device-%1"_s.arg(i), m_deeds);
+                = std::make_unique<Device>(folder + u"/device-%1"_s.arg(i),
+                    i == 0 ? Device::Room::Enough : Device::Room::Short, m_deeds);
         Tick();
         On(0).Run(Drawing(), [] {});
         for (int i = 1; i < kDevices; ++i)
