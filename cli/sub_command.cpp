@@ -194,8 +194,9 @@ constexpr const char* kBackupHelp = QT_TRANSLATE_NOOP("CommandHelp",
 constexpr const char* kRestoreHelp = QT_TRANSLATE_NOOP("CommandHelp",
     "After each run that changed lists or rows of the configured data file a copy of it is "
     "kept,\n"
-    "the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90\n"
-    "days after the file is found to be gone.\n"
+    "the last three, or as many as KeptCopies=0...9 in the settings says, and older ones while\n"
+    "all together are no larger than 32 MB. They are dropped 90 days after the file is found to\n"
+    "be gone.\n"
     "\n"
     "Without options prints a line per copy, the newest first: number TAB time TAB bytes, and\n"
     "then a line per list that can be read from the data file itself, also if that is damaged:\n"

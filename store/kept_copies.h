@@ -42,13 +42,14 @@ enum class KeepOutcome
 [[nodiscard]] QString DefaultCopiesFolder();
 
 /// Keeps a copy of the mounted data file at `path` in a folder of its own below `folder`, which is
-/// made if it is missing, and removes the oldest beyond `count` that are beyond kRoomForOlderCopies,
-/// or more than a history can name; where room is short, all beyond `count`. What only changed a
-/// list's layout is not worth a copy, unless the file is no longer in its place. Drops the copies of
-/// files that have been gone for kDaysKeptOfMissing. Where the system does not tell how much room is
-/// left the copy is tried all the same. To be called at the end of a run, outside a transaction; whatever
-/// happens, the data file and its mount are untouched. Fails if there is no room, the folder cannot
-/// be written, or a page of the file, be it a free one, cannot be read.
+/// made if it is missing, and removes the oldest beyond `count` that are beyond
+/// kRoomForOlderCopies, or more than a history can name; where room is short, all beyond `count`.
+/// What only changed a list's layout is not worth a copy, unless the file is no longer in its
+/// place. Drops the copies of files that have been gone for kDaysKeptOfMissing. Where the system
+/// does not tell how much room is left the copy is tried all the same. To be called at the end of a
+/// run, outside a transaction; whatever happens, the data file and its mount are untouched. Fails
+/// if there is no room, the folder cannot be written, or a page of the file, be it a free one,
+/// cannot be read.
 [[nodiscard]] Result<KeepOutcome> KeepCopy(
     DataVolume& data, const QString& path, const QString& folder, const QDateTime& now, int count);
 

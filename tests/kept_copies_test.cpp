@@ -91,8 +91,8 @@ private Q_SLOTS:
         const History early = runs.Contents();
         const auto makeLists = [&runs](int count) {
             for (int run = 0; run < count; ++run)
-                QCOMPARE(runs.MakeList(QString::number(runs.now.toSecsSinceEpoch())),
-                    KeepOutcome::Kept);
+                QCOMPARE(
+                    runs.MakeList(QString::number(runs.now.toSecsSinceEpoch())), KeepOutcome::Kept);
         };
         makeLists(60);
         const auto base = FindBase(runs.Path(), runs.Folder(), runs.Contents(), early);

@@ -447,8 +447,9 @@ FILE darf es noch nicht geben.
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
-the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90
-days after the file is found to be gone.
+the last three, or as many as KeptCopies=0...9 in the settings says, and older ones while
+all together are no larger than 32 MB. They are dropped 90 days after the file is found to
+be gone.
 
 Without options prints a line per copy, the newest first: number TAB time TAB bytes, and
 then a line per list that can be read from the data file itself, also if that is damaged:
@@ -462,8 +463,9 @@ must not exist:
 </source>
         <translation>Nach jedem Lauf, der Listen oder Zeilen der eingestellten Datendatei geändert
 hat, wird eine Kopie aufbewahrt: die letzten drei, oder so viele, wie
-KeptCopies=0...9 in den Einstellungen sagt. Ist die Datei verschwunden, werden
-sie 90 Tage später gelöscht.
+KeptCopies=0...9 in den Einstellungen sagt, und ältere, solange alle zusammen
+höchstens 32 MB groß sind. Ist die Datei verschwunden, werden sie 90 Tage später
+gelöscht.
 
 Ohne Optionen gibt restore je Kopie eine Zeile aus, die neueste zuerst: Nummer
 TAB Zeit TAB Bytes, und dann je Liste, die aus der Datendatei selbst lesbar

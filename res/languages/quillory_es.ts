@@ -442,8 +442,9 @@ no debe existir.
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
-the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90
-days after the file is found to be gone.
+the last three, or as many as KeptCopies=0...9 in the settings says, and older ones while
+all together are no larger than 32 MB. They are dropped 90 days after the file is found to
+be gone.
 
 Without options prints a line per copy, the newest first: number TAB time TAB bytes, and
 then a line per list that can be read from the data file itself, also if that is damaged:
@@ -457,8 +458,8 @@ must not exist:
 </source>
         <translation>Después de cada ejecución que cambió listas o filas del archivo de datos
 configurado se guarda una copia: las tres últimas, o tantas como diga
-KeptCopies=0...9 en los ajustes. Se eliminan 90 días después de que el archivo
-desaparezca.
+KeptCopies=0...9 en los ajustes, y otras más antiguas mientras todas juntas no
+pasen de 32 MB. Se eliminan 90 días después de que el archivo desaparezca.
 
 Sin opciones imprime una línea por copia, la más reciente primero: número TAB
 hora TAB bytes, y después una línea por lista que se puede leer del propio

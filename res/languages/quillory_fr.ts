@@ -449,8 +449,9 @@ utilisé. FILE ne doit pas exister.
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
-the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90
-days after the file is found to be gone.
+the last three, or as many as KeptCopies=0...9 in the settings says, and older ones while
+all together are no larger than 32 MB. They are dropped 90 days after the file is found to
+be gone.
 
 Without options prints a line per copy, the newest first: number TAB time TAB bytes, and
 then a line per list that can be read from the data file itself, also if that is damaged:
@@ -464,8 +465,9 @@ must not exist:
 </source>
         <translation>Après chaque exécution qui a modifié des listes ou des lignes du fichier de
 données configuré, une copie en est conservée : les trois dernières, ou autant
-que le dit KeptCopies=0...9 dans les réglages. Elles sont supprimées 90 jours
-après la disparition du fichier.
+que le dit KeptCopies=0...9 dans les réglages, et de plus anciennes tant que
+l&apos;ensemble ne dépasse pas 32 Mo. Elles sont supprimées 90 jours après la
+disparition du fichier.
 
 Sans option, affiche une ligne par copie, la plus récente d&apos;abord : numéro TAB
 heure TAB octets, puis une ligne par liste lisible dans le fichier de données

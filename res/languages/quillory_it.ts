@@ -439,8 +439,9 @@ deve esistere.
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
-the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90
-days after the file is found to be gone.
+the last three, or as many as KeptCopies=0...9 in the settings says, and older ones while
+all together are no larger than 32 MB. They are dropped 90 days after the file is found to
+be gone.
 
 Without options prints a line per copy, the newest first: number TAB time TAB bytes, and
 then a line per list that can be read from the data file itself, also if that is damaged:
@@ -454,8 +455,8 @@ must not exist:
 </source>
         <translation>Dopo ogni esecuzione che ha cambiato liste o righe del file dei dati
 configurato se ne conserva una copia: le ultime tre, o quante ne dice
-KeptCopies=0...9 nelle impostazioni. Vengono eliminate 90 giorni dopo la
-scomparsa del file.
+KeptCopies=0...9 nelle impostazioni, e di più vecchie finché tutte insieme non
+superano 32 MB. Vengono eliminate 90 giorni dopo la scomparsa del file.
 
 Senza opzioni stampa una riga per copia, la più recente per prima: numero TAB
 ora TAB byte, e poi una riga per ogni lista leggibile dal file dei dati stesso,

@@ -433,8 +433,9 @@ many there are.
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
-the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90
-days after the file is found to be gone.
+the last three, or as many as KeptCopies=0...9 in the settings says, and older ones while
+all together are no larger than 32 MB. They are dropped 90 days after the file is found to
+be gone.
 
 Without options prints a line per copy, the newest first: number TAB time TAB bytes, and
 then a line per list that can be read from the data file itself, also if that is damaged:
@@ -447,8 +448,8 @@ must not exist:
   --json               an object per copy and per list
 </source>
         <translation>設定されたデータファイルのリストか行を変えるたびに、実行の終わりにコピーを保管
-します：最新の 3 つ、または設定の KeptCopies=0...9 の数だけです。ファイルがなく
-なって 90 日たつと削除します。
+します：最新の 3 つ、または設定の KeptCopies=0...9 の数だけで、全部で 32 MB
+以内ならさらに古いものも残します。ファイルがなくなって 90 日たつと削除します。
 
 オプションがなければ、コピーごとに 1 行を新しい順に表示します：番号 TAB 時刻
 TAB バイト数。続けて、壊れていてもデータファイルから読み取れるリストごとに 1 行

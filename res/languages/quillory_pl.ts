@@ -441,8 +441,9 @@ istnieć.
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
-the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90
-days after the file is found to be gone.
+the last three, or as many as KeptCopies=0...9 in the settings says, and older ones while
+all together are no larger than 32 MB. They are dropped 90 days after the file is found to
+be gone.
 
 Without options prints a line per copy, the newest first: number TAB time TAB bytes, and
 then a line per list that can be read from the data file itself, also if that is damaged:
@@ -456,7 +457,8 @@ must not exist:
 </source>
         <translation>Po każdym uruchomieniu, które zmieniło listy lub wiersze ustawionego pliku
 danych, zachowywana jest jego kopia: trzy ostatnie lub tyle, ile mówi
-KeptCopies=0...9 w ustawieniach. Są usuwane 90 dni po zniknięciu pliku.
+KeptCopies=0...9 w ustawieniach, oraz starsze, dopóki wszystkie razem mają
+najwyżej 32 MB. Są usuwane 90 dni po zniknięciu pliku.
 
 Bez opcji wypisuje po wierszu na kopię, od najnowszej: numer TAB czas TAB
 bajty, a potem po wierszu na listę, którą da się odczytać z samego pliku

@@ -439,8 +439,9 @@ inte finnas.
     </message>
     <message>
         <source>After each run that changed lists or rows of the configured data file a copy of it is kept,
-the last three, or as many as KeptCopies=0...9 in the settings says. They are dropped 90
-days after the file is found to be gone.
+the last three, or as many as KeptCopies=0...9 in the settings says, and older ones while
+all together are no larger than 32 MB. They are dropped 90 days after the file is found to
+be gone.
 
 Without options prints a line per copy, the newest first: number TAB time TAB bytes, and
 then a line per list that can be read from the data file itself, also if that is damaged:
@@ -454,7 +455,8 @@ must not exist:
 </source>
         <translation>Efter varje körning som ändrade listor eller rader i den inställda datafilen
 sparas en kopia: de tre senaste, eller så många som KeptCopies=0...9 i
-inställningarna säger. De tas bort 90 dagar efter att filen har försvunnit.
+inställningarna säger, och äldre så länge alla tillsammans är högst 32 MB. De
+tas bort 90 dagar efter att filen har försvunnit.
 
 Utan alternativ skrivs en rad per kopia, den nyaste först: nummer TAB tid TAB
 byte, och sedan en rad per lista som kan läsas ur själva datafilen, också om
