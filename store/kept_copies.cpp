@@ -127,9 +127,9 @@ void Prune(QDir& set, int count, qint64 room = kRoomForOlderCopies)
     qint64 bytes = 0;
     for (size_t i = 0; i < copies.size(); ++i) {
         bytes += copies[i].bytes;
-        const bool isOld = count > 0 && i < History::kMostStates && bytes <= room;
-        if (i >= static_cast<size_t>(count) && !isOld
-            && !held.contains(QFileInfo(copies[i].path).fileName()))
+        const bool isWanted = i < static_cast<size_t>(count);
+        const bool hasRoom = count > 0 && i < History::kMostStates && bytes <= room;
+        if (!isWanted && !hasRoom && !held.contains(QFileInfo(copies[i].path).fileName()))
             QFile::remove(copies[i].path);
     }
     if (held.isEmpty())
@@ -205,15 +205,29 @@ Result<QString> AddCopy(
     return copy;
 }
 
-/// A copy of these contents.
-std::optional<KeptCopy> FindVersion(const QDir& set, const FileVersion& version)
+/// A copy of these contents. Opens one copy after the other, which takes its time.
+std::optional<KeptCopy> FindVersion(
+    const QString& path, const QString& folder, const FileVersion& version)
 {
-    for (const KeptCopy& copy : CopiesIn(set)) {
+    for (const KeptCopy& copy : ListKeptCopies(path, folder)) {
         const auto history = HistoryOf(copy);
         if (history && history->Latest() == version)
             return copy;
     }
     return std::nullopt;
+}
+
+/// Keeps contents that there is no copy of, and holds them back.
+Result<KeepOutcome> KeepNew(
+    Volume& volume, const QString& path, const QString& folder, const QDateTime& now, int count)
+{
+    if (folder.isEmpty() || count == 0)
+        return KeepOutcome::NotNeeded;
+    QUILLORY_TRY_VALUE(QDir set, PrepareSet(path, folder, now, count));
+    QUILLORY_TRY_VALUE(const QString copy, AddCopy(set, volume, path, now, count));
+    HoldBack({ copy, now, 0 });
+    Prune(set, count);
+    return KeepOutcome::Kept;
 }
 
 } // namespace
@@ -240,28 +254,21 @@ Result<KeepOutcome> KeepCopy(
 Result<KeepOutcome> KeepShared(
     Volume& volume, const QString& path, const QString& folder, const QDateTime& now, int count)
 {
-    if (folder.isEmpty() || count == 0)
-        return KeepOutcome::NotNeeded;
     QUILLORY_TRY_VALUE(const History history, volume.ReadHistory());
-    QUILLORY_TRY_VALUE(QDir set, PrepareSet(path, folder, now, count));
-    if (const auto known = FindVersion(set, history.Latest())) {
+    const auto known = FindVersion(path, folder, history.Latest());
+    if (!known)
+        return KeepNew(volume, path, folder, now, count);
+    if (count > 0)
         HoldBack(*known);
-        return KeepOutcome::NotNeeded;
-    }
-    QUILLORY_TRY_VALUE(const QString copy, AddCopy(set, volume, path, now, count));
-    HoldBack({ copy, now, 0 });
-    Prune(set, count);
-    return KeepOutcome::Kept;
+    return KeepOutcome::NotNeeded;
 }
 
 Result<KeepOutcome> KeepFound(
     Volume& volume, const QString& path, const QString& folder, const QDateTime& now, int count)
 {
     QUILLORY_TRY_VALUE(const History history, volume.ReadHistory());
-    const QString set = SetFolder(path, folder);
-    const bool isKnown = history.Versions().empty()
-        || (!set.isEmpty() && FindVersion(QDir(set), history.Latest()));
-    return isKnown ? KeepOutcome::NotNeeded : KeepShared(volume, path, folder, now, count);
+    const bool isKnown = history.Versions().empty() || FindVersion(path, folder, history.Latest());
+    return isKnown ? KeepOutcome::NotNeeded : KeepNew(volume, path, folder, now, count);
 }
 
 std::optional<History> HistoryOf(const KeptCopy& copy)
