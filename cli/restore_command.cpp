@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "cli/command_run.h"
-#include "propdb/identity.h"
 #include "store/kept_copies.h"
 #include "store/salvage.h"
 
@@ -82,8 +81,7 @@ void ListChoices(const CommandRun& run)
 void RestoreFrom(const CommandRun& run, const QString& target)
 {
     const QString path = run.DataFile();
-    constexpr auto kMost = static_cast<int>(History::kMostStates) + kMostHeldCopies;
-    const auto number = static_cast<size_t>(ReadInteger(run.parser, u"from"_s, 1, kMost));
+    const auto number = static_cast<size_t>(ReadInteger(run.parser, u"from"_s, 1, kMostCopies));
     const auto copies = ListKeptCopies(path, run.environment.copiesFolder);
     if (number > copies.size())
         Fail(u"there is no copy %1 of %2"_s.arg(QString::number(number), path));

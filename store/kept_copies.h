@@ -11,14 +11,15 @@
 
 namespace Quillory {
 
-/// Copies of a data file as it was at the end of earlier runs: a folder per data file, told by a
-/// hash of its path, with a text file that names it and the copies.
-constexpr int kMostKeptCopies = 9;
-/// Older ones are kept as well while all of them are no larger than this, in bytes: what another
-/// device has changed can be told from its own file and the copy that both come from.
+/// Copies of a data file as it was at the end of earlier runs lie in a folder per data file, told
+/// by a hash of its path, with a text file that names it. Older ones than asked for are kept while
+/// all of them are no larger than this, in bytes: what another device has changed can be told from
+/// its own file and the copy that both come from.
 constexpr qint64 kRoomForOlderCopies = 32 << 20;
 /// So many more can be held back as those that other devices' files come from.
 constexpr int kMostHeldCopies = 4;
+/// There are no more of one file: as many as its history names, and those.
+constexpr int kMostCopies = static_cast<int>(History::kMostStates) + kMostHeldCopies;
 /// The copies of a file are kept for so many days after it is first found to be gone.
 constexpr int kDaysKeptOfMissing = 90;
 
