@@ -38,7 +38,7 @@ public:
             QFile::resize(Copies().front().path, kRoomForOlderCopies);
         return outcome;
     }
-    History Contents() { return Take(file.data->MountedVolume()->ReadHistory()); }
+    History Contents() const { return Take(file.data->MountedVolume()->ReadHistory()); }
     std::vector<KeptCopy> Copies() const { return ListKeptCopies(Path(), Folder()); }
     /// Every file below the folder.
     qsizetype FileCount() const
